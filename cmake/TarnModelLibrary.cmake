@@ -1,0 +1,13 @@
+# The rooms above the object store form one library: they call each other through the record classes.
+add_library(TarnModel STATIC
+  $<TARGET_OBJECTS:tarn_model> $<TARGET_OBJECTS:tarn_notes> $<TARGET_OBJECTS:tarn_tags>
+  $<TARGET_OBJECTS:tarn_files> $<TARGET_OBJECTS:tarn_sync>)
+add_library(TarnModel::TarnModel ALIAS TarnModel)
+set_target_properties(TarnModel PROPERTIES LINKER_LANGUAGE CXX)
+target_include_directories(TarnModel PUBLIC
+  $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>
+  $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>
+  $<BUILD_INTERFACE:${PROJECT_BINARY_DIR}/generated>)
+target_link_libraries(TarnModel
+  PUBLIC tarn_coredata tarn_corvel tarn_predicate tarn_foundation
+  PRIVATE $<BUILD_INTERFACE:tarn_build_flags>)

@@ -1,0 +1,38 @@
+# One folder is one room is one target.
+
+add_library(tarn_build_flags INTERFACE)
+target_compile_features(tarn_build_flags INTERFACE cxx_std_20)
+target_compile_options(tarn_build_flags INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Wold-style-cast -Woverloaded-virtual -Wcast-qual)
+if(TARN_WARNINGS_AS_ERRORS)
+  target_compile_options(tarn_build_flags INTERFACE -Werror)
+endif()
+if(TARN_SANITIZE)
+  target_compile_options(tarn_build_flags INTERFACE
+    -fsanitize=${TARN_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+  target_link_options(tarn_build_flags INTERFACE -fsanitize=${TARN_SANITIZE})
+endif()
+if(TARN_COVERAGE)
+  target_compile_options(tarn_build_flags INTERFACE --coverage)
+  target_link_options(tarn_build_flags INTERFACE --coverage)
+endif()
+
+# tarn_room(<target> [OBJECT] [PUBLIC <targets>] [PRIVATE <targets>])
+#
+# Makes a library of all sources of the current folder. An OBJECT room becomes part of the TarnModel library.
+function(tarn_room target)
+  cmake_parse_arguments(ROOM "OBJECT" "" "PUBLIC;PRIVATE" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/*.cpp" "${CMAKE_CURRENT_SOURCE_DIR}/*.h")
+  if(ROOM_OBJECT)
+    add_library(${target} OBJECT ${sources})
+  else()
+    add_library(${target} STATIC ${sources})
+  endif()
+  set_target_properties(${target} PROPERTIES LINKER_LANGUAGE CXX)
+  target_include_directories(${target} PUBLIC
+    $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>
+    $<BUILD_INTERFACE:${PROJECT_BINARY_DIR}/generated>)
+  target_link_libraries(${target}
+    PUBLIC ${ROOM_PUBLIC}
+    PRIVATE ${ROOM_PRIVATE} $<BUILD_INTERFACE:tarn_build_flags>)
+endfunction()

@@ -1,0 +1,114 @@
+#pragma once
+
+#include "platform/foundation/Folding.h"
+#include "platform/foundation/Value.h"
+
+#include <memory>
+#include <string>
+#include <variant>
+#include <vector>
+
+namespace tarn {
+
+struct Expression;
+struct PredicateNode;
+using ExpressionPtr = std::shared_ptr<const Expression>;
+using PredicateNodePtr = std::shared_ptr<const PredicateNode>;
+
+// Expressions ---------------------------------------------------------------------------------------------------------
+
+/// A literal, an argument that filled a slot (a record or a collection too), or a folded `CAST`.
+struct ConstantExpression {
+    Value value;
+};
+/// `SELF`, the object that the predicate is evaluated with.
+struct SelfExpression {
+};
+/// `$note`, bound by the SUBQUERY around it.
+struct VariableExpression {
+    std::string name; ///< without the "$"
+};
+/// `a.b.c` read from `base` (SELF where nothing stands before the first key). Over a to-many key it gives an array.
+struct KeyPathExpression {
+    ExpressionPtr base; ///< SelfExpression or VariableExpression
+    std::vector<std::string> keys; ///< at least one
+};
+/// `X.@count`: the number of members of a collection; 0 for nil.
+struct CountExpression {
+    ExpressionPtr collection; ///< KeyPathExpression, SubqueryExpression, or a constant array
+};
+/// `SUBQUERY(collection, $variable, predicate)`: the members for which the predicate holds.
+struct SubqueryExpression {
+    ExpressionPtr collection;
+    std::string variable; ///< without the "$"
+    PredicateNodePtr predicate;
+};
+/// `{a, b, c}`.
+struct AggregateExpression {
+    std::vector<ExpressionPtr> members;
+};
+
+struct Expression {
+    std::variant<ConstantExpression, SelfExpression, VariableExpression, KeyPathExpression, CountExpression,
+        SubqueryExpression, AggregateExpression>
+        form;
+};
+
+// Predicates ----------------------------------------------------------------------------------------------------------
+
+enum class ComparisonOperator : std::uint8_t {
+    EqualTo,
+    NotEqualTo,
+    LessThan,
+    LessThanOrEqualTo,
+    GreaterThan,
+    GreaterThanOrEqualTo,
+    Contains, ///< of a string: a part of it; of a collection: a member
+    BeginsWith,
+    EndsWith,
+    Like, ///< `?` one code point, `*` any number; `\` escapes; the whole text
+    Matches, ///< an ICU regular expression that matches the whole text
+    In, ///< left is a member of the right collection, or a part of the right string
+    Between, ///< right is a collection of two bounds, both included
+};
+/// How a to-many left side is looked at. ANY over nothing is NO, ALL and NONE are YES.
+enum class ComparisonModifier : std::uint8_t { Direct, Any, All, None };
+
+struct ComparisonPredicate {
+    ExpressionPtr left;
+    ExpressionPtr right;
+    ComparisonOperator operation = ComparisonOperator::EqualTo;
+    ComparisonModifier modifier = ComparisonModifier::Direct;
+    ComparisonOptions options;
+};
+enum class CompoundType : std::uint8_t { And, Or };
+/// AND and OR are n-ary (nested ones of one kind are joined by the parser); no members: YES for AND, NO for OR.
+struct CompoundPredicate {
+    CompoundType type = CompoundType::And;
+    std::vector<PredicateNodePtr> members;
+};
+struct NotPredicate {
+    PredicateNodePtr operand;
+};
+/// `TRUEPREDICATE` or `FALSEPREDICATE`.
+struct ConstantPredicate {
+    bool value = true;
+};
+
+/// A node of a predicate. Nodes are immutable and shared; walk siblings in a loop, nesting is at most `maximumPredicateDepth`.
+struct PredicateNode {
+    std::variant<ComparisonPredicate, CompoundPredicate, NotPredicate, ConstantPredicate> form;
+};
+
+/// Deeper nesting (of parentheses, NOT, SUBQUERY) is refused by the parser with an NSException.
+inline constexpr int maximumPredicateDepth = 500;
+
+/// For `std::visit`: one lambda for each alternative.
+template <typename... Lambdas>
+struct Overloaded : Lambdas... {
+    using Lambdas::operator()...;
+};
+template <typename... Lambdas>
+Overloaded(Lambdas...) -> Overloaded<Lambdas...>;
+
+} // namespace tarn

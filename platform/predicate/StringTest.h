@@ -1,0 +1,30 @@
+#pragma once
+
+#include "platform/predicate/PredicateTree.h"
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace tarn {
+
+/// One string operator with its right side made ready: the needle folded, the pattern compiled.
+///
+/// The evaluator and the store's SQL functions share it, so that both agree. Copies share the compiled pattern;
+/// `matches` may run on several threads at once.
+class StringTest {
+public:
+    /// EqualTo, NotEqualTo, the orders, Contains, BeginsWith, EndsWith, Like or Matches.
+    /// Raises `NSInvalidArgumentException` for a pattern that is no regular expression.
+    StringTest(ComparisonOperator operation, ComparisonOptions options, std::string_view right);
+
+    /// Contains, BeginsWith and EndsWith of an empty needle are NO. A pattern that runs over its time or stack limit
+    /// does not match, and is logged once.
+    bool matches(std::string_view left) const;
+
+private:
+    struct State;
+    std::shared_ptr<const State> state_;
+};
+
+} // namespace tarn
