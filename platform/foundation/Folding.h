@@ -11,13 +11,15 @@ namespace tarn {
 ///
 /// Canonical decomposition; full case folding of every code point but U+0345; removal of combining marks (U+0345
 /// included) whose base, after folding, is below U+0510, and of format characters (Cf) but U+200D; full folding of what
-/// is left; canonical composition. fold(fold(x)) == fold(x). Any bytes are taken: ill-formed UTF-8 reads as U+FFFD. Any thread.
+/// is left; canonical composition. fold(fold(x)) == fold(x). Any bytes are taken: ill-formed UTF-8 reads as U+FFFD. Any
+/// thread.
 std::string fold(std::string_view text);
 /// The same, appended to `result`, which lets a loop keep its buffer.
 void appendFolded(std::string& result, std::string_view text);
 /// The same bytes as `fold` by ICU alone; slow. It is what the fast path is tested against.
 std::string foldByReference(std::string_view text);
-/// Grows whenever `fold` may give other bytes for some text (new rules or new Unicode data); stores keep it beside what they folded.
+/// Grows whenever `fold` may give other bytes for some text (new rules or new Unicode data); stores keep it beside what
+/// they folded.
 int foldingVersion() noexcept;
 
 /// Case folding alone ("[c]") and removal of diacritics alone ("[d]"), by the same rules.

@@ -12,14 +12,8 @@ namespace tarn {
 class NSData {
 public:
     NSData() = default;
-    explicit NSData(std::vector<std::byte> bytes)
-        : bytes_(std::move(bytes))
-    {
-    }
-    explicit NSData(std::span<const std::byte> bytes)
-        : bytes_(bytes.begin(), bytes.end())
-    {
-    }
+    explicit NSData(std::vector<std::byte> bytes) : bytes_(std::move(bytes)) { }
+    explicit NSData(std::span<const std::byte> bytes) : bytes_(bytes.begin(), bytes.end()) { }
     /// The bytes of `text`, as they are.
     static NSData fromText(std::string_view text)
     {

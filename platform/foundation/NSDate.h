@@ -19,7 +19,10 @@ std::int64_t microsecondsSinceReferenceDate(NSDate date) noexcept;
 NSDate dateWithMicrosecondsSinceReferenceDate(std::int64_t microseconds) noexcept;
 
 /// Microseconds since 1970-01-01T00:00:00Z, the form in which the store keeps dates.
-inline std::int64_t microsecondsSince1970(NSDate date) noexcept { return date.time_since_epoch().count(); }
+inline std::int64_t microsecondsSince1970(NSDate date) noexcept
+{
+    return date.time_since_epoch().count();
+}
 inline NSDate dateWithMicrosecondsSince1970(std::int64_t microseconds) noexcept
 {
     return NSDate(std::chrono::microseconds(microseconds));

@@ -38,52 +38,23 @@ public:
 
     Value() = default;
     Value(std::nullptr_t) { }
-    Value(bool value)
-        : storage_(value)
-    {
-    }
+    Value(bool value) : storage_(value) { }
     template <std::integral Integer>
-        requires(!std::same_as<Integer, bool>)
-    Value(Integer value)
-        : storage_(static_cast<std::int64_t>(value))
-    {
-    }
-    Value(double value)
-        : storage_(value)
-    {
-    }
-    Value(std::string value)
-        : storage_(std::move(value))
-    {
-    }
-    Value(std::string_view value)
-        : storage_(std::string(value))
-    {
-    }
-    Value(const char* value)
-        : storage_(std::string(value))
-    {
-    }
-    Value(NSDate value)
-        : storage_(value)
-    {
-    }
-    Value(NSData value)
-        : storage_(std::move(value))
-    {
-    }
+    requires(!std::same_as<Integer, bool>) Value(Integer value) : storage_(static_cast<std::int64_t>(value)) { }
+    Value(double value) : storage_(value) { }
+    Value(std::string value) : storage_(std::move(value)) { }
+    Value(std::string_view value) : storage_(std::string(value)) { }
+    Value(const char* value) : storage_(std::string(value)) { }
+    Value(NSDate value) : storage_(value) { }
+    Value(NSData value) : storage_(std::move(value)) { }
     /// A null pointer gives nil.
     Value(const NSKeyValueCoding* object)
     {
         if (object)
             storage_ = object;
     }
-    Value(Array values)
-        : storage_(std::make_shared<const Array>(std::move(values)))
-    {
-    }
-    template <typename T>
-    Value(const std::optional<T>& value)
+    Value(Array values) : storage_(std::make_shared<const Array>(std::move(values))) { }
+    template <typename T> Value(const std::optional<T>& value)
     {
         if (value)
             *this = Value(*value);
@@ -92,10 +63,7 @@ public:
     Kind kind() const noexcept { return static_cast<Kind>(storage_.index()); }
     bool isNil() const noexcept { return kind() == Kind::Nil; }
     /// Bool, Integer or Double.
-    bool isNumber() const noexcept
-    {
-        return kind() == Kind::Bool || kind() == Kind::Integer || kind() == Kind::Double;
-    }
+    bool isNumber() const noexcept { return kind() == Kind::Bool || kind() == Kind::Integer || kind() == Kind::Double; }
 
     // Each wants the value to be of that kind, else std::bad_variant_access.
     bool asBool() const { return std::get<bool>(storage_); }

@@ -1,0 +1,104 @@
+#pragma once
+
+#include "platform/foundation/NSDate.h"
+
+#include <array>
+#include <cstddef>
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace tarn {
+
+/// The sixteen bytes by which an installation of an operating system knows itself.
+using MachineIdentifier = std::array<std::byte, 16>;
+
+/// What answers the questions of `Environment`; every member is set.
+struct EnvironmentProviders {
+    std::function<NSDate()> clock;
+    std::function<void(std::span<std::byte>)> randomBytes;
+    std::function<std::optional<std::string>(std::string_view)> variable;
+    std::function<std::string()> timeZoneIdentifier;
+    std::function<std::string()> localeIdentifier;
+    std::function<std::filesystem::path()> homeDirectory;
+    std::function<std::filesystem::path()> temporaryDirectory;
+    std::function<std::string()> hostName;
+    std::function<std::optional<MachineIdentifier>()> machineIdentifier;
+};
+
+/// The world around the library: the only place that asks the clock, the random source and the process environment.
+///
+/// Any thread. Tests replace single answers by an `EnvironmentOverride`.
+///
+///     std::string zone = Environment::current().timeZoneIdentifier();
+class Environment {
+public:
+    /// The one of this process.
+    static const Environment& current();
+
+    NSDate now() const;
+    /// Fills `bytes` with random bytes fit for keys.
+    void fillWithRandomBytes(std::span<std::byte> bytes) const;
+    /// An environment variable; none when it is not set.
+    std::optional<std::string> variable(std::string_view name) const;
+    /// An Olson name ("Europe/Berlin"): TZ, else the system's setting, else "UTC".
+    std::string timeZoneIdentifier() const;
+    /// Language, script and country ("de_DE", "sr_Latn_RS"): the first of LC_ALL, LC_TIME and LANG that is not empty.
+    /// "en_US_POSIX" for C, POSIX and nothing.
+    std::string localeIdentifier() const;
+    /// HOME, else what the user database says, else the root folder.
+    std::filesystem::path homeDirectory() const;
+    /// TMPDIR, else the system's folder for temporary files.
+    std::filesystem::path temporaryDirectory() const;
+    /// The name that people gave this machine, else its network name; "localhost" when it has none. Valid UTF-8.
+    std::string hostName() const;
+    /// None when the system has no identifier or a malformed one.
+    std::optional<MachineIdentifier> machineIdentifier() const;
+
+private:
+    friend class EnvironmentOverride;
+    Environment();
+    std::shared_ptr<const EnvironmentProviders> providers() const;
+    void setProviders(std::shared_ptr<const EnvironmentProviders> providers) const;
+
+    struct State;
+    std::unique_ptr<State> state_;
+};
+
+/// Replaces answers of `Environment::current()` for a scope; what is not set stays as it was.
+///
+/// Overrides nest like scopes: the last one made goes first. Meant for tests.
+///
+///     EnvironmentOverride world;
+///     world.setClock([] { return dateWithMicrosecondsSince1970(0); });
+class EnvironmentOverride {
+public:
+    EnvironmentOverride();
+    ~EnvironmentOverride();
+    EnvironmentOverride(const EnvironmentOverride&) = delete;
+    EnvironmentOverride& operator=(const EnvironmentOverride&) = delete;
+
+    void setClock(std::function<NSDate()> clock);
+    /// A clock that stands still.
+    void setNow(NSDate date);
+    void setRandomBytes(std::function<void(std::span<std::byte>)> randomBytes);
+    /// Sets one variable, or hides it when `value` is none.
+    void setVariable(std::string name, std::optional<std::string> value);
+    void setTimeZoneIdentifier(std::string identifier);
+    void setLocaleIdentifier(std::string identifier);
+    void setHomeDirectory(std::filesystem::path path);
+    void setTemporaryDirectory(std::filesystem::path path);
+    void setHostName(std::string name);
+    void setMachineIdentifier(std::optional<MachineIdentifier> identifier);
+
+private:
+    template <typename Change> void change(Change change);
+
+    std::shared_ptr<const EnvironmentProviders> previous_;
+};
+
+} // namespace tarn
