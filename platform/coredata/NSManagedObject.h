@@ -1,0 +1,156 @@
+#pragma once
+
+#include "platform/coredata/IdentifiedObject.h"
+#include "platform/coredata/NSManagedObjectID.h"
+#include "platform/coredata/PropertyValues.h"
+#include "platform/foundation/Value.h"
+
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tarn {
+
+class ContextCore;
+class NSManagedObjectContext;
+class ToManySet;
+struct RecordDetails;
+
+/// What a record object is made from; only contexts make one.
+class NSManagedObjectSeed {
+private:
+    friend class ContextCore;
+    friend class NSManagedObject;
+    NSManagedObjectSeed(NSManagedObjectContext& context, const NSManagedObjectID& objectID)
+        : context_(&context)
+        , objectID_(objectID)
+    {
+    }
+    NSManagedObjectContext* context_;
+    NSManagedObjectID objectID_;
+};
+
+/// Ends an observation when it goes. Movable; may outlive the record.
+class KeyValueObservation {
+public:
+    KeyValueObservation() = default;
+    KeyValueObservation(KeyValueObservation&& other) noexcept;
+    KeyValueObservation& operator=(KeyValueObservation&& other) noexcept;
+    ~KeyValueObservation();
+    void invalidate();
+
+private:
+    friend class NSManagedObject;
+    explicit KeyValueObservation(std::weak_ptr<void> registration)
+        : registration_(std::move(registration))
+    {
+    }
+    std::weak_ptr<void> registration_;
+};
+
+/// One record: the values of an entity's properties, tracked by its context.
+///
+/// Owned by its context; the address holds until the context is reset or destroyed. A deleted record answers
+/// `isDeleted()` and reads as nil. Confined to the context's queue.
+class NSManagedObject : public IdentifiedObject {
+public:
+    explicit NSManagedObject(const NSManagedObjectSeed& seed);
+    ~NSManagedObject() override;
+    NSManagedObject(const NSManagedObject&) = delete;
+    NSManagedObject& operator=(const NSManagedObject&) = delete;
+
+    NSManagedObjectContext& managedObjectContext() const noexcept { return *context_; }
+    const NSEntityDescription& entity() const noexcept { return objectID_.entity(); }
+    NSManagedObjectID objectID() const override { return objectID_; }
+
+    // State -----------------------------------------------------------------------------------------------------------
+    bool isInserted() const noexcept { return flags_ & Inserted; } ///< not saved yet
+    bool isUpdated() const noexcept; ///< saved before, with unsaved changes
+    bool isDeleted() const noexcept { return flags_ & Deleted; } ///< deleted, saved or not
+    bool isFault() const noexcept { return flags_ & Fault; } ///< values not read yet
+    bool hasChanges() const noexcept; ///< inserted, updated or deleted, not saved
+    /// Names and present values of what changed since the last save; a to-many as an array.
+    std::map<std::string, Value> changedValues() const;
+    /// The same since changes were last processed.
+    std::map<std::string, Value> changedValuesForCurrentEvent() const;
+    /// Names only; no relationship is loaded for it.
+    std::set<std::string> changedKeys() const;
+    std::set<std::string> changedKeysForCurrentEvent() const;
+    /// The values of the last save or fetch, of attributes and to-ones.
+    std::map<std::string, Value> committedValuesForKeys(const std::vector<std::string>& keys) const;
+
+    // Key-value coding ------------------------------------------------------------------------------------------------
+    /// Through the accessors of the record's class, guarded ones included. Raises `NSUndefinedKeyException` for an unknown key.
+    virtual Value valueForKey(std::string_view key) const;
+    virtual void setValueForKey(std::string_view key, const Value& value);
+    Value storedValueForKey(std::string_view key) const override;
+    /// Stores without notice; use between `willChangeValueForKey` and `didChangeValueForKey`.
+    void setPrimitiveValueForKey(std::string_view key, const Value& value);
+
+    // Key-value observation -------------------------------------------------------------------------------------------
+    using Observer = std::function<void(NSManagedObject& record, std::string_view key)>;
+    /// Calls `observer` after every write of the key, also when the value stays the same; "xValue" hears of "x".
+    [[nodiscard]] KeyValueObservation addObserver(std::string_view key, Observer observer);
+    /// The keys whose change means that `key` changed too.
+    virtual std::set<std::string> keysAffectingValueForKey(std::string_view key) const;
+    void willChangeValueForKey(std::string_view key);
+    void didChangeValueForKey(std::string_view key);
+    /// Fires the fault before a read.
+    void willAccessValueForKey(std::string_view key) const;
+    void didAccessValueForKey(std::string_view key) const;
+
+    // Life ------------------------------------------------------------------------------------------------------------
+    /// Called once when the record is inserted, fetched for the first time, before it is deleted, before it is saved.
+    virtual void awakeFromInsert() { }
+    virtual void awakeFromFetch() { }
+    virtual void prepareForDeletion() { }
+    virtual void willSave() { }
+
+    // By property index: what generated accessors rest on -----------------------------------------------------------------
+    // Getters read the stored value (firing the fault). Setters announce the change; primitive ones do not.
+    std::optional<bool> booleanAt(PropertyIndex index) const;
+    std::optional<std::int64_t> integerAt(PropertyIndex index) const;
+    std::optional<double> doubleAt(PropertyIndex index) const;
+    std::optional<std::string> stringAt(PropertyIndex index) const;
+    std::optional<NSDate> dateAt(PropertyIndex index) const;
+    std::optional<NSData> dataAt(PropertyIndex index) const;
+    /// A string without a copy; valid until the record changes.
+    std::optional<std::string_view> stringViewAt(PropertyIndex index) const;
+    void setBooleanAt(PropertyIndex index, std::optional<bool> value);
+    void setIntegerAt(PropertyIndex index, std::optional<std::int64_t> value);
+    void setDoubleAt(PropertyIndex index, std::optional<double> value);
+    void setStringAt(PropertyIndex index, std::optional<std::string_view> value);
+    void setDateAt(PropertyIndex index, std::optional<NSDate> value);
+    void setDataAt(PropertyIndex index, const std::optional<NSData>& value);
+    void setPrimitiveBooleanAt(PropertyIndex index, std::optional<bool> value);
+    void setPrimitiveIntegerAt(PropertyIndex index, std::optional<std::int64_t> value);
+    void setPrimitiveDoubleAt(PropertyIndex index, std::optional<double> value);
+    void setPrimitiveStringAt(PropertyIndex index, std::optional<std::string_view> value);
+    void setPrimitiveDateAt(PropertyIndex index, std::optional<NSDate> value);
+    void setPrimitiveDataAt(PropertyIndex index, const std::optional<NSData>& value);
+    NSManagedObject* toOneAt(PropertyIndex index) const;
+    void setToOneAt(PropertyIndex index, NSManagedObject* target);
+    /// The live set behind a to-many relationship; see NSManagedObjectSet.h.
+    ToManySet& toManyAt(PropertyIndex index) const;
+
+private:
+    friend class ContextCore;
+    friend class ToManySet;
+    enum Flag : std::uint32_t { Inserted = 1, Deleted = 2, Fault = 4, Awake = 8, DeletionSaved = 16, Refreshed = 32 };
+
+    NSManagedObjectContext* context_;
+    NSManagedObjectID objectID_;
+    mutable PropertyValues values_;
+    mutable std::unique_ptr<RecordDetails> details_; ///< changes, to-many sets, observers: what few records have
+    std::int64_t rowVersion_ = 0;
+    mutable std::uint32_t flags_ = 0;
+    std::uint32_t order_ = 0; ///< order of insertion into the context
+};
+
+} // namespace tarn

@@ -1,0 +1,142 @@
+#pragma once
+
+#include "platform/coredata/NSFetchRequest.h"
+#include "platform/coredata/NSManagedObject.h"
+#include "platform/coredata/NSManagedObjectID.h"
+#include "platform/foundation/NSError.h"
+#include "platform/foundation/Queue.h"
+
+#include <cstddef>
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tarn {
+
+class NSPersistentStore;
+class NSPersistentStoreCoordinator;
+
+/// Who wins where a record was changed here and in the store since it was read.
+enum class NSMergePolicy : std::uint8_t {
+    Error, ///< the save fails
+    MergeByPropertyStoreTrump, ///< property by property, the store's where both changed
+    MergeByPropertyObjectTrump, ///< property by property, this context's where both changed
+};
+
+/// A record that two writers changed: what `NSManagedObjectContext` tells of a merge that dropped a value.
+struct MergeConflict {
+    NSManagedObject* record = nullptr;
+    std::vector<std::string> properties; ///< whose values of the losing side were dropped
+    std::map<std::string, Value> lostValues;
+};
+
+// Notifications; `object` is the context. The payload is one of the structures below, valid during the call.
+inline constexpr std::string_view NSManagedObjectContextObjectsDidChangeNotification = "NSManagedObjectContextObjectsDidChangeNotification";
+inline constexpr std::string_view NSManagedObjectContextWillSaveNotification = "NSManagedObjectContextWillSaveNotification";
+inline constexpr std::string_view NSManagedObjectContextDidSaveNotification = "NSManagedObjectContextDidSaveNotification";
+/// Another connection or process has changed the store since this context last read.
+inline constexpr std::string_view NSManagedObjectContextStoreDidChangeElsewhereNotification = "NSManagedObjectContextStoreDidChangeElsewhereNotification";
+
+/// Payload of objects-did-change and did-save (where `refreshed` is empty).
+struct ObjectChanges {
+    std::vector<NSManagedObject*> inserted;
+    std::vector<NSManagedObject*> updated;
+    std::vector<NSManagedObject*> deleted;
+    std::vector<NSManagedObject*> refreshed;
+};
+
+/// One row of a dictionary fetch: property names and values; a to-one gives its object identifier's URI.
+using DictionaryResult = std::map<std::string, Value>;
+
+/// A scratch pad of records over a store, or over a parent context.
+///
+/// Confined to its queue: call it, and use its records, only there; debug builds abort elsewhere. It owns its records;
+/// their addresses hold until `reset()` or destruction.
+///
+///     OVNote* note = OVNote::insertInManagedObjectContext(context);
+///     if (NSError error; !context.save(&error)) report(error);
+class NSManagedObjectContext {
+public:
+    enum class ConcurrencyType { MainQueue, PrivateQueue };
+
+    explicit NSManagedObjectContext(ConcurrencyType type);
+    ~NSManagedObjectContext();
+    NSManagedObjectContext(const NSManagedObjectContext&) = delete;
+    NSManagedObjectContext& operator=(const NSManagedObjectContext&) = delete;
+
+    // Where it reads and saves, set once before first use.
+    void setPersistentStoreCoordinator(std::shared_ptr<NSPersistentStoreCoordinator> coordinator);
+    /// Raises `NSInternalInconsistencyException` before one was set.
+    NSPersistentStoreCoordinator& persistentStoreCoordinator() const;
+    const NSManagedObjectModel& managedObjectModel() const;
+    void setMergePolicy(NSMergePolicy policy) noexcept;
+    NSMergePolicy mergePolicy() const noexcept;
+    /// Hears of values that a merge dropped.
+    void setMergeConflictHandler(std::function<void(const MergeConflict&)> handler);
+
+    // Records -----------------------------------------------------------------------------------------------------------
+    /// Inserts a record of the entity with its default values and a temporary identifier. An abstract entity may be inserted too.
+    NSManagedObject& insertObject(const NSEntityDescription& entity);
+    /// Inserts by name, as the class that is registered. Raises `NSInvalidArgumentException` for an unknown entity.
+    NSManagedObject& insertObject(std::string_view entityName);
+    /// Runs `prepareForDeletion`, then takes the record out of all relationships (by their delete rules) and fetches.
+    /// The rows go at the next save. Deleting twice is no error.
+    void deleteObject(NSManagedObject& object);
+    /// The record with this identifier, read when it is not here yet; null when the store does not know it (or cannot be read).
+    NSManagedObject* existingObjectWithID(const NSManagedObjectID& objectID, NSError* error = nullptr);
+    /// The record with this identifier, a fault when it is not here yet; null when the store does not know it.
+    NSManagedObject* objectWithID(const NSManagedObjectID& objectID);
+    /// The record if it is here; never reads.
+    NSManagedObject* objectRegisteredForID(const NSManagedObjectID& objectID) const;
+    std::vector<NSManagedObject*> registeredObjects() const;
+
+    // Queries see unsaved changes -----------------------------------------------------------------------------------------
+    /// None and an error on failure; for callers to whom failure is not emptiness.
+    std::optional<std::vector<NSManagedObject*>> fetch(const NSFetchRequest& request, NSError* error = nullptr);
+    /// The same; empty on failure.
+    std::vector<NSManagedObject*> executeFetchRequest(const NSFetchRequest& request, NSError* error = nullptr);
+    std::optional<std::size_t> count(const NSFetchRequest& request, NSError* error = nullptr);
+    std::size_t countForFetchRequest(const NSFetchRequest& request, NSError* error = nullptr);
+    std::optional<std::vector<DictionaryResult>> executeDictionaryFetchRequest(const NSFetchRequest& request, NSError* error = nullptr);
+
+    // Changes ---------------------------------------------------------------------------------------------------------------
+    bool hasChanges() const;
+    // Snapshots, in order of insertion or primary key: safe to walk while records are inserted or deleted.
+    std::vector<NSManagedObject*> insertedObjects() const;
+    std::vector<NSManagedObject*> updatedObjects() const;
+    std::vector<NSManagedObject*> deletedObjects() const;
+    /// Gives records identifiers that stay; nothing is saved.
+    bool obtainPermanentIDsForObjects(std::span<NSManagedObject* const> objects, NSError* error = nullptr);
+    /// Writes all changes in one transaction. On failure nothing is written and the changes stay. Without changes it does nothing.
+    bool save(NSError* error = nullptr);
+    /// Drops all changes since the last save; inserted records read as deleted.
+    void rollback();
+    /// Takes the store's write lock before the block's first read and saves after it: find-or-create across processes.
+    /// An exception of the block rolls back and is raised again.
+    bool performExclusive(const std::function<void()>& block, NSError* error = nullptr);
+    /// Posts objects-did-change for what changed since the last time. Runs by itself at the end of the queue's pass.
+    void processPendingChanges();
+    /// Reads the record again at next use; with `mergeChanges` its unsaved changes stay on top.
+    void refreshObject(NSManagedObject& object, bool mergeChanges);
+    void refreshAllObjects();
+    /// Forgets everything; all records of this context are gone.
+    void reset();
+
+    // Work on its queue ---------------------------------------------------------------------------------------------------------
+    Queue& queue() const noexcept;
+    void performBlock(std::function<void()> block);
+    void performBlockAndWait(const std::function<void()>& block);
+
+    /// For the rooms of the object store.
+    ContextCore& core() const noexcept { return *core_; }
+
+private:
+    std::unique_ptr<ContextCore> core_;
+};
+
+} // namespace tarn

@@ -1,0 +1,81 @@
+#pragma once
+
+#include "platform/coredata/NSManagedObject.h"
+
+#include <cstddef>
+#include <span>
+#include <type_traits>
+#include <vector>
+
+namespace tarn {
+
+/// The members of a to-many relationship of one record.
+///
+/// While it is not loaded it keeps only what was added and removed, so a change never reads the other members.
+/// Owned by its record. Every change keeps the inverse in step.
+class ToManySet {
+public:
+    ToManySet(NSManagedObject& owner, const NSRelationshipDescription& relationship);
+
+    /// All members: stored ones by primary key, then added ones in order. Loads the set.
+    const std::vector<NSManagedObject*>& members();
+    /// Without loading other members where it can.
+    bool contains(const NSManagedObject& member);
+    std::size_t count();
+    void add(NSManagedObject& member);
+    void remove(NSManagedObject& member);
+    /// Writes the difference only; an equal set changes nothing.
+    void set(std::span<NSManagedObject* const> members);
+
+    bool isLoaded() const noexcept { return loaded_; }
+    const NSRelationshipDescription& relationship() const noexcept { return *relationship_; }
+    /// Since the last save.
+    const std::vector<NSManagedObject*>& added() const noexcept { return added_; }
+    const std::vector<NSManagedObject*>& removed() const noexcept { return removed_; }
+
+private:
+    friend class ContextCore;
+    NSManagedObject* owner_;
+    const NSRelationshipDescription* relationship_;
+    bool loaded_ = false;
+    std::vector<NSManagedObject*> members_; ///< only while loaded
+    std::vector<NSManagedObject*> added_;
+    std::vector<NSManagedObject*> removed_;
+};
+
+/// The live, typed set that a record's `xSet()` gives. A light handle: copy it freely, keep it no longer than the record.
+template <typename Record>
+class NSManagedObjectSet {
+public:
+    explicit NSManagedObjectSet(ToManySet& set)
+        : set_(&set)
+    {
+    }
+
+    void addObject(Record& record) { set_->add(record); }
+    void removeObject(Record& record) { set_->remove(record); }
+    bool containsObject(const Record& record) const { return set_->contains(record); }
+    std::size_t count() const { return set_->count(); }
+    bool empty() const { return count() == 0; }
+    /// A copy: safe to walk while members come and go.
+    std::vector<Record*> allObjects() const
+    {
+        std::vector<Record*> records;
+        const auto& members = set_->members();
+        records.reserve(members.size());
+        for (NSManagedObject* member : members)
+            records.push_back(static_cast<Record*>(member));
+        return records;
+    }
+    void setObjects(const std::vector<Record*>& records)
+    {
+        const std::vector<NSManagedObject*> members(records.begin(), records.end());
+        set_->set(members);
+    }
+    void removeAllObjects() { set_->set({}); }
+
+private:
+    ToManySet* set_;
+};
+
+} // namespace tarn

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "platform/coredata/NSPersistentStore.h"
+
+#include <filesystem>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace tarn {
+
+enum class StoreType : std::uint8_t { SQLite, InMemory };
+
+/// How a store is opened.
+struct StoreOptions {
+    std::map<std::string, std::string> pragmas{{"journal_mode", "DELETE"}}; ///< SQLite's, by name
+    bool inferMappingModelAutomatically = true;
+    bool readOnly = false; ///< refuses writes; the file is still opened for recovery of an unfinished journal
+    bool createIfMissing = true;
+};
+
+/// Joins a model and a store. Contexts hang on it. Any thread.
+class NSPersistentStoreCoordinator {
+public:
+    explicit NSPersistentStoreCoordinator(std::shared_ptr<const NSManagedObjectModel> model);
+    ~NSPersistentStoreCoordinator();
+    NSPersistentStoreCoordinator(const NSPersistentStoreCoordinator&) = delete;
+    NSPersistentStoreCoordinator& operator=(const NSPersistentStoreCoordinator&) = delete;
+
+    const NSManagedObjectModel& managedObjectModel() const noexcept { return *model_; }
+
+    /// Opens (or creates) the one store. Null and an error when it cannot be opened or was written with another model.
+    /// `file` is not used for a store in memory.
+    NSPersistentStore* addPersistentStoreWithType(StoreType type, const std::filesystem::path& file, const StoreOptions& options,
+        NSError* error = nullptr);
+    /// Null before `addPersistentStoreWithType`.
+    NSPersistentStore* persistentStore() const noexcept { return store_.get(); }
+
+    /// The identifier that a URI names; none for another store, an unknown entity or any other text.
+    std::optional<NSManagedObjectID> managedObjectIDForURIRepresentation(std::string_view uri) const;
+
+    /// The metadata of a store file without opening it as a store; none and an error when there is none or it is unreadable.
+    static std::optional<std::map<std::string, std::string>> metadataForPersistentStoreOfType(StoreType type,
+        const std::filesystem::path& file, NSError* error = nullptr);
+    /// Whether rows of a store with this metadata are rows of this model.
+    static bool isModelCompatibleWithStoreMetadata(const NSManagedObjectModel& model, const std::map<std::string, std::string>& metadata);
+
+private:
+    std::shared_ptr<const NSManagedObjectModel> model_;
+    std::unique_ptr<NSPersistentStore> store_;
+};
+
+} // namespace tarn

@@ -1,0 +1,90 @@
+#pragma once
+
+#include "platform/coredata/NSManagedObjectModel.h"
+
+#include <atomic>
+#include <bit>
+#include <cstdint>
+#include <string_view>
+
+namespace tarn {
+
+/// Immutable bytes that several records and snapshots share; counts its owners.
+class SharedBytes {
+public:
+    static SharedBytes* make(std::string_view bytes);
+    void retain() noexcept { owners_.fetch_add(1, std::memory_order_relaxed); }
+    void release() noexcept;
+    std::string_view view() const noexcept { return {reinterpret_cast<const char*>(this + 1), length_}; }
+
+private:
+    explicit SharedBytes(std::uint32_t length)
+        : length_(length)
+    {
+    }
+    std::atomic<std::uint32_t> owners_{1};
+    std::uint32_t length_;
+};
+
+/// The values of one record by property index, eight bytes each.
+///
+/// Attributes are typed by their description. A to-one relationship is held as the target's key (above 0 in the store,
+/// below 0 while temporary); to-many relationships are not held here. A value is loaded or not yet read; nil or not.
+/// A plain value type: copies share strings. The caller keeps index and type right; checked in debug builds.
+class PropertyValues {
+public:
+    PropertyValues() = default;
+    /// Everything loaded and nil.
+    explicit PropertyValues(const NSEntityDescription& entity);
+    PropertyValues(const PropertyValues& other);
+    PropertyValues(PropertyValues&& other) noexcept;
+    PropertyValues& operator=(PropertyValues other) noexcept;
+    ~PropertyValues();
+
+    bool isEmpty() const noexcept { return slots_ == nullptr; }
+    const NSEntityDescription& entity() const noexcept { return *entity_; }
+
+    bool isLoaded(PropertyIndex index) const noexcept { return loaded_ & propertyBit(index); }
+    PropertyMask loadedMask() const noexcept { return loaded_; }
+    bool isNil(PropertyIndex index) const noexcept { return !(present_ & propertyBit(index)); }
+    void setUnloaded(PropertyIndex index) noexcept;
+
+    void setNil(PropertyIndex index) noexcept;
+    // Boolean (0 or 1), Integer16, Integer64, Date (microseconds since 1970) and to-one (key).
+    void setInteger(PropertyIndex index, std::int64_t value) noexcept;
+    std::int64_t integer(PropertyIndex index) const noexcept { return slots_[index].integer; }
+    void setDouble(PropertyIndex index, double value) noexcept { setInteger(index, std::bit_cast<std::int64_t>(value)); }
+    double floating(PropertyIndex index) const noexcept { return std::bit_cast<double>(slots_[index].integer); }
+    // String and Data.
+    void setBytes(PropertyIndex index, std::string_view bytes);
+    /// Valid until the property is set again.
+    std::string_view bytes(PropertyIndex index) const noexcept { return slots_[index].bytes->view(); }
+
+    /// Takes value and loadedness of one property from another record of the same inheritance chain; shares strings.
+    void assign(PropertyIndex index, const PropertyValues& other);
+    bool equals(PropertyIndex index, const PropertyValues& other) const noexcept;
+
+    /// An attribute as a boxed value. Not for relationships.
+    Value attributeValue(PropertyIndex index) const;
+    /// Sets an attribute from a boxed value: numbers are cut to the attribute's width, nil clears. Raises
+    /// `NSInvalidArgumentException` for a value of another kind.
+    void setAttributeValue(PropertyIndex index, const Value& value);
+
+    /// Bytes of heap that this value takes, shared ones counted whole.
+    std::size_t heapSize() const noexcept;
+
+private:
+    union Slot {
+        std::int64_t integer;
+        SharedBytes* bytes;
+    };
+    bool holdsBytes(PropertyIndex index) const noexcept;
+    void releaseBytes(PropertyIndex index) noexcept;
+
+    const NSEntityDescription* entity_ = nullptr;
+    PropertyMask present_ = 0;
+    PropertyMask loaded_ = 0;
+    Slot* slots_ = nullptr;
+};
+
+} // namespace tarn
