@@ -11,7 +11,9 @@ namespace tarn {
 /// managed object given as an argument equals the row object of the same record.
 class IdentifiedObject : public NSKeyValueCoding {
 public:
-    virtual NSManagedObjectID objectID() const = 0;
+    /// What `objectID()` answers; apart from it, since record classes redeclare that with a type of their own.
+    virtual NSManagedObjectID identifyingObjectID() const = 0;
+    NSManagedObjectID objectID() const { return identifyingObjectID(); }
 
     /// Equal identifiers; another kind of object is equal only at the same address.
     bool isEqualToObject(const NSKeyValueCoding& other) const override

@@ -57,7 +57,8 @@ private:
 /// One record: the values of an entity's properties, tracked by its context.
 ///
 /// Owned by its context; the address holds until the context is reset or destroyed. A deleted record answers
-/// `isDeleted()` and reads as nil. Confined to the context's queue.
+/// `isDeleted()`: it is out of all relationships at once, and its attributes read as nil once the deletion is saved.
+/// Confined to the context's queue.
 class NSManagedObject : public IdentifiedObject {
 public:
     explicit NSManagedObject(const NSManagedObjectSeed& seed);
@@ -67,7 +68,8 @@ public:
 
     NSManagedObjectContext& managedObjectContext() const noexcept { return *context_; }
     const NSEntityDescription& entity() const noexcept { return objectID_.entity(); }
-    NSManagedObjectID objectID() const override { return objectID_; }
+    NSManagedObjectID objectID() const noexcept { return objectID_; }
+    NSManagedObjectID identifyingObjectID() const final { return objectID_; }
 
     // State -----------------------------------------------------------------------------------------------------------
     bool isInserted() const noexcept { return flags_ & Inserted; } ///< not saved yet
@@ -75,6 +77,8 @@ public:
     bool isDeleted() const noexcept { return flags_ & Deleted; } ///< deleted, saved or not
     bool isFault() const noexcept { return flags_ & Fault; } ///< values not read yet
     bool hasChanges() const noexcept; ///< inserted, updated or deleted, not saved
+    std::uint32_t insertionOrder() const noexcept { return order_; } ///< among the inserted records of its context
+    std::int64_t rowVersion() const noexcept { return rowVersion_; } ///< of the row that its values were read from; 0 before the first save
     /// Names and present values of what changed since the last save; a to-many as an array.
     std::map<std::string, Value> changedValues() const;
     /// The same since changes were last processed.
@@ -142,7 +146,7 @@ public:
 private:
     friend class ContextCore;
     friend class ToManySet;
-    enum Flag : std::uint32_t { Inserted = 1, Deleted = 2, Fault = 4, Awake = 8, DeletionSaved = 16, Refreshed = 32 };
+    enum Flag : std::uint32_t { Inserted = 1, Deleted = 2, Fault = 4, Gone = 8, BeingDeleted = 16 };
 
     NSManagedObjectContext* context_;
     NSManagedObjectID objectID_;
