@@ -1,0 +1,132 @@
+// The only place that asks a POSIX system; another system gets a file like this one.
+
+#include "platform/foundation/EnvironmentInternal.h"
+#include "platform/foundation/NSException.h"
+
+#include <pwd.h>
+#include <sys/random.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <chrono>
+#include <cstdlib>
+#include <fstream>
+#include <system_error>
+#include <vector>
+
+namespace tarn {
+
+namespace {
+
+constexpr std::size_t kLargestSystemFile = 64 * 1024;
+
+std::string readSystemFile(const char* path)
+{
+    std::ifstream file(path, std::ios::binary);
+    std::string text(kLargestSystemFile, '\0');
+    file.read(text.data(), static_cast<std::streamsize>(text.size()));
+    text.resize(static_cast<std::size_t>(file.gcount()));
+    return text;
+}
+
+NSDate systemTime()
+{
+    return std::chrono::time_point_cast<std::chrono::microseconds>(std::chrono::system_clock::now());
+}
+
+void fillFromSystem(std::span<std::byte> bytes)
+{
+    while (!bytes.empty()) {
+        const ssize_t count = ::getrandom(bytes.data(), bytes.size(), 0);
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count <= 0) // weak bytes would be worse than none
+            throw NSException(NSInternalInconsistencyException, "The system gives no random bytes.");
+        bytes = bytes.subspan(static_cast<std::size_t>(count));
+    }
+}
+
+std::optional<std::string> processVariable(std::string_view name)
+{
+    const char* const value = std::getenv(std::string(name).c_str());
+    return value ? std::optional(std::string(value)) : std::nullopt;
+}
+
+std::string systemTimeZone()
+{
+    if (const auto variable = Environment::current().variable("TZ"))
+        return timeZoneIdentifierFromVariable(*variable).value_or("UTC");
+    std::error_code failure;
+    const auto link = std::filesystem::read_symlink("/etc/localtime", failure);
+    if (const auto name = timeZoneIdentifierFromPath(link.string()))
+        return *name;
+    std::string name = readSystemFile("/etc/timezone");
+    name.resize(std::min(name.find_first_of(" \t\r\n"), name.size()));
+    return name.empty() ? "UTC" : name;
+}
+
+std::string systemLocale()
+{
+    for (const std::string_view variable : {"LC_ALL", "LC_TIME", "LANG"}) {
+        const auto name = Environment::current().variable(variable);
+        if (name && !name->empty())
+            return localeIdentifierFromSystemName(*name);
+    }
+    return localeIdentifierFromSystemName("");
+}
+
+std::filesystem::path homeFromUserDatabase()
+{
+    std::vector<char> buffer(16 * 1024);
+    passwd entry{};
+    passwd* found = nullptr;
+    if (::getpwuid_r(::getuid(), &entry, buffer.data(), buffer.size(), &found) == 0 && found && found->pw_dir)
+        return found->pw_dir;
+    return "/";
+}
+
+std::filesystem::path systemHome()
+{
+    const auto variable = Environment::current().variable("HOME");
+    return variable && !variable->empty() ? std::filesystem::path(*variable) : homeFromUserDatabase();
+}
+
+std::filesystem::path systemTemporaryFolder()
+{
+    const auto variable = Environment::current().variable("TMPDIR");
+    return variable && !variable->empty() ? *variable : "/tmp";
+}
+
+std::string systemHostName()
+{
+    if (auto name = valueInAssignments(readSystemFile("/etc/machine-info"), "PRETTY_HOSTNAME"))
+        return *name;
+    std::array<char, 257> name{};
+    if (::gethostname(name.data(), name.size() - 1) != 0 || name[0] == '\0')
+        return "localhost";
+    return name.data();
+}
+
+std::optional<MachineIdentifier> systemMachineIdentifier()
+{
+    return machineIdentifierFromText(readSystemFile("/etc/machine-id"));
+}
+
+} // namespace
+
+EnvironmentProviders systemEnvironmentProviders()
+{
+    return {.clock = systemTime,
+        .randomBytes = fillFromSystem,
+        .variable = processVariable,
+        .timeZoneIdentifier = systemTimeZone,
+        .localeIdentifier = systemLocale,
+        .homeDirectory = systemHome,
+        .temporaryDirectory = systemTemporaryFolder,
+        .hostName = systemHostName,
+        .machineIdentifier = systemMachineIdentifier};
+}
+
+} // namespace tarn

@@ -1,0 +1,101 @@
+#include "platform/foundation/FoldingInternal.h"
+#include "platform/foundation/NSException.h"
+#include "platform/foundation/UTF.h"
+
+#include <unicode/unistr.h>
+
+namespace tarn::folding {
+
+namespace {
+
+const icu::Normalizer2& require(const icu::Normalizer2* normalizer, UErrorCode status)
+{
+    if (U_FAILURE(status) || !normalizer)
+        throw NSException(NSInternalInconsistencyException, "The Unicode data of ICU are missing.");
+    return *normalizer;
+}
+
+icu::UnicodeString normalized(const icu::Normalizer2& normalizer, const icu::UnicodeString& text)
+{
+    UErrorCode status = U_ZERO_ERROR;
+    icu::UnicodeString result = normalizer.normalize(text, status);
+    if (U_FAILURE(status))
+        throw NSException(NSInternalInconsistencyException, "A text could not be normalized.");
+    return result;
+}
+
+icu::UnicodeString caseFolded(UChar32 codePoint)
+{
+    icu::UnicodeString text(codePoint);
+    return text.foldCase(U_FOLD_CASE_DEFAULT);
+}
+
+/// Folds every code point but the iota subscript, which is still a mark here.
+icu::UnicodeString withFoldedLetters(const icu::UnicodeString& text)
+{
+    icu::UnicodeString result;
+    for (int32_t index = 0; index < text.length(); index = text.moveIndex32(index, 1)) {
+        const UChar32 codePoint = text.char32At(index);
+        if (codePoint == icuCodePoint(kIotaSubscript))
+            result.append(codePoint);
+        else
+            result.append(caseFolded(codePoint));
+    }
+    return result;
+}
+
+icu::UnicodeString withoutMarksAndFormats(const icu::UnicodeString& text)
+{
+    icu::UnicodeString result;
+    RemovalFilter filter;
+    for (int32_t index = 0; index < text.length(); index = text.moveIndex32(index, 1)) {
+        const UChar32 codePoint = text.char32At(index);
+        const icu::UnicodeString folded = caseFolded(codePoint);
+        const UChar32 last = folded.char32At(folded.length() - 1);
+        if (filter.keeps(static_cast<char32_t>(codePoint), static_cast<char32_t>(last)))
+            result.append(codePoint);
+    }
+    return result;
+}
+
+} // namespace
+
+const icu::Normalizer2& canonicalDecomposition()
+{
+    UErrorCode status = U_ZERO_ERROR;
+    static const icu::Normalizer2& normalizer = require(icu::Normalizer2::getNFDInstance(status), status);
+    return normalizer;
+}
+
+const icu::Normalizer2& canonicalComposition()
+{
+    UErrorCode status = U_ZERO_ERROR;
+    static const icu::Normalizer2& normalizer = require(icu::Normalizer2::getNFCInstance(status), status);
+    return normalizer;
+}
+
+std::string foldByICU(std::string_view text, ComparisonOptions options)
+{
+    const std::u16string units = utf16FromUTF8(text);
+    icu::UnicodeString result(units.data(), static_cast<int32_t>(units.size()));
+    result = normalized(canonicalDecomposition(), result);
+    if (options.caseInsensitive)
+        result = withFoldedLetters(result);
+    if (options.diacriticInsensitive)
+        result = withoutMarksAndFormats(result);
+    if (options.caseInsensitive)
+        result.foldCase(U_FOLD_CASE_DEFAULT);
+    result = normalized(canonicalComposition(), result);
+    return utf8FromUTF16({result.getBuffer(), static_cast<std::size_t>(result.length())});
+}
+
+} // namespace tarn::folding
+
+namespace tarn {
+
+std::string foldByReference(std::string_view text)
+{
+    return folding::foldByICU(text, {.caseInsensitive = true, .diacriticInsensitive = true});
+}
+
+} // namespace tarn
