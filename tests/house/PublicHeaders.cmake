@@ -1,0 +1,32 @@
+# Every public header compiles when it is the first and only include: one source for each, in one object library that
+# only this case builds.
+set(rooms platform/foundation platform/predicate platform/coredata platform/imaging platform/cloudkit corvel encryption
+  model notes tags files sync search backup store)
+set(headers "")
+foreach(room IN LISTS rooms)
+  file(GLOB found CONFIGURE_DEPENDS RELATIVE "${PROJECT_SOURCE_DIR}" "${PROJECT_SOURCE_DIR}/${room}/*.h")
+  list(APPEND headers ${found})
+endforeach()
+file(GLOB found CONFIGURE_DEPENDS RELATIVE "${PROJECT_SOURCE_DIR}/include" "${PROJECT_SOURCE_DIR}/include/tarnmodel/*.h")
+list(APPEND headers ${found})
+list(FILTER headers EXCLUDE REGEX "Internal\\.h$")
+
+set(sources "")
+foreach(header IN LISTS headers)
+  string(MAKE_C_IDENTIFIER "${header}" name)
+  set(source "${CMAKE_CURRENT_BINARY_DIR}/headers/${name}.cpp")
+  file(CONFIGURE OUTPUT "${source}" CONTENT "#include \"@header@\"\n#include \"@header@\" // and once more\n" @ONLY)
+  list(APPEND sources "${source}")
+endforeach()
+
+add_library(house_public_headers OBJECT EXCLUDE_FROM_ALL ${sources})
+# Headers alone, without the include folders of the libraries that the sources use.
+target_include_directories(house_public_headers PRIVATE
+  "${PROJECT_SOURCE_DIR}" "${PROJECT_SOURCE_DIR}/include" "${PROJECT_BINARY_DIR}/generated")
+target_link_libraries(house_public_headers PRIVATE tarn_build_flags)
+target_compile_options(house_public_headers PRIVATE -O0 -g0)
+add_dependencies(house_public_headers TarnModel)
+
+house_case(EveryPublicHeaderCompilesAlone TIMEOUT 600
+  COMMAND "${CMAKE_COMMAND}" --build "${PROJECT_BINARY_DIR}" --target house_public_headers)
+set_tests_properties("house/EveryPublicHeaderCompilesAlone" PROPERTIES RESOURCE_LOCK build_folder)
