@@ -203,7 +203,9 @@ TEST_F(HostIdentity, IgnoresAnEmptyOrRelativeStateFolder)
     for (const std::string_view folder : {"", "state/here"}) {
         world_.setVariable("XDG_STATE_HOME", std::string(folder));
 
-        EXPECT_EQ(OVDeviceUUID::deviceUUID(), contents(identifierFile()));
+        const auto identifier = OVDeviceUUID::deviceUUID();
+
+        EXPECT_EQ(contents(identifierFile()), identifier);
     }
 }
 
