@@ -1,0 +1,259 @@
+#include "platform/coredata/StoreSchema.h"
+
+#include <algorithm>
+
+namespace tarn {
+
+std::string quotedIdentifier(std::string_view text)
+{
+    std::string quoted = "\"";
+    for (const char c : text) {
+        quoted += c;
+        if (c == '"')
+            quoted += c;
+    }
+    return quoted += '"';
+}
+
+std::string shadowColumnName(const NSAttributeDescription& attribute)
+{
+    return attribute.name() + "_folded";
+}
+
+// Tables and columns --------------------------------------------------------------------------------------------------
+
+StoreSchema::StoreSchema(const NSManagedObjectModel& model) : model_(model)
+{
+    for (const NSEntityDescription* entity : model.entities())
+        if (&entity->rootEntity() == entity)
+            addTable(*entity);
+    for (const NSEntityDescription* entity : model.entities())
+        addJoins(*entity);
+    linkColumns();
+}
+
+void StoreSchema::addTable(const NSEntityDescription& root)
+{
+    auto table = std::make_unique<StoreTable>();
+    table->root = &root;
+    table->name = root.name();
+    table->largeName = root.name() + "_large";
+    table->hasDiscriminator = !root.subentities().empty();
+    addColumns(*table, root);
+    tablesByRoot_.emplace(&root, table.get());
+    tables_.push_back(std::move(table));
+}
+
+void StoreSchema::addColumns(StoreTable& table, const NSEntityDescription& entity)
+{
+    for (const NSPropertyDescription* property : entity.properties()) {
+        bool large = false;
+        if (property->isRelationship()) {
+            const auto& relationship = static_cast<const NSRelationshipDescription&>(*property);
+            if (relationship.isToMany() || relationship.storage() != RelationshipStorage::Column)
+                continue;
+        } else {
+            large = static_cast<const NSAttributeDescription&>(*property).isLarge();
+        }
+        auto& columns = large ? table.largeColumns : table.columns;
+        const auto isSame = [&](const StoreColumn& column) { return column.name == property->name(); };
+        if (std::none_of(columns.begin(), columns.end(), isSame))
+            columns.push_back({property->name(), property, nullptr});
+    }
+    for (const NSEntityDescription* subentity : entity.subentities())
+        addColumns(table, *subentity);
+}
+
+void StoreSchema::addJoins(const NSEntityDescription& entity)
+{
+    for (const NSRelationshipDescription* relationship : entity.relationships()) {
+        if (relationship->storage() != RelationshipStorage::JoinTable || !relationship->ownsJoinTable())
+            continue;
+        if (&relationship->declaringEntity() != &entity)
+            continue;
+        auto join = std::make_unique<JoinTable>();
+        join->name = entity.name() + "_" + relationship->name();
+        join->relationship = relationship;
+        StoreTable* owner = &mutableTable(entity);
+        StoreTable* member = &mutableTable(relationship->destinationEntity());
+        join->owner = owner;
+        join->member = member;
+        owner->joins.push_back(join.get());
+        if (member != owner)
+            member->joins.push_back(join.get());
+        joinsByRelationship_.emplace(relationship, join.get());
+        joinsByRelationship_.emplace(&relationship->inverseRelationship(), join.get());
+        joins_.push_back(std::move(join));
+    }
+}
+
+void StoreSchema::linkColumns()
+{
+    for (const auto& table : tables_) {
+        for (StoreColumn& column : table->columns) {
+            if (!column.property->isRelationship())
+                continue;
+            const auto& relationship = static_cast<const NSRelationshipDescription&>(*column.property);
+            StoreTable* target = &mutableTable(relationship.destinationEntity());
+            column.target = target;
+            target->referringColumns.push_back({table.get(), column.name});
+        }
+    }
+}
+
+const StoreTable& StoreSchema::table(const NSEntityDescription& entity) const
+{
+    return *tablesByRoot_.at(&entity.rootEntity());
+}
+
+const JoinTable& StoreSchema::join(const NSRelationshipDescription& relationship) const
+{
+    return *joinsByRelationship_.at(&relationship);
+}
+
+JoinDirection joinDirection(const StoreSchema& schema, const NSRelationshipDescription& relationship)
+{
+    const JoinTable& table = schema.join(relationship);
+    if (&relationship == table.relationship)
+        return {&table, "owner", "member"};
+    return {&table, "member", "owner"};
+}
+
+// Statements ----------------------------------------------------------------------------------------------------------
+
+namespace {
+
+std::string_view columnType(NSAttributeType type)
+{
+    switch (type) {
+    case NSAttributeType::Double:
+        return "REAL";
+    case NSAttributeType::String:
+        return "TEXT";
+    case NSAttributeType::Data:
+        return "BLOB";
+    default:
+        return "INTEGER";
+    }
+}
+
+std::string referenceTo(const StoreTable& table)
+{
+    return " REFERENCES " + quotedIdentifier(table.name) + " (\"pk\") DEFERRABLE INITIALLY DEFERRED";
+}
+
+std::string columnDefinition(const StoreColumn& column)
+{
+    const std::string name = quotedIdentifier(column.name);
+    if (const auto* attribute = column.attribute())
+        return name + " " + std::string(columnType(attribute->type()));
+    return name + " INTEGER" + referenceTo(*column.target);
+}
+
+std::string tableStatement(const StoreTable& table)
+{
+    std::string sql = "CREATE TABLE " + quotedIdentifier(table.name) + " (\"pk\" INTEGER PRIMARY KEY";
+    if (table.hasDiscriminator)
+        sql += ", \"entity\" TEXT NOT NULL";
+    sql += ", \"rowVersion\" INTEGER NOT NULL";
+    for (const StoreColumn& column : table.columns)
+        sql += ", " + columnDefinition(column);
+    for (const StoreColumn& column : table.columns)
+        if (column.attribute() && hasShadowColumn(*column.attribute()))
+            sql += ", " + quotedIdentifier(shadowColumnName(*column.attribute())) + " TEXT";
+    return sql + ")";
+}
+
+std::string largeTableStatement(const StoreTable& table)
+{
+    std::string sql
+        = "CREATE TABLE " + quotedIdentifier(table.largeName) + " (\"pk\" INTEGER PRIMARY KEY" + referenceTo(table);
+    for (const StoreColumn& column : table.largeColumns)
+        sql += ", " + columnDefinition(column);
+    return sql + ")";
+}
+
+std::string indexStatement(const std::string& name, const std::string& table, const std::string& columns, bool unique)
+{
+    return std::string("CREATE ") + (unique ? "UNIQUE " : "") + "INDEX " + quotedIdentifier(name) + " ON "
+        + quotedIdentifier(table) + " (" + columns + ")";
+}
+
+void addShadowStatements(
+    const StoreTable& table, const NSAttributeDescription& attribute, std::vector<std::string>& all)
+{
+    const std::string column = quotedIdentifier(attribute.name());
+    const std::string shadow = quotedIdentifier(shadowColumnName(attribute));
+    const std::string stale = table.name + "_" + attribute.name() + "_stale";
+    all.push_back(indexStatement(table.name + "_" + shadowColumnName(attribute), table.name, shadow, false));
+    // Normally empty: the rows whose folded value has to be made again.
+    all.push_back(indexStatement(stale, table.name, "\"pk\"", false) + " WHERE " + shadow + " IS NULL AND " + column
+        + " IS NOT NULL");
+    // Another program that changes the attribute knows nothing of its shadow.
+    all.push_back("CREATE TRIGGER " + quotedIdentifier(stale) + " AFTER UPDATE OF " + column + " ON "
+        + quotedIdentifier(table.name) + " WHEN NEW." + column + " IS NOT OLD." + column + " AND NEW." + shadow
+        + " IS OLD." + shadow + " BEGIN UPDATE " + quotedIdentifier(table.name) + " SET " + shadow
+        + " = NULL WHERE \"pk\" = NEW.\"pk\"; END");
+}
+
+void addColumnIndexes(const StoreTable& table, std::vector<std::string>& all)
+{
+    for (const StoreColumn& column : table.columns) {
+        const auto* attribute = column.attribute();
+        if (!attribute || attribute->isIndexed())
+            all.push_back(
+                indexStatement(table.name + "_" + column.name, table.name, quotedIdentifier(column.name), false));
+        if (attribute && hasShadowColumn(*attribute))
+            addShadowStatements(table, *attribute, all);
+    }
+}
+
+void addCompositeIndexes(const StoreTable& table, const NSEntityDescription& entity, std::vector<std::string>& all)
+{
+    for (const IndexDescription& index : entity.indexes()) {
+        std::string name = table.name;
+        std::string columns;
+        for (const auto& column : index.columns) {
+            name += "_" + column.property;
+            columns += (columns.empty() ? "" : ", ") + quotedIdentifier(column.property)
+                + (column.descending ? " DESC" : "");
+        }
+        const std::string statement = indexStatement(name, table.name, columns, index.unique);
+        if (std::find(all.begin(), all.end(), statement) == all.end())
+            all.push_back(statement);
+    }
+    for (const NSEntityDescription* subentity : entity.subentities())
+        addCompositeIndexes(table, *subentity, all);
+}
+
+void addJoinStatements(const JoinTable& join, std::vector<std::string>& all)
+{
+    all.push_back("CREATE TABLE " + quotedIdentifier(join.name) + " (\"owner\" INTEGER NOT NULL"
+        + referenceTo(*join.owner) + ", \"member\" INTEGER NOT NULL" + referenceTo(*join.member)
+        + ", PRIMARY KEY (\"owner\", \"member\")) WITHOUT ROWID");
+    all.push_back(indexStatement(join.name + "_member", join.name, "\"member\", \"owner\"", true));
+}
+
+} // namespace
+
+std::vector<std::string> StoreSchema::creationStatements() const
+{
+    std::vector<std::string> all{
+        "CREATE TABLE \"store_metadata\" (\"key\" TEXT PRIMARY KEY, \"value\" TEXT) WITHOUT ROWID",
+        "CREATE TABLE \"store_keys\" (\"entity\" TEXT PRIMARY KEY, \"nextKey\" INTEGER NOT NULL) WITHOUT ROWID",
+    };
+    for (const auto& table : tables_) {
+        all.push_back(tableStatement(*table));
+        if (!table->largeColumns.empty())
+            all.push_back(largeTableStatement(*table));
+    }
+    for (const auto& join : joins_)
+        addJoinStatements(*join, all);
+    for (const auto& table : tables_) {
+        addColumnIndexes(*table, all);
+        addCompositeIndexes(*table, *table->root, all);
+    }
+    return all;
+}
+
+} // namespace tarn
