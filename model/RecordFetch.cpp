@@ -1,0 +1,15 @@
+#include "model/RecordFetch.h"
+
+#include "platform/foundation/Log.h"
+
+#include <string>
+
+namespace tarn {
+
+void logFetchFailure(const NSError& error)
+{
+    const std::string& description = error.localizedDescription();
+    logMessage("Error while fetching\n" + (description.empty() ? "Unknown Error" : description));
+}
+
+} // namespace tarn
