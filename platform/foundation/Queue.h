@@ -55,8 +55,7 @@ private:
     std::string label_;
 };
 
-/// A zero-delay timer that fires once. A handle: the timer goes on when the handle goes. Copies are the same timer.
-class Timer;
+class MainQueueState;
 
 /// The queue of a thread that belongs to the host: it runs tasks only while that thread calls `drain` or `runUntil`, or
 /// waits in a `sync` (then only the `sync` calls of others).
@@ -105,13 +104,12 @@ public:
 
 private:
     friend class Timer;
-    friend class Queue;
     void enqueueAwaited(Task task) override;
 
-    struct State;
-    std::shared_ptr<State> state_;
+    std::shared_ptr<MainQueueState> state_;
 };
 
+/// A zero-delay timer that fires once. A handle: the timer goes on when the handle goes. Copies are the same timer.
 class Timer {
 public:
     Timer() = default;
@@ -123,15 +121,15 @@ public:
     bool isValid() const noexcept;
 
 private:
-    friend class MainQueue;
     struct State;
+    friend class MainQueueState;
     std::shared_ptr<State> state_;
 };
 
 /// A private queue: first in, first out, one task at a time, on the threads of the global queue.
 ///
 /// It keeps itself alive while it has work.
-class SerialQueue final : public Queue {
+class SerialQueue final : public Queue, public std::enable_shared_from_this<SerialQueue> {
 public:
     static std::shared_ptr<SerialQueue> make(std::string_view label);
     ~SerialQueue() override;
@@ -144,12 +142,16 @@ public:
 private:
     explicit SerialQueue(std::string_view label);
     void enqueueAwaited(Task task) override;
+    void runPass(const Task& task);
 
     struct State;
-    std::shared_ptr<State> state_;
+    std::unique_ptr<State> state_;
 };
 
 /// The concurrent queue of the process: at least two threads, more while some of them wait in a `sync`.
+///
+/// When the process ends, `MainQueue::main()` takes no more tasks, and the tasks of this queue that are left run to
+/// their end.
 class GlobalQueue final : public Queue {
 public:
     static GlobalQueue& shared();

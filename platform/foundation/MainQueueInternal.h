@@ -1,0 +1,75 @@
+#pragma once
+
+#include "platform/foundation/QueueInternal.h"
+#include "platform/foundation/WakeDescriptorInternal.h"
+
+#include <deque>
+
+namespace tarn {
+
+struct Timer::State {
+    std::weak_ptr<MainQueueState> queue;
+    Task task;
+    bool isPending = true; ///< guarded by the queue's mutex
+};
+
+/// What a main queue holds, shared with the threads that hand it tasks.
+class MainQueueState : public std::enable_shared_from_this<MainQueueState> {
+public:
+    explicit MainQueueState(MainQueue& queue);
+
+    bool isOwnedByThisThread() const noexcept { return parking_ == ThreadParking::ofThisThread(); }
+    ThreadParking& parking() noexcept { return *parking_; }
+    /// Null once the queue has ended.
+    MainQueue* queue() const;
+
+    // Any thread.
+    void enqueue(Task task, bool isAwaited);
+    bool setCoalesced(const void* key, Task task);
+    void removeCoalesced(const void* key);
+    void setAtEndOfPass(const void* key, Task task);
+    void removeAtEndOfPass(const void* key);
+    Timer scheduleTimer(Task task);
+    static void invalidate(Timer& timer);
+    static bool isPending(const Timer& timer);
+    bool hasWork() const;
+    void setWake(Task wake);
+    int fileDescriptor();
+    /// Drops what is queued and takes nothing any more.
+    void close();
+
+    // The owning thread.
+    std::size_t runPass(MainQueue& queue);
+    /// Runs one task that another thread waits for; false when there is none.
+    bool runAwaited();
+
+private:
+    struct Item {
+        std::uint64_t number;
+        bool isAwaited;
+        Task task;
+    };
+    class Pass;
+
+    bool hasWorkLocked() const noexcept;
+    void announceWork(std::unique_lock<std::mutex> lock);
+    void forgetAnnouncementWithoutWork();
+    std::size_t runTimers(MainQueue& queue);
+    std::size_t runQueued(MainQueue& queue);
+    std::size_t runKeyed(MainQueue& queue, KeyedTasks& tasks);
+
+    const std::shared_ptr<ThreadParking> parking_ = ThreadParking::ofThisThread();
+    mutable std::mutex mutex_;
+    MainQueue* queue_;
+    std::deque<Item> items_;
+    std::uint64_t lastNumber_ = 0;
+    KeyedTasks coalesced_;
+    KeyedTasks endOfPass_;
+    std::vector<std::shared_ptr<Timer::State>> timers_;
+    Task wake_;
+    WakeDescriptor descriptor_;
+    bool isAnnounced_ = false; ///< the host has been told of the work
+    int passDepth_ = 0;
+};
+
+} // namespace tarn

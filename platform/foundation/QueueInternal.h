@@ -1,0 +1,87 @@
+#pragma once
+
+#include "platform/foundation/Queue.h"
+
+#include <chrono>
+#include <condition_variable>
+#include <cstdint>
+#include <exception>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <vector>
+
+namespace tarn {
+
+/// Where a thread sleeps, whatever it waits for: tasks for its main queues, or the end of a `sync`.
+class ThreadParking {
+public:
+    using TimePoint = std::chrono::steady_clock::time_point;
+
+    /// The one of the calling thread.
+    static const std::shared_ptr<ThreadParking>& ofThisThread();
+
+    /// Wakes the thread, now or when it next goes to sleep. Any thread.
+    void poke();
+    /// How often it was poked; look at it before looking at what the poke may have changed.
+    std::uint64_t pokes() const;
+    /// Sleeps until there was a poke since `seen`; false when the deadline came first. On the thread itself.
+    bool sleepUntil(TimePoint deadline, std::uint64_t seen);
+    void sleep(std::uint64_t seen);
+
+    void addMainQueue(std::weak_ptr<MainQueueState> queue);
+    /// The living main queues of the thread, in the order in which they were made.
+    std::vector<std::shared_ptr<MainQueueState>> mainQueues() const;
+
+private:
+    mutable std::mutex mutex_;
+    std::condition_variable poked_;
+    std::uint64_t pokes_ = 0;
+    std::vector<std::weak_ptr<MainQueueState>> mainQueues_;
+};
+
+/// Runs what other threads wait for on the main queues of the calling thread; what waits for nobody stays queued.
+void serveAwaitedTasksOfThisThread();
+
+/// Makes a queue the current one of the calling thread.
+class CurrentQueueScope {
+public:
+    explicit CurrentQueueScope(Queue* queue) noexcept;
+    ~CurrentQueueScope();
+    CurrentQueueScope(const CurrentQueueScope&) = delete;
+    CurrentQueueScope& operator=(const CurrentQueueScope&) = delete;
+
+    /// The queue set last, or null.
+    static Queue* queue() noexcept;
+
+private:
+    Queue* previous_;
+};
+
+/// Runs a task of a queue; what it throws is logged.
+void runTask(Queue& queue, const Task& task);
+
+/// Tasks that wait for the end of a pass, one for each key, in the order in which they were asked for. Not locked.
+class KeyedTasks {
+public:
+    /// Whether the key is new; a known one gets the other task and keeps its place.
+    bool set(const void* key, Task task);
+    /// Whether the key was there.
+    bool remove(const void* key);
+    bool contains(const void* key) const;
+    bool isEmpty() const noexcept { return entries_.empty(); }
+    /// Give it to `takeFirst` to get only what is here now.
+    std::uint64_t lastNumber() const noexcept { return lastNumber_; }
+    std::optional<Task> takeFirst(std::uint64_t lastNumber);
+
+private:
+    struct Entry {
+        const void* key;
+        std::uint64_t number;
+        Task task;
+    };
+    std::vector<Entry> entries_;
+    std::uint64_t lastNumber_ = 0;
+};
+
+} // namespace tarn
