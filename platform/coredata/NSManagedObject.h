@@ -25,13 +25,11 @@ struct RecordDetails;
 /// What a record object is made from; only contexts make one.
 class NSManagedObjectSeed {
 private:
-    friend class ContextCore;
     friend class NSManagedObject;
+    friend class RecordAccess;
     NSManagedObjectSeed(NSManagedObjectContext& context, const NSManagedObjectID& objectID)
-        : context_(&context)
-        , objectID_(objectID)
-    {
-    }
+        : context_(&context), objectID_(objectID)
+    { }
     NSManagedObjectContext* context_;
     NSManagedObjectID objectID_;
 };
@@ -47,10 +45,7 @@ public:
 
 private:
     friend class NSManagedObject;
-    explicit KeyValueObservation(std::weak_ptr<void> registration)
-        : registration_(std::move(registration))
-    {
-    }
+    explicit KeyValueObservation(std::weak_ptr<void> registration) : registration_(std::move(registration)) { }
     std::weak_ptr<void> registration_;
 };
 
@@ -72,13 +67,16 @@ public:
     NSManagedObjectID identifyingObjectID() const final { return objectID_; }
 
     // State -----------------------------------------------------------------------------------------------------------
-    bool isInserted() const noexcept { return flags_ & Inserted; } ///< not saved yet
-    bool isUpdated() const noexcept; ///< saved before, with unsaved changes
-    bool isDeleted() const noexcept { return flags_ & Deleted; } ///< deleted, saved or not
-    bool isFault() const noexcept { return flags_ & Fault; } ///< values not read yet
-    bool hasChanges() const noexcept; ///< inserted, updated or deleted, not saved
+    bool isInserted() const noexcept { return (flags_ & (Inserted | Deleted)) == Inserted; } ///< not saved yet
+    bool isUpdated() const noexcept;                                 ///< saved before, with unsaved changes
+    bool isDeleted() const noexcept { return flags_ & Deleted; }     ///< deleted, saved or not
+    bool isFault() const noexcept { return flags_ & Fault; }         ///< values not read yet
+    bool hasChanges() const noexcept;                                ///< inserted, updated or deleted, not saved
     std::uint32_t insertionOrder() const noexcept { return order_; } ///< among the inserted records of its context
-    std::int64_t rowVersion() const noexcept { return rowVersion_; } ///< of the row that its values were read from; 0 before the first save
+    std::int64_t rowVersion() const noexcept
+    {
+        return rowVersion_;
+    } ///< of the row that its values were read from; 0 before the first save
     /// Names and present values of what changed since the last save; a to-many as an array.
     std::map<std::string, Value> changedValues() const;
     /// The same since changes were last processed.
@@ -90,11 +88,12 @@ public:
     std::map<std::string, Value> committedValuesForKeys(const std::vector<std::string>& keys) const;
 
     // Key-value coding ------------------------------------------------------------------------------------------------
-    /// Through the accessors of the record's class, guarded ones included. Raises `NSUndefinedKeyException` for an unknown key.
+    /// Through the accessors of the record's class, guarded ones included. Raises `NSUndefinedKeyException` for an
+    /// unknown key.
     virtual Value valueForKey(std::string_view key) const;
     virtual void setValueForKey(std::string_view key, const Value& value);
     Value storedValueForKey(std::string_view key) const override;
-    /// Stores without notice; use between `willChangeValueForKey` and `didChangeValueForKey`.
+    /// Stores without telling observers; use between `willChangeValueForKey` and `didChangeValueForKey`.
     void setPrimitiveValueForKey(std::string_view key, const Value& value);
 
     // Key-value observation -------------------------------------------------------------------------------------------
@@ -110,14 +109,14 @@ public:
     void didAccessValueForKey(std::string_view key) const;
 
     // Life ------------------------------------------------------------------------------------------------------------
-    /// Called once when the record is inserted, fetched for the first time, before it is deleted, before it is saved.
+    /// Called when the record is inserted, before it is deleted, before it is saved.
     virtual void awakeFromInsert() { }
-    virtual void awakeFromFetch() { }
     virtual void prepareForDeletion() { }
     virtual void willSave() { }
 
-    // By property index: what generated accessors rest on -----------------------------------------------------------------
-    // Getters read the stored value (firing the fault). Setters announce the change; primitive ones do not.
+    // By property index: what generated accessors rest on
+    // ----------------------------------------------------------------- Getters read the stored value (firing the
+    // fault). Setters tell observers; primitive ones do not.
     std::optional<bool> booleanAt(PropertyIndex index) const;
     std::optional<std::int64_t> integerAt(PropertyIndex index) const;
     std::optional<double> doubleAt(PropertyIndex index) const;
@@ -144,8 +143,17 @@ public:
     ToManySet& toManyAt(PropertyIndex index) const;
 
 private:
-    friend class ContextCore;
-    friend class ToManySet;
+    friend class RecordAccess;
+    ContextCore& core() const noexcept;
+    /// Fires the fault and reads a large attribute; false when the record is gone.
+    bool prepareRead(PropertyIndex index) const;
+    /// Runs `assign`, which answers whether the value became another one, as a tracked change.
+    template <typename Assign> void write(PropertyIndex index, bool tell, Assign&& assign);
+    void tellObservers(std::string_view key);
+    void putInteger(PropertyIndex index, bool tell, std::optional<std::int64_t> value);
+    void putBytes(PropertyIndex index, bool tell, std::optional<std::string_view> value);
+    std::map<std::string, Value> valuesOf(PropertyMask mask) const;
+    std::set<std::string> namesOf(PropertyMask mask) const;
     enum Flag : std::uint32_t { Inserted = 1, Deleted = 2, Fault = 4, Gone = 8, BeingDeleted = 16 };
 
     NSManagedObjectContext* context_;

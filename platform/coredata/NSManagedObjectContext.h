@@ -23,8 +23,8 @@ class NSPersistentStoreCoordinator;
 
 /// Who wins where a record was changed here and in the store since it was read.
 enum class NSMergePolicy : std::uint8_t {
-    Error, ///< the save fails
-    MergeByPropertyStoreTrump, ///< property by property, the store's where both changed
+    Error,                      ///< the save fails
+    MergeByPropertyStoreTrump,  ///< property by property, the store's where both changed
     MergeByPropertyObjectTrump, ///< property by property, this context's where both changed
 };
 
@@ -36,11 +36,15 @@ struct MergeConflict {
 };
 
 // Notifications; `object` is the context. The payload is one of the structures below, valid during the call.
-inline constexpr std::string_view NSManagedObjectContextObjectsDidChangeNotification = "NSManagedObjectContextObjectsDidChangeNotification";
-inline constexpr std::string_view NSManagedObjectContextWillSaveNotification = "NSManagedObjectContextWillSaveNotification";
-inline constexpr std::string_view NSManagedObjectContextDidSaveNotification = "NSManagedObjectContextDidSaveNotification";
+inline constexpr std::string_view NSManagedObjectContextObjectsDidChangeNotification
+    = "NSManagedObjectContextObjectsDidChangeNotification";
+inline constexpr std::string_view NSManagedObjectContextWillSaveNotification
+    = "NSManagedObjectContextWillSaveNotification";
+inline constexpr std::string_view NSManagedObjectContextDidSaveNotification
+    = "NSManagedObjectContextDidSaveNotification";
 /// Another connection or process has changed the store since this context last read.
-inline constexpr std::string_view NSManagedObjectContextStoreDidChangeElsewhereNotification = "NSManagedObjectContextStoreDidChangeElsewhereNotification";
+inline constexpr std::string_view NSManagedObjectContextStoreDidChangeElsewhereNotification
+    = "NSManagedObjectContextStoreDidChangeElsewhereNotification";
 
 /// Payload of objects-did-change and did-save (where `refreshed` is empty).
 struct ObjectChanges {
@@ -79,32 +83,40 @@ public:
     /// Hears of values that a merge dropped.
     void setMergeConflictHandler(std::function<void(const MergeConflict&)> handler);
 
-    // Records -----------------------------------------------------------------------------------------------------------
-    /// Inserts a record of the entity with its default values and a temporary identifier. An abstract entity may be inserted too.
+    // Records
+    // -----------------------------------------------------------------------------------------------------------
+    /// Inserts a record of the entity with its default values and a temporary identifier. An abstract entity may be
+    /// inserted too.
     NSManagedObject& insertObject(const NSEntityDescription& entity);
     /// Inserts by name, as the class that is registered. Raises `NSInvalidArgumentException` for an unknown entity.
     NSManagedObject& insertObject(std::string_view entityName);
     /// Runs `prepareForDeletion`, then takes the record out of all relationships (by their delete rules) and fetches.
     /// The rows go at the next save. Deleting twice is no error.
     void deleteObject(NSManagedObject& object);
-    /// The record with this identifier, read when it is not here yet; null when the store does not know it (or cannot be read).
+    /// The record with this identifier, read when it is not here yet; null when the store does not know it (or cannot
+    /// be read).
     NSManagedObject* existingObjectWithID(const NSManagedObjectID& objectID, NSError* error = nullptr);
-    /// The record with this identifier, a fault when it is not here yet; null when the store does not know it.
+    /// The record with this identifier, a fault when it is not here yet; a row that is not there shows when the fault
+    /// is read: then the record is deleted. Null for a deleted record and for a temporary identifier of another
+    /// context.
     NSManagedObject* objectWithID(const NSManagedObjectID& objectID);
     /// The record if it is here; never reads.
     NSManagedObject* objectRegisteredForID(const NSManagedObjectID& objectID) const;
     std::vector<NSManagedObject*> registeredObjects() const;
 
-    // Queries see unsaved changes -----------------------------------------------------------------------------------------
+    // Queries see unsaved changes
+    // -----------------------------------------------------------------------------------------
     /// None and an error on failure; for callers to whom failure is not emptiness.
     std::optional<std::vector<NSManagedObject*>> fetch(const NSFetchRequest& request, NSError* error = nullptr);
     /// The same; empty on failure.
     std::vector<NSManagedObject*> executeFetchRequest(const NSFetchRequest& request, NSError* error = nullptr);
     std::optional<std::size_t> count(const NSFetchRequest& request, NSError* error = nullptr);
     std::size_t countForFetchRequest(const NSFetchRequest& request, NSError* error = nullptr);
-    std::optional<std::vector<DictionaryResult>> executeDictionaryFetchRequest(const NSFetchRequest& request, NSError* error = nullptr);
+    std::optional<std::vector<DictionaryResult>> executeDictionaryFetchRequest(
+        const NSFetchRequest& request, NSError* error = nullptr);
 
-    // Changes ---------------------------------------------------------------------------------------------------------------
+    // Changes
+    // ---------------------------------------------------------------------------------------------------------------
     bool hasChanges() const;
     // Snapshots, in order of insertion or primary key: safe to walk while records are inserted or deleted.
     std::vector<NSManagedObject*> insertedObjects() const;
@@ -112,11 +124,13 @@ public:
     std::vector<NSManagedObject*> deletedObjects() const;
     /// Gives records identifiers that stay; nothing is saved.
     bool obtainPermanentIDsForObjects(std::span<NSManagedObject* const> objects, NSError* error = nullptr);
-    /// Writes all changes in one transaction. On failure nothing is written and the changes stay. Without changes it does nothing.
+    /// Writes all changes in one transaction. On failure nothing is written and the changes stay. Without changes it
+    /// does nothing.
     bool save(NSError* error = nullptr);
     /// Drops all changes since the last save; inserted records read as deleted.
     void rollback();
     /// Takes the store's write lock before the block's first read and saves after it: find-or-create across processes.
+    /// A `save` inside the block does nothing, since the end of the block saves.
     /// An exception of the block rolls back and is raised again.
     bool performExclusive(const std::function<void()>& block, NSError* error = nullptr);
     /// Posts objects-did-change for what changed since the last time. Runs by itself at the end of the queue's pass.
@@ -127,7 +141,8 @@ public:
     /// Forgets everything; all records of this context are gone.
     void reset();
 
-    // Work on its queue ---------------------------------------------------------------------------------------------------------
+    // Work on its queue
+    // ---------------------------------------------------------------------------------------------------------
     Queue& queue() const noexcept;
     void performBlock(std::function<void()> block);
     void performBlockAndWait(const std::function<void()>& block);

@@ -4,7 +4,7 @@
 
 #include <cstddef>
 #include <span>
-#include <type_traits>
+#include <unordered_set>
 #include <vector>
 
 namespace tarn {
@@ -34,23 +34,28 @@ public:
     const std::vector<NSManagedObject*>& removed() const noexcept { return removed_; }
 
 private:
-    friend class ContextCore;
+    friend class RelationshipMaintenance;
+    bool holds(const NSManagedObject& member) const;
+    void put(NSManagedObject& member);
+    void take(NSManagedObject& member);
+    void load();
+    void settle();
+    void unload();
+
     NSManagedObject* owner_;
     const NSRelationshipDescription* relationship_;
     bool loaded_ = false;
-    std::vector<NSManagedObject*> members_; ///< only while loaded
+    std::vector<NSManagedObject*> members_;                    ///< only while loaded
+    mutable std::unordered_set<const NSManagedObject*> index_; ///< of members_, once there are many
     std::vector<NSManagedObject*> added_;
     std::vector<NSManagedObject*> removed_;
 };
 
-/// The live, typed set that a record's `xSet()` gives. A light handle: copy it freely, keep it no longer than the record.
-template <typename Record>
-class NSManagedObjectSet {
+/// The live, typed set that a record's `xSet()` gives. A light handle: copy it freely, keep it no longer than the
+/// record.
+template <typename Record> class NSManagedObjectSet {
 public:
-    explicit NSManagedObjectSet(ToManySet& set)
-        : set_(&set)
-    {
-    }
+    explicit NSManagedObjectSet(ToManySet& set) : set_(&set) { }
 
     void addObject(Record& record) { set_->add(record); }
     void removeObject(Record& record) { set_->remove(record); }

@@ -42,31 +42,45 @@ void appendDouble(std::string& result, double number)
         result += ".0"; // or it would be read as an integer
 }
 
+bool needsEscape(char32_t codePoint)
+{
+    const bool isControl = codePoint < 0x20 || (codePoint >= 0x7F && codePoint < 0xA0);
+    return isControl || codePoint == '"' || codePoint == '\\' || codePoint == 0x2028 || codePoint == 0x2029;
+}
+
+void appendEscaped(std::string& result, char32_t codePoint)
+{
+    switch (codePoint) {
+    case '"':
+    case '\\':
+        (result += '\\') += static_cast<char>(codePoint);
+        break;
+    case '\n':
+        result += "\\n";
+        break;
+    case '\r':
+        result += "\\r";
+        break;
+    case '\t':
+        result += "\\t";
+        break;
+    default:
+        fmt::format_to(std::back_inserter(result), "\\u{:04x}", static_cast<std::uint32_t>(codePoint));
+    }
+}
+
 void appendString(std::string& result, std::string_view text)
 {
     result += '"';
     for (std::size_t offset = 0; offset < text.size();) {
-        const auto byte = static_cast<unsigned char>(text[offset]);
-        const std::size_t length = byte < 0x80 ? 1 : decodeCodePoint(text, offset).length;
-        const char32_t codePoint = byte < 0x80 ? byte : decodeCodePoint(text, offset).codePoint;
-        const std::string_view character = text.substr(offset, length);
-        offset += length;
-        if (codePoint == '"' || codePoint == '\\') {
-            (result += '\\') += character;
-        } else if (codePoint == '\n') {
-            result += "\\n";
-        } else if (codePoint == '\r') {
-            result += "\\r";
-        } else if (codePoint == '\t') {
-            result += "\\t";
-        } else if (codePoint < 0x20 || (codePoint >= 0x7F && codePoint < 0xA0) || codePoint == 0x2028
-            || codePoint == 0x2029) {
-            fmt::format_to(std::back_inserter(result), "\\u{:04x}", static_cast<std::uint32_t>(codePoint));
-        } else if (codePoint == 0xFFFD) {
-            result += "\xEF\xBF\xBD"; // also for bytes that are no UTF-8
-        } else {
-            result += character;
-        }
+        const DecodedCodePoint decoded = decodeCodePoint(text, offset);
+        if (needsEscape(decoded.codePoint))
+            appendEscaped(result, decoded.codePoint);
+        else if (decoded.valid)
+            result += text.substr(offset, decoded.length);
+        else
+            appendCodePoint(result, decoded.codePoint);
+        offset += decoded.length;
     }
     result += '"';
 }
@@ -81,9 +95,6 @@ void appendDate(std::string& result, NSDate date)
     if (seconds < 0 && fraction > 0) {
         ++seconds;
         fraction -= kMicrosecondsPerSecond;
-    } else if (seconds > 0 && fraction < 0) {
-        --seconds;
-        fraction += kMicrosecondsPerSecond;
     }
     const char* sign = seconds < 0 || fraction < 0 ? "-" : "";
     fmt::format_to(

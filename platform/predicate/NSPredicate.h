@@ -50,7 +50,8 @@ private:
 };
 
 /// The key paths that a predicate reads from its root object, those inside SUBQUERY joined to the collection's path:
-/// `SUBQUERY(files, $f, $f.unused == NO).@count > 0` reads `files` and `files.unused`. Each once, in order of appearance.
+/// `SUBQUERY(files, $f, $f.unused == NO).@count > 0` reads `files` and `files.unused`. Each once, in order of
+/// appearance.
 std::vector<std::vector<std::string>> keyPathsReadByPredicate(const NSPredicate& predicate);
 
 } // namespace tarn

@@ -22,15 +22,14 @@ struct ConstantExpression {
     Value value;
 };
 /// `SELF`, the object that the predicate is evaluated with.
-struct SelfExpression {
-};
+struct SelfExpression { };
 /// `$note`, bound by the SUBQUERY around it.
 struct VariableExpression {
     std::string name; ///< without the "$"
 };
 /// `a.b.c` read from `base` (SELF where nothing stands before the first key). Over a to-many key it gives an array.
 struct KeyPathExpression {
-    ExpressionPtr base; ///< SelfExpression or VariableExpression
+    ExpressionPtr base;            ///< SelfExpression or VariableExpression
     std::vector<std::string> keys; ///< at least one
 };
 /// `X.@count`: the number of members of a collection; 0 for nil.
@@ -66,9 +65,9 @@ enum class ComparisonOperator : std::uint8_t {
     Contains, ///< of a string: a part of it; of a collection: a member
     BeginsWith,
     EndsWith,
-    Like, ///< `?` one code point, `*` any number; `\` escapes; the whole text
+    Like,    ///< `?` one code point, `*` any number; `\` escapes; the whole text
     Matches, ///< an ICU regular expression that matches the whole text
-    In, ///< left is a member of the right collection, or a part of the right string
+    In,      ///< left is a member of the right collection, or a part of the right string
     Between, ///< right is a collection of two bounds, both included
 };
 /// How a to-many left side is looked at. ANY over nothing is NO, ALL and NONE are YES.
@@ -95,7 +94,8 @@ struct ConstantPredicate {
     bool value = true;
 };
 
-/// A node of a predicate. Nodes are immutable and shared; walk siblings in a loop, nesting is at most `maximumPredicateDepth`.
+/// A node of a predicate. Nodes are immutable and shared; walk siblings in a loop, nesting is at most
+/// `maximumPredicateDepth`.
 struct PredicateNode {
     std::variant<ComparisonPredicate, CompoundPredicate, NotPredicate, ConstantPredicate> form;
 };
@@ -104,11 +104,9 @@ struct PredicateNode {
 inline constexpr int maximumPredicateDepth = 500;
 
 /// For `std::visit`: one lambda for each alternative.
-template <typename... Lambdas>
-struct Overloaded : Lambdas... {
+template <typename... Lambdas> struct Overloaded : Lambdas... {
     using Lambdas::operator()...;
 };
-template <typename... Lambdas>
-Overloaded(Lambdas...) -> Overloaded<Lambdas...>;
+template <typename... Lambdas> Overloaded(Lambdas...) -> Overloaded<Lambdas...>;
 
 } // namespace tarn

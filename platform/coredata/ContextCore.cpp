@@ -1,0 +1,333 @@
+#include "platform/coredata/ContextCore.h"
+
+#include "platform/coredata/RecordAccess.h"
+#include "platform/foundation/Log.h"
+#include "platform/foundation/NSException.h"
+#include "platform/foundation/NSNotificationCenter.h"
+
+#include <any>
+#include <cstdlib>
+
+namespace tarn {
+
+namespace {
+
+/// Keys reserved at once when identifiers are asked for outside a save.
+constexpr std::int64_t keyBlockSize = 64;
+
+} // namespace
+
+ContextCore::ContextCore(NSManagedObjectContext& owner, NSManagedObjectContext::ConcurrencyType type)
+    : context(owner), faulting(*this), relationships(*this),
+      privateQueue_(type == NSManagedObjectContext::ConcurrencyType::PrivateQueue
+              ? SerialQueue::make("NSManagedObjectContext")
+              : nullptr),
+      queue_(privateQueue_ ? privateQueue_.get() : &MainQueue::main())
+{ }
+
+ContextCore::~ContextCore()
+{
+    queue_->cancelAtEndOfPass(this);
+}
+
+NSPersistentStore& ContextCore::store() const
+{
+    if (!coordinator || !coordinator->persistentStore())
+        throw NSException(NSInternalInconsistencyException, "The context has no persistent store");
+    return *coordinator->persistentStore();
+}
+
+void ContextCore::assertOnQueue() const
+{
+#ifndef NDEBUG
+    if (queue_->isCurrent())
+        return;
+    const Queue* caller = Queue::current();
+    logMessage("A context of the queue \"" + queue_->label() + "\" was used on \""
+        + (caller ? caller->label() : "a thread without a queue") + "\"");
+    std::abort();
+#endif
+}
+
+// Records -------------------------------------------------------------------------------------------------------------
+
+const PropertyValues& ContextCore::defaultValues(const NSEntityDescription& entity)
+{
+    const auto [position, isNew] = defaults_.try_emplace(&entity, entity);
+    if (isNew)
+        for (const NSAttributeDescription* attribute : entity.attributes())
+            if (!attribute->defaultValue().isNil())
+                position->second.setAttributeValue(attribute->index(), attribute->defaultValue());
+    return position->second;
+}
+
+NSManagedObject& ContextCore::insert(const NSEntityDescription& entity)
+{
+    assertOnQueue();
+    NSManagedObject& object
+        = registry.add(RecordAccess::make(context, NSManagedObjectID::makeTemporary(store().identity(), entity)));
+    RecordAccess::fill(object, defaultValues(entity), 0);
+    RecordAccess::markInserted(object, nextOrder_++);
+    tracker.noteInserted(object);
+    pendingIndex.touch(object, ~PropertyMask{0});
+    scheduleProcessing();
+    object.awakeFromInsert();
+    return object;
+}
+
+NSManagedObject& ContextCore::recordOrFault(const NSEntityDescription& entity, std::int64_t key)
+{
+    if (NSManagedObject* known = registry.find(entity.rootEntity(), key))
+        return *known;
+    NSManagedObject& object
+        = registry.add(RecordAccess::make(context, NSManagedObjectID(store().identity(), entity, key)));
+    RecordAccess::markFault(object);
+    faulting.noteFault(object);
+    return object;
+}
+
+bool ContextCore::beginWrite(NSManagedObject& object)
+{
+    assertOnQueue();
+    if (object.isDeleted())
+        return false;
+    if (object.isFault())
+        faulting.fire(object);
+    if (RecordAccess::isGone(object))
+        return false;
+    RecordDetails& details = RecordAccess::details(object);
+    if (!object.isInserted() && details.changed == 0)
+        details.committed = RecordAccess::values(object);
+    return true;
+}
+
+void ContextCore::noteChange(NSManagedObject& object, PropertyIndex index, bool inRow)
+{
+    RecordDetails& details = RecordAccess::details(object);
+    const PropertyMask bit = propertyBit(index);
+    const bool isNews = details.changedInEvent == 0 || details.changed == 0 || isPosting_;
+    details.changed |= bit;
+    details.changedInEvent |= bit;
+    if (inRow)
+        details.rowChanged |= bit;
+    if (isNews)
+        tracker.noteUpdated(object);
+    pendingIndex.touch(object, bit);
+    scheduleProcessing();
+    if (const NSPropertyDescription& property = object.entity().property(index); property.isRelationship())
+        RecordAccess::tellObservers(object, property.name());
+}
+
+void ContextCore::noteGone(NSManagedObject& object)
+{
+    tracker.noteGone(object);
+    RecordAccess::markGone(object);
+    relationships.unload(object);
+    registry.forget(object);
+    pendingIndex.touch(object, ~PropertyMask{0});
+    scheduleProcessing();
+}
+
+void ContextCore::noteRefreshed(NSManagedObject& object)
+{
+    tracker.noteRefreshed(object);
+    scheduleProcessing();
+}
+
+// Deletion ------------------------------------------------------------------------------------------------------------
+
+void ContextCore::remove(NSManagedObject& object)
+{
+    assertOnQueue();
+    if (object.isDeleted() || RecordAccess::isBeingDeleted(object))
+        return;
+    RecordAccess::markBeingDeleted(object);
+    object.prepareForDeletion();
+    if (RecordAccess::isGone(object))
+        return;
+    std::vector<NSManagedObject*> cascade;
+    for (const NSRelationshipDescription* relationship : object.entity().relationships()) {
+        if (relationship->deleteRule() == NSDeleteRule::Deny)
+            continue; // the save asks whether somebody is still there
+        if (relationship->deleteRule() == NSDeleteRule::Cascade) {
+            const auto related = relationships.related(object, *relationship);
+            cascade.insert(cascade.end(), related.begin(), related.end());
+        }
+        relationships.detach(object, *relationship);
+    }
+    const bool wasInserted = object.isInserted();
+    tracker.noteDeleted(object);
+    pendingIndex.touch(object, ~PropertyMask{0});
+    RecordAccess::markDeleted(object);
+    if (wasInserted)
+        registry.forget(object);
+    scheduleProcessing();
+    for (NSManagedObject* dependent : cascade)
+        remove(*dependent);
+}
+
+// Events --------------------------------------------------------------------------------------------------------------
+
+void ContextCore::scheduleProcessing()
+{
+    if (isScheduled_)
+        return;
+    isScheduled_ = true;
+    queue_->runAtEndOfPass(this, [this] { processPendingChanges(); });
+}
+
+void ContextCore::processPendingChanges()
+{
+    assertOnQueue();
+    isScheduled_ = false;
+    if (isPosting_ || !tracker.hasEvent())
+        return;
+    struct Posting {
+        explicit Posting(bool& flag) : flag_(flag) { flag_ = true; }
+        ~Posting() { flag_ = false; }
+        bool& flag_;
+    };
+    const ObjectChanges changes = tracker.takeEvent();
+    const auto endEvent = [this](const std::vector<NSManagedObject*>& objects) {
+        for (NSManagedObject* object : objects)
+            if (RecordDetails* details = RecordAccess::detailsIfAny(*object); details && !tracker.isInEvent(*object))
+                details->changedInEvent = 0;
+    };
+    const Posting posting(isPosting_);
+    NSNotificationCenter::defaultCenter().postNotification(
+        NSManagedObjectContextObjectsDidChangeNotification, &context, std::any(changes));
+    for (const auto* objects : {&changes.inserted, &changes.updated, &changes.deleted, &changes.refreshed})
+        endEvent(*objects);
+    if (tracker.hasEvent())
+        scheduleProcessing();
+}
+
+// Taking back ---------------------------------------------------------------------------------------------------------
+
+void ContextCore::cancelInsertion(NSManagedObject& object)
+{
+    tracker.noteGone(object);
+    RecordAccess::markGone(object);
+    relationships.unload(object);
+    registry.forget(object);
+}
+
+void ContextCore::discardChanges(NSManagedObject& object)
+{
+    RecordAccess::markUndeleted(object);
+    if (RecordDetails* details = RecordAccess::detailsIfAny(object)) {
+        if (!details->committed.isEmpty())
+            RecordAccess::fill(object, std::move(details->committed), object.rowVersion());
+        details->committed = PropertyValues();
+        details->changed = details->rowChanged = 0;
+    }
+    relationships.unload(object);
+    tracker.noteRefreshed(object);
+}
+
+void ContextCore::rollback()
+{
+    assertOnQueue();
+    const auto inserted = tracker.insertedObjects();
+    const auto updated = tracker.updatedObjects();
+    const auto deleted = tracker.deletedObjects();
+    for (NSManagedObject* object : updated)
+        discardChanges(*object);
+    for (NSManagedObject* object : deleted)
+        discardChanges(*object);
+    for (NSManagedObject* object : inserted)
+        cancelInsertion(*object);
+    tracker.clearPending();
+    pendingIndex.clear();
+    if (tracker.hasEvent())
+        scheduleProcessing();
+}
+
+void ContextCore::refresh(NSManagedObject& object, bool mergeChanges)
+{
+    assertOnQueue();
+    if (object.isInserted() || object.isDeleted() || object.isFault())
+        return;
+    if (!mergeChanges || !object.hasChanges()) {
+        if (object.hasChanges())
+            discardChanges(object);
+        relationships.unload(object);
+        RecordAccess::markFault(object);
+        faulting.noteFault(object);
+        noteRefreshed(object);
+        return;
+    }
+    const std::int64_t key = object.objectID().key();
+    std::vector<StoreRow> rows;
+    NSError error;
+    if (!store().rowsForKeys(object.entity().rootEntity(), std::span(&key, 1), RowContents::Row, rows, &error)) {
+        logMessage("Error while refreshing\n" + error.localizedDescription());
+        return;
+    }
+    if (rows.empty()) {
+        noteGone(object);
+        return;
+    }
+    PropertyValues values = rows.front().values;
+    const PropertyMask changed = RecordAccess::details(object).rowChanged;
+    for (const NSPropertyDescription* property : object.entity().properties())
+        if (changed & propertyBit(property->index()))
+            values.assign(property->index(), RecordAccess::values(object));
+    RecordAccess::details(object).committed = std::move(rows.front().values);
+    RecordAccess::fill(object, std::move(values), rows.front().version);
+    noteRefreshed(object);
+}
+
+void ContextCore::reset()
+{
+    assertOnQueue();
+    tracker.clear();
+    pendingIndex.clear();
+    faulting.clear();
+    registry.clear();
+}
+
+// Identifiers ---------------------------------------------------------------------------------------------------------
+
+void ContextCore::readdress(NSManagedObject& object, const NSManagedObjectID& objectID)
+{
+    const std::int64_t former = object.objectID().key();
+    registry.forget(object);
+    RecordAccess::setObjectID(object, objectID);
+    registry.remember(object);
+    if (former < 0)
+        registry.addFormerKey(former, object);
+}
+
+bool ContextCore::takeKey(const NSEntityDescription& root, std::int64_t& key, NSError* error)
+{
+    // A block that was reserved inside a transaction goes with it when that is rolled back, so there it is one at a
+    // time.
+    if (exclusiveTransaction || isSaving)
+        return store().reserveKeys(root, 1, key, error);
+    KeyBlock& block = keyBlocks_[&root];
+    if (block.next == block.end) {
+        if (!store().reserveKeys(root, keyBlockSize, block.next, error))
+            return false;
+        block.end = block.next + keyBlockSize;
+    }
+    key = block.next++;
+    return true;
+}
+
+bool ContextCore::obtainPermanentIDs(std::span<NSManagedObject* const> objects, NSError* error)
+{
+    assertOnQueue();
+    for (NSManagedObject* object : objects) {
+        const NSManagedObjectID id = object->objectID();
+        if (!id.isTemporaryID() || object->isDeleted())
+            continue;
+        std::int64_t key = 0;
+        if (!takeKey(id.entity().rootEntity(), key, error))
+            return false;
+        readdress(*object, NSManagedObjectID(id.store(), id.entity(), key));
+    }
+    return true;
+}
+
+} // namespace tarn

@@ -1,0 +1,87 @@
+#pragma once
+
+#include "platform/coredata/ChangeTracker.h"
+#include "platform/coredata/Faulting.h"
+#include "platform/coredata/NSManagedObjectContext.h"
+#include "platform/coredata/NSPersistentStoreCoordinator.h"
+#include "platform/coredata/ObjectRegistry.h"
+#include "platform/coredata/PendingIndex.h"
+#include "platform/coredata/RelationshipMaintenance.h"
+
+#include <functional>
+#include <memory>
+#include <unordered_map>
+
+namespace tarn {
+
+/// What the rooms behind a context share: its records, what is pending, where it reads from.
+class ContextCore {
+public:
+    ContextCore(NSManagedObjectContext& owner, NSManagedObjectContext::ConcurrencyType type);
+    ~ContextCore();
+
+    NSManagedObjectContext& context;
+    ObjectRegistry registry;
+    ChangeTracker tracker;
+    PendingIndex pendingIndex;
+    Faulting faulting;
+    RelationshipMaintenance relationships;
+
+    std::shared_ptr<NSPersistentStoreCoordinator> coordinator;
+    NSMergePolicy mergePolicy = NSMergePolicy::Error;
+    std::function<void(const MergeConflict&)> conflictHandler;
+    /// The lock that `performExclusive` holds; null otherwise.
+    std::unique_ptr<StoreTransaction> exclusiveTransaction;
+    /// A save is under way; its will-save observers may change records, but not save again.
+    bool isSaving = false;
+
+    /// Raises `NSInternalInconsistencyException` when the context has no store.
+    NSPersistentStore& store() const;
+    Queue& queue() const noexcept { return *queue_; }
+    /// Debug builds abort, naming both queues, when the caller is on another one.
+    void assertOnQueue() const;
+
+    NSManagedObject& insert(const NSEntityDescription& entity);
+    /// The record of a permanent key, made as a fault when it is not here yet.
+    NSManagedObject& recordOrFault(const NSEntityDescription& entity, std::int64_t key);
+    /// Before the first change of a record: fires its fault and keeps its committed values. False when it is gone.
+    bool beginWrite(NSManagedObject& object);
+    /// After a change: the property counts as changed. `inRow`: it stands in the record's own row.
+    void noteChange(NSManagedObject& object, PropertyIndex index, bool inRow);
+    void remove(NSManagedObject& object);
+    /// The record's row vanished from the store: it reads as deleted, and nothing of it is saved.
+    void noteGone(NSManagedObject& object);
+    /// A clean record got newer values from the store.
+    void noteRefreshed(NSManagedObject& object);
+
+    void processPendingChanges();
+    void scheduleProcessing();
+    void rollback();
+    void refresh(NSManagedObject& object, bool mergeChanges);
+    void reset();
+    bool obtainPermanentIDs(std::span<NSManagedObject* const> objects, NSError* error);
+    /// Gives a record another identifier; it still answers to the one that it had.
+    void readdress(NSManagedObject& object, const NSManagedObjectID& objectID);
+
+private:
+    /// Keys that were reserved outside a save and not given out yet.
+    struct KeyBlock {
+        std::int64_t next = 0;
+        std::int64_t end = 0;
+    };
+    void discardChanges(NSManagedObject& object);
+    void cancelInsertion(NSManagedObject& object);
+    const PropertyValues& defaultValues(const NSEntityDescription& entity);
+    bool takeKey(const NSEntityDescription& root, std::int64_t& key, NSError* error);
+
+    std::unordered_map<const NSEntityDescription*, PropertyValues> defaults_;
+    std::unordered_map<const NSEntityDescription*, KeyBlock> keyBlocks_;
+
+    std::shared_ptr<Queue> privateQueue_;
+    Queue* queue_;
+    std::uint32_t nextOrder_ = 1;
+    bool isPosting_ = false;
+    bool isScheduled_ = false;
+};
+
+} // namespace tarn

@@ -1,0 +1,135 @@
+#include "platform/coredata/Faulting.h"
+
+#include "platform/coredata/ContextCore.h"
+#include "platform/coredata/RecordAccess.h"
+#include "platform/foundation/NSException.h"
+
+#include <algorithm>
+#include <string>
+
+namespace tarn {
+
+namespace {
+
+/// Faults filled together: what a list on a screen shows, and well within SQLite's limits.
+constexpr std::size_t batchSize = 100;
+
+[[noreturn]] void raiseUnreadable(const NSManagedObject& object, const NSError& error)
+{
+    throw NSException(NSInternalInconsistencyException,
+        "The record " + object.objectID().URIRepresentation() + " could not be read: " + error.localizedDescription());
+}
+
+} // namespace
+
+void Faulting::noteFault(NSManagedObject& object)
+{
+    auto& faults = faults_[&object.entity().rootEntity()];
+    RecordAccess::setOrder(object, static_cast<std::uint32_t>(faults.size()));
+    faults.push_back(&object);
+}
+
+void Faulting::fire(const NSManagedObject& object)
+{
+    if (!object.isFault())
+        return;
+    const NSEntityDescription& root = object.entity().rootEntity();
+    std::vector<std::int64_t> keys{object.objectID().key()};
+    const auto& faults = faults_[&root];
+    for (std::size_t at = RecordAccess::order(object) + 1; at < faults.size() && keys.size() < batchSize; ++at)
+        if (faults[at]->isFault() && !faults[at]->isDeleted())
+            keys.push_back(faults[at]->objectID().key());
+
+    std::vector<StoreRow> rows;
+    NSError error;
+    if (!core_.store().rowsForKeys(root, keys, RowContents::Row, rows, &error))
+        raiseUnreadable(object, error);
+    for (StoreRow& row : rows)
+        if (NSManagedObject* record = core_.registry.find(root, row.key); record && record->isFault())
+            takeRow(*record, std::move(row));
+    if (object.isFault())
+        core_.noteGone(const_cast<NSManagedObject&>(object));
+}
+
+void Faulting::loadLarge(const NSManagedObject& object)
+{
+    const NSManagedObjectID id = object.objectID();
+    PropertyValues& values = RecordAccess::values(object);
+    const PropertyMask missing = object.entity().largeMask() & ~values.loadedMask();
+    if (id.isTemporaryID() || missing == 0)
+        return;
+    std::vector<StoreRow> rows;
+    NSError error;
+    const std::int64_t key = id.key();
+    if (!core_.store().rowsForKeys(
+            object.entity().rootEntity(), std::span(&key, 1), RowContents::WholeRow, rows, &error))
+        raiseUnreadable(object, error);
+    auto& record = const_cast<NSManagedObject&>(object);
+    if (rows.empty()) {
+        core_.noteGone(record);
+        return;
+    }
+    StoreRow& row = rows.front();
+    // Another writer moved the row: a clean record takes the whole new snapshot, so that no text meets another text's
+    // title.
+    if (row.version != object.rowVersion() && !object.hasChanges()) {
+        takeRow(record, std::move(row));
+        core_.noteRefreshed(record);
+        return;
+    }
+    RecordDetails* details = RecordAccess::detailsIfAny(object);
+    for (const NSPropertyDescription* property : object.entity().properties()) {
+        const PropertyIndex index = property->index();
+        if (!(missing & propertyBit(index)))
+            continue;
+        values.assign(index, row.values);
+        if (details && !details->committed.isEmpty() && !details->committed.isLoaded(index))
+            details->committed.assign(index, row.values);
+    }
+}
+
+void Faulting::loadInverseToOne(const NSManagedObject& object, const NSRelationshipDescription& relationship)
+{
+    PropertyValues& values = RecordAccess::values(object);
+    const NSManagedObjectID id = object.objectID();
+    values.setNil(relationship.index());
+    if (id.isTemporaryID())
+        return;
+    std::vector<RelatedKey> related;
+    NSError error;
+    if (!core_.store().relatedKeys(relationship, id.key(), related, &error)) {
+        values.setUnloaded(relationship.index());
+        raiseUnreadable(object, error);
+    }
+    for (const RelatedKey& candidate : related) {
+        NSManagedObject& target = core_.recordOrFault(*candidate.entity, candidate.key);
+        // An unsaved change at the other end has the last word.
+        const PropertyIndex inverse = relationship.inverseRelationship().index();
+        if (target.isDeleted() || (RecordAccess::changed(target) & propertyBit(inverse)))
+            continue;
+        values.setInteger(relationship.index(), candidate.key);
+        return;
+    }
+}
+
+NSManagedObject& Faulting::adopt(StoreRow row)
+{
+    NSManagedObject& record = core_.recordOrFault(*row.entity, row.key);
+    if (row.values.isEmpty() || record.isDeleted())
+        return record;
+    if (record.isFault()) {
+        takeRow(record, std::move(row));
+    } else if (row.version != record.rowVersion() && !record.hasChanges()) {
+        takeRow(record, std::move(row));
+        core_.relationships.unload(record);
+        core_.noteRefreshed(record);
+    }
+    return record;
+}
+
+void Faulting::takeRow(NSManagedObject& object, StoreRow row)
+{
+    RecordAccess::fill(object, std::move(row.values), row.version);
+}
+
+} // namespace tarn

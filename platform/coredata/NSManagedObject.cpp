@@ -1,0 +1,494 @@
+#include "platform/coredata/NSManagedObject.h"
+
+#include "platform/coredata/ContextCore.h"
+#include "platform/coredata/RecordAccess.h"
+#include "platform/foundation/NSException.h"
+
+#include <algorithm>
+#include <cassert>
+#include <limits>
+
+namespace tarn {
+
+namespace {
+
+[[noreturn]] void raiseUnknownKey(const NSManagedObject& record, std::string_view key)
+{
+    throw NSException(NSUndefinedKeyException,
+        "The entity \"" + record.entity().name() + "\" has no property \"" + std::string(key) + "\"");
+}
+
+const NSPropertyDescription& propertyForKey(const NSManagedObject& record, std::string_view key)
+{
+    const NSPropertyDescription* property = record.entity().propertyNamed(key);
+    if (!property)
+        raiseUnknownKey(record, key);
+    return *property;
+}
+
+Value arrayOf(const std::vector<NSManagedObject*>& records)
+{
+    Value::Array values;
+    values.reserve(records.size());
+    for (const NSManagedObject* record : records)
+        values.emplace_back(record);
+    return Value(std::move(values));
+}
+
+} // namespace
+
+NSManagedObject::NSManagedObject(const NSManagedObjectSeed& seed) : context_(seed.context_), objectID_(seed.objectID_)
+{ }
+
+NSManagedObject::~NSManagedObject() = default;
+
+std::unique_ptr<NSManagedObject> RecordAccess::make(NSManagedObjectContext& context, const NSManagedObjectID& objectID)
+{
+    const NSManagedObjectSeed seed(context, objectID);
+    if (const RecordConstructor constructor = objectID.entity().recordConstructor())
+        return constructor(seed);
+    return std::make_unique<NSManagedObject>(seed);
+}
+
+void RecordAccess::markGone(NSManagedObject& object)
+{
+    object.flags_ = NSManagedObject::Deleted | NSManagedObject::Gone;
+    object.values_ = PropertyValues(object.entity());
+    if (object.details_) {
+        object.details_->changed = object.details_->changedInEvent = object.details_->rowChanged = 0;
+        object.details_->committed = PropertyValues();
+    }
+}
+
+ContextCore& NSManagedObject::core() const noexcept
+{
+    return context_->core();
+}
+
+// State ---------------------------------------------------------------------------------------------------------------
+
+bool NSManagedObject::isUpdated() const noexcept
+{
+    return !(flags_ & (Inserted | Deleted)) && details_ && details_->changed != 0;
+}
+
+bool NSManagedObject::hasChanges() const noexcept
+{
+    if (flags_ & Deleted)
+        return !(flags_ & (Gone | Inserted));
+    return (flags_ & Inserted) || (details_ && details_->changed != 0);
+}
+
+std::map<std::string, Value> NSManagedObject::valuesOf(PropertyMask mask) const
+{
+    std::map<std::string, Value> values;
+    for (const NSPropertyDescription* property : entity().properties())
+        if (mask & propertyBit(property->index()))
+            values.emplace(property->name(), storedValueForKey(property->name()));
+    return values;
+}
+
+std::set<std::string> NSManagedObject::namesOf(PropertyMask mask) const
+{
+    std::set<std::string> names;
+    for (const NSPropertyDescription* property : entity().properties())
+        if (mask & propertyBit(property->index()))
+            names.insert(property->name());
+    return names;
+}
+
+std::map<std::string, Value> NSManagedObject::changedValues() const
+{
+    return valuesOf(details_ ? details_->changed : 0);
+}
+std::map<std::string, Value> NSManagedObject::changedValuesForCurrentEvent() const
+{
+    return valuesOf(details_ ? details_->changedInEvent : 0);
+}
+std::set<std::string> NSManagedObject::changedKeys() const
+{
+    return namesOf(details_ ? details_->changed : 0);
+}
+std::set<std::string> NSManagedObject::changedKeysForCurrentEvent() const
+{
+    return namesOf(details_ ? details_->changedInEvent : 0);
+}
+
+std::map<std::string, Value> NSManagedObject::committedValuesForKeys(const std::vector<std::string>& keys) const
+{
+    std::map<std::string, Value> values;
+    for (const std::string& key : keys) {
+        const NSPropertyDescription& property = propertyForKey(*this, key);
+        const PropertyIndex index = property.index();
+        if (!(flags_ & Inserted))
+            prepareRead(index);
+        const PropertyValues& committed = details_ && !details_->committed.isEmpty() ? details_->committed : values_;
+        if ((flags_ & Inserted) || committed.isEmpty() || !committed.isLoaded(index) || committed.isNil(index)) {
+            values.emplace(key, Value());
+        } else if (!property.isRelationship()) {
+            values.emplace(key, committed.attributeValue(index));
+        } else if (const auto& relationship = static_cast<const NSRelationshipDescription&>(property);
+                   !relationship.isToMany()) {
+            const NSManagedObject* target = context_->objectWithID(
+                NSManagedObjectID(objectID_.store(), relationship.destinationEntity(), committed.integer(index)));
+            values.emplace(key, Value(target));
+        }
+    }
+    return values;
+}
+
+// Reading -------------------------------------------------------------------------------------------------------------
+
+bool NSManagedObject::prepareRead(PropertyIndex index) const
+{
+    core().assertOnQueue();
+    if (flags_ & Fault)
+        core().faulting.fire(*this);
+    if (values_.isEmpty())
+        return false;
+    if (!values_.isLoaded(index) && (entity().largeMask() & propertyBit(index)))
+        core().faulting.loadLarge(*this);
+    return !values_.isNil(index);
+}
+
+std::optional<bool> NSManagedObject::booleanAt(PropertyIndex index) const
+{
+    return prepareRead(index) ? std::optional(values_.integer(index) != 0) : std::nullopt;
+}
+
+std::optional<std::int64_t> NSManagedObject::integerAt(PropertyIndex index) const
+{
+    return prepareRead(index) ? std::optional(values_.integer(index)) : std::nullopt;
+}
+
+std::optional<double> NSManagedObject::doubleAt(PropertyIndex index) const
+{
+    return prepareRead(index) ? std::optional(values_.floating(index)) : std::nullopt;
+}
+
+std::optional<std::string_view> NSManagedObject::stringViewAt(PropertyIndex index) const
+{
+    return prepareRead(index) ? std::optional(values_.bytes(index)) : std::nullopt;
+}
+
+std::optional<std::string> NSManagedObject::stringAt(PropertyIndex index) const
+{
+    return prepareRead(index) ? std::optional<std::string>(values_.bytes(index)) : std::nullopt;
+}
+
+std::optional<NSDate> NSManagedObject::dateAt(PropertyIndex index) const
+{
+    return prepareRead(index) ? std::optional(dateWithMicrosecondsSince1970(values_.integer(index))) : std::nullopt;
+}
+
+std::optional<NSData> NSManagedObject::dataAt(PropertyIndex index) const
+{
+    return prepareRead(index) ? std::optional(NSData::fromText(values_.bytes(index))) : std::nullopt;
+}
+
+NSManagedObject* NSManagedObject::toOneAt(PropertyIndex index) const
+{
+    prepareRead(index);
+    if (values_.isEmpty() || (flags_ & Gone))
+        return nullptr;
+    return core().relationships.toOne(*this, static_cast<const NSRelationshipDescription&>(entity().property(index)));
+}
+
+ToManySet& NSManagedObject::toManyAt(PropertyIndex index) const
+{
+    core().assertOnQueue();
+    return core().relationships.toMany(*this, static_cast<const NSRelationshipDescription&>(entity().property(index)));
+}
+
+// Writing -------------------------------------------------------------------------------------------------------------
+
+template <typename Assign> void NSManagedObject::write(PropertyIndex index, bool tell, Assign&& assign)
+{
+    if (!core().beginWrite(*this))
+        return;
+    if (assign(values_))
+        core().noteChange(*this, index, true);
+    if (tell)
+        tellObservers(entity().property(index).name());
+}
+
+void NSManagedObject::putInteger(PropertyIndex index, bool tell, std::optional<std::int64_t> value)
+{
+    write(index, tell, [&](PropertyValues& values) {
+        const bool isSame
+            = values.isLoaded(index) && values.isNil(index) == !value && (!value || values.integer(index) == *value);
+        if (isSame)
+            return false;
+        if (value)
+            values.setInteger(index, *value);
+        else
+            values.setNil(index);
+        return true;
+    });
+}
+
+void NSManagedObject::putBytes(PropertyIndex index, bool tell, std::optional<std::string_view> value)
+{
+    constexpr std::size_t longest = std::size_t{512} << 20;
+    if (value && value->size() > longest)
+        throw NSException(NSInvalidArgumentException,
+            "A value of \"" + entity().property(index).name() + "\" may have at most 512 MiB");
+    write(index, tell, [&](PropertyValues& values) {
+        const bool isSame
+            = values.isLoaded(index) && values.isNil(index) == !value && (!value || values.bytes(index) == *value);
+        if (isSame)
+            return false;
+        if (value)
+            values.setBytes(index, *value);
+        else
+            values.setNil(index);
+        return true;
+    });
+}
+
+namespace {
+
+std::optional<std::int64_t> fitted(
+    const NSEntityDescription& entity, PropertyIndex index, std::optional<std::int64_t> value)
+{
+    const auto& attribute = static_cast<const NSAttributeDescription&>(entity.property(index));
+    if (value && attribute.type() == NSAttributeType::Integer16)
+        return std::clamp<std::int64_t>(
+            *value, std::numeric_limits<std::int16_t>::min(), std::numeric_limits<std::int16_t>::max());
+    return value;
+}
+
+template <typename To, typename From> std::optional<To> mapped(const std::optional<From>& value, To (*convert)(From))
+{
+    return value ? std::optional<To>(convert(*value)) : std::nullopt;
+}
+
+std::int64_t bitsOfDouble(double value)
+{
+    return std::bit_cast<std::int64_t>(value);
+}
+std::int64_t integerOfBoolean(bool value)
+{
+    return value ? 1 : 0;
+}
+std::int64_t integerOfDate(NSDate date)
+{
+    return microsecondsSince1970(date);
+}
+
+std::optional<std::string_view> textOf(const std::optional<NSData>& data)
+{
+    return data ? std::optional(data->text()) : std::nullopt;
+}
+
+} // namespace
+
+void NSManagedObject::setBooleanAt(PropertyIndex index, std::optional<bool> value)
+{
+    putInteger(index, true, mapped(value, integerOfBoolean));
+}
+void NSManagedObject::setIntegerAt(PropertyIndex index, std::optional<std::int64_t> value)
+{
+    putInteger(index, true, fitted(entity(), index, value));
+}
+void NSManagedObject::setDoubleAt(PropertyIndex index, std::optional<double> value)
+{
+    putInteger(index, true, mapped(value, bitsOfDouble));
+}
+void NSManagedObject::setStringAt(PropertyIndex index, std::optional<std::string_view> value)
+{
+    putBytes(index, true, value);
+}
+void NSManagedObject::setDateAt(PropertyIndex index, std::optional<NSDate> value)
+{
+    putInteger(index, true, mapped(value, integerOfDate));
+}
+void NSManagedObject::setDataAt(PropertyIndex index, const std::optional<NSData>& value)
+{
+    putBytes(index, true, textOf(value));
+}
+void NSManagedObject::setPrimitiveBooleanAt(PropertyIndex index, std::optional<bool> value)
+{
+    putInteger(index, false, mapped(value, integerOfBoolean));
+}
+void NSManagedObject::setPrimitiveIntegerAt(PropertyIndex index, std::optional<std::int64_t> value)
+{
+    putInteger(index, false, fitted(entity(), index, value));
+}
+void NSManagedObject::setPrimitiveDoubleAt(PropertyIndex index, std::optional<double> value)
+{
+    putInteger(index, false, mapped(value, bitsOfDouble));
+}
+void NSManagedObject::setPrimitiveStringAt(PropertyIndex index, std::optional<std::string_view> value)
+{
+    putBytes(index, false, value);
+}
+void NSManagedObject::setPrimitiveDateAt(PropertyIndex index, std::optional<NSDate> value)
+{
+    putInteger(index, false, mapped(value, integerOfDate));
+}
+void NSManagedObject::setPrimitiveDataAt(PropertyIndex index, const std::optional<NSData>& value)
+{
+    putBytes(index, false, textOf(value));
+}
+
+void NSManagedObject::setToOneAt(PropertyIndex index, NSManagedObject* target)
+{
+    const auto& relationship = static_cast<const NSRelationshipDescription&>(entity().property(index));
+    if (target && &target->managedObjectContext() != context_)
+        throw NSException(
+            NSInvalidArgumentException, "\"" + relationship.name() + "\" cannot name a record of another context");
+    core().relationships.setToOne(*this, relationship, target);
+}
+
+// Key-value coding
+// ------------------------------------------------------------------------------------------------------
+
+Value NSManagedObject::storedValueForKey(std::string_view key) const
+{
+    const NSPropertyDescription& property = propertyForKey(*this, key);
+    const PropertyIndex index = property.index();
+    if (!property.isRelationship())
+        return prepareRead(index) ? values_.attributeValue(index) : Value();
+    if (!static_cast<const NSRelationshipDescription&>(property).isToMany())
+        return Value(toOneAt(index));
+    return arrayOf(toManyAt(index).members());
+}
+
+Value NSManagedObject::valueForKey(std::string_view key) const
+{
+    return storedValueForKey(key);
+}
+
+void NSManagedObject::setValueForKey(std::string_view key, const Value& value)
+{
+    willChangeValueForKey(key);
+    setPrimitiveValueForKey(key, value);
+    didChangeValueForKey(key);
+}
+
+namespace {
+
+NSManagedObject* recordOf(const Value& value, std::string_view key)
+{
+    if (value.isNil())
+        return nullptr;
+    if (value.kind() == Value::Kind::Object)
+        if (const auto* record = dynamic_cast<const NSManagedObject*>(&value.asObject()))
+            return const_cast<NSManagedObject*>(record);
+    throw NSException(NSInvalidArgumentException, "\"" + std::string(key) + "\" takes a record");
+}
+
+} // namespace
+
+void NSManagedObject::setPrimitiveValueForKey(std::string_view key, const Value& value)
+{
+    const NSPropertyDescription& property = propertyForKey(*this, key);
+    const PropertyIndex index = property.index();
+    if (!property.isRelationship()) {
+        write(index, false, [&](PropertyValues& values) {
+            PropertyValues former = values;
+            values.setAttributeValue(index, value);
+            return !former.isLoaded(index) || !values.equals(index, former);
+        });
+        return;
+    }
+    const auto& relationship = static_cast<const NSRelationshipDescription&>(property);
+    if (!relationship.isToMany()) {
+        core().relationships.setToOne(*this, relationship, recordOf(value, key));
+        return;
+    }
+    std::vector<NSManagedObject*> members;
+    if (value.kind() == Value::Kind::Array)
+        for (const Value& member : value.asArray())
+            members.push_back(recordOf(member, key));
+    else if (!value.isNil())
+        throw NSException(NSInvalidArgumentException, "\"" + std::string(key) + "\" takes an array of records");
+    toManyAt(index).set(members);
+}
+
+// Key-value observation
+// ---------------------------------------------------------------------------------------------------
+
+KeyValueObservation::KeyValueObservation(KeyValueObservation&& other) noexcept
+    : registration_(std::move(other.registration_))
+{
+    other.registration_.reset();
+}
+
+KeyValueObservation& KeyValueObservation::operator=(KeyValueObservation&& other) noexcept
+{
+    if (this != &other) {
+        invalidate();
+        registration_ = std::move(other.registration_);
+        other.registration_.reset();
+    }
+    return *this;
+}
+
+KeyValueObservation::~KeyValueObservation()
+{
+    invalidate();
+}
+
+void KeyValueObservation::invalidate()
+{
+    if (const auto registration = std::static_pointer_cast<ObserverRegistration>(registration_.lock()))
+        registration->active = false;
+    registration_.reset();
+}
+
+KeyValueObservation NSManagedObject::addObserver(std::string_view key, Observer observer)
+{
+    core().assertOnQueue();
+    auto& observers = RecordAccess::details(*this).observers;
+    std::erase_if(observers, [](const auto& registration) { return !registration->active; });
+    observers.push_back(
+        std::make_shared<ObserverRegistration>(ObserverRegistration{std::string(key), std::move(observer)}));
+    return KeyValueObservation(observers.back());
+}
+
+std::set<std::string> NSManagedObject::keysAffectingValueForKey(std::string_view key) const
+{
+    constexpr std::string_view suffix = "Value";
+    if (!key.ends_with(suffix))
+        return {};
+    const std::string_view base = key.substr(0, key.size() - suffix.size());
+    const NSAttributeDescription* attribute = entity().attributeNamed(base);
+    return attribute && attribute->isScalar() ? std::set<std::string>{std::string(base)} : std::set<std::string>();
+}
+
+void NSManagedObject::tellObservers(std::string_view key)
+{
+    if (!details_ || details_->observers.empty())
+        return;
+    const std::string changed(key);
+    const auto observers = details_->observers;
+    for (const auto& registration : observers)
+        if (registration->active
+            && (registration->key == changed || keysAffectingValueForKey(registration->key).contains(changed)))
+            registration->observer(*this, registration->key);
+}
+
+void NSManagedObject::willChangeValueForKey(std::string_view key)
+{
+    propertyForKey(*this, key);
+    core().beginWrite(*this);
+}
+
+void NSManagedObject::didChangeValueForKey(std::string_view key)
+{
+    tellObservers(propertyForKey(*this, key).name());
+}
+
+void NSManagedObject::willAccessValueForKey(std::string_view key) const
+{
+    prepareRead(propertyForKey(*this, key).index());
+}
+
+void NSManagedObject::didAccessValueForKey(std::string_view key) const
+{
+    propertyForKey(*this, key);
+}
+
+} // namespace tarn

@@ -1,0 +1,227 @@
+#include "platform/coredata/NSManagedObjectContext.h"
+
+#include "platform/coredata/ContextCore.h"
+#include "platform/coredata/PendingFetch.h"
+#include "platform/coredata/RecordAccess.h"
+#include "platform/coredata/SavePlan.h"
+#include "platform/foundation/NSException.h"
+
+namespace tarn {
+
+NSManagedObjectContext::NSManagedObjectContext(ConcurrencyType type) : core_(std::make_unique<ContextCore>(*this, type))
+{ }
+
+NSManagedObjectContext::~NSManagedObjectContext() = default;
+
+void NSManagedObjectContext::setPersistentStoreCoordinator(std::shared_ptr<NSPersistentStoreCoordinator> coordinator)
+{
+    core_->coordinator = std::move(coordinator);
+}
+
+NSPersistentStoreCoordinator& NSManagedObjectContext::persistentStoreCoordinator() const
+{
+    if (!core_->coordinator)
+        throw NSException(NSInternalInconsistencyException, "The context has no persistent store coordinator");
+    return *core_->coordinator;
+}
+
+const NSManagedObjectModel& NSManagedObjectContext::managedObjectModel() const
+{
+    return persistentStoreCoordinator().managedObjectModel();
+}
+
+void NSManagedObjectContext::setMergePolicy(NSMergePolicy policy) noexcept
+{
+    core_->mergePolicy = policy;
+}
+NSMergePolicy NSManagedObjectContext::mergePolicy() const noexcept
+{
+    return core_->mergePolicy;
+}
+void NSManagedObjectContext::setMergeConflictHandler(std::function<void(const MergeConflict&)> handler)
+{
+    core_->conflictHandler = std::move(handler);
+}
+
+// Records -------------------------------------------------------------------------------------------------------------
+
+NSManagedObject& NSManagedObjectContext::insertObject(const NSEntityDescription& entity)
+{
+    return core_->insert(entity);
+}
+
+NSManagedObject& NSManagedObjectContext::insertObject(std::string_view entityName)
+{
+    const NSEntityDescription* entity = managedObjectModel().entityNamed(entityName);
+    if (!entity)
+        throw NSException(NSInvalidArgumentException, "The model has no entity \"" + std::string(entityName) + "\"");
+    return core_->insert(*entity);
+}
+
+void NSManagedObjectContext::deleteObject(NSManagedObject& object)
+{
+    core_->remove(object);
+}
+
+NSManagedObject* NSManagedObjectContext::objectRegisteredForID(const NSManagedObjectID& objectID) const
+{
+    return objectID ? core_->registry.find(*objectID.root(), objectID.key()) : nullptr;
+}
+
+NSManagedObject* NSManagedObjectContext::existingObjectWithID(const NSManagedObjectID& objectID, NSError* error)
+{
+    core_->assertOnQueue();
+    if (NSManagedObject* known = objectRegisteredForID(objectID)) {
+        if (known->isFault())
+            core_->faulting.fire(*known);
+        return known->isDeleted() ? nullptr : known;
+    }
+    if (!objectID || objectID.isTemporaryID())
+        return nullptr;
+    const std::int64_t key = objectID.key();
+    std::vector<StoreRow> rows;
+    if (!core_->store().rowsForKeys(*objectID.root(), std::span(&key, 1), RowContents::Row, rows, error)
+        || rows.empty())
+        return nullptr;
+    return &core_->faulting.adopt(std::move(rows.front()));
+}
+
+NSManagedObject* NSManagedObjectContext::objectWithID(const NSManagedObjectID& objectID)
+{
+    core_->assertOnQueue();
+    if (NSManagedObject* known = objectRegisteredForID(objectID))
+        return known->isDeleted() ? nullptr : known;
+    if (!objectID || objectID.isTemporaryID())
+        return nullptr;
+    // Which class a record of a sub-entity is of, only its row tells.
+    if (!objectID.entity().subentities().empty())
+        return existingObjectWithID(objectID);
+    return &core_->recordOrFault(objectID.entity(), objectID.key());
+}
+
+std::vector<NSManagedObject*> NSManagedObjectContext::registeredObjects() const
+{
+    return core_->registry.objects();
+}
+
+// Queries -------------------------------------------------------------------------------------------------------------
+
+std::optional<std::vector<NSManagedObject*>> NSManagedObjectContext::fetch(
+    const NSFetchRequest& request, NSError* error)
+{
+    core_->assertOnQueue();
+    return PendingFetch(*core_, request).objects(error);
+}
+
+std::vector<NSManagedObject*> NSManagedObjectContext::executeFetchRequest(const NSFetchRequest& request, NSError* error)
+{
+    return fetch(request, error).value_or(std::vector<NSManagedObject*>());
+}
+
+std::optional<std::size_t> NSManagedObjectContext::count(const NSFetchRequest& request, NSError* error)
+{
+    core_->assertOnQueue();
+    return PendingFetch(*core_, request).count(error);
+}
+
+std::size_t NSManagedObjectContext::countForFetchRequest(const NSFetchRequest& request, NSError* error)
+{
+    return count(request, error).value_or(0);
+}
+
+std::optional<std::vector<DictionaryResult>> NSManagedObjectContext::executeDictionaryFetchRequest(
+    const NSFetchRequest& request, NSError* error)
+{
+    core_->assertOnQueue();
+    return PendingFetch(*core_, request).dictionaries(error);
+}
+
+// Changes -------------------------------------------------------------------------------------------------------------
+
+bool NSManagedObjectContext::hasChanges() const
+{
+    return core_->tracker.hasChanges();
+}
+std::vector<NSManagedObject*> NSManagedObjectContext::insertedObjects() const
+{
+    return core_->tracker.insertedObjects();
+}
+std::vector<NSManagedObject*> NSManagedObjectContext::updatedObjects() const
+{
+    return core_->tracker.updatedObjects();
+}
+std::vector<NSManagedObject*> NSManagedObjectContext::deletedObjects() const
+{
+    return core_->tracker.deletedObjects();
+}
+
+bool NSManagedObjectContext::obtainPermanentIDsForObjects(std::span<NSManagedObject* const> objects, NSError* error)
+{
+    return core_->obtainPermanentIDs(objects, error);
+}
+
+bool NSManagedObjectContext::save(NSError* error)
+{
+    core_->assertOnQueue();
+    if (core_->exclusiveTransaction)
+        return true;
+    return SavePlan(*core_).run(nullptr, error);
+}
+
+void NSManagedObjectContext::rollback()
+{
+    core_->rollback();
+}
+
+bool NSManagedObjectContext::performExclusive(const std::function<void()>& block, NSError* error)
+{
+    core_->assertOnQueue();
+    core_->exclusiveTransaction = core_->store().beginTransaction(error);
+    if (!core_->exclusiveTransaction)
+        return false;
+    try {
+        block();
+    } catch (...) {
+        core_->exclusiveTransaction.reset();
+        core_->rollback();
+        throw;
+    }
+    return SavePlan(*core_).run(std::move(core_->exclusiveTransaction), error);
+}
+
+void NSManagedObjectContext::processPendingChanges()
+{
+    core_->processPendingChanges();
+}
+void NSManagedObjectContext::refreshObject(NSManagedObject& object, bool mergeChanges)
+{
+    core_->refresh(object, mergeChanges);
+}
+
+void NSManagedObjectContext::refreshAllObjects()
+{
+    for (NSManagedObject* object : registeredObjects())
+        core_->refresh(*object, true);
+}
+
+void NSManagedObjectContext::reset()
+{
+    core_->reset();
+}
+
+// Queue ---------------------------------------------------------------------------------------------------------------
+
+Queue& NSManagedObjectContext::queue() const noexcept
+{
+    return core_->queue();
+}
+void NSManagedObjectContext::performBlock(std::function<void()> block)
+{
+    core_->queue().async(std::move(block));
+}
+void NSManagedObjectContext::performBlockAndWait(const std::function<void()>& block)
+{
+    core_->queue().sync(block);
+}
+
+} // namespace tarn

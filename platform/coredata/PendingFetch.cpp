@@ -1,0 +1,255 @@
+#include "platform/coredata/PendingFetch.h"
+
+#include "platform/coredata/ContextCore.h"
+#include "platform/coredata/RecordAccess.h"
+#include "platform/coredata/SortOrder.h"
+#include "platform/foundation/NSException.h"
+#include "platform/predicate/PredicateEvaluator.h"
+
+#include <algorithm>
+
+namespace tarn {
+
+namespace {
+
+/// Turns exceptions of an evaluation (an unknown key, a bad pattern) into the error of a failed fetch.
+template <typename Result, typename Work> std::optional<Result> guarded(NSError* error, Work&& work)
+{
+    try {
+        return work();
+    } catch (const NSException& exception) {
+        assignError(error, NSError(TarnStoreErrorDomain, StoreErrorGeneric, exception.reason()));
+        return std::nullopt;
+    }
+}
+
+} // namespace
+
+PendingFetch::PendingFetch(ContextCore& core, const NSFetchRequest& request)
+    : core_(core), request_(request), root_(request.entity->rootEntity())
+{ }
+
+// Which records the store cannot answer for
+// -----------------------------------------------------------------------------
+
+bool PendingFetch::isOfEntity(const NSManagedObject& record) const
+{
+    return request_.includesSubentities ? record.entity().isKindOfEntity(*request_.entity)
+                                        : &record.entity() == request_.entity;
+}
+
+bool PendingFetch::hasPending() const
+{
+    return request_.includesPendingChanges && core_.tracker.hasChanges();
+}
+
+void PendingFetch::collectRelevantProperties()
+{
+    if (request_.predicate)
+        for (const auto& keys : keyPathsReadByPredicate(*request_.predicate))
+            noteKeyPath(keys);
+    for (const NSSortDescriptor& descriptor : request_.sortDescriptors)
+        noteKeyPath(keysOfPath(descriptor.key));
+}
+
+/// Walks a key path: its first property matters in the fetched records; each later one in the records there, which are
+/// traced back to the fetched ones over the inverse relationships.
+void PendingFetch::noteKeyPath(const std::vector<std::string>& keys)
+{
+    const NSEntityDescription* entity = request_.entity;
+    std::vector<const NSRelationshipDescription*> path;
+    for (const std::string& key : keys) {
+        const NSPropertyDescription* property = entity->propertyNamed(key);
+        // A property of one sub-entity may be named in a fetch on the whole family.
+        for (std::size_t sub = 0; !property && sub < entity->subentities().size(); ++sub)
+            property = entity->subentities()[sub]->propertyNamed(key);
+        if (!property)
+            return;
+        if (path.empty())
+            relevant_ |= propertyBit(property->index());
+        else if (const PendingRecords* pending = core_.tracker.pending(entity->rootEntity()))
+            for (NSManagedObject* record : std::vector<NSManagedObject*>(pending->updated))
+                if (record->isUpdated() && (RecordAccess::changed(*record) & propertyBit(property->index())))
+                    reachBack(path, *record);
+        if (!property->isRelationship())
+            return;
+        path.push_back(static_cast<const NSRelationshipDescription*>(property));
+        entity = &path.back()->destinationEntity();
+    }
+}
+
+void PendingFetch::reachBack(const std::vector<const NSRelationshipDescription*>& path, NSManagedObject& record)
+{
+    std::vector<NSManagedObject*> front{&record};
+    for (auto step = path.rbegin(); step != path.rend(); ++step) {
+        std::unordered_set<NSManagedObject*> next;
+        for (NSManagedObject* member : front)
+            for (NSManagedObject* related : core_.relationships.related(*member, (*step)->inverseRelationship()))
+                next.insert(related);
+        front.assign(next.begin(), next.end());
+    }
+    for (NSManagedObject* reached : front)
+        if (!reached->isInserted() && isOfEntity(*reached))
+            reached_.insert(reached);
+}
+
+bool PendingFetch::isAffected(const NSManagedObject& record) const
+{
+    return record.isDeleted() || (RecordAccess::changed(record) & relevant_) || reached_.contains(&record);
+}
+
+// The answer in memory
+// --------------------------------------------------------------------------------------------------
+
+std::vector<NSManagedObject*> PendingFetch::candidates()
+{
+    std::vector<NSManagedObject*> found;
+    const PendingRecords* pending = core_.tracker.pending(root_);
+    std::optional<std::vector<NSManagedObject*>> narrowed;
+    if (pending && request_.predicate)
+        narrowed = core_.pendingIndex.candidates(*request_.entity, *request_.predicate);
+    const auto take = [&](NSManagedObject* record) {
+        const bool isPending = record->isInserted() || (record->isUpdated() && isAffected(*record));
+        if (isPending && !reached_.contains(record) && isOfEntity(*record))
+            found.push_back(record);
+    };
+    if (narrowed) {
+        std::for_each(narrowed->begin(), narrowed->end(), take);
+    } else if (pending) {
+        std::for_each(pending->inserted.begin(), pending->inserted.end(), take);
+        std::for_each(pending->updated.begin(), pending->updated.end(), take);
+    }
+    for (const NSManagedObject* reached : reached_)
+        if (!reached->isDeleted())
+            found.push_back(const_cast<NSManagedObject*>(reached));
+    return found;
+}
+
+std::vector<NSManagedObject*> PendingFetch::matchingInMemory()
+{
+    std::vector<NSManagedObject*> found = candidates();
+    if (request_.predicate && !found.empty()) {
+        const PredicateEvaluator evaluator(*request_.predicate);
+        std::erase_if(found, [&](const NSManagedObject* record) { return !evaluator.evaluate(*record); });
+    }
+    const SortOrder order(request_.sortDescriptors);
+    std::sort(found.begin(), found.end(),
+        [&](const NSManagedObject* left, const NSManagedObject* right) { return order.comesBefore(*left, *right); });
+    return found;
+}
+
+// Both together
+// -----------------------------------------------------------------------------------------------------------
+
+StoreFetch PendingFetch::storeFetch(RowContents contents) const
+{
+    StoreFetch fetch;
+    fetch.entity = request_.entity;
+    fetch.includesSubentities = request_.includesSubentities;
+    fetch.predicate = request_.predicate ? &*request_.predicate : nullptr;
+    fetch.sortDescriptors = request_.sortDescriptors;
+    fetch.limit = request_.fetchLimit;
+    fetch.offset = request_.fetchOffset;
+    fetch.contents = contents;
+    return fetch;
+}
+
+std::vector<NSManagedObject*> PendingFetch::merged(
+    std::vector<NSManagedObject*> stored, std::vector<NSManagedObject*> pending) const
+{
+    std::vector<NSManagedObject*> all;
+    all.reserve(stored.size() + pending.size());
+    if (pending.empty()) {
+        all = std::move(stored);
+    } else {
+        const SortOrder order(request_.sortDescriptors);
+        std::merge(stored.begin(), stored.end(), pending.begin(), pending.end(), std::back_inserter(all),
+            [&](const NSManagedObject* left, const NSManagedObject* right) {
+                return order.comesBefore(*left, *right);
+            });
+    }
+    const std::size_t begin = std::min(request_.fetchOffset, all.size());
+    const std::size_t end = request_.fetchLimit ? std::min(begin + request_.fetchLimit, all.size()) : all.size();
+    return {all.begin() + static_cast<std::ptrdiff_t>(begin), all.begin() + static_cast<std::ptrdiff_t>(end)};
+}
+
+std::optional<std::vector<NSManagedObject*>> PendingFetch::mergedObjects(RowContents contents, NSError* error)
+{
+    collectRelevantProperties();
+    StoreFetch fetch = storeFetch(contents);
+    fetch.offset = 0;
+    if (request_.fetchLimit) {
+        // Room for every stored record that may have to be dropped from the answer.
+        const PendingRecords* pending = core_.tracker.pending(root_);
+        const std::size_t unsure = reached_.size() + (pending ? pending->updated.size() + pending->deleted.size() : 0);
+        fetch.limit = request_.fetchOffset + request_.fetchLimit + unsure;
+    }
+    std::vector<StoreRow> rows;
+    if (!core_.store().fetch(fetch, rows, error))
+        return std::nullopt;
+    std::vector<NSManagedObject*> stored;
+    stored.reserve(rows.size());
+    for (StoreRow& row : rows)
+        if (NSManagedObject& record = core_.faulting.adopt(std::move(row)); !isAffected(record))
+            stored.push_back(&record);
+    return merged(std::move(stored), matchingInMemory());
+}
+
+std::optional<std::vector<NSManagedObject*>> PendingFetch::objects(NSError* error)
+{
+    const RowContents contents = request_.includesPropertyValues ? RowContents::Row : RowContents::Keys;
+    return guarded<std::vector<NSManagedObject*>>(error, [&]() -> std::optional<std::vector<NSManagedObject*>> {
+        if (hasPending())
+            return mergedObjects(contents, error);
+        std::vector<StoreRow> rows;
+        if (!core_.store().fetch(storeFetch(contents), rows, error))
+            return std::nullopt;
+        std::vector<NSManagedObject*> found;
+        found.reserve(rows.size());
+        for (StoreRow& row : rows)
+            found.push_back(&core_.faulting.adopt(std::move(row)));
+        return found;
+    });
+}
+
+std::optional<std::size_t> PendingFetch::count(NSError* error)
+{
+    return guarded<std::size_t>(error, [&]() -> std::optional<std::size_t> {
+        if (hasPending()) {
+            const auto found = mergedObjects(RowContents::Keys, error);
+            return found ? std::optional(found->size()) : std::nullopt;
+        }
+        std::size_t count = 0;
+        return core_.store().count(storeFetch(RowContents::Keys), count, error) ? std::optional(count) : std::nullopt;
+    });
+}
+
+std::optional<std::vector<DictionaryResult>> PendingFetch::dictionaries(NSError* error)
+{
+    std::vector<std::string> names = request_.propertiesToFetch;
+    if (names.empty())
+        for (const NSAttributeDescription* attribute : request_.entity->attributes())
+            names.push_back(attribute->name());
+    const auto found = objects(error);
+    if (!found)
+        return std::nullopt;
+    return guarded<std::vector<DictionaryResult>>(error, [&]() -> std::optional<std::vector<DictionaryResult>> {
+        std::vector<DictionaryResult> results;
+        for (const NSManagedObject* record : *found) {
+            DictionaryResult result;
+            for (const std::string& name : names) {
+                Value value = record->storedValueForKey(name);
+                if (value.kind() == Value::Kind::Object)
+                    value = Value(static_cast<const NSManagedObject&>(value.asObject()).objectID().URIRepresentation());
+                result.emplace(name, std::move(value));
+            }
+            const bool isRepeated
+                = request_.returnsDistinctResults && std::find(results.begin(), results.end(), result) != results.end();
+            if (!isRepeated)
+                results.push_back(std::move(result));
+        }
+        return results;
+    });
+}
+
+} // namespace tarn

@@ -1,0 +1,257 @@
+#include "platform/coredata/RelationshipMaintenance.h"
+
+#include "platform/coredata/ContextCore.h"
+#include "platform/coredata/RecordAccess.h"
+#include "platform/foundation/NSException.h"
+
+#include <algorithm>
+
+namespace tarn {
+
+namespace {
+
+[[noreturn]] void raiseUnreadable(const NSRelationshipDescription& relationship, const NSError& error)
+{
+    throw NSException(NSInternalInconsistencyException,
+        "The relationship \"" + relationship.name() + "\" could not be read: " + error.localizedDescription());
+}
+
+} // namespace
+
+// To-one --------------------------------------------------------------------------------------------------------------
+
+NSManagedObject* RelationshipMaintenance::toOne(
+    const NSManagedObject& record, const NSRelationshipDescription& relationship)
+{
+    const PropertyValues& values = RecordAccess::values(record);
+    const PropertyIndex index = relationship.index();
+    if (!values.isLoaded(index))
+        core_.faulting.loadInverseToOne(record, relationship);
+    if (values.isNil(index))
+        return nullptr;
+    const std::int64_t key = values.integer(index);
+    const NSEntityDescription& destination = relationship.destinationEntity();
+    NSManagedObject* target = core_.registry.find(destination.rootEntity(), key);
+    if (!target)
+        target = core_.context.objectWithID(NSManagedObjectID(core_.store().identity(), destination, key));
+    return target && !target->isDeleted() ? target : nullptr;
+}
+
+void RelationshipMaintenance::store(
+    NSManagedObject& record, const NSRelationshipDescription& relationship, NSManagedObject* target)
+{
+    if (!core_.beginWrite(record))
+        return;
+    PropertyValues& values = RecordAccess::values(record);
+    if (target)
+        values.setInteger(relationship.index(), target->objectID().key());
+    else
+        values.setNil(relationship.index());
+    core_.noteChange(record, relationship.index(), relationship.storage() == RelationshipStorage::Column);
+}
+
+void RelationshipMaintenance::setToOne(
+    NSManagedObject& record, const NSRelationshipDescription& relationship, NSManagedObject* target)
+{
+    if (!core_.beginWrite(record))
+        return;
+    NSManagedObject* former = toOne(record, relationship);
+    if (former == target)
+        return;
+    store(record, relationship, target);
+    const NSRelationshipDescription& inverse = relationship.inverseRelationship();
+    if (former)
+        detachInverse(*former, inverse, record);
+    if (target)
+        attachInverse(*target, inverse, record);
+}
+
+void RelationshipMaintenance::attachInverse(
+    NSManagedObject& target, const NSRelationshipDescription& inverse, NSManagedObject& record)
+{
+    if (!core_.beginWrite(target))
+        return;
+    if (inverse.isToMany()) {
+        toMany(target, inverse).put(record);
+        core_.noteChange(target, inverse.index(), false);
+        return;
+    }
+    // One to one: whoever held the target before lets it go.
+    NSManagedObject* holder = toOne(target, inverse);
+    if (holder == &record)
+        return;
+    if (holder)
+        store(*holder, inverse.inverseRelationship(), nullptr);
+    store(target, inverse, &record);
+}
+
+void RelationshipMaintenance::detachInverse(
+    NSManagedObject& target, const NSRelationshipDescription& inverse, NSManagedObject& record)
+{
+    if (!core_.beginWrite(target))
+        return;
+    if (inverse.isToMany()) {
+        toMany(target, inverse).take(record);
+        core_.noteChange(target, inverse.index(), false);
+    } else if (toOne(target, inverse) == &record || !RecordAccess::values(target).isNil(inverse.index())) {
+        store(target, inverse, nullptr);
+    }
+}
+
+// To-many -------------------------------------------------------------------------------------------------------------
+
+ToManySet& RelationshipMaintenance::toMany(const NSManagedObject& record, const NSRelationshipDescription& relationship)
+{
+    RecordDetails& details = RecordAccess::details(record);
+    if (ToManySet* set = details.toManySet(relationship.index()))
+        return *set;
+    details.toManySets.push_back(std::make_unique<ToManySet>(const_cast<NSManagedObject&>(record), relationship));
+    return *details.toManySets.back();
+}
+
+void RelationshipMaintenance::addMember(ToManySet& set, NSManagedObject& member)
+{
+    NSManagedObject& owner = *set.owner_;
+    const NSRelationshipDescription& inverse = set.relationship().inverseRelationship();
+    if (!inverse.isToMany()) {
+        setToOne(member, inverse, &owner);
+        return;
+    }
+    ToManySet& other = toMany(member, inverse);
+    if ((set.isLoaded() && set.holds(member)) || (other.isLoaded() && other.holds(owner)))
+        return;
+    if (!core_.beginWrite(owner) || !core_.beginWrite(member))
+        return;
+    set.put(member);
+    other.put(owner);
+    core_.noteChange(owner, set.relationship().index(), false);
+    core_.noteChange(member, inverse.index(), false);
+}
+
+void RelationshipMaintenance::removeMember(ToManySet& set, NSManagedObject& member)
+{
+    NSManagedObject& owner = *set.owner_;
+    const NSRelationshipDescription& inverse = set.relationship().inverseRelationship();
+    if (!inverse.isToMany()) {
+        if (toOne(member, inverse) == &owner)
+            setToOne(member, inverse, nullptr);
+        return;
+    }
+    ToManySet& other = toMany(member, inverse);
+    if ((set.isLoaded() && !set.holds(member)) || (other.isLoaded() && !other.holds(owner)))
+        return;
+    if (!core_.beginWrite(owner) || !core_.beginWrite(member))
+        return;
+    set.take(member);
+    other.take(owner);
+    core_.noteChange(owner, set.relationship().index(), false);
+    core_.noteChange(member, inverse.index(), false);
+}
+
+void RelationshipMaintenance::loadMembers(ToManySet& set)
+{
+    if (set.loaded_)
+        return;
+    const NSManagedObject& owner = *set.owner_;
+    const NSRelationshipDescription& relationship = set.relationship();
+    std::vector<RelatedKey> keys;
+    NSError error;
+    if (!owner.objectID().isTemporaryID() && !RecordAccess::isGone(owner) && !owner.isInserted()
+        && !core_.store().relatedKeys(relationship, owner.objectID().key(), keys, &error))
+        raiseUnreadable(relationship, error);
+
+    std::vector<NSManagedObject*> members;
+    members.reserve(keys.size() + set.added_.size());
+    for (const RelatedKey& key : keys) {
+        NSManagedObject& member = core_.recordOrFault(*key.entity, key.key);
+        const bool wasRemoved = std::find(set.removed_.begin(), set.removed_.end(), &member) != set.removed_.end();
+        if (!member.isDeleted() && !wasRemoved)
+            members.push_back(&member);
+    }
+    for (NSManagedObject* added : set.added_)
+        if (!added->isDeleted() && std::find(members.begin(), members.end(), added) == members.end())
+            members.push_back(added);
+    set.members_ = std::move(members);
+    set.index_.clear();
+    set.loaded_ = true;
+}
+
+std::size_t RelationshipMaintenance::countMembers(ToManySet& set)
+{
+    const NSManagedObject& owner = *set.owner_;
+    if (set.loaded_ || !set.added_.empty() || !set.removed_.empty() || owner.objectID().isTemporaryID()
+        || owner.isInserted() || core_.tracker.pending(set.relationship().destinationEntity().rootEntity())) {
+        loadMembers(set);
+        return set.members_.size();
+    }
+    std::size_t count = 0;
+    NSError error;
+    if (!core_.store().countRelated(set.relationship(), owner.objectID().key(), count, &error))
+        raiseUnreadable(set.relationship(), error);
+    return count;
+}
+
+// Whole records
+// ---------------------------------------------------------------------------------------------------------
+
+std::vector<NSManagedObject*> RelationshipMaintenance::related(
+    const NSManagedObject& record, const NSRelationshipDescription& relationship)
+{
+    if (relationship.isToMany())
+        return toMany(record, relationship).members();
+    NSManagedObject* target = toOne(record, relationship);
+    return target ? std::vector{target} : std::vector<NSManagedObject*>();
+}
+
+void RelationshipMaintenance::detach(NSManagedObject& record, const NSRelationshipDescription& relationship)
+{
+    if (!relationship.isToMany()) {
+        setToOne(record, relationship, nullptr);
+        return;
+    }
+    ToManySet& set = toMany(record, relationship);
+    for (NSManagedObject* member : std::vector<NSManagedObject*>(set.members()))
+        removeMember(set, *member);
+}
+
+void RelationshipMaintenance::settle(NSManagedObject& record)
+{
+    if (RecordDetails* details = RecordAccess::detailsIfAny(record))
+        for (const auto& set : details->toManySets)
+            set->settle();
+}
+
+void RelationshipMaintenance::unload(NSManagedObject& record)
+{
+    if (RecordDetails* details = RecordAccess::detailsIfAny(record))
+        for (const auto& set : details->toManySets)
+            set->unload();
+}
+
+void RelationshipMaintenance::unload(NSManagedObject& record, const NSRelationshipDescription& relationship)
+{
+    if (RecordDetails* details = RecordAccess::detailsIfAny(record))
+        if (ToManySet* set = details->toManySet(relationship.index()))
+            set->unload();
+}
+
+void RelationshipMaintenance::makeKeysPermanent(NSManagedObject& record)
+{
+    PropertyValues& values = RecordAccess::values(record);
+    for (const NSPropertyDescription* property : record.entity().properties()) {
+        const PropertyIndex index = property->index();
+        if (!property->isRelationship() || !values.isLoaded(index) || values.isNil(index) || values.integer(index) > 0)
+            continue;
+        const auto& relationship = static_cast<const NSRelationshipDescription&>(*property);
+        if (relationship.isToMany())
+            continue;
+        const NSManagedObject* target
+            = core_.registry.find(relationship.destinationEntity().rootEntity(), values.integer(index));
+        if (target && !target->objectID().isTemporaryID())
+            values.setInteger(index, target->objectID().key());
+        else if (!target)
+            values.setNil(index);
+    }
+}
+
+} // namespace tarn

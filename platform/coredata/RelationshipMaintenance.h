@@ -1,0 +1,47 @@
+#pragma once
+
+#include "platform/coredata/NSManagedObjectSet.h"
+
+#include <vector>
+
+namespace tarn {
+
+class ContextCore;
+
+/// Keeps both ends of every relationship in step, in memory.
+class RelationshipMaintenance {
+public:
+    explicit RelationshipMaintenance(ContextCore& core) : core_(core) { }
+
+    /// The record's target; null for none. A target that is deleted reads as none.
+    NSManagedObject* toOne(const NSManagedObject& record, const NSRelationshipDescription& relationship);
+    void setToOne(NSManagedObject& record, const NSRelationshipDescription& relationship, NSManagedObject* target);
+    ToManySet& toMany(const NSManagedObject& record, const NSRelationshipDescription& relationship);
+    void addMember(ToManySet& set, NSManagedObject& member);
+    void removeMember(ToManySet& set, NSManagedObject& member);
+    void loadMembers(ToManySet& set);
+    std::size_t countMembers(ToManySet& set);
+
+    /// All records at the other end; a copy.
+    std::vector<NSManagedObject*> related(const NSManagedObject& record, const NSRelationshipDescription& relationship);
+    /// Takes a record out of a relationship, at both ends.
+    void detach(NSManagedObject& record, const NSRelationshipDescription& relationship);
+
+    /// After a save: what was added is stored now.
+    void settle(NSManagedObject& record);
+    /// Forgets what is known of a record's to-many sets, unsaved changes included.
+    void unload(NSManagedObject& record);
+    /// Drops the unsaved changes of one set, at this end.
+    void unload(NSManagedObject& record, const NSRelationshipDescription& relationship);
+    /// Writes permanent keys where a record's to-ones hold temporary ones.
+    void makeKeysPermanent(NSManagedObject& record);
+
+private:
+    void store(NSManagedObject& record, const NSRelationshipDescription& relationship, NSManagedObject* target);
+    void attachInverse(NSManagedObject& target, const NSRelationshipDescription& inverse, NSManagedObject& record);
+    void detachInverse(NSManagedObject& target, const NSRelationshipDescription& inverse, NSManagedObject& record);
+
+    ContextCore& core_;
+};
+
+} // namespace tarn

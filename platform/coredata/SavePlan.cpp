@@ -1,0 +1,304 @@
+#include "platform/coredata/SavePlan.h"
+
+#include "platform/coredata/ContextCore.h"
+#include "platform/coredata/MergeConflicts.h"
+#include "platform/coredata/RecordAccess.h"
+#include "platform/foundation/Log.h"
+#include "platform/foundation/NSNotificationCenter.h"
+
+#include <algorithm>
+#include <any>
+#include <unordered_map>
+#include <unordered_set>
+
+namespace tarn {
+
+namespace {
+
+/// What really differs from the row: a value that was changed and changed back is not written.
+PropertyMask changedInRow(const NSManagedObject& record)
+{
+    const RecordDetails& details = RecordAccess::details(record);
+    const PropertyValues& values = RecordAccess::values(record);
+    PropertyMask mask = details.rowChanged;
+    for (const NSPropertyDescription* property : record.entity().properties()) {
+        const PropertyIndex index = property->index();
+        if ((mask & propertyBit(index)) && details.committed.isLoaded(index) && values.equals(index, details.committed))
+            mask &= ~propertyBit(index);
+    }
+    return mask;
+}
+
+StoreRow rowOf(const NSManagedObject& record)
+{
+    const NSManagedObjectID id = record.objectID();
+    return {&id.entity(), id.key(), record.rowVersion(), RecordAccess::values(record)};
+}
+
+bool fail(NSError* error, StoreErrorCode code, const std::string& description)
+{
+    assignError(error, NSError(TarnStoreErrorDomain, code, description));
+    return false;
+}
+
+class SavingFlag {
+public:
+    explicit SavingFlag(bool& flag) : flag_(flag) { flag_ = true; }
+    ~SavingFlag() { flag_ = false; }
+    SavingFlag(const SavingFlag&) = delete;
+    SavingFlag& operator=(const SavingFlag&) = delete;
+
+private:
+    bool& flag_;
+};
+
+} // namespace
+
+SavePlan::SavePlan(ContextCore& core) : core_(core) { }
+
+bool SavePlan::run(std::unique_ptr<StoreTransaction> transaction, NSError* error)
+{
+    core_.assertOnQueue();
+    if (core_.isSaving)
+        return fail(error, StoreErrorGeneric, "A save is under way");
+    core_.processPendingChanges();
+    if (!core_.tracker.hasChanges())
+        return !transaction || transaction->commit(error);
+    if (!transaction)
+        transaction = core_.store().beginTransaction(error);
+    if (!transaction)
+        return false;
+    {
+        const SavingFlag saving(core_.isSaving);
+        try {
+            if (!write(*transaction, error)) {
+                transaction.reset();
+                takeBack();
+                return false;
+            }
+        } catch (...) {
+            transaction.reset();
+            takeBack();
+            throw;
+        }
+    }
+    transaction.reset();
+    finish();
+    return true;
+}
+
+bool SavePlan::write(StoreTransaction& transaction, NSError* error)
+{
+    announcedBefore_ = core_.tracker.insertedObjects();
+    announce();
+    inserted_ = core_.tracker.insertedObjects();
+    updated_ = core_.tracker.updatedObjects();
+    deleted_ = core_.tracker.deletedObjects();
+    return deletionsAllowed(error) && assignKeys(error) && validate(error) && insertRows(transaction, error)
+        && updateRows(transaction, error) && changeJoins(transaction, error) && deleteRows(transaction, error)
+        && transaction.commit(error);
+}
+
+void SavePlan::announce()
+{
+    for (NSManagedObject* record : core_.tracker.insertedObjects())
+        record->willSave();
+    for (NSManagedObject* record : core_.tracker.updatedObjects())
+        record->willSave();
+    NSNotificationCenter::defaultCenter().postNotification(NSManagedObjectContextWillSaveNotification, &core_.context);
+}
+
+bool SavePlan::assignKeys(NSError* error)
+{
+    std::unordered_map<const NSEntityDescription*, std::vector<NSManagedObject*>> byRoot;
+    for (NSManagedObject* record : inserted_)
+        if (record->objectID().isTemporaryID())
+            byRoot[&record->entity().rootEntity()].push_back(record);
+    for (const auto& [root, records] : byRoot) {
+        std::int64_t key = 0;
+        if (!core_.store().reserveKeys(*root, records.size(), key, error))
+            return false;
+        for (NSManagedObject* record : records) {
+            const NSManagedObjectID former = record->objectID();
+            formerIDs_.emplace_back(record, former);
+            core_.readdress(*record, NSManagedObjectID(former.store(), former.entity(), key++));
+        }
+    }
+    for (const auto* records : {&inserted_, &updated_})
+        for (NSManagedObject* record : *records)
+            core_.relationships.makeKeysPermanent(*record);
+    return true;
+}
+
+bool SavePlan::validate(NSError* error) const
+{
+    for (const auto* records : {&inserted_, &updated_})
+        for (const NSManagedObject* record : *records)
+            for (const NSPropertyDescription* property : record->entity().properties()) {
+                const PropertyValues& values = RecordAccess::values(*record);
+                const bool isMissing = !property->isOptional() && !values.isEmpty()
+                    && values.isLoaded(property->index()) && values.isNil(property->index())
+                    && !(record->entity().toManyMask() & propertyBit(property->index()));
+                if (isMissing)
+                    return fail(error, StoreErrorValidation,
+                        "\"" + property->name() + "\" of " + record->entity().name() + " must have a value");
+            }
+    return true;
+}
+
+bool SavePlan::deletionsAllowed(NSError* error) const
+{
+    for (const NSManagedObject* record : deleted_)
+        for (const NSRelationshipDescription* relationship : record->entity().relationships())
+            if (relationship->deleteRule() == NSDeleteRule::Deny
+                && !core_.relationships.related(*record, *relationship).empty())
+                return fail(error, StoreErrorDeleteDenied,
+                    "A record of " + record->entity().name() + " cannot be deleted while \"" + relationship->name()
+                        + "\" has members");
+    return true;
+}
+
+bool SavePlan::insertRows(StoreTransaction& transaction, NSError* error)
+{
+    for (NSManagedObject* record : inserted_) {
+        if (!transaction.insertRow(rowOf(*record), error))
+            return false;
+        newVersions_.emplace_back(record, 1);
+    }
+    return true;
+}
+
+bool SavePlan::updateRows(StoreTransaction& transaction, NSError* error)
+{
+    return std::all_of(updated_.begin(), updated_.end(),
+        [&](NSManagedObject* record) { return updateRow(transaction, *record, error); });
+}
+
+bool SavePlan::updateRow(StoreTransaction& transaction, NSManagedObject& record, NSError* error)
+{
+    while (const PropertyMask changed = changedInRow(record)) {
+        switch (transaction.updateRow(rowOf(record), changed, error)) {
+        case RowWriteResult::Written:
+            newVersions_.emplace_back(&record, record.rowVersion() + 1);
+            return true;
+        case RowWriteResult::Failed:
+            return false;
+        case RowWriteResult::Gone:
+            if (core_.mergePolicy == NSMergePolicy::Error)
+                return fail(
+                    error, StoreErrorMergeConflict, "Another writer deleted " + record.objectID().URIRepresentation());
+            logMessage("Another writer deleted " + record.objectID().URIRepresentation()
+                + "; its unsaved changes were dropped");
+            vanished_.push_back(&record);
+            return true;
+        case RowWriteResult::Conflict:
+            break;
+        }
+        if (core_.mergePolicy == NSMergePolicy::Error)
+            return fail(
+                error, StoreErrorMergeConflict, "Another writer changed " + record.objectID().URIRepresentation());
+        const std::int64_t key = record.objectID().key();
+        std::vector<StoreRow> rows;
+        if (!core_.store().rowsForKeys(
+                record.entity().rootEntity(), std::span(&key, 1), RowContents::WholeRow, rows, error))
+            return false;
+        if (!rows.empty())
+            mergeRowIntoRecord(core_, record, std::move(rows.front()));
+    }
+    return true;
+}
+
+bool SavePlan::changeJoins(StoreTransaction& transaction, NSError* error)
+{
+    std::vector<JoinChange> changes;
+    const auto collect = [&](const NSManagedObject& record) {
+        const RecordDetails* details = RecordAccess::detailsIfAny(record);
+        if (!details)
+            return;
+        for (const auto& set : details->toManySets) {
+            if (!set->relationship().ownsJoinTable())
+                continue;
+            for (const bool added : {false, true})
+                for (const NSManagedObject* member : added ? set->added() : set->removed())
+                    if (!member->isDeleted() && !member->objectID().isTemporaryID())
+                        changes.push_back(
+                            {&set->relationship(), record.objectID().key(), member->objectID().key(), added});
+        }
+    };
+    for (const auto* records : {&inserted_, &updated_})
+        for (const NSManagedObject* record : *records)
+            collect(*record);
+    return changes.empty() || transaction.changeJoins(changes, error);
+}
+
+bool SavePlan::deleteRows(StoreTransaction& transaction, NSError* error)
+{
+    for (NSManagedObject* record : deleted_) {
+        const std::int64_t key = record->objectID().key();
+        const std::int64_t version
+            = core_.mergePolicy == NSMergePolicy::Error && !record->isFault() ? record->rowVersion() : 0;
+        switch (transaction.deleteRow(record->entity(), key, version, error)) {
+        case RowWriteResult::Written:
+        case RowWriteResult::Gone:
+            break;
+        case RowWriteResult::Failed:
+            return false;
+        case RowWriteResult::Conflict:
+            return fail(error, StoreErrorMergeConflict,
+                "Another writer changed " + record->objectID().URIRepresentation() + ", which was to be deleted");
+        }
+    }
+    return true;
+}
+
+void SavePlan::finish()
+{
+    for (const auto& [record, version] : newVersions_)
+        RecordAccess::markSaved(*record, version);
+    core_.processPendingChanges();
+    for (const auto* records : {&inserted_, &updated_})
+        for (NSManagedObject* record : *records) {
+            RecordDetails& details = RecordAccess::details(*record);
+            details.changed = details.rowChanged = 0;
+            details.committed = PropertyValues();
+            core_.relationships.settle(*record);
+        }
+    core_.tracker.clearPending();
+    core_.pendingIndex.clear();
+    NSNotificationCenter::defaultCenter().postNotification(NSManagedObjectContextDidSaveNotification, &core_.context,
+        std::any(ObjectChanges{inserted_, updated_, deleted_, {}}));
+    for (NSManagedObject* record : deleted_) {
+        RecordAccess::markGone(*record);
+        core_.relationships.unload(*record);
+        core_.registry.forget(*record);
+    }
+    for (NSManagedObject* record : vanished_)
+        core_.noteGone(*record);
+}
+
+/// After a failure: records have the identifiers that they had, and what will-save observers inserted is gone.
+void SavePlan::takeBack()
+{
+    std::unordered_map<const NSEntityDescription*, std::unordered_map<std::int64_t, std::int64_t>> formerKeys;
+    for (const auto& [record, former] : formerIDs_) {
+        formerKeys[former.root()][record->objectID().key()] = former.key();
+        core_.readdress(*record, former);
+    }
+    for (const auto* records : {&inserted_, &updated_})
+        for (NSManagedObject* record : *records)
+            for (const NSRelationshipDescription* relationship : record->entity().relationships()) {
+                PropertyValues& values = RecordAccess::values(*record);
+                if (relationship->isToMany() || values.isEmpty() || !values.isLoaded(relationship->index())
+                    || values.isNil(relationship->index()))
+                    continue;
+                const auto& keys = formerKeys[&relationship->destinationEntity().rootEntity()];
+                if (const auto former = keys.find(values.integer(relationship->index())); former != keys.end())
+                    values.setInteger(relationship->index(), former->second);
+            }
+    const std::unordered_set<const NSManagedObject*> before(announcedBefore_.begin(), announcedBefore_.end());
+    for (NSManagedObject* record : core_.tracker.insertedObjects())
+        if (!before.contains(record))
+            core_.remove(*record);
+}
+
+} // namespace tarn

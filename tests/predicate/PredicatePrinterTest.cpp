@@ -1,0 +1,131 @@
+#include "platform/foundation/NSException.h"
+#include "platform/predicate/NSPredicate.h"
+#include "tests/predicate/DictionaryObject.h"
+#include "tests/predicate/RandomPredicate.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <limits>
+
+namespace tarn {
+namespace {
+
+NSPredicate predicateWithConstant(Value value)
+{
+    return NSPredicate::predicateWithFormatAndArguments("a == %@", std::vector{std::move(value)});
+}
+
+std::string printed(Value value)
+{
+    return predicateWithConstant(std::move(value)).predicateFormat();
+}
+
+TEST(PredicatePrinter, GivesTextThatParsesToTheSameTree)
+{
+    constexpr std::uint32_t kFirstSeed = 20'240'601;
+    constexpr std::uint32_t kTrees = 30'000;
+    for (std::uint32_t seed = kFirstSeed; seed < kFirstSeed + kTrees; ++seed) {
+        const int depth = static_cast<int>(seed % 6);
+        const NSPredicate predicate(std::make_shared<const PredicateNode>(RandomPredicate(seed).predicate(depth)));
+        const std::string format = predicate.predicateFormat();
+        const NSPredicate again = NSPredicate::predicateWithFormat(format);
+        ASSERT_EQ(again, predicate) << "seed " << seed << ": " << format;
+        ASSERT_EQ(again.predicateFormat(), format) << "seed " << seed;
+    }
+}
+
+TEST(PredicatePrinter, TellsRandomTreesApart)
+{
+    std::size_t equal = 0;
+    for (std::uint32_t seed = 0; seed < 2'000; ++seed) {
+        const NSPredicate one(std::make_shared<const PredicateNode>(RandomPredicate(seed).predicate(3)));
+        const NSPredicate other(std::make_shared<const PredicateNode>(RandomPredicate(seed + 1).predicate(3)));
+        EXPECT_EQ(one == other, one.predicateFormat() == other.predicateFormat()) << "seed " << seed;
+        equal += one == other ? 1 : 0;
+    }
+    EXPECT_LT(equal, 100U);
+}
+
+TEST(PredicatePrinter, WritesDatesToTheMicrosecond)
+{
+    const auto date = [](std::int64_t microseconds) { return dateWithMicrosecondsSinceReferenceDate(microseconds); };
+    EXPECT_EQ(printed(date(0)), "a == CAST(0.000000, \"NSDate\")");
+    EXPECT_EQ(printed(date(1)), "a == CAST(0.000001, \"NSDate\")");
+    EXPECT_EQ(printed(date(-1)), "a == CAST(-0.000001, \"NSDate\")");
+    EXPECT_EQ(printed(date(-1'500'000)), "a == CAST(-1.500000, \"NSDate\")");
+    EXPECT_EQ(printed(date(123'456'789'012'345)), "a == CAST(123456789.012345, \"NSDate\")");
+    EXPECT_EQ(printed(dateWithMicrosecondsSince1970(-1)), "a == CAST(-978307200.000001, \"NSDate\")");
+}
+
+TEST(PredicatePrinter, ReadsBackTheEarliestAndTheLatestDate)
+{
+    for (const std::int64_t microseconds :
+        {std::numeric_limits<std::int64_t>::min(), std::numeric_limits<std::int64_t>::max()}) {
+        const NSPredicate predicate = predicateWithConstant(dateWithMicrosecondsSince1970(microseconds));
+        EXPECT_EQ(NSPredicate::predicateWithFormat(predicate.predicateFormat()), predicate);
+    }
+}
+
+TEST(PredicatePrinter, KeepsIntegersAndDoublesApart)
+{
+    EXPECT_EQ(printed(2), "a == 2");
+    EXPECT_EQ(printed(2.0), "a == 2.0");
+    EXPECT_NE(predicateWithConstant(2), predicateWithConstant(2.0));
+    EXPECT_EQ(printed(std::numeric_limits<std::int64_t>::min()), "a == -9223372036854775808");
+    EXPECT_EQ(printed(0.1 + 0.2), "a == 0.30000000000000004");
+    EXPECT_EQ(printed(-1e300), "a == -1e+300");
+}
+
+TEST(PredicatePrinter, WritesWhatTheLanguageCannotNameSoThatItIsRefused)
+{
+    const DictionaryObject record({});
+    EXPECT_EQ(printed(&record), "a == <object>");
+    EXPECT_EQ(printed(Value::Array{1, &record}), "a == {1, <object>}");
+    EXPECT_THROW(NSPredicate::predicateWithFormat(printed(&record)), NSException);
+}
+
+// Predicates made of predicates ---------------------------------------------------------------------------------------
+
+TEST(JoinedPredicates, BecomeOneNode)
+{
+    const auto predicate = [](std::string_view format) { return NSPredicate::predicateWithFormat(format); };
+    const std::vector both{predicate("a == 1 AND b == 2"), predicate("c == 3 OR d == 4")};
+    EXPECT_EQ(
+        NSPredicate::andPredicateWithSubpredicates(both).predicateFormat(), "a == 1 AND b == 2 AND (c == 3 OR d == 4)");
+    EXPECT_EQ(
+        NSPredicate::orPredicateWithSubpredicates(both).predicateFormat(), "(a == 1 AND b == 2) OR c == 3 OR d == 4");
+    EXPECT_EQ(NSPredicate::notPredicateWithSubpredicate(both[0]).predicateFormat(), "NOT (a == 1 AND b == 2)");
+    EXPECT_EQ(NSPredicate::andPredicateWithSubpredicates(both), predicate("a == 1 AND b == 2 AND (c == 3 OR d == 4)"));
+}
+
+TEST(JoinedPredicates, OfOneAreThatOneAndOfNoneAreConstants)
+{
+    const std::vector one{NSPredicate::predicateWithFormat("a == 1")};
+    EXPECT_EQ(NSPredicate::orPredicateWithSubpredicates(one), one[0]);
+    EXPECT_EQ(NSPredicate::andPredicateWithSubpredicates({}), NSPredicate::predicateWithValue(true));
+    EXPECT_EQ(NSPredicate::orPredicateWithSubpredicates({}), NSPredicate::predicateWithValue(false));
+    EXPECT_EQ(NSPredicate::predicateWithValue(false).predicateFormat(), "FALSEPREDICATE");
+}
+
+TEST(JoinedPredicates, StopAtTheLimitOfNesting)
+{
+    NSPredicate predicate = NSPredicate::predicateWithFormat("a == 1");
+    for (int depth = 0; depth < maximumPredicateDepth; ++depth)
+        predicate = NSPredicate::notPredicateWithSubpredicate(predicate);
+    EXPECT_THROW(NSPredicate::notPredicateWithSubpredicate(predicate), NSException);
+    EXPECT_EQ(NSPredicate::predicateWithFormat(predicate.predicateFormat()), predicate);
+}
+
+TEST(PredicatePrinter, LooksThroughNodesOfOneMember)
+{
+    const auto leaf = NSPredicate::predicateWithFormat("a == 1 OR b == 2").nodePtr();
+    const auto lone
+        = std::make_shared<const PredicateNode>(PredicateNode{CompoundPredicate{CompoundType::And, {leaf}}});
+    const NSPredicate negation(std::make_shared<const PredicateNode>(PredicateNode{NotPredicate{lone}}));
+    EXPECT_EQ(negation.predicateFormat(), "NOT (a == 1 OR b == 2)");
+    EXPECT_EQ(NSPredicate(lone).predicateFormat(), "a == 1 OR b == 2");
+}
+
+} // namespace
+} // namespace tarn
