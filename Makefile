@@ -44,7 +44,7 @@ format-check: ## fail when a source is not laid out by .clang-format
 tidy: ## clang-tidy over all sources
 	@scripts/install-dependencies.sh build tests tidy
 	scripts/configure.sh tidy
-	cmake --build --preset tidy --target tarn_generated_sources
+	cmake --build --preset tidy --target generated/model/_OVNote.h
 	scripts/tidy.py --jobs $(JOBS) build/tidy
 
 bench: ## build the benchmarks, optimised, and run them

@@ -33,6 +33,8 @@ CASES = [
     ("model/Json.h", "#include <nlohmann/json.hpp>\n", "of another library"),
     ("notes/Text.h", "#include <fmt/format.h>\n", "of another library"),
     ("platform/coredata/Open.h", '#include "platform/coredata/RowsInternal.h"\n', "not installed"),
+    ("tools/modelgen/Writer.cpp", 'auto text = R"x(\n#include "model/OVNote.h"\n)x";\n', None),
+    ("tools/modelgen/Other.cpp", 'auto text = R"(\n)";\n#include "model/OVNote.h"\n', ":3: tools/modelgen must not include"),
     ("examples/first.cpp", '#include "notes/Titles.h"\n', "must not include"),
 ]
 
