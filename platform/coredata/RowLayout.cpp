@@ -1,0 +1,104 @@
+#include "platform/coredata/RowLayout.h"
+
+#include "platform/coredata/SQLiteConnection.h"
+#include "platform/coredata/StoreFailure.h"
+
+namespace tarn {
+
+RowLayout::RowLayout(const StoreSchema& schema, const NSEntityDescription& entity, RowContents contents)
+    : entity_(entity), contents_(contents), hasDiscriminator_(schema.table(entity).hasDiscriminator),
+      hasLargeColumns_(!schema.table(entity).largeColumns.empty())
+{
+    firstValue_ = hasDiscriminator_ ? 3 : 2; // after pk, rowVersion, entity
+    if (contents == RowContents::Keys)
+        return;
+    addColumns(schema.table(entity).columns, false);
+    if (contents == RowContents::WholeRow)
+        addColumns(schema.table(entity).largeColumns, true);
+}
+
+void RowLayout::addColumns(const std::vector<StoreColumn>& columns, bool large)
+{
+    for (const StoreColumn& column : columns) {
+        const NSEntityDescription& declaring = column.property->declaringEntity();
+        if (entity_.isKindOfEntity(declaring) || declaring.isKindOfEntity(entity_))
+            columns_.push_back({column.name, column.property, large});
+    }
+}
+
+std::string RowLayout::columns(std::string_view alias, std::string_view largeAlias) const
+{
+    const auto named = [](std::string_view table, std::string_view column) {
+        return std::string(table) + "." + quotedIdentifier(column);
+    };
+    std::string sql = named(alias, "pk") + ", " + named(alias, "rowVersion");
+    if (hasDiscriminator_)
+        sql += ", " + named(alias, "entity");
+    for (const Column& column : columns_)
+        sql += ", " + named(column.large ? largeAlias : alias, column.name);
+    return sql;
+}
+
+const NSEntityDescription& RowLayout::concreteEntity(const SQLiteStatement& statement) const
+{
+    if (!hasDiscriminator_)
+        return entity_;
+    const std::string_view name = statement.bytes(2);
+    if (name == entity_.name())
+        return entity_;
+    const NSEntityDescription* found = entity_.model().entityNamed(name);
+    if (!found || &found->rootEntity() != &entity_.rootEntity())
+        throw StoreFailure(
+            StoreErrorCorrupt, "The store has a row of the unknown entity \"" + std::string(name) + "\".");
+    return *found;
+}
+
+namespace {
+
+void readValue(
+    const SQLiteStatement& statement, int column, const NSPropertyDescription& property, PropertyValues& values)
+{
+    if (statement.isNull(column))
+        return;
+    const PropertyIndex index = property.index();
+    if (property.isRelationship())
+        return values.setInteger(index, statement.integer(column));
+    switch (static_cast<const NSAttributeDescription&>(property).type()) {
+    case NSAttributeType::Double:
+        return values.setDouble(index, statement.floating(column));
+    case NSAttributeType::String:
+    case NSAttributeType::Data:
+        return values.setBytes(index, statement.bytes(column));
+    case NSAttributeType::Boolean:
+        return values.setInteger(index, statement.integer(column) != 0 ? 1 : 0);
+    default:
+        return values.setInteger(index, statement.integer(column));
+    }
+}
+
+} // namespace
+
+StoreRow RowLayout::read(const SQLiteStatement& statement) const
+{
+    const NSEntityDescription& entity = concreteEntity(statement);
+    StoreRow row{&entity, statement.integer(0), statement.integer(1), {}};
+    if (contents_ == RowContents::Keys)
+        return row;
+    row.values = PropertyValues(entity);
+    for (const NSPropertyDescription* property : entity.properties()) {
+        const bool elsewhere = property->isRelationship()
+            && static_cast<const NSRelationshipDescription*>(property)->storage() == RelationshipStorage::InverseColumn;
+        const bool unread = contents_ == RowContents::Row && (entity.largeMask() & propertyBit(property->index()));
+        if (elsewhere || unread)
+            row.values.setUnloaded(property->index());
+    }
+    int column = firstValue_;
+    for (const Column& read : columns_) {
+        if (entity.isKindOfEntity(read.property->declaringEntity()))
+            readValue(statement, column, *read.property, row.values);
+        ++column;
+    }
+    return row;
+}
+
+} // namespace tarn

@@ -1,0 +1,179 @@
+#include "platform/coredata/SQLGenerator.h"
+
+#include "platform/coredata/RowLayout.h"
+#include "platform/foundation/NSException.h"
+
+#include <algorithm>
+
+namespace tarn {
+
+namespace {
+
+/// `text` as an SQL string.
+std::string quotedText(std::string_view text)
+{
+    std::string quoted = "'";
+    for (const char c : text) {
+        quoted += c;
+        if (c == '\'')
+            quoted += c;
+    }
+    return quoted += '\'';
+}
+
+void collectNames(const NSEntityDescription& entity, bool includesSubentities, std::string& names)
+{
+    names += (names.empty() ? "" : ", ") + quotedText(entity.name());
+    if (!includesSubentities)
+        return;
+    for (const NSEntityDescription* subentity : entity.subentities())
+        collectNames(*subentity, true, names);
+}
+
+std::vector<std::string> splitKeyPath(std::string_view keyPath)
+{
+    std::vector<std::string> keys;
+    std::size_t start = 0;
+    while (start <= keyPath.size()) {
+        const std::size_t end = std::min(keyPath.find('.', start), keyPath.size());
+        keys.emplace_back(keyPath.substr(start, end - start));
+        start = end + 1;
+    }
+    return keys;
+}
+
+/// The members of a top-level AND; the predicate itself where it is none.
+std::vector<PredicateNodePtr> conjuncts(const NSPredicate& predicate)
+{
+    const auto* compound = std::get_if<CompoundPredicate>(&predicate.node().form);
+    if (compound && compound->type == CompoundType::And)
+        return compound->members;
+    return {predicate.nodePtr()};
+}
+
+} // namespace
+
+std::string entityCondition(const NSEntityDescription& entity, bool includesSubentities, std::string_view alias)
+{
+    const bool isWholeTable = &entity.rootEntity() == &entity && includesSubentities;
+    if (isWholeTable || (entity.rootEntity().subentities().empty()))
+        return {};
+    std::string names;
+    collectNames(entity, includesSubentities, names);
+    return std::string(alias) + ".\"entity\" IN (" + names + ")";
+}
+
+struct SQLGenerator::Parts {
+    explicit Parts(const StoreSchema& schema) : paths(schema) { }
+
+    SQLPaths paths;
+    SQLScope scope;
+    GeneratedSelect select;
+};
+
+GeneratedSelect SQLGenerator::rows(const StoreFetch& fetch, RowContents& contents) const
+{
+    Parts parts(schema_);
+    parts.scope.alias = parts.paths.newAlias();
+    parts.scope.entity = fetch.entity;
+    const std::string condition = where(fetch, parts);
+    const std::string order = orderBy(fetch, parts);
+    if (parts.select.remainder && contents == RowContents::Keys)
+        contents = RowContents::Row;
+    const RowLayout layout(schema_, *fetch.entity, contents);
+    const StoreTable& table = schema_.table(*fetch.entity);
+    std::string sql = "SELECT " + layout.columns(parts.scope.alias, "large") + " FROM " + quotedIdentifier(table.name)
+        + " AS " + parts.scope.alias + parts.scope.joinSQL();
+    if (layout.readsLargeTable())
+        sql += " LEFT JOIN " + quotedIdentifier(table.largeName) + " AS large ON large.\"pk\" = " + parts.scope.alias
+            + ".\"pk\"";
+    sql += condition + order;
+    if (!parts.select.remainder && (fetch.limit > 0 || fetch.offset > 0)) {
+        const std::int64_t limit = fetch.limit > 0 ? static_cast<std::int64_t>(fetch.limit) : -1;
+        sql += " LIMIT " + parts.select.text.bind(limit);
+        if (fetch.offset > 0)
+            sql += " OFFSET " + parts.select.text.bind(static_cast<std::int64_t>(fetch.offset));
+    }
+    parts.select.text.sql = std::move(sql);
+    return std::move(parts.select);
+}
+
+GeneratedSelect SQLGenerator::count(const StoreFetch& fetch) const
+{
+    Parts parts(schema_);
+    parts.scope.alias = parts.paths.newAlias();
+    parts.scope.entity = fetch.entity;
+    const std::string condition = where(fetch, parts);
+    const StoreTable& table = schema_.table(*fetch.entity);
+    parts.select.text.sql = "SELECT count(*) FROM " + quotedIdentifier(table.name) + " AS " + parts.scope.alias
+        + parts.scope.joinSQL() + condition;
+    return std::move(parts.select);
+}
+
+std::string SQLGenerator::where(const StoreFetch& fetch, Parts& parts) const
+{
+    std::vector<std::string> conditions;
+    if (auto entity = entityCondition(*fetch.entity, fetch.includesSubentities, parts.scope.alias); !entity.empty())
+        conditions.push_back(std::move(entity));
+    if (fetch.predicate)
+        addPredicate(*fetch.predicate, parts, conditions);
+    if (!fetch.excludedKeys.empty())
+        conditions.push_back(parts.scope.alias + ".\"pk\" NOT IN (SELECT \"value\" FROM value_list("
+            + parts.select.text.bind(fetch.excludedKeys) + "))");
+    if (conditions.empty())
+        return {};
+    return " WHERE " + SQLConditionBuilder::joined(conditions, " AND ");
+}
+
+void SQLGenerator::addPredicate(const NSPredicate& predicate, Parts& parts, std::vector<std::string>& conditions) const
+{
+    SQLConditionBuilder builder(parts.paths, parts.select.text, options_);
+    // One condition for the whole keeps lists of alternatives together; only where SQL cannot say all of it, each
+    // member of the AND stands for itself.
+    if (auto whole = builder.condition(predicate.node(), parts.scope, false)) {
+        if (*whole != SQLConditionBuilder::always)
+            conditions.push_back(std::move(*whole));
+        return;
+    }
+    parts.select.text.bindings.clear();
+    parts.scope.joins.clear();
+    SQLConditionBuilder partial(parts.paths, parts.select.text, options_);
+    std::vector<NSPredicate> remainder;
+    for (const PredicateNodePtr& member : conjuncts(predicate)) {
+        const std::size_t bindingCount = parts.select.text.bindings.size();
+        const std::size_t joinCount = parts.scope.joins.size();
+        auto condition = partial.condition(*member, parts.scope, false);
+        if (!condition) {
+            parts.select.text.bindings.resize(bindingCount);
+            parts.scope.joins.resize(joinCount);
+            remainder.emplace_back(member);
+        } else if (*condition != SQLConditionBuilder::always) {
+            conditions.push_back(std::move(*condition));
+        }
+    }
+    parts.select.remainder = NSPredicate::andPredicateWithSubpredicates(remainder);
+}
+
+std::string SQLGenerator::orderBy(const StoreFetch& fetch, Parts& parts) const
+{
+    std::vector<std::string> terms;
+    for (const NSSortDescriptor& descriptor : fetch.sortDescriptors) {
+        const auto keys = splitKeyPath(descriptor.key);
+        SQLPathEnd end = parts.paths.follow(parts.paths.placeOf(parts.scope), keys);
+        if (!end.attribute)
+            throw NSException(NSInvalidArgumentException,
+                "\"" + fetch.entity->name() + "\" cannot be sorted by \"" + descriptor.key + "\"");
+        std::string term = parts.paths.column(end.place, *end.attribute);
+        if (descriptor.comparison == SortComparison::LocalizedStandard
+            && end.attribute->type() == NSAttributeType::String)
+            term += " COLLATE localized_standard";
+        terms.push_back(term + (descriptor.ascending ? "" : " DESC"));
+    }
+    terms.push_back(parts.scope.alias + ".\"pk\"");
+    std::string sql = " ORDER BY ";
+    for (std::size_t i = 0; i < terms.size(); ++i)
+        sql += (i == 0 ? "" : ", ") + terms[i];
+    return sql;
+}
+
+} // namespace tarn

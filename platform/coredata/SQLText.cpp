@@ -1,0 +1,55 @@
+#include "platform/coredata/SQLText.h"
+
+#include "platform/coredata/SQLiteConnection.h"
+#include "platform/coredata/SQLiteFunctions.h"
+#include "platform/predicate/PredicateTree.h"
+
+#include <fmt/format.h>
+
+namespace tarn {
+
+std::string SQLText::bind(SQLBinding binding)
+{
+    bindings.push_back(std::move(binding));
+    return "?" + std::to_string(bindings.size());
+}
+
+void bindAll(SQLiteStatement& statement, const std::vector<SQLBinding>& bindings)
+{
+    for (std::size_t i = 0; i < bindings.size(); ++i) {
+        const int parameter = static_cast<int>(i) + 1;
+        std::visit(Overloaded{
+                       [&](std::int64_t value) { statement.bindInteger(parameter, value); },
+                       [&](double value) { statement.bindDouble(parameter, value); },
+                       [&](const std::string& text) { statement.bindText(parameter, text); },
+                       [&](const NSData& data) { statement.bindBlob(parameter, data.text()); },
+                       [&](const SQLStringTest& test) {
+                           statement.bindPointer(parameter, test.test.get(), stringTestPointerType);
+                       },
+                       [&](const std::shared_ptr<const Value::Array>& list) {
+                           statement.bindPointer(parameter, list.get(), valueListPointerType);
+                       },
+                       [&](const std::span<const std::int64_t>& keys) {
+                           statement.bindPointer(parameter, &keys, keyListPointerType);
+                       },
+                   },
+            bindings[i]);
+    }
+}
+
+std::string describeBinding(const SQLBinding& binding)
+{
+    return std::visit(
+        Overloaded{
+            [](std::int64_t value) { return std::to_string(value); },
+            [](double value) { return fmt::format("{}", value); },
+            [](const std::string& text) { return '"' + text + '"'; },
+            [](const NSData& data) { return fmt::format("<{} bytes>", data.length()); },
+            [](const SQLStringTest& test) { return test.description; },
+            [](const std::shared_ptr<const Value::Array>& list) { return fmt::format("<{} values>", list->size()); },
+            [](const std::span<const std::int64_t>& keys) { return fmt::format("<{} keys>", keys.size()); },
+        },
+        binding);
+}
+
+} // namespace tarn

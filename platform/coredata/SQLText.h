@@ -1,0 +1,41 @@
+#pragma once
+
+#include "platform/foundation/Value.h"
+#include "platform/predicate/StringTest.h"
+
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <string>
+#include <variant>
+#include <vector>
+
+namespace tarn {
+
+class SQLiteStatement;
+
+/// A string test as an argument of `string_test`.
+struct SQLStringTest {
+    std::shared_ptr<const StringTest> test;
+    std::string description; ///< for people: `CONTAINS[cd] "pears"`
+};
+
+/// One argument of a statement: a scalar, a string test, or a list for `value_list`.
+using SQLBinding = std::variant<std::int64_t, double, std::string, NSData, SQLStringTest,
+    std::shared_ptr<const Value::Array>, std::span<const std::int64_t>>;
+
+/// A statement and its arguments: `?1` is the first one.
+struct SQLText {
+    std::string sql;
+    std::vector<SQLBinding> bindings;
+
+    /// Adds an argument; the text that stands for it.
+    std::string bind(SQLBinding binding);
+};
+
+/// Hands the arguments to a prepared statement; they must outlive its walk.
+void bindAll(SQLiteStatement& statement, const std::vector<SQLBinding>& bindings);
+/// An argument as people read it.
+std::string describeBinding(const SQLBinding& binding);
+
+} // namespace tarn
