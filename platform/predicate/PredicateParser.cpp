@@ -25,7 +25,9 @@ ExpressionPtr shared(Expression expression)
 }
 Expression constant(Value value)
 {
-    return {ConstantExpression{std::move(value)}};
+    Expression expression;
+    std::get<ConstantExpression>(expression.form).value = std::move(value);
+    return expression;
 }
 
 [[noreturn]] void refuse(std::string_view reason)
