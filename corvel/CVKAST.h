@@ -51,7 +51,8 @@ public:
     /// Applies edits and parses the new text.
     CVKAST applyTextOperationResults(const CVKTextOperationResult& result) const;
 
-    /// HTML as the CommonMark reference renderer writes it. Hashtags and wiki links show as their text. For tests and exports.
+    /// HTML as the CommonMark reference renderer writes it. Hashtags and wiki links show as their text. For tests and
+    /// exports.
     std::string html() const;
 
     struct Document; ///< the parse; known inside this folder

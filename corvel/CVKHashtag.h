@@ -21,10 +21,12 @@ public:
     /// The path split at "/", empty pieces dropped.
     static std::vector<std::string> componentsForForTagName(std::string_view name);
     static std::string tagNameFromComponents(const std::vector<std::string>& components);
-    /// The hashtag as a text writes it: `#name`, or `#name#` where the name needs the closed form; "" for an unusable name.
+    /// The hashtag as a text writes it: `#name`, or `#name#` where the name needs the closed form; "" for an unusable
+    /// name.
     static std::string hashtagStringForTagName(std::string_view name);
 
-    // Rewriting: each gives the parsed document of the new text, checked by a fresh parse. An unusable name gives the text unchanged.
+    // Rewriting: each gives the parsed document of the new text, checked by a fresh parse. An unusable name gives the
+    // text unchanged.
     /// Below the title, so that title and links to it survive.
     static CVKAST addTagNameToTheTopOfString(std::string_view name, std::string_view text);
     static CVKAST addTagNameToTheBottomOfString(std::string_view name, std::string_view text);

@@ -1,0 +1,141 @@
+#include "corvel/LinkScanner.h"
+
+#include "corvel/Characters.h"
+
+namespace tarn::corvel {
+
+namespace {
+
+constexpr std::size_t kLongestLabel = 999;
+constexpr int kDeepestParentheses = 32;
+
+SourceRange rangeOf(std::size_t begin, std::size_t end) noexcept
+{
+    return {static_cast<Offset>(begin), static_cast<Offset>(end)};
+}
+
+bool isEscape(std::string_view content, std::size_t offset) noexcept
+{
+    return content[offset] == '\\' && offset + 1 < content.size() && isASCIIPunctuation(content[offset + 1]);
+}
+
+std::optional<ScannedDestination> scanAngleDestination(std::string_view content, std::size_t offset) noexcept
+{
+    for (std::size_t i = offset + 1; i < content.size(); ++i) {
+        const char c = content[i];
+        if (c == '>')
+            return ScannedDestination{rangeOf(offset + 1, i), i + 1};
+        if (c == '<' || isLineEnd(c))
+            return std::nullopt;
+        if (isEscape(content, i))
+            ++i;
+    }
+    return std::nullopt;
+}
+
+std::optional<ScannedDestination> scanBareDestination(std::string_view content, std::size_t offset) noexcept
+{
+    int depth = 0;
+    std::size_t i = offset;
+    for (; i < content.size(); ++i) {
+        const char c = content[i];
+        if (c == ' ' || isASCIIControl(c))
+            break;
+        if (isEscape(content, i))
+            ++i;
+        else if (c == '(' && ++depth > kDeepestParentheses)
+            return std::nullopt;
+        else if (c == ')' && --depth < 0)
+            break;
+    }
+    if (depth > 0)
+        return std::nullopt;
+    return ScannedDestination{rangeOf(offset, i), i};
+}
+
+} // namespace
+
+std::optional<ScannedDestination> scanDestination(std::string_view content, std::size_t offset) noexcept
+{
+    if (offset < content.size() && content[offset] == '<')
+        return scanAngleDestination(content, offset);
+    return scanBareDestination(content, offset);
+}
+
+std::optional<ScannedTitle> scanTitle(std::string_view content, std::size_t offset) noexcept
+{
+    if (offset >= content.size())
+        return std::nullopt;
+    const char open = content[offset];
+    if (open != '"' && open != '\'' && open != '(')
+        return std::nullopt;
+    const char close = open == '(' ? ')' : open;
+    for (std::size_t i = offset + 1; i < content.size(); ++i) {
+        if (content[i] == close)
+            return ScannedTitle{rangeOf(offset + 1, i), i + 1};
+        if (open == '(' && content[i] == '(')
+            return std::nullopt;
+        if (isEscape(content, i))
+            ++i;
+    }
+    return std::nullopt;
+}
+
+std::optional<SourceRange> scanLabel(std::string_view content, std::size_t offset) noexcept
+{
+    bool hasInk = false;
+    std::size_t codePoints = 0;
+    for (std::size_t i = offset + 1; i < content.size(); ++i) {
+        const char c = content[i];
+        if (c == ']')
+            return hasInk ? std::optional(rangeOf(offset + 1, i)) : std::nullopt;
+        const bool continues = (static_cast<unsigned char>(c) & 0xC0) == 0x80;
+        if (c == '[' || (!continues && ++codePoints > kLongestLabel))
+            return std::nullopt;
+        if (!isBlank(c))
+            hasInk = true;
+        if (isEscape(content, i)) {
+            ++i;
+            ++codePoints;
+        }
+    }
+    return std::nullopt;
+}
+
+std::size_t skipBlanksAndOneLineEnd(std::string_view content, std::size_t offset) noexcept
+{
+    const auto skipBlanks = [&] {
+        while (offset < content.size() && isSpaceOrTab(content[offset]))
+            ++offset;
+    };
+    skipBlanks();
+    if (offset < content.size() && isLineEnd(content[offset])) {
+        const bool pair = content[offset] == '\r' && offset + 1 < content.size() && content[offset + 1] == '\n';
+        offset += pair ? 2 : 1;
+        skipBlanks();
+    }
+    return offset;
+}
+
+std::optional<ScannedTail> scanInlineTail(std::string_view content, std::size_t offset) noexcept
+{
+    if (offset >= content.size() || content[offset] != '(')
+        return std::nullopt;
+    const auto destination = scanDestination(content, skipBlanksAndOneLineEnd(content, offset + 1));
+    if (!destination)
+        return std::nullopt;
+    ScannedTail tail{destination->range, {}, false, skipBlanksAndOneLineEnd(content, destination->end)};
+    if (tail.end > destination->end) {
+        if (const auto title = scanTitle(content, tail.end)) {
+            tail.title = title->range;
+            tail.hasTitle = true;
+            tail.end = skipBlanksAndOneLineEnd(content, title->end);
+        }
+    }
+    if (tail.end >= content.size() || content[tail.end] != ')')
+        return std::nullopt;
+    ++tail.end;
+    return tail;
+}
+
+} // namespace tarn::corvel
