@@ -13,7 +13,7 @@ constexpr std::size_t kMostObjects = 20'000;
 
 // Object --------------------------------------------------------------------------------------------------------------
 
-NSManagedObjectID RowObject::objectID() const
+NSManagedObjectID RowObject::identifyingObjectID() const
 {
     return {graph_.reader().storeIdentity(), *row_.entity, row_.key};
 }

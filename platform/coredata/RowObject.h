@@ -30,7 +30,7 @@ class RowObject final : public IdentifiedObject {
 public:
     RowObject(RowGraph& graph, StoreRow row) : graph_(graph), row_(std::move(row)) { }
 
-    NSManagedObjectID objectID() const override;
+    NSManagedObjectID identifyingObjectID() const override;
     Value storedValueForKey(std::string_view key) const override;
 
 private:

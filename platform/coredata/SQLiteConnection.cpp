@@ -47,6 +47,12 @@ StoreFailure failureOf(int result, int extendedResult, const char* detail, const
     return {StoreErrorGeneric, "The store failed. (" + doing + ": " + message + ")"};
 }
 
+bool isWord(std::string_view text)
+{
+    constexpr std::string_view kAllowed = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789_-";
+    return !text.empty() && text.find_first_not_of(kAllowed) == std::string_view::npos;
+}
+
 /// Statistics of memory take a lock at every allocation, which makes two threads as slow as one.
 void prepareLibrary()
 {
@@ -176,8 +182,7 @@ SQLiteConnection::SQLiteConnection(const std::filesystem::path& file, const SQLi
     prepareLibrary();
     const int flags = SQLITE_OPEN_READWRITE | (options.create ? SQLITE_OPEN_CREATE : 0) | SQLITE_OPEN_NOMUTEX
         | SQLITE_OPEN_EXRESCODE;
-    const char* filesystem = options.filesystem.empty() ? nullptr : options.filesystem.c_str();
-    const int result = sqlite3_open_v2(file.c_str(), &handle_, flags, filesystem);
+    const int result = sqlite3_open_v2(file.c_str(), &handle_, flags, nullptr);
     try {
         if (result != SQLITE_OK)
             fail(result, "open");
@@ -210,6 +215,11 @@ void SQLiteConnection::configure()
             "PRAGMA temp_store = MEMORY;"
             "PRAGMA mmap_size = 0;"
             "PRAGMA trusted_schema = OFF;");
+    for (const auto& [name, value] : options_.pragmas) {
+        if (!isWord(name) || !isWord(value))
+            throw StoreFailure(StoreErrorGeneric, "\"" + name + "\" is no setting of a store.");
+        execute("PRAGMA " + name + " = " + value + ";");
+    }
     if (options_.queryOnly)
         execute("PRAGMA query_only = ON;");
 }
