@@ -1,9 +1,10 @@
 #include "platform/foundation/Folding.h"
 
 #include "platform/foundation/FoldingInternal.h"
+#include "platform/foundation/FoldingPassInternal.h"
 
-#include <algorithm>
 #include <array>
+#include <cstring>
 
 namespace tarn {
 
@@ -11,6 +12,47 @@ namespace {
 
 /// To be raised with every change of the rules.
 constexpr int kRules = 1;
+
+/// A buffer beyond this size is not kept for the next text.
+constexpr std::size_t kLargestKeptBuffer = 1024 * 1024;
+
+/// The folded text, in a buffer that the thread keeps.
+class FoldedText {
+public:
+    explicit FoldedText(std::string_view text) : buffer_(bufferOfThisThread())
+    {
+        buffer_.clear();
+        folding::Pass(text, buffer_).run();
+    }
+    ~FoldedText()
+    {
+        if (buffer_.capacity() > kLargestKeptBuffer)
+            buffer_.release();
+    }
+    FoldedText(const FoldedText&) = delete;
+    FoldedText& operator=(const FoldedText&) = delete;
+
+    /// Valid until the thread folds again.
+    std::string_view view() const noexcept { return buffer_.text(); }
+
+private:
+    static folding::Buffer& bufferOfThisThread()
+    {
+        thread_local folding::Buffer buffer;
+        return buffer;
+    }
+
+    folding::Buffer& buffer_;
+};
+
+bool isAscii(std::string_view text)
+{
+    for (const char byte : text) {
+        if (static_cast<signed char>(byte) < 0)
+            return false;
+    }
+    return true;
+}
 
 } // namespace
 
@@ -23,21 +65,27 @@ int foldingVersion() noexcept
 
 std::string fold(std::string_view text)
 {
-    return foldByReference(text);
+    const FoldedText folded(text);
+    return std::string(folded.view());
 }
 
 void appendFolded(std::string& result, std::string_view text)
 {
-    result += foldByReference(text);
+    const FoldedText folded(text);
+    result += folded.view();
 }
 
 std::string foldCase(std::string_view text)
 {
+    if (isAscii(text))
+        return fold(text); // it has no marks
     return folding::foldByICU(text, {.caseInsensitive = true, .diacriticInsensitive = false});
 }
 
 std::string foldDiacritics(std::string_view text)
 {
+    if (isAscii(text))
+        return std::string(text);
     return folding::foldByICU(text, {.caseInsensitive = false, .diacriticInsensitive = true});
 }
 
@@ -50,7 +98,11 @@ std::string folded(std::string_view text, ComparisonOptions options)
 
 bool foldedContains(std::string_view text, std::string_view foldedNeedle)
 {
-    return !foldedNeedle.empty() && fold(text).find(foldedNeedle) != std::string::npos;
+    if (foldedNeedle.empty())
+        return false;
+    const FoldedText folded(text);
+    const std::string_view hay = folded.view();
+    return ::memmem(hay.data(), hay.size(), foldedNeedle.data(), foldedNeedle.size()) != nullptr;
 }
 
 } // namespace tarn
