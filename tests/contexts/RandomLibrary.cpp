@@ -1,0 +1,183 @@
+#include "tests/contexts/RandomLibrary.h"
+
+namespace tarn {
+
+namespace {
+
+constexpr const char* texts[]
+    = {"", "a", "A", "ä", "Äpfel", "apfel", "work", "Work/acme", "work/acme/x", "か", "が", "Straße", "STRASSE", "a%b_c", "it's \"x\"", "ﬁn"};
+
+} // namespace
+
+Value RandomLibrary::randomText() { return chance(20) ? Value() : Value(texts[below(std::size(texts))]); }
+
+std::string RandomLibrary::pick(std::initializer_list<const char*> choices) { return choices.begin()[below(choices.size())]; }
+
+NSManagedObject* RandomLibrary::any(std::string_view entity)
+{
+    NSFetchRequest request(*context_->managedObjectModel().entityNamed(entity));
+    const auto records = context_->executeFetchRequest(request);
+    return records.empty() ? nullptr : records[below(records.size())];
+}
+
+void RandomLibrary::setRandomValue(NSManagedObject& record)
+{
+    const auto attributes = record.entity().attributes();
+    const NSAttributeDescription& attribute = *attributes[below(attributes.size())];
+    Value value;
+    if (!chance(20))
+        switch (attribute.type()) {
+        case NSAttributeType::Boolean:
+            value = Value(chance(50));
+            break;
+        case NSAttributeType::Integer16:
+        case NSAttributeType::Integer64:
+            value = Value(static_cast<std::int64_t>(below(5)) - 1);
+            break;
+        case NSAttributeType::Double:
+            value = Value(static_cast<double>(below(4)) / 2);
+            break;
+        case NSAttributeType::String:
+            value = randomText();
+            break;
+        case NSAttributeType::Date:
+            value = Value(dateWithMicrosecondsSinceReferenceDate(static_cast<std::int64_t>(below(3)) * 1500000));
+            break;
+        case NSAttributeType::Data:
+            value = Value(NSData::fromText(texts[below(std::size(texts))]));
+            break;
+        }
+    record.setValueForKey(attribute.name(), value);
+}
+
+void RandomLibrary::tie(NSManagedObject& record)
+{
+    const auto relationships = record.entity().relationships();
+    const NSRelationshipDescription& relationship = *relationships[below(relationships.size())];
+    NSManagedObject* target = any(relationship.destinationEntity().name());
+    if (!relationship.isToMany())
+        record.setToOneAt(relationship.index(), chance(25) ? nullptr : target);
+    else if (target && chance(30))
+        record.toManyAt(relationship.index()).remove(*target);
+    else if (target)
+        record.toManyAt(relationship.index()).add(*target);
+}
+
+void RandomLibrary::populate(std::size_t count)
+{
+    std::vector<NSManagedObject*> made;
+    for (std::size_t number = 0; number < count; ++number)
+        made.push_back(&context_->insertObject(pick({"Book", "Book", "Shelf", "Chapter", "Cover", "Map", "Disc"})));
+    for (NSManagedObject* record : made) {
+        for (int times = 0; times < 5; ++times)
+            setRandomValue(*record);
+        tie(*record);
+        tie(*record);
+    }
+}
+
+void RandomLibrary::change(std::size_t count)
+{
+    for (std::size_t number = 0; number < count; ++number) {
+        const std::size_t choice = below(10);
+        if (choice == 0) {
+            populate(1);
+            continue;
+        }
+        NSManagedObject* record = any(pick({"Book", "Book", "Shelf", "Chapter", "Cover", "Item"}));
+        if (!record)
+            continue;
+        // A book that still lends things cannot be saved as deleted.
+        if (choice == 1 && record->entity().name() != "Book")
+            context_->deleteObject(*record);
+        else if (choice < 6)
+            setRandomValue(*record);
+        else
+            tie(*record);
+    }
+}
+
+std::string RandomLibrary::bookLeaf(const std::string& prefix, std::vector<Value>& arguments)
+{
+    switch (below(9)) {
+    case 0:
+        arguments.push_back(randomText());
+        return prefix + pick({"title", "code", "body"}) + pick({" ==", " !=", " <", " >="}) + pick({" %@", "[cd] %@", "[c] %@", "[d] %@"});
+    case 1:
+        arguments.emplace_back(texts[below(std::size(texts))]);
+        return prefix + pick({"title", "body"}) + pick({" CONTAINS", " BEGINSWITH", " ENDSWITH", " LIKE"}) + pick({"[cd] %@", " %@"});
+    case 2:
+        return prefix + pick({"pages", "copies", "weight"}) + pick({" == ", " != ", " < ", " <= ", " > ", " >= "}) + pick({"0", "1", "-1", "0.5", "nil"});
+    case 3:
+        return prefix + "lent" + pick({" == YES", " == NO", " != YES", " == nil", " != nil"});
+    case 4:
+        arguments.emplace_back(dateWithMicrosecondsSinceReferenceDate(static_cast<std::int64_t>(below(3)) * 1500000));
+        return prefix + "printed" + pick({" == %@", " < %@", " >= %@", " != %@"});
+    case 5:
+        return prefix + pick({"title", "printed", "weight", "cover", "stamp"}) + pick({" == nil", " != nil"});
+    case 6:
+        arguments.push_back(Value(Value::Array{randomText(), randomText(), Value("a")}));
+        return prefix + pick({"title", "code"}) + pick({" IN %@", " IN[cd] %@"});
+    case 7:
+        return prefix + "pages BETWEEN {0, " + pick({"1", "2"}) + "}";
+    default:
+        return prefix + "title MATCHES" + pick({"[cd]", ""}) + " '" + pick({".*", "(?i)A.*", "work(/.*)?", "[a-z]+"}) + "'";
+    }
+}
+
+std::string RandomLibrary::leaf(std::vector<Value>& arguments)
+{
+    switch (below(12)) {
+    case 0:
+        arguments.push_back(randomText());
+        return pick({"ANY", "ALL", "NONE"}) + " shelves.name" + pick({" ==[cd] %@", " == %@", " != %@", " CONTAINS[cd] %@"});
+    case 1:
+        arguments.emplace_back(any("Shelf"));
+        return pick({"%@ IN shelves", "ANY shelves == %@", "shelves CONTAINS %@", "NONE shelves == %@"});
+    case 2:
+        return pick({"shelves", "chapters", "items"}) + ".@count" + pick({" == 0", " != 0", " > 0", " > 1", " == 1", " <= 1"});
+    case 3:
+        arguments.push_back(randomText());
+        return "SUBQUERY(shelves, $s, $s.name" + pick({" ==[cd] %@", " BEGINSWITH[cd] %@"}) + " AND $s.floor" + pick({" > 0", " == 0"}) + ").@count"
+            + pick({" == 0", " != 0", " > 1"});
+    case 4:
+        return "SUBQUERY(chapters, $c, $c.number" + pick({" > 0", " == nil"}) + " OR $c.book.lent == YES).@count" + pick({" == 0", " > 0"});
+    case 5:
+        arguments.push_back(randomText());
+        return "cover.color" + pick({" == %@", " !=[cd] %@", " ==[cd] %@"});
+    case 6:
+        return pick({"ANY chapters.number > 1", "ALL chapters.number == 0", "NONE chapters.heading == nil", "ANY items.label == 'a'"});
+    default:
+        return bookLeaf("", arguments);
+    }
+}
+
+std::string RandomLibrary::term(int depth, std::vector<Value>& arguments)
+{
+    if (depth == 0 || chance(35))
+        return leaf(arguments);
+    if (chance(25))
+        return "NOT (" + term(depth - 1, arguments) + ")";
+    const std::string joint = pick({" AND ", " OR "});
+    std::string text = "(" + term(depth - 1, arguments) + joint + term(depth - 1, arguments);
+    if (chance(30))
+        text += joint + term(depth - 1, arguments);
+    return text + ")";
+}
+
+NSPredicate RandomLibrary::predicate()
+{
+    std::vector<Value> arguments;
+    const std::string format = term(3, arguments);
+    return NSPredicate::predicateWithFormatAndArguments(format, arguments);
+}
+
+std::vector<NSSortDescriptor> RandomLibrary::order()
+{
+    std::vector<NSSortDescriptor> descriptors;
+    for (std::size_t count = below(3); count > 0; --count)
+        descriptors.push_back({pick({"title", "pages", "lent", "printed", "weight", "cover.color"}), chance(50)});
+    return descriptors;
+}
+
+} // namespace tarn

@@ -1,0 +1,228 @@
+#include "tests/contexts/ContextFixture.h"
+
+#include "platform/foundation/NSException.h"
+
+namespace tarn {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::UnorderedElementsAre;
+
+class Relationship : public ContextTest { };
+INSTANTIATE_TEST_SUITE_P(Stores, Relationship, testing::Values(StoreType::SQLite, StoreType::InMemory), storeTypeName);
+
+TEST_P(Relationship, KeepsBothEndsInStep)
+{
+    NSManagedObject& one = book("One");
+    NSManagedObject& chapter = insert("Chapter");
+    chapter.setValueForKey("book", Value(&one));
+    EXPECT_THAT(set(one, "chapters").members(), ElementsAre(&chapter));
+
+    NSManagedObject& two = book("Two");
+    set(two, "chapters").add(chapter);
+    EXPECT_THAT(set(one, "chapters").members(), IsEmpty());
+    EXPECT_EQ(chapter.toOneAt(chapter.entity().relationshipNamed("book")->index()), &two);
+    save();
+    restart();
+
+    EXPECT_THAT(texts(find("Chapter", "book.title == %@", "Two"), "heading"), ElementsAre("(none)"));
+    EXPECT_THAT(find("Book", "chapters.@count == 0"), ElementsAre(find("Book", "title == 'One'").at(0)));
+}
+
+TEST_P(Relationship, OfOneToOneLetsTheFormerHolderGo)
+{
+    NSManagedObject& one = book("One");
+    NSManagedObject& two = book("Two");
+    NSManagedObject& cover = insert("Cover");
+    one.setValueForKey("cover", Value(&cover));
+    save();
+
+    cover.setValueForKey("book", Value(&two));
+    EXPECT_TRUE(one.storedValueForKey("cover").isNil());
+    save();
+    restart();
+
+    const NSManagedObject& again = *all("Cover").at(0);
+    EXPECT_EQ(text(static_cast<const NSManagedObject&>(again.storedValueForKey("book").asObject()), "title"), "Two");
+    EXPECT_EQ(find("Book", "cover == nil").size(), 1U);
+}
+
+TEST_P(Relationship, AddingAMemberDoesNotReadTheOthers)
+{
+    NSManagedObject& popular = shelf("popular");
+    for (int number = 0; number < 40; ++number)
+        set(popular, "books").add(book("Book " + std::to_string(number)));
+    save();
+    restart();
+
+    NSManagedObject& shelfAgain = *all("Shelf").at(0);
+    NSManagedObject& fresh = book("Fresh");
+    set(fresh, "shelves").add(shelfAgain);
+
+    EXPECT_FALSE(set(shelfAgain, "books").isLoaded());
+    EXPECT_TRUE(set(shelfAgain, "books").contains(fresh));
+    EXPECT_FALSE(set(shelfAgain, "books").isLoaded());
+    save();
+    EXPECT_FALSE(set(shelfAgain, "books").isLoaded());
+    EXPECT_EQ(set(shelfAgain, "books").count(), 41U);
+    EXPECT_EQ(context_->registeredObjects().size(), 2U);
+}
+
+TEST_P(Relationship, SettingAnEqualSetDirtiesNothing)
+{
+    NSManagedObject& one = book("One");
+    NSManagedObject& red = shelf("red");
+    NSManagedObject& blue = shelf("blue");
+    NSManagedObject* const both[] = {&red, &blue};
+    set(one, "shelves").set(both);
+    save();
+
+    NSManagedObject* const turned[] = {&blue, &red, &red};
+    set(one, "shelves").set(turned);
+    EXPECT_FALSE(context_->hasChanges());
+
+    NSManagedObject* const onlyBlue[] = {&blue};
+    set(one, "shelves").set(onlyBlue);
+    EXPECT_THAT(context_->updatedObjects(), UnorderedElementsAre(&one, &red));
+}
+
+TEST_P(Relationship, ThatChangedThroughJoinsAloneLeavesTheRowsVersion)
+{
+    NSManagedObject& one = book("One");
+    NSManagedObject& red = shelf("red");
+    save();
+    const std::int64_t version = red.rowVersion();
+
+    set(one, "shelves").add(red);
+    save();
+
+    EXPECT_EQ(red.rowVersion(), version);
+    restart();
+    EXPECT_EQ(find("Shelf", "books.@count == 1").at(0)->rowVersion(), version);
+}
+
+TEST_P(Relationship, EnumeratesByKeyThenInOrderOfAddition)
+{
+    NSManagedObject& red = shelf("red");
+    NSManagedObject& a = book("a");
+    NSManagedObject& b = book("b");
+    NSManagedObject& c = book("c");
+    set(red, "books").add(c);
+    set(red, "books").add(a);
+    EXPECT_THAT(texts(set(red, "books").members(), "title"), ElementsAre("c", "a"));
+    save();
+    EXPECT_THAT(texts(set(red, "books").members(), "title"), ElementsAre("a", "c"));
+
+    set(red, "books").remove(a);
+    set(red, "books").add(b);
+    set(red, "books").add(a);
+    EXPECT_THAT(texts(set(red, "books").members(), "title"), ElementsAre("a", "c", "b"));
+    save();
+    restart();
+    EXPECT_THAT(texts(set(*all("Shelf").at(0), "books").members(), "title"), ElementsAre("a", "b", "c"));
+}
+
+TEST_P(Relationship, AddedAndRemovedUnreadMembersComeOutRight)
+{
+    NSManagedObject& red = shelf("red");
+    NSManagedObject& a = book("a");
+    set(red, "books").add(a);
+    save();
+    restart();
+    NSManagedObject& redAgain = *all("Shelf").at(0);
+    NSManagedObject& aAgain = *all("Book").at(0);
+
+    set(redAgain, "books").add(aAgain); // is there already; nobody has read it
+    EXPECT_EQ(set(redAgain, "books").count(), 1U);
+    set(redAgain, "books").remove(aAgain);
+    EXPECT_EQ(set(redAgain, "books").count(), 0U);
+    save();
+    restart();
+    EXPECT_THAT(set(*all("Shelf").at(0), "books").members(), IsEmpty());
+}
+
+TEST_P(Relationship, RefusesARecordOfAnotherContext)
+{
+    const auto other = contextOn(coordinator_);
+    NSManagedObject& foreign = other->insertObject("Cover");
+    EXPECT_THROW(book("A").setValueForKey("cover", Value(&foreign)), NSException);
+}
+
+// Deletion --------------------------------------------------------------------------------------------------------------
+
+TEST_P(Relationship, DeletingCascadesAndNullifiesAtOnce)
+{
+    NSManagedObject& one = book("One");
+    NSManagedObject& red = shelf("red");
+    NSManagedObject& chapter = insert("Chapter");
+    NSManagedObject& cover = insert("Cover");
+    set(one, "shelves").add(red);
+    set(one, "chapters").add(chapter);
+    one.setValueForKey("cover", Value(&cover));
+    save();
+
+    context_->deleteObject(one);
+
+    EXPECT_TRUE(one.isDeleted() && chapter.isDeleted() && cover.isDeleted());
+    EXPECT_EQ(text(one, "title"), "One") << "until it is saved";
+    EXPECT_THAT(set(red, "books").members(), IsEmpty());
+    EXPECT_THAT(all("Book"), IsEmpty());
+    EXPECT_THAT(all("Chapter"), IsEmpty());
+    EXPECT_THAT(context_->deletedObjects(), UnorderedElementsAre(&one, &chapter, &cover));
+    save();
+    EXPECT_EQ(text(one, "title"), "(none)");
+    restart();
+    EXPECT_THAT(all("Cover"), IsEmpty());
+    EXPECT_EQ(all("Shelf").size(), 1U);
+}
+
+TEST_P(Relationship, DenyRefusesTheSaveWhileMembersRemain)
+{
+    NSManagedObject& one = book("One");
+    NSManagedObject& map = insert("Map");
+    map.setValueForKey("book", Value(&one));
+    save();
+
+    context_->deleteObject(one);
+    NSError error;
+    EXPECT_FALSE(context_->save(&error));
+    EXPECT_EQ(error.code(), StoreErrorDeleteDenied);
+
+    context_->deleteObject(map);
+    EXPECT_TRUE(context_->save(&error)) << error;
+    restart();
+    EXPECT_THAT(all("Item"), IsEmpty());
+    EXPECT_THAT(all("Book"), IsEmpty());
+}
+
+TEST_P(Relationship, DeletingAnInsertedRecordLeavesNoTrace)
+{
+    NSManagedObject& one = book("One");
+    NSManagedObject& chapter = insert("Chapter");
+    set(one, "chapters").add(chapter);
+    context_->deleteObject(one);
+
+    EXPECT_FALSE(context_->hasChanges());
+    EXPECT_THAT(context_->insertedObjects(), IsEmpty());
+    save();
+    EXPECT_THAT(all("Chapter"), IsEmpty());
+}
+
+TEST_P(Relationship, RowsAddedByAnotherWriterAreNullifiedToo)
+{
+    NSManagedObject& one = book("One");
+    save();
+    const auto other = contextOn(coordinator_);
+    NSManagedObject& chapter = other->insertObject("Chapter");
+    chapter.setValueForKey("book", Value(other->objectWithID(one.objectID())));
+    context_->deleteObject(one); // knows of no chapter
+    ASSERT_TRUE(other->save());
+    save();
+    restart();
+
+    EXPECT_TRUE(all("Chapter").at(0)->storedValueForKey("book").isNil());
+}
+
+} // namespace
+} // namespace tarn
