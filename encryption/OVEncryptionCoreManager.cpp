@@ -1,0 +1,114 @@
+#include "encryption/OVEncryptionCoreManager.h"
+
+#include "platform/coredata/NSManagedObject.h"
+#include "platform/foundation/NSException.h"
+
+#include <atomic>
+#include <map>
+#include <mutex>
+
+namespace tarn {
+namespace {
+
+/// The registry is asked at every access to a protected field, so the usual case, no manager at all, costs one load.
+struct Registry {
+    struct Service {
+        OVEncryptionCoreManagerProtocol* manager = nullptr;
+        int hidden = 0; ///< blocks that run without it
+    };
+
+    std::mutex mutex;
+    std::map<const NSManagedObjectContext*, Service> services;
+    std::atomic<bool> anyManager = false;
+    std::atomic<bool> fileEncryption = false;
+
+    void forgetIdleServices()
+    {
+        std::erase_if(services, [](const auto& entry) { return !entry.second.manager && entry.second.hidden == 0; });
+        anyManager = !services.empty();
+    }
+};
+
+Registry& registry()
+{
+    static auto* const theRegistry = new Registry; // outlives managers that are destroyed at the end of the process
+    return *theRegistry;
+}
+
+/// Hides the manager of a context while it lives.
+class Hiding {
+public:
+    explicit Hiding(const NSManagedObjectContext& context) : context_(&context) { change(1); }
+    ~Hiding() { change(-1); }
+    Hiding(const Hiding&) = delete;
+    Hiding& operator=(const Hiding&) = delete;
+
+private:
+    void change(int difference)
+    {
+        std::lock_guard lock(registry().mutex);
+        registry().services[context_].hidden += difference;
+        registry().forgetIdleServices();
+    }
+    const NSManagedObjectContext* context_;
+};
+
+} // namespace
+
+OVEncryptionCoreManagerProtocol::~OVEncryptionCoreManagerProtocol()
+{
+    std::lock_guard lock(registry().mutex);
+    for (auto& [context, service] : registry().services) {
+        if (service.manager == this)
+            service.manager = nullptr;
+    }
+    registry().forgetIdleServices();
+}
+
+OVEncryptionCoreManagerProtocol* OVEncryptionCoreManager::encryptionCoreManagerForManagedObjectContext(
+    const NSManagedObjectContext& context)
+{
+    if (!registry().anyManager)
+        return nullptr;
+    std::lock_guard lock(registry().mutex);
+    auto found = registry().services.find(&context);
+    if (found == registry().services.end() || found->second.hidden > 0)
+        return nullptr;
+    return found->second.manager;
+}
+
+void OVEncryptionCoreManager::setEncryptionCoreManager(
+    OVEncryptionCoreManagerProtocol* manager, const NSManagedObjectContext& context)
+{
+    std::lock_guard lock(registry().mutex);
+    registry().services[&context].manager = manager;
+    registry().forgetIdleServices();
+}
+
+void OVEncryptionCoreManager::performInManagedObjectContext(
+    const NSManagedObjectContext& context, const std::function<void()>& withoutEncryptionCoreManager)
+{
+    Hiding hiding(context);
+    withoutEncryptionCoreManager();
+}
+
+bool OVEncryptionCoreManager::isFileEncryptionEnabled() noexcept
+{
+    return registry().fileEncryption;
+}
+
+void OVEncryptionCoreManager::setFileEncryptionEnabled(bool enabled) noexcept
+{
+    registry().fileEncryption = enabled;
+}
+
+OVEncryptionCoreManagerProtocol* OVEncryptionCoreManager::managerGuarding(
+    const OVEncryptableObject& object, bool isEncrypted)
+{
+    OVEncryptionCoreManagerProtocol* manager = isEncrypted ? object.encryptionCoreManager() : nullptr;
+    if (manager && manager->isObjectLocked(object))
+        throw NSException(OVInvalidAccessorException, OVInvalidAccessorReason);
+    return manager;
+}
+
+} // namespace tarn

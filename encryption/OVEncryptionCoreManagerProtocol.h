@@ -1,0 +1,44 @@
+#pragma once
+
+#include "encryption/OVEncryptableObject.h"
+#include "platform/foundation/NSError.h"
+
+#include <filesystem>
+
+namespace tarn {
+
+/// What records ask of an encryption manager. A host implements it, or takes the one of the encryption kit, and
+/// registers it for a context with `OVEncryptionCoreManager`.
+///
+/// Called on the queue of the record's context. Readers give the clear value, or none and an error; writers store the
+/// value encrypted in the record.
+class OVEncryptionCoreManagerProtocol {
+public:
+    virtual ~OVEncryptionCoreManagerProtocol();
+
+    /// Whether the protected fields of the record cannot be read now.
+    virtual bool isObjectLocked(const OVEncryptableObject& object) const = 0;
+    /// Protects a record with a password. False and an error when it stays as it was.
+    virtual bool addEncryptionToObject(OVEncryptableObject& object, OVEncryptingPassword& password, NSError* error) = 0;
+    /// Whether the clear password is at hand without asking anybody.
+    virtual bool hasCachedPassword(const OVEncryptingPassword& password) const = 0;
+
+    // Notes -----------------------------------------------------------------------------------------------------------
+    virtual std::optional<std::string> textForNote(const OVEncryptableNote& note, NSError* error) = 0;
+    virtual void setText(std::optional<std::string_view> text, OVEncryptableNote& note) = 0;
+
+    // Attachments -----------------------------------------------------------------------------------------------------
+    virtual std::optional<std::string> filenameForNoteFile(const OVEncryptableNoteFile& file, NSError* error) = 0;
+    virtual void setFilename(std::optional<std::string_view> filename, OVEncryptableNoteFile& file) = 0;
+    virtual std::optional<std::string> normalizedFileExtensionForNoteFile(
+        const OVEncryptableNoteFile& file, NSError* error)
+        = 0;
+    virtual void setNormalizedFileExtension(std::optional<std::string_view> extension, OVEncryptableNoteFile& file) = 0;
+    virtual std::optional<std::int64_t> fileSizeForNoteFile(const OVEncryptableNoteFile& file, NSError* error) = 0;
+    virtual void setFileSize(std::optional<std::int64_t> bytes, OVEncryptableNoteFile& file) = 0;
+    /// Where the decrypted bytes lie.
+    virtual std::optional<std::filesystem::path> fileURLForNoteFile(const OVEncryptableNoteFile& file, NSError* error)
+        = 0;
+};
+
+} // namespace tarn

@@ -1,0 +1,94 @@
+#include "encryption/OVEncryptionCoreManager.h"
+#include "model/OVNoteFile.h"
+#include "model/OVPassword.h"
+#include "platform/coredata/NSManagedObjectContext.h"
+
+namespace tarn {
+
+std::optional<std::string> OVNoteFile::filename() const
+{
+    if (auto* manager = OVEncryptionCoreManager::managerGuarding(*this, encryptedValue()))
+        return manager->filenameForNoteFile(*this, nullptr);
+    return primitiveFilename();
+}
+
+void OVNoteFile::setFilename(std::optional<std::string_view> filename)
+{
+    if (auto* manager = OVEncryptionCoreManager::managerGuarding(*this, encryptedValue()))
+        manager->setFilename(filename, *this);
+    else
+        updatePrimitiveFilename(filename);
+}
+
+std::optional<std::string> OVNoteFile::normalizedFileExtension() const
+{
+    if (auto* manager = OVEncryptionCoreManager::managerGuarding(*this, encryptedValue()))
+        return manager->normalizedFileExtensionForNoteFile(*this, nullptr);
+    return primitiveNormalizedFileExtension();
+}
+
+void OVNoteFile::setNormalizedFileExtension(std::optional<std::string_view> extension)
+{
+    if (auto* manager = OVEncryptionCoreManager::managerGuarding(*this, encryptedValue()))
+        manager->setNormalizedFileExtension(extension, *this);
+    else
+        updatePrimitiveNormalizedFileExtension(extension);
+}
+
+std::optional<std::int64_t> OVNoteFile::fileSize() const
+{
+    if (auto* manager = OVEncryptionCoreManager::managerGuarding(*this, encryptedValue()))
+        return manager->fileSizeForNoteFile(*this, nullptr);
+    return primitiveFileSize();
+}
+
+void OVNoteFile::setFileSize(std::optional<std::int64_t> bytes)
+{
+    if (auto* manager = OVEncryptionCoreManager::managerGuarding(*this, encryptedValue()))
+        manager->setFileSize(bytes, *this);
+    else
+        updatePrimitiveFileSize(bytes);
+}
+
+void OVNoteFile::updatePrimitiveFilename(std::optional<std::string_view> filename)
+{
+    _OVNoteFile::setFilename(filename);
+}
+
+void OVNoteFile::updatePrimitiveNormalizedFileExtension(std::optional<std::string_view> extension)
+{
+    _OVNoteFile::setNormalizedFileExtension(extension);
+}
+
+void OVNoteFile::updatePrimitiveFileSize(std::optional<std::int64_t> bytes)
+{
+    _OVNoteFile::setFileSize(bytes);
+}
+
+bool OVNoteFile::hasEncryptionAndIsLocked() const
+{
+    if (OVEncryptionCoreManagerProtocol* manager = encryptionCoreManager())
+        return manager->isObjectLocked(*this);
+    return hasEncryption();
+}
+
+OVEncryptionCoreManagerProtocol* OVNoteFile::encryptionCoreManager() const
+{
+    return OVEncryptionCoreManager::encryptionCoreManagerForManagedObjectContext(managedObjectContext());
+}
+
+OVEncryptionState OVNoteFile::encryptionState() const
+{
+    return {encryptedValue(), encryptedData(), encryptionDate(), encryptionUniqueIdentifier(), password()};
+}
+
+void OVNoteFile::setEncryptionState(const OVEncryptionState& state)
+{
+    setEncryptedValue(state.encrypted);
+    setEncryptedData(state.encryptedData);
+    setEncryptionDate(state.encryptionDate);
+    setEncryptionUniqueIdentifier(state.encryptionUniqueIdentifier);
+    setPassword(static_cast<OVPassword*>(state.password));
+}
+
+} // namespace tarn

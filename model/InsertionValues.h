@@ -1,0 +1,13 @@
+#pragma once
+
+#include "platform/foundation/NSDate.h"
+#include "platform/foundation/NSUUID.h"
+
+#include <cstdint>
+
+namespace tarn {
+
+/// The format of the content records that this library makes; what their `version` holds.
+inline constexpr std::int16_t currentRecordVersion = 3;
+
+} // namespace tarn

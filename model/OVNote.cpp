@@ -1,0 +1,18 @@
+#include "model/OVNote.h"
+
+#include "model/InsertionValues.h"
+
+namespace tarn {
+
+OVNote* OVNote::insertInManagedObjectContext(NSManagedObjectContext& context)
+{
+    OVNote* note = _OVNote::insertInManagedObjectContext(context);
+    note->setUniqueIdentifier(newUUIDString());
+    const NSDate date = now();
+    note->setCreationDate(date);
+    note->setModificationDate(date);
+    note->setVersionValue(currentRecordVersion);
+    return note;
+}
+
+} // namespace tarn

@@ -1,0 +1,265 @@
+#pragma once
+
+#include "encryption/OVEncryptableObject.h"
+#include "model/_OVNote.h"
+#include "platform/coredata/NSFetchRequest.h"
+#include "platform/foundation/Folding.h"
+
+#include <cstdint>
+#include <span>
+#include <unordered_map>
+#include <vector>
+
+namespace tarn {
+
+class CVKAST;
+class OVNoteGenericFile;
+class OVNoteImage;
+class TolVectorClock;
+struct CVKTextSummary;
+
+/// One note: a Markdown text and everything that is derived from it.
+///
+/// Edit it only through its text operations; the derived fields follow. Confined to its context's queue.
+///
+///     OVNote* note = OVNote::noteWithText("# Trip\n\n#rome", context);
+///     note->appendNoteWithText("- [ ] tickets");
+class OVNote : public _OVNote, public OVEncryptableNote {
+public:
+    using _OVNote::_OVNote;
+
+    /// Tags by folded title. The values are borrowed from the context that the note lives in.
+    using TagsCache = std::unordered_map<std::string, OVNoteTag*>;
+    /// Notes by folded title, or by folded identifier where they have none. Borrowed likewise; null: known to be none.
+    using NotesCache = std::unordered_map<std::string, OVNote*>;
+
+    /// A new note without text, with an identifier; made and modified at one and the same time.
+    static OVNote* insertInManagedObjectContext(NSManagedObjectContext& context);
+
+    // Fetching (notes/OVNote+Fetching.cpp)
+    // ------------------------------------------------------------------------------ Lists are in no order but the
+    // store's unless it is named; the standard order is pinned notes first, then the latest modified. Titles are
+    // compared without case and diacritics. A failed fetch is logged and gives an empty list or null.
+
+    /// The notes that the predicate finds; all without one.
+    static std::vector<OVNote*> notesInManagedObjectContext(
+        NSManagedObjectContext& context, const std::optional<NSPredicate>& predicate);
+    static std::vector<OVNote*> allNotesInManagedObjectContext(NSManagedObjectContext& context);
+    /// Archived notes included.
+    static std::vector<OVNote*> allUntrashedNotesInManagedObjectContext(NSManagedObjectContext& context);
+    static std::vector<OVNote*> allTrashedNotesInManagedObjectContext(NSManagedObjectContext& context);
+    /// Those that are not in the trash as well.
+    static std::vector<OVNote*> allArchivedNotesInManagedObjectContext(NSManagedObjectContext& context);
+    static std::vector<OVNote*> allConflictedNotesInManagedObjectContext(NSManagedObjectContext& context);
+    static std::vector<OVNote*> allEncryptedNotesInManagedObjectContext(NSManagedObjectContext& context);
+    /// At most 15 notes for a small screen, in the standard order: neither trashed, archived nor protected (attachments
+    /// included), with a title or a subtitle.
+    static std::vector<OVNote*> watchNotesInManagedObjectContext(NSManagedObjectContext& context);
+
+    /// The notes that carry any of the tags.
+    static std::vector<OVNote*> notesForTags(const std::vector<OVNoteTag*>& tags, NSManagedObjectContext& context);
+    static std::vector<OVNote*> notesWithUniqueIdentifiers(
+        const std::vector<std::string>& uniqueIdentifiers, NSManagedObjectContext& context);
+    static std::vector<OVNote*> notesWithUUIDs(const std::vector<std::string>& uniqueIdentifiers,
+        const std::vector<NSSortDescriptor>& sortDescritors, NSManagedObjectContext& context);
+    /// The note with this identifier, or null. The last of several, should there be more.
+    static OVNote* noteWithUniqueIdentifier(std::string_view uniqueIdentifier, NSManagedObjectContext& context);
+    /// Deletes every note with one of these identifiers; nothing happens when the fetch fails.
+    static void deleteNotesWithUniqueIdentifiers(
+        const std::vector<std::string>& uniqueIdentifiers, NSManagedObjectContext& context);
+
+    /// In the standard order.
+    static std::vector<OVNote*> notesWithTitle(std::string_view title, NSManagedObjectContext& context);
+    /// The first of them, or null.
+    static OVNote* noteWithTitle(std::string_view title, NSManagedObjectContext& context);
+    /// The notes with this title or this identifier, in the standard order.
+    static std::vector<OVNote*> notesWithTitleOrUUID(std::string_view titleOrUUID, NSManagedObjectContext& context);
+    /// The first of them, or null.
+    static OVNote* noteWithTitleOrUUID(std::string_view titleOrUUID, NSManagedObjectContext& context);
+    /// The notes with any of these as title or identifier, in the standard order.
+    static std::vector<OVNote*> notesWithTitlesOrUUIDs(
+        const std::vector<std::string>& titlesOrUUIDs, NSManagedObjectContext& context);
+    /// The same in the given order.
+    static std::vector<OVNote*> notesWithTitlesOrUUIDs(const std::vector<std::string>& titlesOrUUIDs,
+        const std::vector<NSSortDescriptor>& sortDescritors, NSManagedObjectContext& context);
+    /// The first in the standard order that is not in the trash, or null.
+    static OVNote* untrashedNoteWithTitle(std::string_view title, NSManagedObjectContext& context);
+    static OVNote* untrashedNoteWithTitleOrUUID(std::string_view titleOrUUID, NSManagedObjectContext& context);
+
+    // Text (notes/OVNote+Parsing.cpp)
+    // ----------------------------------------------------------------------------------- All raise "Invalid accessor"
+    // while the note is locked, and `NSInvalidArgumentException` for a text of more than 512 MiB; then nothing has
+    // changed. Ill-formed UTF-8 becomes U+FFFD.
+
+    /// A new note with this text.
+    static OVNote* noteWithText(std::string_view text, NSManagedObjectContext& context);
+    /// Replaces the text and derives title, subtitle, tags, to-do counts, flags and the use of attachments from it;
+    /// counts the edit in the vector clock and names this device. The modification date becomes now unless
+    /// `updateModificationDate` is NO.
+    void updateNoteWithText(std::string_view text);
+    void updateNoteWithText(std::string_view text, bool updateModificationDate);
+    /// What both come to.
+    void _updateNoteWithText(std::string_view text, bool updateModificationDate);
+    /// The same with a text that is parsed already.
+    void updateNoteWithAST(const CVKAST& document);
+    void updateNoteWithAST(const CVKAST& document, bool updateModificationDate);
+    /// Writes what a text came to into the record, and into its attachments. Counts stop at 32,767; a protected note
+    /// gets no subtitle. When tags cannot be looked up (which is logged) the note keeps those that it has.
+    void updateNoteFromTextSummary(const CVKTextSummary& summary);
+    /// Marks attachments used or unused by the links of the text, and numbers the used ones by their first link.
+    void updateFilesFromTextSummary(const CVKTextSummary& summary);
+
+    // Text editing (notes/OVNote+TextEditing.cpp)
+    // ----------------------------------------------------------------------- They end in `updateNoteWithText`.
+
+    /// Puts the text below a first line that begins with "# ", else in front.
+    void prependNoteWithText(std::string_view addition);
+    /// Puts the text at the end, but above a last line of this note's tags. Nothing happens for an empty text. Unless
+    /// `newLine` is NO it stands on lines of its own, with a blank line before the tags.
+    void appendNoteWithText(std::string_view addition);
+    void appendNoteWithText(std::string_view addition, bool newLine);
+    /// Replaces all but a heading of level 1 to 3 on the first of several lines; without one the new text begins with a
+    /// line feed.
+    void replaceNoteWithText(std::string_view replacement);
+
+    // Guarded text (notes/OVNote+Encryption.cpp)
+    // ------------------------------------------------------------------------
+    /// The text; through the encryption manager of the context when the note is protected and there is one. None when
+    /// there is no text or the manager fails. Raises "Invalid accessor" while the note is locked.
+    std::optional<std::string> text() const override;
+    /// Stores the text likewise, without deriving anything from it. Raises likewise, and for more than 512 MiB.
+    void setText(std::optional<std::string_view> text) override;
+    std::optional<std::string> storedText() const override;
+    /// Stores the text as it is, unguarded, and tells observers.
+    void updatePrimitiveText(std::optional<std::string_view> text) override;
+    /// Whether the note, or one of its attachments, is protected. NO when the attachments cannot be counted.
+    bool hasEncryption() const override;
+    bool hasEncryptionAndIsLocked() const override;
+    OVEncryptionCoreManagerProtocol* encryptionCoreManager() const override;
+    NSManagedObject& encryptableRecord() noexcept override { return *this; }
+    const NSManagedObject& encryptableRecord() const noexcept override { return *this; }
+    OVEncryptionState encryptionState() const override;
+    void setEncryptionState(const OVEncryptionState& state) override;
+    static bool anyNoteHasEncryption(const std::vector<OVNote*>& notes);
+    /// NO for a protected note where attachments cannot be protected.
+    bool allowsAttachments() const;
+    /// What a note hands over when it is shared: its text. Raises "Invalid accessor" while the note is locked.
+    std::vector<std::string> activityItems() const;
+
+    // State (notes/OVNote.cpp)
+    // ------------------------------------------------------------------------------------------ Whoever sets a state
+    // sets its companion date to now, also when nothing changes.
+
+    /// Whether it has an identifier that stays.
+    bool isPersistent() const;
+    /// A new random identifier.
+    void updateUniqueIdentifier();
+    void pin();
+    void unpin();
+    bool isPinned() const;
+    void pinInTag(OVNoteTag& tag);
+    void unpinInTag(OVNoteTag& tag);
+    /// NO for null.
+    bool isPinnedInTag(const OVNoteTag* tag) const;
+    /// Takes it from the top of the note list and of every tag's list.
+    void unpinEverywhere();
+    void makeReadOnly();
+    void makeEditable();
+    bool isReadOnly() const;
+    /// Always NO: for kinds of notes that are never edited.
+    virtual bool isStatic() const;
+    /// Neither trashed, archived, static nor read-only.
+    bool isEditable() const;
+    /// How much of 100 is done, rounded down; 0 without to-do items.
+    unsigned completedToDoPercentage() const;
+    // Leaving for the trash or the archive takes the note out of its conflict; archiving takes it out of the trash.
+    void trash();
+    void restoreFromTrash();
+    bool isTrashed() const;
+    void archive();
+    void unarchive();
+    bool isArchived() const;
+    // A real change sets the modification date of every tag of the note.
+    void setTrashed(std::optional<bool> trashed) override;
+    void setArchived(std::optional<bool> archived) override;
+    /// Deletes the note and its attachments from its context.
+    void permanentlyDelete();
+    void prepareForDeletion() override;
+    /// The notes that this one links to, and those that link to it; each once.
+    std::vector<OVNote*> linkedNotes() const;
+    std::vector<OVNote*> linkedByNotes() const;
+
+    // Conflicted copies (notes/OVNote+Conflict.cpp)
+    // --------------------------------------------------------------------- Versions of one note that are kept side by
+    // side form a group. A member holds the identifier of the note that the group is rooted at, a slash, and the time
+    // at which it was stamped: seconds since 1970 with six decimals.
+
+    /// The members of a group, the latest stamped first. A failed fetch is logged and gives an empty list.
+    static std::vector<OVNote*> conflictedNotesForUniqueIdentifier(
+        std::string_view uniqueIdentifier, NSManagedObjectContext& context);
+    /// The members of this note's group.
+    std::vector<OVNote*> conflictedNotes() const;
+    bool hasConflictedNotes() const;
+    bool isConflictRoot() const;
+    /// The identifier that its group is rooted at; its own outside of a group.
+    std::string conflictedRootUUID() const;
+    /// A stamp for a member of this group. Each is later than the one before.
+    std::string conflictedUUIDFromRootUUID(std::string_view rootUUID) const;
+    /// Joins the group of `note`, which is made when there is none, as its latest member.
+    void markAsConflictedFromNote(OVNote& note);
+    /// Leaves its group: one that is left alone is no group any more, of several the latest stamped becomes the root.
+    void unmarkAsConflicted();
+
+    // Vector clock (sync/OVNote+VectorClock.cpp)
+    // ------------------------------------------------------------------------
+    /// The counts of edits; an empty clock when there are none yet, none when the stored bytes are damaged.
+    std::optional<TolVectorClock> noteVectorClock() const;
+    /// Counts one edit of this device; a damaged clock is replaced. Nothing changes when the device is unknown.
+    void updateNoteVectorClock();
+    /// Takes the higher count of both for every device; a damaged clock is replaced.
+    void mergeVectorClockWithClock(const TolVectorClock& clock);
+
+    // Tags (tags/OVNote+Tags.cpp)
+    // ---------------------------------------------------------------------------------------
+    /// The titles of its tags, in the order of the set.
+    std::vector<std::string> tagsStrings() const;
+    /// Gives the note exactly the tags of these names, which are made where they are missing; others stay as records.
+    /// When they cannot be looked up (which is logged) the note keeps the tags that it has.
+    void setTagsFromStrings(std::span<const std::string> names);
+    /// Its tag of this name, compared folded; null when it has none.
+    OVNoteTag* tagForName(std::string_view name) const;
+    bool hasTag(std::string_view name) const;
+
+    // Attachments (files/OVNote+Attachments.cpp)
+    // ------------------------------------------------------------------------
+    /// Whether the text refers to any.
+    bool hasAttachments() const;
+    /// Those that the text refers to, in the order of its links.
+    std::vector<OVNoteFile*> orderedFiles() const;
+    std::vector<OVNoteImage*> orderedImages() const;
+    std::vector<OVNoteFile*> orderedFilesWithoutImages() const;
+
+    // Beside the record, never stored
+    // -----------------------------------------------------------------------------------
+    /// A slot for callers; the model does not use it.
+    std::int64_t searchIndex() const noexcept { return searchIndex_; }
+    void setSearchIndex(std::int64_t searchIndex) noexcept { searchIndex_ = searchIndex; }
+    // What an operation on many notes lends each of them, so that names are looked up once: see `OVNoteCacheLoan`.
+    // Borrowed; null for none.
+    TagsCache* tagsCache() const noexcept { return tagsCache_; }
+    void setTagsCache(TagsCache* cache) noexcept { tagsCache_ = cache; }
+    NotesCache* notesCache() const noexcept { return notesCache_; }
+    void setNotesCache(NotesCache* cache) noexcept { notesCache_ = cache; }
+
+private:
+    static void checkTextLength(std::string_view text);
+    void updateModificationDateOfTags();
+    void leaveConflict();
+    void setConflictUUID(std::optional<std::string_view> conflictUUID);
+
+    std::int64_t searchIndex_ = 0;
+    TagsCache* tagsCache_ = nullptr;
+    NotesCache* notesCache_ = nullptr;
+};
+
+} // namespace tarn

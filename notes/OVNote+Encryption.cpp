@@ -1,0 +1,96 @@
+#include "encryption/OVEncryptionCoreManager.h"
+#include "model/OVNote.h"
+#include "model/OVNoteFile.h"
+#include "model/OVPassword.h"
+#include "model/RecordFetch.h"
+#include "platform/foundation/NSException.h"
+
+namespace tarn {
+
+std::optional<std::string> OVNote::text() const
+{
+    if (auto* manager = OVEncryptionCoreManager::managerGuarding(*this, encryptedValue()))
+        return manager->textForNote(*this, nullptr);
+    return storedText();
+}
+
+void OVNote::setText(std::optional<std::string_view> text)
+{
+    auto* manager = OVEncryptionCoreManager::managerGuarding(*this, encryptedValue());
+    if (text)
+        checkTextLength(*text);
+    if (manager)
+        manager->setText(text, *this);
+    else
+        updatePrimitiveText(text);
+}
+
+std::optional<std::string> OVNote::storedText() const
+{
+    return primitiveText();
+}
+
+void OVNote::updatePrimitiveText(std::optional<std::string_view> text)
+{
+    willChangeValueForKey("text");
+    setPrimitiveText(text);
+    didChangeValueForKey("text");
+}
+
+void OVNote::checkTextLength(std::string_view text)
+{
+    constexpr std::size_t maximumLength = std::size_t{512} * 1024 * 1024;
+    if (text.size() > maximumLength)
+        throw NSException(NSInvalidArgumentException, "A note cannot hold a text of more than 512 MiB.");
+}
+
+bool OVNote::hasEncryption() const
+{
+    if (encryptedValue())
+        return true;
+    NSManagedObjectContext& context = managedObjectContext();
+    NSFetchRequest request(OVNoteFile::entityInManagedObjectContext(context));
+    request.predicate = NSPredicate::predicateWithFormat("note == %@ AND encrypted == YES", this);
+    request.fetchLimit = 1;
+    return context.count(request).value_or(0) > 0;
+}
+
+bool OVNote::hasEncryptionAndIsLocked() const
+{
+    const OVEncryptionCoreManagerProtocol* manager = encryptionCoreManager();
+    return manager ? manager->isObjectLocked(*this) : hasEncryption();
+}
+
+OVEncryptionCoreManagerProtocol* OVNote::encryptionCoreManager() const
+{
+    return OVEncryptionCoreManager::encryptionCoreManagerForManagedObjectContext(managedObjectContext());
+}
+
+OVEncryptionState OVNote::encryptionState() const
+{
+    return {encryptedValue(), encryptedData(), encryptionDate(), encryptionUniqueIdentifier(), password()};
+}
+
+void OVNote::setEncryptionState(const OVEncryptionState& state)
+{
+    setEncryptedValue(state.encrypted);
+    setEncryptedData(state.encryptedData);
+    setEncryptionDate(state.encryptionDate);
+    setEncryptionUniqueIdentifier(state.encryptionUniqueIdentifier);
+    setPassword(state.password ? static_cast<OVPassword*>(&state.password->passwordRecord()) : nullptr);
+}
+
+bool OVNote::allowsAttachments() const
+{
+    return !hasEncryption() || OVEncryptionCoreManager::isFileEncryptionEnabled();
+}
+
+std::vector<std::string> OVNote::activityItems() const
+{
+    std::vector<std::string> items;
+    if (auto shared = text())
+        items.push_back(std::move(*shared));
+    return items;
+}
+
+} // namespace tarn

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "tools/modelgen/GeneratedNames.h"
+
+namespace tarn::modelgen {
+
+/// `OVNoteAttributes.h`: one class function per attribute that returns its key.
+GeneratedFile attributeNamesHeader(const NSEntityDescription& entity);
+/// `OVNoteRelationships.h`; not for an entity without relationships.
+GeneratedFile relationshipNamesHeader(const NSEntityDescription& entity);
+/// `OVNoteID.h`: the typed object identifier.
+GeneratedFile objectIDHeader(const NSEntityDescription& entity);
+
+} // namespace tarn::modelgen
