@@ -148,14 +148,17 @@ private:
             copyThrough("}");
         else if (letter == 'k' && next == '<')
             copyThrough(">");
-        else if (letter == 'u')
-            copy(4);
-        else if (letter == 'U')
-            copy(8);
-        else if (letter == 'x')
-            copy(2);
-        else if (letter == 'c')
+        else if (isOneOf("uUx", letter))
+            copyHexDigits(letter == 'u' ? 4 : letter == 'U' ? 8 : 2);
+        else if (letter == 'c' && static_cast<unsigned char>(next) < 0x80)
             copy(1);
+    }
+
+    void copyHexDigits(std::size_t most)
+    {
+        const std::size_t end
+            = std::min(pattern_.find_first_not_of("0123456789abcdefABCDEF", offset_), pattern_.size());
+        copy(std::min(end - offset_, most));
     }
 
     void copyClass()

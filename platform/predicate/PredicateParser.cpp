@@ -204,7 +204,7 @@ ExpressionPtr PredicateParser::parseExpression()
     Expression operand = parseOperand();
     if (token_.kind == TokenKind::Dot) {
         if (!isCollection(operand))
-            fail("a comparison operator");
+            fail("the end of the value");
         take();
         operand = parseCountOf(std::move(operand));
     }
@@ -273,9 +273,11 @@ Expression PredicateParser::parsePathSlot()
     if (counts)
         path.remove_suffix(kCountSuffix.size());
     std::vector<std::string> keys;
-    if (const Lexeme* word = reservedWord(path.substr(0, path.find('.'))); word && word->kind == TokenKind::Self)
-        path.remove_prefix(std::min(path.size(), word->text.size() + 1));
-    if (!path.empty() || counts)
+    const Lexeme* first = reservedWord(path.substr(0, path.find('.')));
+    const bool isFromSelf = first && first->kind == TokenKind::Self;
+    if (isFromSelf)
+        path.remove_prefix(std::min(path.size(), first->text.size() + 1));
+    if (!path.empty() || !isFromSelf || counts)
         appendKeys(keys, path, slot);
     if (!counts)
         return parseKeyPath({SelfExpression{}}, std::move(keys));

@@ -15,7 +15,7 @@ namespace tarn {
 namespace {
 
 // Steps of the matcher's clock, not milliseconds: the answer does not depend on how busy the machine is.
-constexpr RegularExpression::Options kMatchingLimits{.timeLimit = 20'000, .stackLimit = 8'000'000};
+constexpr RegularExpression::Options kMatchingLimits{.timeLimit = 2'000, .stackLimit = 8'000'000};
 
 RegularExpression regularExpression(std::string_view pattern, ComparisonOptions options)
 {
