@@ -1,6 +1,8 @@
 #include "corvel/CVKHashtag.h"
 
+#include "corvel/CVKAST.h"
 #include "corvel/TagNames.h"
+#include "corvel/TagRewriting.h"
 
 namespace tarn {
 
@@ -33,6 +35,26 @@ std::string CVKHashtag::tagNameFromComponents(const std::vector<std::string>& co
 std::string CVKHashtag::hashtagStringForTagName(std::string_view name)
 {
     return corvel::hashtagForName(name);
+}
+
+CVKAST CVKHashtag::addTagNameToTheTopOfString(std::string_view name, std::string_view text)
+{
+    return corvel::withTagAtTop(CVKAST::fromMarkdown(text), name);
+}
+
+CVKAST CVKHashtag::addTagNameToTheBottomOfString(std::string_view name, std::string_view text)
+{
+    return corvel::withTagAtBottom(CVKAST::fromMarkdown(text), name);
+}
+
+CVKAST CVKHashtag::renameTagName(std::string_view name, std::string_view newName, std::string_view text)
+{
+    return corvel::renamedTag(CVKAST::fromMarkdown(text), name, newName);
+}
+
+CVKAST CVKHashtag::removeTagName(std::string_view name, std::string_view text)
+{
+    return corvel::withoutTag(CVKAST::fromMarkdown(text), name);
 }
 
 } // namespace tarn

@@ -32,7 +32,7 @@ std::optional<Offset> startOfNextLine(std::string_view text, SourceRange line) n
 
 std::optional<Offset> endOfPreviousLine(std::string_view text, std::size_t begin) noexcept
 {
-    if (begin == 0)
+    if (begin <= startOfText(text))
         return std::nullopt;
     const bool pair = begin > 1 && text[begin - 1] == '\n' && text[begin - 2] == '\r';
     return static_cast<Offset>(begin - (pair ? 2 : 1));
