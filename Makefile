@@ -83,7 +83,7 @@ coverage: ## the tests with coverage, as build/coverage/report/index.html
 
 install: ## install `tarn` and the library below PREFIX (/usr/local)
 	@scripts/install-dependencies.sh build
-	scripts/configure.sh release
+	scripts/configure.sh release -DCMAKE_INSTALL_PREFIX="$(PREFIX)"
 	cmake --build --preset release
 	cmake --install build/release --prefix "$(PREFIX)"
 
