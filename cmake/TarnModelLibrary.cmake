@@ -8,6 +8,9 @@ target_include_directories(TarnModel PUBLIC
   $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>
   $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>
   $<BUILD_INTERFACE:${PROJECT_BINARY_DIR}/generated>)
+target_compile_features(TarnModel PUBLIC cxx_std_20)
+# What its rooms link privately is named again: objects do not bring it along.
 target_link_libraries(TarnModel
   PUBLIC tarn_coredata tarn_corvel tarn_predicate tarn_foundation
-  PRIVATE $<BUILD_INTERFACE:tarn_build_flags>)
+  PRIVATE fmt::fmt ${CMAKE_DL_LIBS} $<BUILD_INTERFACE:tarn_sodium> $<INSTALL_INTERFACE:sodium>
+    $<BUILD_INTERFACE:tarn_build_flags>)
