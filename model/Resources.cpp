@@ -41,6 +41,7 @@ std::vector<fs::path> resourceFolders()
             folders.push_back(*folder / kInstalledFolder);
     }
     folders.emplace_back(TARN_BUILD_RESOURCES);
+    folders.emplace_back(TARN_INSTALLED_RESOURCES);
     return folders;
 }
 

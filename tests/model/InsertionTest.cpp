@@ -1,0 +1,115 @@
+#include "model/OVChange.h"
+#include "model/OVNote.h"
+#include "model/OVNoteBackLink.h"
+#include "model/OVNoteGenericFile.h"
+#include "model/OVNoteImage.h"
+#include "model/OVNoteServerData.h"
+#include "model/OVNoteTag.h"
+#include "model/OVPassword.h"
+#include "model/OVServerMetadata.h"
+#include "tests/model/RecordFixture.h"
+
+namespace tarn {
+namespace {
+
+using Insertion = RecordTest;
+
+bool isUpperCaseUUID(const std::optional<std::string>& text)
+{
+    return text && isUUIDString(*text) && text->find_first_of("abcdef") == std::string::npos;
+}
+
+TEST_P(Insertion, OfANoteGivesItOneDateForCreationAndModification)
+{
+    const NSDate before = clock_;
+    auto& note = insert<OVNote>();
+    EXPECT_TRUE(isUpperCaseUUID(note.uniqueIdentifier()));
+    EXPECT_EQ(note.creationDate(), before + std::chrono::seconds(1));
+    EXPECT_EQ(note.modificationDate(), note.creationDate());
+    EXPECT_EQ(note.version(), 3);
+    EXPECT_EQ(note.title(), std::nullopt);
+    EXPECT_EQ(note.text(), std::nullopt);
+    EXPECT_EQ(note.trashed(), false);
+    EXPECT_EQ(note.order(), 0);
+}
+
+TEST_P(Insertion, OfATagGivesItADateOfModification)
+{
+    auto& tag = insert<OVNoteTag>();
+    EXPECT_TRUE(isUpperCaseUUID(tag.uniqueIdentifier()));
+    EXPECT_EQ(tag.modificationDate(), clock_);
+    EXPECT_EQ(tag.version(), 3);
+    EXPECT_EQ(tag.isRoot(), false);
+}
+
+TEST_P(Insertion, OfAnAttachmentGivesItADateOfInsertion)
+{
+    auto& image = insert<OVNoteImage>();
+    auto& file = insert<OVNoteGenericFile>();
+    for (OVNoteFile* inserted : {static_cast<OVNoteFile*>(&image), static_cast<OVNoteFile*>(&file)}) {
+        EXPECT_TRUE(isUpperCaseUUID(inserted->uniqueIdentifier()));
+        EXPECT_EQ(inserted->version(), 3);
+        EXPECT_EQ(inserted->creationDate(), std::nullopt);
+        EXPECT_EQ(inserted->modificationDate(), std::nullopt);
+    }
+    EXPECT_EQ(file.insertionDate(), clock_);
+    EXPECT_EQ(image.insertionDate(), clock_ - std::chrono::seconds(1));
+    EXPECT_NE(image.uniqueIdentifier(), file.uniqueIdentifier());
+}
+
+TEST_P(Insertion, OfALinkGivesItADateOfModification)
+{
+    auto& link = insert<OVNoteBackLink>();
+    EXPECT_TRUE(isUpperCaseUUID(link.uniqueIdentifier()));
+    EXPECT_EQ(link.modificationDate(), clock_);
+    EXPECT_EQ(link.version(), 3);
+}
+
+TEST_P(Insertion, OfAPasswordNamesTheDeviceAndSetsNoVersion)
+{
+    auto& password = insert<OVPassword>();
+    EXPECT_TRUE(isUpperCaseUUID(password.uniqueIdentifier()));
+    EXPECT_EQ(password.creationDate(), clock_);
+    EXPECT_EQ(password.creationDevice(), "Desk of Ada");
+    EXPECT_EQ(password.encryptionVersionValue(), 0);
+    EXPECT_EQ(password.encryptedData(), std::nullopt);
+    EXPECT_EQ(password.hint(), std::nullopt);
+    EXPECT_EQ(password.entity().propertyNamed("version"), nullptr);
+}
+
+TEST_P(Insertion, OfABookkeepingRecordSetsNothing)
+{
+    const NSDate before = clock_;
+    EXPECT_EQ(insert<OVChange>().token(), std::nullopt);
+    EXPECT_EQ(insert<OVServerMetadata>().noteZoneIDData(), std::nullopt);
+    EXPECT_EQ(insert<OVNoteServerData>().systemFields(), std::nullopt);
+    EXPECT_EQ(clock_, before);
+}
+
+TEST_P(Insertion, OfTheAbstractAttachmentMakesOneToo)
+{
+    auto& file = insert<OVNoteFile>();
+    file.setUniqueIdentifier("A");
+    save();
+    restart();
+    ASSERT_EQ(all<OVNoteFile>().size(), 1u);
+    EXPECT_EQ(all<OVNoteFile>().front()->uniqueIdentifier(), "A");
+    EXPECT_TRUE(all<OVNoteImage>().empty());
+}
+
+TEST_P(Insertion, KeepsItsValuesInTheStore)
+{
+    auto identifier = insert<OVNote>().uniqueIdentifier();
+    save();
+    restart();
+    auto notes = all<OVNote>();
+    ASSERT_EQ(notes.size(), 1u);
+    EXPECT_EQ(notes.front()->uniqueIdentifier(), identifier);
+    EXPECT_EQ(notes.front()->creationDate(), notes.front()->modificationDate());
+    EXPECT_EQ(notes.front()->version(), 3);
+}
+
+INSTANTIATE_TEST_SUITE_P(Stores, Insertion, testing::Values(StoreType::SQLite, StoreType::InMemory), storeTypeName);
+
+} // namespace
+} // namespace tarn

@@ -1,0 +1,157 @@
+#include "model/ManagedObjectModel.h"
+#include "model/RecordClasses.h"
+#include "model/Resources.h"
+#include "platform/coredata/NSPersistentStore.h"
+#include "platform/foundation/Environment.h"
+#include "platform/foundation/NSUUID.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+
+namespace tarn {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::HasSubstr;
+
+/// A folder of resources in place of the library's own.
+class ManagedObjectModel : public testing::Test {
+protected:
+    void SetUp() override { fs::create_directories(folder_ / "Model.momd"); }
+    void TearDown() override { fs::remove_all(folder_); }
+
+    void write(const fs::path& name, std::string_view text) const
+    {
+        std::ofstream(folder_ / "Model.momd" / name, std::ios::binary) << text;
+    }
+    void useFolder() { world_.setVariable("TARN_RESOURCES", folder_.string()); }
+
+    fs::path folder_ = fs::temp_directory_path() / ("tarn resources ü " + newUUIDString());
+    EnvironmentOverride world_;
+};
+
+TEST_F(ManagedObjectModel, IsTheThirdVersion)
+{
+    NSError error;
+    EXPECT_EQ(OVManagedObjectModel::currentVersion(&error), "Model 3") << error;
+    auto model = OVManagedObjectModel::current(&error);
+    ASSERT_TRUE(model) << error;
+    EXPECT_EQ(model->versionIdentifier(), "Model 3");
+}
+
+TEST_F(ManagedObjectModel, IsReadOnce)
+{
+    EXPECT_EQ(OVManagedObjectModel::current(), OVManagedObjectModel::current());
+}
+
+TEST_F(ManagedObjectModel, GivesEveryEntityItsClass)
+{
+    for (const NSEntityDescription* entity : OVManagedObjectModel::current()->entities())
+        EXPECT_NE(entity->recordConstructor(), nullptr) << entity->name();
+}
+
+TEST_F(ManagedObjectModel, KeepsItsEarlierVersions)
+{
+    for (const char* version : {"Model", "Model 2", "Model 3"}) {
+        auto file = OVManagedObjectModel::modelURLForVersion(version);
+        ASSERT_TRUE(file) << version;
+        NSError error;
+        auto model = NSManagedObjectModel::modelWithContentsOfFile(*file, &error);
+        ASSERT_TRUE(model) << error;
+        EXPECT_EQ(model->versionIdentifier(), version);
+    }
+    EXPECT_FALSE(OVManagedObjectModel::modelURLForVersion("Model 4"));
+}
+
+// Stores of these versions are in the hands of people: what their rows look like must never change.
+TEST_F(ManagedObjectModel, NeverChangesAVersionThatWasShipped)
+{
+    struct Row {
+        const char* version;
+        const char* entity;
+        const char* hash;
+    };
+    const Row rows[] = {
+        {"Model", "OVNote", "579c4d2c26f50773"},
+        {"Model", "OVNoteTag", "e60d66cb09529fc0"},
+        {"Model", "OVNoteFile", "107905f28463d5fe"},
+        {"Model 2", "OVNote", "f24f03fe95766b3c"},
+        {"Model 2", "OVNoteTag", "d496f72b6ada0b58"},
+        {"Model 2", "OVNoteFile", "dcbad0dec34579b1"},
+        {"Model 3", "OVNote", "80805dc81628b7b1"},
+        {"Model 3", "OVNoteTag", "3e1e5e4ae4689c9c"},
+        {"Model 3", "OVNoteFile", "115157207e99bb6f"},
+        {"Model 3", "OVNoteImage", "91d3367bfdf87012"},
+    };
+    for (const Row& row : rows) {
+        auto model
+            = NSManagedObjectModel::modelWithContentsOfFile(*OVManagedObjectModel::modelURLForVersion(row.version));
+        ASSERT_TRUE(model);
+        EXPECT_EQ(model->entityNamed(row.entity)->versionHash(), row.hash) << row.version << ' ' << row.entity;
+    }
+}
+
+TEST_F(ManagedObjectModel, FitsItsRecordClassesInTheCurrentVersionOnly)
+{
+    auto file = OVManagedObjectModel::modelURLForVersion("Model 2");
+    auto earlier = NSManagedObjectModel::modelWithContentsOfFile(*file);
+    ASSERT_TRUE(earlier);
+    EXPECT_EQ(entityOfOtherVersion(*earlier), "OVNote");
+    EXPECT_EQ(entityOfOtherVersion(*OVManagedObjectModel::current()), std::nullopt);
+}
+
+TEST_F(ManagedObjectModel, IsRefusedWhenItIsNotTheOneTheClassesWereMadeFor)
+{
+    fs::copy_file(*OVManagedObjectModel::modelURLForVersion("Model 2"), folder_ / "Model.momd/Model 2.json");
+    write("VersionInfo.json", R"({"current": "Model 2"})");
+    useFolder();
+    NSError error;
+    EXPECT_FALSE(OVManagedObjectModel::current(&error));
+    EXPECT_EQ(error.domain(), TarnStoreErrorDomain);
+    EXPECT_THAT(
+        error.localizedDescription(), HasSubstr("Model 2.json: \"OVNote\" is not what this library was built for"));
+}
+
+TEST_F(ManagedObjectModel, MissesItsFilesWithAWord)
+{
+    useFolder();
+    NSError error;
+    EXPECT_FALSE(OVManagedObjectModel::current(&error));
+    EXPECT_THAT(error.localizedDescription(), HasSubstr("VersionInfo.json: names no current version"));
+
+    write("VersionInfo.json", R"({"current": "Model 9"})");
+    EXPECT_FALSE(OVManagedObjectModel::current(&error));
+    EXPECT_EQ(error.localizedDescription(), "the model \"Model 9\" is missing");
+
+    fs::remove_all(folder_ / "Model.momd");
+    EXPECT_FALSE(OVManagedObjectModel::current(&error));
+    EXPECT_THAT(error.localizedDescription(), HasSubstr("Model.momd is missing"));
+}
+
+TEST_F(ManagedObjectModel, IsFoundAgainOnceItIsThere)
+{
+    const fs::path original = *OVManagedObjectModel::modelURL();
+    useFolder();
+    ASSERT_FALSE(OVManagedObjectModel::current());
+    fs::copy(original, folder_ / "Model.momd", fs::copy_options::recursive | fs::copy_options::overwrite_existing);
+    NSError error;
+    EXPECT_TRUE(OVManagedObjectModel::current(&error)) << error;
+    EXPECT_EQ(OVManagedObjectModel::modelURL(), folder_ / "Model.momd");
+}
+
+TEST(Resources, AreLookedForInTheChosenFolderAlone)
+{
+    EnvironmentOverride world;
+    EXPECT_TRUE(resourceNamed("Model.momd"));
+    EXPECT_FALSE(resourceNamed("No such resource"));
+    world.setVariable("TARN_RESOURCES", "/nowhere");
+    EXPECT_FALSE(resourceNamed("Model.momd"));
+    world.setVariable("TARN_RESOURCES", "");
+    EXPECT_TRUE(resourceNamed("Model.momd"));
+}
+
+} // namespace
+} // namespace tarn

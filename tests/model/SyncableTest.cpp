@@ -1,0 +1,52 @@
+#include "model/Syncable.h"
+#include "model/OVChange.h"
+#include "model/OVNote.h"
+#include "model/OVNoteBackLink.h"
+#include "model/OVNoteGenericFile.h"
+#include "model/OVNoteImage.h"
+#include "model/OVNoteTag.h"
+#include "model/OVPassword.h"
+#include "tests/model/RecordFixture.h"
+
+namespace tarn {
+namespace {
+
+using Syncable = RecordTest;
+
+TEST_P(Syncable, ClassesStandInAFixedOrder)
+{
+    EXPECT_THAT(syncableClasses,
+        testing::ElementsAre("OVNote", "OVNoteGenericFile", "OVNoteImage", "OVNoteTag", "OVNoteBackLink"));
+}
+
+TEST_P(Syncable, IsContentAndNothingElse)
+{
+    EXPECT_TRUE(isSyncable(insert<OVNote>()));
+    EXPECT_TRUE(isSyncable(insert<OVNoteGenericFile>()));
+    EXPECT_TRUE(isSyncable(insert<OVNoteImage>()));
+    EXPECT_TRUE(isSyncable(insert<OVNoteTag>()));
+    EXPECT_TRUE(isSyncable(insert<OVNoteBackLink>()));
+    EXPECT_FALSE(isSyncable(insert<OVPassword>()));
+    EXPECT_FALSE(isSyncable(insert<OVChange>()));
+}
+
+TEST_P(Syncable, IsNothingWithoutAnIdentifier)
+{
+    auto& note = insert<OVNote>();
+    note.setUniqueIdentifier(std::nullopt);
+    EXPECT_FALSE(isSyncable(note));
+    note.setUniqueIdentifier("");
+    EXPECT_TRUE(isSyncable(note));
+}
+
+TEST_P(Syncable, IsNoAttachmentOfUnknownKind)
+{
+    auto& file = insert<OVNoteFile>();
+    file.setUniqueIdentifier(newUUIDString());
+    EXPECT_FALSE(isSyncable(file));
+}
+
+INSTANTIATE_TEST_SUITE_P(Stores, Syncable, testing::Values(StoreType::SQLite, StoreType::InMemory), storeTypeName);
+
+} // namespace
+} // namespace tarn
