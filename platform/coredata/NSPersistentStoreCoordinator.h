@@ -33,19 +33,21 @@ public:
 
     /// Opens (or creates) the one store. Null and an error when it cannot be opened or was written with another model.
     /// `file` is not used for a store in memory.
-    NSPersistentStore* addPersistentStoreWithType(StoreType type, const std::filesystem::path& file, const StoreOptions& options,
-        NSError* error = nullptr);
+    NSPersistentStore* addPersistentStoreWithType(
+        StoreType type, const std::filesystem::path& file, const StoreOptions& options, NSError* error = nullptr);
     /// Null before `addPersistentStoreWithType`.
     NSPersistentStore* persistentStore() const noexcept { return store_.get(); }
 
     /// The identifier that a URI names; none for another store, an unknown entity or any other text.
     std::optional<NSManagedObjectID> managedObjectIDForURIRepresentation(std::string_view uri) const;
 
-    /// The metadata of a store file without opening it as a store; none and an error when there is none or it is unreadable.
-    static std::optional<std::map<std::string, std::string>> metadataForPersistentStoreOfType(StoreType type,
-        const std::filesystem::path& file, NSError* error = nullptr);
+    /// The metadata of a store file without opening it as a store; none and an error when there is none or it is
+    /// unreadable.
+    static std::optional<std::map<std::string, std::string>> metadataForPersistentStoreOfType(
+        StoreType type, const std::filesystem::path& file, NSError* error = nullptr);
     /// Whether rows of a store with this metadata are rows of this model.
-    static bool isModelCompatibleWithStoreMetadata(const NSManagedObjectModel& model, const std::map<std::string, std::string>& metadata);
+    static bool isModelCompatibleWithStoreMetadata(
+        const NSManagedObjectModel& model, const std::map<std::string, std::string>& metadata);
 
 private:
     std::shared_ptr<const NSManagedObjectModel> model_;

@@ -73,7 +73,7 @@ struct SQLiteConnectionOptions {
     bool create = false;                        ///< makes an empty file where there is none
     bool queryOnly = false;                     ///< refuses writes, but may bring back an unfinished journal
     std::chrono::milliseconds patience{30'000}; ///< how long it waits for locks of others
-    std::string filesystem;                     ///< name of the SQLite VFS; empty for the default one
+    std::map<std::string, std::string> pragmas; ///< set last; names and values are words
 };
 
 /// One connection to a store file, set up as every connection of a store is. One thread at a time.

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "platform/coredata/InMemoryState.h"
+
+#include <vector>
+
+namespace tarn {
+
+/// The rows that a fetch on this state gives, in order, cut to limit and offset. Raises `NSException` for unknown keys.
+std::vector<StoreRow> rowsOfFetch(const StoreFetch& fetch, const InMemoryState& state, const StoreIdentity& identity);
+
+} // namespace tarn

@@ -1,0 +1,77 @@
+#pragma once
+
+#include "platform/coredata/NSPersistentStore.h"
+#include "platform/coredata/RowObject.h"
+#include "platform/coredata/SnapshotMap.h"
+
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+namespace tarn {
+
+/// Everything that a store in memory holds: rows by key, and both directions of every relationship.
+///
+/// A value type whose copies are cheap: a transaction works on one and puts it in the place of the other.
+class InMemoryState {
+public:
+    using RowPointer = std::shared_ptr<const StoreRow>;
+
+    /// Null when there is no such row.
+    const StoreRow* row(const NSEntityDescription& entity, std::int64_t key) const;
+    /// Rows of the inheritance chain in order of keys.
+    std::vector<RowPointer> rowsOfRoot(const NSEntityDescription& root) const;
+    /// Keys at the other end of a relationship that is not a column of its own, ascending.
+    std::vector<std::int64_t> relatedKeys(const NSRelationshipDescription& relationship, std::int64_t key) const;
+    std::size_t countRelated(const NSRelationshipDescription& relationship, std::int64_t key) const;
+
+    /// Puts the row in the place of one with its key.
+    void setRow(StoreRow row);
+    /// Takes the row out of its relationships and then away.
+    void removeRow(const NSEntityDescription& entity, std::int64_t key);
+    void setJoined(const NSRelationshipDescription& owning, std::int64_t owner, std::int64_t member, bool joined);
+    /// Writes nil to the to-ones of these rows whose targets do not exist.
+    void clearMissingTargets(const std::vector<NSManagedObjectID>& written);
+
+    std::map<std::string, std::string> metadata;
+    std::map<std::string, std::int64_t> nextKeys; ///< by root entity
+
+private:
+    using KeySet = SnapshotMap<bool>;
+    using KeysByKey = SnapshotMap<KeySet>;
+
+    void index(const StoreRow& row, bool present);
+    void setIndexed(const NSRelationshipDescription& from, std::int64_t key, std::int64_t other, bool present);
+    void removeFromRelationships(const NSEntityDescription& entity, std::int64_t key);
+
+    std::unordered_map<const NSEntityDescription*, SnapshotMap<RowPointer>> rows_; ///< by root entity
+    /// For relationships that are not columns: keys at the other end.
+    std::unordered_map<const NSRelationshipDescription*, KeysByKey> related_;
+};
+
+/// A state, row by row, for row objects.
+class InMemoryRowReader final : public RowReader {
+public:
+    InMemoryRowReader(const StoreIdentity& identity, const InMemoryState& state)
+        : identity_(identity), state_(state) { }
+    const StoreIdentity& storeIdentity() const override { return identity_; }
+    std::optional<StoreRow> readRow(
+        const NSEntityDescription& entity, std::int64_t key, RowContents contents) const override;
+    std::vector<RelatedKey> readRelatedKeys(
+        const NSRelationshipDescription& relationship, std::int64_t key) const override;
+
+private:
+    const StoreIdentity& identity_;
+    const InMemoryState& state_;
+};
+
+/// The row as a store hands it out for these contents.
+StoreRow rowWithContents(const StoreRow& row, RowContents contents);
+/// The other ends of a relationship, with their entities.
+std::vector<RelatedKey> relatedKeysInState(
+    const InMemoryState& state, const NSRelationshipDescription& relationship, std::int64_t key);
+
+} // namespace tarn

@@ -1,0 +1,85 @@
+#include "platform/coredata/NSPersistentStoreCoordinator.h"
+
+#include "platform/coredata/InMemoryStore.h"
+#include "platform/coredata/SQLiteConnection.h"
+#include "platform/coredata/SQLiteStore.h"
+#include "platform/coredata/SQLiteStoreFile.h"
+#include "platform/coredata/StoreFailure.h"
+#include "platform/coredata/StoreMetadata.h"
+
+#include <charconv>
+
+namespace tarn {
+
+NSPersistentStoreCoordinator::NSPersistentStoreCoordinator(std::shared_ptr<const NSManagedObjectModel> model)
+    : model_(std::move(model))
+{ }
+
+NSPersistentStoreCoordinator::~NSPersistentStoreCoordinator() = default;
+
+NSPersistentStore* NSPersistentStoreCoordinator::addPersistentStoreWithType(
+    StoreType type, const std::filesystem::path& file, const StoreOptions& options, NSError* error)
+{
+    const bool added = reportingFailure(error, [&] {
+        if (store_)
+            throw StoreFailure(StoreErrorGeneric, "The coordinator has its store already.");
+        if (type == StoreType::InMemory)
+            store_ = std::make_unique<InMemoryStore>(model_);
+        else
+            store_ = std::make_unique<SQLiteStore>(model_, file, options);
+    });
+    return added ? store_.get() : nullptr;
+}
+
+std::optional<NSManagedObjectID> NSPersistentStoreCoordinator::managedObjectIDForURIRepresentation(
+    std::string_view uri) const
+{
+    constexpr std::string_view kScheme = "tarn-store://";
+    if (!store_ || !uri.starts_with(kScheme))
+        return std::nullopt;
+    uri.remove_prefix(kScheme.size());
+    const std::size_t entityStart = uri.find('/');
+    const std::size_t keyStart = uri.rfind('/');
+    if (entityStart == std::string_view::npos || keyStart <= entityStart || keyStart + 2 > uri.size())
+        return std::nullopt;
+    const NSEntityDescription* entity = model_->entityNamed(uri.substr(entityStart + 1, keyStart - entityStart - 1));
+    if (!entity || uri.substr(0, entityStart) != store_->identity().uuid())
+        return std::nullopt;
+    const std::string_view key = uri.substr(keyStart + 2);
+    std::int64_t number = 0;
+    if (uri[keyStart + 1] == 't') {
+        number = temporaryKeyForUUID(key);
+    } else if (uri[keyStart + 1] == 'p' && !key.empty() && key.front() >= '1' && key.front() <= '9') {
+        const auto [end, problem] = std::from_chars(key.data(), key.data() + key.size(), number);
+        if (problem != std::errc() || end != key.data() + key.size())
+            return std::nullopt;
+    }
+    if (number == 0)
+        return std::nullopt;
+    return NSManagedObjectID(store_->identity(), *entity, number);
+}
+
+std::optional<std::map<std::string, std::string>> NSPersistentStoreCoordinator::metadataForPersistentStoreOfType(
+    StoreType type, const std::filesystem::path& file, NSError* error)
+{
+    std::optional<StoreMetadata> metadata;
+    reportingFailure(error, [&] {
+        if (type != StoreType::SQLite)
+            throw StoreFailure(StoreErrorNotAStore, "A store in memory has no file.");
+        SQLiteConnectionOptions options;
+        options.queryOnly = true;
+        SQLiteConnection connection(file, options);
+        if (contentsOfStoreFile(connection) != StoreFileContents::Store)
+            throw StoreFailure(StoreErrorNotAStore, "The file is not a store.");
+        metadata = readStoreMetadata(connection);
+    });
+    return metadata;
+}
+
+bool NSPersistentStoreCoordinator::isModelCompatibleWithStoreMetadata(
+    const NSManagedObjectModel& model, const std::map<std::string, std::string>& metadata)
+{
+    return isMetadataOfModel(model, metadata);
+}
+
+} // namespace tarn

@@ -1,0 +1,42 @@
+#include "platform/coredata/PredicateKeys.h"
+
+#include "platform/foundation/NSException.h"
+
+#include <algorithm>
+
+namespace tarn {
+
+namespace {
+
+void checkKeyPath(const std::vector<std::string>& keys, const NSEntityDescription& start)
+{
+    const NSEntityDescription* entity = &start;
+    for (const std::string& key : keys) {
+        const NSPropertyDescription* property = entity ? entity->propertyNamed(key) : nullptr;
+        if (!property)
+            throw NSException(
+                NSUndefinedKeyException, "\"" + (entity ? *entity : start).name() + "\" has no key \"" + key + "\"");
+        const auto* relationship
+            = property->isRelationship() ? static_cast<const NSRelationshipDescription*>(property) : nullptr;
+        entity = relationship ? &relationship->destinationEntity() : nullptr;
+    }
+}
+
+} // namespace
+
+void checkKeysOfPredicate(const NSPredicate& predicate, const NSEntityDescription& entity)
+{
+    for (const auto& keys : keyPathsReadByPredicate(predicate))
+        checkKeyPath(keys, entity);
+}
+
+bool readsLargeAttribute(const NSPredicate& predicate, const NSEntityDescription& entity)
+{
+    const auto paths = keyPathsReadByPredicate(predicate);
+    return std::any_of(paths.begin(), paths.end(), [&](const std::vector<std::string>& keys) {
+        const auto* attribute = keys.size() == 1 ? entity.attributeNamed(keys.front()) : nullptr;
+        return attribute && attribute->isLarge();
+    });
+}
+
+} // namespace tarn

@@ -1,0 +1,300 @@
+#include "platform/coredata/SQLiteRowWriter.h"
+
+#include "platform/coredata/SQLiteConnection.h"
+#include "platform/coredata/StoreFailure.h"
+#include "platform/foundation/Folding.h"
+
+#include <algorithm>
+
+namespace tarn {
+
+namespace {
+
+bool belongsTo(const StoreColumn& column, const NSEntityDescription& entity)
+{
+    return entity.isKindOfEntity(column.property->declaringEntity());
+}
+
+bool hasShadow(const StoreColumn& column)
+{
+    return column.attribute() && hasShadowColumn(*column.attribute());
+}
+
+bool hasValue(const StoreColumn& column, const StoreRow& row)
+{
+    const PropertyIndex index = column.property->index();
+    return row.values.isLoaded(index) && !row.values.isNil(index);
+}
+
+std::vector<const StoreColumn*> columnsOf(
+    const std::vector<StoreColumn>& columns, const NSEntityDescription& entity, PropertyMask wanted)
+{
+    std::vector<const StoreColumn*> chosen;
+    for (const StoreColumn& column : columns)
+        if (belongsTo(column, entity) && (wanted & propertyBit(column.property->index())))
+            chosen.push_back(&column);
+    return chosen;
+}
+
+std::string shadowName(const StoreColumn& column)
+{
+    return quotedIdentifier(shadowColumnName(*column.attribute()));
+}
+
+} // namespace
+
+// Values --------------------------------------------------------------------------------------------------------------
+
+void SQLiteRowWriter::bind(SQLiteStatement& statement, int parameter, const StoreColumn& column, const StoreRow& row)
+{
+    const PropertyIndex index = column.property->index();
+    if (!hasValue(column, row))
+        return statement.bindNull(parameter);
+    const auto* attribute = column.attribute();
+    if (!attribute) {
+        // A target without a permanent key is none.
+        if (row.values.integer(index) <= 0)
+            return statement.bindNull(parameter);
+        return statement.bindInteger(parameter, row.values.integer(index));
+    }
+    switch (attribute->type()) {
+    case NSAttributeType::Double:
+        return statement.bindDouble(parameter, row.values.floating(index));
+    case NSAttributeType::String:
+        return statement.bindText(parameter, row.values.bytes(index));
+    case NSAttributeType::Data:
+        return statement.bindBlob(parameter, row.values.bytes(index));
+    default:
+        return statement.bindInteger(parameter, row.values.integer(index));
+    }
+}
+
+void SQLiteRowWriter::bindShadow(
+    SQLiteStatement& statement, int parameter, const StoreColumn& column, const StoreRow& row)
+{
+    if (!hasValue(column, row))
+        return statement.bindNull(parameter);
+    foldedTexts_.push_back(fold(row.values.bytes(column.property->index())));
+    statement.bindText(parameter, foldedTexts_.back());
+}
+
+bool SQLiteRowWriter::exists(const StoreTable& table, std::int64_t key)
+{
+    SQLiteStatement statement
+        = connection_.prepare("SELECT 1 FROM " + quotedIdentifier(table.name) + " WHERE \"pk\" = ?1");
+    statement.bindInteger(1, key);
+    return statement.step();
+}
+
+void SQLiteRowWriter::awaitTargets(
+    const StoreTable& table, const std::vector<const StoreColumn*>& columns, const StoreRow& row)
+{
+    for (const StoreColumn* column : columns) {
+        if (!column->target || !hasValue(*column, row))
+            continue;
+        const std::int64_t target = row.values.integer(column->property->index());
+        if (target > 0 && !exists(*column->target, target))
+            awaited_.push_back({&table, column, row.key, target});
+    }
+}
+
+void SQLiteRowWriter::clearMissingTargets()
+{
+    for (const AwaitedTarget& awaited : awaited_) {
+        if (exists(*awaited.column->target, awaited.target))
+            continue;
+        const std::string column = quotedIdentifier(awaited.column->name);
+        SQLiteStatement statement = connection_.prepare("UPDATE " + quotedIdentifier(awaited.table->name) + " SET "
+            + column + " = NULL WHERE \"pk\" = ?1 AND " + column + " = ?2");
+        statement.bindInteger(1, awaited.key);
+        statement.bindInteger(2, awaited.target);
+        statement.run();
+    }
+    awaited_.clear();
+}
+
+// Insert --------------------------------------------------------------------------------------------------------------
+
+const SQLiteRowWriter::InsertPlan& SQLiteRowWriter::insertPlan(const NSEntityDescription& entity)
+{
+    const auto [found, isNew] = insertPlans_.try_emplace(&entity);
+    InsertPlan& plan = found->second;
+    if (!isNew)
+        return plan;
+    const StoreTable& table = schema_.table(entity);
+    plan.columns = columnsOf(table.columns, entity, ~PropertyMask{0});
+    plan.largeColumns = columnsOf(table.largeColumns, entity, ~PropertyMask{0});
+    std::string names = "\"pk\", \"rowVersion\"";
+    std::string parameters = "?, 1";
+    const auto add = [&](const std::string& name) {
+        names += ", " + name;
+        parameters += ", ?";
+    };
+    if (table.hasDiscriminator)
+        add("\"entity\"");
+    for (const StoreColumn* column : plan.columns)
+        add(quotedIdentifier(column->name));
+    for (const StoreColumn* column : plan.columns)
+        if (hasShadow(*column))
+            add(shadowName(*column));
+    plan.sql = "INSERT INTO " + quotedIdentifier(table.name) + " (" + names + ") VALUES (" + parameters + ")";
+    return plan;
+}
+
+void SQLiteRowWriter::insert(const StoreRow& row)
+{
+    const StoreTable& table = schema_.table(*row.entity);
+    const InsertPlan& plan = insertPlan(*row.entity);
+    foldedTexts_.clear();
+    foldedTexts_.reserve(plan.columns.size());
+    {
+        SQLiteStatement statement = connection_.prepare(plan.sql);
+        int parameter = 1;
+        statement.bindInteger(parameter++, row.key);
+        if (table.hasDiscriminator)
+            statement.bindText(parameter++, row.entity->name());
+        for (const StoreColumn* column : plan.columns)
+            bind(statement, parameter++, *column, row);
+        for (const StoreColumn* column : plan.columns)
+            if (hasShadow(*column))
+                bindShadow(statement, parameter++, *column, row);
+        statement.run();
+    }
+    awaitTargets(table, plan.columns, row);
+    const auto isSet = [&](const StoreColumn* column) { return hasValue(*column, row); };
+    if (std::any_of(plan.largeColumns.begin(), plan.largeColumns.end(), isSet))
+        writeLarge(table, plan.largeColumns, row);
+}
+
+void SQLiteRowWriter::writeLarge(
+    const StoreTable& table, const std::vector<const StoreColumn*>& columns, const StoreRow& row)
+{
+    std::string names = "\"pk\"";
+    std::string parameters = "?";
+    std::string assignments;
+    for (const StoreColumn* column : columns) {
+        const std::string name = quotedIdentifier(column->name);
+        names += ", " + name;
+        parameters += ", ?";
+        assignments += (assignments.empty() ? "" : ", ") + name + " = excluded." + name;
+    }
+    SQLiteStatement statement = connection_.prepare("INSERT INTO " + quotedIdentifier(table.largeName) + " (" + names
+        + ") VALUES (" + parameters + ") ON CONFLICT (\"pk\") DO UPDATE SET " + assignments);
+    statement.bindInteger(1, row.key);
+    int parameter = 2;
+    for (const StoreColumn* column : columns)
+        bind(statement, parameter++, *column, row);
+    statement.run();
+}
+
+// Update --------------------------------------------------------------------------------------------------------------
+
+RowWriteResult SQLiteRowWriter::update(const StoreRow& row, PropertyMask changed)
+{
+    const StoreTable& table = schema_.table(*row.entity);
+    const auto columns = columnsOf(table.columns, *row.entity, changed);
+    const auto largeColumns = columnsOf(table.largeColumns, *row.entity, changed);
+    foldedTexts_.clear();
+    foldedTexts_.reserve(columns.size());
+    {
+        std::string assignments;
+        for (const StoreColumn* column : columns) {
+            assignments += quotedIdentifier(column->name) + " = ?, ";
+            if (hasShadow(*column))
+                assignments += shadowName(*column) + " = ?, ";
+        }
+        SQLiteStatement statement = connection_.prepare("UPDATE " + quotedIdentifier(table.name) + " SET " + assignments
+            + "\"rowVersion\" = \"rowVersion\" + 1 WHERE \"pk\" = ? AND \"rowVersion\" = ?");
+        int parameter = 1;
+        for (const StoreColumn* column : columns) {
+            bind(statement, parameter++, *column, row);
+            if (hasShadow(*column))
+                bindShadow(statement, parameter++, *column, row);
+        }
+        statement.bindInteger(parameter++, row.key);
+        statement.bindInteger(parameter++, row.version);
+        statement.run();
+    }
+    if (connection_.changedRowCount() == 0)
+        return exists(table, row.key) ? RowWriteResult::Conflict : RowWriteResult::Gone;
+    rewriteShadows(table, columns, row);
+    awaitTargets(table, columns, row);
+    if (!largeColumns.empty())
+        writeLarge(table, largeColumns, row);
+    return RowWriteResult::Written;
+}
+
+/// A change that leaves the folded value as it was (of case only, say) looks to the trigger like one of a program that
+/// does not know of shadows.
+void SQLiteRowWriter::rewriteShadows(
+    const StoreTable& table, const std::vector<const StoreColumn*>& columns, const StoreRow& row)
+{
+    std::size_t next = 0;
+    for (const StoreColumn* column : columns) {
+        if (!hasShadow(*column) || !hasValue(*column, row))
+            continue;
+        const std::string name = shadowName(*column);
+        SQLiteStatement statement = connection_.prepare("UPDATE " + quotedIdentifier(table.name) + " SET " + name
+            + " = ?1 WHERE \"pk\" = ?2 AND " + name + " IS NULL");
+        statement.bindText(1, foldedTexts_[next++]);
+        statement.bindInteger(2, row.key);
+        statement.run();
+    }
+}
+
+// Delete --------------------------------------------------------------------------------------------------------------
+
+RowWriteResult SQLiteRowWriter::remove(const NSEntityDescription& entity, std::int64_t key, std::int64_t version)
+{
+    const StoreTable& table = schema_.table(entity);
+    {
+        SQLiteStatement statement
+            = connection_.prepare("SELECT \"rowVersion\" FROM " + quotedIdentifier(table.name) + " WHERE \"pk\" = ?1");
+        statement.bindInteger(1, key);
+        if (!statement.step())
+            return RowWriteResult::Gone;
+        if (version != 0 && statement.integer(0) != version)
+            return RowWriteResult::Conflict;
+    }
+    const auto runWithKey = [&](const std::string& sql) {
+        SQLiteStatement statement = connection_.prepare(sql);
+        statement.bindInteger(1, key);
+        statement.run();
+    };
+    for (const JoinTable* join : table.joins) {
+        if (join->owner == &table)
+            runWithKey("DELETE FROM " + quotedIdentifier(join->name) + " WHERE \"owner\" = ?1");
+        if (join->member == &table)
+            runWithKey("DELETE FROM " + quotedIdentifier(join->name) + " WHERE \"member\" = ?1");
+    }
+    for (const ReferringColumn& referring : table.referringColumns) {
+        const std::string column = quotedIdentifier(referring.column);
+        runWithKey("UPDATE " + quotedIdentifier(referring.table->name) + " SET " + column + " = NULL WHERE " + column
+            + " = ?1");
+    }
+    if (!table.largeColumns.empty())
+        runWithKey("DELETE FROM " + quotedIdentifier(table.largeName) + " WHERE \"pk\" = ?1");
+    runWithKey("DELETE FROM " + quotedIdentifier(table.name) + " WHERE \"pk\" = ?1");
+    return RowWriteResult::Written;
+}
+
+// Join rows -----------------------------------------------------------------------------------------------------------
+
+void SQLiteRowWriter::changeJoins(std::span<const JoinChange> changes)
+{
+    for (const JoinChange& change : changes) {
+        const JoinTable& join = schema_.join(*change.relationship);
+        const std::string name = quotedIdentifier(join.name);
+        SQLiteStatement statement
+            = connection_.prepare(change.added ? "INSERT OR IGNORE INTO " + name
+                        + " (\"owner\", \"member\") SELECT ?1, ?2 WHERE EXISTS (SELECT 1 FROM "
+                        + quotedIdentifier(join.owner->name) + " WHERE \"pk\" = ?1) AND EXISTS (SELECT 1 FROM "
+                        + quotedIdentifier(join.member->name) + " WHERE \"pk\" = ?2)"
+                                               : "DELETE FROM " + name + " WHERE \"owner\" = ?1 AND \"member\" = ?2");
+        statement.bindInteger(1, change.ownerKey);
+        statement.bindInteger(2, change.memberKey);
+        statement.run();
+    }
+}
+
+} // namespace tarn

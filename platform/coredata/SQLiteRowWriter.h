@@ -1,0 +1,61 @@
+#pragma once
+
+#include "platform/coredata/NSPersistentStore.h"
+#include "platform/coredata/StoreSchema.h"
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+namespace tarn {
+
+class SQLiteConnection;
+class SQLiteStatement;
+
+/// Writes rows and join rows with one connection, inside a transaction that its user holds.
+///
+/// What fails throws a `StoreFailure`.
+class SQLiteRowWriter {
+public:
+    SQLiteRowWriter(const StoreSchema& schema, SQLiteConnection& connection) : schema_(schema), connection_(connection)
+    { }
+
+    void insert(const StoreRow& row);
+    RowWriteResult update(const StoreRow& row, PropertyMask changed);
+    RowWriteResult remove(const NSEntityDescription& entity, std::int64_t key, std::int64_t version);
+    void changeJoins(std::span<const JoinChange> changes);
+    /// Writes nil to the to-ones whose targets did not come. Before the commit.
+    void clearMissingTargets();
+
+private:
+    struct InsertPlan {
+        std::string sql;
+        std::vector<const StoreColumn*> columns;
+        std::vector<const StoreColumn*> largeColumns;
+    };
+    /// A to-one that was written before its target: the target may still come.
+    struct AwaitedTarget {
+        const StoreTable* table;
+        const StoreColumn* column;
+        std::int64_t key;
+        std::int64_t target;
+    };
+
+    const InsertPlan& insertPlan(const NSEntityDescription& entity);
+    void bind(SQLiteStatement& statement, int parameter, const StoreColumn& column, const StoreRow& row);
+    void bindShadow(SQLiteStatement& statement, int parameter, const StoreColumn& column, const StoreRow& row);
+    void awaitTargets(const StoreTable& table, const std::vector<const StoreColumn*>& columns, const StoreRow& row);
+    void writeLarge(const StoreTable& table, const std::vector<const StoreColumn*>& columns, const StoreRow& row);
+    void rewriteShadows(const StoreTable& table, const std::vector<const StoreColumn*>& columns, const StoreRow& row);
+    bool exists(const StoreTable& table, std::int64_t key);
+
+    const StoreSchema& schema_;
+    SQLiteConnection& connection_;
+    std::unordered_map<const NSEntityDescription*, InsertPlan> insertPlans_;
+    std::vector<AwaitedTarget> awaited_;
+    std::vector<std::string> foldedTexts_; ///< what the statement in hand has bound
+};
+
+} // namespace tarn

@@ -1,0 +1,75 @@
+#pragma once
+
+#include "platform/coredata/ConnectionPool.h"
+#include "platform/coredata/NSPersistentStore.h"
+#include "platform/coredata/NSPersistentStoreCoordinator.h"
+#include "platform/coredata/SQLGenerator.h"
+#include "platform/coredata/StoreMetadata.h"
+#include "platform/coredata/StoreSchema.h"
+#include "platform/coredata/StoreSelects.h"
+
+#include <atomic>
+#include <functional>
+#include <memory>
+#include <mutex>
+#include <unordered_map>
+
+namespace tarn {
+
+/// Records in one SQLite file, which several processes may have open at once. Any thread.
+class SQLiteStore final : public NSPersistentStore {
+public:
+    /// Opens the file, and makes it where the options say so. Throws a `StoreFailure`.
+    SQLiteStore(std::shared_ptr<const NSManagedObjectModel> model, const std::filesystem::path& file,
+        const StoreOptions& options);
+
+    const StoreIdentity& identity() const noexcept override { return *identity_; }
+    const NSManagedObjectModel& model() const noexcept override { return *model_; }
+    const std::filesystem::path& file() const noexcept override { return file_; }
+
+    bool fetch(const StoreFetch& fetch, std::vector<StoreRow>& rows, NSError* error) override;
+    bool count(const StoreFetch& fetch, std::size_t& count, NSError* error) override;
+    bool rowsForKeys(const NSEntityDescription& entity, std::span<const std::int64_t> keys, RowContents contents,
+        std::vector<StoreRow>& rows, NSError* error) override;
+    bool relatedKeys(const NSRelationshipDescription& relationship, std::int64_t key, std::vector<RelatedKey>& related,
+        NSError* error) override;
+    bool countRelated(
+        const NSRelationshipDescription& relationship, std::int64_t key, std::size_t& count, NSError* error) override;
+    std::uint64_t dataVersion() override;
+
+    std::unique_ptr<StoreTransaction> beginTransaction(NSError* error) override;
+    bool reserveKeys(const NSEntityDescription& root, std::size_t count, std::int64_t& first, NSError* error) override;
+
+    std::map<std::string, std::string> metadata(NSError* error) override;
+    bool setMetadataValue(std::string_view key, std::string_view value, NSError* error) override;
+    bool checkIntegrity(std::vector<std::string>& problems, NSError* error) override;
+    std::string explain(const StoreFetch& fetch) override;
+
+private:
+    friend class SQLiteTransaction;
+
+    void openFile(bool createIfMissing);
+    void checkMetadata(const StoreMetadata& metadata);
+    void refreshShadows(const StoreMetadata& metadata);
+    SQLGenerator generator() const;
+    void beginWriting();
+    void endWriting() noexcept;
+    /// Runs `work` in the transaction of this thread, or in a short one of its own.
+    void write(const std::function<void(SQLiteConnection&)>& work);
+    std::int64_t takeKeys(SQLiteConnection& connection, const NSEntityDescription& root, std::size_t count);
+    void keepReservedKeys() noexcept;
+
+    std::shared_ptr<const NSManagedObjectModel> model_;
+    std::filesystem::path file_;
+    bool readOnly_;
+    StoreSchema schema_;
+    StoreSelects selects_;
+    std::unique_ptr<ConnectionPool> pool_;
+    const StoreIdentity* identity_ = nullptr;
+    bool usesShadows_ = true;
+    std::atomic<std::uint64_t> dataVersion_ = 0;
+    /// Next free key by root entity, as far as the open transaction has reserved any. Belongs to the turn's holder.
+    std::unordered_map<const NSEntityDescription*, std::int64_t> reservedInTransaction_;
+};
+
+} // namespace tarn

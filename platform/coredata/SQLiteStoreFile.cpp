@@ -1,0 +1,144 @@
+#include "platform/coredata/SQLiteStoreFile.h"
+
+#include "platform/coredata/SQLiteConnection.h"
+#include "platform/foundation/Folding.h"
+
+#include <functional>
+
+namespace tarn {
+
+namespace {
+
+constexpr std::string_view kStoreMark = "SELECT count(*) FROM sqlite_schema WHERE name = 'store_metadata'";
+
+/// Runs `work` between BEGIN and COMMIT; nothing of it stays when it throws.
+void inTransaction(SQLiteConnection& connection, const std::string& begin, const std::function<void()>& work)
+{
+    connection.execute(begin);
+    try {
+        work();
+        connection.execute("COMMIT");
+    } catch (...) {
+        connection.rollBack();
+        throw;
+    }
+}
+
+using ShadowVisitor
+    = std::function<void(const std::string& table, const std::string& column, const std::string& shadow)>;
+
+void forEachShadow(const StoreSchema& schema, const ShadowVisitor& visit)
+{
+    for (const auto& table : schema.tables())
+        for (const StoreColumn& column : table->columns)
+            if (column.attribute() && hasShadowColumn(*column.attribute()))
+                visit(quotedIdentifier(table->name), quotedIdentifier(column.name),
+                    quotedIdentifier(shadowColumnName(*column.attribute())));
+}
+
+} // namespace
+
+StoreFileContents contentsOfStoreFile(SQLiteConnection& connection)
+{
+    if (connection.integerOf(kStoreMark) > 0)
+        return StoreFileContents::Store;
+    const bool isEmpty = connection.integerOf("SELECT count(*) FROM sqlite_schema") == 0;
+    return isEmpty ? StoreFileContents::Nothing : StoreFileContents::SomethingElse;
+}
+
+void createStoreTables(SQLiteConnection& connection, const StoreSchema& schema, const NSManagedObjectModel& model)
+{
+    connection.execute("PRAGMA page_size = 8192");
+    inTransaction(connection, "BEGIN EXCLUSIVE", [&] {
+        if (contentsOfStoreFile(connection) != StoreFileContents::Nothing)
+            return; // another process was faster
+        for (const std::string& statement : schema.creationStatements())
+            connection.execute(statement);
+        for (const auto& [key, value] : newStoreMetadata(model))
+            writeStoreMetadataValue(connection, key, value);
+    });
+}
+
+StoreMetadata readStoreMetadata(SQLiteConnection& connection)
+{
+    SQLiteStatement statement
+        = connection.prepare("SELECT \"key\", \"value\" FROM \"store_metadata\" ORDER BY \"key\"");
+    StoreMetadata metadata;
+    while (statement.step())
+        metadata.emplace(statement.bytes(0), statement.bytes(1));
+    return metadata;
+}
+
+void writeStoreMetadataValue(SQLiteConnection& connection, std::string_view key, std::string_view value)
+{
+    SQLiteStatement statement
+        = connection.prepare("INSERT INTO \"store_metadata\" (\"key\", \"value\") VALUES (?1, ?2) "
+                             "ON CONFLICT (\"key\") DO UPDATE SET \"value\" = excluded.\"value\"");
+    statement.bindText(1, key);
+    statement.bindText(2, value);
+    statement.run();
+}
+
+// Shadow columns ------------------------------------------------------------------------------------------------------
+
+void foldAgain(SQLiteConnection& connection, const StoreSchema& schema)
+{
+    inTransaction(connection, "BEGIN IMMEDIATE", [&] {
+        forEachShadow(schema, [&](const auto& table, const auto& column, const auto& shadow) {
+            connection.execute("UPDATE " + table + " SET " + shadow + " = fold(" + column + ") WHERE " + shadow
+                + " IS NOT fold(" + column + ")");
+        });
+        writeStoreMetadataValue(connection, StoreFoldingVersionKey, std::to_string(foldingVersion()));
+    });
+}
+
+bool hasStaleShadows(SQLiteConnection& connection, const StoreSchema& schema)
+{
+    bool found = false;
+    forEachShadow(schema, [&](const auto& table, const auto& column, const auto& shadow) {
+        found = found
+            || connection.integerOf("SELECT EXISTS (SELECT 1 FROM " + table + " WHERE " + shadow + " IS NULL AND "
+                   + column + " IS NOT NULL)")
+                > 0;
+    });
+    return found;
+}
+
+void foldStale(SQLiteConnection& connection, const StoreSchema& schema)
+{
+    inTransaction(connection, "BEGIN IMMEDIATE", [&] {
+        forEachShadow(schema, [&](const auto& table, const auto& column, const auto& shadow) {
+            connection.execute("UPDATE " + table + " SET " + shadow + " = fold(" + column + ") WHERE " + shadow
+                + " IS NULL AND " + column + " IS NOT NULL");
+        });
+    });
+}
+
+// Checks --------------------------------------------------------------------------------------------------------------
+
+std::vector<std::string> problemsOfStoreFile(SQLiteConnection& connection, const StoreSchema& schema)
+{
+    std::vector<std::string> problems;
+    {
+        SQLiteStatement check = connection.prepare("PRAGMA integrity_check");
+        while (check.step())
+            if (check.bytes(0) != "ok")
+                problems.emplace_back(check.bytes(0));
+    }
+    {
+        SQLiteStatement check = connection.prepare("PRAGMA foreign_key_check");
+        while (check.step())
+            problems.push_back("a row of \"" + std::string(check.bytes(0)) + "\" points at a missing row of \""
+                + std::string(check.bytes(2)) + "\"");
+    }
+    forEachShadow(schema, [&](const auto& table, const auto& column, const auto& shadow) {
+        SQLiteStatement check = connection.prepare("SELECT \"pk\" FROM " + table + " WHERE " + shadow
+            + " IS NOT NULL AND " + shadow + " IS NOT fold(" + column + ") ORDER BY \"pk\"");
+        while (check.step())
+            problems.push_back("row " + std::to_string(check.integer(0)) + " of " + table + ": " + shadow
+                + " is not the folded value of " + column);
+    });
+    return problems;
+}
+
+} // namespace tarn

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "platform/coredata/StoreMetadata.h"
+#include "platform/coredata/StoreSchema.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace tarn {
+
+class SQLiteConnection;
+
+// The file of a store as a whole: making, recognising and checking it. What fails throws a `StoreFailure`.
+
+/// What a database file holds.
+enum class StoreFileContents : std::uint8_t {
+    Nothing, ///< no table yet
+    Store,
+    SomethingElse, ///< tables of another program
+};
+StoreFileContents contentsOfStoreFile(SQLiteConnection& connection);
+
+/// Makes the tables in an empty file. Of several processes that do so at once, one makes them and the others find them.
+void createStoreTables(SQLiteConnection& connection, const StoreSchema& schema, const NSManagedObjectModel& model);
+
+StoreMetadata readStoreMetadata(SQLiteConnection& connection);
+void writeStoreMetadataValue(SQLiteConnection& connection, std::string_view key, std::string_view value);
+
+/// Makes all shadow columns again; in a transaction of its own.
+void foldAgain(SQLiteConnection& connection, const StoreSchema& schema);
+/// Makes the shadow columns again that another program has left stale.
+void foldStale(SQLiteConnection& connection, const StoreSchema& schema);
+bool hasStaleShadows(SQLiteConnection& connection, const StoreSchema& schema);
+
+/// What is wrong with the file; nothing when it is sound.
+std::vector<std::string> problemsOfStoreFile(SQLiteConnection& connection, const StoreSchema& schema);
+
+} // namespace tarn

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "platform/coredata/NSPersistentStore.h"
+#include "platform/coredata/SQLiteRowWriter.h"
+
+namespace tarn {
+
+class SQLiteStore;
+
+/// The write transaction of a SQLite store; holds the turn to write and the file's lock from its making.
+class SQLiteTransaction final : public StoreTransaction {
+public:
+    /// Throws a `StoreFailure` when the lock cannot be had.
+    explicit SQLiteTransaction(SQLiteStore& store);
+    ~SQLiteTransaction() override;
+    SQLiteTransaction(const SQLiteTransaction&) = delete;
+    SQLiteTransaction& operator=(const SQLiteTransaction&) = delete;
+
+    bool insertRow(const StoreRow& row, NSError* error) override;
+    RowWriteResult updateRow(const StoreRow& row, PropertyMask changed, NSError* error) override;
+    RowWriteResult deleteRow(
+        const NSEntityDescription& entity, std::int64_t key, std::int64_t version, NSError* error) override;
+    bool changeJoins(std::span<const JoinChange> changes, NSError* error) override;
+    bool commit(NSError* error) override;
+
+private:
+    void requireOpen() const;
+    void finish(bool keepKeys) noexcept;
+
+    SQLiteStore& store_;
+    SQLiteConnection& connection_;
+    SQLiteRowWriter writer_;
+    bool finished_ = false;
+};
+
+} // namespace tarn
