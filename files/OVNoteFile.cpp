@@ -1,5 +1,6 @@
 #include "model/OVNoteFile.h"
 
+#include "platform/coredata/NSManagedObjectContext.h"
 #include "platform/foundation/NSDate.h"
 
 namespace tarn {
@@ -18,6 +19,11 @@ void OVNoteFile::setInUse()
         return;
     setUnusedValue(false);
     setUnusedDate(now());
+}
+
+void OVNoteFile::permanentlyDelete()
+{
+    managedObjectContext().deleteObject(*this);
 }
 
 } // namespace tarn

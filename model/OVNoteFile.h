@@ -19,6 +19,8 @@ public:
     /// Marks it as named by a text, with the date of now; nothing when it is so already.
     void setInUse();
     bool isUnused() const { return unusedValue(); }
+    /// Deletes the record from its context.
+    void permanentlyDelete();
 
     // Protection (files/OVNoteFile+Encryption.cpp) -------------------------------------------------------------------
     // Of an encrypted attachment these read and write through the encryption manager, and raise "Invalid accessor" when

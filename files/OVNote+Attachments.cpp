@@ -1,0 +1,40 @@
+#include "model/OVNote.h"
+#include "model/OVNoteFile.h"
+#include "model/OVNoteImage.h"
+
+#include <algorithm>
+
+namespace tarn {
+
+bool OVNote::hasAttachments() const
+{
+    return hasFilesValue() || hasImagesValue();
+}
+
+std::vector<OVNoteFile*> OVNote::orderedFiles() const
+{
+    std::vector<OVNoteFile*> files = filesSet().allObjects();
+    std::erase_if(files, [](const OVNoteFile* file) { return file->unused() != false; });
+    std::stable_sort(files.begin(), files.end(),
+        [](const OVNoteFile* left, const OVNoteFile* right) { return left->index() < right->index(); });
+    return files;
+}
+
+std::vector<OVNoteImage*> OVNote::orderedImages() const
+{
+    std::vector<OVNoteImage*> images;
+    for (OVNoteFile* file : orderedFiles()) {
+        if (auto* image = dynamic_cast<OVNoteImage*>(file))
+            images.push_back(image);
+    }
+    return images;
+}
+
+std::vector<OVNoteFile*> OVNote::orderedFilesWithoutImages() const
+{
+    std::vector<OVNoteFile*> files = orderedFiles();
+    std::erase_if(files, [](OVNoteFile* file) { return dynamic_cast<OVNoteImage*>(file) != nullptr; });
+    return files;
+}
+
+} // namespace tarn

@@ -1,0 +1,35 @@
+#include "notes/ConflictStamp.h"
+
+#include <fmt/format.h>
+
+#include <atomic>
+#include <cstdlib>
+#include <limits>
+
+namespace tarn {
+
+NSDate nextConflictStamp()
+{
+    using namespace std::chrono_literals;
+    static std::atomic<NSDate::rep> last{std::numeric_limits<NSDate::rep>::min()};
+
+    const NSDate current = now();
+    NSDate::rep before = last.load();
+    NSDate stamp;
+    do {
+        const NSDate previous = dateWithMicrosecondsSince1970(before);
+        const bool isInStep = previous < current || previous - current >= 1s;
+        stamp = isInStep ? current : previous + 1us;
+    } while (!last.compare_exchange_weak(before, microsecondsSince1970(stamp)));
+    return stamp;
+}
+
+std::string secondsTextOfConflictStamp(NSDate stamp)
+{
+    constexpr std::int64_t microsecondsOfASecond = 1'000'000;
+    const std::int64_t microseconds = microsecondsSince1970(stamp);
+    return fmt::format("{}{}.{:06}", microseconds < 0 ? "-" : "", std::abs(microseconds / microsecondsOfASecond),
+        std::abs(microseconds % microsecondsOfASecond));
+}
+
+} // namespace tarn

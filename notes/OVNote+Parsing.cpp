@@ -1,0 +1,130 @@
+#include "corvel/CVKAST.h"
+#include "corvel/CVKTextSummary.h"
+#include "files/PercentEncoding.h"
+#include "model/OVNote.h"
+#include "model/OVNoteGenericFile.h"
+#include "model/OVNoteImage.h"
+#include "platform/foundation/NSDate.h"
+#include "platform/foundation/UTF.h"
+#include "sync/OVDeviceUUID.h"
+
+#include <algorithm>
+#include <limits>
+#include <unordered_map>
+
+namespace tarn {
+
+namespace {
+
+/// A count as the record holds it; what does not fit is the highest number that does.
+std::int16_t clampedCount(std::size_t count)
+{
+    constexpr std::size_t highest = std::numeric_limits<std::int16_t>::max();
+    return static_cast<std::int16_t>(std::min(count, highest));
+}
+
+using FilesByName = std::unordered_map<std::string, OVNoteFile*>;
+
+/// The attachments that a link can name. Of several with one name a used one counts, of these the last.
+FilesByName filesByName(const OVNote& note)
+{
+    FilesByName files;
+    for (OVNoteFile* file : note.filesSet().allObjects()) {
+        const auto name = file->filename();
+        if (name && !(file->isUnused() && files.contains(*name)))
+            files[*name] = file;
+    }
+    return files;
+}
+
+/// Takes the file that the link names out of the map, under both spellings of the link; null when it names none.
+OVNoteFile* takeFileForLink(const std::string& link, FilesByName& files)
+{
+    const auto decoded = stringByRemovingPercentEncoding(link);
+    auto found = decoded ? files.find(*decoded) : files.end();
+    if (found == files.end())
+        found = files.find(link);
+    if (found == files.end())
+        return nullptr;
+    OVNoteFile* file = found->second;
+    files.erase(link);
+    if (decoded)
+        files.erase(*decoded);
+    return file;
+}
+
+} // namespace
+
+OVNote* OVNote::noteWithText(std::string_view text, NSManagedObjectContext& context)
+{
+    OVNote* note = insertInManagedObjectContext(context);
+    note->updateNoteWithText(text);
+    return note;
+}
+
+void OVNote::updateNoteWithText(std::string_view text)
+{
+    updateNoteWithText(text, true);
+}
+
+void OVNote::updateNoteWithText(std::string_view text, bool updateModificationDate)
+{
+    _updateNoteWithText(text, updateModificationDate);
+}
+
+void OVNote::_updateNoteWithText(std::string_view text, bool updateModificationDate)
+{
+    checkTextLength(text);
+    updateNoteWithAST(CVKAST::fromMarkdown(validUTF8(text)), updateModificationDate);
+}
+
+void OVNote::updateNoteWithAST(const CVKAST& document)
+{
+    updateNoteWithAST(document, true);
+}
+
+void OVNote::updateNoteWithAST(const CVKAST& document, bool updateModificationDate)
+{
+    setText(document.markdown());
+    updateNoteFromTextSummary(document.textSummary());
+    if (updateModificationDate)
+        setModificationDate(now());
+    updateNoteVectorClock();
+    setLastEditingDevice(OVDeviceUUID::deviceName());
+}
+
+void OVNote::updateNoteFromTextSummary(const CVKTextSummary& summary)
+{
+    setTitle(summary.title);
+    // What is protected must not shine through a list of notes.
+    setSubtitle(hasEncryption() ? std::nullopt : std::optional<std::string_view>(summary.subtitle));
+    setTagsFromStrings(summary.tags);
+    setTodoIncompletedValue(clampedCount(summary.todoCount));
+    setTodoCompletedValue(clampedCount(summary.doneCount));
+    setHasSourceCodeValue(summary.codeBlockCount != 0);
+    updateFilesFromTextSummary(summary);
+}
+
+void OVNote::updateFilesFromTextSummary(const CVKTextSummary& summary)
+{
+    FilesByName unlinked = filesByName(*this);
+    bool linksImage = false;
+    bool linksFile = false;
+    for (std::size_t position = 0; position < summary.links.size(); ++position) {
+        OVNoteFile* file = takeFileForLink(summary.links[position], unlinked);
+        if (!file)
+            continue;
+        file->setInUse();
+        const auto index = static_cast<std::int64_t>(position);
+        if (file->index() != index)
+            file->setIndexValue(index);
+        linksImage = linksImage || dynamic_cast<OVNoteImage*>(file);
+        linksFile = linksFile || dynamic_cast<OVNoteGenericFile*>(file);
+    }
+    setHasImagesValue(linksImage);
+    setHasFilesValue(linksFile);
+    for (const auto& [name, file] : unlinked)
+        file->setUnused();
+}
+
+} // namespace tarn

@@ -1,0 +1,36 @@
+#include "corvel/CVKHashtag.h"
+#include "model/OVNoteTag.h"
+#include "model/RecordFetch.h"
+#include "tags/TagLookupInternal.h"
+
+namespace tarn {
+
+OVNoteTag* OVNoteTag::addNewTagWithName(std::string_view name, NSManagedObjectContext& context)
+{
+    const std::string title = CVKHashtag::sanitizeTagName(name);
+    if (title.empty())
+        return nullptr;
+    OVNoteTag* tag = insertInManagedObjectContext(context);
+    tag->setTitle(title);
+    tag->setIsRootValue(CVKHashtag::componentsForForTagName(title).size() == 1);
+    return tag;
+}
+
+OVNoteTag* OVNoteTag::getOrCreateTagWithName(std::string_view name, NSManagedObjectContext& context)
+{
+    return findOrCreateTag(name, context).value_or(nullptr);
+}
+
+std::vector<OVNoteTag*> OVNoteTag::getOrCreateTagWithNames(
+    std::span<const std::string> names, NSManagedObjectContext& context)
+{
+    return findOrCreateTags(names, context).value_or(std::vector<OVNoteTag*>());
+}
+
+void OVNoteTag::deleteAllUnusedTagsInManagedObjectContext(NSManagedObjectContext& context)
+{
+    for (OVNoteTag* tag : tagsMatching(NSPredicate::predicateWithFormat("notes.@count == 0"), {}, context))
+        context.deleteObject(*tag);
+}
+
+} // namespace tarn
