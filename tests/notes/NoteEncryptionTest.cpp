@@ -1,0 +1,202 @@
+#include "tests/support/StoreFixture.h"
+
+#include "encryption/OVEncryptionCoreManager.h"
+#include "model/OVNoteGenericFile.h"
+#include "platform/foundation/NSException.h"
+
+#include <map>
+
+namespace tarn {
+namespace {
+
+using testing::ElementsAre;
+
+/// Keeps clear texts in memory and nothing in the records; what a manager is to a note.
+class TextKeeper : public OVEncryptionCoreManagerProtocol {
+public:
+    bool isLocked = false;
+    std::map<const OVEncryptableNote*, std::string> texts;
+
+    bool isObjectLocked(const OVEncryptableObject&) const override { return isLocked; }
+    bool addEncryptionToObject(OVEncryptableObject&, OVEncryptingPassword&, NSError*) override { return false; }
+    bool hasCachedPassword(const OVEncryptingPassword&) const override { return false; }
+    std::optional<std::string> textForNote(const OVEncryptableNote& note, NSError*) override
+    {
+        const auto found = texts.find(&note);
+        return found == texts.end() ? std::nullopt : std::optional(found->second);
+    }
+    void setText(std::optional<std::string_view> text, OVEncryptableNote& note) override
+    {
+        texts[&note] = text.value_or("");
+    }
+    std::optional<std::string> filenameForNoteFile(const OVEncryptableNoteFile& file, NSError*) override
+    {
+        return file.storedFilename();
+    }
+    void setFilename(std::optional<std::string_view>, OVEncryptableNoteFile&) override { }
+    std::optional<std::string> normalizedFileExtensionForNoteFile(const OVEncryptableNoteFile&, NSError*) override
+    {
+        return std::nullopt;
+    }
+    void setNormalizedFileExtension(std::optional<std::string_view>, OVEncryptableNoteFile&) override { }
+    std::optional<std::int64_t> fileSizeForNoteFile(const OVEncryptableNoteFile&, NSError*) override
+    {
+        return std::nullopt;
+    }
+    void setFileSize(std::optional<std::int64_t>, OVEncryptableNoteFile&) override { }
+    std::optional<std::filesystem::path> fileURLForNoteFile(const OVEncryptableNoteFile&, NSError*) override
+    {
+        return std::nullopt;
+    }
+};
+
+class NoteEncryption : public StoreFixture {
+protected:
+    void SetUp() override
+    {
+        StoreFixture::SetUp();
+        plain_ = &note("# Plain\nbody");
+        protected_ = &note("# Protected\nbody");
+        protected_->setEncryptedValue(true);
+    }
+    void TearDown() override
+    {
+        OVEncryptionCoreManager::setEncryptionCoreManager(nullptr, context());
+        OVEncryptionCoreManager::setFileEncryptionEnabled(false);
+        StoreFixture::TearDown();
+    }
+    void startManager() { OVEncryptionCoreManager::setEncryptionCoreManager(&keeper_, context()); }
+
+    TextKeeper keeper_;
+    OVNote* plain_ = nullptr;
+    OVNote* protected_ = nullptr;
+};
+INSTANTIATE_TEST_SUITE_P(Stores, NoteEncryption, everyStore(), storeName);
+
+TEST_P(NoteEncryption, IsThatOfTheNoteOrOfAnAttachment)
+{
+    OVNoteGenericFile& attached = file(*plain_, "a.pdf");
+    EXPECT_FALSE(plain_->hasEncryption());
+    EXPECT_TRUE(protected_->hasEncryption());
+
+    attached.setEncryptedValue(true);
+    EXPECT_TRUE(plain_->hasEncryption());
+    save();
+    EXPECT_TRUE(plain_->hasEncryption());
+    attached.setEncryptedValue(false);
+    EXPECT_FALSE(plain_->hasEncryption());
+}
+
+TEST_P(NoteEncryption, IsFoundInAnyOfSeveralNotes)
+{
+    EXPECT_FALSE(OVNote::anyNoteHasEncryption({}));
+    EXPECT_FALSE(OVNote::anyNoteHasEncryption({plain_}));
+    EXPECT_TRUE(OVNote::anyNoteHasEncryption({plain_, protected_}));
+}
+
+TEST_P(NoteEncryption, CountsAsLockedWithoutAManager)
+{
+    EXPECT_EQ(plain_->encryptionCoreManager(), nullptr);
+    EXPECT_TRUE(protected_->hasEncryptionAndIsLocked());
+    EXPECT_FALSE(plain_->hasEncryptionAndIsLocked());
+}
+
+TEST_P(NoteEncryption, IsLockedWhenTheManagerSaysSo)
+{
+    startManager();
+    EXPECT_EQ(plain_->encryptionCoreManager(), &keeper_);
+    EXPECT_FALSE(protected_->hasEncryptionAndIsLocked());
+    keeper_.isLocked = true;
+    EXPECT_TRUE(protected_->hasEncryptionAndIsLocked());
+}
+
+TEST_P(NoteEncryption, ReadsAndWritesStoredTextsWithoutAManager)
+{
+    EXPECT_EQ(protected_->text(), "# Protected\nbody");
+    protected_->setText("stored");
+    EXPECT_EQ(protected_->text(), "stored");
+    EXPECT_EQ(protected_->storedText(), "stored");
+}
+
+TEST_P(NoteEncryption, ReadsAndWritesProtectedTextsThroughTheManager)
+{
+    startManager();
+    protected_->setText("secret");
+
+    EXPECT_EQ(protected_->text(), "secret");
+    EXPECT_EQ(protected_->storedText(), "# Protected\nbody");
+    EXPECT_EQ(keeper_.texts.size(), 1U);
+    EXPECT_EQ(plain_->text(), "# Plain\nbody");
+}
+
+TEST_P(NoteEncryption, RefusesTheTextOfALockedNoteAndChangesNothing)
+{
+    startManager();
+    keeper_.isLocked = true;
+    const auto modified = protected_->modificationDate();
+    const auto clock = protected_->vectorClock();
+
+    try {
+        static_cast<void>(protected_->text());
+        FAIL() << "no exception";
+    } catch (const NSException& exception) {
+        EXPECT_EQ(exception.name(), "Invalid accessor");
+        EXPECT_EQ(exception.reason(),
+            "Called an encrypted accessor with Encryption Manager available and the object locked. Unlock the object "
+            "using the Encryption Manager first, or use the primitive accessor (primitive accessors should be used in "
+            "very special cases, so be fully aware of what you are doing).");
+    }
+    EXPECT_THROW(protected_->setText("x"), NSException);
+    EXPECT_THROW(protected_->updateNoteWithText("# Other #tag"), NSException);
+    EXPECT_THROW(protected_->appendNoteWithText("x"), NSException);
+    EXPECT_THROW(protected_->activityItems(), NSException);
+    EXPECT_EQ(protected_->title(), "Protected");
+    EXPECT_EQ(protected_->modificationDate(), modified);
+    EXPECT_EQ(protected_->vectorClock(), clock);
+    EXPECT_EQ(tag("tag").notesSet().count(), 0U);
+    EXPECT_EQ(plain_->text(), "# Plain\nbody") << "a note that is not protected is never locked";
+}
+
+TEST_P(NoteEncryption, ShowsNoSubtitle)
+{
+    startManager();
+    protected_->updateNoteWithText("# Secret\n\nsubtitle #tag");
+
+    EXPECT_EQ(protected_->title(), "Secret");
+    EXPECT_EQ(protected_->subtitle(), std::nullopt);
+    EXPECT_TRUE(protected_->hasTag("tag"));
+
+    file(*plain_, "a.pdf").setEncryptedValue(true);
+    plain_->updateNoteWithText("# Title\n\nsubtitle");
+    EXPECT_EQ(plain_->subtitle(), std::nullopt);
+}
+
+TEST_P(NoteEncryption, TellsObserversOfTheStoredText)
+{
+    int calls = 0;
+    const auto observation = plain_->addObserver("text", [&calls](NSManagedObject&, std::string_view) { ++calls; });
+
+    plain_->updatePrimitiveText("a");
+    EXPECT_EQ(calls, 1);
+    plain_->setText("b");
+    EXPECT_EQ(calls, 2);
+    EXPECT_EQ(plain_->storedText(), "b");
+    plain_->setText(std::nullopt);
+    EXPECT_EQ(plain_->text(), std::nullopt);
+}
+
+TEST_P(NoteEncryption, AllowsAttachmentsWhereTheyCanBeProtectedToo)
+{
+    EXPECT_TRUE(plain_->allowsAttachments());
+    EXPECT_FALSE(protected_->allowsAttachments());
+    OVEncryptionCoreManager::setFileEncryptionEnabled(true);
+    EXPECT_TRUE(protected_->allowsAttachments());
+}
+
+TEST_P(NoteEncryption, SharesTheText)
+{
+    EXPECT_THAT(plain_->activityItems(), ElementsAre("# Plain\nbody"));
+}
+
+} // namespace
+} // namespace tarn

@@ -1,0 +1,109 @@
+#pragma once
+
+#include "model/OVNote.h"
+#include "model/OVNoteFile.h"
+#include "model/OVNoteTag.h"
+#include "platform/coredata/NSManagedObjectContext.h"
+#include "platform/coredata/NSPersistentStore.h"
+#include "platform/coredata/NSPersistentStoreCoordinator.h"
+#include "platform/foundation/Environment.h"
+#include "sync/HostUUID.h"
+#include "tests/support/LogCapture.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tarn {
+
+class OVNoteGenericFile;
+class OVNoteImage;
+
+/// A new store of each kind in a folder of its own (with a blank and a letter outside ASCII in its name), one context
+/// on it, and a world that stands still: a clock that moves by a millisecond whenever it is asked, one device, one
+/// name.
+///
+/// A test fails on log messages that it did not take, and on a store that is not sound at its end.
+///
+///     class TagRename : public StoreFixture { };
+///     INSTANTIATE_TEST_SUITE_P(Stores, TagRename, everyStore(), storeName);
+class StoreFixture : public testing::TestWithParam<StoreType> {
+protected:
+    StoreFixture();
+    ~StoreFixture() override;
+    void SetUp() override;
+    void TearDown() override;
+
+    NSManagedObjectContext& context() { return *context_; }
+    NSPersistentStore& store() { return *coordinator_->persistentStore(); }
+    std::filesystem::path storeFile() const { return folder_ / "database.sqlite"; }
+
+    void save();
+    /// Saves and goes on with a new context (on a file: with a newly opened store). Records from before are gone.
+    void reopen();
+
+    // Builders; records belong to the context.
+    OVNote& note(std::string_view text) { return *OVNote::noteWithText(text, context()); }
+    /// A note that has this title and no text.
+    OVNote& noteTitled(std::string_view title);
+    OVNoteTag& tag(std::string_view name) { return *OVNoteTag::getOrCreateTagWithName(name, context()); }
+    OVNoteImage& image(OVNote& note, std::string_view filename);
+    OVNoteGenericFile& file(OVNote& note, std::string_view filename);
+
+    /// All records of an entity, in the store's order.
+    template <typename Record> std::vector<Record*> all()
+    {
+        std::vector<Record*> records;
+        for (NSManagedObject* record :
+            context().executeFetchRequest(NSFetchRequest(Record::entityInManagedObjectContext(context()))))
+            records.push_back(static_cast<Record*>(record));
+        return records;
+    }
+
+    /// The present time, by the test's clock, which it moves on.
+    NSDate mark() { return tick(); }
+    /// What was logged since the last time. Messages that nobody takes fail the test.
+    std::vector<std::string> takeLog() { return log_.take(); }
+
+    static constexpr std::string_view deviceUUID = "01020304-0506-4708-890A-0B0C0D0E0F10";
+    static constexpr std::string_view deviceName = "Zoë’s test machine";
+
+    EnvironmentOverride world_;
+
+private:
+    void open();
+    NSDate tick();
+
+    std::filesystem::path folder_;
+    NSDate clock_;
+    HostUUIDProvider previousHost_;
+    LogCapture log_;
+    std::shared_ptr<NSPersistentStoreCoordinator> coordinator_;
+    std::unique_ptr<NSManagedObjectContext> context_;
+};
+
+inline auto everyStore()
+{
+    return testing::Values(StoreType::SQLite, StoreType::InMemory);
+}
+
+inline std::string storeName(const testing::TestParamInfo<StoreType>& info)
+{
+    return info.param == StoreType::SQLite ? "SQLite" : "InMemory";
+}
+
+/// The titles of records, "-" for none.
+template <typename Record> std::vector<std::string> titlesOf(const std::vector<Record*>& records)
+{
+    std::vector<std::string> titles;
+    for (const Record* record : records)
+        titles.push_back(record->title().value_or("-"));
+    return titles;
+}
+
+} // namespace tarn
