@@ -1,4 +1,5 @@
 #include "model/OVNote.h"
+#include "model/OVNoteTag.h"
 #include "model/RecordFetch.h"
 
 #include <algorithm>
