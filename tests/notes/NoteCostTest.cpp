@@ -1,0 +1,82 @@
+#include "tests/support/SQLStatistics.h"
+#include "tests/support/StoreFixture.h"
+
+#include <algorithm>
+
+namespace tarn {
+namespace {
+
+/// What an edit costs must not grow with the notebook: counted in statements and rows, never in time.
+class NoteCost : public StoreFixture {
+protected:
+    void addNotes(int count)
+    {
+        for (; noteCount_ < count; ++noteCount_) {
+            const std::string number = std::to_string(noteCount_);
+            note("# Note " + number + "\n\n- [ ] task\n\n#popular #popular/" + std::to_string(noteCount_ % 20));
+        }
+        reopen();
+    }
+
+    /// One edit of a note that was not read before, and its save.
+    SQLStatistics::Counts costOfAnEdit(const std::string& newTag)
+    {
+        statistics_.take();
+        OVNote* edited = OVNote::noteWithTitle("Note 7", context());
+        edited->updateNoteWithText("# Note 7\n\n- [x] task\n\n#popular/7 #" + newTag);
+        save();
+        return statistics_.take();
+    }
+
+    SQLStatistics::Counts costOfASearchForTags()
+    {
+        statistics_.take();
+        OVNoteTag::getOrCreateTagWithNames(names_, context());
+        return statistics_.take();
+    }
+
+    static std::int64_t tagFetches(const SQLStatistics::Counts& counts)
+    {
+        return std::count_if(counts.texts.begin(), counts.texts.end(), [](const std::string& text) {
+            return text.starts_with("SELECT") && text.find("FROM \"OVNoteTag\"") != std::string::npos;
+        });
+    }
+
+    SQLStatistics statistics_;
+    std::vector<std::string> names_;
+    int noteCount_ = 0;
+};
+INSTANTIATE_TEST_SUITE_P(Stores, NoteCost, testing::Values(StoreType::SQLite), storeName);
+
+TEST_P(NoteCost, OfAnEditIsTheSameInASmallAndALargeNotebook)
+{
+    addNotes(100);
+    const SQLStatistics::Counts small = costOfAnEdit("one");
+    addNotes(3000);
+    const SQLStatistics::Counts large = costOfAnEdit("two");
+
+    EXPECT_GT(small.statements, 0);
+    EXPECT_GT(small.rows, 0);
+    EXPECT_EQ(large.statements, small.statements);
+    EXPECT_EQ(large.rows, small.rows);
+    EXPECT_EQ(large.scannedRows, small.scannedRows);
+    if (testing::Test::HasFailure()) {
+        for (const std::string& text : large.texts)
+            std::cerr << text << '\n';
+    }
+}
+
+TEST_P(NoteCost, OfFindingTagsIsOneFetchForAHundredNames)
+{
+    for (int number = 0; number < 250; ++number)
+        names_.push_back("tag " + std::to_string(number));
+
+    EXPECT_EQ(tagFetches(costOfASearchForTags()), 3);
+    save();
+    EXPECT_EQ(tagFetches(costOfASearchForTags()), 3);
+    names_.resize(200);
+    EXPECT_EQ(tagFetches(costOfASearchForTags()), 2);
+}
+
+} // namespace
+} // namespace tarn
