@@ -11,7 +11,7 @@ namespace {
 
 std::size_t startOfSegmentAtOrAfter(std::string_view text, std::size_t offset)
 {
-    while (offset < text.size()) {
+    while (offset < text.size() && static_cast<signed char>(text[offset]) < 0) {
         const DecodedCodePoint decoded = decodeCodePoint(text, offset);
         if (folding::Table::startsSegment(decoded.codePoint))
             break;
@@ -26,7 +26,11 @@ public:
     void append(std::string_view text, std::size_t start, std::size_t end)
     {
         starts_.push_back({folded_.size(), start});
-        appendFolded(folded_, text.substr(start, end - start));
+        const char first = text[start];
+        if (end - start == 1 && static_cast<signed char>(first) >= 0)
+            folded_.push_back(first >= 'A' && first <= 'Z' ? static_cast<char>(first + ('a' - 'A')) : first);
+        else
+            appendFolded(folded_, text.substr(start, end - start));
     }
     /// Where the needle starts in the source when the folded text ends with it and it starts with a segment.
     std::optional<std::size_t> sourceOfEnding(std::string_view needle) const

@@ -25,18 +25,28 @@ bool isContinuation(unsigned char byte) noexcept
     return (byte & 0xC0U) == 0x80U;
 }
 
-/// `decodeCodePoint` with short ways for sequences of two and three bytes, which are nearly all.
-DecodedCodePoint decode(std::string_view text, std::size_t offset) noexcept
+struct Step {
+    char32_t codePoint;
+    const char* next;
+};
+
+/// One step of reading, with short ways for sequences of two and three bytes, which are nearly all.
+inline Step step(const char* source, const char* end) noexcept
 {
-    const auto* const bytes = reinterpret_cast<const unsigned char*>(text.data()) + offset;
-    const std::size_t left = text.size() - offset;
+    const auto* const bytes = reinterpret_cast<const unsigned char*>(source);
     const unsigned first = bytes[0];
-    if (left >= 2 && first >= 0xC2 && first < 0xE0 && isContinuation(bytes[1]))
-        return {((first & 0x1FU) << 6U) | (bytes[1] & 0x3FU), 2, true};
-    if (left >= 3 && first >= 0xE0 && first < 0xF0 && first != 0xED && isContinuation(bytes[1])
-        && isContinuation(bytes[2]) && (first != 0xE0 || bytes[1] >= 0xA0))
-        return {((first & 0x0FU) << 12U) | ((bytes[1] & 0x3FU) << 6U) | (bytes[2] & 0x3FU), 3, true};
-    return decodeCodePoint(text, offset);
+    if (first < 0x80)
+        return {first, source + 1};
+    if (end - source >= 3 && isContinuation(bytes[1])) [[likely]] {
+        if (first - 0xC2U < 0x1EU)
+            return {((first & 0x1FU) << 6U) | (bytes[1] & 0x3FU), source + 2};
+        const char32_t codePoint = ((first & 0x0FU) << 12U) | ((bytes[1] & 0x3FU) << 6U) | (bytes[2] & 0x3FU);
+        const bool isOverlongOrSurrogate = codePoint < 0x800 || (codePoint >> 11U) == 0x1B;
+        if ((first & 0xF0U) == 0xE0 && isContinuation(bytes[2]) && !isOverlongOrSurrogate) [[likely]]
+            return {codePoint, source + 3};
+    }
+    const DecodedCodePoint decoded = decodeCodePoint({source, static_cast<std::size_t>(end - source)}, 0);
+    return {decoded.codePoint, source + decoded.length};
 }
 
 std::size_t startOfLastCodePoint(std::string_view validText) noexcept
@@ -82,11 +92,17 @@ void Pass::run()
 {
     while (position_ < text_.size()) {
         result_.reserve(text_.size() - position_ + kSlack);
-        if (isAscii(text_[position_]))
+        if (isAsciiRunAhead())
             foldAsciiRun();
-        else
-            foldCodePoint();
+        else if (!foldByTable())
+            foldInteraction();
     }
+}
+
+/// A single character of ASCII among others is cheaper by the table.
+bool Pass::isAsciiRunAhead() const noexcept
+{
+    return isAscii(text_[position_]) && (position_ + 1 == text_.size() || isAscii(text_[position_ + 1]));
 }
 
 void Pass::foldAsciiRun()
@@ -96,80 +112,92 @@ void Pass::foldAsciiRun()
     position_ += count;
     segmentStart_ = position_ - 1;
     segmentResult_ = result_.size() - 1;
-    dropsMarks_ = true;
-    isComposed_ = false;
-    lastClass_ = 0;
+    tail_.follow(Table::entry('a')); // all of ASCII is alike here
 }
 
-void Pass::foldCodePoint()
+/// Folds as long as every code point can be answered alone; false when the one at `position_` cannot.
+/// This is the inner loop for all texts that are not ASCII.
+bool Pass::foldByTable()
 {
-    const DecodedCodePoint decoded = decode(text_, position_);
-    next_ = position_ + decoded.length;
-    const Entry& entry = Table::entry(decoded.codePoint);
-    switch (entry.kind) {
-    case EntryKind::Starter:
-        if (entry.combinesBackward && composeWithLast(decoded.codePoint))
-            dropsMarks_ = entry.dropsMarks;
-        else
-            addStarter(entry);
-        break;
-    case EntryKind::Mark:
-        if (!dropsMarks_)
-            addMark(entry, decoded.codePoint);
-        break;
-    case EntryKind::ComplexMark:
-        if (!dropsMarks_)
-            foldSegmentAround(next_);
-        break;
-    case EntryKind::Removed:
-        break;
-    case EntryKind::Complex:
-        foldSegmentAround(next_);
-        break;
+    // Everything stands in local variables: the bytes that are written could alias any member.
+    const char* const begin = text_.data();
+    const char* const end = begin + text_.size();
+    const char* source = begin + position_;
+    const char* segmentStart = begin + segmentStart_;
+    char* const result = result_.end() - result_.size();
+    char* const lastRoom = result + result_.capacity() - kSlack / 2;
+    char* written = result_.end();
+    char* segmentResult = result + segmentResult_;
+    Tail tail = tail_;
+    bool isAnswered = true;
+    while (source < end && written < lastRoom) {
+        if (isAscii(source[0]) && source + 1 < end && isAscii(source[1]))
+            break;
+        const Step next = step(source, end);
+        const Entry entry = Table::entry(next.codePoint);
+        if (entry.kind() == EntryKind::Starter) [[likely]] {
+            segmentStart = source;
+            segmentResult = written;
+            tail.follow(entry);
+        } else if (entry.kind() == EntryKind::Removed || (entry.isAnyMark() && tail.dropsMarks())) {
+            source = next.next;
+            continue;
+        } else if (entry.kind() == EntryKind::Mark && !entry.combinesBackward() && tail.takes(entry)) {
+            tail.add(entry);
+        } else {
+            isAnswered = false;
+            break;
+        }
+        entry.write(written);
+        written += entry.length();
+        source = next.next;
     }
-    position_ = next_;
+    result_.truncate(static_cast<std::size_t>(written - result));
+    position_ = static_cast<std::size_t>(source - begin);
+    segmentStart_ = static_cast<std::size_t>(segmentStart - begin);
+    segmentResult_ = static_cast<std::size_t>(segmentResult - result);
+    tail_ = tail;
+    return isAnswered;
 }
 
-void Pass::appendEntry(const Entry& entry)
+/// Folds one code point whose answer depends on what stands around it.
+void Pass::foldInteraction()
 {
-    std::memcpy(result_.end(), entry.bytes.data(), entry.bytes.size());
-    result_.grow(entry.length);
-}
-
-void Pass::addStarter(const Entry& entry)
-{
-    if (!entry.combinesBackward) {
-        segmentStart_ = position_;
-        segmentResult_ = result_.size();
-    }
-    appendEntry(entry);
-    dropsMarks_ = entry.dropsMarks;
-    isComposed_ = entry.isComposed;
-    lastClass_ = 0;
-}
-
-void Pass::addMark(const Entry& entry, char32_t codePoint)
-{
-    const bool isOutOfOrder = entry.combiningClass != 0 && entry.combiningClass < lastClass_;
-    const bool mayReachOverMarks = entry.combinesBackward && lastClass_ != 0;
-    const bool mayTakeApart = entry.combiningClass != 0 && isComposed_;
-    if (isOutOfOrder || mayReachOverMarks || mayTakeApart) {
-        foldSegmentAround(next_);
+    const char* const begin = text_.data();
+    const Step next = step(begin + position_, begin + text_.size());
+    const auto nextPosition = static_cast<std::size_t>(next.next - begin);
+    const Entry entry = Table::entry(next.codePoint);
+    const bool isMarkThatMayCompose = entry.kind() == EntryKind::Mark && tail_.endsWithStarter() && tail_.takes(entry);
+    if (entry.kind() != EntryKind::JoiningStarter && !isMarkThatMayCompose) {
+        foldSegmentAround(nextPosition);
         return;
     }
-    if (entry.combinesBackward && composeWithLast(codePoint))
-        return;
-    appendEntry(entry);
-    lastClass_ = entry.combiningClass;
-    if (lastClass_ == 0)
-        isComposed_ = false;
+    addComposing(entry, next.codePoint);
+    position_ = nextPosition;
+}
+
+/// Adds a joining starter, or a mark right after a starter, and composes both when they have a composition.
+void Pass::addComposing(Entry entry, char32_t codePoint)
+{
+    const bool isComposed = tail_.endsWithStarter() && composeWithLast(codePoint);
+    if (!isComposed) {
+        result_.reserve(Entry::kMostBytes);
+        entry.write(result_.end());
+        result_.grow(entry.length());
+    }
+    if (entry.kind() == EntryKind::JoiningStarter)
+        tail_.follow(entry);
+    else if (!isComposed)
+        tail_.add(entry);
+    if (isComposed)
+        tail_.markComposed();
 }
 
 /// Replaces the last code point by its composition with this one, which stands right after it; false without one.
 bool Pass::composeWithLast(char32_t codePoint)
 {
     const std::string_view written = result_.text().substr(resultStart_);
-    if (written.empty() || lastClass_ != 0)
+    if (written.empty())
         return false;
     const std::size_t start = startOfLastCodePoint(written);
     const char32_t last = decodeCodePoint(written, start).codePoint;
@@ -180,27 +208,28 @@ bool Pass::composeWithLast(char32_t codePoint)
     appendCodePoint(bytes, static_cast<char32_t>(composite));
     result_.truncate(resultStart_ + start);
     result_.append(bytes);
-    isComposed_ = true;
     return true;
 }
 
 /// Folds again from the start of the segment, and on to its end at or after `position`.
 void Pass::foldSegmentAround(std::size_t position)
 {
-    next_ = startOfSegmentFrom(position);
+    position_ = startOfSegmentFrom(position);
     result_.truncate(segmentResult_);
-    result_.append(foldSegment(text_.substr(segmentStart_, next_ - segmentStart_)));
-    segmentStart_ = next_;
+    result_.append(foldSegment(text_.substr(segmentStart_, position_ - segmentStart_)));
+    segmentStart_ = position_;
     segmentResult_ = result_.size();
 }
 
 std::size_t Pass::startOfSegmentFrom(std::size_t position) const
 {
+    const char* const begin = text_.data();
+    const char* const end = begin + text_.size();
     while (position < text_.size() && !isAscii(text_[position])) {
-        const DecodedCodePoint decoded = decode(text_, position);
-        if (Table::startsSegment(decoded.codePoint))
+        const Step next = step(begin + position, end);
+        if (Table::startsSegment(next.codePoint))
             break;
-        position += decoded.length;
+        position = static_cast<std::size_t>(next.next - begin);
     }
     return position;
 }

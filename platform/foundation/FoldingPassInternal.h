@@ -38,6 +38,32 @@ private:
     std::size_t capacity_ = 0;
 };
 
+/// What the code points at the end of the result mean for the next one: the entry of the last starter, with the class
+/// of the last mark that was kept after it. One word, so that the inner loop keeps it in a register.
+class Tail {
+public:
+    void follow(Entry starter) noexcept { entry_ = starter; }
+    void markComposed() noexcept { entry_.setIsComposed(true); }
+
+    /// Marks are dropped here.
+    bool dropsMarks() const noexcept { return entry_.dropsMarks(); }
+    /// The last code point is a starter, or a mark like one.
+    bool endsWithStarter() const noexcept { return entry_.combiningClass() == 0; }
+    /// Whether a mark that is kept can simply be added: nothing is put in order or taken apart by it.
+    bool takes(Entry mark) const noexcept
+    {
+        return mark.combiningClass() == 0 || (mark.combiningClass() >= entry_.combiningClass() && !entry_.isComposed());
+    }
+    void add(Entry mark) noexcept
+    {
+        entry_.setCombiningClass(mark.combiningClass());
+        entry_.setIsComposed(entry_.isComposed() && mark.combiningClass() != 0);
+    }
+
+private:
+    Entry entry_; // without a base marks stay, and none came yet
+};
+
 /// One walk over one text that appends its folded form to a buffer: ASCII by blocks, other code points by the table,
 /// and only what really interacts (marks out of order, compositions at a distance) by `foldSegment`.
 class Pass {
@@ -46,11 +72,11 @@ public:
     void run();
 
 private:
+    bool isAsciiRunAhead() const noexcept;
     void foldAsciiRun();
-    void foldCodePoint();
-    void addStarter(const Entry& entry);
-    void addMark(const Entry& entry, char32_t codePoint);
-    void appendEntry(const Entry& entry);
+    bool foldByTable();
+    void foldInteraction();
+    void addComposing(Entry entry, char32_t codePoint);
     bool composeWithLast(char32_t codePoint);
     void foldSegmentAround(std::size_t position);
     std::size_t startOfSegmentFrom(std::size_t position) const;
@@ -60,16 +86,11 @@ private:
     const LowerAsciiRun lowerRun_;
     const std::size_t resultStart_;
     std::size_t position_ = 0; ///< in the text: what is folded so far
-    std::size_t next_ = 0;     ///< the end of the code point at hand
+    Tail tail_;
 
     // Where the last segment starts, in the text and in the result: from there on it can be folded again.
     std::size_t segmentStart_ = 0;
     std::size_t segmentResult_;
-
-    // What the last code points were.
-    bool dropsMarks_ = false;
-    bool isComposed_ = false;
-    std::uint8_t lastClass_ = 0; ///< of the last mark that was kept; 0 after a starter
 };
 
 } // namespace tarn::folding

@@ -24,34 +24,33 @@ icu::UnicodeString normalized(const icu::Normalizer2& normalizer, const icu::Uni
     return result;
 }
 
-icu::UnicodeString caseFolded(UChar32 codePoint)
-{
-    icu::UnicodeString text(codePoint);
-    return text.foldCase(U_FOLD_CASE_DEFAULT);
-}
-
 /// Folds every code point but the iota subscript, which is still a mark here.
 icu::UnicodeString withFoldedLetters(const icu::UnicodeString& text)
 {
     icu::UnicodeString result;
-    for (int32_t index = 0; index < text.length(); index = text.moveIndex32(index, 1)) {
-        const UChar32 codePoint = text.char32At(index);
-        if (codePoint == icuCodePoint(kIotaSubscript))
-            result.append(codePoint);
-        else
-            result.append(caseFolded(codePoint));
+    for (int32_t start = 0; start < text.length();) {
+        int32_t end = text.indexOf(static_cast<char16_t>(kIotaSubscript), start);
+        if (end < 0)
+            end = text.length();
+        result.append(text.tempSubStringBetween(start, end).foldCase(U_FOLD_CASE_DEFAULT));
+        if (end < text.length())
+            result.append(text.charAt(end));
+        start = end + 1;
     }
     return result;
 }
 
-icu::UnicodeString withoutMarksAndFormats(const icu::UnicodeString& text)
+icu::UnicodeString withoutMarksAndFormats(const icu::UnicodeString& text, bool isFolded)
 {
     icu::UnicodeString result;
     RemovalFilter filter;
     for (int32_t index = 0; index < text.length(); index = text.moveIndex32(index, 1)) {
         const UChar32 codePoint = text.char32At(index);
-        const icu::UnicodeString folded = caseFolded(codePoint);
-        const UChar32 last = folded.char32At(folded.length() - 1);
+        UChar32 last = codePoint;
+        if (!isFolded) {
+            const icu::UnicodeString folded = icu::UnicodeString(codePoint).foldCase(U_FOLD_CASE_DEFAULT);
+            last = folded.char32At(folded.length() - 1);
+        }
         if (filter.keeps(static_cast<char32_t>(codePoint), static_cast<char32_t>(last)))
             result.append(codePoint);
     }
@@ -82,7 +81,7 @@ std::string foldByICU(std::string_view text, ComparisonOptions options)
     if (options.caseInsensitive)
         result = withFoldedLetters(result);
     if (options.diacriticInsensitive)
-        result = withoutMarksAndFormats(result);
+        result = withoutMarksAndFormats(result, options.caseInsensitive);
     if (options.caseInsensitive)
         result.foldCase(U_FOLD_CASE_DEFAULT);
     result = normalized(canonicalComposition(), result);

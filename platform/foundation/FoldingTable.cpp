@@ -27,18 +27,18 @@ icu::UnicodeString decomposed(char32_t codePoint)
     return result;
 }
 
-Entry markEntry(char32_t codePoint)
+Entry markEntry(char32_t codePoint, std::string_view bytes)
 {
     const UChar32 mark = icuCodePoint(codePoint);
     const icu::UnicodeString itself(mark);
-    const bool staysAsItIs = decomposed(codePoint) == itself && icu::UnicodeString(itself).foldCase() == itself
-        && u_getIntPropertyValue(mark, UCHAR_NFC_QUICK_CHECK) != UNORM_NO;
-    Entry entry;
-    entry.kind = staysAsItIs ? EntryKind::Mark : EntryKind::ComplexMark;
-    entry.combiningClass = u_getCombiningClass(mark);
-    entry.combinesBackward = entry.combiningClass == 0
-        ? !hasBoundaryBefore(mark)
-        : u_getIntPropertyValue(mark, UCHAR_NFC_QUICK_CHECK) != UNORM_YES;
+    const auto quickCheck = u_getIntPropertyValue(mark, UCHAR_NFC_QUICK_CHECK);
+    const bool staysAsItIs
+        = decomposed(codePoint) == itself && icu::UnicodeString(itself).foldCase() == itself && quickCheck != UNORM_NO;
+    const std::uint8_t combiningClass = u_getCombiningClass(mark);
+
+    Entry entry(staysAsItIs ? EntryKind::Mark : EntryKind::ComplexMark, bytes);
+    entry.setCombiningClass(combiningClass);
+    entry.setCombinesBackward(combiningClass == 0 ? !hasBoundaryBefore(mark) : quickCheck != UNORM_YES);
     return entry;
 }
 
@@ -64,33 +64,26 @@ Entry starterEntry(char32_t codePoint, const std::string& result)
     canonicalDecomposition().normalize(icu::UnicodeString::fromUTF8(result), resultDecomposed, status);
     const bool isOneCodePoint = resultDecomposed.countChar32() == 1;
 
-    Entry entry;
     const bool combinesBackward = !hasBoundaryBefore(first) || !hasBoundaryBefore(firstOfResult);
     const bool startsWithMark = u_getCombiningClass(first) != 0 || isMark(static_cast<char32_t>(first));
     if (U_FAILURE(status) || startsWithMark || (combinesBackward && !isOneCodePoint))
-        return entry;
-    entry.kind = EntryKind::Starter;
-    entry.dropsMarks = dropsMarksAfter(folded);
-    entry.combinesBackward = combinesBackward;
-    entry.isComposed = !isOneCodePoint;
+        return {};
+    Entry entry(combinesBackward ? EntryKind::JoiningStarter : EntryKind::Starter, result);
+    entry.setDropsMarks(dropsMarksAfter(folded));
+    entry.setIsComposed(!isOneCodePoint);
     return entry;
 }
 
 Entry makeEntry(char32_t codePoint)
 {
     if (isRemovedFormat(codePoint))
-        return {.kind = EntryKind::Removed};
-
+        return {EntryKind::Removed, {}};
     std::string text;
     appendCodePoint(text, codePoint);
-    const bool isAMark = isMark(codePoint);
-    const std::string result = isAMark ? text : foldByReference(text);
-    Entry entry = isAMark ? markEntry(codePoint) : starterEntry(codePoint, result);
-    if (result.size() > entry.bytes.size() || result.empty())
-        return Entry();
-    entry.length = static_cast<std::uint8_t>(result.size());
-    std::copy(result.begin(), result.end(), entry.bytes.begin());
-    return entry;
+    if (isMark(codePoint))
+        return markEntry(codePoint, text);
+    const std::string result = foldByReference(text);
+    return result.empty() || result.size() > Entry::kMostBytes ? Entry() : starterEntry(codePoint, result);
 }
 
 } // namespace
