@@ -20,7 +20,8 @@ int main()
     if (!context.save(&error))
         return 3;
     const auto notes = OVNote::notesInManagedObjectContext(context, NSPredicate::predicateWithFormat("trashed == NO"));
-    std::cout << notes.size() << (notes.size() == 1 ? " note" : " notes") << ", the last one: " << note->title().value_or("")
+    std::cout << notes.size() << (notes.size() == 1 ? " note" : " notes")
+              << ", the last one: " << note->title().value_or("")
               << "\nmodel: " << OVManagedObjectModel::modelURL().value_or("").string() << '\n';
     return 0;
 }
