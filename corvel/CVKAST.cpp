@@ -10,6 +10,7 @@ CVKAST::CVKAST(std::shared_ptr<const Document> document) : document_(std::move(d
 
 CVKAST CVKAST::fromMarkdown(std::string_view text)
 {
+    corvel::requireParsableLength(text.size());
     return fromMarkdown(std::string(text));
 }
 

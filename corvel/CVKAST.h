@@ -39,6 +39,7 @@ public:
     /// Parses `text`. Any bytes are taken. Raises `NSInvalidArgumentException` for more than 2 GiB.
     static CVKAST fromMarkdown(std::string_view text);
     static CVKAST fromMarkdown(std::string&& text);
+    static CVKAST fromMarkdown(const char* text) { return fromMarkdown(std::string_view(text)); }
 
     /// The text of the document.
     const std::string& markdown() const noexcept;

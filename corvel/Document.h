@@ -110,6 +110,8 @@ struct CVKAST::Document {
 
 namespace corvel {
 
+/// Raises `NSInvalidArgumentException` for more than 2 GiB.
+void requireParsableLength(std::size_t bytes);
 /// Parses blocks and inlines. Raises `NSInvalidArgumentException` for more than 2 GiB.
 std::shared_ptr<const CVKAST::Document> parseDocument(std::string&& text);
 

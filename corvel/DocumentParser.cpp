@@ -10,7 +10,7 @@ namespace tarn::corvel {
 
 namespace {
 
-constexpr std::size_t kLongestText = 0x7FFFFFFF;
+constexpr std::size_t kLongestText = 0x80000000; // offsets have 32 bits
 constexpr std::size_t kTodoBoxLength = 3;
 
 template <typename T> void sortByStart(std::vector<T>& items, std::size_t from)
@@ -40,10 +40,15 @@ void parseInlines(CVKAST::Document& document)
 
 } // namespace
 
+void requireParsableLength(std::size_t bytes)
+{
+    if (bytes > kLongestText)
+        throw NSException(NSInvalidArgumentException, "A text of more than 2 GiB cannot be parsed.");
+}
+
 std::shared_ptr<const CVKAST::Document> parseDocument(std::string&& text)
 {
-    if (text.size() > kLongestText)
-        throw NSException(NSInvalidArgumentException, "A text of more than 2 GiB cannot be parsed.");
+    requireParsableLength(text.size());
     auto document = std::make_shared<CVKAST::Document>();
     document->text = std::move(text);
     BlockParser(*document).parse();
