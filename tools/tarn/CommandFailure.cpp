@@ -1,0 +1,72 @@
+#include "tools/tarn/CommandFailure.h"
+
+#include "platform/coredata/NSPersistentStore.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+#include <system_error>
+
+namespace tarn {
+
+namespace {
+
+struct StoreErrorMeaning {
+    long code;
+    ExitCode exitCode;
+    std::string_view advice;
+};
+
+constexpr std::array kMeanings{
+    StoreErrorMeaning{StoreErrorBusy, ExitCode::Locked, "try again when the other program is done"},
+    StoreErrorMeaning{StoreErrorIncompatible, ExitCode::NeedsMigration,
+        "the store was written by another version and has to be migrated first"},
+    StoreErrorMeaning{StoreErrorCorrupt, ExitCode::Corrupt, "run 'tarn doctor', and keep a copy of the file"},
+    StoreErrorMeaning{
+        StoreErrorNotAStore, ExitCode::Corrupt, "the file is no store; move it away or name another folder"},
+    StoreErrorMeaning{StoreErrorReadOnly, ExitCode::InputOutput, "check the permissions of the folder"},
+    StoreErrorMeaning{StoreErrorIO, ExitCode::InputOutput, "check the disk"},
+    StoreErrorMeaning{StoreErrorFull, ExitCode::InputOutput, "make room on the disk and try again"},
+    StoreErrorMeaning{StoreErrorCannotOpen, ExitCode::InputOutput, "check the folder and its permissions"},
+    StoreErrorMeaning{StoreErrorReplaced, ExitCode::InputOutput, "try again"},
+};
+
+const StoreErrorMeaning* meaningOf(const NSError& error) noexcept
+{
+    if (error.domain() != TarnStoreErrorDomain)
+        return nullptr;
+    const auto* found = std::ranges::find(kMeanings, error.code(), &StoreErrorMeaning::code);
+    return found == kMeanings.end() ? nullptr : found;
+}
+
+std::string singleLine(std::string text)
+{
+    std::ranges::replace(text, '\n', ' ');
+    return text;
+}
+
+} // namespace
+
+ExitCode exitCodeForStoreError(const NSError& error) noexcept
+{
+    const StoreErrorMeaning* meaning = meaningOf(error);
+    return meaning ? meaning->exitCode : ExitCode::Failed;
+}
+
+CommandFailure failureForStoreError(const std::string& what, const NSError& error)
+{
+    std::string message = what + ": ";
+    message += error.localizedDescription().empty() ? "Unknown Error" : singleLine(error.localizedDescription());
+    if (const StoreErrorMeaning* meaning = meaningOf(error)) {
+        message += "; ";
+        message += meaning->advice;
+    }
+    return {exitCodeForStoreError(error), message};
+}
+
+CommandFailure failureForSystemError(const std::string& what, int number)
+{
+    return {ExitCode::InputOutput, what + ": " + std::generic_category().message(number)};
+}
+
+} // namespace tarn

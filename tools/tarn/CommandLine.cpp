@@ -1,0 +1,177 @@
+#include "tools/tarn/CommandLine.h"
+
+#include "platform/foundation/NSException.h"
+#include "tools/tarn/CommandFailure.h"
+#include "tools/tarn/DisplayText.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <new>
+#include <utility>
+
+namespace tarn {
+
+namespace {
+
+constexpr char kShield = '\x01';
+
+/// CLI11 takes "[a,b]" for a list, "{}" for an empty one and "++" for the end of a command. A file may have such a name
+/// and a query such a word, so those arguments travel behind a shield.
+std::string shielded(const std::string& argument)
+{
+    const bool special = argument.starts_with('[') || argument.starts_with('{') || argument == "++" || argument.empty()
+        || argument.front() == kShield;
+    return special ? kShield + argument : argument;
+}
+
+std::string unshielded(const std::string& argument)
+{
+    return argument.starts_with(kShield) ? argument.substr(1) : argument;
+}
+
+std::string footerOf(const CommandDescription& description)
+{
+    std::string footer;
+    if (!description.explanation.empty())
+        footer += description.explanation + "\n\n";
+    footer += description.examples.size() == 1 ? "Example:" : "Examples:";
+    for (const std::string& example : description.examples)
+        footer += "\n  " + example;
+    return footer + "\n\nOptions of every command: --store DIR, --json (see 'tarn --help').";
+}
+
+std::string adviceFor(const CLI::ParseError& error)
+{
+    if (dynamic_cast<const CLI::ExtrasError*>(&error))
+        return "; what begins with \"-\" and is no option goes after \"--\"; see 'tarn --help'";
+    return "; see 'tarn --help'";
+}
+
+std::string singleLine(std::string text)
+{
+    while (!text.empty() && (text.back() == '\n' || text.back() == '.'))
+        text.pop_back();
+    std::ranges::replace(text, '\n', ' ');
+    return text;
+}
+
+} // namespace
+
+void tellOnStandardError(std::string_view message)
+{
+    const std::string line = "tarn: " + displayText(message) + "\n";
+    std::fwrite(line.data(), 1, line.size(), stderr);
+}
+
+CommandLine::CommandLine(Output& output)
+    : invocation_{.storeOption = std::nullopt, .json = false, .output = output},
+      application_("Notes in Markdown: import, write, list and search them.", "tarn")
+{
+    application_.set_version_flag("--version", "tarn " TARN_VERSION, "Print the version and end");
+    application_.set_help_flag("--help,-h", "Print this help and end");
+    application_
+        .add_option(
+            "--store", store_, "The folder of the store (default: $TARN_STORE, else tarn in the XDG data folder)")
+        ->option_text("DIR");
+    application_.add_flag("--json", invocation_.json, "Print one JSON document");
+    application_.require_subcommand(1);
+    application_.fallthrough();
+    application_.get_formatter()->column_width(34);
+    application_.footer(
+        "Examples:\n"
+        "  tarn import ~/Documents/notes\n"
+        "  tarn new '# Groceries'\n"
+        "  tarn search '#home garden'\n"
+        "  tarn COMMAND --help\n\n"
+        "NOTE is an identifier, the first 8 or more characters of one, or a title.\n"
+        "Exit codes: 0 done, 1 nothing found or failed, 2 usage, 3 locked, 4 needs migration, 5 corrupt,\n"
+        "6 input or output.");
+}
+
+CLI::App& CommandLine::addCommand(const CommandDescription& description, Action action)
+{
+    CLI::App& command = *application_.add_subcommand(description.name, description.summary);
+    command.footer(footerOf(description));
+    command.callback([this, action = std::move(action)] { action_ = action; });
+    return command;
+}
+
+CLI::Option* CommandLine::addArguments(
+    CLI::App& command, const std::string& name, std::vector<std::string>& values, const std::string& description)
+{
+    return addOptionList(command, name, values, description)
+        ->expected(1, CLI::detail::expected_max_vector_size)
+        ->allow_extra_args()
+        ->option_text(" ");
+}
+
+CLI::Option* CommandLine::addOptionList(
+    CLI::App& command, const std::string& name, std::vector<std::string>& values, const std::string& description)
+{
+    const auto take = [&values](const CLI::results_t& results) {
+        values.clear();
+        std::ranges::transform(results, std::back_inserter(values), unshielded);
+        return true;
+    };
+    return command.add_option(name, take, description)
+        ->type_size(1)
+        ->expected(1)
+        ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+}
+
+CLI::Option* CommandLine::addArgument(
+    CLI::App& command, const std::string& name, std::optional<std::string>& value, const std::string& description)
+{
+    const auto take = [&value](const CLI::results_t& results) {
+        value = unshielded(results.at(0));
+        return true;
+    };
+    return command.add_option(name, take, description)->type_size(1)->expected(1)->option_text(" ");
+}
+
+ExitCode CommandLine::run(const std::vector<std::string>& arguments)
+{
+    try {
+        const ExitCode code = parseAndRun(arguments);
+        invocation_.output.flush();
+        return code;
+    } catch (const OutputClosed&) {
+        return ExitCode::InputOutput;
+    } catch (const CommandFailure& failure) {
+        tellOnStandardError(failure.what());
+        return failure.code();
+    } catch (const NSException& exception) {
+        tellOnStandardError(exception.reason());
+        return ExitCode::Failed;
+    } catch (const std::bad_alloc&) {
+        tellOnStandardError("out of memory");
+        return ExitCode::Failed;
+    } catch (const std::exception& exception) {
+        tellOnStandardError(exception.what());
+        return ExitCode::Failed;
+    }
+}
+
+ExitCode CommandLine::parseAndRun(const std::vector<std::string>& arguments)
+{
+    std::vector<std::string> reversed;
+    std::ranges::transform(arguments, std::back_inserter(reversed), shielded);
+    std::ranges::reverse(reversed);
+    try {
+        application_.parse(std::move(reversed));
+    } catch (const CLI::CallForHelp&) {
+        const auto named = application_.get_subcommands();
+        invocation_.output.write(named.empty() ? application_.help() : named.front()->help());
+        return ExitCode::Done;
+    } catch (const CLI::CallForVersion& version) {
+        invocation_.output.writeLine(version.what());
+        return ExitCode::Done;
+    } catch (const CLI::ParseError& error) {
+        throw CommandFailure(ExitCode::Usage, singleLine(error.what()) + adviceFor(error));
+    }
+    if (application_.count("--store") > 0)
+        invocation_.storeOption = unshielded(store_);
+    return action_(invocation_);
+}
+
+} // namespace tarn

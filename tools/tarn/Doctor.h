@@ -1,0 +1,53 @@
+#pragma once
+
+#include "tools/tarn/StoreSession.h"
+
+#include <array>
+#include <cstddef>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tarn {
+
+/// One question about a store and what was found amiss.
+struct DoctorCheck {
+    std::string name;
+    std::size_t found = 0;             ///< how many problems
+    std::vector<std::string> problems; ///< the first of them, for people
+    bool ok() const noexcept { return found == 0; }
+};
+
+/// Looks at a whole store: is the file sound, and do the notes' fields say what their texts say?
+///
+/// Names of checks: `integrity` (the file), `title`, `subtitle`, `todos`, `flags`, `noteTags` (fields of each note
+/// against a fresh parse of its text), `tags` (tags with notes against the hashtags of all texts). Protected notes are
+/// left out where their text is needed.
+class Doctor {
+public:
+    explicit Doctor(StoreSession& session);
+
+    /// Runs all checks. Raises `CommandFailure` when notes cannot be read.
+    std::vector<DoctorCheck> examine();
+    /// Whether the file itself is damaged; after `examine`.
+    bool fileIsDamaged() const noexcept;
+    /// Derives the notes whose fields were found wrong anew. Their modification dates stay. Returns how many.
+    std::size_t repair();
+
+private:
+    enum Check : std::size_t { Integrity, Title, Subtitle, Todos, Flags, NoteTags, Tags, CheckCount };
+
+    void examineFile();
+    void examineNotes();
+    void examineNote(const OVNote& note);
+    void examineTags();
+    void report(Check check, const std::string& problem);
+
+    StoreSession& session_;
+    std::array<DoctorCheck, CheckCount> checks_;
+    std::set<std::string> keysInTexts_;
+    std::vector<std::string> notesToRepair_; ///< unique identifiers
+};
+
+} // namespace tarn

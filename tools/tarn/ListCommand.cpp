@@ -1,0 +1,74 @@
+#include "corvel/CVKHashtag.h"
+#include "tools/tarn/CommandFailure.h"
+#include "tools/tarn/CommandLine.h"
+#include "tools/tarn/Commands.h"
+#include "tools/tarn/NoteFilter.h"
+#include "tools/tarn/NoteJSON.h"
+#include "tools/tarn/NoteList.h"
+#include "tools/tarn/StoreSession.h"
+
+#include <CLI/Validators.hpp>
+
+#include <memory>
+
+namespace tarn {
+
+namespace {
+
+struct ListOptions {
+    std::string filter = "active";
+    std::string tag;
+    std::size_t limit = 0;
+};
+
+NSPredicate predicateOfTag(const std::string& name)
+{
+    const std::string title = CVKHashtag::sanitizeTagName(name);
+    if (title.empty())
+        throw CommandFailure(ExitCode::Usage, "\"" + name + "\" cannot be the name of a tag");
+    return NSPredicate::predicateWithFormat("SUBQUERY(tags, $tag, $tag.title ==[cd] %@).@count > 0", title);
+}
+
+ExitCode list(const Invocation& invocation, const ListOptions& options)
+{
+    const auto tagPredicate = options.tag.empty() ? std::nullopt : std::optional(predicateOfTag(options.tag));
+    StoreSession session(invocation, StoreSession::Access::Read);
+    const auto notes = session.notes(conjunction(tagPredicate, predicateOfFilter(options.filter)), options.limit);
+    if (invocation.json) {
+        writeNoteList(invocation.output, notes.size(), notes, JSON::object());
+    } else {
+        for (const OVNote* note : notes)
+            writeNoteLine(invocation.output, *note);
+    }
+    if (!notes.empty())
+        return ExitCode::Done;
+    if (session.exists())
+        tellOnStandardError("no notes found; 'tarn list --filter all' shows every note");
+    return ExitCode::Failed;
+}
+
+} // namespace
+
+void addListCommand(CommandLine& commandLine)
+{
+    const auto options = std::make_shared<ListOptions>();
+    CLI::App& command = commandLine.addCommand(
+        {.name = "list",
+            .summary = "List notes: pinned ones first, then the latest modified",
+            .explanation
+            = "A line holds the beginning of the identifier, the date of the last change, marks and the title.\n"
+              "Marks: * pinned, x trashed, a archived, r read-only, e encrypted, ! in conflict.",
+            .examples = {"tarn list --limit 20", "tarn list --filter trashed", "tarn --json list --tag home/kitchen"}},
+        [options](const Invocation& invocation) { return list(invocation, *options); });
+    command
+        .add_option("--filter", options->filter,
+            "Which notes: active (the default), trashed, archived, pinned, conflicted, encrypted, all")
+        ->check(CLI::IsMember(namesOfFilters()))
+        ->option_text("NAME");
+    command.add_option("--tag", options->tag, "Only notes with this tag, or one below it")->option_text("NAME");
+    command.add_option("--limit", options->limit, "At most so many notes")
+        ->check(CLI::PositiveNumber)
+        ->option_text("N");
+}
+
+} // namespace tarn

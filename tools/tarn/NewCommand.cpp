@@ -1,0 +1,39 @@
+#include "tools/tarn/CommandLine.h"
+#include "tools/tarn/Commands.h"
+#include "tools/tarn/NoteJSON.h"
+#include "tools/tarn/NoteList.h"
+#include "tools/tarn/StoreSession.h"
+#include "tools/tarn/TextArgument.h"
+
+#include <memory>
+
+namespace tarn {
+
+void addNewCommand(CommandLine& commandLine)
+{
+    const auto text = std::make_shared<std::optional<std::string>>();
+    const auto action = [text](const Invocation& invocation) {
+        // Read before the store is locked: whoever writes into the pipe may take their time.
+        const std::string markdown = textOfArgument(*text);
+        StoreSession session(invocation, StoreSession::Access::Write);
+        const OVNote& note = *OVNote::noteWithText(markdown, session.context());
+        session.save();
+        if (invocation.json)
+            writeJSON(invocation.output, jsonOfNote(note));
+        else
+            writeNoteLine(invocation.output, note);
+        return ExitCode::Done;
+    };
+    CLI::App& command = commandLine.addCommand(
+        {.name = "new",
+            .summary = "Write a note",
+            .explanation
+            = "The text is kept to the last byte; nothing is trimmed. A text that begins with \"- \" is a text;\n"
+              "one that begins with \"-\" and a letter goes after \"--\".",
+            .examples
+            = {"tarn new '# Groceries'", "tarn new '- [ ] pears'", "pandoc -t markdown page.html | tarn new"}},
+        action);
+    CommandLine::addArgument(command, "TEXT", *text, "The text; standard input when there is none, or \"-\"");
+}
+
+} // namespace tarn

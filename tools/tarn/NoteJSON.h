@@ -1,0 +1,22 @@
+#pragma once
+
+#include "model/OVNote.h"
+#include "tools/tarn/JSON.h"
+
+#include <span>
+
+namespace tarn {
+
+/// The record as scripts read it: attribute names as keys, dates in ISO 8601, the clock as "(device:count, ...)"; what
+/// a note does not have is null, but a conflict's identifier is only there when there is one.
+JSON jsonOfNote(const OVNote& note);
+/// The same with the key `text`; null for a protected text.
+JSON jsonOfNoteWithText(const OVNote& note);
+/// `{"notes": [...]}`
+JSON jsonOfNotes(std::span<OVNote* const> notes);
+
+/// Writes `{"count": ..., "notes": [...]}` and more keys behind, note by note: a long list never stands in memory
+/// whole.
+void writeNoteList(Output& output, std::size_t count, std::span<OVNote* const> notes, const JSON& moreKeys);
+
+} // namespace tarn

@@ -1,0 +1,75 @@
+#include "tools/tarn/NoteList.h"
+
+#include "tools/tarn/DisplayText.h"
+
+#include <array>
+#include <ctime>
+
+namespace tarn {
+
+namespace {
+
+constexpr std::size_t kIdentifierColumns = 8;
+constexpr std::size_t kMarkColumns = 3;
+constexpr std::size_t kShortestSubtitle = 10;
+
+std::string marksOf(const OVNote& note)
+{
+    std::string marks;
+    if (note.pinnedValue())
+        marks += '*';
+    if (note.trashedValue())
+        marks += 'x';
+    if (note.archivedValue())
+        marks += 'a';
+    if (note.lockedValue())
+        marks += 'r';
+    if (note.encryptedValue())
+        marks += 'e';
+    if (note.conflictUniqueIdentifier())
+        marks += '!';
+    return marks;
+}
+
+} // namespace
+
+std::string displayDate(NSDate date)
+{
+    const auto seconds = std::chrono::floor<std::chrono::seconds>(date);
+    const std::time_t time = std::chrono::system_clock::to_time_t(seconds);
+    std::tm local{};
+    std::array<char, 32> text{};
+    if (!::localtime_r(&time, &local) || std::strftime(text.data(), text.size(), "%Y-%m-%d %H:%M", &local) == 0)
+        return "?";
+    return text.data();
+}
+
+void writeNoteLine(Output& output, const OVNote& note)
+{
+    const std::string identifier = displayText(note.uniqueIdentifier().value_or("").substr(0, kIdentifierColumns));
+    const std::string date = note.modificationDate() ? displayDate(*note.modificationDate()) : std::string(16, ' ');
+    std::string title = displayText(note.title().value_or(""));
+    std::string subtitle = displayText(note.subtitle().value_or(""));
+    const bool untitled = title.empty();
+    if (untitled)
+        title = note.encryptedValue() ? "(protected)" : "(untitled)";
+
+    if (const auto width = output.width()) {
+        const std::size_t used = kIdentifierColumns + date.size() + kMarkColumns + 5;
+        const std::size_t room = *width > used + 10 ? *width - used : 10;
+        title = textFittedToWidth(title, room);
+        const std::size_t left = room - displayWidth(title);
+        subtitle = left > kShortestSubtitle + 2 ? textFittedToWidth(subtitle, left - 2) : std::string();
+    } else {
+        subtitle.clear();
+    }
+
+    std::string line = output.styled(textPaddedToWidth(identifier, kIdentifierColumns), TextStyle::Faint) + "  " + date
+        + "  " + textPaddedToWidth(marksOf(note), kMarkColumns) + " "
+        + output.styled(title, untitled ? TextStyle::Faint : TextStyle::Strong);
+    if (!subtitle.empty())
+        line += "  " + output.styled(subtitle, TextStyle::Faint);
+    output.writeLine(line);
+}
+
+} // namespace tarn

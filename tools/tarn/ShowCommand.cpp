@@ -1,0 +1,48 @@
+#include "tools/tarn/CommandFailure.h"
+#include "tools/tarn/CommandLine.h"
+#include "tools/tarn/Commands.h"
+#include "tools/tarn/NoteArgument.h"
+#include "tools/tarn/NoteJSON.h"
+
+#include <memory>
+
+namespace tarn {
+
+namespace {
+
+void writeText(Output& output, const OVNote& note)
+{
+    const std::optional<std::string> text = note.text();
+    if (!text && note.encryptedValue())
+        throw CommandFailure(ExitCode::Failed,
+            "the note " + note.uniqueIdentifier().value_or("") + " is protected and cannot be read here");
+    output.write(text.value_or(""));
+    // A prompt on the last line of the text is ugly; a pipe gets the bytes and nothing else.
+    if (output.isTerminal() && text && !text->empty() && !text->ends_with('\n'))
+        output.write("\n");
+}
+
+} // namespace
+
+void addShowCommand(CommandLine& commandLine)
+{
+    const auto argument = std::make_shared<std::optional<std::string>>();
+    const auto action = [argument](const Invocation& invocation) {
+        StoreSession session(invocation, StoreSession::Access::Read);
+        const OVNote& note = noteForArgument(argument->value_or(""), session);
+        if (invocation.json)
+            writeJSON(invocation.output, jsonOfNoteWithText(note));
+        else
+            writeText(invocation.output, note);
+        return ExitCode::Done;
+    };
+    CLI::App& command
+        = commandLine.addCommand({.name = "show",
+                                     .summary = "Print the text of a note",
+                                     .explanation = "With --json the whole record, with the text as a key.",
+                                     .examples = {"tarn show Groceries", "tarn --json show 3F2504E0"}},
+            action);
+    CommandLine::addArgument(command, "NOTE", *argument, "Identifier, beginning of one, or title")->required();
+}
+
+} // namespace tarn

@@ -1,0 +1,161 @@
+#include "tools/tarn/StoreSession.h"
+
+#include "model/ManagedObjectModel.h"
+#include "platform/foundation/Environment.h"
+#include "platform/foundation/Queue.h"
+#include "tools/tarn/CommandFailure.h"
+
+#include <cerrno>
+#include <sys/stat.h>
+#include <system_error>
+
+namespace tarn {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+template <typename Record>
+std::vector<Record*> recordsOf(NSManagedObjectContext& context, const NSFetchRequest& request)
+{
+    NSError error;
+    const auto fetched = context.fetch(request, &error);
+    if (!fetched)
+        throw failureForStoreError("cannot read the store", error);
+    std::vector<Record*> records;
+    records.reserve(fetched->size());
+    for (NSManagedObject* record : *fetched)
+        records.push_back(static_cast<Record*>(record));
+    return records;
+}
+
+/// Makes the folder and those above it; notes are private, so nobody else looks in.
+void createPrivateFolders(const fs::path& folder)
+{
+    fs::path path;
+    for (const fs::path& part : folder) {
+        path /= part;
+        if (::mkdir(path.c_str(), 0700) != 0 && errno != EEXIST && errno != EROFS && errno != EACCES)
+            throw failureForSystemError("cannot make the folder " + path.string(), errno);
+    }
+    std::error_code error;
+    if (!fs::is_directory(folder, error))
+        throw failureForSystemError("cannot make the folder " + folder.string(), error ? error.value() : ENOTDIR);
+}
+
+} // namespace
+
+fs::path storeFolderOf(const Invocation& invocation)
+{
+    if (invocation.storeOption) {
+        if (invocation.storeOption->empty())
+            throw CommandFailure(ExitCode::Usage, "--store needs the name of a folder");
+        return *invocation.storeOption;
+    }
+    const Environment& environment = Environment::current();
+    if (const auto folder = environment.variable("TARN_STORE"); folder && !folder->empty())
+        return *folder;
+    // By the rules of XDG a relative folder counts as none.
+    const fs::path data = environment.variable("XDG_DATA_HOME").value_or("");
+    return (data.is_absolute() ? data : environment.homeDirectory() / ".local" / "share") / "tarn";
+}
+
+fs::path databaseInStoreFolder(const fs::path& folder)
+{
+    return folder / "Application Data" / "database.sqlite";
+}
+
+std::vector<NSSortDescriptor> standardNoteOrder()
+{
+    return {{.key = "pinned", .ascending = false}, {.key = "modificationDate", .ascending = false}};
+}
+
+StoreSession::StoreSession(const Invocation& invocation, Access access)
+    : folder_(storeFolderOf(invocation)), database_(databaseInStoreFolder(folder_))
+{
+    if (access == Access::Write) {
+        createPrivateFolders(fs::absolute(database_.parent_path()));
+        lock_ = std::make_unique<StoreLock>(database_.parent_path() / "tarn.lock", StoreLock::limitOfEnvironment());
+    } else {
+        std::error_code error;
+        exists_ = fs::exists(database_, error);
+        if (error)
+            throw failureForSystemError(database_.string(), error.value());
+        if (!exists_)
+            tellOnStandardError(
+                "there is no store in " + folder_.string() + " yet; 'tarn new' and 'tarn import' make one");
+    }
+    open(access);
+}
+
+StoreSession::~StoreSession() = default;
+
+void StoreSession::open(Access access)
+{
+    NSError error;
+    const std::shared_ptr<const NSManagedObjectModel> model = OVManagedObjectModel::current(&error);
+    if (!model)
+        throw CommandFailure(ExitCode::Failed,
+            "cannot read the model of the store: " + error.localizedDescription()
+                + "; set TARN_RESOURCES to the folder of the resources");
+    coordinator_ = std::make_shared<NSPersistentStoreCoordinator>(model);
+    const StoreOptions options{.createIfMissing = access == Access::Write};
+    store_ = coordinator_->addPersistentStoreWithType(
+        exists_ ? StoreType::SQLite : StoreType::InMemory, database_, options, &error);
+    if (!store_)
+        throw failureForStoreError(database_.string(), error);
+    MainQueue::main(); // this thread is its owner
+    context_ = std::make_unique<NSManagedObjectContext>(NSManagedObjectContext::ConcurrencyType::MainQueue);
+    context_->setPersistentStoreCoordinator(coordinator_);
+}
+
+std::vector<OVNote*> StoreSession::notes(const std::optional<NSPredicate>& predicate, std::size_t limit)
+{
+    NSFetchRequest request(OVNote::entityInManagedObjectContext(*context_));
+    request.predicate = predicate;
+    request.sortDescriptors = standardNoteOrder();
+    request.fetchLimit = limit;
+    return recordsOf<OVNote>(*context_, request);
+}
+
+std::vector<OVNote*> StoreSession::notesPage(std::size_t offset, std::size_t limit)
+{
+    NSFetchRequest request(OVNote::entityInManagedObjectContext(*context_));
+    request.fetchOffset = offset;
+    request.fetchLimit = limit;
+    return recordsOf<OVNote>(*context_, request);
+}
+
+std::size_t StoreSession::countNotes(const std::optional<NSPredicate>& predicate)
+{
+    return countOfEntity(OVNote::entityInManagedObjectContext(*context_), predicate);
+}
+
+std::vector<OVNoteTag*> StoreSession::tags(const std::optional<NSPredicate>& predicate)
+{
+    NSFetchRequest request(OVNoteTag::entityInManagedObjectContext(*context_));
+    request.predicate = predicate;
+    return recordsOf<OVNoteTag>(*context_, request);
+}
+
+std::size_t StoreSession::countOfEntity(const NSEntityDescription& entity, const std::optional<NSPredicate>& predicate)
+{
+    NSFetchRequest request(entity);
+    request.predicate = predicate;
+    NSError error;
+    const std::optional<std::size_t> count = context_->count(request, &error);
+    if (!count)
+        throw failureForStoreError("cannot read the store", error);
+    return *count;
+}
+
+void StoreSession::save()
+{
+    NSError error;
+    if (context_->save(&error))
+        return;
+    context_->rollback();
+    throw failureForStoreError("nothing was saved to " + database_.string(), error);
+}
+
+} // namespace tarn

@@ -1,0 +1,75 @@
+#pragma once
+
+#include "model/OVNote.h"
+#include "model/OVNoteTag.h"
+#include "platform/coredata/NSManagedObjectContext.h"
+#include "platform/coredata/NSPersistentStoreCoordinator.h"
+#include "tools/tarn/CommandLine.h"
+#include "tools/tarn/StoreLock.h"
+
+#include <cstddef>
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace tarn {
+
+/// The folder of the store: --store, else $TARN_STORE, else "tarn" in the XDG data folder.
+std::filesystem::path storeFolderOf(const Invocation& invocation);
+/// The database in a store's folder.
+std::filesystem::path databaseInStoreFolder(const std::filesystem::path& folder);
+
+/// One command's way to the store: opened (and made, by a command that writes) by the constructor, closed by the
+/// destructor.
+///
+/// A reading command of a store that is not there yet finds no notes, and makes nothing. A writing one holds the
+/// store's lock as long as the session lives. Everything that fails raises `CommandFailure`, so that an empty answer is
+/// an answer. Main thread.
+///
+///     StoreSession session(invocation, StoreSession::Access::Write);
+///     OVNote::noteWithText(text, session.context());
+///     session.save();
+class StoreSession {
+public:
+    enum class Access { Read, Write };
+
+    StoreSession(const Invocation& invocation, Access access);
+    ~StoreSession();
+    StoreSession(const StoreSession&) = delete;
+    StoreSession& operator=(const StoreSession&) = delete;
+
+    NSManagedObjectContext& context() noexcept { return *context_; }
+    NSPersistentStore& store() noexcept { return *store_; }
+    const std::filesystem::path& folder() const noexcept { return folder_; }
+    /// Whether there is a database on disk; NO for a reading command on a folder without a store.
+    bool exists() const noexcept { return exists_; }
+
+    /// Notes in the standard order: pinned first, then the latest modified. `limit` 0: all.
+    std::vector<OVNote*> notes(const std::optional<NSPredicate>& predicate, std::size_t limit = 0);
+    /// A page of all notes in the order of their keys, for walks over everything.
+    std::vector<OVNote*> notesPage(std::size_t offset, std::size_t limit);
+    std::size_t countNotes(const std::optional<NSPredicate>& predicate);
+    /// Tags in no particular order.
+    std::vector<OVNoteTag*> tags(const std::optional<NSPredicate>& predicate);
+    std::size_t countOfEntity(const NSEntityDescription& entity, const std::optional<NSPredicate>& predicate);
+
+    /// Writes all changes of the context. What cannot be written is rolled back.
+    void save();
+
+private:
+    void open(Access access);
+
+    std::filesystem::path folder_;
+    std::filesystem::path database_;
+    bool exists_ = true;
+    std::unique_ptr<StoreLock> lock_; ///< declared before the store: given back after it was closed
+    std::shared_ptr<NSPersistentStoreCoordinator> coordinator_;
+    NSPersistentStore* store_ = nullptr;
+    std::unique_ptr<NSManagedObjectContext> context_;
+};
+
+/// The standard order of notes.
+std::vector<NSSortDescriptor> standardNoteOrder();
+
+} // namespace tarn
