@@ -25,8 +25,8 @@ constexpr std::size_t batchSize = 500;
 
 struct Store {
     explicit Store(const std::filesystem::path& file)
-        : coordinator(std::make_shared<NSPersistentStoreCoordinator>(OVManagedObjectModel::current()))
-        , context(NSManagedObjectContext::ConcurrencyType::MainQueue)
+        : coordinator(std::make_shared<NSPersistentStoreCoordinator>(OVManagedObjectModel::current())),
+          context(NSManagedObjectContext::ConcurrencyType::MainQueue)
     {
         NSError error;
         if (!coordinator->addPersistentStoreWithType(StoreType::SQLite, file, {}, &error)) {
@@ -54,7 +54,8 @@ double secondsSince(std::chrono::steady_clock::time_point begin)
 
 void report(const char* name, double seconds, const char* yardstick, double unit, double target)
 {
-    fmt::print("{:<34} {:>12.3f} ms  {:>8.2f} x {:<8} target <= {:g}\n", name, seconds * 1000, seconds / unit, yardstick, target);
+    fmt::print("{:<34} {:>12.3f} ms  {:>8.2f} x {:<8} target <= {:g}\n", name, seconds * 1000, seconds / unit,
+        yardstick, target);
 }
 
 double import(const std::filesystem::path& file, const std::vector<std::string>& texts)
@@ -120,30 +121,34 @@ void measureLookups(const std::filesystem::path& file, std::size_t count, const 
     const std::size_t before = residentMemory();
     Store whole(file);
     const auto everything = whole.context.executeFetchRequest(standardOrder(whole.context));
-    const double bytes = static_cast<double>(residentMemory() - before) / static_cast<double>(std::max<std::size_t>(1, everything.size()));
+    const double bytes = static_cast<double>(residentMemory() - before)
+        / static_cast<double>(std::max<std::size_t>(1, everything.size()));
     std::size_t raw = 0;
     for (NSManagedObject* record : everything)
         for (const NSAttributeDescription* attribute : record->entity().attributes()) {
             if (attribute->isLarge() || record->storedValueForKey(attribute->name()).isNil())
                 continue;
             const Value value = record->storedValueForKey(attribute->name());
-            raw += value.kind() == Value::Kind::String ? value.asString().size() : value.kind() == Value::Kind::Bool ? 1 : 8;
+            raw += value.kind() == Value::Kind::String ? value.asString().size()
+                : value.kind() == Value::Kind::Bool    ? 1
+                                                       : 8;
         }
     const double rawBytes = static_cast<double>(raw) / static_cast<double>(std::max<std::size_t>(1, everything.size()));
-    fmt::print("{:<34} {:>12.0f} bytes, {:.0f} over the raw values ({} fetched)  target <= 400\n", "memory of a fetched note", bytes,
-        bytes - rawBytes, everything.size());
+    fmt::print("{:<34} {:>12.0f} bytes, {:.0f} over the raw values ({} fetched)  target <= 400\n",
+        "memory of a fetched note", bytes, bytes - rawBytes, everything.size());
     static_cast<void>(count);
 }
 
-Yardsticks yardsticksFor(const std::filesystem::path& folder, const std::filesystem::path& file, const std::vector<std::string>& texts)
+Yardsticks yardsticksFor(
+    const std::filesystem::path& folder, const std::filesystem::path& file, const std::vector<std::string>& texts)
 {
     Yardsticks yardsticks;
     yardsticks.write = secondsToWrite(folder, texts);
     yardsticks.commit = secondsToCommit(folder);
     yardsticks.read = secondsToReadTexts(file);
     yardsticks.point = secondsForPointLookup(file);
-    fmt::print("L_write {:.1f} ms, L_read {:.1f} ms, L_commit {:.3f} ms, L_point {:.2f} us\n", yardsticks.write * 1000, yardsticks.read * 1000,
-        yardsticks.commit * 1000, yardsticks.point * 1e6);
+    fmt::print("L_write {:.1f} ms, L_read {:.1f} ms, L_commit {:.3f} ms, L_point {:.2f} us\n", yardsticks.write * 1000,
+        yardsticks.read * 1000, yardsticks.commit * 1000, yardsticks.point * 1e6);
     return yardsticks;
 }
 
@@ -175,6 +180,7 @@ int main(int argc, char** argv)
     std::filesystem::create_directories(folder);
     const double few = measure(folder, std::max<std::size_t>(most / 10, 1), corpus);
     const double many = measure(folder, most, corpus);
-    fmt::print("\nimport time for each note, {} against {} notes: {:.2f} (linear is 1, target <= 1.2)\n", most, most / 10, many / few);
+    fmt::print("\nimport time for each note, {} against {} notes: {:.2f} (linear is 1, target <= 1.2)\n", most,
+        most / 10, many / few);
     std::filesystem::remove_all(folder);
 }

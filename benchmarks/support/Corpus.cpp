@@ -15,21 +15,22 @@ namespace {
 
 using Words = std::vector<std::string_view>;
 
-const Words english{"meeting", "garden", "report", "coffee", "deadline", "budget", "the", "of", "and", "with", "from", "idea", "train",
-    "window", "letter", "quarter", "review", "draft", "paper", "mountain", "river", "design", "table", "function", "release", "customer",
-    "kitchen", "music", "book", "question", "answer", "weekend", "ticket", "server", "morning", "evening", "project", "plan"};
-const Words german{"Besprechung", "Garten", "Übersicht", "Kaffee", "und", "mit", "für", "Größe", "Straße", "Entwurf", "Küche", "Zug",
-    "Frühstück", "Änderung", "Woche", "Projekt", "Lösung", "Brief"};
-const Words french{"réunion", "jardin", "été", "café", "avec", "pour", "déjà", "projet", "semaine", "lettre", "cuisine", "idée", "où"};
-const Words russian{"встреча", "сад", "отчёт", "кофе", "и", "с", "для", "проект", "неделя", "письмо", "кухня", "вопрос", "ответ"};
-const Words japanese{"会議", "予定", "庭", "報告書", "コーヒー", "計画", "今週", "手紙", "台所", "質問", "答え", "山", "川"};
+const Words english{"meeting", "garden", "report", "coffee", "deadline", "budget", "the", "of", "and", "with", "from",
+    "idea", "train", "window", "letter", "quarter", "review", "draft", "paper", "mountain", "river", "design", "table",
+    "function", "release", "customer", "kitchen", "music", "book", "question", "answer", "weekend", "ticket", "server",
+    "morning", "evening", "project", "plan"};
+const Words german{"Besprechung", "Garten", "Übersicht", "Kaffee", "und", "mit", "für", "Größe", "Straße", "Entwurf",
+    "Küche", "Zug", "Frühstück", "Änderung", "Woche", "Projekt", "Lösung", "Brief"};
+const Words french{
+    "réunion", "jardin", "été", "café", "avec", "pour", "déjà", "projet", "semaine", "lettre", "cuisine", "idée", "où"};
+const Words russian{
+    "встреча", "сад", "отчёт", "кофе", "и", "с", "для", "проект", "неделя", "письмо", "кухня", "вопрос", "ответ"};
+const Words japanese{
+    "会議", "予定", "庭", "報告書", "コーヒー", "計画", "今週", "手紙", "台所", "質問", "答え", "山", "川"};
 
 class Author {
 public:
-    explicit Author(unsigned seed)
-        : random_(seed)
-    {
-    }
+    explicit Author(unsigned seed) : random_(seed) { }
     std::size_t below(std::size_t bound) { return random_() % bound; }
     std::string_view word(const Words& words) { return words[below(words.size())]; }
     const Words& language()
@@ -82,14 +83,16 @@ std::string noteText(std::size_t number)
             text += "- [ ] " + sentence(author, words, 5) + "\n- [x] " + sentence(author, words, 4) + "\n\n";
             break;
         case 1:
-            text += "```\nlet " + std::string(author.word(english)) + " = " + std::to_string(author.below(1000)) + ";\n```\n\n";
+            text += "```\nlet " + std::string(author.word(english)) + " = " + std::to_string(author.below(1000))
+                + ";\n```\n\n";
             break;
         case 2:
             text += "## " + sentence(author, words, 3) + "\n\n";
             [[fallthrough]];
         default:
             for (std::size_t count = 1 + author.below(4); count > 0; --count)
-                text += sentence(author, words, 8 + author.below(16)) + (author.below(6) ? " " : " **" + std::string(author.word(words)) + "** ");
+                text += sentence(author, words, 8 + author.below(16))
+                    + (author.below(6) ? " " : " **" + std::string(author.word(words)) + "** ");
             text += "\n\n";
         }
     }
@@ -126,7 +129,8 @@ std::vector<std::string> notesFromFolder(const std::string& folder, std::size_t 
 {
     std::vector<std::string> pieces;
     std::vector<std::filesystem::path> files;
-    for (const auto& entry : std::filesystem::recursive_directory_iterator(folder, std::filesystem::directory_options::skip_permission_denied))
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(
+             folder, std::filesystem::directory_options::skip_permission_denied))
         if (entry.is_regular_file() && entry.path().extension() == ".md")
             files.push_back(entry.path());
     std::sort(files.begin(), files.end());
@@ -139,7 +143,8 @@ std::vector<std::string> notesFromFolder(const std::string& folder, std::size_t 
     if (pieces.empty())
         return notes;
     for (std::size_t number = 0; number < count; ++number)
-        notes.push_back("# Note " + std::to_string(number) + "\n\n" + pieces[number % pieces.size()] + "\n\n#" + tagName(number * 7919 % 2000) + "\n");
+        notes.push_back("# Note " + std::to_string(number) + "\n\n" + pieces[number % pieces.size()] + "\n\n#"
+            + tagName(number * 7919 % 2000) + "\n");
     return notes;
 }
 

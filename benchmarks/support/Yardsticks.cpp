@@ -14,8 +14,7 @@ namespace {
 
 class Descriptor {
 public:
-    Descriptor(const std::filesystem::path& file, int flags)
-        : number_(::open(file.c_str(), flags, 0600))
+    Descriptor(const std::filesystem::path& file, int flags) : number_(::open(file.c_str(), flags, 0600))
     {
         if (number_ < 0)
             throw std::runtime_error("cannot open " + file.string());
@@ -41,8 +40,11 @@ public:
         if (sqlite3_open_v2(file.c_str(), &handle_, SQLITE_OPEN_READONLY, nullptr) != SQLITE_OK)
             throw std::runtime_error("cannot open " + file.string());
         // Takes the length of a text without converting it, so that the pages are read and nothing else is done.
-        sqlite3_create_function(handle_, "byte_length", 1, SQLITE_UTF8, nullptr,
-            [](sqlite3_context* context, int, sqlite3_value** values) { sqlite3_result_int(context, sqlite3_value_bytes(values[0])); },
+        sqlite3_create_function(
+            handle_, "byte_length", 1, SQLITE_UTF8, nullptr,
+            [](sqlite3_context* context, int, sqlite3_value** values) {
+                sqlite3_result_int(context, sqlite3_value_bytes(values[0]));
+            },
             nullptr, nullptr);
     }
     ~Database() { sqlite3_close(handle_); }

@@ -9,10 +9,10 @@ namespace tarn {
 
 /// What the machine itself takes, measured in the same run and the same folder as what is compared with it. Seconds.
 struct Yardsticks {
-    double write = 0; ///< write() and fsync of the texts into a plain file
-    double read = 0; ///< one SQLite pass over the text table that only takes lengths
+    double write = 0;  ///< write() and fsync of the texts into a plain file
+    double read = 0;   ///< one SQLite pass over the text table that only takes lengths
     double commit = 0; ///< create, write, fsync, unlink: the floor of a rollback-journal commit
-    double point = 0; ///< primary-key look-up, prepared
+    double point = 0;  ///< primary-key look-up, prepared
 };
 
 double secondsToWrite(const std::filesystem::path& folder, const std::vector<std::string>& texts);
@@ -25,16 +25,14 @@ double secondsForPointLookup(const std::filesystem::path& database);
 std::size_t residentMemory();
 
 /// Runs `work` several times and gives the median of the seconds that it took.
-template <typename Work>
-double medianSeconds(int times, Work&& work);
+template <typename Work> double medianSeconds(int times, Work&& work);
 
 } // namespace tarn
 
 #include <algorithm>
 #include <chrono>
 
-template <typename Work>
-double tarn::medianSeconds(int times, Work&& work)
+template <typename Work> double tarn::medianSeconds(int times, Work&& work)
 {
     std::vector<double> seconds;
     for (int run = 0; run < times; ++run) {

@@ -105,14 +105,15 @@ void ContextCore::noteChange(NSManagedObject& object, PropertyIndex index, bool 
 {
     RecordDetails& details = RecordAccess::details(object);
     const PropertyMask bit = propertyBit(index);
-    const bool isNews = details.changedInEvent == 0 || details.changed == 0 || isPosting_;
+    const bool isFirstChange = details.changed == 0;
+    const bool isNews = isFirstChange || details.changedInEvent == 0 || isPosting_;
     details.changed |= bit;
     details.changedInEvent |= bit;
     if (inRow)
         details.rowChanged |= bit;
     if (isNews)
         tracker.noteUpdated(object);
-    pendingIndex.touch(object, bit);
+    pendingIndex.touch(object, isFirstChange ? ~PropertyMask{0} : bit);
     scheduleProcessing();
     if (const NSPropertyDescription& property = object.entity().property(index); property.isRelationship())
         RecordAccess::tellObservers(object, property.name());

@@ -12,7 +12,7 @@ namespace tarn {
 
 /// How two values of a sort key are compared.
 enum class SortComparison : std::uint8_t {
-    Standard, ///< numbers and dates by value, strings by code point; nil first when ascending
+    Standard,          ///< numbers and dates by value, strings by code point; nil first when ascending
     LocalizedStandard, ///< strings as people sort them: by locale, without case, digits by value
 };
 
@@ -26,10 +26,7 @@ struct NSSortDescriptor {
 
 /// What to fetch. A plain description; use it with any context on the same model.
 struct NSFetchRequest {
-    explicit NSFetchRequest(const NSEntityDescription& entityDescription)
-        : entity(&entityDescription)
-    {
-    }
+    explicit NSFetchRequest(const NSEntityDescription& entityDescription) : entity(&entityDescription) { }
 
     const NSEntityDescription* entity;
     std::optional<NSPredicate> predicate;
@@ -41,7 +38,8 @@ struct NSFetchRequest {
     bool includesPropertyValues = true;
     /// NO answers from the store alone.
     bool includesPendingChanges = true;
-    /// For `executeDictionaryFetchRequest`: names of attributes and to-one relationships (these give object identifiers); empty: all attributes.
+    /// For `executeDictionaryFetchRequest`: names of attributes and to-one relationships (these give object
+    /// identifiers); empty: all attributes.
     std::vector<std::string> propertiesToFetch;
     bool returnsDistinctResults = false;
 };

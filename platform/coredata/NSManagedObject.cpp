@@ -204,7 +204,12 @@ ToManySet& NSManagedObject::toManyAt(PropertyIndex index) const
 
 template <typename Assign> void NSManagedObject::write(PropertyIndex index, bool tell, Assign&& assign)
 {
+    // A merge asks whether the other writer changed the text: that needs the text from which this change started.
     if (!core().beginWrite(*this))
+        return;
+    if (!isInserted() && (entity().textGroupMask() & propertyBit(index)))
+        core().faulting.loadLarge(*this);
+    if (isDeleted() && !RecordAccess::isBeingDeleted(*this))
         return;
     if (assign(values_))
         core().noteChange(*this, index, true);
@@ -335,9 +340,6 @@ void NSManagedObject::setPrimitiveDataAt(PropertyIndex index, const std::optiona
 void NSManagedObject::setToOneAt(PropertyIndex index, NSManagedObject* target)
 {
     const auto& relationship = static_cast<const NSRelationshipDescription&>(entity().property(index));
-    if (target && &target->managedObjectContext() != context_)
-        throw NSException(
-            NSInvalidArgumentException, "\"" + relationship.name() + "\" cannot name a record of another context");
     core().relationships.setToOne(*this, relationship, target);
 }
 

@@ -16,10 +16,7 @@ public:
     const std::string& uuid() const noexcept { return uuid_; }
 
 private:
-    explicit StoreIdentity(std::string_view uuid)
-        : uuid_(uuid)
-    {
-    }
+    explicit StoreIdentity(std::string_view uuid) : uuid_(uuid) { }
     std::string uuid_;
 };
 
@@ -29,11 +26,8 @@ public:
     NSManagedObjectID() = default;
     /// A key above 0 is permanent, one below 0 temporary; keys are unique within the root entity.
     NSManagedObjectID(const StoreIdentity& store, const NSEntityDescription& entity, std::int64_t key)
-        : store_(&store)
-        , entity_(&entity)
-        , key_(key)
-    {
-    }
+        : store_(&store), entity_(&entity), key_(key)
+    { }
     /// A new temporary identifier, unique in every process.
     static NSManagedObjectID makeTemporary(const StoreIdentity& store, const NSEntityDescription& entity);
 
@@ -63,8 +57,7 @@ std::int64_t temporaryKeyForUUID(std::string_view uuid);
 
 } // namespace tarn
 
-template <>
-struct std::hash<tarn::NSManagedObjectID> {
+template <> struct std::hash<tarn::NSManagedObjectID> {
     std::size_t operator()(const tarn::NSManagedObjectID& id) const noexcept
     {
         return static_cast<std::size_t>(static_cast<std::uint64_t>(id.key()) * 0x9E3779B97F4A7C15ULL)

@@ -24,16 +24,19 @@ using PropertyIndex = std::uint8_t;
 /// One bit for each property of an entity.
 using PropertyMask = std::uint64_t;
 inline constexpr std::size_t maximumPropertyCount = 64;
-constexpr PropertyMask propertyBit(PropertyIndex index) noexcept { return PropertyMask{1} << index; }
+constexpr PropertyMask propertyBit(PropertyIndex index) noexcept
+{
+    return PropertyMask{1} << index;
+}
 
 enum class NSAttributeType : std::uint8_t { Boolean, Integer16, Integer64, Double, String, Date, Data };
 enum class NSDeleteRule : std::uint8_t { NoAction, Nullify, Cascade, Deny };
 
 /// Where the store keeps a relationship.
 enum class RelationshipStorage : std::uint8_t {
-    Column, ///< to-one: a foreign key in this entity's table
+    Column,        ///< to-one: a foreign key in this entity's table
     InverseColumn, ///< to-one or to-many: the inverse's foreign key
-    JoinTable, ///< many-to-many
+    JoinTable,     ///< many-to-many
 };
 
 /// An attribute or a relationship of an entity. Owned by its model; immutable.
@@ -183,8 +186,8 @@ private:
 class NSManagedObjectModel {
 public:
     /// Reads a model file. Null and an error (domain "TarnStore") that names the place when it is malformed.
-    static std::shared_ptr<NSManagedObjectModel> modelWithContentsOfFile(const std::filesystem::path& file,
-        NSError* error = nullptr);
+    static std::shared_ptr<NSManagedObjectModel> modelWithContentsOfFile(
+        const std::filesystem::path& file, NSError* error = nullptr);
     static std::shared_ptr<NSManagedObjectModel> modelWithText(std::string_view text, NSError* error = nullptr);
 
     ~NSManagedObjectModel();

@@ -106,11 +106,12 @@ bool ToManySet::holds(const NSManagedObject& member) const
 }
 
 /// Notes a new member; one that was only taken out since the last save is back where it stood.
+/// Unread, nobody knows what is stored: then the delta says what shall be, and the store takes what is so already.
 void ToManySet::put(NSManagedObject& member)
 {
     if (loaded_ && holds(member))
         return;
-    const bool wasStored = eraseFrom(removed_, member);
+    const bool wasStored = eraseFrom(removed_, member) && loaded_;
     if (!wasStored && std::find(added_.begin(), added_.end(), &member) == added_.end())
         added_.push_back(&member);
     if (!loaded_)
@@ -129,7 +130,8 @@ void ToManySet::take(NSManagedObject& member)
 {
     if (loaded_ && !holds(member))
         return;
-    if (!eraseFrom(added_, member) && std::find(removed_.begin(), removed_.end(), &member) == removed_.end())
+    const bool wasAdded = eraseFrom(added_, member) && loaded_;
+    if (!wasAdded && std::find(removed_.begin(), removed_.end(), &member) == removed_.end())
         removed_.push_back(&member);
     if (loaded_) {
         eraseFrom(members_, member);

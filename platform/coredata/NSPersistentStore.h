@@ -26,9 +26,9 @@ enum StoreErrorCode : long {
     StoreErrorCorrupt = 11,
     StoreErrorFull = 13,
     StoreErrorCannotOpen = 14,
-    StoreErrorNotAStore = 26, ///< the file is no store at all
+    StoreErrorNotAStore = 26,        ///< the file is no store at all
     StoreErrorIncompatible = 134100, ///< the store was written with another version of the model
-    StoreErrorReplaced = 134101, ///< "the store was replaced; open it again"
+    StoreErrorReplaced = 134101,     ///< "the store was replaced; open it again"
     StoreErrorMergeConflict = 133020,
     StoreErrorValidation = 1560,
     StoreErrorDeleteDenied = 1600,
@@ -54,8 +54,8 @@ struct RelatedKey {
 };
 
 enum class RowContents : std::uint8_t {
-    Keys, ///< no values
-    Row, ///< what `StoreRow` says
+    Keys,     ///< no values
+    Row,      ///< what `StoreRow` says
     WholeRow, ///< large attributes as well
 };
 
@@ -83,8 +83,8 @@ struct JoinChange {
 enum class RowWriteResult : std::uint8_t {
     Written,
     Conflict, ///< the row's version is another one than expected; nothing was written
-    Gone, ///< the row does not exist any more
-    Failed, ///< see the error
+    Gone,     ///< the row does not exist any more
+    Failed,   ///< see the error
 };
 
 /// A store's one write transaction: everything of it or nothing.
@@ -96,11 +96,16 @@ public:
     virtual ~StoreTransaction() = default;
     /// Inserts a row with its key; version becomes 1. To-one keys must be permanent.
     virtual bool insertRow(const StoreRow& row, NSError* error) = 0;
-    /// Writes the properties of `changed` (attributes and column to-ones) where the row still has `row.version`; the version grows by one.
+    /// Writes the properties of `changed` (attributes and column to-ones) where the row still has `row.version`; the
+    /// version grows by one.
     virtual RowWriteResult updateRow(const StoreRow& row, PropertyMask changed, NSError* error) = 0;
-    /// Deletes the row, its large part and its join rows, and writes nil to every column that names it. A version of 0 deletes any version.
-    virtual RowWriteResult deleteRow(const NSEntityDescription& entity, std::int64_t key, std::int64_t version, NSError* error) = 0;
-    /// Adds or removes join rows; one that is there (or gone) already is no error. Members whose rows vanished are left out.
+    /// Deletes the row, its large part and its join rows, and writes nil to every column that names it. A version of 0
+    /// deletes any version.
+    virtual RowWriteResult deleteRow(
+        const NSEntityDescription& entity, std::int64_t key, std::int64_t version, NSError* error)
+        = 0;
+    /// Adds or removes join rows; one that is there (or gone) already is no error. Members whose rows vanished are left
+    /// out.
     virtual bool changeJoins(std::span<const JoinChange> changes, NSError* error) = 0;
     /// A busy commit is retried. After a failure nothing was written and the transaction is over.
     virtual bool commit(NSError* error) = 0;
@@ -122,22 +127,28 @@ public:
     virtual bool fetch(const StoreFetch& fetch, std::vector<StoreRow>& rows, NSError* error) = 0;
     virtual bool count(const StoreFetch& fetch, std::size_t& count, NSError* error) = 0;
     /// The rows of these keys that exist, in any order.
-    virtual bool rowsForKeys(const NSEntityDescription& entity, std::span<const std::int64_t> keys, RowContents contents,
-        std::vector<StoreRow>& rows, NSError* error) = 0;
-    /// The members of a to-many relationship, or the target of a to-one whose column is the inverse's; ascending by key.
-    virtual bool relatedKeys(const NSRelationshipDescription& relationship, std::int64_t key, std::vector<RelatedKey>& related,
-        NSError* error) = 0;
+    virtual bool rowsForKeys(const NSEntityDescription& entity, std::span<const std::int64_t> keys,
+        RowContents contents, std::vector<StoreRow>& rows, NSError* error)
+        = 0;
+    /// The members of a to-many relationship, or the target of a to-one whose column is the inverse's; ascending by
+    /// key.
+    virtual bool relatedKeys(const NSRelationshipDescription& relationship, std::int64_t key,
+        std::vector<RelatedKey>& related, NSError* error)
+        = 0;
     /// How many members a to-many relationship has.
-    virtual bool countRelated(const NSRelationshipDescription& relationship, std::int64_t key, std::size_t& count, NSError* error) = 0;
+    virtual bool countRelated(
+        const NSRelationshipDescription& relationship, std::int64_t key, std::size_t& count, NSError* error)
+        = 0;
     /// Moves whenever another connection or process has committed.
     virtual std::uint64_t dataVersion() = 0;
 
     // Writing ---------------------------------------------------------------------------------------------------------
     /// Takes the write lock, waiting for other processes. Null and an error when it cannot be had.
     virtual std::unique_ptr<StoreTransaction> beginTransaction(NSError* error) = 0;
-    /// Reserves `count` keys for an inheritance chain: first, first + 1, ... Never handed out again. Joins the transaction of
-    /// this thread where there is one.
-    virtual bool reserveKeys(const NSEntityDescription& root, std::size_t count, std::int64_t& first, NSError* error) = 0;
+    /// Reserves `count` keys for an inheritance chain: first, first + 1, ... Never handed out again. Joins the
+    /// transaction of this thread where there is one.
+    virtual bool reserveKeys(const NSEntityDescription& root, std::size_t count, std::int64_t& first, NSError* error)
+        = 0;
 
     // Upkeep ----------------------------------------------------------------------------------------------------------
     /// Named values kept with the store: hashes, UUID, folding version, and the host's own.

@@ -18,10 +18,7 @@ public:
     std::string_view view() const noexcept { return {reinterpret_cast<const char*>(this + 1), length_}; }
 
 private:
-    explicit SharedBytes(std::uint32_t length)
-        : length_(length)
-    {
-    }
+    explicit SharedBytes(std::uint32_t length) : length_(length) { }
     std::atomic<std::uint32_t> owners_{1};
     std::uint32_t length_;
 };
@@ -53,7 +50,10 @@ public:
     // Boolean (0 or 1), Integer16, Integer64, Date (microseconds since 1970) and to-one (key).
     void setInteger(PropertyIndex index, std::int64_t value) noexcept;
     std::int64_t integer(PropertyIndex index) const noexcept { return slots_[index].integer; }
-    void setDouble(PropertyIndex index, double value) noexcept { setInteger(index, std::bit_cast<std::int64_t>(value)); }
+    void setDouble(PropertyIndex index, double value) noexcept
+    {
+        setInteger(index, std::bit_cast<std::int64_t>(value));
+    }
     double floating(PropertyIndex index) const noexcept { return std::bit_cast<double>(slots_[index].integer); }
     // String and Data.
     void setBytes(PropertyIndex index, std::string_view bytes);

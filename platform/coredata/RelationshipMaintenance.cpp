@@ -5,10 +5,19 @@
 #include "platform/foundation/NSException.h"
 
 #include <algorithm>
+#include <unordered_set>
 
 namespace tarn {
 
 namespace {
+
+void requireSameContext(
+    const NSManagedObject& record, const NSRelationshipDescription& relationship, const NSManagedObject& target)
+{
+    if (&record.managedObjectContext() != &target.managedObjectContext())
+        throw NSException(
+            NSInvalidArgumentException, "\"" + relationship.name() + "\" cannot name a record of another context");
+}
 
 [[noreturn]] void raiseUnreadable(const NSRelationshipDescription& relationship, const NSError& error)
 {
@@ -23,8 +32,12 @@ namespace {
 NSManagedObject* RelationshipMaintenance::toOne(
     const NSManagedObject& record, const NSRelationshipDescription& relationship)
 {
+    if (record.isFault())
+        core_.faulting.fire(record);
     const PropertyValues& values = RecordAccess::values(record);
     const PropertyIndex index = relationship.index();
+    if (RecordAccess::isGone(record))
+        return nullptr;
     if (!values.isLoaded(index))
         core_.faulting.loadInverseToOne(record, relationship);
     if (values.isNil(index))
@@ -53,6 +66,8 @@ void RelationshipMaintenance::store(
 void RelationshipMaintenance::setToOne(
     NSManagedObject& record, const NSRelationshipDescription& relationship, NSManagedObject* target)
 {
+    if (target)
+        requireSameContext(record, relationship, *target);
     if (!core_.beginWrite(record))
         return;
     NSManagedObject* former = toOne(record, relationship);
@@ -112,6 +127,7 @@ ToManySet& RelationshipMaintenance::toMany(const NSManagedObject& record, const 
 void RelationshipMaintenance::addMember(ToManySet& set, NSManagedObject& member)
 {
     NSManagedObject& owner = *set.owner_;
+    requireSameContext(owner, set.relationship(), member);
     const NSRelationshipDescription& inverse = set.relationship().inverseRelationship();
     if (!inverse.isToMany()) {
         setToOne(member, inverse, &owner);
@@ -160,17 +176,21 @@ void RelationshipMaintenance::loadMembers(ToManySet& set)
         && !core_.store().relatedKeys(relationship, owner.objectID().key(), keys, &error))
         raiseUnreadable(relationship, error);
 
+    const std::unordered_set<const NSManagedObject*> removed(set.removed_.begin(), set.removed_.end());
+    std::unordered_set<const NSManagedObject*> stored;
     std::vector<NSManagedObject*> members;
     members.reserve(keys.size() + set.added_.size());
     for (const RelatedKey& key : keys) {
         NSManagedObject& member = core_.recordOrFault(*key.entity, key.key);
-        const bool wasRemoved = std::find(set.removed_.begin(), set.removed_.end(), &member) != set.removed_.end();
-        if (!member.isDeleted() && !wasRemoved)
+        stored.insert(&member);
+        if (!member.isDeleted() && !removed.contains(&member))
             members.push_back(&member);
     }
-    for (NSManagedObject* added : set.added_)
-        if (!added->isDeleted() && std::find(members.begin(), members.end(), added) == members.end())
-            members.push_back(added);
+    // From here on the deltas say exactly what differs from the store; noted unread, they may say too much.
+    std::erase_if(
+        set.added_, [&](const NSManagedObject* member) { return member->isDeleted() || stored.contains(member); });
+    std::erase_if(set.removed_, [&](const NSManagedObject* member) { return !stored.contains(member); });
+    members.insert(members.end(), set.added_.begin(), set.added_.end());
     set.members_ = std::move(members);
     set.index_.clear();
     set.loaded_ = true;

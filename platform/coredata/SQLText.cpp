@@ -6,6 +6,8 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
+
 namespace tarn {
 
 std::string SQLText::bind(SQLBinding binding)
@@ -16,7 +18,10 @@ std::string SQLText::bind(SQLBinding binding)
 
 void bindAll(SQLiteStatement& statement, const std::vector<SQLBinding>& bindings)
 {
-    for (std::size_t i = 0; i < bindings.size(); ++i) {
+    // Arguments of conditions that came out constant are named nowhere; behind the last one that is, they have no
+    // place.
+    const std::size_t count = std::min(bindings.size(), static_cast<std::size_t>(statement.parameterCount()));
+    for (std::size_t i = 0; i < count; ++i) {
         const int parameter = static_cast<int>(i) + 1;
         std::visit(Overloaded{
                        [&](std::int64_t value) { statement.bindInteger(parameter, value); },

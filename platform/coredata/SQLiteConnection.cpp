@@ -95,6 +95,11 @@ void SQLiteStatement::check(int result) const
         connection_->fail(result, sqlite3_sql(statement_));
 }
 
+int SQLiteStatement::parameterCount() const
+{
+    return sqlite3_bind_parameter_count(statement_);
+}
+
 void SQLiteStatement::bindNull(int parameter)
 {
     check(sqlite3_bind_null(statement_, parameter));

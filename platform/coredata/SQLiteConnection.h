@@ -35,6 +35,8 @@ public:
     SQLiteStatement& operator=(SQLiteStatement&&) = delete;
     ~SQLiteStatement();
 
+    /// How many parameters the text names.
+    int parameterCount() const;
     void bindNull(int parameter);
     void bindInteger(int parameter, std::int64_t value);
     void bindDouble(int parameter, double value);

@@ -148,10 +148,14 @@ bool SavePlan::validate(NSError* error) const
 
 bool SavePlan::deletionsAllowed(NSError* error) const
 {
+    const auto hasMember = [&](const NSManagedObject& record, const NSRelationshipDescription& relationship) {
+        const auto members = core_.relationships.related(record, relationship);
+        return std::any_of(
+            members.begin(), members.end(), [](const NSManagedObject* member) { return !member->isDeleted(); });
+    };
     for (const NSManagedObject* record : deleted_)
         for (const NSRelationshipDescription* relationship : record->entity().relationships())
-            if (relationship->deleteRule() == NSDeleteRule::Deny
-                && !core_.relationships.related(*record, *relationship).empty())
+            if (relationship->deleteRule() == NSDeleteRule::Deny && hasMember(*record, *relationship))
                 return fail(error, StoreErrorDeleteDenied,
                     "A record of " + record->entity().name() + " cannot be deleted while \"" + relationship->name()
                         + "\" has members");

@@ -17,7 +17,8 @@
 
 namespace tarn {
 
-/// Books on shelves, with chapters, a cover, and things of two kinds that they lend: every kind of property and relationship.
+/// Books on shelves, with chapters, a cover, and things of two kinds that they lend: every kind of property and
+/// relationship.
 inline constexpr std::string_view libraryModel = R"({
   "version": "Library",
   "entities": [
@@ -83,11 +84,13 @@ protected:
     {
         auto coordinator = std::make_shared<NSPersistentStoreCoordinator>(model_);
         NSError error;
-        EXPECT_TRUE(coordinator->addPersistentStoreWithType(GetParam(), folder_ / "library.sqlite", {}, &error)) << error;
+        EXPECT_TRUE(coordinator->addPersistentStoreWithType(GetParam(), folder_ / "library.sqlite", {}, &error))
+            << error;
         return coordinator;
     }
 
-    static std::unique_ptr<NSManagedObjectContext> contextOn(const std::shared_ptr<NSPersistentStoreCoordinator>& coordinator)
+    static std::unique_ptr<NSManagedObjectContext> contextOn(
+        const std::shared_ptr<NSPersistentStoreCoordinator>& coordinator)
     {
         auto context = std::make_unique<NSManagedObjectContext>(NSManagedObjectContext::ConcurrencyType::MainQueue);
         context->setPersistentStoreCoordinator(coordinator);
@@ -128,7 +131,10 @@ protected:
         return fetch(request);
     }
 
-    std::vector<NSManagedObject*> all(std::string_view entity) { return fetch(NSFetchRequest(*model_->entityNamed(entity))); }
+    std::vector<NSManagedObject*> all(std::string_view entity)
+    {
+        return fetch(NSFetchRequest(*model_->entityNamed(entity)));
+    }
 
     std::vector<NSManagedObject*> fetch(const NSFetchRequest& request)
     {

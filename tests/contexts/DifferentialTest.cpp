@@ -9,7 +9,8 @@ namespace tarn {
 namespace {
 
 /// What a fetch means, without any store: every live record, judged one by one, put in order.
-std::vector<NSManagedObject*> judgedOneByOne(const std::vector<NSManagedObject*>& records, const NSFetchRequest& request)
+std::vector<NSManagedObject*> judgedOneByOne(
+    const std::vector<NSManagedObject*>& records, const NSFetchRequest& request)
 {
     std::vector<NSManagedObject*> found;
     const PredicateEvaluator evaluator(*request.predicate);
@@ -45,7 +46,8 @@ protected:
         stored.predicate = &*request.predicate;
         ASSERT_EQ(found, expected) << "seed " << seed << ": " << request.predicate->predicateFormat() << "\n"
                                    << coordinator_->persistentStore()->explain(stored);
-        ASSERT_EQ(context_->count(request), expected.size()) << "seed " << seed << ": " << request.predicate->predicateFormat();
+        ASSERT_EQ(context_->count(request), expected.size())
+            << "seed " << seed << ": " << request.predicate->predicateFormat();
     }
 };
 INSTANTIATE_TEST_SUITE_P(Stores, Differential, testing::Values(StoreType::SQLite, StoreType::InMemory), storeTypeName);
@@ -92,9 +94,11 @@ TEST_P(Differential, WhatIsSavedIsWhatWasThere)
                 std::sort(row.begin(), row.end());
                 for (const char* key : {"title", "code", "body"})
                     row.push_back(text(*record, key));
-                row.push_back(std::to_string(set(*record, "chapters").count()) + "/" + std::to_string(set(*record, "items").count()));
+                row.push_back(std::to_string(set(*record, "chapters").count()) + "/"
+                    + std::to_string(set(*record, "items").count()));
                 const Value cover = record->storedValueForKey("cover");
-                row.push_back(cover.isNil() ? "no cover" : text(static_cast<const NSManagedObject&>(cover.asObject()), "color"));
+                row.push_back(
+                    cover.isNil() ? "no cover" : text(static_cast<const NSManagedObject&>(cover.asObject()), "color"));
                 rows.push_back(std::move(row));
             }
             std::sort(rows.begin(), rows.end());

@@ -66,8 +66,10 @@ TEST_P(FetchWithPendingChanges, BreaksTiesByKeyThenByInsertion)
     save();
     book("third");
     book("fourth");
-    EXPECT_THAT(texts(fetch(request("Book", {{"pages", true}})), "title"), ElementsAre("first", "second", "third", "fourth"));
-    EXPECT_THAT(texts(fetch(request("Book", {{"pages", false}})), "title"), ElementsAre("first", "second", "third", "fourth"));
+    EXPECT_THAT(
+        texts(fetch(request("Book", {{"pages", true}})), "title"), ElementsAre("first", "second", "third", "fourth"));
+    EXPECT_THAT(
+        texts(fetch(request("Book", {{"pages", false}})), "title"), ElementsAre("first", "second", "third", "fourth"));
 }
 
 TEST_P(FetchWithPendingChanges, ReachesAlongKeyPaths)
@@ -183,7 +185,8 @@ TEST_P(FetchWithPendingChanges, GivesDictionaries)
     const auto rows = context_->executeDictionaryFetchRequest(wanted);
     ASSERT_TRUE(rows);
     ASSERT_EQ(rows->size(), 2U);
-    EXPECT_EQ(rows->at(0), (DictionaryResult{{"title", Value("One")}, {"cover", Value(cover.objectID().URIRepresentation())}}));
+    EXPECT_EQ(rows->at(0),
+        (DictionaryResult{{"title", Value("One")}, {"cover", Value(cover.objectID().URIRepresentation())}}));
     EXPECT_TRUE(rows->at(1).at("cover").isNil());
 
     wanted.propertiesToFetch = {"pages"};

@@ -4,14 +4,20 @@ namespace tarn {
 
 namespace {
 
-constexpr const char* texts[]
-    = {"", "a", "A", "ä", "Äpfel", "apfel", "work", "Work/acme", "work/acme/x", "か", "が", "Straße", "STRASSE", "a%b_c", "it's \"x\"", "ﬁn"};
+constexpr const char* texts[] = {"", "a", "A", "ä", "Äpfel", "apfel", "work", "Work/acme", "work/acme/x", "か", "が",
+    "Straße", "STRASSE", "a%b_c", "it's \"x\"", "ﬁn"};
 
 } // namespace
 
-Value RandomLibrary::randomText() { return chance(20) ? Value() : Value(texts[below(std::size(texts))]); }
+Value RandomLibrary::randomText()
+{
+    return chance(20) ? Value() : Value(texts[below(std::size(texts))]);
+}
 
-std::string RandomLibrary::pick(std::initializer_list<const char*> choices) { return choices.begin()[below(choices.size())]; }
+std::string RandomLibrary::pick(std::initializer_list<const char*> choices)
+{
+    return choices.begin()[below(choices.size())];
+}
 
 NSManagedObject* RandomLibrary::any(std::string_view entity)
 {
@@ -102,12 +108,15 @@ std::string RandomLibrary::bookLeaf(const std::string& prefix, std::vector<Value
     switch (below(9)) {
     case 0:
         arguments.push_back(randomText());
-        return prefix + pick({"title", "code", "body"}) + pick({" ==", " !=", " <", " >="}) + pick({" %@", "[cd] %@", "[c] %@", "[d] %@"});
+        return prefix + pick({"title", "code", "body"}) + pick({" ==", " !=", " <", " >="})
+            + pick({" %@", "[cd] %@", "[c] %@", "[d] %@"});
     case 1:
         arguments.emplace_back(texts[below(std::size(texts))]);
-        return prefix + pick({"title", "body"}) + pick({" CONTAINS", " BEGINSWITH", " ENDSWITH", " LIKE"}) + pick({"[cd] %@", " %@"});
+        return prefix + pick({"title", "body"}) + pick({" CONTAINS", " BEGINSWITH", " ENDSWITH", " LIKE"})
+            + pick({"[cd] %@", " %@"});
     case 2:
-        return prefix + pick({"pages", "copies", "weight"}) + pick({" == ", " != ", " < ", " <= ", " > ", " >= "}) + pick({"0", "1", "-1", "0.5", "nil"});
+        return prefix + pick({"pages", "copies", "weight"}) + pick({" == ", " != ", " < ", " <= ", " > ", " >= "})
+            + pick({"0", "1", "-1", "0.5", "nil"});
     case 3:
         return prefix + "lent" + pick({" == YES", " == NO", " != YES", " == nil", " != nil"});
     case 4:
@@ -121,7 +130,8 @@ std::string RandomLibrary::bookLeaf(const std::string& prefix, std::vector<Value
     case 7:
         return prefix + "pages BETWEEN {0, " + pick({"1", "2"}) + "}";
     default:
-        return prefix + "title MATCHES" + pick({"[cd]", ""}) + " '" + pick({".*", "(?i)A.*", "work(/.*)?", "[a-z]+"}) + "'";
+        return prefix + "title MATCHES" + pick({"[cd]", ""}) + " '" + pick({".*", "(?i)A.*", "work(/.*)?", "[a-z]+"})
+            + "'";
     }
 }
 
@@ -130,23 +140,27 @@ std::string RandomLibrary::leaf(std::vector<Value>& arguments)
     switch (below(12)) {
     case 0:
         arguments.push_back(randomText());
-        return pick({"ANY", "ALL", "NONE"}) + " shelves.name" + pick({" ==[cd] %@", " == %@", " != %@", " CONTAINS[cd] %@"});
+        return pick({"ANY", "ALL", "NONE"}) + " shelves.name"
+            + pick({" ==[cd] %@", " == %@", " != %@", " CONTAINS[cd] %@"});
     case 1:
         arguments.emplace_back(any("Shelf"));
         return pick({"%@ IN shelves", "ANY shelves == %@", "shelves CONTAINS %@", "NONE shelves == %@"});
     case 2:
-        return pick({"shelves", "chapters", "items"}) + ".@count" + pick({" == 0", " != 0", " > 0", " > 1", " == 1", " <= 1"});
+        return pick({"shelves", "chapters", "items"}) + ".@count"
+            + pick({" == 0", " != 0", " > 0", " > 1", " == 1", " <= 1"});
     case 3:
         arguments.push_back(randomText());
-        return "SUBQUERY(shelves, $s, $s.name" + pick({" ==[cd] %@", " BEGINSWITH[cd] %@"}) + " AND $s.floor" + pick({" > 0", " == 0"}) + ").@count"
-            + pick({" == 0", " != 0", " > 1"});
+        return "SUBQUERY(shelves, $s, $s.name" + pick({" ==[cd] %@", " BEGINSWITH[cd] %@"}) + " AND $s.floor"
+            + pick({" > 0", " == 0"}) + ").@count" + pick({" == 0", " != 0", " > 1"});
     case 4:
-        return "SUBQUERY(chapters, $c, $c.number" + pick({" > 0", " == nil"}) + " OR $c.book.lent == YES).@count" + pick({" == 0", " > 0"});
+        return "SUBQUERY(chapters, $c, $c.number" + pick({" > 0", " == nil"}) + " OR $c.book.lent == YES).@count"
+            + pick({" == 0", " > 0"});
     case 5:
         arguments.push_back(randomText());
         return "cover.color" + pick({" == %@", " !=[cd] %@", " ==[cd] %@"});
     case 6:
-        return pick({"ANY chapters.number > 1", "ALL chapters.number == 0", "NONE chapters.heading == nil", "ANY items.label == 'a'"});
+        return pick({"ANY chapters.number > 1", "ALL chapters.number == 0", "NONE chapters.heading == nil",
+            "ANY items.label == 'a'"});
     default:
         return bookLeaf("", arguments);
     }
@@ -159,9 +173,11 @@ std::string RandomLibrary::term(int depth, std::vector<Value>& arguments)
     if (chance(25))
         return "NOT (" + term(depth - 1, arguments) + ")";
     const std::string joint = pick({" AND ", " OR "});
-    std::string text = "(" + term(depth - 1, arguments) + joint + term(depth - 1, arguments);
-    if (chance(30))
-        text += joint + term(depth - 1, arguments);
+    std::string text = "(" + term(depth - 1, arguments);
+    for (std::size_t more = 1 + below(2); more > 0; --more) {
+        text += joint;
+        text += term(depth - 1, arguments);
+    }
     return text + ")";
 }
 

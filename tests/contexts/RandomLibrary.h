@@ -8,14 +8,11 @@
 
 namespace tarn {
 
-/// Random records, changes and predicates over the library model, from one seed. Values come from small sets, so that predicates hit.
+/// Random records, changes and predicates over the library model, from one seed. Values come from small sets, so that
+/// predicates hit.
 class RandomLibrary {
 public:
-    RandomLibrary(NSManagedObjectContext& context, unsigned seed)
-        : context_(&context)
-        , random_(seed)
-    {
-    }
+    RandomLibrary(NSManagedObjectContext& context, unsigned seed) : context_(&context), random_(seed) { }
     void setContext(NSManagedObjectContext& context) { context_ = &context; }
 
     /// Inserts records and ties them at random.

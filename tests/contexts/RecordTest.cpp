@@ -171,7 +171,9 @@ TEST_P(Record, GetsAPermanentIdentifierBeforeTheSave)
     save();
     EXPECT_EQ(record.objectID(), id);
     restart();
-    EXPECT_EQ(text(static_cast<const NSManagedObject&>(all("Book").at(0)->storedValueForKey("cover").asObject()), "color"), "(none)");
+    EXPECT_EQ(
+        text(static_cast<const NSManagedObject&>(all("Book").at(0)->storedValueForKey("cover").asObject()), "color"),
+        "(none)");
 }
 
 TEST_P(Record, ReadsLargeAttributesOfTheRowThatItsOtherValuesCameFrom)

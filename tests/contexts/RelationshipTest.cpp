@@ -149,7 +149,8 @@ TEST_P(Relationship, RefusesARecordOfAnotherContext)
     EXPECT_THROW(book("A").setValueForKey("cover", Value(&foreign)), NSException);
 }
 
-// Deletion --------------------------------------------------------------------------------------------------------------
+// Deletion
+// --------------------------------------------------------------------------------------------------------------
 
 TEST_P(Relationship, DeletingCascadesAndNullifiesAtOnce)
 {

@@ -17,8 +17,8 @@ protected:
     /// Every notification of this name that the context posts, as lists of titles.
     NSNotificationSubscription observe(std::string_view name, std::function<void(const ObjectChanges*)> block)
     {
-        return NSNotificationCenter::defaultCenter().addObserver(
-            name, context_.get(), [block](const NSNotification& notification) { block(notification.userInfoAs<ObjectChanges>()); });
+        return NSNotificationCenter::defaultCenter().addObserver(name, context_.get(),
+            [block](const NSNotification& notification) { block(notification.userInfoAs<ObjectChanges>()); });
     }
     /// A second context with an unsaved change of the title of the only book.
     std::unique_ptr<NSManagedObjectContext> rival(std::string_view key, const Value& value)
@@ -147,10 +147,11 @@ TEST_P(Save, GivesAPropertyThatBothChangedToTheSideOfThePolicy)
         const auto other = rival("pages", Value(2));
         other->setMergePolicy(policy);
         std::vector<Value> dropped;
-        other->setMergeConflictHandler([&](const MergeConflict& conflict) { dropped.push_back(conflict.lostValues.at("pages")); });
+        other->setMergeConflictHandler(
+            [&](const MergeConflict& conflict) { dropped.push_back(conflict.lostValues.at("pages")); });
         one.setValueForKey("pages", Value(3));
         save();
-        const LogSink former = setLogSink([](std::string_view) { });
+        const LogSink former = setLogSink([](std::string_view) {});
         EXPECT_TRUE(other->save());
         setLogSink(former);
         restart();
@@ -172,7 +173,7 @@ TEST_P(Save, KeepsATextAndWhatDerivesFromItTogether)
     seen.setValueForKey("pages", Value(9));
     one.setValueForKey("body", Value("ours"));
     save();
-    const LogSink former = setLogSink([](std::string_view) { });
+    const LogSink former = setLogSink([](std::string_view) {});
     EXPECT_TRUE(other->save());
     setLogSink(former);
     restart();
@@ -265,13 +266,14 @@ TEST_P(Save, OfTenThousandRecordsWithAFetchEachStaysQuick)
     EXPECT_EQ(find("Book", "title ==[cd] 'TITLE 9999'").size(), 1U);
 }
 
-// Events ----------------------------------------------------------------------------------------------------------------
+// Events
+// ----------------------------------------------------------------------------------------------------------------
 
 TEST_P(Save, ChangesGatherIntoOneNotificationAPass)
 {
     std::vector<ObjectChanges> events;
-    const auto subscription
-        = observe(NSManagedObjectContextObjectsDidChangeNotification, [&](const ObjectChanges* changes) { events.push_back(*changes); });
+    const auto subscription = observe(NSManagedObjectContextObjectsDidChangeNotification,
+        [&](const ObjectChanges* changes) { events.push_back(*changes); });
     NSManagedObject& one = book("A");
     NSManagedObject& two = book("B");
     all("Book");
@@ -304,8 +306,8 @@ TEST_P(Save, BothEndsOfARelationshipCountAsChanged)
     NSManagedObject& red = shelf("red");
     save();
     std::vector<NSManagedObject*> updated;
-    const auto subscription
-        = observe(NSManagedObjectContextObjectsDidChangeNotification, [&](const ObjectChanges* changes) { updated = changes->updated; });
+    const auto subscription = observe(NSManagedObjectContextObjectsDidChangeNotification,
+        [&](const ObjectChanges* changes) { updated = changes->updated; });
     set(one, "shelves").add(red);
     context_->processPendingChanges();
     EXPECT_THAT(updated, UnorderedElementsAre(&one, &red));
