@@ -31,7 +31,7 @@ function(tarn_model_code variable)
 
   add_custom_command(
     OUTPUT ${files}
-    COMMAND modelgen "${CODE_MODEL}" --classes "${CODE_FOLDER}"
+    COMMAND modelgen "${CODE_MODEL}" "${CODE_FOLDER}"
     DEPENDS modelgen "${CODE_MODEL}"
     COMMENT "Writing the generated bases of the record classes"
     VERBATIM)

@@ -6,10 +6,11 @@
 #include <vector>
 
 // Entities without relationships have no class for them.
-static_assert(!__has_include("model/OVInternalChangesRelationships.h"));
-static_assert(!__has_include("model/OVExternalChangesRelationships.h"));
-static_assert(!__has_include("model/OVServerMetadataRelationships.h"));
-static_assert(__has_include("model/OVNoteImageRelationships.h"));
+#if __has_include("model/OVInternalChangesRelationships.h")                                                            \
+    || __has_include(                                                                                                  \
+        "model/OVExternalChangesRelationships.h") || __has_include("model/OVServerMetadataRelationships.h")
+#error "a key-name class without keys"
+#endif
 
 namespace tarn {
 namespace {

@@ -1,5 +1,7 @@
 #include "tools/modelgen/ClassWriter.h"
 
+#include "tools/modelgen/GeneratedNames.h"
+
 #include <fmt/format.h>
 
 #include <set>

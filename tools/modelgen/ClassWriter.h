@@ -1,6 +1,7 @@
 #pragma once
 
-#include "tools/modelgen/GeneratedNames.h"
+#include "platform/coredata/NSManagedObjectModel.h"
+#include "tools/modelgen/GeneratedFile.h"
 
 namespace tarn::modelgen {
 

@@ -8,12 +8,6 @@
 
 namespace tarn::modelgen {
 
-/// A file to write: its name and its whole text.
-struct GeneratedFile {
-    std::string name;
-    std::string text;
-};
-
 /// How an attribute type appears in accessors.
 struct AccessorType {
     std::string_view boxed;      ///< what `x()` returns

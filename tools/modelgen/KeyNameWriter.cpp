@@ -1,5 +1,7 @@
 #include "tools/modelgen/KeyNameWriter.h"
 
+#include "tools/modelgen/GeneratedNames.h"
+
 #include <fmt/format.h>
 
 namespace tarn::modelgen {

@@ -1,23 +1,20 @@
 #include "platform/coredata/NSManagedObjectModel.h"
 #include "tools/modelgen/ClassWriter.h"
+#include "tools/modelgen/GeneratedFile.h"
 #include "tools/modelgen/KeyNameWriter.h"
-#include "tools/modelgen/SchemaWriter.h"
 
 #include <filesystem>
-#include <fstream>
 #include <iostream>
-#include <sstream>
 #include <string>
 #include <string_view>
 #include <vector>
 
-// Writes the generated bases of the record classes from a model file, or the description of its tables.
+// Writes the generated bases of the record classes from a model file.
 
 namespace tarn::modelgen {
 namespace {
 
-constexpr std::string_view kUsage = "usage: modelgen MODEL --classes FOLDER\n"
-                                    "       modelgen MODEL --schema FILE\n";
+constexpr std::string_view kUsage = "usage: modelgen MODEL FOLDER\n";
 
 std::vector<GeneratedFile> classFiles(const NSManagedObjectModel& model)
 {
@@ -33,30 +30,9 @@ std::vector<GeneratedFile> classFiles(const NSManagedObjectModel& model)
     return files;
 }
 
-std::string contents(const std::filesystem::path& file)
-{
-    std::ifstream stream(file, std::ios::binary);
-    std::ostringstream text;
-    text << stream.rdbuf();
-    return text.str();
-}
-
-/// An equal file is left alone, so that nothing is compiled again for it.
-bool write(const std::filesystem::path& file, const std::string& text)
-{
-    if (std::filesystem::exists(file) && contents(file) == text)
-        return true;
-    std::ofstream stream(file, std::ios::binary | std::ios::trunc);
-    stream << text;
-    stream.close();
-    if (!stream)
-        std::cerr << "modelgen: " << file.string() << " cannot be written\n";
-    return !stream.fail();
-}
-
 int run(const std::vector<std::string>& arguments)
 {
-    if (arguments.size() != 3 || (arguments[1] != "--classes" && arguments[1] != "--schema")) {
+    if (arguments.size() != 2) {
         std::cerr << kUsage;
         return 2;
     }
@@ -66,13 +42,13 @@ int run(const std::vector<std::string>& arguments)
         std::cerr << "modelgen: " << error.localizedDescription() << '\n';
         return 1;
     }
-    const std::filesystem::path target = arguments[2];
-    if (arguments[1] == "--schema")
-        return write(target, schemaDocument(*model)) ? 0 : 1;
-    std::filesystem::create_directories(target);
+    const std::filesystem::path folder = arguments[1];
+    std::filesystem::create_directories(folder);
     for (const GeneratedFile& file : classFiles(*model)) {
-        if (!write(target / file.name, file.text))
+        if (!writeFile(folder / file.name, file.text)) {
+            std::cerr << "modelgen: " << (folder / file.name).string() << " cannot be written\n";
             return 1;
+        }
     }
     return 0;
 }

@@ -1,5 +1,6 @@
 #include "tools/modelgen/SchemaWriter.h"
 
+#include "platform/coredata/StoreSchema.h"
 #include "tools/modelgen/GeneratedNames.h"
 
 #include <fmt/format.h>
@@ -81,6 +82,25 @@ std::string relationshipTable(const NSEntityDescription& entity)
     return text;
 }
 
+/// A CREATE TABLE statement broken before each column.
+std::string oneColumnALine(std::string_view statement)
+{
+    std::string text;
+    int depth = 0;
+    for (std::size_t position = 0; position < statement.size(); ++position) {
+        const char character = statement[position];
+        depth += character == '(' ? 1 : character == ')' ? -1 : 0;
+        text += character;
+        const bool opens = character == '(' && depth == 1;
+        const bool separates = character == ',' && depth == 1;
+        if (opens || separates)
+            text += "\n  ";
+        if (separates && position + 1 < statement.size() && statement[position + 1] == ' ')
+            ++position;
+    }
+    return text;
+}
+
 std::string indexList(const NSEntityDescription& entity)
 {
     std::string text;
@@ -94,13 +114,26 @@ std::string indexList(const NSEntityDescription& entity)
     return text;
 }
 
+/// The statements as they run, one column a line.
+std::string statements(const NSManagedObjectModel& model)
+{
+    const StoreSchema schema(model);
+    std::string text;
+    for (const std::string& statement : schema.creationStatements()) {
+        if (!text.empty() && statement.starts_with("CREATE TABLE"))
+            text += '\n';
+        text += (statement.starts_with("CREATE TABLE") ? oneColumnALine(statement) : statement) + ";\n";
+    }
+    return text;
+}
+
 } // namespace
 
 std::string schemaDocument(const NSManagedObjectModel& model)
 {
     std::string text = fmt::format(R"(# Records of the store
 
-Written from the model "{}" by `modelgen --schema`; do not edit.
+Written from the model "{}" by `schemagen`; do not edit, but build the target `schema_document`.
 
 - *large*: kept apart from the row and read when first asked for.
 - *indexed*: for `==` and `IN`; *indexed folded*: for `==[cd]` and `BEGINSWITH[cd]`; *signature*: for `CONTAINS[cd]`.
@@ -117,7 +150,8 @@ Written from the model "{}" by `modelgen --schema`; do not edit.
             text += "Abstract: what is made is one of its kinds.\n";
         text += attributeTable(*entity) + relationshipTable(*entity) + indexList(*entity);
     }
-    return text;
+    text += "\n## Tables\n\nHow the records lie in SQLite, as a new store is made:\n\n```sql\n";
+    return text + statements(model) + "```\n";
 }
 
 } // namespace tarn::modelgen
