@@ -47,6 +47,25 @@ TEST(PredicatePrinter, TellsRandomTreesApart)
     EXPECT_LT(equal, 100U);
 }
 
+TEST(Predicates, DifferInEveryPart)
+{
+    const std::vector<std::string> formats{"a == 1", "a == 2", "a == 1.0", "a == '1'", "a == nil", "a != 1", "b == 1",
+        "a.b == 1", "a ==[c] 1", "a ==[d] 1", "a ==[cd] 1", "ANY a == 1", "ALL a == 1", "NONE a == 1", "NOT a == 1",
+        "1 == a", "a.@count == 1", "SELF == 1", "a == {1}", "a == {1, 1}", "a == {b}", "a == {b, b}",
+        "a == CAST(1, 'NSDate')", "a == CAST('31', 'NSData')", "a == 1 AND a == 1", "a == 1 OR a == 1",
+        "a == 1 AND a == 1 AND a == 1", "TRUEPREDICATE", "FALSEPREDICATE", "SUBQUERY(a, $x, $x.b == 1).@count == 1",
+        "SUBQUERY(a, $y, $y.b == 1).@count == 1", "SUBQUERY(a, $x, $x == 1).@count == 1",
+        "SUBQUERY(c, $x, $x.b == 1).@count == 1", "SUBQUERY(a, $x, b == 1).@count == 1"};
+    for (std::size_t one = 0; one < formats.size(); ++one) {
+        for (std::size_t other = 0; other < formats.size(); ++other) {
+            const NSPredicate left = NSPredicate::predicateWithFormat(formats[one]);
+            const NSPredicate right = NSPredicate::predicateWithFormat(formats[other]);
+            EXPECT_EQ(left == right, one == other) << formats[one] << " and " << formats[other];
+            EXPECT_EQ(left.predicateFormat() == right.predicateFormat(), one == other);
+        }
+    }
+}
+
 TEST(PredicatePrinter, WritesDatesToTheMicrosecond)
 {
     const auto date = [](std::int64_t microseconds) { return dateWithMicrosecondsSinceReferenceDate(microseconds); };
