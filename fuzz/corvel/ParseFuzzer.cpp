@@ -1,0 +1,38 @@
+// Any bytes parse; every range lies in the text, in order, and means what the summary says.
+
+#include "corvel/CVKAST.h"
+#include "corvel/Document.h"
+#include "corvel/Unescape.h"
+#include "fuzz/corvel/FuzzInput.h"
+
+using namespace tarn;
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    const std::string text(data, data + size);
+    const CVKAST document = CVKAST::fromMarkdown(std::string_view(text));
+    const CVKAST::Document& parse = document.document();
+    const CVKTextSummary& summary = document.textSummary();
+    require(document.markdown() == text);
+    document.html();
+
+    require(parse.links.size() == summary.links.size());
+    for (std::size_t i = 0; i < parse.links.size(); ++i) {
+        const corvel::Link& link = parse.links[i];
+        require(link.range.begin < link.range.end && link.range.end <= text.size());
+        require(link.destination.begin <= link.destination.end && link.destination.end <= text.size());
+        require(i == 0 || parse.links[i - 1].range.begin < link.range.begin);
+        const bool isWritten = link.kind == corvel::LinkKind::Inline || link.kind == corvel::LinkKind::Reference;
+        require(!isWritten || corvel::unescaped(parse.slice(link.destination)) == summary.links[i]);
+    }
+    for (std::size_t i = 0; i < parse.wikiLinks.size(); ++i) {
+        require(parse.slice(parse.wikiLinks[i].range).starts_with("[["));
+        require(i == 0 || parse.wikiLinks[i - 1].range.end <= parse.wikiLinks[i].range.begin);
+        require(!summary.wikiLinks[i].decodedTitle().empty());
+    }
+    for (std::size_t i = 0; i < parse.hashtags.size(); ++i) {
+        require(parse.slice(parse.hashtags[i].range).starts_with('#'));
+        require(i == 0 || parse.hashtags[i - 1].range.end <= parse.hashtags[i].range.begin);
+    }
+    return 0;
+}
