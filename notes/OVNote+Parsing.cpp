@@ -57,6 +57,7 @@ OVNoteFile* takeFileForLink(const std::string& link, FilesByName& files)
 
 OVNote* OVNote::noteWithText(std::string_view text, NSManagedObjectContext& context)
 {
+    checkTextLength(text);
     OVNote* note = insertInManagedObjectContext(context);
     note->updateNoteWithText(text);
     return note;

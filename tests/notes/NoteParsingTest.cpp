@@ -132,7 +132,9 @@ TEST_P(NoteParsing, RefusesATextOfMoreThanHalfAGibibyte)
 
     EXPECT_THROW(edited.updateNoteWithText(huge), NSException);
     EXPECT_THROW(edited.setText(huge), NSException);
+    EXPECT_THROW(OVNote::noteWithText(huge, context()), NSException);
     EXPECT_EQ(edited.text(), "before");
+    EXPECT_EQ(all<OVNote>().size(), 1U);
     munmap(memory, length);
 }
 
@@ -273,28 +275,29 @@ TEST_P(NoteParsing, PassesOverAttachmentsWithoutAName)
     EXPECT_FALSE(nameless->isUnused());
 }
 
+template <typename File> std::vector<std::string> namesOf(const std::vector<File*>& files)
+{
+    std::vector<std::string> names;
+    for (const File* each : files)
+        names.push_back(each->filename().value_or("-"));
+    return names;
+}
+
 TEST_P(NoteParsing, ListsUsedAttachmentsInTheOrderOfTheText)
 {
     OVNote& linking = noteTitled("a");
-    OVNoteImage& first = image(linking, "1.png");
-    OVNoteGenericFile& second = file(linking, "2.pdf");
-    OVNoteImage& third = image(linking, "3.png");
+    image(linking, "1.png");
+    file(linking, "2.pdf");
+    image(linking, "3.png");
     image(linking, "4.png");
 
     linking.updateNoteWithText("![](3.png) ![](2.pdf) ![](1.png)");
     reopen();
 
-    OVNote& found = *OVNote::allNotesInManagedObjectContext(context()).front();
-    const auto names = [](const auto& files) {
-        std::vector<std::string> found;
-        for (const auto* each : files)
-            found.push_back(each->filename().value_or("-"));
-        return found;
-    };
-    EXPECT_THAT(names(found.orderedFiles()), ElementsAre("3.png", "2.pdf", "1.png"));
-    EXPECT_THAT(names(found.orderedImages()), ElementsAre("3.png", "1.png"));
-    EXPECT_THAT(names(found.orderedFilesWithoutImages()), ElementsAre("2.pdf"));
-    static_cast<void>(first), static_cast<void>(second), static_cast<void>(third);
+    const OVNote& found = *OVNote::allNotesInManagedObjectContext(context()).front();
+    EXPECT_THAT(namesOf(found.orderedFiles()), ElementsAre("3.png", "2.pdf", "1.png"));
+    EXPECT_THAT(namesOf(found.orderedImages()), ElementsAre("3.png", "1.png"));
+    EXPECT_THAT(namesOf(found.orderedFilesWithoutImages()), ElementsAre("2.pdf"));
 }
 
 } // namespace

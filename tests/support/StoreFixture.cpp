@@ -16,6 +16,8 @@ StoreFixture::StoreFixture()
 {
     world_.setClock([this] { return tick(); });
     world_.setHostName(std::string(deviceName));
+    world_.setLocaleIdentifier("en_US");
+    world_.setTimeZoneIdentifier("UTC");
 }
 
 StoreFixture::~StoreFixture()

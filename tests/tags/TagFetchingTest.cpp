@@ -14,7 +14,6 @@ INSTANTIATE_TEST_SUITE_P(Stores, TagFetching, everyStore(), storeName);
 
 TEST_P(TagFetching, ListsInTheOrderInWhichPeopleSort)
 {
-    world_.setLocaleIdentifier("en_US");
     for (const char* name : {"item 10", "Banana", "item 9", "apple", "ähre", "Item 1"})
         tag(name);
 
