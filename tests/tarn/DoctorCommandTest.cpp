@@ -1,0 +1,81 @@
+#include "tests/tarn/TarnCommandTest.h"
+
+namespace tarn::test {
+
+using DoctorCommand = TarnCommandTest;
+
+namespace {
+
+/// A field of a note that something damaged, and the check that must see it.
+struct Damage {
+    std::string sql;
+    std::string check;
+};
+
+const std::vector<Damage> kDamages{
+    {"UPDATE OVNote SET title = 'Wrong' WHERE title = 'Sound'", "title"},
+    {"UPDATE OVNote SET subtitle = 'Wrong' WHERE title = 'Sound'", "subtitle"},
+    {"UPDATE OVNote SET todoCompleted = 9 WHERE title = 'Sound'", "todos"},
+    {"UPDATE OVNote SET todoIncompleted = 9 WHERE title = 'Sound'", "todos"},
+    {"UPDATE OVNote SET hasSourceCode = 1 WHERE title = 'Sound'", "flags"},
+    {"UPDATE OVNote SET hasImages = 1 WHERE title = 'Sound'", "flags"},
+};
+
+} // namespace
+
+TEST_F(DoctorCommand, FindsNothingInASoundStore)
+{
+    note("# Sound\n\nbody\n\n- [x] a\n- [ ] b\n\n#a/b\n\n    code\n");
+    const auto document = nlohmann::ordered_json::parse(run({"--json", "doctor"}).output);
+    ASSERT_GE(document.at("checks").size(), 7U);
+    for (const auto& check : document.at("checks")) {
+        EXPECT_EQ(check.at("ok"), true) << check;
+        EXPECT_EQ(check.at("found"), 0) << check;
+        EXPECT_FALSE(std::string(check.at("name")).empty());
+    }
+    EXPECT_EQ(run({"doctor"}).exitCode, 0);
+}
+
+TEST_F(DoctorCommand, FindsAndRepairsFieldsThatAreNotWhatTheTextSays)
+{
+    for (const Damage& damaged : kDamages) {
+        SCOPED_TRACE(damaged.sql);
+        output({"import",
+            file("sound.md", "---\nupdated: 2020-01-02\n---\n# Sound\n\nbody\n\n- [x] a\n- [ ] b\n\n#a/b\n")});
+        const nlohmann::json before = json({"show", "Sound"});
+        damage(damaged.sql);
+
+        const TarnResult found = run({"--json", "doctor"});
+        EXPECT_EQ(found.exitCode, 1);
+        for (const auto& check : nlohmann::json::parse(found.output).at("checks"))
+            EXPECT_EQ(check.at("ok"), check.at("name") != damaged.check) << check;
+
+        const TarnResult repaired = run({"--json", "doctor", "--repair"});
+        EXPECT_EQ(repaired.exitCode, 0) << repaired.output;
+        EXPECT_EQ(nlohmann::json::parse(repaired.output).at("repaired"), 1);
+        EXPECT_EQ(run({"doctor"}).exitCode, 0);
+        const nlohmann::json after = json({"show", "Sound"});
+        for (const char* key : {"title", "subtitle", "text", "modificationDate", "todoCompleted", "todoIncompleted",
+                 "hasImages", "hasSourceCode", "tags"})
+            EXPECT_EQ(after.at(key), before.at(key)) << key;
+        output({"delete", "--yes", "Sound"});
+    }
+}
+
+TEST_F(DoctorCommand, FindsTagsThatNoTextNames)
+{
+    note("# One\n\n#a");
+    damage("UPDATE OVNoteTag SET title = 'b' WHERE title = 'a'");
+    const TarnResult found = run({"doctor"});
+    EXPECT_EQ(found.exitCode, 1);
+    EXPECT_NE(found.output.find("#b: no text names it"), std::string::npos) << found.output;
+    EXPECT_EQ(run({"doctor", "--repair"}).exitCode, 0);
+    EXPECT_EQ(json({"show", "One"}).at("tags"), nlohmann::json({"a"}));
+}
+
+TEST_F(DoctorCommand, ExaminesNothingWhereThereIsNoStore)
+{
+    EXPECT_EQ(run({"doctor"}).exitCode, 6);
+}
+
+} // namespace tarn::test

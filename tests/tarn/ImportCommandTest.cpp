@@ -1,0 +1,127 @@
+#include "tests/tarn/TarnCommandTest.h"
+
+#include <algorithm>
+#include <array>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace tarn::test {
+
+using ImportCommand = TarnCommandTest;
+
+TEST_F(ImportCommand, MakesNotesOfFilesWithTheirDates)
+{
+    const auto path = file("in/a.md", "# A\n\nbody");
+    const std::array<timespec, 2> times{timespec{1'000'000'000, 0}, timespec{1'000'000'000, 123'456'789}};
+    ASSERT_EQ(::utimensat(AT_FDCWD, path.c_str(), times.data(), 0), 0);
+    const auto document = nlohmann::ordered_json::parse(run({"--json", "import", folder() / "in"}).output);
+    EXPECT_EQ(keysOf(document), (std::vector<std::string>{"imported", "skipped", "failed", "seconds"}));
+    EXPECT_EQ(document.at("imported"), 1);
+    EXPECT_EQ(document.at("skipped"), 0);
+    EXPECT_TRUE(document.at("failed").empty());
+    const nlohmann::json note = json({"show", "A"});
+    EXPECT_EQ(note.at("modificationDate"), "2001-09-09T01:46:40.123456Z");
+    EXPECT_EQ(note.at("creationDate"), "2001-09-09T01:46:40.123456Z");
+    EXPECT_EQ(note.at("text"), "# A\n\nbody");
+}
+
+TEST_F(ImportCommand, TakesFrontMatterOff)
+{
+    file("in/a.md", "---\ntitle: Talk\ntags: [work/talks]\ncreated: 2025-02-11\nlanguage: en\n---\n\nbody\n");
+    EXPECT_EQ(json({"import", folder() / "in", "--tag", "old notes"}).at("imported"), 1);
+    const nlohmann::json note = json({"show", "Talk"});
+    EXPECT_EQ(note.at("text"), "# Talk\n\nbody\n\n```yaml\nlanguage: en\n```\n\n#work/talks #old notes#\n");
+    EXPECT_EQ(note.at("creationDate"), "2025-02-11T00:00:00Z");
+    EXPECT_EQ(note.at("tags"), nlohmann::json({"old notes", "work", "work/talks"}));
+}
+
+TEST_F(ImportCommand, GoesOnBehindFilesThatItCannotRead)
+{
+    file("in/a.md", "# A");
+    file("in/bad.md", "\xFF");
+    file("in/c.md", "# C");
+    ASSERT_EQ(::mkfifo((folder() / "in" / "pipe.md").c_str(), 0600), 0);
+    std::filesystem::create_symlink(folder() / "nowhere", folder() / "in" / "dangling.md");
+    const TarnResult result = run({"--json", "import", folder() / "in", folder() / "missing"});
+    EXPECT_EQ(result.exitCode, 6);
+    EXPECT_EQ(std::ranges::count(result.errors, '\n'), 4) << result.errors;
+    const nlohmann::json document = nlohmann::json::parse(result.output);
+    EXPECT_EQ(document.at("imported"), 2);
+    ASSERT_EQ(document.at("failed").size(), 4U) << document;
+    for (const auto& failure : document.at("failed")) {
+        EXPECT_FALSE(std::string(failure.at("path")).empty());
+        EXPECT_FALSE(std::string(failure.at("error")).empty());
+    }
+    EXPECT_EQ(json({"list"}).at("count"), 2);
+}
+
+TEST_F(ImportCommand, SaysThatAFileOfAnotherEncodingFailed)
+{
+    file("bad.md", "\xE4");
+    EXPECT_EQ(run({"import", folder() / "bad.md"}).exitCode, 1);
+}
+
+TEST_F(ImportCommand, WritesNothingInADryRun)
+{
+    file("in/a.md", "---\ntitle: Dry\n---\n");
+    const std::string text = output({"import", "--dry-run", folder() / "in"});
+    EXPECT_NE(text.find("a.md: Dry\n"), std::string::npos) << text;
+    EXPECT_NE(text.find("would import 1 note "), std::string::npos) << text;
+    EXPECT_EQ(json({"import", "--dry-run", folder() / "in"}).at("imported"), 1);
+    EXPECT_FALSE(std::filesystem::exists(store()));
+}
+
+TEST_F(ImportCommand, FindsNothingInAFolderWithoutNotes)
+{
+    file("in/a.png", "");
+    EXPECT_EQ(run({"import", folder() / "in"}).exitCode, 1);
+    EXPECT_EQ(json({"import", folder() / "in"}).at("imported"), 0);
+    EXPECT_FALSE(std::filesystem::exists(store()));
+}
+
+TEST_F(ImportCommand, SkipsWhatIsNamedTwice)
+{
+    const auto path = file("in/a.md", "# A");
+    const nlohmann::json document = json({"import", path, path, folder() / "in"});
+    EXPECT_EQ(document.at("imported"), 1);
+    EXPECT_EQ(document.at("skipped"), 2);
+}
+
+TEST_F(ImportCommand, TakesHostileNames)
+{
+    for (const char* name :
+        {"in/\n.md", "in/\x1b[2J.md", "in/\xFF\xFE.md", "in/a'\";--.md", "in/ .md", "in/%s%n.md", "in/\xE2\x80\xAE.md"})
+        file(name, "# x");
+    file("in/\x1b]0;\xFF.txt", "\xFF");
+    const TarnResult result = run({"--json", "import", folder() / "in"});
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_EQ(nlohmann::json::parse(result.output).at("imported"), 7);
+    EXPECT_EQ(result.errors.find('\x1b'), std::string::npos);
+    EXPECT_EQ(run({"import", "--dry-run", folder() / "in"}).output.find('\x1b'), std::string::npos);
+}
+
+TEST_F(ImportCommand, SavesInBatchesInTheOrderOfNames)
+{
+    for (int index = 0; index < 1'101; ++index) {
+        std::string number = std::to_string(index);
+        number.insert(0, 4 - number.size(), '0');
+        file("in/" + number + ".md", "# Note " + number + "\n\n#shared/" + std::to_string(index % 10) + "\n");
+    }
+    EXPECT_EQ(json({"import", folder() / "in"}).at("imported"), 1'101);
+    EXPECT_EQ(json({"list", "--tag", "shared"}).at("count"), 1'101);
+    EXPECT_EQ(json({"list", "--tag", "shared/3"}).at("count"), 110);
+    EXPECT_EQ(json({"tags"}).at("tags").size(), 11U) << "one tag of each name over all batches";
+    EXPECT_EQ(run({"doctor"}).exitCode, 0);
+}
+
+TEST_F(ImportCommand, TakesTheNotesOfTheDemo)
+{
+    const nlohmann::json document = json({"import", TARN_DEMO_NOTES});
+    EXPECT_TRUE(document.at("failed").empty()) << document;
+    EXPECT_GT(document.at("imported"), 50);
+    EXPECT_EQ(json({"show", "Cello practice"}).at("creationDate"), "2025-03-30T00:00:00Z");
+    EXPECT_EQ(run({"doctor"}).exitCode, 0) << run({"doctor"}).output;
+}
+
+} // namespace tarn::test

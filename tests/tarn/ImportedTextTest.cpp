@@ -1,0 +1,83 @@
+#include "tools/tarn/ImportedText.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace tarn {
+
+namespace {
+
+using Case = std::map<std::string, std::string>;
+
+std::string unescaped(std::string_view text)
+{
+    std::string result;
+    for (std::size_t index = 0; index < text.size(); ++index) {
+        if (text[index] != '\\' || index + 1 == text.size()) {
+            result += text[index];
+            continue;
+        }
+        const char letter = text[++index];
+        result += letter == 'n' ? '\n' : letter == 'r' ? '\r' : letter;
+    }
+    return result;
+}
+
+std::vector<Case> readCases()
+{
+    std::vector<Case> cases;
+    std::ifstream stream(TARN_TEST_CASES "/front-matter.cases");
+    for (std::string line; std::getline(stream, line);) {
+        const std::size_t colon = line.find(": ");
+        if (line.empty() || line.front() == '#' || colon == std::string::npos)
+            continue;
+        if (line.starts_with("case: "))
+            cases.emplace_back();
+        cases.back()[line.substr(0, colon)] = unescaped(std::string_view(line).substr(colon + 2));
+    }
+    return cases;
+}
+
+std::string textOfDate(const std::optional<NSDate>& date)
+{
+    return date ? iso8601String(*date) : "";
+}
+
+} // namespace
+
+TEST(ImportedText, IsWhatTheCasesSay)
+{
+    const std::vector<Case> cases = readCases();
+    ASSERT_GE(cases.size(), 35U);
+    for (Case expected : cases) {
+        SCOPED_TRACE(expected["case"]);
+        const ImportedText imported = importedTextOfFile(expected["file"]);
+        EXPECT_EQ(imported.text, expected["text"]);
+        EXPECT_EQ(textOfDate(imported.creationDate), expected["created"]);
+        EXPECT_EQ(textOfDate(imported.modificationDate), expected["modified"]);
+    }
+}
+
+TEST(ImportedText, TakesAnyBytesOfFrontMatterWithoutLosingTheBody)
+{
+    // Every cut of a rich front matter is either front matter or text, and the body survives.
+    const std::string source
+        = "---\ntitle: \"a\\u00e4\" # c\ntags: [a, 'b''c', \"d\"]\nx:\n  - 1\n  # n\ny: |\n  z\n---\n";
+    for (std::size_t cut = 0; cut <= source.size(); ++cut) {
+        const ImportedText imported = importedTextOfFile(source.substr(0, cut) + "\nthe body");
+        EXPECT_NE(imported.text.find("the body"), std::string::npos) << cut;
+    }
+}
+
+TEST(TextWithTags, AddsEachTagOnceAtTheBottom)
+{
+    EXPECT_EQ(textWithTags("# T\n\nbody\n", {"old", "OLD", "b c"}), "# T\n\nbody\n\n#old #b c#\n");
+    EXPECT_EQ(textWithTags("# T\n\n#old/er\n", {"old"}), "# T\n\n#old/er\n");
+    EXPECT_EQ(textWithTags("same", {}), "same");
+}
+
+} // namespace tarn

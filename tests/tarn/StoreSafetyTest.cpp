@@ -1,0 +1,171 @@
+#include "tests/tarn/TarnCommandTest.h"
+
+#include <chrono>
+#include <csignal>
+#include <fcntl.h>
+#include <fstream>
+#include <memory>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <thread>
+#include <unistd.h>
+
+namespace tarn::test {
+
+using StoreSafety = TarnCommandTest;
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// The lock of a store, held by the test.
+class HeldLock {
+public:
+    explicit HeldLock(const fs::path& file) : descriptor_(::open(file.c_str(), O_RDWR | O_CLOEXEC))
+    {
+        EXPECT_EQ(::flock(descriptor_, LOCK_EX | LOCK_NB), 0);
+    }
+    ~HeldLock() { ::close(descriptor_); }
+    HeldLock(const HeldLock&) = delete;
+    HeldLock& operator=(const HeldLock&) = delete;
+
+private:
+    int descriptor_;
+};
+
+} // namespace
+
+TEST_F(StoreSafety, TwentyFourWritersAtOnceKeepAllNotes)
+{
+    std::vector<std::unique_ptr<TarnProcess>> writers;
+    for (int index = 0; index < 24; ++index) {
+        writers.push_back(std::make_unique<TarnProcess>(
+            arguments({"new", "# Note " + std::to_string(index) + "\n\n#same #tag" + std::to_string(index % 3)})));
+        writers.back()->start();
+    }
+    for (const auto& writer : writers) {
+        const TarnResult result = writer->finish();
+        EXPECT_EQ(result.exitCode, 0) << result.errors;
+    }
+    EXPECT_EQ(json({"list"}).at("count"), 24);
+    EXPECT_EQ(json({"tags"}).at("tags").size(), 4U) << "one tag of each name";
+    EXPECT_EQ(run({"doctor"}).exitCode, 0);
+}
+
+TEST_F(StoreSafety, TwoImportsAtOnceMakeOneTagOfEachName)
+{
+    for (int index = 0; index < 150; ++index)
+        file("in/" + std::to_string(index) + ".md",
+            "# N" + std::to_string(index) + "\n\n#a #b/" + std::to_string(index % 50) + "\n");
+    TarnProcess first(arguments({"import", folder() / "in"}));
+    TarnProcess second(arguments({"import", folder() / "in"}));
+    first.start();
+    second.start();
+    EXPECT_EQ(first.finish().exitCode, 0);
+    EXPECT_EQ(second.finish().exitCode, 0);
+    EXPECT_EQ(json({"list"}).at("count"), 300);
+    EXPECT_EQ(json({"tags"}).at("tags").size(), 52U);
+}
+
+TEST_F(StoreSafety, AWriterGivesUpWhenTheStoreStaysLocked)
+{
+    note("# A");
+    const HeldLock lock(database().parent_path() / "tarn.lock");
+    TarnProcess writer(arguments({"new", "# B"}));
+    writer.setVariable("TARN_LOCK_WAIT", "0");
+    const TarnResult result = writer.finish();
+    EXPECT_EQ(result.exitCode, 3);
+    EXPECT_NE(result.errors.find("another tarn"), std::string::npos) << result.errors;
+    EXPECT_EQ(json({"list"}).at("count"), 1) << "readers do not wait";
+}
+
+TEST_F(StoreSafety, AWriterWaitsForAnother)
+{
+    note("# A");
+    TarnProcess writer(arguments({"new", "# B"}));
+    {
+        const HeldLock lock(database().parent_path() / "tarn.lock");
+        writer.start();
+        std::this_thread::sleep_for(std::chrono::milliseconds(300));
+        EXPECT_TRUE(writer.isRunning());
+    }
+    EXPECT_EQ(writer.finish().exitCode, 0);
+    EXPECT_EQ(json({"list"}).at("count"), 2);
+}
+
+TEST_F(StoreSafety, AKilledImportLeavesASoundStore)
+{
+    for (int index = 0; index < 2'000; ++index)
+        file("in/" + std::to_string(index) + ".md",
+            "# N" + std::to_string(index) + "\n\n#t/" + std::to_string(index) + "\n\n" + std::string(500, 'x'));
+    note("# Before");
+    for (const int delay : {40, 160, 400}) {
+        TarnProcess import(arguments({"import", folder() / "in"}));
+        import.start();
+        std::this_thread::sleep_for(std::chrono::milliseconds(delay));
+        ::kill(import.pid(), SIGKILL);
+        import.finish();
+        const TarnResult doctor = run({"doctor"});
+        EXPECT_EQ(doctor.exitCode, 0) << doctor.output << doctor.errors;
+        EXPECT_EQ(run({"show", "Before"}).output, "# Before");
+    }
+    EXPECT_EQ(run({"new", "# After"}).exitCode, 0) << "the lock of the dead is free";
+}
+
+TEST_F(StoreSafety, AFileThatIsNoStoreIsCorrupt)
+{
+    fs::create_directories(database().parent_path());
+    std::ofstream(database()) << std::string(8192, 'n') << "o database at all";
+    for (const char* command : {"list", "stats", "doctor"}) {
+        const TarnResult result = run({command});
+        EXPECT_EQ(result.exitCode, 5) << command << ": " << result.errors;
+        EXPECT_NE(result.errors.find("tarn: "), std::string::npos);
+    }
+    EXPECT_EQ(run({"new", "# A"}).exitCode, 5);
+    EXPECT_EQ(json({"doctor"}).at("checks").at(0).at("ok"), false);
+}
+
+TEST_F(StoreSafety, ADamagedPageIsCorrupt)
+{
+    for (int index = 0; index < 40; ++index)
+        file("in/" + std::to_string(index) + ".md", "# N" + std::to_string(index) + "\n\n" + std::string(4'000, 'x'));
+    output({"import", folder() / "in"});
+    std::fstream stream(database(), std::ios::in | std::ios::out | std::ios::binary);
+    const auto size = static_cast<std::streamoff>(fs::file_size(database()));
+    for (std::streamoff offset = 8192; offset + 200 < size; offset += 8192) {
+        stream.seekp(offset);
+        stream << std::string(200, '\xEE');
+    }
+    stream.close();
+    const TarnResult result = run({"doctor"});
+    EXPECT_EQ(result.exitCode, 5) << result.output << result.errors;
+}
+
+TEST_F(StoreSafety, AStoreOfAnotherModelNeedsMigration)
+{
+    note("# A");
+    // As another version would have left it.
+    damage("UPDATE metadata SET value = '0000000000000000' WHERE key LIKE '%OVNoteTag%'");
+    const TarnResult result = run({"list"});
+    EXPECT_EQ(result.exitCode, 4) << result.errors;
+    EXPECT_NE(result.errors.find("migrated"), std::string::npos) << result.errors;
+}
+
+TEST_F(StoreSafety, AFolderThatCannotBeWrittenIsAFailureOfOutput)
+{
+    file("taken", "a file");
+    TarnProcess inFile({"--store", folder() / "taken", "new", "# A"});
+    EXPECT_EQ(inFile.finish().exitCode, 6);
+    TarnProcess nowhere({"--store", "/proc/nowhere", "new", "# A"});
+    EXPECT_EQ(nowhere.finish().exitCode, 6);
+}
+
+TEST_F(StoreSafety, NotesArePrivate)
+{
+    note("# A");
+    struct stat status { };
+    ASSERT_EQ(::stat(store().c_str(), &status), 0);
+    EXPECT_EQ(status.st_mode & 077U, 0U);
+}
+
+} // namespace tarn::test

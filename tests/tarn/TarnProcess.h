@@ -1,0 +1,58 @@
+#pragma once
+
+#include <filesystem>
+#include <map>
+#include <string>
+#include <string_view>
+#include <sys/types.h>
+#include <vector>
+
+namespace tarn::test {
+
+/// How a run of the program ended.
+struct TarnResult {
+    int exitCode = -1; ///< -1 when a signal ended it
+    int signal = 0;
+    std::string output;
+    std::string errors;
+};
+
+/// A run of the built program, fed and read by pipes.
+///
+/// Its environment holds what is given here, a zone of UTC, and nothing of the tester's own.
+class TarnProcess {
+public:
+    explicit TarnProcess(std::vector<std::string> arguments);
+    /// Kills and reaps a program that still runs.
+    ~TarnProcess();
+    TarnProcess(const TarnProcess&) = delete;
+    TarnProcess& operator=(const TarnProcess&) = delete;
+
+    void setVariable(const std::string& name, const std::string& value) { variables_[name] = value; }
+    void setInput(std::string input) { input_ = std::move(input); }
+    /// Standard output goes to this file instead.
+    void setOutputFile(const std::filesystem::path& file) { outputFile_ = file; }
+
+    void start();
+    /// Feeds the input, reads to the end, waits. Starts the program when that was not done.
+    TarnResult finish();
+    /// Reads this much of the output, then closes the pipe; waits.
+    TarnResult finishAfterReading(std::size_t bytes);
+    pid_t pid() const noexcept { return pid_; }
+    bool isRunning() const;
+
+private:
+    [[noreturn]] void runInChild(int input, int output, int errors) const;
+    void waitForEnd(TarnResult& result);
+
+    std::vector<std::string> arguments_;
+    std::map<std::string, std::string> variables_;
+    std::string input_;
+    std::filesystem::path outputFile_;
+    pid_t pid_ = -1;
+    int inputPipe_ = -1;
+    int outputPipe_ = -1;
+    int errorPipe_ = -1;
+};
+
+} // namespace tarn::test

@@ -1,0 +1,44 @@
+# Completion of tarn for bash.
+
+_tarn()
+{
+    local commands="import new show list search tags trash restore archive unarchive pin unpin readonly editable delete
+        stats doctor parse"
+    local global="--store --json --help --version"
+    local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} command="" word index
+    COMPREPLY=()
+
+    for ((index = 1; index < COMP_CWORD; index++)); do
+        word=${COMP_WORDS[index]}
+        case $word in
+            --store) ((index++)) ;;
+            -*) ;;
+            *) command=$word; break ;;
+        esac
+    done
+
+    case $previous in
+        --store) mapfile -t COMPREPLY < <(compgen -d -- "$current"); return ;;
+        --filter) mapfile -t COMPREPLY < <(compgen -W "active trashed archived pinned conflicted encrypted all" -- "$current"); return ;;
+        --tag | --limit) return ;;
+    esac
+
+    local options=""
+    case $command in
+        "") options="$commands $global" ;;
+        import) options="--tag --dry-run" ;;
+        list) options="--filter --tag --limit" ;;
+        search) options="--limit --count --explain --all" ;;
+        tags) options="--all" ;;
+        delete) options="--yes" ;;
+        doctor) options="--repair" ;;
+    esac
+    if [[ -z $command || $current == -* ]]; then
+        [[ -n $command ]] && options="$options $global"
+        mapfile -t COMPREPLY < <(compgen -W "$options" -- "$current")
+    elif [[ $command == import || $command == parse ]]; then
+        mapfile -t COMPREPLY < <(compgen -f -- "$current")
+    fi
+}
+
+complete -o filenames -F _tarn tarn
