@@ -4,6 +4,8 @@
 
 #include <fmt/format.h>
 
+#include <limits>
+
 namespace tarn {
 
 namespace {
@@ -21,6 +23,15 @@ struct CivilDay {
 std::int64_t floorDivide(std::int64_t dividend, std::int64_t divisor) noexcept
 {
     return dividend / divisor - (dividend % divisor < 0 ? 1 : 0);
+}
+
+/// The sum, or the end of the range that it would leave: the far ends of time are no reason for undefined behaviour.
+std::int64_t sumWithinRange(std::int64_t left, std::int64_t right) noexcept
+{
+    std::int64_t sum = 0;
+    if (!__builtin_add_overflow(left, right, &sum))
+        return sum;
+    return right < 0 ? std::numeric_limits<std::int64_t>::min() : std::numeric_limits<std::int64_t>::max();
 }
 
 /// The day of the Gregorian calendar; `std::chrono::year` ends at 32767, these dates do not.
@@ -155,19 +166,20 @@ NSDate now()
 
 std::int64_t microsecondsSinceReferenceDate(NSDate date) noexcept
 {
-    return date.time_since_epoch().count() - kReferenceDate;
+    return sumWithinRange(date.time_since_epoch().count(), -kReferenceDate);
 }
 
 NSDate dateWithMicrosecondsSinceReferenceDate(std::int64_t microseconds) noexcept
 {
-    return NSDate(std::chrono::microseconds(microseconds + kReferenceDate));
+    return NSDate(std::chrono::microseconds(sumWithinRange(microseconds, kReferenceDate)));
 }
 
 std::string iso8601String(NSDate date)
 {
     const std::int64_t total = date.time_since_epoch().count();
     const std::int64_t seconds = floorDivide(total, kMicrosecondsPerSecond);
-    const std::int64_t fraction = total - seconds * kMicrosecondsPerSecond;
+    const std::int64_t remainder = total % kMicrosecondsPerSecond;
+    const std::int64_t fraction = remainder < 0 ? remainder + kMicrosecondsPerSecond : remainder;
     const std::int64_t days = floorDivide(seconds, kSecondsPerDay);
     const std::int64_t second = seconds - days * kSecondsPerDay;
     const CivilDay day = civilDay(days);

@@ -92,4 +92,10 @@ TEST(NSDate, CountsFromTheReferenceDate)
     EXPECT_EQ(dateWithMicrosecondsSinceReferenceDate(-978'307'200'000'000), NSDate());
 }
 
+TEST(NSDate, StaysWithinItsRangeAtTheEndsOfTime)
+{
+    EXPECT_EQ(dateWithMicrosecondsSinceReferenceDate(std::numeric_limits<std::int64_t>::max()), NSDate::max());
+    EXPECT_EQ(microsecondsSinceReferenceDate(NSDate::min()), std::numeric_limits<std::int64_t>::min());
+}
+
 } // namespace
