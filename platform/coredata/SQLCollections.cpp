@@ -168,6 +168,15 @@ std::string SQLConditionBuilder::memberSelect(const Members& members, std::strin
         + members.condition + ")";
 }
 
+/// Only sets of the walked rows themselves, and only where finding them costs little.
+bool SQLConditionBuilder::isBetterWalked(const Members& members, const std::string& select) const
+{
+    const bool isOfWalkedRow = members.owner.path.empty() && members.owner.scope->outer == nullptr;
+    if (!options_.isLargeSet || !isOfWalkedRow || !members.scope->joins.empty())
+        return false;
+    return options_.isLargeSet({select, text_.bindings});
+}
+
 std::string SQLConditionBuilder::existence(const Members& members, bool negated) const
 {
     if (members.condition == never)
@@ -175,7 +184,10 @@ std::string SQLConditionBuilder::existence(const Members& members, bool negated)
     const std::string prefix = negated ? "NOT " : "";
     if (members.scope->readsOuter || members.condition == always)
         return prefix + "EXISTS (" + memberSelect(members, "1", true) + ")";
-    const std::string found = members.owner.key + " " + prefix + "IN (" + memberSelect(members, {}, false) + ")";
+    const std::string select = memberSelect(members, {}, false);
+    // The plus keeps SQLite from collecting the rows by their keys and sorting them all.
+    const std::string plus = !negated && isBetterWalked(members, select) ? "+" : "";
+    const std::string found = plus + members.owner.key + " " + prefix + "IN (" + select + ")";
     const bool ownerMayBeMissing = !members.owner.path.empty();
     return negated && ownerMayBeMissing ? "(" + members.owner.key + " IS NULL OR " + found + ")" : found;
 }

@@ -5,6 +5,7 @@
 #include "platform/coredata/SQLText.h"
 #include "platform/predicate/PredicateTree.h"
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -14,7 +15,11 @@ namespace tarn {
 /// What conditions depend on besides the predicate.
 struct SQLConditionOptions {
     const StoreIdentity* store = nullptr; ///< records of other stores equal no row
-    bool usesShadows = true;              ///< NO while the shadow columns were made by another version of folding
+    /// NO while the shadow columns were made by another version of folding.
+    bool usesShadows = true;
+    /// Whether a SELECT of keys gives so many that it is better to walk the order asked for and test each row. Unset:
+    /// never.
+    std::function<bool(const SQLText& keys)> isLargeSet;
 };
 
 /// Turns predicates into SQL conditions that pick exactly the same rows as the evaluator, or says that it cannot.
@@ -31,7 +36,7 @@ public:
     using Condition = std::optional<std::string>;
 
     SQLConditionBuilder(SQLPaths& paths, SQLText& text, SQLConditionOptions options)
-        : paths_(paths), text_(text), options_(options)
+        : paths_(paths), text_(text), options_(std::move(options))
     { }
 
     /// None when SQL cannot say it, or not within its limits of depth and size.
@@ -91,6 +96,7 @@ private:
         SQLScope& scope, bool negated);
     std::optional<Members> membersOfCollection(const CountExpression& expression, SQLScope& scope, SQLScope& member);
     std::string existence(const Members& members, bool negated) const;
+    bool isBetterWalked(const Members& members, const std::string& select) const;
     std::string numberOf(const Members& members) const;
     std::string memberSelect(const Members& members, std::string_view columns, bool correlated) const;
 

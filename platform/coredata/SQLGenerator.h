@@ -25,7 +25,8 @@ struct GeneratedSelect {
 /// Raises `NSException` for keys that do not exist and for keys that cannot be sorted by.
 class SQLGenerator {
 public:
-    SQLGenerator(const StoreSchema& schema, SQLConditionOptions options) : schema_(schema), options_(options) { }
+    SQLGenerator(const StoreSchema& schema, SQLConditionOptions options) : schema_(schema), options_(std::move(options))
+    { }
 
     /// SELECT of rows in the order asked for, as a `RowLayout` for these contents reads them; with a remainder,
     /// contents are at least `Row`.

@@ -33,7 +33,8 @@ struct SQLText {
     std::string bind(SQLBinding binding);
 };
 
-/// Hands the arguments to a prepared statement; they must outlive its walk.
+/// Hands the arguments to a prepared statement; they must outlive its walk. Arguments that the text does not name
+/// (those of a condition that was folded away) are passed over.
 void bindAll(SQLiteStatement& statement, const std::vector<SQLBinding>& bindings);
 /// An argument as people read it.
 std::string describeBinding(const SQLBinding& binding);

@@ -14,6 +14,17 @@ namespace tarn {
 namespace {
 
 constexpr std::string_view kPatiencePragma = "busy_timeout";
+/// Collecting and sorting so many rows costs more than walking an index until a list is full.
+constexpr std::int64_t kLargeSet = 2000;
+
+/// How many rows a SELECT gives; at most `limit` are counted.
+std::int64_t countUpTo(SQLiteConnection& connection, const SQLText& select, std::int64_t limit)
+{
+    SQLiteStatement statement
+        = connection.prepare("SELECT count(*) FROM (" + select.sql + " LIMIT " + std::to_string(limit) + ")");
+    bindAll(statement, select.bindings);
+    return statement.step() ? statement.integer(0) : 0;
+}
 
 /// The settings of all connections; "busy_timeout" (milliseconds) is how long our own handler waits.
 SQLiteConnectionOptions connectionOptions(const StoreOptions& options)
@@ -88,9 +99,13 @@ void SQLiteStore::refreshShadows(const StoreMetadata& metadata)
 
 // Reading -------------------------------------------------------------------------------------------------------------
 
-SQLGenerator SQLiteStore::generator() const
+SQLGenerator SQLiteStore::generator(const StoreFetch& fetch, SQLiteConnection& connection) const
 {
-    return {schema_, {identity_, usesShadows_}};
+    SQLConditionOptions options{identity_, usesShadows_, {}};
+    if (fetch.limit > 0 && !fetch.sortDescriptors.empty())
+        options.isLargeSet
+            = [&connection](const SQLText& keys) { return countUpTo(connection, keys, kLargeSet) >= kLargeSet; };
+    return {schema_, std::move(options)};
 }
 
 bool SQLiteStore::fetch(const StoreFetch& fetch, std::vector<StoreRow>& rows, NSError* error)
@@ -98,7 +113,7 @@ bool SQLiteStore::fetch(const StoreFetch& fetch, std::vector<StoreRow>& rows, NS
     return reportingFailure(error, [&] {
         const ReadAccess access = pool_->read();
         const SQLiteRowReader reader(*identity_, selects_, access.connection());
-        const SQLGenerator generator = this->generator();
+        const SQLGenerator generator = this->generator(fetch, access.connection());
         rows = SQLiteFetch(fetch, schema_, generator, reader, access.connection()).rows();
     });
 }
@@ -108,7 +123,7 @@ bool SQLiteStore::count(const StoreFetch& fetch, std::size_t& count, NSError* er
     return reportingFailure(error, [&] {
         const ReadAccess access = pool_->read();
         const SQLiteRowReader reader(*identity_, selects_, access.connection());
-        const SQLGenerator generator = this->generator();
+        const SQLGenerator generator = this->generator(fetch, access.connection());
         count = SQLiteFetch(fetch, schema_, generator, reader, access.connection()).count();
     });
 }
@@ -162,7 +177,7 @@ std::string SQLiteStore::explain(const StoreFetch& fetch)
     const bool explained = reportingFailure(&error, [&] {
         const ReadAccess access = pool_->read();
         const SQLiteRowReader reader(*identity_, selects_, access.connection());
-        const SQLGenerator generator = this->generator();
+        const SQLGenerator generator = this->generator(fetch, access.connection());
         text = SQLiteFetch(fetch, schema_, generator, reader, access.connection()).explain();
     });
     return explained ? text : error.localizedDescription();

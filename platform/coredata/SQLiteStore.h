@@ -51,7 +51,7 @@ private:
     void openFile(bool createIfMissing);
     void checkMetadata(const StoreMetadata& metadata);
     void refreshShadows(const StoreMetadata& metadata);
-    SQLGenerator generator() const;
+    SQLGenerator generator(const StoreFetch& fetch, SQLiteConnection& connection) const;
     void beginWriting();
     void endWriting() noexcept;
     /// Runs `work` in the transaction of this thread, or in a short one of its own.

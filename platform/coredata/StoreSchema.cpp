@@ -4,15 +4,22 @@
 
 namespace tarn {
 
+void appendQuotedIdentifier(std::string& sql, std::string_view text)
+{
+    sql += '"';
+    for (const char c : text) {
+        sql += c;
+        if (c == '"')
+            sql += c;
+    }
+    sql += '"';
+}
+
 std::string quotedIdentifier(std::string_view text)
 {
-    std::string quoted = "\"";
-    for (const char c : text) {
-        quoted += c;
-        if (c == '"')
-            quoted += c;
-    }
-    return quoted += '"';
+    std::string quoted;
+    appendQuotedIdentifier(quoted, text);
+    return quoted;
 }
 
 std::string shadowColumnName(const NSAttributeDescription& attribute)
@@ -187,7 +194,7 @@ void addShadowStatements(
     const std::string stale = table.name + "_" + attribute.name() + "_stale";
     all.push_back(indexStatement(table.name + "_" + shadowColumnName(attribute), table.name, shadow, false));
     // Normally empty: the rows whose folded value has to be made again.
-    all.push_back(indexStatement(stale, table.name, "\"pk\"", false) + " WHERE " + shadow + " IS NULL AND " + column
+    all.push_back(indexStatement(stale, table.name, shadow, false) + " WHERE " + shadow + " IS NULL AND " + column
         + " IS NOT NULL");
     // Another program that changes the attribute knows nothing of its shadow.
     all.push_back("CREATE TRIGGER " + quotedIdentifier(stale) + " AFTER UPDATE OF " + column + " ON "
