@@ -1,10 +1,10 @@
 #include "benchmarks/support/Yardsticks.h"
 
 #include <fcntl.h>
+#include <malloc.h>
 #include <sqlite3.h>
 #include <unistd.h>
 
-#include <fstream>
 #include <random>
 #include <stdexcept>
 
@@ -137,13 +137,10 @@ double secondsForPointLookup(const std::filesystem::path& database)
     return seconds / lookups;
 }
 
-std::size_t residentMemory()
+std::size_t allocatedMemory()
 {
-    std::ifstream status("/proc/self/statm");
-    std::size_t total = 0;
-    std::size_t resident = 0;
-    status >> total >> resident;
-    return resident * static_cast<std::size_t>(::sysconf(_SC_PAGESIZE));
+    const struct mallinfo2 usage = mallinfo2();
+    return usage.uordblks + usage.hblkhd;
 }
 
 } // namespace tarn

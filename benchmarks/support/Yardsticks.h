@@ -21,8 +21,8 @@ double secondsToCommit(const std::filesystem::path& folder);
 double secondsToReadTexts(const std::filesystem::path& database);
 double secondsForPointLookup(const std::filesystem::path& database);
 
-/// Resident memory of this process, in bytes.
-std::size_t residentMemory();
+/// Heap that this process has in use, in bytes.
+std::size_t allocatedMemory();
 
 /// Runs `work` several times and gives the median of the seconds that it took.
 template <typename Work> double medianSeconds(int times, Work&& work);

@@ -22,20 +22,28 @@ void RowLayout::addColumns(const std::vector<StoreColumn>& columns, bool large)
     for (const StoreColumn& column : columns) {
         const NSEntityDescription& declaring = column.property->declaringEntity();
         if (entity_.isKindOfEntity(declaring) || declaring.isKindOfEntity(entity_))
-            columns_.push_back({column.name, column.property, large});
+            columns_.push_back({&column, column.property, large});
     }
 }
 
 std::string RowLayout::columns(std::string_view alias, std::string_view largeAlias) const
 {
-    const auto named = [](std::string_view table, std::string_view column) {
-        return std::string(table) + "." + quotedIdentifier(column);
+    constexpr std::size_t usualLength = 32;
+    std::string sql;
+    sql.reserve((columns_.size() + 3) * usualLength);
+    const auto add = [&sql](std::string_view table, std::string_view column) {
+        if (!sql.empty())
+            sql += ", ";
+        sql += table;
+        sql += '.';
+        appendQuotedIdentifier(sql, column);
     };
-    std::string sql = named(alias, "pk") + ", " + named(alias, "rowVersion");
+    add(alias, "pk");
+    add(alias, "rowVersion");
     if (hasDiscriminator_)
-        sql += ", " + named(alias, "entity");
+        add(alias, "entity");
     for (const Column& column : columns_)
-        sql += ", " + named(column.large ? largeAlias : alias, column.name);
+        add(column.large ? largeAlias : alias, column.stored->name);
     return sql;
 }
 

@@ -14,7 +14,8 @@ class SQLiteStatement;
 
 /// Which columns a SELECT over an entity asks for, and where they go in a row.
 ///
-/// Rows of sub-entities come too, each with the properties of its own entity. Immutable.
+/// Rows of sub-entities come too, each with the properties of its own entity. Immutable; lives no longer than the
+/// schema.
 class RowLayout {
 public:
     /// The rows of `entity`, with the columns that `contents` wants.
@@ -28,7 +29,7 @@ public:
 
 private:
     struct Column {
-        std::string name;
+        const StoreColumn* stored; ///< of the schema
         const NSPropertyDescription* property;
         bool large;
     };

@@ -12,6 +12,8 @@ namespace tarn {
 
 /// `text` as an SQL identifier, in double quotes.
 std::string quotedIdentifier(std::string_view text);
+/// The same, at the end of `sql`.
+void appendQuotedIdentifier(std::string& sql, std::string_view text);
 
 struct StoreTable;
 

@@ -3,6 +3,7 @@
 #include "platform/foundation/EnvironmentInternal.h"
 #include "platform/foundation/NSException.h"
 
+#include <fcntl.h>
 #include <pwd.h>
 #include <sys/random.h>
 #include <unistd.h>
@@ -12,7 +13,6 @@
 #include <cerrno>
 #include <chrono>
 #include <cstdlib>
-#include <fstream>
 #include <system_error>
 #include <vector>
 
@@ -22,12 +22,23 @@ namespace {
 
 constexpr std::size_t kLargestSystemFile = 64 * 1024;
 
+/// Empty when there is no such file. Read with every edit of a note, so without a stream and its buffers.
 std::string readSystemFile(const char* path)
 {
-    std::ifstream file(path, std::ios::binary);
-    std::string text(kLargestSystemFile, '\0');
-    file.read(text.data(), static_cast<std::streamsize>(text.size()));
-    text.resize(static_cast<std::size_t>(file.gcount()));
+    const int file = ::open(path, O_RDONLY | O_CLOEXEC);
+    if (file < 0)
+        return {};
+    std::string text;
+    std::array<char, 512> piece;
+    while (text.size() < kLargestSystemFile) {
+        const ssize_t count = ::read(file, piece.data(), piece.size());
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count <= 0)
+            break;
+        text.append(piece.data(), static_cast<std::size_t>(count));
+    }
+    ::close(file);
     return text;
 }
 
