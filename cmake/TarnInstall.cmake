@@ -29,6 +29,12 @@ install(FILES "${PROJECT_BINARY_DIR}/TarnModelConfig.cmake" "${PROJECT_BINARY_DI
 install(DIRECTORY "${PROJECT_SOURCE_DIR}/resources/" DESTINATION "${CMAKE_INSTALL_DATADIR}/tarnmodel")
 if(TARGET tarn)
   install(TARGETS tarn RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
+  set(tarn_folder "${PROJECT_SOURCE_DIR}/tools/tarn")
+  install(FILES "${tarn_folder}/tarn.1" DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
+  install(FILES "${tarn_folder}/completions/tarn.bash" RENAME tarn
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions")
+  install(FILES "${tarn_folder}/completions/_tarn" DESTINATION "${CMAKE_INSTALL_DATADIR}/zsh/site-functions")
+  install(FILES "${tarn_folder}/completions/tarn.fish" DESTINATION "${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d")
 endif()
 
 # Which headers are public is found out while installing, when the generated ones exist.
