@@ -1,5 +1,7 @@
 # Installs TarnModel.h and every header of ours that it includes, directly or not. Runs at install time, with
 # tarn_source_folder, tarn_generated_folder and tarn_header_folder (relative to the prefix) set.
+cmake_minimum_required(VERSION 3.25)
+
 set(waiting "include/tarnmodel/TarnModel.h")
 set(seen "")
 while(waiting)
