@@ -14,7 +14,7 @@ struct WrongArguments {
 };
 
 const std::vector<WrongArguments> kWrongArguments{
-    {{}, "subcommand"},
+    {{}, "command"},
     {{"nonsense"}, "nonsense"},
     {{"--nonsense"}, "nonsense"},
     {{"list", "--nonsense"}, "nonsense"},

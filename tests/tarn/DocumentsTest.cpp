@@ -35,7 +35,8 @@ protected:
     Documents()
     {
         const std::string help = output({"--help"});
-        commands_ = matchesIn(help.substr(help.find("Subcommands:")), "\n  ([a-z]+) ");
+        const std::size_t list = help.find("Subcommands:");
+        commands_ = matchesIn(help.substr(list, help.find("Examples:") - list), "\n  ([a-z]+) ");
         globalFlags_ = matchesIn(help.substr(0, help.find("Subcommands:")), "(--[a-z]+)");
     }
 

@@ -35,7 +35,7 @@ TEST_F(NoteCommands, PrintANoteWithItsAttributesAsKeys)
         run({"--json", "new", "# Pears\n\nGreen.\n\n- [ ] buy\n\n#home/kitchen"}).output);
     EXPECT_EQ(keysOf(note), kNoteKeys);
     EXPECT_EQ(note.at("title"), "Pears");
-    EXPECT_EQ(note.at("subtitle"), "Green. buy #home/kitchen") << "or whatever the parser says";
+    EXPECT_EQ(note.at("subtitle"), "Green.");
     EXPECT_EQ(note.at("tags"), nlohmann::json({"home", "home/kitchen"}));
     EXPECT_EQ(note.at("version"), 3);
     EXPECT_EQ(note.at("todoIncompleted"), 1);
@@ -218,8 +218,8 @@ TEST_F(NoteCommands, SearchWordsAndTags)
         return found;
     };
     using Titles = std::vector<std::string>;
-    EXPECT_EQ(titles({"APFEL"}), Titles{"Work"}) << "a substring, and Äpfel is one with another ending";
-    EXPECT_EQ(titles({"apfe"}), (Titles{"Work"}));
+    EXPECT_EQ(titles({"APFEL"}), (Titles{"Garden", "Work"}));
+    EXPECT_EQ(titles({"äpfel"}), (Titles{"Garden", "Work"}));
     EXPECT_EQ(titles({"pfel"}), (Titles{"Garden", "Work"}));
     EXPECT_EQ(titles({"pfel birnen"}), Titles{"Garden"});
     EXPECT_EQ(titles({"pfel", "birnen"}), Titles{"Garden"});

@@ -145,7 +145,7 @@ TEST_F(StoreSafety, AStoreOfAnotherModelNeedsMigration)
 {
     note("# A");
     // As another version would have left it.
-    damage("UPDATE metadata SET value = '0000000000000000' WHERE key LIKE '%OVNoteTag%'");
+    damage("UPDATE store_metadata SET value = '0000000000000000' WHERE key LIKE '%OVNoteTag%'");
     const TarnResult result = run({"list"});
     EXPECT_EQ(result.exitCode, 4) << result.errors;
     EXPECT_NE(result.errors.find("migrated"), std::string::npos) << result.errors;

@@ -26,6 +26,18 @@ TEST_F(Streams, AFullDiskBehindStandardOutputIsTold)
     EXPECT_NE(result.errors.find("standard output"), std::string::npos) << result.errors;
 }
 
+TEST_F(Streams, AProgramStartedWithoutStreamsWritesNothingIntoItsStore)
+{
+    note("# A");
+    for (const char* command : {"list", "new", "stats"}) {
+        TarnProcess process(arguments({command}));
+        process.closeStandardStreams();
+        EXPECT_EQ(process.finish().exitCode, 6) << command;
+    }
+    EXPECT_EQ(run({"doctor"}).exitCode, 0);
+    EXPECT_EQ(json({"list"}).at("count"), 2);
+}
+
 TEST_F(Streams, ALongInputIsReadToItsEnd)
 {
     const std::string text = "# Long\n\n" + std::string(5'000'000, 'y') + " end";

@@ -56,6 +56,10 @@ void TarnProcess::runInChild(int input, int output, int errors) const
     ::dup2(input, STDIN_FILENO);
     ::dup2(outputFile_.empty() ? output : ::open(outputFile_.c_str(), O_WRONLY | O_CREAT, 0600), STDOUT_FILENO);
     ::dup2(errors, STDERR_FILENO);
+    if (closed_) {
+        for (int descriptor = 0; descriptor <= STDERR_FILENO; ++descriptor)
+            ::close(descriptor);
+    }
     ::signal(SIGPIPE, SIG_DFL);
     std::vector<std::string> assignments;
     for (const auto& [name, value] : variables_)

@@ -30,6 +30,8 @@ public:
 
     void setVariable(const std::string& name, const std::string& value) { variables_[name] = value; }
     void setInput(std::string input) { input_ = std::move(input); }
+    /// Starts it without standard input, output and error.
+    void closeStandardStreams() { closed_ = true; }
     /// Standard output goes to this file instead.
     void setOutputFile(const std::filesystem::path& file) { outputFile_ = file; }
 
@@ -49,6 +51,7 @@ private:
     std::map<std::string, std::string> variables_;
     std::string input_;
     std::filesystem::path outputFile_;
+    bool closed_ = false;
     pid_t pid_ = -1;
     int inputPipe_ = -1;
     int outputPipe_ = -1;

@@ -40,6 +40,14 @@ std::string footerOf(const CommandDescription& description)
     return footer + "\n\nOptions of every command: --store DIR, --json (see 'tarn --help').";
 }
 
+/// CLI11 only says that a subcommand is required, whatever was written in the place of one.
+std::string commandProblemOf(const std::vector<std::string>& remaining)
+{
+    if (remaining.empty())
+        return "a command is missing; see 'tarn --help'";
+    return "there is no command or option \"" + unshielded(remaining.front()) + "\"; see 'tarn --help'";
+}
+
 std::string adviceFor(const CLI::ParseError& error)
 {
     if (dynamic_cast<const CLI::ExtrasError*>(&error))
@@ -160,13 +168,14 @@ ExitCode CommandLine::parseAndRun(const std::vector<std::string>& arguments)
     try {
         application_.parse(std::move(reversed));
     } catch (const CLI::CallForHelp&) {
-        const auto named = application_.get_subcommands();
-        invocation_.output.write(named.empty() ? application_.help() : named.front()->help());
+        invocation_.output.write(application_.help());
         return ExitCode::Done;
     } catch (const CLI::CallForVersion& version) {
         invocation_.output.writeLine(version.what());
         return ExitCode::Done;
     } catch (const CLI::ParseError& error) {
+        if (application_.get_subcommands().empty() && dynamic_cast<const CLI::RequiredError*>(&error))
+            throw CommandFailure(ExitCode::Usage, commandProblemOf(application_.remaining()));
         throw CommandFailure(ExitCode::Usage, singleLine(error.what()) + adviceFor(error));
     }
     if (application_.count("--store") > 0)

@@ -155,7 +155,8 @@ void addSearchCommand(CommandLine& commandLine)
             .explanation
             = "Every word must be in the text (of an encrypted note: in the title), in any case, with or without\n"
               "accents. #tag asks for a tag, '#tag of words#' for one with blanks; -word and -#tag for notes\n"
-              "without. A query that begins with \"-\" goes after \"--\". Trashed and archived notes are left out.",
+              "without. A query that begins with \"-\" goes after \"--\". Trashed and archived notes are left out.\n"
+              "--json prints count, notes and predicate; highlight and editorTerm are not told yet.",
             .examples = {"tarn search garden", "tarn search '#home/kitchen tiles -blue'", "tarn search -- -#work"}},
         [options](const Invocation& invocation) { return search(invocation, *options); });
     command.add_option("--limit", options->limit, "At most so many notes")

@@ -1,11 +1,15 @@
+#include "platform/foundation/Log.h"
 #include "tools/tarn/CommandLine.h"
 #include "tools/tarn/Commands.h"
+#include "tools/tarn/StandardStreams.h"
 
 #include <unistd.h>
 
 int main(int count, char** values)
 {
     using namespace tarn;
+    reserveStandardStreams();
+    setLogSink(tellOnStandardError);
     Output output(STDOUT_FILENO);
     CommandLine commandLine(output);
     addCommands(commandLine);
