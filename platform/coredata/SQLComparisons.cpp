@@ -205,7 +205,17 @@ Condition SQLConditionBuilder::equality(
         const std::string test = stringTest(left.sql, ComparisonOperator::EqualTo, options, value->asString());
         return negated ? "NOT " + test : test;
     }
-    return left.sql + (negated ? " IS NOT " : " = ") + text_.bind(*scalarBinding(*value));
+    const std::string wanted = (negated ? " IS NOT " : " = ") + text_.bind(*scalarBinding(*value));
+    return flagPrefix(left, wanted) + left.sql + wanted;
+}
+
+/// Half of the rows have a flag, or nearly all: an index that begins with it would collect and sort them. The plus
+/// keeps SQLite from that.
+std::string SQLConditionBuilder::flagPrefix(const Operand& left, const std::string& wanted) const
+{
+    if (left.flagSelect.empty())
+        return {};
+    return options_.isLargeSet({left.flagSelect + wanted, text_.bindings}) ? "+" : "";
 }
 
 /// Rows whose shadow another program has made stale are looked at one by one; normally there are none.

@@ -188,8 +188,9 @@ std::optional<SQLPathEnd> SQLConditionBuilder::pathEnd(const Expression& express
 SQLConditionBuilder::Operand SQLConditionBuilder::operandAt(SQLPathEnd& end)
 {
     if (!end.attribute)
-        return {end.place.key, Kind::Object, end.place.entity, {}, true};
-    Operand operand{paths_.column(end.place, *end.attribute), Kind::Number, nullptr, {}, end.attribute->isIndexed()};
+        return {end.place.key, Kind::Object, end.place.entity, {}, true, {}};
+    Operand operand{paths_.column(end.place, *end.attribute), Kind::Number, nullptr, {}, end.attribute->isIndexed(),
+        flagSelect(end)};
     if (end.attribute->type() == NSAttributeType::String)
         operand.kind = Kind::String;
     else if (end.attribute->type() == NSAttributeType::Date)
@@ -199,6 +200,22 @@ SQLConditionBuilder::Operand SQLConditionBuilder::operandAt(SQLPathEnd& end)
     if (options_.usesShadows && hasShadowColumn(*end.attribute))
         operand.shadow = paths_.shadowColumn(end.place, *end.attribute);
     return operand;
+}
+
+std::string SQLConditionBuilder::flagSelect(const SQLPathEnd& end) const
+{
+    const bool isOfWalkedRow = end.place.path.empty() && end.place.scope->outer == nullptr;
+    if (!options_.isLargeSet || !isOfWalkedRow || end.attribute->type() != NSAttributeType::Boolean
+        || end.attribute->name() == options_.firstSortKey)
+        return {};
+    const auto& indexes = end.attribute->declaringEntity().indexes();
+    const auto startsWithFlag = [&](const IndexDescription& index) {
+        return !index.columns.empty() && index.columns.front().property == end.attribute->name();
+    };
+    if (!end.attribute->isIndexed() && std::none_of(indexes.begin(), indexes.end(), startsWithFlag))
+        return {};
+    return "SELECT 1 FROM " + quotedIdentifier(paths_.schema().table(*end.place.entity).name) + " WHERE "
+        + quotedIdentifier(end.attribute->name());
 }
 
 std::optional<SQLConditionBuilder::Operand> SQLConditionBuilder::operand(const Expression& expression, SQLScope& scope)

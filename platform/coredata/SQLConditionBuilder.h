@@ -20,6 +20,8 @@ struct SQLConditionOptions {
     /// Whether a SELECT of keys gives so many that it is better to walk the order asked for and test each row. Unset:
     /// never.
     std::function<bool(const SQLText& keys)> isLargeSet;
+    /// The attribute that the order begins with: its own index gives the rows in that order.
+    std::string firstSortKey;
 };
 
 /// Turns predicates into SQL conditions that pick exactly the same rows as the evaluator, or says that it cannot.
@@ -54,6 +56,7 @@ private:
         const NSEntityDescription* entity = nullptr; ///< of an object
         std::string shadow;                          ///< column of the folded value, where there is one
         bool indexed = false;
+        std::string flagSelect; ///< of a flag that leads an index of the walked table: "SELECT 1 FROM ... WHERE <flag>"
     };
     /// Members of a collection, for `member IN (...)` or EXISTS.
     struct Members {
@@ -77,6 +80,7 @@ private:
     Condition compareOperands(
         const Operand& left, const ComparisonPredicate& predicate, const Operand& right, bool negated);
     Condition equality(const Operand& left, const Value& right, ComparisonOptions options, bool negated);
+    std::string flagPrefix(const Operand& left, const std::string& wanted) const;
     Condition foldedEquality(const Operand& left, const std::string& right, bool negated);
     Condition order(
         const Operand& left, ComparisonOperator operation, const Value& right, ComparisonOptions options, bool negated);
@@ -103,6 +107,7 @@ private:
     // Where things stand.
     std::optional<Operand> operand(const Expression& expression, SQLScope& scope);
     Operand operandAt(SQLPathEnd& end);
+    std::string flagSelect(const SQLPathEnd& end) const;
     std::optional<SQLPathEnd> pathEnd(const Expression& expression, SQLScope& scope);
     SQLScope* scopeOf(const Expression& base, SQLScope& scope) const;
     std::optional<std::int64_t> keyInStore(const Value& object, const NSEntityDescription& entity) const;

@@ -317,6 +317,11 @@ bool SQLiteConnection::isInTransaction() const noexcept
     return sqlite3_get_autocommit(handle_) == 0;
 }
 
+bool SQLiteConnection::isReadOnly() const noexcept
+{
+    return sqlite3_db_readonly(handle_, "main") == 1;
+}
+
 void SQLiteConnection::rollBack() noexcept
 {
     // SQLite has rolled back by itself after some failures; a second ROLLBACK is then an error without meaning.

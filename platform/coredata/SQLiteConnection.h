@@ -98,6 +98,8 @@ public:
     /// Rows that the last INSERT, UPDATE or DELETE changed.
     std::int64_t changedRowCount() const noexcept;
     bool isInTransaction() const noexcept;
+    /// Whether the system lets this process only read the file. SQLite would begin a "write" transaction all the same.
+    bool isReadOnly() const noexcept;
     /// Ends a transaction without keeping anything of it; never fails.
     void rollBack() noexcept;
     /// How many prepared statements are on loan.

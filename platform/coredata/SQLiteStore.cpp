@@ -61,6 +61,7 @@ SQLiteStore::SQLiteStore(
 void SQLiteStore::openFile(bool createIfMissing)
 {
     SQLiteConnection& connection = pool_->writer();
+    readOnly_ = readOnly_ || connection.isReadOnly();
     StoreFileContents contents = contentsOfStoreFile(connection);
     if (contents == StoreFileContents::Nothing && createIfMissing) {
         createStoreTables(connection, schema_, *model_);
@@ -101,10 +102,12 @@ void SQLiteStore::refreshShadows(const StoreMetadata& metadata)
 
 SQLGenerator SQLiteStore::generator(const StoreFetch& fetch, SQLiteConnection& connection) const
 {
-    SQLConditionOptions options{identity_, usesShadows_, {}};
-    if (fetch.limit > 0 && !fetch.sortDescriptors.empty())
+    SQLConditionOptions options{identity_, usesShadows_, {}, {}};
+    if (fetch.limit > 0 && !fetch.sortDescriptors.empty()) {
+        options.firstSortKey = fetch.sortDescriptors.front().key;
         options.isLargeSet
             = [&connection](const SQLText& keys) { return countUpTo(connection, keys, kLargeSet) >= kLargeSet; };
+    }
     return {schema_, std::move(options)};
 }
 
