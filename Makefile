@@ -7,7 +7,7 @@
 SHELL := /bin/bash
 .SHELLFLAGS := -euo pipefail -c
 .DEFAULT_GOAL := help
-.PHONY: demo test format format-check tidy bench asan tsan fuzz coverage install help clean
+.PHONY: demo test test-slow format format-check tidy bench asan tsan fuzz coverage install help clean
 
 JOBS ?= $(shell nproc)
 PREFIX ?= /usr/local
@@ -27,11 +27,17 @@ demo: ## build `tarn`, import notes into a new store, list and search them (NOTE
 	cmake --build --preset release --target tarn
 	scripts/demo.sh build/release build/demo "$(NOTES)"
 
-test: ## build the library, the tools and the tests, and run all tests
+test: ## build the library, the tools and the tests, and run all tests but the slow ones
 	@scripts/install-dependencies.sh build tests
 	scripts/configure.sh dev
 	cmake --build --preset dev
-	ctest --preset dev
+	ctest --preset dev --label-exclude slow
+
+test-slow: ## the tests that compile again: each public header alone, and programs that use the library
+	@scripts/install-dependencies.sh build tests
+	scripts/configure.sh dev
+	cmake --build --preset dev
+	ctest --preset dev --label-regex slow
 
 format: ## lay out all sources by .clang-format
 	@scripts/install-dependencies.sh format

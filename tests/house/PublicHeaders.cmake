@@ -28,6 +28,6 @@ target_compile_options(house_public_headers PRIVATE -O0 -g0)
 # Some headers are generated: all by one command, so one stands for all.
 set_source_files_properties(${sources} PROPERTIES OBJECT_DEPENDS "${PROJECT_BINARY_DIR}/generated/model/_OVNote.h")
 
-house_case(EveryPublicHeaderCompilesAlone TIMEOUT 600
+house_case(EveryPublicHeaderCompilesAlone TIMEOUT 900 LABELS slow
   COMMAND "${CMAKE_COMMAND}" --build "${PROJECT_BINARY_DIR}" --target house_public_headers)
 set_tests_properties("house/EveryPublicHeaderCompilesAlone" PROPERTIES RESOURCE_LOCK build_folder)
