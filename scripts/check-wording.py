@@ -14,10 +14,10 @@ import sys
 
 RULES = [
     (re.compile(r"\b(TODO|FIXME|XXX|HACK)\b(?!s)"), "unfinished work belongs into an issue, not into a text"),
-    (re.compile(r"(?<![\w./-])/(work|root|home/\w+|Users/\w+)/"), "a path of one machine"),
+    (re.compile(r"(?<![\w./-])/(work|workspace|root|home/\w+|Users/\w+)/"), "a path of one machine"),
     (re.compile(r"(?<![\w./-])/tmp/(?!\w*\b(tarn|XXXX))\w"), "a path of one machine"),
     (re.compile(r"\bbuild-[a-z]+/"), "a build folder of one person; presets build below build/"),
-    (re.compile(r"\b(deb\.debian\.org|security\.debian\.org|registry\.npmjs\.org|pypi\.org|crates\.io)\b"), "a registry host"),
+    (re.compile(r"\b(registry|mirrors?|deb|security|packages?|index)\.[a-z-]+\.(org|com|net|io)\b"), "a registry host"),
     (re.compile(r"\bhttps?://(localhost|127\.0\.0\.1|10\.\d+\.\d+\.\d+|192\.168\.\d+\.\d+)\b"), "a host of one network"),
     (re.compile(r"^(<{7}|>{7}) "), "a merge that was not finished"),
 ]
