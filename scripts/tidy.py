@@ -68,7 +68,7 @@ def main():
                 if not known:
                     print(line.replace(f"{ROOT}/", ""), flush=True)
             if code != 0 and not output:
-                print(f"{name}: {errors.strip()}", flush=True)
+                print(f"{name}: clang-tidy ended with {code} {errors.strip()}", flush=True)
     print(f"clang-tidy looked at {len(names)} sources and found {len(seen)} things.")
     return 1 if failed else 0
 
