@@ -10,11 +10,11 @@ RowLayout::RowLayout(const StoreSchema& schema, const NSEntityDescription& entit
       hasLargeColumns_(!schema.table(entity).largeColumns.empty())
 {
     firstValue_ = hasDiscriminator_ ? 3 : 2; // after pk, rowVersion, entity
-    if (contents == RowContents::Keys)
-        return;
-    addColumns(schema.table(entity).columns, false);
+    if (contents != RowContents::Keys)
+        addColumns(schema.table(entity).columns, false);
     if (contents == RowContents::WholeRow)
         addColumns(schema.table(entity).largeColumns, true);
+    columnList_ = listOfColumns();
 }
 
 void RowLayout::addColumns(const std::vector<StoreColumn>& columns, bool large)
@@ -26,7 +26,7 @@ void RowLayout::addColumns(const std::vector<StoreColumn>& columns, bool large)
     }
 }
 
-std::string RowLayout::columns(std::string_view alias, std::string_view largeAlias) const
+std::string RowLayout::listOfColumns() const
 {
     constexpr std::size_t usualLength = 32;
     std::string sql;
@@ -38,12 +38,12 @@ std::string RowLayout::columns(std::string_view alias, std::string_view largeAli
         sql += '.';
         appendQuotedIdentifier(sql, column);
     };
-    add(alias, "pk");
-    add(alias, "rowVersion");
+    add(rowAlias, "pk");
+    add(rowAlias, "rowVersion");
     if (hasDiscriminator_)
-        add(alias, "entity");
+        add(rowAlias, "entity");
     for (const Column& column : columns_)
-        add(column.large ? largeAlias : alias, column.stored->name);
+        add(column.large ? largeAlias : rowAlias, column.stored->name);
     return sql;
 }
 

@@ -18,11 +18,14 @@ class SQLiteStatement;
 /// schema.
 class RowLayout {
 public:
+    static constexpr std::string_view rowAlias = "t0";
+    static constexpr std::string_view largeAlias = "large";
+
     /// The rows of `entity`, with the columns that `contents` wants.
     RowLayout(const StoreSchema& schema, const NSEntityDescription& entity, RowContents contents);
 
-    /// The columns of a SELECT; `alias` names the table, `largeAlias` the one with the large attributes.
-    std::string columns(std::string_view alias, std::string_view largeAlias) const;
+    /// The columns of a SELECT in which `rowAlias` names the table, and `largeAlias` the one with the large attributes.
+    const std::string& columnList() const noexcept { return columnList_; }
     bool readsLargeTable() const noexcept { return contents_ == RowContents::WholeRow && hasLargeColumns_; }
     /// The row on which the statement stands.
     StoreRow read(const SQLiteStatement& statement) const;
@@ -35,6 +38,7 @@ private:
     };
 
     void addColumns(const std::vector<StoreColumn>& columns, bool large);
+    std::string listOfColumns() const;
     const NSEntityDescription& concreteEntity(const SQLiteStatement& statement) const;
 
     const NSEntityDescription& entity_;
@@ -43,6 +47,7 @@ private:
     bool hasLargeColumns_;
     int firstValue_ = 0;
     std::vector<Column> columns_;
+    std::string columnList_;
 };
 
 } // namespace tarn

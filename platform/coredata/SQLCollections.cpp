@@ -140,41 +140,72 @@ Condition SQLConditionBuilder::count(
 
 // Their SELECTs -------------------------------------------------------------------------------------------------------
 
-/// SELECT of the members, or of the rows of the join table that lead to them.
-std::string SQLConditionBuilder::memberSelect(const Members& members, std::string_view columns, bool correlated) const
+/// SELECT of the members themselves.
+std::string SQLConditionBuilder::memberKeys(const Members& members) const
 {
     const SQLScope& scope = *members.scope;
-    const std::string& alias = scope.alias;
-    const std::string table = quotedIdentifier(paths_.schema().table(*scope.entity).name) + " AS " + alias;
-    const bool joins = members.relationship->storage() == RelationshipStorage::JoinTable;
-    if (!joins) {
-        const std::string owner = alias + "." + quotedIdentifier(members.relationship->inverseRelationship().name());
-        const std::string start = "SELECT " + (columns.empty() ? owner : std::string(columns)) + " FROM " + table
-            + scope.joinSQL() + " WHERE " + owner + (correlated ? " = " + members.owner.key : " IS NOT NULL");
-        return withCondition(start, " AND ", members.condition);
-    }
-    const JoinDirection direction = joinDirection(paths_.schema(), *members.relationship);
-    const std::string link = alias + "j";
-    const std::string from = link + ".\"" + std::string(direction.from) + "\"";
-    const std::string to = link + ".\"" + std::string(direction.to) + "\"";
-    std::string sql = "SELECT " + (columns.empty() ? from : std::string(columns)) + " FROM "
-        + quotedIdentifier(direction.table->name) + " AS " + link;
-    if (correlated) {
-        if (members.condition != always)
-            sql += " JOIN " + table + " ON " + alias + ".\"pk\" = " + to + scope.joinSQL();
-        return withCondition(sql + " WHERE " + from + " = " + members.owner.key, " AND ", members.condition);
-    }
-    return sql + " WHERE " + to + " IN (SELECT " + alias + ".\"pk\" FROM " + table + scope.joinSQL() + " WHERE "
-        + members.condition + ")";
+    return "SELECT " + scope.alias + ".\"pk\" FROM " + quotedIdentifier(paths_.schema().table(*scope.entity).name)
+        + " AS " + scope.alias + scope.joinSQL() + " WHERE " + members.condition;
 }
 
-/// Only sets of the walked rows themselves, and only where finding them costs little.
-bool SQLConditionBuilder::isBetterWalked(const Members& members, const std::string& select) const
+/// SELECT of a foreign key's rows: of the owners of all members, or of the members of the owner at hand.
+std::string SQLConditionBuilder::columnSelect(const Members& members, std::string_view columns, SelectForm form) const
 {
+    const SQLScope& scope = *members.scope;
+    const std::string owner = scope.alias + "." + quotedIdentifier(members.relationship->inverseRelationship().name());
+    const std::string start = "SELECT " + (columns.empty() ? owner : std::string(columns)) + " FROM "
+        + quotedIdentifier(paths_.schema().table(*scope.entity).name) + " AS " + scope.alias + scope.joinSQL()
+        + " WHERE " + owner + (form == SelectForm::AllOwners ? " IS NOT NULL" : " = " + members.owner.key);
+    return withCondition(start, " AND ", members.condition);
+}
+
+/// The same by the rows of a join table.
+std::string SQLConditionBuilder::joinSelect(const Members& members, std::string_view columns, SelectForm form) const
+{
+    const SQLScope& scope = *members.scope;
+    const JoinDirection direction = joinDirection(paths_.schema(), *members.relationship);
+    const std::string link = scope.alias + "j";
+    const std::string from = link + ".\"" + std::string(direction.from) + "\"";
+    const std::string to = link + ".\"" + std::string(direction.to) + "\"";
+    const std::string start = "SELECT " + (columns.empty() ? from : std::string(columns)) + " FROM "
+        + quotedIdentifier(direction.table->name) + " AS " + link;
+    if (form == SelectForm::AllOwners)
+        return start + " WHERE " + to + " IN (" + memberKeys(members) + ")";
+    const std::string ofOwner = " WHERE " + from + " = " + members.owner.key;
+    if (members.condition == always)
+        return start + ofOwner;
+    // The plus makes SQLite look at the few members of the owner, not at each of the set.
+    if (form == SelectForm::OfOwnerInSet)
+        return start + ofOwner + " AND +" + to + " IN (" + memberKeys(members) + ")";
+    return start + " JOIN " + quotedIdentifier(paths_.schema().table(*scope.entity).name) + " AS " + scope.alias
+        + " ON " + scope.alias + ".\"pk\" = " + to + scope.joinSQL() + ofOwner + " AND " + members.condition;
+}
+
+std::string SQLConditionBuilder::memberSelect(const Members& members, std::string_view columns, SelectForm form) const
+{
+    return members.relationship->storage() == RelationshipStorage::JoinTable ? joinSelect(members, columns, form)
+                                                                             : columnSelect(members, columns, form);
+}
+
+/// How to find out whether an owner has such a member:
+///
+/// - few members: find them first, then their owners
+/// - many members, or a condition that depends on the owner: look at the members of each owner
+/// - few members with many owners, while an order is walked: look whether a member of each owner is one of them
+SQLConditionBuilder::SelectForm SQLConditionBuilder::selectForm(const Members& members) const
+{
+    if (members.scope->readsOuter || members.condition == always)
+        return SelectForm::OfOwner;
+    // What needs other tables too is not worth being looked for twice.
+    if (!options_.isLargeSet || !members.scope->joins.empty())
+        return SelectForm::AllOwners;
+    if (options_.isLargeSet({memberKeys(members), text_.bindings}))
+        return SelectForm::OfOwner;
     const bool isOfWalkedRow = members.owner.path.empty() && members.owner.scope->outer == nullptr;
-    if (!options_.isLargeSet || !isOfWalkedRow || !members.scope->joins.empty())
-        return false;
-    return options_.isLargeSet({select, text_.bindings});
+    if (!options_.walksOrder || !isOfWalkedRow)
+        return SelectForm::AllOwners;
+    const bool hasManyOwners = options_.isLargeSet({memberSelect(members, {}, SelectForm::AllOwners), text_.bindings});
+    return hasManyOwners ? SelectForm::OfOwnerInSet : SelectForm::AllOwners;
 }
 
 std::string SQLConditionBuilder::existence(const Members& members, bool negated) const
@@ -182,19 +213,17 @@ std::string SQLConditionBuilder::existence(const Members& members, bool negated)
     if (members.condition == never)
         return std::string(negated ? always : never);
     const std::string prefix = negated ? "NOT " : "";
-    if (members.scope->readsOuter || members.condition == always)
-        return prefix + "EXISTS (" + memberSelect(members, "1", true) + ")";
-    const std::string select = memberSelect(members, {}, false);
-    // The plus keeps SQLite from collecting the rows by their keys and sorting them all.
-    const std::string plus = !negated && isBetterWalked(members, select) ? "+" : "";
-    const std::string found = plus + members.owner.key + " " + prefix + "IN (" + select + ")";
+    const SelectForm form = selectForm(members);
+    if (form != SelectForm::AllOwners)
+        return prefix + "EXISTS (" + memberSelect(members, "1", form) + ")";
+    const std::string found = members.owner.key + " " + prefix + "IN (" + memberSelect(members, {}, form) + ")";
     const bool ownerMayBeMissing = !members.owner.path.empty();
     return negated && ownerMayBeMissing ? "(" + members.owner.key + " IS NULL OR " + found + ")" : found;
 }
 
 std::string SQLConditionBuilder::numberOf(const Members& members) const
 {
-    return "(" + memberSelect(members, "count(*)", true) + ")";
+    return "(" + memberSelect(members, "count(*)", SelectForm::OfOwner) + ")";
 }
 
 } // namespace tarn

@@ -17,9 +17,10 @@ struct SQLConditionOptions {
     const StoreIdentity* store = nullptr; ///< records of other stores equal no row
     /// NO while the shadow columns were made by another version of folding.
     bool usesShadows = true;
-    /// Whether a SELECT of keys gives so many that it is better to walk the order asked for and test each row. Unset:
-    /// never.
-    std::function<bool(const SQLText& keys)> isLargeSet;
+    /// Whether a SELECT gives so many rows that others should be looked at instead. Unset: never.
+    std::function<bool(const SQLText& select)> isLargeSet;
+    /// An order is asked for, and only its first rows: an index may be walked until there are enough.
+    bool walksOrder = false;
     /// The attribute that the order begins with: its own index gives the rows in that order.
     std::string firstSortKey;
 };
@@ -66,6 +67,13 @@ private:
         std::string condition;
     };
 
+    /// What a SELECT over members gives.
+    enum class SelectForm : std::uint8_t {
+        AllOwners,    ///< the owners of all members, for IN
+        OfOwner,      ///< the members of the owner at hand, for EXISTS
+        OfOwnerInSet, ///< the same, the members found first
+    };
+
     // The tree (SQLConditionBuilder.cpp).
     Condition compound(const CompoundPredicate& predicate, SQLScope& scope, bool negated);
     Condition membersOfCompound(
@@ -100,9 +108,12 @@ private:
         SQLScope& scope, bool negated);
     std::optional<Members> membersOfCollection(const CountExpression& expression, SQLScope& scope, SQLScope& member);
     std::string existence(const Members& members, bool negated) const;
-    bool isBetterWalked(const Members& members, const std::string& select) const;
     std::string numberOf(const Members& members) const;
-    std::string memberSelect(const Members& members, std::string_view columns, bool correlated) const;
+    SelectForm selectForm(const Members& members) const;
+    std::string memberSelect(const Members& members, std::string_view columns, SelectForm form) const;
+    std::string columnSelect(const Members& members, std::string_view columns, SelectForm form) const;
+    std::string joinSelect(const Members& members, std::string_view columns, SelectForm form) const;
+    std::string memberKeys(const Members& members) const;
 
     // Where things stand.
     std::optional<Operand> operand(const Expression& expression, SQLScope& scope);

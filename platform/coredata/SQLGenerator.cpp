@@ -1,5 +1,6 @@
 #include "platform/coredata/SQLGenerator.h"
 
+#include "platform/coredata/PredicateKeys.h"
 #include "platform/coredata/RowLayout.h"
 #include "platform/foundation/NSException.h"
 
@@ -42,6 +43,14 @@ std::vector<std::string> splitKeyPath(std::string_view keyPath)
     return keys;
 }
 
+/// What has to be read so that the evaluator finds the values of the row itself there.
+RowContents contentsForRemainder(const NSPredicate& remainder, const NSEntityDescription& entity, RowContents wanted)
+{
+    if (readsLargeAttribute(remainder, entity))
+        return RowContents::WholeRow;
+    return wanted == RowContents::Keys ? RowContents::Row : wanted;
+}
+
 /// The members of a top-level AND; the predicate itself where it is none.
 std::vector<PredicateNodePtr> conjuncts(const NSPredicate& predicate)
 {
@@ -73,17 +82,17 @@ struct SQLGenerator::Parts {
 
 GeneratedSelect SQLGenerator::rows(const StoreFetch& fetch, RowContents& contents) const
 {
-    Parts parts(schema_);
+    Parts parts(selects_.schema());
     parts.scope.alias = parts.paths.newAlias();
     parts.scope.entity = fetch.entity;
     const std::string condition = where(fetch, parts);
     const std::string order = orderBy(fetch, parts);
-    if (parts.select.remainder && contents == RowContents::Keys)
-        contents = RowContents::Row;
-    const RowLayout layout(schema_, *fetch.entity, contents);
-    const StoreTable& table = schema_.table(*fetch.entity);
-    std::string sql = "SELECT " + layout.columns(parts.scope.alias, "large") + " FROM " + quotedIdentifier(table.name)
-        + " AS " + parts.scope.alias + parts.scope.joinSQL();
+    if (parts.select.remainder)
+        contents = contentsForRemainder(*parts.select.remainder, *fetch.entity, contents);
+    const RowLayout& layout = selects_.layout(*fetch.entity, contents);
+    const StoreTable& table = selects_.schema().table(*fetch.entity);
+    std::string sql = "SELECT " + layout.columnList() + " FROM " + quotedIdentifier(table.name) + " AS "
+        + parts.scope.alias + parts.scope.joinSQL();
     if (layout.readsLargeTable())
         sql += " LEFT JOIN " + quotedIdentifier(table.largeName) + " AS large ON large.\"pk\" = " + parts.scope.alias
             + ".\"pk\"";
@@ -100,11 +109,11 @@ GeneratedSelect SQLGenerator::rows(const StoreFetch& fetch, RowContents& content
 
 GeneratedSelect SQLGenerator::count(const StoreFetch& fetch) const
 {
-    Parts parts(schema_);
+    Parts parts(selects_.schema());
     parts.scope.alias = parts.paths.newAlias();
     parts.scope.entity = fetch.entity;
     const std::string condition = where(fetch, parts);
-    const StoreTable& table = schema_.table(*fetch.entity);
+    const StoreTable& table = selects_.schema().table(*fetch.entity);
     parts.select.text.sql = "SELECT count(*) FROM " + quotedIdentifier(table.name) + " AS " + parts.scope.alias
         + parts.scope.joinSQL() + condition;
     return std::move(parts.select);

@@ -3,7 +3,7 @@
 #include "platform/coredata/NSPersistentStore.h"
 #include "platform/coredata/SQLConditionBuilder.h"
 #include "platform/coredata/SQLText.h"
-#include "platform/coredata/StoreSchema.h"
+#include "platform/coredata/StoreSelects.h"
 
 #include <optional>
 #include <string>
@@ -25,7 +25,8 @@ struct GeneratedSelect {
 /// Raises `NSException` for keys that do not exist and for keys that cannot be sorted by.
 class SQLGenerator {
 public:
-    SQLGenerator(const StoreSchema& schema, SQLConditionOptions options) : schema_(schema), options_(std::move(options))
+    SQLGenerator(const StoreSelects& selects, SQLConditionOptions options)
+        : selects_(selects), options_(std::move(options))
     { }
 
     /// SELECT of rows in the order asked for, as a `RowLayout` for these contents reads them; with a remainder,
@@ -41,7 +42,7 @@ private:
     void addPredicate(const NSPredicate& predicate, Parts& parts, std::vector<std::string>& conditions) const;
     std::string orderBy(const StoreFetch& fetch, Parts& parts) const;
 
-    const StoreSchema& schema_;
+    const StoreSelects& selects_;
     SQLConditionOptions options_;
 };
 

@@ -14,7 +14,7 @@ std::vector<StoreRow> SQLiteFetch::rows()
     const GeneratedSelect select = generator_.rows(fetch_, contents);
     if (select.remainder)
         return evaluatedRows(select, contents);
-    const RowLayout layout(schema_, *fetch_.entity, contents);
+    const RowLayout& layout = selects_.layout(*fetch_.entity, contents);
     std::vector<StoreRow> rows;
     SQLiteStatement statement = connection_.prepare(select.text.sql);
     bindAll(statement, select.text.bindings);
@@ -41,7 +41,7 @@ std::vector<StoreRow> SQLiteFetch::evaluatedRows(const GeneratedSelect& select, 
     checkKeysOfPredicate(*select.remainder, *fetch_.entity);
     PredicateEvaluator evaluator(*select.remainder);
     RowGraph graph(reader_);
-    const RowLayout layout(schema_, *fetch_.entity, contents);
+    const RowLayout& layout = selects_.layout(*fetch_.entity, contents);
     std::vector<StoreRow> rows;
     std::size_t skipped = 0;
     SQLiteStatement statement = connection_.prepare(select.text.sql);
@@ -68,7 +68,7 @@ std::size_t SQLiteFetch::count()
         StoreFetch keys = fetch_;
         keys.contents = RowContents::Keys;
         keys.sortDescriptors = {};
-        return SQLiteFetch(keys, schema_, generator_, reader_, connection_).rows().size();
+        return SQLiteFetch(keys, selects_, generator_, reader_, connection_).rows().size();
     }
     SQLiteStatement statement = connection_.prepare(select.text.sql);
     bindAll(statement, select.text.bindings);

@@ -17,9 +17,9 @@ class SQLiteConnection;
 /// Statements are stepped to their end and reset before it returns, so that no lock stays behind.
 class SQLiteFetch {
 public:
-    SQLiteFetch(const StoreFetch& fetch, const StoreSchema& schema, const SQLGenerator& generator,
+    SQLiteFetch(const StoreFetch& fetch, const StoreSelects& selects, const SQLGenerator& generator,
         const SQLiteRowReader& reader, SQLiteConnection& connection)
-        : fetch_(fetch), schema_(schema), generator_(generator), reader_(reader), connection_(connection)
+        : fetch_(fetch), selects_(selects), generator_(generator), reader_(reader), connection_(connection)
     { }
 
     std::vector<StoreRow> rows();
@@ -29,10 +29,9 @@ public:
 
 private:
     std::vector<StoreRow> evaluatedRows(const GeneratedSelect& select, RowContents contents);
-    RowContents contentsForRemainder(const NSPredicate& remainder) const;
 
     const StoreFetch& fetch_;
-    const StoreSchema& schema_;
+    const StoreSelects& selects_;
     const SQLGenerator& generator_;
     const SQLiteRowReader& reader_;
     SQLiteConnection& connection_;

@@ -14,7 +14,7 @@ namespace tarn {
 namespace {
 
 constexpr std::string_view kPatiencePragma = "busy_timeout";
-/// Collecting and sorting so many rows costs more than walking an index until a list is full.
+/// Collecting and sorting so many rows costs more than looking at them one by one until a list is full.
 constexpr std::int64_t kLargeSet = 2000;
 
 /// How many rows a SELECT gives; at most `limit` are counted.
@@ -102,13 +102,15 @@ void SQLiteStore::refreshShadows(const StoreMetadata& metadata)
 
 SQLGenerator SQLiteStore::generator(const StoreFetch& fetch, SQLiteConnection& connection) const
 {
-    SQLConditionOptions options{identity_, usesShadows_, {}, {}};
-    if (fetch.limit > 0 && !fetch.sortDescriptors.empty()) {
+    SQLConditionOptions options;
+    options.store = identity_;
+    options.usesShadows = usesShadows_;
+    options.isLargeSet
+        = [&connection](const SQLText& select) { return countUpTo(connection, select, kLargeSet) >= kLargeSet; };
+    options.walksOrder = fetch.limit > 0 && !fetch.sortDescriptors.empty();
+    if (options.walksOrder)
         options.firstSortKey = fetch.sortDescriptors.front().key;
-        options.isLargeSet
-            = [&connection](const SQLText& keys) { return countUpTo(connection, keys, kLargeSet) >= kLargeSet; };
-    }
-    return {schema_, std::move(options)};
+    return {selects_, std::move(options)};
 }
 
 bool SQLiteStore::fetch(const StoreFetch& fetch, std::vector<StoreRow>& rows, NSError* error)
@@ -117,7 +119,7 @@ bool SQLiteStore::fetch(const StoreFetch& fetch, std::vector<StoreRow>& rows, NS
         const ReadAccess access = pool_->read();
         const SQLiteRowReader reader(*identity_, selects_, access.connection());
         const SQLGenerator generator = this->generator(fetch, access.connection());
-        rows = SQLiteFetch(fetch, schema_, generator, reader, access.connection()).rows();
+        rows = SQLiteFetch(fetch, selects_, generator, reader, access.connection()).rows();
     });
 }
 
@@ -127,7 +129,7 @@ bool SQLiteStore::count(const StoreFetch& fetch, std::size_t& count, NSError* er
         const ReadAccess access = pool_->read();
         const SQLiteRowReader reader(*identity_, selects_, access.connection());
         const SQLGenerator generator = this->generator(fetch, access.connection());
-        count = SQLiteFetch(fetch, schema_, generator, reader, access.connection()).count();
+        count = SQLiteFetch(fetch, selects_, generator, reader, access.connection()).count();
     });
 }
 
@@ -181,7 +183,7 @@ std::string SQLiteStore::explain(const StoreFetch& fetch)
         const ReadAccess access = pool_->read();
         const SQLiteRowReader reader(*identity_, selects_, access.connection());
         const SQLGenerator generator = this->generator(fetch, access.connection());
-        text = SQLiteFetch(fetch, schema_, generator, reader, access.connection()).explain();
+        text = SQLiteFetch(fetch, selects_, generator, reader, access.connection()).explain();
     });
     return explained ? text : error.localizedDescription();
 }

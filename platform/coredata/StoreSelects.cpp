@@ -9,7 +9,7 @@ namespace tarn {
 
 // The texts -----------------------------------------------------------------------------------------------------------
 
-StoreSelects::StoreSelects(const StoreSchema& schema, const NSManagedObjectModel& model)
+StoreSelects::StoreSelects(const StoreSchema& schema, const NSManagedObjectModel& model) : schema_(schema)
 {
     for (const NSEntityDescription* entity : model.entities()) {
         EntitySelects& selects = entities_[entity];
@@ -26,8 +26,7 @@ StoreSelects::EntitySelect StoreSelects::entitySelect(
 {
     EntitySelect select{RowLayout(schema, entity, contents), {}, {}};
     const StoreTable& table = schema.table(entity);
-    std::string sql
-        = "SELECT " + select.layout.columns("t0", "large") + " FROM " + quotedIdentifier(table.name) + " AS t0";
+    std::string sql = "SELECT " + select.layout.columnList() + " FROM " + quotedIdentifier(table.name) + " AS t0";
     if (select.layout.readsLargeTable())
         sql += " LEFT JOIN " + quotedIdentifier(table.largeName) + " AS large ON large.\"pk\" = t0.\"pk\"";
     std::string filter = entityCondition(entity, true, "t0");

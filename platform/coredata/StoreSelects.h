@@ -21,6 +21,13 @@ class StoreSelects {
 public:
     explicit StoreSelects(const StoreSchema& schema, const NSManagedObjectModel& model);
 
+    const StoreSchema& schema() const noexcept { return schema_; }
+    /// How rows of the entity are read.
+    const RowLayout& layout(const NSEntityDescription& entity, RowContents contents) const
+    {
+        return entities_.at(&entity)[static_cast<std::size_t>(contents)].layout;
+    }
+
     std::optional<StoreRow> row(
         SQLiteConnection& connection, const NSEntityDescription& entity, std::int64_t key, RowContents contents) const;
     void appendRows(SQLiteConnection& connection, const NSEntityDescription& entity, std::span<const std::int64_t> keys,
@@ -46,6 +53,7 @@ private:
     EntitySelect entitySelect(const StoreSchema& schema, const NSEntityDescription& entity, RowContents contents) const;
     void addRelationship(const StoreSchema& schema, const NSRelationshipDescription& relationship);
 
+    const StoreSchema& schema_;
     std::unordered_map<const NSEntityDescription*, EntitySelects> entities_;
     std::unordered_map<const NSRelationshipDescription*, RelationshipSelect> relationships_;
 };

@@ -94,7 +94,10 @@ TEST(SQLGenerator, MakesTheTextsOfTheCasesAndSQLiteWalksTheNamedIndexes)
     const OpenStore store(StoreType::SQLite, folder.file());
     ASSERT_TRUE(store) << store.error();
     const StoreSchema schema(*storeTestModel());
-    const SQLGenerator generator(schema, {&store->identity(), true, {}, {}});
+    const StoreSelects selects(schema, *storeTestModel());
+    SQLConditionOptions options;
+    options.store = &store->identity();
+    const SQLGenerator generator(selects, options);
     const auto cases = readCases();
     EXPECT_GT(cases.size(), 40U);
     for (const Case& one : cases) {

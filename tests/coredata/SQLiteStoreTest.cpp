@@ -443,6 +443,24 @@ TEST_F(SQLiteStoreFile, WaitsForALockThatIsGivenBackInTime)
     EXPECT_TRUE(holding.get());
 }
 
+TEST_F(SQLiteStoreFile, TakesBackACommitThatAReaderKeepsWaitingForTooLong)
+{
+    const OpenStore store = open(impatient());
+    const OtherProgram shell(folder.file());
+    shell.run("BEGIN");
+    shell.run("SELECT count(*) FROM Label");
+    NSError error;
+    auto transaction = store->beginTransaction(&error);
+    ASSERT_TRUE(transaction) << error;
+    ASSERT_TRUE(transaction->insertRow(makeRow(store.entity("Label"), 1, {}), &error)) << error;
+    EXPECT_FALSE(transaction->commit(&error));
+    EXPECT_EQ(error.code(), StoreErrorBusy);
+    transaction.reset();
+    shell.run("COMMIT");
+    EXPECT_THAT(store.keys("Label"), IsEmpty());
+    EXPECT_GT(store.insert("Label", {}), 0);
+}
+
 TEST_F(SQLiteStoreFile, GivesStoresThatWriteAtOnceDifferentKeys)
 {
     open();
