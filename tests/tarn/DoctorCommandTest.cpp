@@ -47,7 +47,8 @@ TEST_F(DoctorCommand, FindsAndRepairsFieldsThatAreNotWhatTheTextSays)
 
         const TarnResult found = run({"--json", "doctor"});
         EXPECT_EQ(found.exitCode, 1);
-        for (const auto& check : nlohmann::json::parse(found.output).at("checks"))
+        const nlohmann::json report = nlohmann::json::parse(found.output);
+        for (const auto& check : report.at("checks"))
             EXPECT_EQ(check.at("ok"), check.at("name") != damaged.check) << check;
 
         const TarnResult repaired = run({"--json", "doctor", "--repair"});
