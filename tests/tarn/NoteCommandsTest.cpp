@@ -36,7 +36,7 @@ TEST_F(NoteCommands, PrintANoteWithItsAttributesAsKeys)
     EXPECT_EQ(keysOf(note), kNoteKeys);
     EXPECT_EQ(note.at("title"), "Pears");
     EXPECT_EQ(note.at("subtitle"), "Green.");
-    EXPECT_EQ(note.at("tags"), nlohmann::json({"home", "home/kitchen"}));
+    EXPECT_EQ(note.at("tags"), nlohmann::ordered_json({"home", "home/kitchen"}));
     EXPECT_EQ(note.at("version"), 3);
     EXPECT_EQ(note.at("todoIncompleted"), 1);
     EXPECT_EQ(note.at("pinned"), false);

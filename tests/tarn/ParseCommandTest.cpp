@@ -14,12 +14,12 @@ TEST_F(ParseCommand, PrintsWhatTheParserSees)
         (std::vector<std::string>{
             "title", "subtitle", "tags", "todoCount", "doneCount", "codeBlockCount", "wikiLinks", "links"}));
     EXPECT_EQ(document.at("title"), "Trip 😀 there #a/b");
-    EXPECT_EQ(document.at("tags"), nlohmann::json({"a", "a/b"})) << document;
+    EXPECT_EQ(document.at("tags"), nlohmann::ordered_json({"a", "a/b"})) << document;
     EXPECT_EQ(document.at("todoCount"), 1);
     EXPECT_EQ(document.at("doneCount"), 1);
     EXPECT_EQ(document.at("wikiLinks").at(0).at("decodedTitle"), "Rome");
     EXPECT_EQ(document.at("wikiLinks").at(0).at("offset"), 10) << "in UTF-16 units";
-    EXPECT_EQ(document.at("links"), nlohmann::json({"u"}));
+    EXPECT_EQ(document.at("links"), nlohmann::ordered_json({"u"}));
 }
 
 TEST_F(ParseCommand, ReadsAFileAndStandardInputByItsDash)
