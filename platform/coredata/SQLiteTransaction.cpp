@@ -79,7 +79,7 @@ bool SQLiteTransaction::commit(NSError* error)
     }
     const bool committed = reportingFailure(error, [&] {
         requireOpen();
-        writer_.clearMissingTargets();
+        writer_.clearMissingEnds();
         connection_.execute("COMMIT"); // waits for readers by the busy handler
     });
     if (!committed)
