@@ -71,7 +71,7 @@ TEST_F(DoctorCommand, FindsTagsThatNoTextNames)
     EXPECT_EQ(found.exitCode, 1);
     EXPECT_NE(found.output.find("#b: no text names it"), std::string::npos) << found.output;
     EXPECT_EQ(run({"doctor", "--repair"}).exitCode, 0);
-    EXPECT_EQ(json({"show", "One"}).at("tags"), nlohmann::json({"a"}));
+    EXPECT_EQ(json({"show", "One"}).at("tags"), nlohmann::json::array({"a"}));
 }
 
 TEST_F(DoctorCommand, ExaminesNothingWhereThereIsNoStore)

@@ -19,7 +19,7 @@ TEST_F(ParseCommand, PrintsWhatTheParserSees)
     EXPECT_EQ(document.at("doneCount"), 1);
     EXPECT_EQ(document.at("wikiLinks").at(0).at("decodedTitle"), "Rome");
     EXPECT_EQ(document.at("wikiLinks").at(0).at("offset"), 10) << "in UTF-16 units";
-    EXPECT_EQ(document.at("links"), nlohmann::ordered_json({"u"}));
+    EXPECT_EQ(document.at("links"), nlohmann::ordered_json::array({"u"}));
 }
 
 TEST_F(ParseCommand, ReadsAFileAndStandardInputByItsDash)
