@@ -200,7 +200,10 @@ private:
         case 6:
             if (!shape.toOne.empty()) {
                 const auto& [way, next] = any(shape.toOne);
-                return comparison(base + way + ".", next);
+                const std::string on = base + way + ".";
+                if (below(2) || shapes().at(next).toMany.empty())
+                    return comparison(on, next);
+                return below(2) ? quantified(next, on) : counted(next, on, depth);
             }
             break;
         case 7:

@@ -222,6 +222,18 @@ TEST_P(Store, ReadsOneToManyFromBothEnds)
     EXPECT_EQ(store.value("Picture", picture, "document"), Value(document));
 }
 
+TEST_P(Store, MovesAMemberFromOneOwnerToAnother)
+{
+    const auto first = store.insert("Document", {});
+    const auto second = store.insert("Document", {});
+    const auto picture = store.insert("Picture", {{"document", first}});
+    ASSERT_TRUE(store.update("Picture", picture, "document", second));
+    EXPECT_THAT(store.related("Document", "attachments", first), IsEmpty());
+    EXPECT_THAT(store.related("Document", "attachments", second), ElementsAre(picture));
+    ASSERT_TRUE(store.update("Picture", picture, "document", nullptr));
+    EXPECT_THAT(store.related("Document", "attachments", second), IsEmpty());
+}
+
 TEST_P(Store, TakesAToOneWhoseTargetComesLaterInTheTransaction)
 {
     auto transaction = store->beginTransaction(nullptr);
