@@ -177,8 +177,7 @@ std::string SQLConditionBuilder::joinSelect(const Members& members, std::string_
     // The plus makes SQLite look at the few members of the owner, not at each of the set.
     if (form == SelectForm::OfOwnerInSet)
         return start + ofOwner + " AND +" + to + " IN (" + memberKeys(members) + ")";
-    // A CROSS JOIN keeps its order: the members of one owner are few, those that a flag holds for are half of all.
-    return start + " CROSS JOIN " + quotedIdentifier(paths_.schema().table(*scope.entity).name) + " AS " + scope.alias
+    return start + " JOIN " + quotedIdentifier(paths_.schema().table(*scope.entity).name) + " AS " + scope.alias
         + " ON " + scope.alias + ".\"pk\" = " + to + scope.joinSQL() + ofOwner + " AND " + members.condition;
 }
 

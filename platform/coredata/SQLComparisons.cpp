@@ -61,11 +61,6 @@ const OperatorText& textOf(ComparisonOperator operation)
     return kOperators[static_cast<std::size_t>(operation)];
 }
 
-bool isTrue(const Value& value)
-{
-    return value.kind() == Value::Kind::Bool ? value.asBool() : value.asInteger() != 0;
-}
-
 std::optional<SQLBinding> scalarBinding(const Value& value)
 {
     switch (value.kind()) {
@@ -210,22 +205,17 @@ Condition SQLConditionBuilder::equality(
         const std::string test = stringTest(left.sql, ComparisonOperator::EqualTo, options, value->asString());
         return negated ? "NOT " + test : test;
     }
-    const std::string_view test = negated ? " IS NOT " : " = ";
-    std::string condition = left.sql + std::string(test) + text_.bind(*scalarBinding(*value));
-    if (!left.flagSelect.empty() && value->kind() != Value::Kind::Double)
-        return flagCondition(left, condition, test, isTrue(*value));
-    return condition;
+    const std::string wanted = (negated ? " IS NOT " : " = ") + text_.bind(*scalarBinding(*value));
+    return flagPrefix(left, wanted) + left.sql + wanted;
 }
 
-/// Half of the rows have a flag, or nearly all of them: an index that begins with it leads to them one by one, and
-/// without statistics SQLite takes them for a few. When an order is walked the plus keeps SQLite from that index; else
-/// it learns how many they are.
-std::string SQLConditionBuilder::flagCondition(
-    const Operand& left, const std::string& condition, std::string_view test, bool wanted) const
+/// Half of the rows have a flag, or nearly all: an index that begins with it would collect and sort them. The plus
+/// keeps SQLite from that.
+std::string SQLConditionBuilder::flagPrefix(const Operand& left, const std::string& wanted) const
 {
-    if (!options_.isCommonFlag(left.flagSelect + std::string(test) + (wanted ? "1" : "0")))
-        return condition;
-    return options_.walksOrder ? "+" + condition : "likelihood(" + condition + ", 0.9)";
+    if (left.flagSelect.empty())
+        return {};
+    return options_.isLargeSet({left.flagSelect + wanted, text_.bindings}) ? "+" : "";
 }
 
 /// Rows whose shadow another program has made stale are looked at one by one; normally there are none.

@@ -205,8 +205,8 @@ SQLConditionBuilder::Operand SQLConditionBuilder::operandAt(SQLPathEnd& end)
 std::string SQLConditionBuilder::flagSelect(const SQLPathEnd& end) const
 {
     const bool isOfWalkedRow = end.place.path.empty() && end.place.scope->outer == nullptr;
-    if (!options_.isCommonFlag || !isOfWalkedRow || end.attribute->type() != NSAttributeType::Boolean
-        || end.attribute->name() == options_.firstSortKey)
+    if (!options_.isLargeSet || !options_.walksOrder || !isOfWalkedRow
+        || end.attribute->type() != NSAttributeType::Boolean || end.attribute->name() == options_.firstSortKey)
         return {};
     const auto& indexes = end.attribute->declaringEntity().indexes();
     const auto startsWithFlag = [&](const IndexDescription& index) {

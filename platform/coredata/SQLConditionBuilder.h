@@ -19,8 +19,6 @@ struct SQLConditionOptions {
     bool usesShadows = true;
     /// Whether a SELECT gives so many rows that others should be looked at instead. Unset: never.
     std::function<bool(const SQLText& select)> isLargeSet;
-    /// The same for the rows that have a flag, or do not; asked at every fetch, so that the answer may be an old one.
-    std::function<bool(const std::string& select)> isCommonFlag;
     /// An order is asked for, and only its first rows: an index may be walked until there are enough.
     bool walksOrder = false;
     /// The attribute that the order begins with: its own index gives the rows in that order.
@@ -90,8 +88,7 @@ private:
     Condition compareOperands(
         const Operand& left, const ComparisonPredicate& predicate, const Operand& right, bool negated);
     Condition equality(const Operand& left, const Value& right, ComparisonOptions options, bool negated);
-    std::string flagCondition(
-        const Operand& left, const std::string& condition, std::string_view test, bool wanted) const;
+    std::string flagPrefix(const Operand& left, const std::string& wanted) const;
     Condition foldedEquality(const Operand& left, const std::string& right, bool negated);
     Condition order(
         const Operand& left, ComparisonOperator operation, const Value& right, ComparisonOptions options, bool negated);

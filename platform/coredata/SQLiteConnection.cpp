@@ -322,14 +322,6 @@ bool SQLiteConnection::isReadOnly() const noexcept
     return sqlite3_db_readonly(handle_, "main") == 1;
 }
 
-bool SQLiteConnection::hasOpenReferences() const
-{
-    int open = 0;
-    int highest = 0;
-    const int result = sqlite3_db_status(handle_, SQLITE_DBSTATUS_DEFERRED_FKS, &open, &highest, 0);
-    return result != SQLITE_OK || open != 0;
-}
-
 void SQLiteConnection::rollBack() noexcept
 {
     // SQLite has rolled back by itself after some failures; a second ROLLBACK is then an error without meaning.

@@ -100,8 +100,6 @@ public:
     bool isInTransaction() const noexcept;
     /// Whether the system lets this process only read the file. SQLite would begin a "write" transaction all the same.
     bool isReadOnly() const noexcept;
-    /// Whether rows written in this transaction refer to rows that do not exist (yet).
-    bool hasOpenReferences() const;
     /// Ends a transaction without keeping anything of it; never fails.
     void rollBack() noexcept;
     /// How many prepared statements are on loan.

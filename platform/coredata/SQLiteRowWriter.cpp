@@ -86,47 +86,31 @@ bool SQLiteRowWriter::exists(const StoreTable& table, std::int64_t key)
     return statement.step();
 }
 
-void SQLiteRowWriter::noteTargets(
+void SQLiteRowWriter::awaitTargets(
     const StoreTable& table, const std::vector<const StoreColumn*>& columns, const StoreRow& row)
 {
-    for (const StoreColumn* column : columns)
-        if (column->target && hasValue(*column, row))
-            writtenTargets_.push_back({&table, column, row.key, row.values.integer(column->property->index())});
-}
-
-void SQLiteRowWriter::clearMissingEnds()
-{
-    if (connection_.hasOpenReferences()) {
-        for (const WrittenTarget& written : writtenTargets_)
-            clearTarget(written);
-        for (const JoinChange& change : addedJoins_)
-            removeBrokenJoin(change);
+    for (const StoreColumn* column : columns) {
+        if (!column->target || !hasValue(*column, row))
+            continue;
+        const std::int64_t target = row.values.integer(column->property->index());
+        if (target > 0 && !exists(*column->target, target))
+            awaited_.push_back({&table, column, row.key, target});
     }
-    writtenTargets_.clear();
-    addedJoins_.clear();
 }
 
-void SQLiteRowWriter::clearTarget(const WrittenTarget& written)
+void SQLiteRowWriter::clearMissingTargets()
 {
-    if (exists(*written.column->target, written.target))
-        return;
-    const std::string column = quotedIdentifier(written.column->name);
-    SQLiteStatement statement = connection_.prepare("UPDATE " + quotedIdentifier(written.table->name) + " SET " + column
-        + " = NULL WHERE \"pk\" = ?1 AND " + column + " = ?2");
-    statement.bindInteger(1, written.key);
-    statement.bindInteger(2, written.target);
-    statement.run();
-}
-
-void SQLiteRowWriter::removeBrokenJoin(const JoinChange& change)
-{
-    const JoinTable& join = schema_.join(*change.relationship);
-    if (exists(*join.owner, change.ownerKey) && exists(*join.member, change.memberKey))
-        return;
-    SQLiteStatement statement = connection_.prepare(joinStatements(join).remove);
-    statement.bindInteger(1, change.ownerKey);
-    statement.bindInteger(2, change.memberKey);
-    statement.run();
+    for (const AwaitedTarget& awaited : awaited_) {
+        if (exists(*awaited.column->target, awaited.target))
+            continue;
+        const std::string column = quotedIdentifier(awaited.column->name);
+        SQLiteStatement statement = connection_.prepare("UPDATE " + quotedIdentifier(awaited.table->name) + " SET "
+            + column + " = NULL WHERE \"pk\" = ?1 AND " + column + " = ?2");
+        statement.bindInteger(1, awaited.key);
+        statement.bindInteger(2, awaited.target);
+        statement.run();
+    }
+    awaited_.clear();
 }
 
 // Insert --------------------------------------------------------------------------------------------------------------
@@ -176,7 +160,7 @@ void SQLiteRowWriter::insert(const StoreRow& row)
                 bindShadow(statement, parameter++, *column, row);
         statement.run();
     }
-    noteTargets(table, plan.columns, row);
+    awaitTargets(table, plan.columns, row);
     const auto isSet = [&](const StoreColumn* column) { return hasValue(*column, row); };
     if (std::any_of(plan.largeColumns.begin(), plan.largeColumns.end(), isSet))
         writeLarge(table, plan.largeColumns, row);
@@ -234,7 +218,7 @@ RowWriteResult SQLiteRowWriter::update(const StoreRow& row, PropertyMask changed
     if (connection_.changedRowCount() == 0)
         return exists(table, row.key) ? RowWriteResult::Conflict : RowWriteResult::Gone;
     rewriteShadows(table, columns, row);
-    noteTargets(table, columns, row);
+    awaitTargets(table, columns, row);
     if (!largeColumns.empty())
         writeLarge(table, largeColumns, row);
     return RowWriteResult::Written;
@@ -296,27 +280,20 @@ RowWriteResult SQLiteRowWriter::remove(const NSEntityDescription& entity, std::i
 
 // Join rows -----------------------------------------------------------------------------------------------------------
 
-const SQLiteRowWriter::JoinStatements& SQLiteRowWriter::joinStatements(const JoinTable& join)
-{
-    const auto [found, isNew] = joinStatements_.try_emplace(&join);
-    if (isNew) {
-        const std::string name = quotedIdentifier(join.name);
-        found->second.add = "INSERT OR IGNORE INTO " + name + " (\"owner\", \"member\") VALUES (?1, ?2)";
-        found->second.remove = "DELETE FROM " + name + " WHERE \"owner\" = ?1 AND \"member\" = ?2";
-    }
-    return found->second;
-}
-
 void SQLiteRowWriter::changeJoins(std::span<const JoinChange> changes)
 {
     for (const JoinChange& change : changes) {
-        const JoinStatements& statements = joinStatements(schema_.join(*change.relationship));
-        SQLiteStatement statement = connection_.prepare(change.added ? statements.add : statements.remove);
+        const JoinTable& join = schema_.join(*change.relationship);
+        const std::string name = quotedIdentifier(join.name);
+        SQLiteStatement statement
+            = connection_.prepare(change.added ? "INSERT OR IGNORE INTO " + name
+                        + " (\"owner\", \"member\") SELECT ?1, ?2 WHERE EXISTS (SELECT 1 FROM "
+                        + quotedIdentifier(join.owner->name) + " WHERE \"pk\" = ?1) AND EXISTS (SELECT 1 FROM "
+                        + quotedIdentifier(join.member->name) + " WHERE \"pk\" = ?2)"
+                                               : "DELETE FROM " + name + " WHERE \"owner\" = ?1 AND \"member\" = ?2");
         statement.bindInteger(1, change.ownerKey);
         statement.bindInteger(2, change.memberKey);
         statement.run();
-        if (change.added)
-            addedJoins_.push_back(change);
     }
 }
 

@@ -26,9 +26,8 @@ public:
     RowWriteResult update(const StoreRow& row, PropertyMask changed);
     RowWriteResult remove(const NSEntityDescription& entity, std::int64_t key, std::int64_t version);
     void changeJoins(std::span<const JoinChange> changes);
-    /// Writes nil to the to-ones whose targets did not come, and removes join rows without both ends. Before the
-    /// commit; costs nothing when all is well.
-    void clearMissingEnds();
+    /// Writes nil to the to-ones whose targets did not come. Before the commit.
+    void clearMissingTargets();
 
 private:
     struct InsertPlan {
@@ -36,24 +35,18 @@ private:
         std::vector<const StoreColumn*> columns;
         std::vector<const StoreColumn*> largeColumns;
     };
-    struct WrittenTarget {
+    /// A to-one that was written before its target: the target may still come.
+    struct AwaitedTarget {
         const StoreTable* table;
         const StoreColumn* column;
         std::int64_t key;
         std::int64_t target;
     };
-    struct JoinStatements {
-        std::string add;
-        std::string remove;
-    };
 
     const InsertPlan& insertPlan(const NSEntityDescription& entity);
     void bind(SQLiteStatement& statement, int parameter, const StoreColumn& column, const StoreRow& row);
     void bindShadow(SQLiteStatement& statement, int parameter, const StoreColumn& column, const StoreRow& row);
-    void noteTargets(const StoreTable& table, const std::vector<const StoreColumn*>& columns, const StoreRow& row);
-    void clearTarget(const WrittenTarget& written);
-    void removeBrokenJoin(const JoinChange& change);
-    const JoinStatements& joinStatements(const JoinTable& join);
+    void awaitTargets(const StoreTable& table, const std::vector<const StoreColumn*>& columns, const StoreRow& row);
     void writeLarge(const StoreTable& table, const std::vector<const StoreColumn*>& columns, const StoreRow& row);
     void rewriteShadows(const StoreTable& table, const std::vector<const StoreColumn*>& columns, const StoreRow& row);
     bool exists(const StoreTable& table, std::int64_t key);
@@ -61,9 +54,7 @@ private:
     const StoreSchema& schema_;
     SQLiteConnection& connection_;
     std::unordered_map<const NSEntityDescription*, InsertPlan> insertPlans_;
-    std::unordered_map<const JoinTable*, JoinStatements> joinStatements_;
-    std::vector<WrittenTarget> writtenTargets_; ///< in this transaction; the targets may come after
-    std::vector<JoinChange> addedJoins_;
+    std::vector<AwaitedTarget> awaited_;
     std::vector<std::string> foldedTexts_; ///< what the statement in hand has bound
 };
 

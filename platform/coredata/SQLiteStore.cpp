@@ -107,9 +107,6 @@ SQLGenerator SQLiteStore::generator(const StoreFetch& fetch, SQLiteConnection& c
     options.usesShadows = usesShadows_;
     options.isLargeSet
         = [&connection](const SQLText& select) { return countUpTo(connection, select, kLargeSet) >= kLargeSet; };
-    options.isCommonFlag = [this, &connection](const std::string& select) {
-        return flags_.isCommon(select, [&] { return countUpTo(connection, {select, {}}, kLargeSet) >= kLargeSet; });
-    };
     options.walksOrder = fetch.limit > 0 && !fetch.sortDescriptors.empty();
     if (options.walksOrder)
         options.firstSortKey = fetch.sortDescriptors.front().key;

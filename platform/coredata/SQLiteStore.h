@@ -1,7 +1,6 @@
 #pragma once
 
 #include "platform/coredata/ConnectionPool.h"
-#include "platform/coredata/FlagStatistics.h"
 #include "platform/coredata/NSPersistentStore.h"
 #include "platform/coredata/NSPersistentStoreCoordinator.h"
 #include "platform/coredata/SQLGenerator.h"
@@ -68,7 +67,6 @@ private:
     std::unique_ptr<ConnectionPool> pool_;
     const StoreIdentity* identity_ = nullptr;
     bool usesShadows_ = true;
-    mutable FlagStatistics flags_;
     std::atomic<std::uint64_t> dataVersion_ = 0;
     /// Next free key by root entity, as far as the open transaction has reserved any. Belongs to the turn's holder.
     std::unordered_map<const NSEntityDescription*, std::int64_t> reservedInTransaction_;

@@ -79,7 +79,7 @@ bool SQLiteTransaction::commit(NSError* error)
     }
     const bool committed = reportingFailure(error, [&] {
         requireOpen();
-        writer_.clearMissingEnds();
+        writer_.clearMissingTargets();
         connection_.execute("COMMIT"); // waits for readers by the busy handler
     });
     if (!committed)
