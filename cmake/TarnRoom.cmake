@@ -21,6 +21,42 @@ if(TARN_COVERAGE)
   target_link_options(tarn_build_flags INTERFACE --coverage)
 endif()
 
+# The standard headers that nearly every source reads are read once for all rooms. Rooms that stand alone (releases, and
+# the test of public headers) go without, so that a missing #include does not stay hidden.
+set(TARN_PRECOMPILED_STANDARD_HEADERS
+  <algorithm> <array> <chrono> <cstddef> <cstdint> <filesystem> <functional> <map> <memory> <mutex> <optional> <set> <span>
+  <string> <string_view> <unordered_map> <unordered_set> <utility> <variant> <vector>)
+
+# tarn_precompile(<name> [EXECUTABLE] [LINK <targets>] HEADERS <headers>)
+#
+# Makes <name>, whose headers targets of the same kind (libraries, or programs with EXECUTABLE) take by
+# tarn_use_precompiled(): position-independent code of the two kinds differs, so that they cannot share.
+function(tarn_precompile name)
+  cmake_parse_arguments(PRECOMPILE "EXECUTABLE" "" "LINK;HEADERS" ${ARGN})
+  if(NOT TARN_PRECOMPILED_HEADERS)
+    return()
+  endif()
+  set(source "${PROJECT_BINARY_DIR}/precompiled/${name}.cpp")
+  if(PRECOMPILE_EXECUTABLE)
+    file(CONFIGURE OUTPUT "${source}" CONTENT "int main() {}\n")
+    add_executable(${name} EXCLUDE_FROM_ALL "${source}")
+  else()
+    file(CONFIGURE OUTPUT "${source}" CONTENT "// Here for its headers alone.\n")
+    add_library(${name} OBJECT EXCLUDE_FROM_ALL "${source}")
+  endif()
+  target_link_libraries(${name} PRIVATE tarn_build_flags ${PRECOMPILE_LINK})
+  target_precompile_headers(${name} PRIVATE ${PRECOMPILE_HEADERS})
+endfunction()
+
+# tarn_use_precompiled(<target> <name>): nothing happens where <name> was not made.
+function(tarn_use_precompiled target name)
+  if(TARGET ${name})
+    target_precompile_headers(${target} REUSE_FROM ${name})
+  endif()
+endfunction()
+
+tarn_precompile(tarn_precompiled HEADERS ${TARN_PRECOMPILED_STANDARD_HEADERS})
+
 # tarn_room(<target> [OBJECT] [PUBLIC <targets>] [PRIVATE <targets>])
 #
 # Makes a library of all sources of the current folder. An OBJECT room becomes part of the TarnModel library.
@@ -41,4 +77,5 @@ function(tarn_room target)
   target_link_libraries(${target}
     PUBLIC ${ROOM_PUBLIC}
     PRIVATE ${ROOM_PRIVATE} $<BUILD_INTERFACE:tarn_build_flags>)
+  tarn_use_precompiled(${target} tarn_precompiled)
 endfunction()
