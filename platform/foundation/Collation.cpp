@@ -7,6 +7,7 @@
 
 #include <memory>
 #include <mutex>
+#include <string_view>
 
 namespace tarn {
 
@@ -16,7 +17,11 @@ namespace {
 std::shared_ptr<const icu::Collator> makeCollator(const std::string& locale)
 {
     UErrorCode status = U_ZERO_ERROR;
-    std::unique_ptr<icu::Collator> collator(icu::Collator::createInstance(icu::Locale(locale.c_str()), status));
+    icu::Locale wanted(locale.c_str());
+    // Where no language is set ("C", "POSIX"), ICU would order by code points, capitals before small letters.
+    if (std::string_view(wanted.getVariant()) == "POSIX")
+        wanted = icu::Locale::getRoot();
+    std::unique_ptr<icu::Collator> collator(icu::Collator::createInstance(wanted, status));
     if (U_FAILURE(status) || !collator)
         return nullptr;
     collator->setStrength(icu::Collator::SECONDARY);

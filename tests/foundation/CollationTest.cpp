@@ -33,7 +33,7 @@ std::vector<std::string> shuffled(std::vector<std::string> texts)
 TEST(Collation, PutsTextsInTheOrderOfTheLocale)
 {
     EnvironmentOverride world;
-    for (const char* locale : {"en_US", "de_DE"}) {
+    for (const char* locale : {"en_US", "de_DE", "en_US_POSIX", ""}) {
         world.setLocaleIdentifier(locale);
         EXPECT_THAT(sorted(shuffled(kInOrder)), ElementsAreArray(kInOrder)) << locale;
     }
