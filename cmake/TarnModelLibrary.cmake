@@ -1,7 +1,7 @@
 # The rooms above the object store form one library: they call each other through the record classes.
 add_library(TarnModel STATIC
   $<TARGET_OBJECTS:tarn_encryption_protocols> $<TARGET_OBJECTS:tarn_model> $<TARGET_OBJECTS:tarn_notes> $<TARGET_OBJECTS:tarn_tags>
-  $<TARGET_OBJECTS:tarn_files> $<TARGET_OBJECTS:tarn_sync> $<TARGET_OBJECTS:tarn_backup>)
+  $<TARGET_OBJECTS:tarn_files> $<TARGET_OBJECTS:tarn_sync> $<TARGET_OBJECTS:tarn_search> $<TARGET_OBJECTS:tarn_backup>)
 add_library(TarnModel::TarnModel ALIAS TarnModel)
 set_target_properties(TarnModel PROPERTIES LINKER_LANGUAGE CXX)
 target_include_directories(TarnModel PUBLIC

@@ -80,6 +80,11 @@
 #include "model/OVServerMetadataAttributes.h"
 #include "model/Syncable.h"
 
+// The search language.
+#include "search/HighlightTerms.h"
+#include "search/OVNoteSearchManager.h"
+#include "search/OVNoteSearchToken.h"
+
 // Devices and their clocks.
 #include "sync/OVDeviceUUID.h"
 #include "sync/TolVectorClock.h"

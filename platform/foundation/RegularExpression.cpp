@@ -31,7 +31,7 @@ uint32_t icuFlags(const RegularExpression::Options& options)
 
 bool isPatternCharacter(char character)
 {
-    return std::string_view("\\^$.|?*+()[]{}-&#/ ").find(character) != std::string_view::npos;
+    return std::string_view("*?+[(){}^$|\\./").find(character) != std::string_view::npos;
 }
 
 } // namespace

@@ -50,7 +50,7 @@ public:
     /// when a limit was hit, which `limitExceeded` then says.
     std::vector<RegularExpressionMatch> allMatches(std::string_view text, bool* limitExceeded = nullptr) const;
 
-    /// The text with every character that has a meaning in patterns escaped.
+    /// The text with a backslash in front of each of `* ? + [ ( ) { } ^ $ | \ . /`: as a pattern it matches itself.
     static std::string escapedPattern(std::string_view text);
 
 private:

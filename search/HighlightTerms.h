@@ -1,0 +1,30 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tarn {
+
+/// What a search highlights in a note.
+struct HighlightTerm {
+    enum class Kind {
+        Text, ///< anywhere
+        Word, ///< between characters that belong to no word
+    };
+    std::string text;
+    Kind kind = Kind::Text;
+};
+
+/// The terms of a search string and the switches in it.
+struct HighlightTerms {
+    std::vector<HighlightTerm> terms; ///< phrases, then tags, then words
+    bool titleSearch = false;
+    bool ocrSearch = false;
+};
+
+/// What `OVNoteSearchManager::likeOrPatternForSearchString` makes its pattern of, for those who look by other means.
+/// Any thread.
+HighlightTerms highlightTermsOfSearchString(std::string_view searchString);
+
+} // namespace tarn

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "search/OVNoteSearchManager.h"
+#include "tests/search/SearchCases.h"
+#include "tests/support/StoreFixture.h"
+
+#include <map>
+
+namespace tarn {
+
+/// The library of tests/cases/search-notes.cases in a store, and a world that a case file sets.
+class SearchFixture : public StoreFixture {
+protected:
+    void SetUp() override;
+    void TearDown() override;
+
+    /// Takes the fields zone, locale, now and ocr; the others are left alone.
+    void setWorld(const SearchCase& block);
+    /// The names of the notes that the predicate finds in the store, sorted.
+    std::vector<std::string> hits(const std::optional<NSPredicate>& predicate);
+    /// The names that a case file lists: "-", "all but ...", or a list; sorted.
+    std::vector<std::string> namesInList(std::string_view list) const;
+
+private:
+    void addNote(const SearchCase& block);
+    void addDetails(OVNote& note, const SearchCase& block);
+
+    std::map<std::string, OVNote*> notes_;
+    std::map<std::string, std::string> namesByIdentifier_;
+};
+
+} // namespace tarn
