@@ -4,13 +4,13 @@
 #include "platform/foundation/Environment.h"
 
 #include <cmath>
+#include <mutex>
 
 namespace tarn {
 
-std::unique_ptr<icu::TimeZone> currentTimeZone()
+std::unique_ptr<icu::TimeZone> timeZoneNamed(const std::string& identifier)
 {
-    return std::unique_ptr<icu::TimeZone>(
-        icu::TimeZone::createTimeZone(icu::UnicodeString::fromUTF8(Environment::current().timeZoneIdentifier())));
+    return std::unique_ptr<icu::TimeZone>(icu::TimeZone::createTimeZone(icu::UnicodeString::fromUTF8(identifier)));
 }
 
 double icuDate(NSDate date) noexcept
@@ -23,14 +23,33 @@ NSDate dateWithICUDate(double milliseconds) noexcept
     return dateWithMicrosecondsSince1970(std::llround(milliseconds * 1'000));
 }
 
+namespace {
+
+/// A calendar in the zone, a copy of one that is kept: making one from nothing takes ICU ten times as long.
+std::unique_ptr<icu::GregorianCalendar> calendarInZone(const std::string& identifier)
+{
+    static std::mutex mutex;
+    static std::string zoneOfPrototype;
+    static std::unique_ptr<const icu::GregorianCalendar> prototype;
+    const std::scoped_lock lock(mutex);
+    if (!prototype || zoneOfPrototype != identifier) {
+        UErrorCode status = U_ZERO_ERROR;
+        prototype = std::make_unique<const icu::GregorianCalendar>(
+            *timeZoneNamed(identifier), icu::Locale::getRoot(), status);
+        zoneOfPrototype = identifier;
+    }
+    return std::make_unique<icu::GregorianCalendar>(*prototype);
+}
+
+} // namespace
+
 struct Calendar::State {
     std::unique_ptr<icu::GregorianCalendar> calendar;
 };
 
 Calendar::Calendar() : state_(std::make_unique<State>())
 {
-    UErrorCode status = U_ZERO_ERROR;
-    state_->calendar = std::make_unique<icu::GregorianCalendar>(*currentTimeZone(), icu::Locale::getRoot(), status);
+    state_->calendar = calendarInZone(Environment::current().timeZoneIdentifier());
 }
 
 Calendar::~Calendar() = default;

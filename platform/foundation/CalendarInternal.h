@@ -6,11 +6,12 @@
 #include <unicode/timezone.h>
 
 #include <memory>
+#include <string>
 
 namespace tarn {
 
-/// The zone of `Environment`; UTC for a name that nobody knows.
-std::unique_ptr<icu::TimeZone> currentTimeZone();
+/// UTC for a name that nobody knows.
+std::unique_ptr<icu::TimeZone> timeZoneNamed(const std::string& identifier);
 
 /// Dates as ICU counts them: milliseconds since 1970.
 double icuDate(NSDate date) noexcept;

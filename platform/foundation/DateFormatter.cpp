@@ -7,6 +7,7 @@
 
 #include <unicode/smpdtfmt.h>
 
+#include <mutex>
 #include <tuple>
 #include <utility>
 
@@ -20,7 +21,8 @@ constexpr int kYearsBack = 80;
 class LocaleCalendar {
 public:
     explicit LocaleCalendar(const std::string& locale)
-        : calendar_(icu::Calendar::createInstance(*currentTimeZone(), icu::Locale(locale.c_str()), status_))
+        : calendar_(icu::Calendar::createInstance(
+            *timeZoneNamed(Environment::current().timeZoneIdentifier()), icu::Locale(locale.c_str()), status_))
     { }
 
     DateNumbers numbersOfDate(NSDate date)
@@ -58,7 +60,7 @@ private:
     std::unique_ptr<icu::Calendar> calendar_;
 };
 
-std::string shortPatternOfLocale(const std::string& locale)
+std::string shortPatternFromICU(const std::string& locale)
 {
     const std::unique_ptr<icu::DateFormat> format(
         icu::DateFormat::createDateInstance(icu::DateFormat::kShort, icu::Locale(locale.c_str())));
@@ -68,6 +70,20 @@ std::string shortPatternOfLocale(const std::string& locale)
     std::string text;
     pattern.toUTF8String(text);
     return text;
+}
+
+/// The last one is kept, since ICU takes a while.
+std::string shortPatternOfLocale(const std::string& locale)
+{
+    static std::mutex mutex;
+    static std::optional<std::string> keptLocale;
+    static std::string keptPattern;
+    const std::scoped_lock lock(mutex);
+    if (keptLocale != locale) {
+        keptPattern = shortPatternFromICU(locale);
+        keptLocale = locale;
+    }
+    return keptPattern;
 }
 
 } // namespace
