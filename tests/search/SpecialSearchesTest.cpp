@@ -176,7 +176,7 @@ TEST_F(SpecialSearches, WorkInASearchUnlessTheyHaveCapitals)
 TEST_F(SpecialSearches, AreComparedToTheLetter)
 {
     for (const std::string_view word :
-        {"@Tagged", "@TODO", "@заблокировано", "@wikiリンク", "@wiki連結", "@", "", "tagged", "@@tagged", "x@tagged",
+        {"@Tagged", "@TOdo", "@заблокировано", "@wikiリンク", "@wiki連結", "@", "", "tagged", "@@tagged", "x@tagged",
             "@todos", "@过去", "@date", "@cdate", "@日期(", "@date（", "@ocrx", "@Ocr", "＠tagged"})
         EXPECT_EQ(Manager::mainSpecialForString(word), std::nullopt) << word;
     // Composed, as the spelling is; the same letters decomposed are another word.
