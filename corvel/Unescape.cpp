@@ -67,6 +67,12 @@ std::size_t appendEntity(std::string& result, std::string_view content, std::siz
 void appendUnescaped(std::string& result, std::string_view raw)
 {
     for (std::size_t i = 0; i < raw.size();) {
+        const std::size_t begin = i;
+        while (i < raw.size() && raw[i] != '\\' && raw[i] != '&')
+            ++i;
+        result += raw.substr(begin, i - begin);
+        if (i == raw.size())
+            return;
         if (raw[i] == '\\' && i + 1 < raw.size() && isASCIIPunctuation(raw[i + 1])) {
             result += raw[i + 1];
             i += 2;

@@ -2,6 +2,7 @@
 
 #include "platform/foundation/UTF.h"
 
+#include <algorithm>
 #include <charconv>
 
 namespace tarn {
@@ -11,10 +12,11 @@ std::optional<std::string> stringByRemovingPercentEncoding(std::string_view text
     std::string decoded;
     decoded.reserve(text.size());
     for (std::size_t position = 0; position < text.size(); ++position) {
-        if (text[position] != '%') {
-            decoded += text[position];
-            continue;
-        }
+        const std::size_t escape = std::min(text.find('%', position), text.size());
+        decoded += text.substr(position, escape - position);
+        position = escape;
+        if (position == text.size())
+            break;
         const std::string_view digits = text.substr(position + 1, 2);
         unsigned char value = 0;
         const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value, 16);

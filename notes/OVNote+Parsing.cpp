@@ -40,6 +40,8 @@ FilesByName filesByName(const OVNote& note)
 /// Takes the file that the link names out of the map, under both spellings of the link; null when it names none.
 OVNoteFile* takeFileForLink(const std::string& link, FilesByName& files)
 {
+    if (files.empty())
+        return nullptr;
     const auto decoded = stringByRemovingPercentEncoding(link);
     auto found = decoded ? files.find(*decoded) : files.end();
     if (found == files.end())
