@@ -46,14 +46,18 @@ MainQueue& MainQueue::main()
     return *queue;
 }
 
+// What other threads call holds the state: the task that it hands over may end the queue's life before it returns.
+
 void MainQueue::async(Task task)
 {
-    state_->enqueue(std::move(task), false);
+    const auto state = state_;
+    state->enqueue(std::move(task), false);
 }
 
 void MainQueue::enqueueAwaited(Task task)
 {
-    state_->enqueue(std::move(task), true);
+    const auto state = state_;
+    state->enqueue(std::move(task), true);
 }
 
 bool MainQueue::isCurrent() const noexcept
@@ -73,7 +77,8 @@ void MainQueue::cancelAtEndOfPass(const void* key)
 
 bool MainQueue::postCoalesced(const void* key, Task task)
 {
-    return state_->setCoalesced(key, std::move(task));
+    const auto state = state_;
+    return state->setCoalesced(key, std::move(task));
 }
 
 void MainQueue::cancelCoalesced(const void* key)

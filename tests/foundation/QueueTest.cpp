@@ -242,6 +242,21 @@ TEST(MainQueue, RunsUntilTheAnswerOfAnotherThreadIsThere)
     EXPECT_TRUE(queue.runUntil([&] { return done; }, kLongEnough));
 }
 
+TEST(MainQueue, MayEndBeforeTheThreadThatGaveItTheLastTaskIsBack)
+{
+    for (int run = 0; run < 200; ++run) {
+        std::thread other;
+        {
+            MainQueue queue;
+            bool done = false;
+            other = std::thread([&queue, &done] { queue.async([&done] { done = true; }); });
+            while (!done) // without sleeping, so that the task is taken as soon as it is there
+                queue.drain();
+        }
+        other.join();
+    }
+}
+
 TEST(MainQueue, StopsWaitingWhenTheTimeIsOver)
 {
     MainQueue queue;
