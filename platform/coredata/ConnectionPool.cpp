@@ -57,6 +57,21 @@ ReadAccess ConnectionPool::read()
         return {*this, *writer_, nullptr};
     std::unique_lock lock(mutex_);
     returned_.wait(lock, [this] { return !idle_.empty() || readerCount_ < kMostReaders; });
+    return lend();
+}
+
+std::optional<ReadAccess> ConnectionPool::readAtOnce()
+{
+    checkFileIsTheSame();
+    const std::scoped_lock lock(mutex_);
+    if (idle_.empty() && readerCount_ >= kMostReaders)
+        return std::nullopt;
+    return lend();
+}
+
+/// With the mutex held.
+ReadAccess ConnectionPool::lend()
+{
     std::unique_ptr<SQLiteConnection> connection;
     if (!idle_.empty()) {
         connection = std::move(idle_.back());

@@ -44,6 +44,8 @@ public:
     WriterTurn& turn() noexcept { return turn_; }
     /// Throws `StoreErrorReplaced` when another file has taken the store's place.
     ReadAccess read();
+    /// A reading connection, if one is to be had without waiting.
+    std::optional<ReadAccess> readAtOnce();
     void checkFileIsTheSame() const;
     std::chrono::milliseconds patience() const noexcept { return options_.patience; }
 
@@ -55,6 +57,7 @@ private:
         friend bool operator==(const FileIdentity&, const FileIdentity&) = default;
     };
     std::optional<FileIdentity> identityOfFile() const;
+    ReadAccess lend();
     void takeBack(std::unique_ptr<SQLiteConnection> connection) noexcept;
 
     std::filesystem::path file_;

@@ -42,6 +42,7 @@ constexpr std::array kIndexHints{
     Word<bool ModelFile::Attribute::*>{"value", &ModelFile::Attribute::indexed},
     Word<bool ModelFile::Attribute::*>{"folded", &ModelFile::Attribute::folded},
     Word<bool ModelFile::Attribute::*>{"substring", &ModelFile::Attribute::substringIndexed},
+    Word<bool ModelFile::Attribute::*>{"flag", &ModelFile::Attribute::flagIndexed},
 };
 
 /// One JSON object of the file, read key by key; remembers which keys were asked for, so that a misspelt one is found.
@@ -201,7 +202,9 @@ void readIndexHints(Declaration& declaration, ModelFile::Attribute& attribute)
     }
     if ((attribute.folded || attribute.substringIndexed) && attribute.type != NSAttributeType::String)
         declaration.fail("only a string can be indexed folded or by substring");
-    if (attribute.large && (attribute.indexed || attribute.folded))
+    if (attribute.flagIndexed && attribute.type != NSAttributeType::Boolean)
+        declaration.fail("only a truth value can be indexed as a flag");
+    if (attribute.large && (attribute.indexed || attribute.folded || attribute.flagIndexed))
         declaration.fail("a large attribute can only be indexed by substring");
 }
 

@@ -28,6 +28,7 @@ struct ModelFile {
         bool indexed = false;
         bool folded = false;
         bool substringIndexed = false;
+        bool flagIndexed = false;
         bool inTextGroup = false;
         std::string companion;
     };

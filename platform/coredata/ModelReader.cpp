@@ -109,6 +109,7 @@ NSAttributeDescription& ModelReader::makeAttribute(
     made->indexed_ = declared.indexed;
     made->folded_ = declared.folded;
     made->substringIndexed_ = declared.substringIndexed;
+    made->flagIndexed_ = declared.flagIndexed;
     auto& attribute = *made;
     model_->ownedProperties_.push_back(std::move(made));
     return attribute;

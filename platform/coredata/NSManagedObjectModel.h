@@ -81,6 +81,8 @@ public:
     bool isFolded() const noexcept { return folded_; }
     /// Gets a signature for `CONTAINS[cd]` and the literals of `MATCHES`.
     bool isSubstringIndexed() const noexcept { return substringIndexed_; }
+    /// Of a flag that few records have: those are listed in an index.
+    bool isFlagIndexed() const noexcept { return flagIndexed_; }
 
 private:
     friend class ModelReader;
@@ -91,6 +93,7 @@ private:
     bool indexed_ = false;
     bool folded_ = false;
     bool substringIndexed_ = false;
+    bool flagIndexed_ = false;
 };
 
 class NSRelationshipDescription final : public NSPropertyDescription {

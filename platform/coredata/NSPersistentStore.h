@@ -156,7 +156,13 @@ public:
     virtual bool setMetadataValue(std::string_view key, std::string_view value, NSError* error) = 0;
     /// Problems that the store finds in itself; empty when it is sound. Reads everything.
     virtual bool checkIntegrity(std::vector<std::string>& problems, NSError* error) = 0;
-    /// The plan of a fetch, for people and tests: generated SQL with its arguments, and how it is walked.
+    /// What is amiss with the index that narrows searches in texts. A row that it does not know costs time; a row that
+    /// it knows wrongly would be missed. Reads all texts; a store without such an index has nothing to report.
+    virtual bool checkSearchIndex(std::vector<std::string>& problems, NSError* error);
+    /// Makes good what `checkSearchIndex` finds; `repaired` becomes the number of rows.
+    virtual bool repairSearchIndex(std::size_t& repaired, NSError* error);
+    /// The plan of a fetch, for people and tests: generated SQL with its arguments, how it is walked, and for a search
+    /// in texts what the index left of the rows and how long it took.
     virtual std::string explain(const StoreFetch& fetch) = 0;
 };
 

@@ -77,7 +77,10 @@ Condition SQLConditionBuilder::quantified(
     case ComparisonModifier::Any:
         break;
     }
-    SQLScope member{&scope, {}, paths_.newAlias(), &end.toMany->destinationEntity(), {}, false};
+    SQLScope member;
+    member.outer = &scope;
+    member.alias = paths_.newAlias();
+    member.entity = &end.toMany->destinationEntity();
     SQLPathEnd rest = paths_.follow(paths_.placeOf(member), end.rest);
     // An object that is missing on the way would count as a member without value; the evaluator sees to that.
     if (rest.toMany && rest.passedToOne)
@@ -197,7 +200,7 @@ SQLConditionBuilder::SelectForm SQLConditionBuilder::selectForm(const Members& m
     if (members.scope->readsOuter || members.condition == always)
         return SelectForm::OfOwner;
     // What needs other tables too is not worth being looked for twice.
-    if (!options_.isLargeSet || !members.scope->joins.empty())
+    if (!options_.isLargeSet || !members.scope->joins.empty() || members.scope->readsTexts)
         return SelectForm::AllOwners;
     if (options_.isLargeSet({memberKeys(members), text_.bindings}))
         return SelectForm::OfOwner;

@@ -202,7 +202,7 @@ Condition SQLConditionBuilder::equality(
     if (left.kind == Kind::String && hasOptions(options)) {
         if (isFullFold(options))
             return foldedEquality(left, value->asString(), negated);
-        const std::string test = stringTest(left.sql, ComparisonOperator::EqualTo, options, value->asString());
+        const std::string test = stringTest(left, ComparisonOperator::EqualTo, options, value->asString());
         return negated ? "NOT " + test : test;
     }
     const std::string wanted = (negated ? " IS NOT " : " = ") + text_.bind(*scalarBinding(*value));
@@ -299,7 +299,7 @@ Condition SQLConditionBuilder::order(
         return truth(negated);
     std::string condition;
     if (left.kind == Kind::String && hasOptions(options)) {
-        condition = stringTest(left.sql, operation, options, value->asString());
+        condition = stringTest(left, operation, options, value->asString());
         return negated ? "NOT " + condition : condition;
     }
     condition = left.sql + std::string(textOf(operation).sql) + text_.bind(*scalarBinding(*value));
@@ -308,8 +308,9 @@ Condition SQLConditionBuilder::order(
 
 // Strings -------------------------------------------------------------------------------------------------------------
 
+/// 0 or 1, never NULL.
 std::string SQLConditionBuilder::stringTest(
-    const std::string& column, ComparisonOperator operation, ComparisonOptions options, const std::string& right)
+    const Operand& left, ComparisonOperator operation, ComparisonOptions options, const std::string& right)
 {
     std::string description(textOf(operation).name);
     if (hasOptions(options)) {
@@ -318,7 +319,10 @@ std::string SQLConditionBuilder::stringTest(
     }
     description += " \"" + right + '"';
     auto test = std::make_shared<const StringTest>(operation, options, right);
-    return "string_test(" + text_.bind(SQLStringTest{std::move(test), std::move(description)}) + ", " + column + ")";
+    const KeySetPtr rows = left.searched ? options_.rowsThatMayMatch(*left.searched, *test) : nullptr;
+    const std::string tested
+        = "string_test(" + text_.bind(SQLStringTest{std::move(test), std::move(description)}) + ", " + left.sql + ")";
+    return rows ? "(key_in(" + text_.bind(rows) + ", " + left.key + ") AND " + tested + ")" : tested;
 }
 
 Condition SQLConditionBuilder::stringCondition(
@@ -335,11 +339,11 @@ Condition SQLConditionBuilder::stringCondition(
         if (prefix.empty())
             return range;
         return "(" + *range + " OR (" + left.shadow + " IS NULL AND " + left.sql + " IS NOT NULL AND "
-            + stringTest(left.sql, predicate.operation, options, right.asString()) + "))";
+            + stringTest(left, predicate.operation, options, right.asString()) + "))";
     }
     if (predicate.operation == ComparisonOperator::BeginsWith && left.indexed && !hasOptions(options))
         return beginning(left.sql, right.asString(), negated);
-    const std::string test = stringTest(left.sql, predicate.operation, options, right.asString());
+    const std::string test = stringTest(left, predicate.operation, options, right.asString());
     return negated ? "NOT " + test : test;
 }
 

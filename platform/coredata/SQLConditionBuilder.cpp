@@ -187,10 +187,22 @@ std::optional<SQLPathEnd> SQLConditionBuilder::pathEnd(const Expression& express
 
 SQLConditionBuilder::Operand SQLConditionBuilder::operandAt(SQLPathEnd& end)
 {
-    if (!end.attribute)
-        return {end.place.key, Kind::Object, end.place.entity, {}, true, {}};
-    Operand operand{paths_.column(end.place, *end.attribute), Kind::Number, nullptr, {}, end.attribute->isIndexed(),
-        flagSelect(end)};
+    Operand operand;
+    if (!end.attribute) {
+        operand.sql = end.place.key;
+        operand.kind = Kind::Object;
+        operand.entity = end.place.entity;
+        operand.indexed = true;
+        return operand;
+    }
+    operand.indexed = end.attribute->isIndexed();
+    operand.flagSelect = flagSelect(end);
+    if (options_.rowsThatMayMatch && hasSignature(*end.attribute)) {
+        operand.searched = end.attribute;
+        operand.key = end.place.key;
+    }
+    operand.sql
+        = operand.searched && end.attribute->isLarge() ? searchedColumn(end) : paths_.column(end.place, *end.attribute);
     if (end.attribute->type() == NSAttributeType::String)
         operand.kind = Kind::String;
     else if (end.attribute->type() == NSAttributeType::Date)
@@ -200,6 +212,15 @@ SQLConditionBuilder::Operand SQLConditionBuilder::operandAt(SQLPathEnd& end)
     if (options_.usesShadows && hasShadowColumn(*end.attribute))
         operand.shadow = paths_.shadowColumn(end.place, *end.attribute);
     return operand;
+}
+
+/// Most rows are passed over by their keys alone: the large table is looked at for the others only.
+std::string SQLConditionBuilder::searchedColumn(const SQLPathEnd& end) const
+{
+    end.place.scope->readsTexts = true;
+    return "(SELECT " + quotedIdentifier(end.attribute->name()) + " FROM "
+        + quotedIdentifier(paths_.schema().table(*end.place.entity).largeName) + " WHERE \"pk\" = " + end.place.key
+        + ")";
 }
 
 std::string SQLConditionBuilder::flagSelect(const SQLPathEnd& end) const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/coredata/KeySet.h"
 #include "platform/coredata/NSManagedObjectID.h"
 #include "platform/coredata/SQLScope.h"
 #include "platform/coredata/SQLText.h"
@@ -19,6 +20,8 @@ struct SQLConditionOptions {
     bool usesShadows = true;
     /// Whether a SELECT gives so many rows that others should be looked at instead. Unset: never.
     std::function<bool(const SQLText& select)> isLargeSet;
+    /// The rows of an attribute's table that a test may hold for; null when nothing is known. Unset: never known.
+    std::function<KeySetPtr(const NSAttributeDescription& attribute, const StringTest& test)> rowsThatMayMatch;
     /// An order is asked for, and only its first rows: an index may be walked until there are enough.
     bool walksOrder = false;
     /// The attribute that the order begins with: its own index gives the rows in that order.
@@ -57,6 +60,8 @@ private:
         const NSEntityDescription* entity = nullptr; ///< of an object
         std::string shadow;                          ///< column of the folded value, where there is one
         bool indexed = false;
+        const NSAttributeDescription* searched = nullptr; ///< an attribute with signatures
+        std::string key;                                  ///< its row's primary key
         std::string flagSelect; ///< of a flag that leads an index of the walked table: "SELECT 1 FROM ... WHERE <flag>"
     };
     /// Members of a collection, for `member IN (...)` or EXISTS.
@@ -98,7 +103,7 @@ private:
     Condition membership(const Operand& left, const Value::Array& list, ComparisonOptions options, bool negated);
     Condition between(const Operand& left, const Value& bounds, ComparisonOptions options, bool negated);
     std::string stringTest(
-        const std::string& column, ComparisonOperator operation, ComparisonOptions options, const std::string& right);
+        const Operand& left, ComparisonOperator operation, ComparisonOptions options, const std::string& right);
     std::string boundList(const Value::Array& values);
 
     // Collections (SQLCollections.cpp).
@@ -118,6 +123,7 @@ private:
     // Where things stand.
     std::optional<Operand> operand(const Expression& expression, SQLScope& scope);
     Operand operandAt(SQLPathEnd& end);
+    std::string searchedColumn(const SQLPathEnd& end) const;
     std::string flagSelect(const SQLPathEnd& end) const;
     std::optional<SQLPathEnd> pathEnd(const Expression& expression, SQLScope& scope);
     SQLScope* scopeOf(const Expression& base, SQLScope& scope) const;

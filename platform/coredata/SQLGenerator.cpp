@@ -5,6 +5,7 @@
 #include "platform/foundation/NSException.h"
 
 #include <algorithm>
+#include <array>
 
 namespace tarn {
 
@@ -60,7 +61,19 @@ std::vector<PredicateNodePtr> conjuncts(const NSPredicate& predicate)
     return {predicate.nodePtr()};
 }
 
+/// WHERE with these conditions, or nothing.
+std::string where(const std::vector<std::string>& conditions)
+{
+    return conditions.empty() ? std::string() : " WHERE " + SQLConditionBuilder::joined(conditions, " AND ");
+}
+
 } // namespace
+
+std::string_view nameOfPlan(SearchPlan::Kind kind)
+{
+    constexpr std::array<std::string_view, 4> kNames{"no index", "check candidates", "walk the order", "scan"};
+    return kNames[static_cast<std::size_t>(kind)];
+}
 
 std::string entityCondition(const NSEntityDescription& entity, bool includesSubentities, std::string_view alias)
 {
@@ -73,7 +86,11 @@ std::string entityCondition(const NSEntityDescription& entity, bool includesSube
 }
 
 struct SQLGenerator::Parts {
-    explicit Parts(const StoreSchema& schema) : paths(schema) { }
+    Parts(const StoreSchema& schema, const NSEntityDescription& entity) : paths(schema)
+    {
+        scope.alias = paths.newAlias();
+        scope.entity = &entity;
+    }
 
     SQLPaths paths;
     SQLScope scope;
@@ -82,17 +99,14 @@ struct SQLGenerator::Parts {
 
 GeneratedSelect SQLGenerator::rows(const StoreFetch& fetch, RowContents& contents) const
 {
-    Parts parts(selects_.schema());
-    parts.scope.alias = parts.paths.newAlias();
-    parts.scope.entity = fetch.entity;
-    const std::string condition = where(fetch, parts);
+    Parts parts(selects_.schema(), *fetch.entity);
+    const std::string condition = where(conditions(fetch, parts));
     const std::string order = orderBy(fetch, parts);
     if (parts.select.remainder)
         contents = contentsForRemainder(*parts.select.remainder, *fetch.entity, contents);
     const RowLayout& layout = selects_.layout(*fetch.entity, contents);
     const StoreTable& table = selects_.schema().table(*fetch.entity);
-    std::string sql = "SELECT " + layout.columnList() + " FROM " + quotedIdentifier(table.name) + " AS "
-        + parts.scope.alias + parts.scope.joinSQL();
+    std::string sql = "SELECT " + layout.columnList() + " FROM " + from(table, parts) + parts.scope.joinSQL();
     if (layout.readsLargeTable())
         sql += " LEFT JOIN " + quotedIdentifier(table.largeName) + " AS large ON large.\"pk\" = " + parts.scope.alias
             + ".\"pk\"";
@@ -109,29 +123,53 @@ GeneratedSelect SQLGenerator::rows(const StoreFetch& fetch, RowContents& content
 
 GeneratedSelect SQLGenerator::count(const StoreFetch& fetch) const
 {
-    Parts parts(selects_.schema());
-    parts.scope.alias = parts.paths.newAlias();
-    parts.scope.entity = fetch.entity;
-    const std::string condition = where(fetch, parts);
+    return countSelect(fetch, std::nullopt);
+}
+
+GeneratedSelect SQLGenerator::countInRange(const StoreFetch& fetch, KeyRange range) const
+{
+    return countSelect(fetch, range);
+}
+
+GeneratedSelect SQLGenerator::countSelect(const StoreFetch& fetch, std::optional<KeyRange> range) const
+{
+    Parts parts(selects_.schema(), *fetch.entity);
+    std::vector<std::string> all = conditions(fetch, parts);
     const StoreTable& table = selects_.schema().table(*fetch.entity);
-    parts.select.text.sql = "SELECT count(*) FROM " + quotedIdentifier(table.name) + " AS " + parts.scope.alias
-        + parts.scope.joinSQL() + condition;
+    const std::string source = from(table, parts);
+    if (range) {
+        const std::string first = parts.select.text.bind(range->first);
+        const std::string last = parts.select.text.bind(range->last);
+        all.insert(all.begin(), parts.scope.alias + ".\"pk\" BETWEEN " + first + " AND " + last);
+    }
+    parts.select.text.sql = "SELECT count(*) FROM " + source + parts.scope.joinSQL() + where(all);
     return std::move(parts.select);
 }
 
-std::string SQLGenerator::where(const StoreFetch& fetch, Parts& parts) const
+/// A CROSS JOIN keeps its order: the candidates lead to the rows.
+std::string SQLGenerator::from(const StoreTable& table, Parts& parts) const
 {
-    std::vector<std::string> conditions;
-    if (auto entity = entityCondition(*fetch.entity, fetch.includesSubentities, parts.scope.alias); !entity.empty())
-        conditions.push_back(std::move(entity));
+    const std::string rows = quotedIdentifier(table.name) + " AS " + parts.scope.alias;
+    if (plan_.kind != SearchPlan::Kind::CheckCandidates)
+        return rows;
+    return "value_list(" + parts.select.text.bind(SQLKeyList{plan_.candidates}) + ") AS c CROSS JOIN " + rows + " ON "
+        + parts.scope.alias + ".\"pk\" = c.\"value\"";
+}
+
+std::vector<std::string> SQLGenerator::conditions(const StoreFetch& fetch, Parts& parts) const
+{
+    std::vector<std::string> all;
     if (fetch.predicate)
-        addPredicate(*fetch.predicate, parts, conditions);
+        addPredicate(*fetch.predicate, parts, all);
+    if (plan_.kind == SearchPlan::Kind::WalkOrder || plan_.kind == SearchPlan::Kind::Scan)
+        all.insert(
+            all.begin(), "key_in(" + parts.select.text.bind(plan_.candidates) + ", " + parts.scope.alias + ".\"pk\")");
+    if (auto entity = entityCondition(*fetch.entity, fetch.includesSubentities, parts.scope.alias); !entity.empty())
+        all.insert(all.begin(), std::move(entity));
     if (!fetch.excludedKeys.empty())
-        conditions.push_back(parts.scope.alias + ".\"pk\" NOT IN (SELECT \"value\" FROM value_list("
+        all.push_back(parts.scope.alias + ".\"pk\" NOT IN (SELECT \"value\" FROM value_list("
             + parts.select.text.bind(fetch.excludedKeys) + "))");
-    if (conditions.empty())
-        return {};
-    return " WHERE " + SQLConditionBuilder::joined(conditions, " AND ");
+    return all;
 }
 
 void SQLGenerator::addPredicate(const NSPredicate& predicate, Parts& parts, std::vector<std::string>& conditions) const

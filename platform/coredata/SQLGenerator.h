@@ -20,30 +20,59 @@ struct GeneratedSelect {
     std::optional<NSPredicate> remainder;
 };
 
+/// Which rows a SELECT looks at, by what the search index says.
+struct SearchPlan {
+    enum class Kind : std::uint8_t {
+        NoIndex,         ///< nothing is known about the predicate as a whole
+        CheckCandidates, ///< the candidates one by one, then sorted
+        WalkOrder,       ///< the rows in the order asked for, candidates checked, until there are enough
+        Scan,            ///< the rows by key, candidates checked
+    };
+    Kind kind = Kind::NoIndex;
+    KeySetPtr candidates; ///< null with `NoIndex`
+    /// How many rows there are to search, as far as is known.
+    std::size_t rowCount = 0;
+};
+/// As people read it: "check candidates".
+std::string_view nameOfPlan(SearchPlan::Kind kind);
+
+/// The part of a table that one of several scans takes: keys from the first to the last.
+struct KeyRange {
+    std::int64_t first = 0;
+    std::int64_t last = 0;
+};
+
 /// Makes the SELECTs of fetches. Pure: the same fetch gives the same text.
 ///
 /// Raises `NSException` for keys that do not exist and for keys that cannot be sorted by.
 class SQLGenerator {
 public:
-    SQLGenerator(const StoreSelects& selects, SQLConditionOptions options)
-        : selects_(selects), options_(std::move(options))
+    SQLGenerator(const StoreSelects& selects, SQLConditionOptions options, SearchPlan plan = {})
+        : selects_(selects), options_(std::move(options)), plan_(std::move(plan))
     { }
+
+    const SearchPlan& plan() const noexcept { return plan_; }
 
     /// SELECT of rows in the order asked for, as a `RowLayout` for these contents reads them; with a remainder,
     /// contents are at least `Row`.
     GeneratedSelect rows(const StoreFetch& fetch, RowContents& contents) const;
     /// SELECT count(*), without limit and offset. With a remainder only that counts: fetch rows instead.
     GeneratedSelect count(const StoreFetch& fetch) const;
+    /// The same for part of the rows; the last two arguments are the ends of the range.
+    GeneratedSelect countInRange(const StoreFetch& fetch, KeyRange range) const;
 
 private:
     struct Parts;
 
-    std::string where(const StoreFetch& fetch, Parts& parts) const;
+    GeneratedSelect countSelect(const StoreFetch& fetch, std::optional<KeyRange> range) const;
+    std::string from(const StoreTable& table, Parts& parts) const;
+    std::vector<std::string> conditions(const StoreFetch& fetch, Parts& parts) const;
     void addPredicate(const NSPredicate& predicate, Parts& parts, std::vector<std::string>& conditions) const;
     std::string orderBy(const StoreFetch& fetch, Parts& parts) const;
 
     const StoreSelects& selects_;
     SQLConditionOptions options_;
+    SearchPlan plan_;
 };
 
 /// `"entity" IN (...)` for the rows of an entity; empty when every row of the table is one.

@@ -22,6 +22,7 @@ struct SQLScope {
     std::string alias;
     const NSEntityDescription* entity = nullptr;
     std::vector<Join> joins;
+    bool readsTexts = false; ///< something in it looks texts up
     bool readsOuter = false; ///< something in it depends on the row of an outer scope
 
     std::string joinSQL() const;

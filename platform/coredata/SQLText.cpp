@@ -20,24 +20,35 @@ void bindAll(SQLiteStatement& statement, const std::vector<SQLBinding>& bindings
 {
     // Arguments of conditions that came out constant are named nowhere; behind the last one that is, they have no
     // place.
+    const auto comparesFolded = [](const SQLBinding& binding) {
+        const auto* test = std::get_if<SQLStringTest>(&binding);
+        return test && test->test->comparesFolded();
+    };
+    const bool hasMany = std::count_if(bindings.begin(), bindings.end(), comparesFolded) > 1;
     const std::size_t count = std::min(bindings.size(), static_cast<std::size_t>(statement.parameterCount()));
     for (std::size_t i = 0; i < count; ++i) {
         const int parameter = static_cast<int>(i) + 1;
-        std::visit(Overloaded{
-                       [&](std::int64_t value) { statement.bindInteger(parameter, value); },
-                       [&](double value) { statement.bindDouble(parameter, value); },
-                       [&](const std::string& text) { statement.bindText(parameter, text); },
-                       [&](const NSData& data) { statement.bindBlob(parameter, data.text()); },
-                       [&](const SQLStringTest& test) {
-                           statement.bindPointer(parameter, test.test.get(), stringTestPointerType);
-                       },
-                       [&](const std::shared_ptr<const Value::Array>& list) {
-                           statement.bindPointer(parameter, list.get(), valueListPointerType);
-                       },
-                       [&](const std::span<const std::int64_t>& keys) {
-                           statement.bindPointer(parameter, &keys, keyListPointerType);
-                       },
-                   },
+        std::visit(
+            Overloaded{
+                [&](std::int64_t value) { statement.bindInteger(parameter, value); },
+                [&](double value) { statement.bindDouble(parameter, value); },
+                [&](const std::string& text) { statement.bindText(parameter, text); },
+                [&](const NSData& data) { statement.bindBlob(parameter, data.text()); },
+                [&](const SQLStringTest& test) {
+                    statement.bindPointer(parameter, test.test.get(),
+                        hasMany && test.test->comparesFolded() ? oneOfManyTestsPointerType : stringTestPointerType);
+                },
+                [&](const std::shared_ptr<const Value::Array>& list) {
+                    statement.bindPointer(parameter, list.get(), valueListPointerType);
+                },
+                [&](const std::span<const std::int64_t>& keys) {
+                    statement.bindPointer(parameter, &keys, keyListPointerType);
+                },
+                [&](const KeySetPtr& keys) { statement.bindPointer(parameter, keys.get(), keySetPointerType); },
+                [&](const SQLKeyList& list) {
+                    statement.bindPointer(parameter, &list.keys->keys(), keyListPointerType);
+                },
+            },
             bindings[i]);
     }
 }
@@ -53,6 +64,8 @@ std::string describeBinding(const SQLBinding& binding)
             [](const SQLStringTest& test) { return test.description; },
             [](const std::shared_ptr<const Value::Array>& list) { return fmt::format("<{} values>", list->size()); },
             [](const std::span<const std::int64_t>& keys) { return fmt::format("<{} keys>", keys.size()); },
+            [](const KeySetPtr& keys) { return fmt::format("<{} keys>", keys->size()); },
+            [](const SQLKeyList& list) { return fmt::format("<{} keys>", list.keys->size()); },
         },
         binding);
 }

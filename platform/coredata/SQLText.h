@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/coredata/KeySet.h"
 #include "platform/foundation/Value.h"
 #include "platform/predicate/StringTest.h"
 
@@ -20,9 +21,14 @@ struct SQLStringTest {
     std::string description; ///< for people: `CONTAINS[cd] "pears"`
 };
 
-/// One argument of a statement: a scalar, a string test, or a list for `value_list`.
+/// Keys as an argument of `value_list`, where `SQLBinding` has them for `key_in`.
+struct SQLKeyList {
+    KeySetPtr keys;
+};
+
+/// One argument of a statement: a scalar, a string test, keys for `key_in`, or a list for `value_list`.
 using SQLBinding = std::variant<std::int64_t, double, std::string, NSData, SQLStringTest,
-    std::shared_ptr<const Value::Array>, std::span<const std::int64_t>>;
+    std::shared_ptr<const Value::Array>, std::span<const std::int64_t>, KeySetPtr, SQLKeyList>;
 
 /// A statement and its arguments: `?1` is the first one.
 struct SQLText {

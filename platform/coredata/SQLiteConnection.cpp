@@ -232,6 +232,8 @@ void SQLiteConnection::configure()
 int SQLiteConnection::waitForLock(void* connection, int attempt)
 {
     auto& self = *static_cast<SQLiteConnection*>(connection);
+    if (!self.waits_)
+        return 0;
     const auto now = std::chrono::steady_clock::now();
     if (attempt == 0)
         self.waitingSince_ = now;
@@ -315,6 +317,26 @@ std::int64_t SQLiteConnection::changedRowCount() const noexcept
 bool SQLiteConnection::isInTransaction() const noexcept
 {
     return sqlite3_get_autocommit(handle_) == 0;
+}
+
+bool SQLiteConnection::isWriting() const noexcept
+{
+    return sqlite3_txn_state(handle_, "main") == SQLITE_TXN_WRITE;
+}
+
+bool SQLiteConnection::beginReadingAtOnce()
+{
+    waits_ = false;
+    try {
+        execute("BEGIN");
+        integerOf("PRAGMA data_version"); // takes the lock
+    } catch (const StoreFailure&) {
+        rollBack();
+        waits_ = true;
+        return false;
+    }
+    waits_ = true;
+    return true;
 }
 
 bool SQLiteConnection::isReadOnly() const noexcept

@@ -98,8 +98,12 @@ public:
     /// Rows that the last INSERT, UPDATE or DELETE changed.
     std::int64_t changedRowCount() const noexcept;
     bool isInTransaction() const noexcept;
+    /// Whether it holds the lock for writing.
+    bool isWriting() const noexcept;
     /// Whether the system lets this process only read the file. SQLite would begin a "write" transaction all the same.
     bool isReadOnly() const noexcept;
+    /// Begins to read: until the transaction ends nobody commits. False when that would mean to wait for another one.
+    bool beginReadingAtOnce();
     /// Ends a transaction without keeping anything of it; never fails.
     void rollBack() noexcept;
     /// How many prepared statements are on loan.
@@ -124,6 +128,7 @@ private:
     std::chrono::steady_clock::time_point waitingSince_{};
     std::uint32_t jitter_ = 0;
     std::size_t inUse_ = 0;
+    bool waits_ = true;
     Cache cache_; ///< the latest used first
     std::unordered_map<std::string_view, Cache::iterator> cachedByText_;
 };

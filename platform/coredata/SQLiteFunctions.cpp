@@ -1,11 +1,13 @@
 #include "platform/coredata/SQLiteFunctions.h"
 
+#include "platform/coredata/KeySet.h"
 #include "platform/coredata/SQLiteConnection.h"
 #include "platform/coredata/SQLiteValueList.h"
 #include "platform/foundation/Collation.h"
 #include "platform/foundation/Folding.h"
 #include "platform/predicate/StringTest.h"
 
+#include <cstring>
 #include <exception>
 #include <sqlite3.h>
 #include <string>
@@ -36,18 +38,60 @@ void foldFunction(sqlite3_context* context, int, sqlite3_value** arguments)
     }
 }
 
+/// The last text of a connection with its folded form: several tests of one row fold its text once.
+class LastFoldedText {
+public:
+    std::string_view folded(std::string_view text)
+    {
+        if (text.size() != text_.size() || std::memcmp(text.data(), text_.data(), text.size()) != 0) {
+            text_ = text;
+            folded_.clear();
+            appendFolded(folded_, text);
+        }
+        return folded_;
+    }
+
+private:
+    std::string text_;
+    std::string folded_;
+};
+
+/// Larger ones would stay in memory for long.
+constexpr std::size_t kLargestKeptText = std::size_t{1} << 20U;
+
+bool holds(const StringTest& test, bool isOneOfMany, sqlite3_context* context, std::string_view text)
+{
+    if (!isOneOfMany || text.empty() || text.size() > kLargestKeptText)
+        return test.matches(text);
+    return test.matchesFolded(static_cast<LastFoldedText*>(sqlite3_user_data(context))->folded(text));
+}
+
 void stringTestFunction(sqlite3_context* context, int, sqlite3_value** arguments)
 {
-    const auto* test = static_cast<const StringTest*>(sqlite3_value_pointer(arguments[0], stringTestPointerType));
-    if (!test || sqlite3_value_type(arguments[1]) == SQLITE_NULL) {
+    if (sqlite3_value_type(arguments[1]) == SQLITE_NULL) {
+        sqlite3_result_int(context, 0);
+        return;
+    }
+    const void* single = sqlite3_value_pointer(arguments[0], stringTestPointerType);
+    const void* bound = single ? single : sqlite3_value_pointer(arguments[0], oneOfManyTestsPointerType);
+    if (!bound) {
         sqlite3_result_int(context, 0);
         return;
     }
     try {
-        sqlite3_result_int(context, test->matches(textOf(arguments[1])) ? 1 : 0);
+        const bool isOneOfMany = single == nullptr;
+        const auto& test = *static_cast<const StringTest*>(bound);
+        sqlite3_result_int(context, holds(test, isOneOfMany, context, textOf(arguments[1])) ? 1 : 0);
     } catch (const std::exception& failure) {
         sqlite3_result_error(context, failure.what(), -1);
     }
+}
+
+void keyInFunction(sqlite3_context* context, int, sqlite3_value** arguments)
+{
+    const auto* keys = static_cast<const KeySet*>(sqlite3_value_pointer(arguments[0], keySetPointerType));
+    const bool isKey = sqlite3_value_type(arguments[1]) == SQLITE_INTEGER;
+    sqlite3_result_int(context, keys && isKey && keys->contains(sqlite3_value_int64(arguments[1])) ? 1 : 0);
 }
 
 int compareLocalized(void*, int leftLength, const void* left, int rightLength, const void* right)
@@ -71,8 +115,11 @@ void registerSQLiteFunctions(SQLiteConnection& connection)
     int result
         = sqlite3_create_function_v2(handle, "fold", 1, kFlags, nullptr, foldFunction, nullptr, nullptr, nullptr);
     if (result == SQLITE_OK)
+        result = sqlite3_create_function_v2(handle, "string_test", 2, kFlags, new LastFoldedText, stringTestFunction,
+            nullptr, nullptr, [](void* last) { delete static_cast<LastFoldedText*>(last); });
+    if (result == SQLITE_OK)
         result = sqlite3_create_function_v2(
-            handle, "string_test", 2, kFlags, nullptr, stringTestFunction, nullptr, nullptr, nullptr);
+            handle, "key_in", 2, kFlags, nullptr, keyInFunction, nullptr, nullptr, nullptr);
     if (result == SQLITE_OK)
         result = sqlite3_create_collation_v2(
             handle, "localized_standard", SQLITE_UTF8, nullptr, compareLocalized, nullptr);

@@ -12,13 +12,17 @@ class SQLiteConnection;
 ///
 /// - `fold(text)`: the folded text; NULL for NULL.
 /// - `string_test(test, text)`: 1 when the `StringTest` bound to `test` matches, else 0; 0 for NULL.
+/// - `key_in(keys, key)`: 1 when the `KeySet` bound to `keys` has the key, else 0; 0 for NULL.
 /// - `value_list(list)`: a table of one column, "value", over a bound `Value::Array` or span of keys.
 /// - collation `localized_standard`: the order of `localizedStandardCompare`.
 void registerSQLiteFunctions(SQLiteConnection& connection);
 
 /// Names under which objects are bound for these functions.
 inline constexpr const char* stringTestPointerType = "tarn string test"; ///< const StringTest*
-inline constexpr const char* valueListPointerType = "tarn values";       ///< const Value::Array*
-inline constexpr const char* keyListPointerType = "tarn keys";           ///< const std::span<const std::int64_t>*
+/// The same, of several in one statement: what they fold is kept for the next.
+inline constexpr const char* oneOfManyTestsPointerType = "tarn string test of many";
+inline constexpr const char* keySetPointerType = "tarn key set";   ///< const KeySet*
+inline constexpr const char* valueListPointerType = "tarn values"; ///< const Value::Array*
+inline constexpr const char* keyListPointerType = "tarn keys";     ///< const std::span<const std::int64_t>*
 
 } // namespace tarn

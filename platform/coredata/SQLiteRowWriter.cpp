@@ -1,7 +1,9 @@
 #include "platform/coredata/SQLiteRowWriter.h"
 
 #include "platform/coredata/SQLiteConnection.h"
+#include "platform/coredata/SearchTables.h"
 #include "platform/coredata/StoreFailure.h"
+#include "platform/coredata/SubstringSignature.h"
 #include "platform/foundation/Folding.h"
 
 #include <algorithm>
@@ -72,7 +74,7 @@ void SQLiteRowWriter::bind(SQLiteStatement& statement, int parameter, const Stor
 void SQLiteRowWriter::bindShadow(
     SQLiteStatement& statement, int parameter, const StoreColumn& column, const StoreRow& row)
 {
-    if (!hasValue(column, row))
+    if (!hasValue(column, row) || derived_ == DerivedValues::LeftStale)
         return statement.bindNull(parameter);
     foldedTexts_.push_back(fold(row.values.bytes(column.property->index())));
     statement.bindText(parameter, foldedTexts_.back());
@@ -162,8 +164,29 @@ void SQLiteRowWriter::insert(const StoreRow& row)
     }
     awaitTargets(table, plan.columns, row);
     const auto isSet = [&](const StoreColumn* column) { return hasValue(*column, row); };
-    if (std::any_of(plan.largeColumns.begin(), plan.largeColumns.end(), isSet))
-        writeLarge(table, plan.largeColumns, row);
+    writeSignatures(table, plan.columns, row);
+    if (!std::any_of(plan.largeColumns.begin(), plan.largeColumns.end(), isSet))
+        return;
+    writeLarge(table, plan.largeColumns, row);
+    writeSignatures(table, plan.largeColumns, row);
+}
+
+/// After the columns: triggers have made the signatures stale, as they do whoever writes.
+void SQLiteRowWriter::writeSignatures(
+    const StoreTable& table, const std::vector<const StoreColumn*>& columns, const StoreRow& row)
+{
+    for (const auto& signature : table.signatures) {
+        const auto holds = [&](const StoreColumn* column) { return column->attribute() == signature->attribute; };
+        const auto column = std::find_if(columns.begin(), columns.end(), holds);
+        if (column == columns.end())
+            continue;
+        hasWrittenSignatures_ = true;
+        if (derived_ == DerivedValues::LeftStale)
+            continue;
+        const PropertyIndex index = signature->attribute->index();
+        writeSignature(connection_, *signature, row.key,
+            hasValue(**column, row) ? signatureOfText(row.values.bytes(index)) : signatureOfNothing());
+    }
 }
 
 void SQLiteRowWriter::writeLarge(
@@ -219,8 +242,11 @@ RowWriteResult SQLiteRowWriter::update(const StoreRow& row, PropertyMask changed
         return exists(table, row.key) ? RowWriteResult::Conflict : RowWriteResult::Gone;
     rewriteShadows(table, columns, row);
     awaitTargets(table, columns, row);
-    if (!largeColumns.empty())
+    writeSignatures(table, columns, row);
+    if (!largeColumns.empty()) {
         writeLarge(table, largeColumns, row);
+        writeSignatures(table, largeColumns, row);
+    }
     return RowWriteResult::Written;
 }
 
@@ -231,7 +257,7 @@ void SQLiteRowWriter::rewriteShadows(
 {
     std::size_t next = 0;
     for (const StoreColumn* column : columns) {
-        if (!hasShadow(*column) || !hasValue(*column, row))
+        if (!hasShadow(*column) || !hasValue(*column, row) || derived_ == DerivedValues::LeftStale)
             continue;
         const std::string name = shadowName(*column);
         SQLiteStatement statement = connection_.prepare("UPDATE " + quotedIdentifier(table.name) + " SET " + name

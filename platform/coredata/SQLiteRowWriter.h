@@ -14,6 +14,12 @@ namespace tarn {
 class SQLiteConnection;
 class SQLiteStatement;
 
+/// What is derived from texts and stands beside them: folded values and signatures.
+enum class DerivedValues : std::uint8_t {
+    Written,
+    LeftStale, ///< the store's were made by a newer version of folding, which makes them again
+};
+
 /// Writes rows and join rows with one connection, inside a transaction that its user holds.
 ///
 /// What fails throws a `StoreFailure`.
@@ -21,6 +27,10 @@ class SQLiteRowWriter {
 public:
     SQLiteRowWriter(const StoreSchema& schema, SQLiteConnection& connection) : schema_(schema), connection_(connection)
     { }
+
+    void setDerivedValues(DerivedValues derived) noexcept { derived_ = derived; }
+    /// Whether it has written to attributes with signatures.
+    bool hasWrittenSignatures() const noexcept { return hasWrittenSignatures_; }
 
     void insert(const StoreRow& row);
     RowWriteResult update(const StoreRow& row, PropertyMask changed);
@@ -49,10 +59,13 @@ private:
     void awaitTargets(const StoreTable& table, const std::vector<const StoreColumn*>& columns, const StoreRow& row);
     void writeLarge(const StoreTable& table, const std::vector<const StoreColumn*>& columns, const StoreRow& row);
     void rewriteShadows(const StoreTable& table, const std::vector<const StoreColumn*>& columns, const StoreRow& row);
+    void writeSignatures(const StoreTable& table, const std::vector<const StoreColumn*>& columns, const StoreRow& row);
     bool exists(const StoreTable& table, std::int64_t key);
 
     const StoreSchema& schema_;
     SQLiteConnection& connection_;
+    DerivedValues derived_ = DerivedValues::Written;
+    bool hasWrittenSignatures_ = false;
     std::unordered_map<const NSEntityDescription*, InsertPlan> insertPlans_;
     std::vector<AwaitedTarget> awaited_;
     std::vector<std::string> foldedTexts_; ///< what the statement in hand has bound

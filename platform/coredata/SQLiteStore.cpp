@@ -1,13 +1,20 @@
 #include "platform/coredata/SQLiteStore.h"
 
+#include "platform/coredata/ParallelCount.h"
 #include "platform/coredata/SQLiteFetch.h"
 #include "platform/coredata/SQLiteStoreFile.h"
 #include "platform/coredata/SQLiteTransaction.h"
+#include "platform/coredata/SearchTables.h"
 #include "platform/coredata/StoreFailure.h"
+#include "platform/coredata/StoreSearch.h"
 #include "platform/foundation/Folding.h"
+
+#include <fmt/format.h>
 
 #include <algorithm>
 #include <charconv>
+#include <chrono>
+#include <limits>
 
 namespace tarn {
 
@@ -53,7 +60,7 @@ SQLiteConnectionOptions connectionOptions(const StoreOptions& options)
 SQLiteStore::SQLiteStore(
     std::shared_ptr<const NSManagedObjectModel> model, const std::filesystem::path& file, const StoreOptions& options)
     : model_(std::move(model)), file_(file), readOnly_(options.readOnly), schema_(*model_), selects_(schema_, *model_),
-      pool_(std::make_unique<ConnectionPool>(file, connectionOptions(options)))
+      pool_(std::make_unique<ConnectionPool>(file, connectionOptions(options))), searchIndex_(schema_)
 {
     openFile(options.createIfMissing && !options.readOnly);
 }
@@ -72,7 +79,7 @@ void SQLiteStore::openFile(bool createIfMissing)
     const StoreMetadata metadata = readStoreMetadata(connection);
     checkMetadata(metadata);
     identity_ = &StoreIdentity::forUUID(metadata.at(std::string(StoreUUIDKey)));
-    refreshShadows(metadata);
+    refreshDerivedValues(metadata);
     dataVersion_ = static_cast<std::uint64_t>(connection.integerOf("PRAGMA data_version"));
 }
 
@@ -85,22 +92,44 @@ void SQLiteStore::checkMetadata(const StoreMetadata& metadata)
         throw StoreFailure(StoreErrorIncompatible, "The store was written with another version of the model.");
 }
 
-void SQLiteStore::refreshShadows(const StoreMetadata& metadata)
+void SQLiteStore::refreshDerivedValues(const StoreMetadata& metadata)
 {
     SQLiteConnection& connection = pool_->writer();
-    const auto version = metadata.find(std::string(StoreFoldingVersionKey));
-    const bool isCurrent = version != metadata.end() && version->second == std::to_string(foldingVersion());
-    if (!isCurrent && readOnly_)
-        usesShadows_ = false;
-    else if (!isCurrent)
+    const bool isCurrent = foldingVersionOf(metadata) == foldingVersion();
+    if (readOnly_) {
+        usesShadows_ = isCurrent;
+        hasSearchIndex_ = hasSearchTables(connection, schema_);
+    } else if (!isCurrent || !hasSearchTables(connection, schema_) || hasStaleShadows(connection, schema_)) {
+        write([&](SQLiteConnection& writer) {
+            if (derivedValues_ == DerivedValues::Written)
+                foldStale(writer, schema_);
+        });
+    }
+}
+
+/// Folded values and signatures are made by the newest version that writes to the store: whoever is newer makes those
+/// of others stale, whoever is older leaves its own stale. At the beginning of a transaction that writes.
+void SQLiteStore::followDerivedValues(SQLiteConnection& connection)
+{
+    const std::int64_t version = connection.integerOf("PRAGMA data_version");
+    if (version == writerVersion_)
+        return;
+    if (!hasSearchTables(connection, schema_))
+        addSearchTables(connection, schema_);
+    const int stored = foldingVersionOf(readStoreMetadata(connection));
+    if (stored < foldingVersion()) {
         foldAgain(connection, schema_);
-    else if (!readOnly_ && hasStaleShadows(connection, schema_))
-        foldStale(connection, schema_);
+        forgetSignatures(connection, schema_);
+    }
+    const bool isOlder = stored > foldingVersion();
+    derivedValues_ = isOlder ? DerivedValues::LeftStale : DerivedValues::Written;
+    usesShadows_ = !isOlder;
+    writerVersion_ = version;
 }
 
 // Reading -------------------------------------------------------------------------------------------------------------
 
-SQLGenerator SQLiteStore::generator(const StoreFetch& fetch, SQLiteConnection& connection) const
+SQLConditionOptions SQLiteStore::conditionOptions(const StoreFetch& fetch, SQLiteConnection& connection) const
 {
     SQLConditionOptions options;
     options.store = identity_;
@@ -110,16 +139,18 @@ SQLGenerator SQLiteStore::generator(const StoreFetch& fetch, SQLiteConnection& c
     options.walksOrder = fetch.limit > 0 && !fetch.sortDescriptors.empty();
     if (options.walksOrder)
         options.firstSortKey = fetch.sortDescriptors.front().key;
-    return {selects_, std::move(options)};
+    return options;
 }
 
 bool SQLiteStore::fetch(const StoreFetch& fetch, std::vector<StoreRow>& rows, NSError* error)
 {
     return reportingFailure(error, [&] {
         const ReadAccess access = pool_->read();
-        const SQLiteRowReader reader(*identity_, selects_, access.connection());
-        const SQLGenerator generator = this->generator(fetch, access.connection());
-        rows = SQLiteFetch(fetch, selects_, generator, reader, access.connection()).rows();
+        SQLiteConnection& connection = access.connection();
+        const SQLiteRowReader reader(*identity_, selects_, connection);
+        const StoreSearch search(hasSearchIndex_ ? &searchIndex_ : nullptr, selects_, connection, fetch,
+            FetchPurpose::Rows, conditionOptions(fetch, connection));
+        rows = SQLiteFetch(fetch, selects_, search.generator(), reader, connection).rows();
     });
 }
 
@@ -127,10 +158,25 @@ bool SQLiteStore::count(const StoreFetch& fetch, std::size_t& count, NSError* er
 {
     return reportingFailure(error, [&] {
         const ReadAccess access = pool_->read();
-        const SQLiteRowReader reader(*identity_, selects_, access.connection());
-        const SQLGenerator generator = this->generator(fetch, access.connection());
-        count = SQLiteFetch(fetch, selects_, generator, reader, access.connection()).count();
+        SQLiteConnection& connection = access.connection();
+        const SQLiteRowReader reader(*identity_, selects_, connection);
+        const StoreSearch search(hasSearchIndex_ ? &searchIndex_ : nullptr, selects_, connection, fetch,
+            FetchPurpose::Count, conditionOptions(fetch, connection));
+        if (const auto counted = countInParallel(fetch, search, connection))
+            count = *counted;
+        else
+            count = SQLiteFetch(fetch, selects_, search.generator(), reader, connection).count();
     });
+}
+
+/// Only what reads most of the texts is worth a second thread.
+std::optional<std::size_t> SQLiteStore::countInParallel(
+    const StoreFetch& fetch, const StoreSearch& search, SQLiteConnection& connection)
+{
+    const bool isWhole = fetch.limit == 0 && fetch.offset == 0;
+    if (!search.searchesTexts() || !isWhole || search.generator().plan().kind == SearchPlan::Kind::CheckCandidates)
+        return std::nullopt;
+    return countOnTwoThreads(*pool_, connection, search.generator(), fetch);
 }
 
 bool SQLiteStore::rowsForKeys(const NSEntityDescription& entity, std::span<const std::int64_t> keys,
@@ -181,9 +227,18 @@ std::string SQLiteStore::explain(const StoreFetch& fetch)
     NSError error;
     const bool explained = reportingFailure(&error, [&] {
         const ReadAccess access = pool_->read();
-        const SQLiteRowReader reader(*identity_, selects_, access.connection());
-        const SQLGenerator generator = this->generator(fetch, access.connection());
-        text = SQLiteFetch(fetch, selects_, generator, reader, access.connection()).explain();
+        SQLiteConnection& connection = access.connection();
+        const SQLiteRowReader reader(*identity_, selects_, connection);
+        const StoreSearch search(hasSearchIndex_ ? &searchIndex_ : nullptr, selects_, connection, fetch,
+            FetchPurpose::Rows, conditionOptions(fetch, connection));
+        SQLiteFetch answer(fetch, selects_, search.generator(), reader, connection);
+        text = answer.explain();
+        if (!search.searchesTexts())
+            return;
+        const auto start = std::chrono::steady_clock::now();
+        const std::size_t found = answer.rows().size();
+        const std::chrono::duration<double, std::milli> taken = std::chrono::steady_clock::now() - start;
+        text += search.description() + fmt::format("; {} found in {:.2f} ms\n", found, taken.count());
     });
     return explained ? text : error.localizedDescription();
 }
@@ -203,8 +258,10 @@ void SQLiteStore::beginWriting()
         pool_->writer().execute("BEGIN IMMEDIATE");
         // Another process may have swapped the file while this one waited for the lock.
         pool_->checkFileIsTheSame();
+        followDerivedValues(pool_->writer());
     } catch (...) {
         pool_->writer().rollBack();
+        writerVersion_ = -1;
         pool_->turn().giveBack();
         throw;
     }
@@ -239,6 +296,17 @@ void SQLiteStore::write(const std::function<void(SQLiteConnection&)>& work)
         throw;
     }
     endWriting();
+}
+
+/// What other programs have made stale is made good a little at a time, in transactions that write texts anyway.
+void SQLiteStore::fillSomeSignatures(SQLiteConnection& connection)
+{
+    constexpr std::size_t kSome = 32;
+    for (const auto& mirror : searchIndex_.mirrors()) {
+        if (derivedValues_ == DerivedValues::Written)
+            rewriteSignatures(connection, mirror->table(), mirror->takeStaleKeys(kSome));
+        trimChanges(connection, mirror->table());
+    }
 }
 
 // Keys ----------------------------------------------------------------------------------------------------------------
@@ -320,6 +388,63 @@ bool SQLiteStore::checkIntegrity(std::vector<std::string>& problems, NSError* er
     return reportingFailure(error, [&] {
         const ReadAccess access = pool_->read();
         problems = problemsOfStoreFile(access.connection(), schema_);
+    });
+}
+
+/// Calls `visit` with what is wrong, page by page, so that writers find gaps.
+template <typename Visit> static void forEachPageOfProblems(ConnectionPool& pool, const SearchIndex& index, Visit visit)
+{
+    constexpr std::size_t kPage = 1000;
+    for (const auto& mirror : index.mirrors()) {
+        SignatureProblems problems;
+        for (std::int64_t key = std::numeric_limits<std::int64_t>::min(); !problems.isLast; key = problems.lastKey) {
+            {
+                const ReadAccess access = pool.read();
+                problems = problemsOfSignatures(access.connection(), mirror->table(), key, kPage);
+            }
+            visit(mirror->table(), problems);
+        }
+    }
+}
+
+bool SQLiteStore::checkSearchIndex(std::vector<std::string>& problems, NSError* error)
+{
+    return reportingFailure(error, [&] {
+        problems.clear();
+        if (!hasSearchTables(pool_->read().connection(), schema_)) {
+            problems.emplace_back("the tables of the search index are missing");
+            return;
+        }
+        forEachPageOfProblems(*pool_, searchIndex_, [&](const SignatureTable& table, const SignatureProblems& found) {
+            const auto add = [&](std::int64_t key, std::string_view what) {
+                problems.push_back("row " + std::to_string(key) + " of " + quotedIdentifier(table.table->name) + ": \""
+                    + table.attribute->name() + "\" " + std::string(what));
+            };
+            for (const std::int64_t key : found.staleKeys)
+                add(key, "is not in the search index");
+            for (const std::int64_t key : found.wrongKeys)
+                add(key, "is not as the search index has it");
+        });
+    });
+}
+
+bool SQLiteStore::repairSearchIndex(std::size_t& repaired, NSError* error)
+{
+    repaired = 0;
+    return reportingFailure(error, [&] {
+        forEachPageOfProblems(*pool_, searchIndex_, [&](const SignatureTable& table, const SignatureProblems& found) {
+            std::vector<std::int64_t> keys = found.staleKeys;
+            keys.insert(keys.end(), found.wrongKeys.begin(), found.wrongKeys.end());
+            if (keys.empty())
+                return;
+            write([&](SQLiteConnection& connection) {
+                if (derivedValues_ == DerivedValues::LeftStale)
+                    return;
+                rewriteSignatures(connection, table, keys);
+                trimChanges(connection, table);
+                repaired += keys.size();
+            });
+        });
     });
 }
 

@@ -4,6 +4,8 @@
 #include "platform/coredata/NSPersistentStore.h"
 #include "platform/coredata/NSPersistentStoreCoordinator.h"
 #include "platform/coredata/SQLGenerator.h"
+#include "platform/coredata/SQLiteRowWriter.h"
+#include "platform/coredata/SearchIndex.h"
 #include "platform/coredata/StoreMetadata.h"
 #include "platform/coredata/StoreSchema.h"
 #include "platform/coredata/StoreSelects.h"
@@ -15,6 +17,8 @@
 #include <unordered_map>
 
 namespace tarn {
+
+class StoreSearch;
 
 /// Records in one SQLite file, which several processes may have open at once. Any thread.
 class SQLiteStore final : public NSPersistentStore {
@@ -43,6 +47,8 @@ public:
     std::map<std::string, std::string> metadata(NSError* error) override;
     bool setMetadataValue(std::string_view key, std::string_view value, NSError* error) override;
     bool checkIntegrity(std::vector<std::string>& problems, NSError* error) override;
+    bool checkSearchIndex(std::vector<std::string>& problems, NSError* error) override;
+    bool repairSearchIndex(std::size_t& repaired, NSError* error) override;
     std::string explain(const StoreFetch& fetch) override;
 
 private:
@@ -50,8 +56,12 @@ private:
 
     void openFile(bool createIfMissing);
     void checkMetadata(const StoreMetadata& metadata);
-    void refreshShadows(const StoreMetadata& metadata);
-    SQLGenerator generator(const StoreFetch& fetch, SQLiteConnection& connection) const;
+    void refreshDerivedValues(const StoreMetadata& metadata);
+    void followDerivedValues(SQLiteConnection& connection);
+    void fillSomeSignatures(SQLiteConnection& connection);
+    SQLConditionOptions conditionOptions(const StoreFetch& fetch, SQLiteConnection& connection) const;
+    std::optional<std::size_t> countInParallel(
+        const StoreFetch& fetch, const StoreSearch& search, SQLiteConnection& connection);
     void beginWriting();
     void endWriting() noexcept;
     /// Runs `work` in the transaction of this thread, or in a short one of its own.
@@ -65,8 +75,13 @@ private:
     StoreSchema schema_;
     StoreSelects selects_;
     std::unique_ptr<ConnectionPool> pool_;
+    SearchIndex searchIndex_;
+    bool hasSearchIndex_ = true; ///< NO for a file that lacks the tables and cannot be given them
     const StoreIdentity* identity_ = nullptr;
-    bool usesShadows_ = true;
+    std::atomic<bool> usesShadows_ = true;
+    /// Both belong to the turn's holder.
+    DerivedValues derivedValues_ = DerivedValues::Written;
+    std::int64_t writerVersion_ = -1; ///< the writing connection's data version when it last looked at the folding's
     std::atomic<std::uint64_t> dataVersion_ = 0;
     /// Next free key by root entity, as far as the open transaction has reserved any. Belongs to the turn's holder.
     std::unordered_map<const NSEntityDescription*, std::int64_t> reservedInTransaction_;

@@ -83,13 +83,11 @@ void writeStoreMetadataValue(SQLiteConnection& connection, std::string_view key,
 
 void foldAgain(SQLiteConnection& connection, const StoreSchema& schema)
 {
-    inTransaction(connection, "BEGIN IMMEDIATE", [&] {
-        forEachShadow(schema, [&](const auto& table, const auto& column, const auto& shadow) {
-            connection.execute("UPDATE " + table + " SET " + shadow + " = fold(" + column + ") WHERE " + shadow
-                + " IS NOT fold(" + column + ")");
-        });
-        writeStoreMetadataValue(connection, StoreFoldingVersionKey, std::to_string(foldingVersion()));
+    forEachShadow(schema, [&](const auto& table, const auto& column, const auto& shadow) {
+        connection.execute("UPDATE " + table + " SET " + shadow + " = fold(" + column + ") WHERE " + shadow
+            + " IS NOT fold(" + column + ")");
     });
+    writeStoreMetadataValue(connection, StoreFoldingVersionKey, std::to_string(foldingVersion()));
 }
 
 bool hasStaleShadows(SQLiteConnection& connection, const StoreSchema& schema)
@@ -106,11 +104,9 @@ bool hasStaleShadows(SQLiteConnection& connection, const StoreSchema& schema)
 
 void foldStale(SQLiteConnection& connection, const StoreSchema& schema)
 {
-    inTransaction(connection, "BEGIN IMMEDIATE", [&] {
-        forEachShadow(schema, [&](const auto& table, const auto& column, const auto& shadow) {
-            connection.execute("UPDATE " + table + " SET " + shadow + " = fold(" + column + ") WHERE " + shadow
-                + " IS NULL AND " + column + " IS NOT NULL");
-        });
+    forEachShadow(schema, [&](const auto& table, const auto& column, const auto& shadow) {
+        connection.execute("UPDATE " + table + " SET " + shadow + " = fold(" + column + ") WHERE " + shadow
+            + " IS NULL AND " + column + " IS NOT NULL");
     });
 }
 

@@ -27,9 +27,9 @@ void createStoreTables(SQLiteConnection& connection, const StoreSchema& schema, 
 StoreMetadata readStoreMetadata(SQLiteConnection& connection);
 void writeStoreMetadataValue(SQLiteConnection& connection, std::string_view key, std::string_view value);
 
-/// Makes all shadow columns again; in a transaction of its own.
+/// Makes all shadow columns again and writes the version of folding down. Inside a transaction.
 void foldAgain(SQLiteConnection& connection, const StoreSchema& schema);
-/// Makes the shadow columns again that another program has left stale.
+/// Makes the shadow columns again that another program has left stale. Inside a transaction.
 void foldStale(SQLiteConnection& connection, const StoreSchema& schema);
 bool hasStaleShadows(SQLiteConnection& connection, const StoreSchema& schema);
 

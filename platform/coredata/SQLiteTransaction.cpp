@@ -9,6 +9,7 @@ SQLiteTransaction::SQLiteTransaction(SQLiteStore& store)
     : store_(store), connection_(store.pool_->writer()), writer_(store.schema_, connection_)
 {
     store_.beginWriting();
+    writer_.setDerivedValues(store_.derivedValues_);
 }
 
 SQLiteTransaction::~SQLiteTransaction()
@@ -80,6 +81,8 @@ bool SQLiteTransaction::commit(NSError* error)
     const bool committed = reportingFailure(error, [&] {
         requireOpen();
         writer_.clearMissingTargets();
+        if (writer_.hasWrittenSignatures())
+            store_.fillSomeSignatures(connection_);
         connection_.execute("COMMIT"); // waits for readers by the busy handler
     });
     if (!committed)

@@ -3,6 +3,8 @@
 #include "platform/foundation/Folding.h"
 #include "platform/foundation/NSUUID.h"
 
+#include <charconv>
+
 namespace tarn {
 
 namespace {
@@ -16,6 +18,15 @@ StoreMetadata entityHashes(const NSManagedObjectModel& model)
 }
 
 } // namespace
+
+int foldingVersionOf(const StoreMetadata& metadata)
+{
+    const auto found = metadata.find(StoreMetadata::key_type(StoreFoldingVersionKey));
+    int version = 0;
+    if (found != metadata.end())
+        std::from_chars(found->second.data(), found->second.data() + found->second.size(), version);
+    return version;
+}
 
 StoreMetadata newStoreMetadata(const NSManagedObjectModel& model)
 {

@@ -27,6 +27,11 @@ std::string shadowColumnName(const NSAttributeDescription& attribute)
     return attribute.name() + "_folded";
 }
 
+const std::string& SignatureTable::columnTable() const noexcept
+{
+    return attribute->isLarge() ? table->largeName : table->name;
+}
+
 // Tables and columns --------------------------------------------------------------------------------------------------
 
 StoreSchema::StoreSchema(const NSManagedObjectModel& model) : model_(model)
@@ -47,6 +52,7 @@ void StoreSchema::addTable(const NSEntityDescription& root)
     table->largeName = root.name() + "_large";
     table->hasDiscriminator = !root.subentities().empty();
     addColumns(*table, root);
+    addSignatures(*table);
     tablesByRoot_.emplace(&root, table.get());
     tables_.push_back(std::move(table));
 }
@@ -69,6 +75,23 @@ void StoreSchema::addColumns(StoreTable& table, const NSEntityDescription& entit
     }
     for (const NSEntityDescription* subentity : entity.subentities())
         addColumns(table, *subentity);
+}
+
+void StoreSchema::addSignatures(StoreTable& table)
+{
+    for (const auto* columns : {&table.columns, &table.largeColumns}) {
+        for (const StoreColumn& column : *columns) {
+            if (!column.attribute() || !hasSignature(*column.attribute()))
+                continue;
+            auto made = std::make_unique<SignatureTable>();
+            made->name = table.name + "_" + column.name + "_signature";
+            made->changesName = table.name + "_" + column.name + "_changes";
+            made->table = &table;
+            made->attribute = column.attribute();
+            signaturesByAttribute_.emplace(made->attribute, made.get());
+            table.signatures.push_back(std::move(made));
+        }
+    }
 }
 
 void StoreSchema::addJoins(const NSEntityDescription& entity)
@@ -116,6 +139,12 @@ const StoreTable& StoreSchema::table(const NSEntityDescription& entity) const
 const JoinTable& StoreSchema::join(const NSRelationshipDescription& relationship) const
 {
     return *joinsByRelationship_.at(&relationship);
+}
+
+const SignatureTable* StoreSchema::signatureTable(const NSAttributeDescription& attribute) const
+{
+    const auto found = signaturesByAttribute_.find(&attribute);
+    return found == signaturesByAttribute_.end() ? nullptr : found->second;
 }
 
 JoinDirection joinDirection(const StoreSchema& schema, const NSRelationshipDescription& relationship)
@@ -203,6 +232,53 @@ void addShadowStatements(
         + " = NULL WHERE \"pk\" = NEW.\"pk\"; END");
 }
 
+/// Searches look at the rows that have a flag by themselves; usually they are few.
+void addFlagIndex(const StoreTable& table, const StoreColumn& column, std::vector<std::string>& all)
+{
+    all.push_back("CREATE INDEX IF NOT EXISTS " + quotedIdentifier(table.name + "_" + column.name + "_flagged") + " ON "
+        + quotedIdentifier(table.name) + " (" + quotedIdentifier(column.name) + ") WHERE "
+        + quotedIdentifier(column.name) + " = 1");
+}
+
+void addFlagIndexes(const StoreTable& table, std::vector<std::string>& all)
+{
+    for (const StoreColumn& column : table.columns)
+        if (column.attribute() && column.attribute()->isFlagIndexed())
+            addFlagIndex(table, column, all);
+}
+
+/// Whoever writes makes the signature stale, and notes the row among the changes. No OR clause and no UPSERT: those of
+/// the statement that fires a trigger would override them.
+void addSignatureStatements(const SignatureTable& signature, std::vector<std::string>& all)
+{
+    const std::string table = quotedIdentifier(signature.columnTable());
+    const std::string column = quotedIdentifier(signature.attribute->name());
+    const std::string signatures = quotedIdentifier(signature.name);
+    const std::string changes = quotedIdentifier(signature.changesName);
+    const auto trigger = [&](const char* name, const std::string& event, const std::string& body) {
+        all.push_back("CREATE TRIGGER IF NOT EXISTS " + quotedIdentifier(signature.name + name) + " AFTER " + event
+            + " BEGIN " + body + " END");
+    };
+    const auto note
+        = [&](const char* key) { return "INSERT INTO " + changes + " (\"pk\") VALUES (" + std::string(key) + ");"; };
+    const std::string makeStale = "UPDATE " + signatures + " SET \"signature\" = NULL WHERE \"pk\" = NEW.\"pk\"; "
+        + "INSERT INTO " + signatures + " (\"pk\") SELECT NEW.\"pk\" WHERE NOT EXISTS (SELECT 1 FROM " + signatures
+        + " WHERE \"pk\" = NEW.\"pk\"); ";
+
+    all.push_back("CREATE TABLE IF NOT EXISTS " + signatures + " (\"pk\" INTEGER PRIMARY KEY, \"signature\" BLOB)");
+    all.push_back(
+        "CREATE TABLE IF NOT EXISTS " + changes + " (\"change\" INTEGER PRIMARY KEY, \"pk\" INTEGER NOT NULL)");
+    trigger("_insert", "INSERT ON " + table, makeStale + note("NEW.\"pk\""));
+    trigger("_update", "UPDATE OF \"pk\", " + column + " ON " + table,
+        "DELETE FROM " + signatures + " WHERE \"pk\" = OLD.\"pk\" AND OLD.\"pk\" <> NEW.\"pk\"; " + makeStale
+            + note("NEW.\"pk\""));
+    trigger("_delete", "DELETE ON " + table,
+        "DELETE FROM " + signatures + " WHERE \"pk\" = OLD.\"pk\"; " + note("OLD.\"pk\""));
+    // A signature may be thrown away, but its row must not be forgotten.
+    trigger("_lost", "DELETE ON " + signatures + " WHEN EXISTS (SELECT 1 FROM " + table + " WHERE \"pk\" = OLD.\"pk\")",
+        "INSERT INTO " + signatures + " (\"pk\") VALUES (OLD.\"pk\"); " + note("OLD.\"pk\""));
+}
+
 void addColumnIndexes(const StoreTable& table, std::vector<std::string>& all)
 {
     for (const StoreColumn& column : table.columns) {
@@ -259,6 +335,19 @@ std::vector<std::string> StoreSchema::creationStatements() const
     for (const auto& table : tables_) {
         addColumnIndexes(*table, all);
         addCompositeIndexes(*table, *table->root, all);
+    }
+    const std::vector<std::string> search = searchStatements();
+    all.insert(all.end(), search.begin(), search.end());
+    return all;
+}
+
+std::vector<std::string> StoreSchema::searchStatements() const
+{
+    std::vector<std::string> all;
+    for (const auto& table : tables_) {
+        addFlagIndexes(*table, all);
+        for (const auto& signature : table->signatures)
+            addSignatureStatements(*signature, all);
     }
     return all;
 }

@@ -43,6 +43,19 @@ struct JoinTable {
     const StoreTable* member = nullptr;
 };
 
+/// What narrows searches in an attribute: "<table>_<attribute>_signature" holds a signature by "pk" for each row that
+/// has the attribute's column (NULL when it has to be made again), and "<table>_<attribute>_changes" the "pk" of each
+/// row whose signature changed, in order. Triggers in plain SQL keep both in step whoever writes.
+struct SignatureTable {
+    std::string name;
+    std::string changesName;
+    const StoreTable* table = nullptr;
+    const NSAttributeDescription* attribute = nullptr;
+
+    /// The table in which the attribute's column stands.
+    const std::string& columnTable() const noexcept;
+};
+
 /// The table of an inheritance chain:
 ///
 /// - "pk", the primary key; "entity", the name of the concrete entity, where there are sub-entities; "rowVersion"
@@ -61,6 +74,7 @@ struct StoreTable {
     std::vector<StoreColumn> largeColumns;
     std::vector<ReferringColumn> referringColumns;
     std::vector<const JoinTable*> joins; ///< at either end
+    std::vector<std::unique_ptr<const SignatureTable>> signatures;
 };
 
 /// Whether an attribute has a shadow column.
@@ -69,6 +83,11 @@ inline bool hasShadowColumn(const NSAttributeDescription& attribute) noexcept
     return attribute.isFolded() && attribute.type() == NSAttributeType::String && !attribute.isLarge();
 }
 std::string shadowColumnName(const NSAttributeDescription& attribute);
+/// Whether an attribute has a signature.
+inline bool hasSignature(const NSAttributeDescription& attribute) noexcept
+{
+    return attribute.isSubstringIndexed() && attribute.type() == NSAttributeType::String;
+}
 
 /// How a model lies in SQLite: tables, columns, join tables, and the statements that make them.
 ///
@@ -86,12 +105,19 @@ public:
     const std::vector<std::unique_ptr<StoreTable>>& tables() const noexcept { return tables_; }
     const std::vector<std::unique_ptr<JoinTable>>& joins() const noexcept { return joins_; }
 
+    /// Of an attribute that has signatures; null for others.
+    const SignatureTable* signatureTable(const NSAttributeDescription& attribute) const;
+
     /// CREATE statements in the order in which they run.
     std::vector<std::string> creationStatements() const;
+    /// Those that a store of an earlier version of this library may lack: signatures and indexes of flags. Each does
+    /// nothing where the thing exists already; they also make a stale signature for every row.
+    std::vector<std::string> searchStatements() const;
 
 private:
     void addTable(const NSEntityDescription& root);
     void addColumns(StoreTable& table, const NSEntityDescription& entity);
+    void addSignatures(StoreTable& table);
     void addJoins(const NSEntityDescription& entity);
     void linkColumns();
     StoreTable& mutableTable(const NSEntityDescription& entity) { return *tablesByRoot_.at(&entity.rootEntity()); }
@@ -101,6 +127,7 @@ private:
     std::vector<std::unique_ptr<JoinTable>> joins_;
     std::unordered_map<const NSEntityDescription*, StoreTable*> tablesByRoot_;
     std::unordered_map<const NSRelationshipDescription*, const JoinTable*> joinsByRelationship_;
+    std::unordered_map<const NSAttributeDescription*, const SignatureTable*> signaturesByAttribute_;
 };
 
 /// Which column of a join table a relationship starts from, and which it leads to.

@@ -7,6 +7,7 @@
 #include "platform/predicate/WildcardPattern.h"
 
 #include <atomic>
+#include <cstring>
 #include <optional>
 #include <utility>
 
@@ -80,7 +81,7 @@ bool StringTest::State::holdsFor(std::string_view left) const
     case ComparisonOperator::GreaterThanOrEqualTo:
         return left >= needle;
     case ComparisonOperator::Contains:
-        return !needle.empty() && left.find(needle) != std::string_view::npos;
+        return !needle.empty() && ::memmem(left.data(), left.size(), needle.data(), needle.size()) != nullptr;
     case ComparisonOperator::BeginsWith:
         return !needle.empty() && left.starts_with(needle);
     case ComparisonOperator::EndsWith:
@@ -115,6 +116,34 @@ bool StringTest::matches(std::string_view left) const
     if (state_->operation == ComparisonOperator::Contains && isFullFold(state_->options))
         return foldedContains(left, state_->needle);
     return state_->holdsFor(folded(left, state_->options));
+}
+
+bool StringTest::comparesFolded() const noexcept
+{
+    return isFullFold(state_->options);
+}
+
+bool StringTest::matchesFolded(std::string_view folded) const
+{
+    return state_->holdsFor(folded);
+}
+
+// Without both options the text is not compared folded, and folding may join what stands apart.
+std::optional<std::string_view> StringTest::foldedLiteral() const
+{
+    if (!isFullFold(state_->options))
+        return std::nullopt;
+    switch (state_->operation) {
+    case ComparisonOperator::EqualTo:
+    case ComparisonOperator::Contains:
+    case ComparisonOperator::BeginsWith:
+    case ComparisonOperator::EndsWith:
+        return state_->needle;
+    case ComparisonOperator::Matches:
+        return state_->wholeWord ? std::optional<std::string_view>(state_->wholeWord->literal()) : std::nullopt;
+    default:
+        return std::nullopt;
+    }
 }
 
 } // namespace tarn

@@ -3,6 +3,7 @@
 #include "platform/predicate/PredicateTree.h"
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -21,6 +22,13 @@ public:
     /// Contains, BeginsWith and EndsWith of an empty needle are NO. A pattern that runs over its time or stack limit
     /// does not match, and is logged once.
     bool matches(std::string_view left) const;
+    /// Whether texts are compared in their folded form, so that several tests of one text can share it.
+    bool comparesFolded() const noexcept;
+    /// The same as `matches` for a text that is folded already; of a test that compares folded.
+    bool matchesFolded(std::string_view folded) const;
+    /// What an index may look for: every text that matches has it in its folded form. None when nothing like that is
+    /// known. Lives as long as the test.
+    std::optional<std::string_view> foldedLiteral() const;
 
 private:
     struct State;

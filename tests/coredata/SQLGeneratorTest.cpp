@@ -1,6 +1,8 @@
 // The SQL of predicates, as text, and how SQLite walks it: tests/cases/sql.cases.
 
 #include "platform/coredata/SQLGenerator.h"
+#include "platform/coredata/SQLiteConnection.h"
+#include "platform/coredata/SQLiteFetch.h"
 #include "tests/coredata/StoreFixture.h"
 
 #include <fmt/format.h>
@@ -23,6 +25,7 @@ struct Case {
     std::string sql;
     std::string bindings;
     std::string remainder;
+    std::string search; ///< the plan of a search in texts, with two candidates; empty: no index
     std::vector<std::string> plans;
 };
 
@@ -42,6 +45,8 @@ void setField(Case& one, const std::string& name, const std::string& value)
         one.bindings = value;
     else if (name == "remainder")
         one.remainder = value;
+    else if (name == "search")
+        one.search = value;
     else if (name == "plan")
         one.plans.push_back(value);
     else
@@ -82,6 +87,32 @@ std::vector<NSSortDescriptor> sortOf(const std::string& text)
     return sort;
 }
 
+SearchPlan::Kind planNamed(const std::string& name)
+{
+    for (const auto kind : {SearchPlan::Kind::NoIndex, SearchPlan::Kind::CheckCandidates, SearchPlan::Kind::WalkOrder,
+             SearchPlan::Kind::Scan})
+        if (name == nameOfPlan(kind))
+            return kind;
+    ADD_FAILURE() << "no plan is called " << name;
+    return SearchPlan::Kind::NoIndex;
+}
+
+SQLGenerator generatorFor(const Case& one, const StoreSelects& selects, const StoreIdentity& store)
+{
+    SQLConditionOptions options;
+    options.store = &store;
+    SearchPlan plan;
+    if (!one.search.empty()) {
+        const auto candidates = std::make_shared<const KeySet>(std::vector<std::int64_t>{3, 8});
+        options.rowsThatMayMatch = [candidates](const NSAttributeDescription&, const StringTest& test) {
+            return test.foldedLiteral() ? candidates : nullptr;
+        };
+        plan.kind = planNamed(one.search);
+        plan.candidates = plan.kind == SearchPlan::Kind::NoIndex ? nullptr : candidates;
+    }
+    return {selects, options, plan};
+}
+
 /// What follows the list of columns.
 std::string afterColumns(const std::string& sql)
 {
@@ -95,9 +126,8 @@ TEST(SQLGenerator, MakesTheTextsOfTheCasesAndSQLiteWalksTheNamedIndexes)
     ASSERT_TRUE(store) << store.error();
     const StoreSchema schema(*storeTestModel());
     const StoreSelects selects(schema, *storeTestModel());
-    SQLConditionOptions options;
-    options.store = &store->identity();
-    const SQLGenerator generator(selects, options);
+    SQLiteConnection connection(folder.file(), {});
+    const SQLiteRowReader reader(store->identity(), selects, connection);
     const auto cases = readCases();
     EXPECT_GT(cases.size(), 40U);
     for (const Case& one : cases) {
@@ -109,6 +139,8 @@ TEST(SQLGenerator, MakesTheTextsOfTheCasesAndSQLiteWalksTheNamedIndexes)
         fetch.predicate = &predicate;
         fetch.sortDescriptors = sort;
         fetch.limit = one.limit;
+        fetch.contents = RowContents::Keys;
+        const SQLGenerator generator = generatorFor(one, selects, store->identity());
         RowContents contents = RowContents::Keys;
         const GeneratedSelect select = generator.rows(fetch, contents);
         EXPECT_EQ(afterColumns(select.text.sql), one.sql);
@@ -117,7 +149,7 @@ TEST(SQLGenerator, MakesTheTextsOfTheCasesAndSQLiteWalksTheNamedIndexes)
             bindings += (bindings.empty() ? "" : " | ") + describeBinding(binding);
         EXPECT_EQ(bindings, one.bindings);
         EXPECT_EQ(select.remainder ? select.remainder->predicateFormat() : "", one.remainder);
-        const std::string explained = store->explain(fetch);
+        const std::string explained = SQLiteFetch(fetch, selects, generator, reader, connection).explain();
         for (const std::string& plan : one.plans)
             EXPECT_THAT(explained, HasSubstr(plan));
     }

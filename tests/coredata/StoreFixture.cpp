@@ -13,12 +13,12 @@ constexpr std::string_view kModel = R"json({
      "attributes": [
        {"name": "title", "type": "string", "index": ["folded"]},
        {"name": "code", "type": "string", "index": ["value"]},
-       {"name": "body", "type": "string", "storage": "large"},
+       {"name": "body", "type": "string", "storage": "large", "index": ["substring"]},
        {"name": "summary", "type": "string"},
        {"name": "raw", "type": "data"},
        {"name": "created", "type": "date"},
        {"name": "modified", "type": "date"},
-       {"name": "flag", "type": "bool"},
+       {"name": "flag", "type": "bool", "index": ["flag"]},
        {"name": "order", "type": "int16"},
        {"name": "size", "type": "int64"},
        {"name": "ratio", "type": "double"}
@@ -43,6 +43,7 @@ constexpr std::string_view kModel = R"json({
     {"name": "Attachment", "abstract": true,
      "attributes": [
        {"name": "name", "type": "string"},
+       {"name": "caption", "type": "string", "storage": "large", "index": ["substring"]},
        {"name": "unused", "type": "bool"}
      ],
      "relationships": [{"name": "document", "to": "Document", "inverse": "attachments"}]},

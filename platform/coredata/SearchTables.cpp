@@ -1,0 +1,155 @@
+#include "platform/coredata/SearchTables.h"
+
+#include "platform/coredata/SQLiteConnection.h"
+#include "platform/coredata/SubstringSignature.h"
+
+#include <algorithm>
+
+namespace tarn {
+
+namespace {
+
+/// A mirror that is further behind loads everything again.
+constexpr std::int64_t kLongestList = 8192;
+constexpr std::int64_t kKeptChanges = 2048;
+
+/// The name of what a CREATE statement makes: the first quoted one.
+std::string madeName(const std::string& statement)
+{
+    const std::size_t start = statement.find('"') + 1;
+    return statement.substr(start, statement.find('"', start) - start);
+}
+
+void noteEveryRow(SQLiteConnection& connection, const SignatureTable& table)
+{
+    connection.execute("INSERT INTO " + quotedIdentifier(table.changesName) + " (\"pk\") VALUES (0)");
+}
+
+/// A row with its attribute, as the walks below read it: pk, attribute, signature.
+std::string selectOfRows(const SignatureTable& table)
+{
+    return "SELECT t.\"pk\", t." + quotedIdentifier(table.attribute->name()) + ", s.\"signature\" FROM "
+        + quotedIdentifier(table.columnTable()) + " AS t LEFT JOIN " + quotedIdentifier(table.name)
+        + " AS s ON s.\"pk\" = t.\"pk\"";
+}
+
+std::string signatureOfColumn(const SQLiteStatement& statement, int column)
+{
+    return statement.isNull(column) ? signatureOfNothing() : signatureOfText(statement.bytes(column));
+}
+
+/// What these rows should have; the rows that exist.
+std::vector<std::pair<std::int64_t, std::string>> freshSignatures(
+    SQLiteConnection& connection, const SignatureTable& table, std::span<const std::int64_t> keys)
+{
+    std::vector<std::pair<std::int64_t, std::string>> made;
+    for (const std::int64_t key : keys) {
+        SQLiteStatement statement = connection.prepare(selectOfRows(table) + " WHERE t.\"pk\" = ?1");
+        statement.bindInteger(1, key);
+        if (statement.step())
+            made.emplace_back(key, signatureOfColumn(statement, 1));
+    }
+    return made;
+}
+
+} // namespace
+
+// The tables ----------------------------------------------------------------------------------------------------------
+
+bool hasSearchTables(SQLiteConnection& connection, const StoreSchema& schema)
+{
+    std::int64_t wanted = 0;
+    std::string names;
+    for (const std::string& statement : schema.searchStatements()) {
+        names += (names.empty() ? "'" : ", '") + madeName(statement) + "'";
+        ++wanted;
+    }
+    return wanted == connection.integerOf("SELECT count(*) FROM sqlite_schema WHERE name IN (" + names + ")");
+}
+
+void addSearchTables(SQLiteConnection& connection, const StoreSchema& schema)
+{
+    for (const std::string& statement : schema.searchStatements())
+        connection.execute(statement);
+    for (const auto& table : schema.tables()) {
+        for (const auto& signature : table->signatures) {
+            const std::string name = quotedIdentifier(signature->name);
+            connection.execute("INSERT INTO " + name + " (\"pk\") SELECT \"pk\" FROM "
+                + quotedIdentifier(signature->columnTable()) + " WHERE \"pk\" NOT IN (SELECT \"pk\" FROM " + name
+                + ")");
+            // What was there may have been made while triggers were missing.
+            connection.execute("UPDATE " + name + " SET \"signature\" = NULL WHERE \"signature\" IS NOT NULL");
+            noteEveryRow(connection, *signature);
+        }
+    }
+}
+
+// Keeping in step -----------------------------------------------------------------------------------------------------
+
+void writeSignature(
+    SQLiteConnection& connection, const SignatureTable& table, std::int64_t key, std::string_view signature)
+{
+    SQLiteStatement statement
+        = connection.prepare("UPDATE " + quotedIdentifier(table.name) + " SET \"signature\" = ?1 WHERE \"pk\" = ?2");
+    statement.bindBlob(1, signature);
+    statement.bindInteger(2, key);
+    statement.run();
+}
+
+void forgetSignatures(SQLiteConnection& connection, const StoreSchema& schema)
+{
+    for (const auto& table : schema.tables()) {
+        for (const auto& signature : table->signatures) {
+            connection.execute("UPDATE " + quotedIdentifier(signature->name)
+                + " SET \"signature\" = NULL WHERE \"signature\" IS NOT NULL");
+            noteEveryRow(connection, *signature);
+        }
+    }
+}
+
+void rewriteSignatures(SQLiteConnection& connection, const SignatureTable& table, std::span<const std::int64_t> keys)
+{
+    for (const auto& [key, signature] : freshSignatures(connection, table, keys)) {
+        writeSignature(connection, table, key, signature);
+        SQLiteStatement note
+            = connection.prepare("INSERT INTO " + quotedIdentifier(table.changesName) + " (\"pk\") VALUES (?1)");
+        note.bindInteger(1, key);
+        note.run();
+    }
+}
+
+void trimChanges(SQLiteConnection& connection, const SignatureTable& table)
+{
+    const std::string name = quotedIdentifier(table.changesName);
+    const std::int64_t first = connection.integerOf("SELECT min(\"change\") FROM " + name);
+    const std::int64_t last = connection.integerOf("SELECT max(\"change\") FROM " + name);
+    if (last - first < kLongestList)
+        return;
+    SQLiteStatement statement = connection.prepare("DELETE FROM " + name + " WHERE \"change\" <= ?1");
+    statement.bindInteger(1, last - kKeptChanges);
+    statement.run();
+}
+
+// Checks --------------------------------------------------------------------------------------------------------------
+
+SignatureProblems problemsOfSignatures(
+    SQLiteConnection& connection, const SignatureTable& table, std::int64_t key, std::size_t most)
+{
+    SignatureProblems problems;
+    SQLiteStatement statement
+        = connection.prepare(selectOfRows(table) + " WHERE t.\"pk\" > ?1 ORDER BY t.\"pk\" LIMIT ?2");
+    statement.bindInteger(1, key);
+    statement.bindInteger(2, static_cast<std::int64_t>(most));
+    std::size_t count = 0;
+    for (; statement.step(); ++count) {
+        problems.lastKey = statement.integer(0);
+        if (!isCurrentSignature(statement.bytes(2)))
+            problems.staleKeys.push_back(problems.lastKey);
+        else if (statement.bytes(2) != signatureOfColumn(statement, 1))
+            problems.wrongKeys.push_back(problems.lastKey);
+    }
+    problems.isLast = count < most;
+    return problems;
+}
+
+} // namespace tarn

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "platform/coredata/StoreSchema.h"
+
+#include <cstdint>
+#include <span>
+#include <string_view>
+#include <vector>
+
+namespace tarn {
+
+class SQLiteConnection;
+
+// The tables of signatures in a store's file. What fails throws a `StoreFailure`.
+
+/// Whether everything that searches lean on is there: tables, triggers, indexes.
+bool hasSearchTables(SQLiteConnection& connection, const StoreSchema& schema);
+/// Makes what is missing, with a stale signature for every row. Inside a transaction.
+void addSearchTables(SQLiteConnection& connection, const StoreSchema& schema);
+
+/// Writes the signature of a row whose attribute was just written. Inside a transaction.
+void writeSignature(
+    SQLiteConnection& connection, const SignatureTable& table, std::int64_t key, std::string_view signature);
+/// Makes all signatures stale. Inside a transaction.
+void forgetSignatures(SQLiteConnection& connection, const StoreSchema& schema);
+/// Cuts the list of changes when it has become long. Inside a transaction.
+void trimChanges(SQLiteConnection& connection, const SignatureTable& table);
+
+/// What is wrong with the signatures of some rows: those without a usable one, and those that would hide something.
+struct SignatureProblems {
+    std::vector<std::int64_t> staleKeys;
+    std::vector<std::int64_t> wrongKeys;
+    std::int64_t lastKey = 0; ///< of the rows that were looked at
+    bool isLast = false;      ///< no rows are left after them
+};
+/// Looks at up to `most` rows whose keys come after `key`.
+SignatureProblems problemsOfSignatures(
+    SQLiteConnection& connection, const SignatureTable& table, std::int64_t key, std::size_t most);
+/// Makes the signatures of these rows anew. Inside a transaction.
+void rewriteSignatures(SQLiteConnection& connection, const SignatureTable& table, std::span<const std::int64_t> keys);
+
+} // namespace tarn

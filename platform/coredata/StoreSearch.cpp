@@ -1,0 +1,160 @@
+#include "platform/coredata/StoreSearch.h"
+
+#include "platform/coredata/CandidateFinder.h"
+#include "platform/coredata/SQLiteConnection.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+
+namespace tarn {
+
+namespace {
+
+/// So many are checked and sorted faster than an order is walked.
+constexpr std::size_t kFewCandidates = 500;
+/// Above this share of the rows a walk by key is faster than looking candidates up.
+constexpr std::size_t kLargeShare = 5;
+
+bool isSearched(const Expression& expression, const std::vector<const NSAttributeDescription*>& searched);
+
+/// Whether some test in the predicate may be narrowed by signatures. Looks at names only: it may say yes in vain.
+bool mayUseIndex(const PredicateNode& node, const std::vector<const NSAttributeDescription*>& searched)
+{
+    return std::visit(Overloaded{
+                          [&](const ComparisonPredicate& predicate) { return isSearched(*predicate.left, searched); },
+                          [&](const CompoundPredicate& predicate) {
+                              return std::any_of(predicate.members.begin(), predicate.members.end(),
+                                  [&](const PredicateNodePtr& member) { return mayUseIndex(*member, searched); });
+                          },
+                          [&](const NotPredicate& predicate) { return mayUseIndex(*predicate.operand, searched); },
+                          [](const ConstantPredicate&) { return false; },
+                      },
+        node.form);
+}
+
+bool isSearched(const Expression& expression, const std::vector<const NSAttributeDescription*>& searched)
+{
+    if (const auto* path = std::get_if<KeyPathExpression>(&expression.form))
+        return std::any_of(searched.begin(), searched.end(),
+            [&](const NSAttributeDescription* attribute) { return attribute->name() == path->keys.back(); });
+    const auto* count = std::get_if<CountExpression>(&expression.form);
+    const auto* subquery = count ? std::get_if<SubqueryExpression>(&count->collection->form) : nullptr;
+    return subquery && mayUseIndex(*subquery->predicate, searched);
+}
+
+bool searchesTextsIn(const StoreFetch& fetch, const StoreSchema& schema)
+{
+    if (!fetch.predicate)
+        return false;
+    std::vector<const NSAttributeDescription*> searched;
+    for (const auto& table : schema.tables())
+        for (const auto& signature : table->signatures)
+            searched.push_back(signature->attribute);
+    return !searched.empty() && mayUseIndex(fetch.predicate->node(), searched);
+}
+
+/// Whether an index has the rows in this order, forwards or backwards.
+bool isOrderOfIndex(std::span<const NSSortDescriptor> order, const IndexDescription& index)
+{
+    if (order.size() > index.columns.size())
+        return false;
+    const bool isBackwards = order.front().ascending == index.columns.front().descending;
+    for (std::size_t i = 0; i < order.size(); ++i) {
+        const bool isSame = order[i].key == index.columns[i].property
+            && (order[i].ascending == index.columns[i].descending) == isBackwards
+            && order[i].comparison == SortComparison::Standard;
+        if (!isSame)
+            return false;
+    }
+    return true;
+}
+
+bool hasIndexedOrder(const StoreFetch& fetch)
+{
+    if (fetch.sortDescriptors.empty())
+        return true; // the order of keys
+    const auto& indexes = fetch.entity->rootEntity().indexes();
+    return std::any_of(indexes.begin(), indexes.end(),
+        [&](const IndexDescription& index) { return isOrderOfIndex(fetch.sortDescriptors, index); });
+}
+
+SearchPlan::Kind chosenKind(const SearchPlan& plan, const StoreFetch& fetch, FetchPurpose purpose)
+{
+    const std::size_t count = plan.candidates->size();
+    if (count <= kFewCandidates)
+        return SearchPlan::Kind::CheckCandidates;
+    if (purpose == FetchPurpose::Rows && fetch.limit > 0 && hasIndexedOrder(fetch))
+        return SearchPlan::Kind::WalkOrder;
+    return count < plan.rowCount / kLargeShare ? SearchPlan::Kind::CheckCandidates : SearchPlan::Kind::Scan;
+}
+
+} // namespace
+
+// Transaction ---------------------------------------------------------------------------------------------------------
+
+ReadingPass::ReadingPass(SQLiteConnection& connection) : connection_(connection), isOwn_(!connection.isInTransaction())
+{
+    if (!isOwn_)
+        return;
+    connection_.execute("BEGIN");
+    try {
+        connection_.integerOf("PRAGMA data_version"); // takes the lock
+    } catch (...) {
+        connection_.rollBack();
+        throw;
+    }
+}
+
+ReadingPass::~ReadingPass()
+{
+    if (isOwn_)
+        connection_.rollBack(); // there is nothing to keep
+}
+
+// Search --------------------------------------------------------------------------------------------------------------
+
+StoreSearch::StoreSearch(const SearchIndex* index, const StoreSelects& selects, SQLiteConnection& connection,
+    const StoreFetch& fetch, FetchPurpose purpose, SQLConditionOptions options)
+{
+    if (!index || !searchesTextsIn(fetch, selects.schema())) {
+        generator_.emplace(selects, std::move(options));
+        return;
+    }
+    pass_.emplace(connection);
+    look_.emplace(*index, connection);
+    options.rowsThatMayMatch = [look = &*look_](const NSAttributeDescription& attribute, const StringTest& test) {
+        return look->rowsThatMayMatch(attribute, test);
+    };
+    const auto start = std::chrono::steady_clock::now();
+    SearchPlan chosen = plan(selects.schema(), connection, fetch, purpose, options);
+    probeTime_ = std::chrono::steady_clock::now() - start;
+    generator_.emplace(selects, std::move(options), std::move(chosen));
+}
+
+SearchPlan StoreSearch::plan(const StoreSchema& schema, SQLiteConnection& connection, const StoreFetch& fetch,
+    FetchPurpose purpose, const SQLConditionOptions& options)
+{
+    SearchPlan plan;
+    plan.candidates = CandidateFinder(schema, *look_, connection, options).candidates(*fetch.predicate, *fetch.entity);
+    for (const auto& signature : schema.table(*fetch.entity).signatures)
+        plan.rowCount = std::max(plan.rowCount, look_->rowCount(*signature->attribute));
+    if (plan.candidates)
+        plan.kind = chosenKind(plan, fetch, purpose);
+    return plan;
+}
+
+std::string StoreSearch::description() const
+{
+    if (!searchesTexts())
+        return {};
+    const SearchPlan& plan = generator_->plan();
+    const double milliseconds = std::chrono::duration<double, std::milli>(probeTime_).count();
+    if (!plan.candidates)
+        return fmt::format(
+            "search: {}, every row is a candidate, probe {:.2f} ms", nameOfPlan(plan.kind), milliseconds);
+    return fmt::format("search: {}, {} candidates of {} rows, probe {:.2f} ms", nameOfPlan(plan.kind),
+        plan.candidates->size(), plan.rowCount, milliseconds);
+}
+
+} // namespace tarn

@@ -1,0 +1,393 @@
+// Searches in texts of many scripts: with the index, without it, and in memory they pick the same rows, whatever the
+// plan.
+
+#include "platform/coredata/CandidateFinder.h"
+#include "platform/coredata/SQLiteConnection.h"
+#include "platform/coredata/SQLiteFetch.h"
+#include "platform/coredata/StoreSearch.h"
+#include "tests/coredata/StoreFixture.h"
+
+#include <fmt/format.h>
+#include <random>
+
+namespace tarn {
+namespace {
+
+/// Words that resemble each other: with marks and without, one inside another, composed and decomposed.
+constexpr std::array<std::string_view, 44> kWords{"apple", "Äpfel", "apfelkuchen", "cafe\xCC\x81", "café", "CAFE",
+    "Straße", "strasse", "ﬁn", "İstanbul", "istanbul", "Đổi", "mới", "Ёлка", "елка", "работа", "РАБОТАЕТ", "Йод",
+    "会議", "会議室", "日本語", "日本", "か", "が", "か\xE3\x82\x99", "ハンバーガー", "각", "가", "한국어", "한국",
+    "中文", "ภาษาไทย", "ไทย", "العربية", "عربي", "😀", "👩\xE2\x80\x8D💻", "a.b", "c++", "#tag", "x_y",
+    "soft\xC2\xADhyphen", "\xEF\xBC\xA1\xEF\xBC\xA2", "zygomorphic"};
+constexpr std::array<std::string_view, 7> kGaps{" ", " ", " ", "\n", ", ", "", "-"};
+
+class TextMaker {
+public:
+    explicit TextMaker(std::mt19937_64& random) : random_(random) { }
+
+    std::size_t below(std::size_t bound) { return random_() % bound; }
+    template <typename List> auto any(const List& list) { return list[below(list.size())]; }
+
+    std::string text(std::size_t words)
+    {
+        std::string text;
+        for (; words > 0; --words) {
+            text += any(kWords);
+            text += any(kGaps);
+        }
+        return text;
+    }
+    /// A word, a part of one, or what two leave between them.
+    std::string needle()
+    {
+        std::string text(any(kWords));
+        if (below(4) == 0)
+            text += std::string(any(kGaps)) + std::string(any(kWords));
+        if (below(3) == 0)
+            text = part(text);
+        return text;
+    }
+
+private:
+    /// Whole code points of it.
+    std::string part(const std::string& text)
+    {
+        std::vector<std::size_t> starts;
+        for (std::size_t i = 0; i < text.size(); ++i)
+            if ((static_cast<unsigned char>(text[i]) & 0xC0) != 0x80)
+                starts.push_back(i);
+        const std::size_t first = starts[below(starts.size())];
+        std::size_t last = first;
+        for (auto count = 1 + below(3); count > 0 && last < text.size(); --count)
+            do
+                ++last;
+            while (last < text.size() && (static_cast<unsigned char>(text[last]) & 0xC0) == 0x80);
+        return text.substr(first, last - first);
+    }
+
+    std::mt19937_64& random_;
+};
+
+class SearchMaker {
+public:
+    explicit SearchMaker(std::mt19937_64& random) : random_(random), texts_(random) { }
+
+    NSPredicate predicate(int depth)
+    {
+        switch (depth > 0 ? below(7) : 6) {
+        case 0:
+        case 1:
+            return NSPredicate::andPredicateWithSubpredicates(some(depth));
+        case 2:
+            return NSPredicate::orPredicateWithSubpredicates(some(depth));
+        case 3:
+            return NSPredicate::notPredicateWithSubpredicate(predicate(depth - 1));
+        default:
+            return leaf();
+        }
+    }
+
+private:
+    std::size_t below(std::size_t bound) { return random_() % bound; }
+    std::vector<NSPredicate> some(int depth)
+    {
+        std::vector<NSPredicate> members;
+        for (auto count = 2 + below(2); count > 0; --count)
+            members.push_back(predicate(depth - 1));
+        return members;
+    }
+
+    static std::string wholeWord(const std::string& word)
+    {
+        std::string pattern = R"((?mis).*?(?:^|[^\w]))";
+        for (const char c : word)
+            pattern += (std::string_view("\\*?+[](){}^$|.-&~#").find(c) != std::string_view::npos ? "\\" : "")
+                + std::string(1, c);
+        return pattern + R"((?:[^\w]|$).*)";
+    }
+
+    NSPredicate leaf()
+    {
+        const std::string needle = texts_.needle();
+        const int ocr = below(2) ? 1 : 0;
+        switch (below(13)) {
+        case 0:
+        case 1: // what the search field makes of a word
+            return NSPredicate::predicateWithFormat(
+                "(flag == YES AND title CONTAINS[cd] %@) OR (flag = NO AND (body CONTAINS[cd] %@ OR (%d == YES AND "
+                "(SUBQUERY(attachments, $file, $file.unused == NO AND $file.caption CONTAINS[cd] %@).@count != 0))))",
+                needle, needle, ocr, needle);
+        case 2: // and of a quoted one
+            return NSPredicate::predicateWithFormat(
+                "(flag = YES AND title MATCHES[cd] %@) OR (flag = NO AND (body MATCHES[cd] %@ OR (%d == YES AND ANY "
+                "attachments.caption MATCHES[cd] %@)))",
+                wholeWord(needle), wholeWord(needle), ocr, wholeWord(needle));
+        case 3:
+            return NSPredicate::predicateWithFormat("body MATCHES[cd] %@", wholeWord(needle));
+        case 4:
+            return NSPredicate::predicateWithFormat("title CONTAINS[cd] %@", needle);
+        case 5:
+            return NSPredicate::predicateWithFormat(
+                below(2) ? "ANY labels.name ==[cd] %@" : "NONE labels.name ==[cd] %@", needle);
+        case 6:
+            return NSPredicate::predicateWithFormat(
+                below(2) ? "ANY attachments.caption CONTAINS[cd] %@" : "NONE attachments.caption CONTAINS[cd] %@",
+                needle);
+        case 7:
+            return NSPredicate::predicateWithFormat(below(2) ? "flag == YES" : "order > 1");
+        case 8:
+            return NSPredicate::predicateWithFormat(
+                below(2) ? "body BEGINSWITH[cd] %@" : "body ENDSWITH[cd] %@", needle);
+        case 9:
+            return NSPredicate::predicateWithFormat(below(2) ? "body CONTAINS[c] %@" : "body CONTAINS %@", needle);
+        default:
+            return NSPredicate::predicateWithFormat("body CONTAINS[cd] %@", needle);
+        }
+    }
+
+    std::mt19937_64& random_;
+    TextMaker texts_;
+};
+
+void fill(std::mt19937_64& random, const OpenStore& sql, const OpenStore& memory)
+{
+    TextMaker texts(random);
+    const auto insert = [&](std::string_view entity, const std::vector<std::pair<std::string, Value>>& values) {
+        EXPECT_EQ(sql.insert(entity, values), memory.insert(entity, values));
+    };
+    constexpr std::int64_t kLabels = 8;
+    constexpr std::int64_t kDocuments = 48;
+    for (int i = 0; i < kLabels; ++i)
+        insert("Label", {{"name", std::string(texts.any(kWords))}});
+    for (int i = 0; i < kDocuments; ++i) {
+        const bool isFlagged = texts.below(6) == 0;
+        insert("Document",
+            {{"title", texts.text(1 + texts.below(3))}, {"flag", isFlagged},
+                {"order", static_cast<std::int64_t>(texts.below(4))},
+                {"body", isFlagged && texts.below(4) != 0 ? Value() : Value(texts.text(texts.below(25)))}});
+    }
+    for (int i = 0; i < 20; ++i)
+        insert("Picture",
+            {{"caption", texts.below(5) ? Value(texts.text(texts.below(5))) : Value()}, {"unused", texts.below(3) == 0},
+                {"document", static_cast<std::int64_t>(1 + texts.below(kDocuments))}});
+    for (int i = 0; i < 60; ++i) {
+        const auto document = static_cast<std::int64_t>(1 + texts.below(kDocuments));
+        const auto label = static_cast<std::int64_t>(1 + texts.below(kLabels));
+        sql.join("Document", "labels", document, label);
+        memory.join("Document", "labels", document, label);
+    }
+}
+
+/// Answers fetches from the file by a plan of the caller's choice.
+class Plans {
+public:
+    explicit Plans(const OpenStore& store) : store_(store), connection_(store->file(), {}) { }
+
+    std::vector<std::int64_t> withoutIndex(const StoreFetch& fetch)
+    {
+        return keys(fetch, SQLGenerator(selects_, options()));
+    }
+
+    std::vector<std::int64_t> withIndex(const StoreFetch& fetch, SearchPlan::Kind kind)
+    {
+        const ReadingPass pass(connection_);
+        SearchLook look(index_, connection_);
+        SQLConditionOptions options = this->options();
+        options.rowsThatMayMatch = [&](const NSAttributeDescription& attribute, const StringTest& test) {
+            return look.rowsThatMayMatch(attribute, test);
+        };
+        SearchPlan plan;
+        plan.candidates
+            = CandidateFinder(schema_, look, connection_, options).candidates(*fetch.predicate, *fetch.entity);
+        if (plan.candidates) {
+            plan.kind = kind;
+            left_ += plan.candidates->size();
+            ++narrowed_;
+        }
+        return keys(fetch, SQLGenerator(selects_, options, plan));
+    }
+    /// How often candidates were found, and how many they were together.
+    int narrowedCount() const { return narrowed_; }
+    std::size_t candidateCount() const { return left_; }
+
+private:
+    SQLConditionOptions options() const
+    {
+        SQLConditionOptions options;
+        options.store = &store_->identity();
+        return options;
+    }
+    std::vector<std::int64_t> keys(const StoreFetch& fetch, const SQLGenerator& generator)
+    {
+        const SQLiteRowReader reader(store_->identity(), selects_, connection_);
+        std::vector<std::int64_t> keys;
+        for (const StoreRow& row : SQLiteFetch(fetch, selects_, generator, reader, connection_).rows())
+            keys.push_back(row.key);
+        return keys;
+    }
+
+    const OpenStore& store_;
+    StoreSchema schema_{*storeTestModel()};
+    StoreSelects selects_{schema_, *storeTestModel()};
+    SQLiteConnection connection_;
+    SearchIndex index_{schema_};
+    int narrowed_ = 0;
+    std::size_t left_ = 0;
+};
+
+class SearchDifferential : public testing::TestWithParam<std::uint64_t> { };
+INSTANTIATE_TEST_SUITE_P(Seeds, SearchDifferential, testing::Values(20261121, 2, 3, 4));
+
+TEST_P(SearchDifferential, PicksTheSameRowsByEveryPlanWithoutTheIndexAndInMemory)
+{
+    constexpr int kSearches = 2500;
+    std::mt19937_64 random(GetParam());
+    TestFolder folder;
+    const OpenStore sql(StoreType::SQLite, folder.file(), {.pragmas = {{"journal_mode", "MEMORY"}}});
+    const OpenStore memory(StoreType::InMemory, {});
+    ASSERT_TRUE(sql) << sql.error();
+    fill(random, sql, memory);
+    Plans plans(sql);
+    int found = 0;
+    for (int i = 0; i < kSearches; ++i) {
+        const NSPredicate predicate = SearchMaker(random).predicate(2);
+        SCOPED_TRACE(fmt::format("seed {} number {}: {}", GetParam(), i, predicate.predicateFormat()));
+        StoreFetch fetch;
+        fetch.entity = &sql.entity("Document");
+        fetch.predicate = &predicate;
+        fetch.contents = RowContents::Keys;
+        const auto wanted = memory.keys("Document", predicate);
+        ASSERT_EQ(sql.keys("Document", predicate), wanted) << sql->explain(fetch);
+        ASSERT_EQ(plans.withoutIndex(fetch), wanted);
+        for (const auto kind : {SearchPlan::Kind::CheckCandidates, SearchPlan::Kind::WalkOrder, SearchPlan::Kind::Scan})
+            ASSERT_EQ(plans.withIndex(fetch, kind), wanted) << nameOfPlan(kind);
+        std::size_t count = 0;
+        ASSERT_TRUE(sql->count(fetch, count, nullptr));
+        ASSERT_EQ(count, wanted.size());
+        found += wanted.empty() ? 0 : 1;
+        // Now and then a text changes, so that the index has something to follow.
+        if (i % 50 == 0) {
+            const auto key = static_cast<std::int64_t>(1 + random() % 48);
+            const std::string text = TextMaker(random).text(random() % 20);
+            ASSERT_TRUE(sql.update("Document", key, "body", text));
+            ASSERT_TRUE(memory.update("Document", key, "body", text));
+        }
+    }
+    // The test says something only while many searches find something and the index leaves rows out.
+    EXPECT_GT(found, kSearches / 3);
+    EXPECT_GT(plans.narrowedCount(), kSearches);
+    EXPECT_LT(plans.candidateCount(), static_cast<std::size_t>(plans.narrowedCount()) * 48 / 2);
+}
+
+// Many rows -----------------------------------------------------------------------------------------------------------
+
+/// Enough rows for every plan: a common word, a rare one, and an order with an index.
+class ManyDocuments : public testing::Test {
+protected:
+    static constexpr int kCount = 3000;
+
+    static void SetUpTestSuite()
+    {
+        folder_ = std::make_unique<TestFolder>();
+        store_ = std::make_unique<OpenStore>(
+            StoreType::SQLite, folder_->file(), StoreOptions{.pragmas = {{"journal_mode", "MEMORY"}}});
+        NSError error;
+        std::int64_t first = 0;
+        ASSERT_TRUE((*store_)->reserveKeys(store_->entity("Document"), kCount, first, &error)) << error;
+        const auto transaction = (*store_)->beginTransaction(&error);
+        ASSERT_TRUE(transaction) << error;
+        for (int i = 0; i < kCount; ++i) {
+            std::string body = fmt::format("number {} ", i);
+            body += i % 3 == 0 ? "common pears" : i % 5 == 0 ? "often plums" : "nothing special";
+            body += i == 1234 ? " rarest" : "";
+            ASSERT_TRUE(transaction->insertRow(
+                makeRow(store_->entity("Document"), first + i,
+                    {{"title", fmt::format("Title {}", i)}, {"body", body}, {"flag", i % 700 == 0},
+                        {"modified", Value(dateWithMicrosecondsSinceReferenceDate((i * 7919) % kCount))}}),
+                &error))
+                << error;
+        }
+        ASSERT_TRUE(transaction->commit(&error)) << error;
+    }
+    static void TearDownTestSuite()
+    {
+        store_.reset();
+        folder_.reset();
+    }
+
+    static std::string explained(const std::string& format, std::size_t limit)
+    {
+        const NSPredicate predicate = NSPredicate::predicateWithFormat(format);
+        const std::vector<NSSortDescriptor> sort{{"flag", false}, {"modified", false}};
+        StoreFetch fetch;
+        fetch.entity = &store_->entity("Document");
+        fetch.predicate = &predicate;
+        fetch.limit = limit;
+        if (limit > 0)
+            fetch.sortDescriptors = sort;
+        return (*store_)->explain(fetch);
+    }
+    /// The plan that an explanation names, when the candidates are not far more than the hits.
+    static std::string plan(const std::string& explained, std::size_t hits)
+    {
+        const std::size_t start = explained.find("search: ") + 8;
+        const std::size_t comma = explained.find(", ", start);
+        const std::size_t candidates = std::stoul(explained.substr(comma + 2));
+        EXPECT_GE(candidates, hits) << explained;
+        EXPECT_LE(candidates, hits + 150) << explained;
+        EXPECT_NE(explained.find(" candidates of 3000 rows"), std::string::npos) << explained;
+        return explained.substr(start, comma - start);
+    }
+    static const OpenStore& store() { return *store_; }
+
+private:
+    static inline std::unique_ptr<TestFolder> folder_;
+    static inline std::unique_ptr<OpenStore> store_;
+};
+
+TEST_F(ManyDocuments, AreCheckedOneByOneWhenFewAreCandidates)
+{
+    const std::string text = explained("body CONTAINS[cd] 'rarest'", 50);
+    EXPECT_EQ(plan(text, 1), "check candidates");
+    EXPECT_NE(text.find("plan: SEARCH t0 USING INTEGER PRIMARY KEY"), std::string::npos) << text;
+}
+
+TEST_F(ManyDocuments, AreWalkedInTheirOrderWhenManyAreCandidates)
+{
+    const std::string text = explained("body CONTAINS[cd] 'pears'", 50);
+    EXPECT_EQ(plan(text, 1000), "walk the order");
+    EXPECT_NE(text.find("plan: SCAN t0 USING INDEX Document_flag_modified"), std::string::npos) << text;
+    EXPECT_EQ(text.find("TEMP B-TREE"), std::string::npos) << text;
+}
+
+TEST_F(ManyDocuments, AreScannedWhenMoreThanAFifthAreCandidatesAndAllAreWanted)
+{
+    EXPECT_EQ(plan(explained("body CONTAINS[cd] 'pears'", 0), 1000), "scan");
+    EXPECT_EQ(plan(explained("body CONTAINS[cd] 'plums'", 0), 400), "check candidates");
+}
+
+TEST_F(ManyDocuments, AreCountedTheSameByOneThreadAndByTwo)
+{
+    EXPECT_EQ(store().count("Document", "body CONTAINS[cd] 'pears'"), 1000U);
+    EXPECT_EQ(store().count("Document", "NOT body CONTAINS[cd] 'pears'"), 2000U);
+    EXPECT_EQ(store().count("Document", "body CONTAINS[cd] 'e'"), 3000U) << "no gram in the needle";
+    EXPECT_EQ(store().count("Document", "body CONTAINS[cd] 'plums'"), 400U);
+    EXPECT_EQ(store().count("Document", "body CONTAINS[cd] 'pears' AND flag == YES"), 2U);
+    NSError error;
+    const auto transaction = store()->beginTransaction(&error);
+    ASSERT_TRUE(transaction) << error;
+    EXPECT_EQ(store().count("Document", "body CONTAINS[cd] 'pears'"), 1000U) << "within a transaction by one";
+}
+
+TEST_F(ManyDocuments, ComeInTheSameOrderByEveryPlan)
+{
+    const std::vector<NSSortDescriptor> sort{{"flag", false}, {"modified", false}};
+    const auto pears = NSPredicate::predicateWithFormat("body CONTAINS[cd] 'pears'");
+    const auto all = store().keys("Document", pears, sort);
+    ASSERT_EQ(all.size(), 1000U);
+    const auto some = store().keys("Document", pears, sort, 50, 10);
+    EXPECT_EQ(some, std::vector<std::int64_t>(all.begin() + 10, all.begin() + 60));
+}
+
+} // namespace
+} // namespace tarn
