@@ -74,6 +74,22 @@ TEST_F(DoctorCommand, FindsTagsThatNoTextNames)
     EXPECT_EQ(json({"show", "One"}).at("tags"), nlohmann::json::array({"a"}));
 }
 
+TEST_F(DoctorCommand, EntersTextsInTheSearchIndexThatItDoesNotHave)
+{
+    note("# One\n\npears");
+    note("# Two\n\nplums");
+    damage("UPDATE OVNote_text_signature SET signature = NULL WHERE pk = 1");
+    damage("UPDATE OVNote_text_signature SET signature = substr(signature, 1, 4) || x'00' WHERE pk = 2");
+    const TarnResult found = run({"doctor"});
+    EXPECT_EQ(found.exitCode, 1);
+    EXPECT_NE(found.output.find("searchIndex 2 found"), std::string::npos) << found.output;
+    const TarnResult repaired = run({"--json", "doctor", "--repair"});
+    EXPECT_EQ(repaired.exitCode, 0) << repaired.output;
+    EXPECT_EQ(nlohmann::json::parse(repaired.output).at("indexed"), 2);
+    EXPECT_EQ(nlohmann::json::parse(repaired.output).at("repaired"), 0);
+    EXPECT_EQ(run({"doctor"}).exitCode, 0);
+}
+
 TEST_F(DoctorCommand, ExaminesNothingWhereThereIsNoStore)
 {
     EXPECT_EQ(run({"doctor"}).exitCode, 6);

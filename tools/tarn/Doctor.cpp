@@ -69,12 +69,14 @@ Doctor::Doctor(StoreSession& session) : session_(session) { }
 std::vector<DoctorCheck> Doctor::examine()
 {
     constexpr std::array<const char*, CheckCount> kNames{
-        "integrity", "title", "subtitle", "todos", "flags", "noteTags", "tags"};
+        "integrity", "searchIndex", "title", "subtitle", "todos", "flags", "noteTags", "tags"};
     for (std::size_t index = 0; index < CheckCount; ++index)
         checks_[index] = {.name = kNames[index], .found = 0, .problems = {}};
     keysInTexts_.clear();
     notesToRepair_.clear();
     examineFile();
+    if (!fileIsDamaged())
+        examineSearchIndex();
     examineNotes();
     examineTags();
     return {checks_.begin(), checks_.end()};
@@ -100,6 +102,16 @@ void Doctor::examineFile()
         throw failureForStoreError("cannot check the file of the store", error);
     for (const std::string& problem : problems)
         report(Integrity, problem);
+}
+
+void Doctor::examineSearchIndex()
+{
+    NSError error;
+    std::vector<std::string> problems;
+    if (!session_.store().checkSearchIndex(problems, &error))
+        throw failureForStoreError("cannot check the search index", error);
+    for (const std::string& problem : problems)
+        report(SearchIndex, problem);
 }
 
 void Doctor::examineNotes()
@@ -182,6 +194,15 @@ std::size_t Doctor::repair()
     }
     session_.save();
     session_.context().reset();
+    return repaired;
+}
+
+std::size_t Doctor::repairSearchIndex()
+{
+    NSError error;
+    std::size_t repaired = 0;
+    if (!session_.store().repairSearchIndex(repaired, &error))
+        throw failureForStoreError("cannot repair the search index", error);
     return repaired;
 }
 

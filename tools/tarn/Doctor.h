@@ -21,9 +21,9 @@ struct DoctorCheck {
 
 /// Looks at a whole store: is the file sound, and do the notes' fields say what their texts say?
 ///
-/// Names of checks: `integrity` (the file), `title`, `subtitle`, `todos`, `flags`, `noteTags` (fields of each note
-/// against a fresh parse of its text), `tags` (tags with notes against the hashtags of all texts). Protected notes are
-/// left out where their text is needed.
+/// Names of checks: `integrity` (the file), `searchIndex` (whether searches find what the texts hold), `title`,
+/// `subtitle`, `todos`, `flags`, `noteTags` (fields of each note against a fresh parse of its text), `tags` (tags with
+/// notes against the hashtags of all texts). Protected notes are left out where their text is needed.
 class Doctor {
 public:
     explicit Doctor(StoreSession& session);
@@ -34,11 +34,14 @@ public:
     bool fileIsDamaged() const noexcept;
     /// Derives the notes whose fields were found wrong anew. Their modification dates stay. Returns how many.
     std::size_t repair();
+    /// Brings the search index in step with the texts. Returns how many texts were amiss.
+    std::size_t repairSearchIndex();
 
 private:
-    enum Check : std::size_t { Integrity, Title, Subtitle, Todos, Flags, NoteTags, Tags, CheckCount };
+    enum Check : std::size_t { Integrity, SearchIndex, Title, Subtitle, Todos, Flags, NoteTags, Tags, CheckCount };
 
     void examineFile();
+    void examineSearchIndex();
     void examineNotes();
     void examineNote(const OVNote& note);
     void examineTags();

@@ -16,6 +16,7 @@ namespace {
 struct Diagnosis {
     std::vector<DoctorCheck> checks;
     std::size_t repaired = 0;
+    std::size_t indexed = 0; ///< texts that the search index did not have, or had wrongly
     ExitCode code = ExitCode::Done;
 };
 
@@ -30,7 +31,8 @@ Diagnosis diagnose(const Invocation& invocation, bool repair)
     // A damaged file is not written to: that could make it worse.
     if (repair && !doctor.fileIsDamaged()) {
         diagnosis.repaired = doctor.repair();
-        if (diagnosis.repaired > 0)
+        diagnosis.indexed = doctor.repairSearchIndex();
+        if (diagnosis.repaired + diagnosis.indexed > 0)
             diagnosis.checks = doctor.examine();
     }
     if (doctor.fileIsDamaged())
@@ -45,6 +47,7 @@ Diagnosis diagnosisOfFailure(const CommandFailure& failure)
 {
     return {.checks = {{.name = "integrity", .found = 1, .problems = {failure.what()}}},
         .repaired = 0,
+        .indexed = 0,
         .code = failure.code()};
 }
 
@@ -61,8 +64,10 @@ JSON jsonOf(const Diagnosis& diagnosis, bool repair)
     }
     JSON document;
     document["checks"] = std::move(checks);
-    if (repair)
+    if (repair) {
         document["repaired"] = diagnosis.repaired;
+        document["indexed"] = diagnosis.indexed;
+    }
     return document;
 }
 
@@ -80,6 +85,9 @@ void writeDiagnosis(Output& output, const Diagnosis& diagnosis, bool repair)
     if (repair)
         output.writeLine(
             "repaired " + std::to_string(diagnosis.repaired) + (diagnosis.repaired == 1 ? " note" : " notes"));
+    if (diagnosis.indexed > 0)
+        output.writeLine("entered " + std::to_string(diagnosis.indexed) + (diagnosis.indexed == 1 ? " text" : " texts")
+            + " in the search index");
 }
 
 ExitCode examine(const Invocation& invocation, bool repair)
@@ -97,7 +105,8 @@ ExitCode examine(const Invocation& invocation, bool repair)
     else
         writeDiagnosis(invocation.output, diagnosis, repair);
     if (diagnosis.code == ExitCode::Failed && !repair)
-        tellOnStandardError("the notes' fields are not what their texts say; 'tarn doctor --repair' derives them anew");
+        tellOnStandardError(
+            "what is derived from the texts is not what they say; 'tarn doctor --repair' derives it anew");
     if (diagnosis.code == ExitCode::Corrupt)
         tellOnStandardError("the file of the store is damaged; keep a copy of it before anything else");
     return diagnosis.code;
@@ -110,7 +119,8 @@ void addDoctorCommand(CommandLine& commandLine)
     const auto repair = std::make_shared<bool>(false);
     CLI::App& command = commandLine.addCommand(
         {.name = "doctor",
-            .summary = "Examine the store: its file, and whether the notes' fields are what their texts say",
+            .summary
+            = "Examine the store: its file, its search index, and whether the notes' fields are what their texts say",
             .explanation = "Exits with 0 when all is well, with 5 when the file itself is damaged.",
             .examples = {"tarn doctor", "tarn doctor --repair"}},
         [repair](const Invocation& invocation) { return examine(invocation, *repair); });
