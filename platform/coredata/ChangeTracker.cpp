@@ -75,6 +75,20 @@ void ChangeTracker::noteGone(NSManagedObject& object)
     enter(object, DeletedList, event_.deleted);
 }
 
+void ChangeTracker::noteAppeared(NSManagedObject& object)
+{
+    enter(object, InsertedList, event_.inserted);
+}
+
+void ChangeTracker::forgetPending(NSManagedObject& object)
+{
+    if (states_.erase(&object) == 0)
+        return;
+    PendingRecords& records = pending_[&object.entity().rootEntity()];
+    for (auto* list : {&records.inserted, &records.updated, &records.deleted})
+        std::erase(*list, &object);
+}
+
 std::vector<NSManagedObject*> ChangeTracker::insertedObjects() const
 {
     std::vector<NSManagedObject*> found;

@@ -23,6 +23,10 @@ public:
     void noteRefreshed(NSManagedObject& object);
     /// Its row vanished, or its insertion was taken back: observers hear of a deletion, and nothing is saved.
     void noteGone(NSManagedObject& object);
+    /// Another writer inserted it: observers hear of an insertion, and nothing is saved.
+    void noteAppeared(NSManagedObject& object);
+    /// Its unsaved changes, a deletion too, are nobody's any more.
+    void forgetPending(NSManagedObject& object);
 
     std::vector<NSManagedObject*> insertedObjects() const;
     std::vector<NSManagedObject*> updatedObjects() const;

@@ -129,6 +129,12 @@ void ContextCore::noteGone(NSManagedObject& object)
     scheduleProcessing();
 }
 
+void ContextCore::noteAppeared(NSManagedObject& object)
+{
+    tracker.noteAppeared(object);
+    scheduleProcessing();
+}
+
 void ContextCore::noteRefreshed(NSManagedObject& object)
 {
     tracker.noteRefreshed(object);

@@ -51,6 +51,8 @@ public:
     void remove(NSManagedObject& object);
     /// The record's row vanished from the store: it reads as deleted, and nothing of it is saved.
     void noteGone(NSManagedObject& object);
+    /// A record that another writer inserted is here now: observers hear of an insertion, and nothing is saved.
+    void noteAppeared(NSManagedObject& object);
     /// A clean record got newer values from the store.
     void noteRefreshed(NSManagedObject& object);
 

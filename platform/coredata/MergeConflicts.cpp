@@ -46,12 +46,12 @@ void reportLoss(ContextCore& core, NSManagedObject& record, PropertyMask lost, c
 
 } // namespace
 
-void mergeRowIntoRecord(ContextCore& core, NSManagedObject& record, StoreRow row)
+void mergeRowIntoRecord(ContextCore& core, NSManagedObject& record, StoreRow row, MergeWinner winner)
 {
     const NSEntityDescription& entity = record.entity();
     RecordDetails& details = RecordAccess::details(record);
     const PropertyValues mine = RecordAccess::values(record);
-    const bool storeWins = core.mergePolicy == NSMergePolicy::MergeByPropertyStoreTrump;
+    const bool storeWins = winner == MergeWinner::Store;
 
     PropertyMask ours = details.rowChanged & differences(entity, mine, details.committed);
     // A large attribute that was written without having been read has no base to compare with.

@@ -3,6 +3,7 @@
 #include "platform/coredata/ContextCore.h"
 #include "platform/coredata/PendingFetch.h"
 #include "platform/coredata/RecordAccess.h"
+#include "platform/coredata/RemoteMerge.h"
 #include "platform/coredata/SavePlan.h"
 #include "platform/foundation/NSException.h"
 
@@ -193,6 +194,14 @@ void NSManagedObjectContext::processPendingChanges()
 {
     core_->processPendingChanges();
 }
+
+void NSManagedObjectContext::mergeChangesFromRemoteContextSave(
+    const RemoteChanges& changes, std::span<NSManagedObjectContext* const> contexts)
+{
+    for (NSManagedObjectContext* context : contexts)
+        context->performBlockAndWait([&] { RemoteMerge(context->core()).run(changes); });
+}
+
 void NSManagedObjectContext::refreshObject(NSManagedObject& object, bool mergeChanges)
 {
     core_->refresh(object, mergeChanges);

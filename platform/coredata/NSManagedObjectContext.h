@@ -54,6 +54,13 @@ struct ObjectChanges {
     std::vector<NSManagedObject*> refreshed;
 };
 
+/// What another context or process has saved, by permanent identifiers.
+struct RemoteChanges {
+    std::vector<NSManagedObjectID> inserted;
+    std::vector<NSManagedObjectID> updated;
+    std::vector<NSManagedObjectID> deleted;
+};
+
 /// One row of a dictionary fetch: property names and values; a to-one gives its object identifier's URI.
 using DictionaryResult = std::map<std::string, Value>;
 
@@ -135,6 +142,15 @@ public:
     bool performExclusive(const std::function<void()>& block, NSError* error = nullptr);
     /// Posts objects-did-change for what changed since the last time. Runs by itself at the end of the queue's pass.
     void processPendingChanges();
+    /// Takes over, in each of the contexts and on its queue, what was saved elsewhere; observers hear of it as
+    /// objects-did-change before this returns.
+    ///
+    /// Inserted records appear; changed ones that this context knows take the new values, under its own unsaved changes
+    /// (what derives from a note's text goes as one, and a value that gives way is told to the conflict handler);
+    /// deleted ones go, and no save deletes or logs them again. Identifiers of another store, unknown ones and
+    /// temporary ones are passed over. A failing read is logged and leaves the records as they were.
+    static void mergeChangesFromRemoteContextSave(
+        const RemoteChanges& changes, std::span<NSManagedObjectContext* const> contexts);
     /// Reads the record again at next use; with `mergeChanges` its unsaved changes stay on top.
     void refreshObject(NSManagedObject& object, bool mergeChanges);
     void refreshAllObjects();

@@ -151,6 +151,11 @@ void ToManySet::unload()
 {
     added_.clear();
     removed_.clear();
+    forgetStored();
+}
+
+void ToManySet::forgetStored()
+{
     members_.clear();
     index_.clear();
     loaded_ = false;

@@ -41,6 +41,8 @@ private:
     void load();
     void settle();
     void unload();
+    /// Reads the stored members again at next use; unsaved additions and removals stay.
+    void forgetStored();
 
     NSManagedObject* owner_;
     const NSRelationshipDescription* relationship_;

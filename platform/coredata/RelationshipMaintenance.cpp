@@ -255,6 +255,26 @@ void RelationshipMaintenance::unload(NSManagedObject& record, const NSRelationsh
             set->unload();
 }
 
+void RelationshipMaintenance::forgetStoredMembers(NSManagedObject& record)
+{
+    if (RecordDetails* details = RecordAccess::detailsIfAny(record))
+        for (const auto& set : details->toManySets)
+            set->forgetStored();
+}
+
+void RelationshipMaintenance::forgetGone(NSManagedObject& record)
+{
+    const auto isGone = [](const NSManagedObject* member) { return RecordAccess::isGone(*member); };
+    if (RecordDetails* details = RecordAccess::detailsIfAny(record)) {
+        for (const auto& set : details->toManySets) {
+            if (std::any_of(set->members_.begin(), set->members_.end(), isGone))
+                set->forgetStored();
+            std::erase_if(set->added_, isGone);
+            std::erase_if(set->removed_, isGone);
+        }
+    }
+}
+
 void RelationshipMaintenance::makeKeysPermanent(NSManagedObject& record)
 {
     PropertyValues& values = RecordAccess::values(record);

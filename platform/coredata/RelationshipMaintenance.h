@@ -33,6 +33,10 @@ public:
     void unload(NSManagedObject& record);
     /// Drops the unsaved changes of one set, at this end.
     void unload(NSManagedObject& record, const NSRelationshipDescription& relationship);
+    /// Reads stored members of a record's sets again at next use; its unsaved additions and removals stay.
+    void forgetStoredMembers(NSManagedObject& record);
+    /// After deletions elsewhere: what the record holds of records that are gone, is dropped.
+    void forgetGone(NSManagedObject& record);
     /// Writes permanent keys where a record's to-ones hold temporary ones.
     void makeKeysPermanent(NSManagedObject& record);
 

@@ -207,7 +207,9 @@ bool SavePlan::updateRow(StoreTransaction& transaction, NSManagedObject& record,
                 record.entity().rootEntity(), std::span(&key, 1), RowContents::WholeRow, rows, error))
             return false;
         if (!rows.empty())
-            mergeRowIntoRecord(core_, record, std::move(rows.front()));
+            mergeRowIntoRecord(core_, record, std::move(rows.front()),
+                core_.mergePolicy == NSMergePolicy::MergeByPropertyStoreTrump ? MergeWinner::Store
+                                                                              : MergeWinner::Context);
     }
     return true;
 }

@@ -1,0 +1,154 @@
+#include "platform/coredata/RemoteMerge.h"
+
+#include "platform/coredata/ContextCore.h"
+#include "platform/coredata/MergeConflicts.h"
+#include "platform/coredata/RecordAccess.h"
+#include "platform/foundation/Log.h"
+
+#include <algorithm>
+
+namespace tarn {
+
+void RemoteMerge::run(const RemoteChanges& changes)
+{
+    core_.assertOnQueue();
+    takeRows(keysOf(changes.inserted), true);
+    takeRows(knownKeys(keysOf(changes.updated)), false);
+    for (const auto& [root, keys] : knownKeys(keysOf(changes.deleted)))
+        for (const std::int64_t key : keys)
+            remove(*root, key);
+    if (!gone_.empty())
+        dropReferencesToGone();
+    core_.processPendingChanges();
+}
+
+RemoteMerge::KeysByRoot RemoteMerge::keysOf(const std::vector<NSManagedObjectID>& objectIDs) const
+{
+    const StoreIdentity& store = core_.store().identity();
+    KeysByRoot keys;
+    for (const NSManagedObjectID& id : objectIDs) {
+        if (!id || id.isTemporaryID() || &id.store() != &store)
+            continue;
+        // The identifier may come from a coordinator that read the model for itself.
+        if (const NSEntityDescription* entity = core_.context.managedObjectModel().entityNamed(id.entity().name()))
+            keys[&entity->rootEntity()].push_back(id.key());
+    }
+    for (auto& [root, some] : keys) {
+        std::sort(some.begin(), some.end());
+        some.erase(std::unique(some.begin(), some.end()), some.end());
+    }
+    return keys;
+}
+
+RemoteMerge::KeysByRoot RemoteMerge::knownKeys(KeysByRoot keys) const
+{
+    for (auto& [root, some] : keys)
+        std::erase_if(some, [&, entity = root](std::int64_t key) { return !core_.registry.find(*entity, key); });
+    return keys;
+}
+
+void RemoteMerge::takeRows(const KeysByRoot& keys, bool areInserted)
+{
+    for (const auto& [root, some] : keys) {
+        if (some.empty())
+            continue;
+        std::vector<StoreRow> rows;
+        NSError error;
+        if (!core_.store().rowsForKeys(*root, some, RowContents::Row, rows, &error)) {
+            logMessage("Error while merging\n" + error.localizedDescription());
+            continue;
+        }
+        std::unordered_set<std::int64_t> missing(some.begin(), some.end());
+        for (StoreRow& row : rows) {
+            missing.erase(row.key);
+            takeRow(std::move(row), areInserted);
+        }
+        for (const std::int64_t key : missing) // deleted since
+            remove(*root, key);
+    }
+}
+
+void RemoteMerge::takeRow(StoreRow row, bool isInserted)
+{
+    NSManagedObject* known = core_.registry.find(row.entity->rootEntity(), row.key);
+    if (known) {
+        take(*known, std::move(row));
+    } else if (isInserted) {
+        NSManagedObject& record = core_.faulting.adopt(std::move(row));
+        core_.noteAppeared(record);
+    }
+}
+
+void RemoteMerge::take(NSManagedObject& record, StoreRow row)
+{
+    if (record.isDeleted())
+        return; // its deletion waits for the save here
+    core_.relationships.forgetStoredMembers(record);
+    const bool isEdited
+        = !record.isFault() && RecordAccess::detailsIfAny(record) && RecordAccess::details(record).rowChanged != 0;
+    if (!isEdited) {
+        if (RecordDetails* details = RecordAccess::detailsIfAny(record); details && details->changed)
+            details->committed = row.values;
+        RecordAccess::fill(record, std::move(row.values), row.version);
+        core_.noteRefreshed(record);
+        return;
+    }
+    if (row.version == record.rowVersion())
+        return;
+    std::vector<StoreRow> whole;
+    NSError error;
+    const std::int64_t key = row.key;
+    if (!core_.store().rowsForKeys(
+            record.entity().rootEntity(), std::span(&key, 1), RowContents::WholeRow, whole, &error)) {
+        logMessage("Error while merging\n" + error.localizedDescription());
+        return;
+    }
+    if (!whole.empty())
+        mergeRowIntoRecord(core_, record, std::move(whole.front()), MergeWinner::Context);
+}
+
+void RemoteMerge::remove(const NSEntityDescription& root, std::int64_t key)
+{
+    NSManagedObject* record = core_.registry.find(root, key);
+    if (!record)
+        return;
+    if (record->isUpdated())
+        logMessage(
+            "Another writer deleted " + record->objectID().URIRepresentation() + "; its unsaved changes were dropped");
+    core_.tracker.forgetPending(*record);
+    core_.noteGone(*record);
+    gone_[&root].insert(key);
+}
+
+/// Records that named one that is gone name nothing now; their rows say so already.
+void RemoteMerge::dropReferencesToGone()
+{
+    const auto namesGone = [&](const PropertyValues& values, const NSRelationshipDescription& relationship) {
+        const PropertyIndex index = relationship.index();
+        if (values.isEmpty() || !values.isLoaded(index) || values.isNil(index))
+            return false;
+        const auto keys = gone_.find(&relationship.destinationEntity().rootEntity());
+        return keys != gone_.end() && keys->second.contains(values.integer(index));
+    };
+    for (NSManagedObject* record : core_.registry.objects()) {
+        core_.relationships.forgetGone(*record);
+        if (record->isFault())
+            continue;
+        RecordDetails* details = RecordAccess::detailsIfAny(*record);
+        bool isRefreshed = false;
+        for (const NSRelationshipDescription* relationship : record->entity().relationships()) {
+            if (relationship->isToMany())
+                continue;
+            if (namesGone(RecordAccess::values(*record), *relationship)) {
+                RecordAccess::values(*record).setNil(relationship->index());
+                isRefreshed = true;
+            }
+            if (details && namesGone(details->committed, *relationship))
+                details->committed.setNil(relationship->index());
+        }
+        if (isRefreshed)
+            core_.noteRefreshed(*record);
+    }
+}
+
+} // namespace tarn
