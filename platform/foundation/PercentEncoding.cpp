@@ -1,0 +1,70 @@
+#include "platform/foundation/PercentEncoding.h"
+
+#include "platform/foundation/UTF.h"
+
+#include <unicode/uchar.h>
+
+namespace tarn {
+
+namespace {
+
+constexpr std::string_view kQueryMarks = "-._~!$&'()*+,;=:@/?";
+constexpr std::string_view kMarksEscapedInHeaders = "'?&()";
+
+bool isAsciiAlphanumeric(char32_t codePoint)
+{
+    return (codePoint >= U'a' && codePoint <= U'z') || (codePoint >= U'A' && codePoint <= U'Z')
+        || (codePoint >= U'0' && codePoint <= U'9');
+}
+
+bool isIn(std::string_view marks, char32_t codePoint)
+{
+    return codePoint != 0 && codePoint < 0x80 && marks.find(static_cast<char>(codePoint)) != std::string_view::npos;
+}
+
+bool isLetterMarkOrNumber(char32_t codePoint)
+{
+    return U_MASK(u_charType(static_cast<UChar32>(codePoint))) & (U_GC_L_MASK | U_GC_M_MASK | U_GC_N_MASK);
+}
+
+bool standsForItself(char32_t codePoint, UnescapedCharacters unescaped)
+{
+    if (unescaped == UnescapedCharacters::Alphanumeric)
+        return isLetterMarkOrNumber(codePoint);
+    if (unescaped == UnescapedCharacters::URLQueryHeader && isIn(kMarksEscapedInHeaders, codePoint))
+        return false;
+    return isAsciiAlphanumeric(codePoint) || isIn(kQueryMarks, codePoint);
+}
+
+void appendEscaped(std::string& result, std::string_view bytes)
+{
+    constexpr std::string_view digits = "0123456789ABCDEF";
+    for (const char byte : bytes) {
+        const auto value = static_cast<unsigned char>(byte);
+        result += '%';
+        result += digits[value >> 4U];
+        result += digits[value & 0xFU];
+    }
+}
+
+} // namespace
+
+std::string stringByAddingPercentEncoding(std::string_view text, UnescapedCharacters unescaped)
+{
+    std::string result;
+    result.reserve(text.size());
+    std::string character;
+    for (std::size_t offset = 0; offset < text.size();) {
+        const DecodedCodePoint next = decodeCodePoint(text, offset);
+        offset += next.length;
+        character.clear();
+        appendCodePoint(character, next.codePoint);
+        if (standsForItself(next.codePoint, unescaped))
+            result += character;
+        else
+            appendEscaped(result, character);
+    }
+    return result;
+}
+
+} // namespace tarn
