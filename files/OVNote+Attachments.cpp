@@ -1,6 +1,8 @@
+#include "encryption/OVEncryptionCoreManager.h"
 #include "model/OVNote.h"
 #include "model/OVNoteFile.h"
 #include "model/OVNoteImage.h"
+#include "model/OVPassword.h"
 
 #include <algorithm>
 
@@ -35,6 +37,40 @@ std::vector<OVNoteFile*> OVNote::orderedFilesWithoutImages() const
     std::vector<OVNoteFile*> files = orderedFiles();
     std::erase_if(files, [](OVNoteFile* file) { return dynamic_cast<OVNoteImage*>(file) != nullptr; });
     return files;
+}
+
+OVNoteFile* OVNote::attachmentIncludingUnusedForFilename(std::string_view filename) const
+{
+    OVNoteFile* unused = nullptr;
+    for (OVNoteFile* file : filesSet().allObjects()) {
+        if (!file->filenameIsEqualTo(filename))
+            continue;
+        if (!file->isUnused())
+            return file;
+        unused = unused ? unused : file;
+    }
+    return unused;
+}
+
+OVNoteFile* OVNote::attachmentForFilename(std::string_view filename) const
+{
+    OVNoteFile* file = attachmentIncludingUnusedForFilename(filename);
+    return file && !file->isUnused() ? file : nullptr;
+}
+
+OVNoteFile* OVNote::addAttachmentFromFileURL(const std::filesystem::path& url)
+{
+    return OVNoteFile::getOrCreateFileFromURL(url, *this, nullptr);
+}
+
+void OVNote::encryptFileIfNeeded(OVNoteFile* file)
+{
+    OVPassword* notePassword = password();
+    if (!file || !notePassword || !encryptedValue())
+        return;
+    OVEncryptionCoreManagerProtocol* manager = encryptionCoreManager();
+    if (manager && manager->hasCachedPassword(*notePassword))
+        manager->addEncryptionToObject(*file, *notePassword, nullptr);
 }
 
 } // namespace tarn

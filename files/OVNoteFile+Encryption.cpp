@@ -50,6 +50,13 @@ void OVNoteFile::setFileSize(std::optional<std::int64_t> bytes)
         updatePrimitiveFileSize(bytes);
 }
 
+std::optional<std::filesystem::path> OVNoteFile::fileURL() const
+{
+    if (auto* manager = OVEncryptionCoreManager::managerGuarding(*this, encryptedValue()))
+        return manager->fileURLForNoteFile(*this, nullptr);
+    return std::nullopt;
+}
+
 void OVNoteFile::updatePrimitiveFilename(std::optional<std::string_view> filename)
 {
     _OVNoteFile::setFilename(filename);

@@ -1,7 +1,9 @@
 #include "model/OVNoteFile.h"
 
+#include "files/PercentEncoding.h"
 #include "platform/coredata/NSManagedObjectContext.h"
 #include "platform/foundation/NSDate.h"
+#include "platform/foundation/Normalization.h"
 
 namespace tarn {
 
@@ -19,6 +21,13 @@ void OVNoteFile::setInUse()
         return;
     setUnusedValue(false);
     setUnusedDate(now());
+}
+
+bool OVNoteFile::filenameIsEqualTo(std::string_view filename) const
+{
+    const auto own = stringByRemovingPercentEncoding(this->filename().value_or("%"));
+    const auto other = stringByRemovingPercentEncoding(filename);
+    return own && other && canonicallyComposed(*own) == canonicallyComposed(*other);
 }
 
 void OVNoteFile::permanentlyDelete()

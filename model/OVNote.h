@@ -6,13 +6,16 @@
 #include "platform/foundation/Folding.h"
 
 #include <cstdint>
+#include <filesystem>
 #include <span>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 namespace tarn {
 
 class CVKAST;
+class CVKWikiLink;
 class OVNoteGenericFile;
 class OVNoteImage;
 class TolVectorClock;
@@ -30,8 +33,10 @@ public:
 
     /// Tags by folded title. The values are borrowed from the context that the note lives in.
     using TagsCache = std::unordered_map<std::string, OVNoteTag*>;
-    /// Notes by folded title, or by folded identifier where they have none. Borrowed likewise; null: known to be none.
+    /// Notes by folded title, or by folded identifier where they have none. Borrowed likewise.
     using NotesCache = std::unordered_map<std::string, OVNote*>;
+    /// Notes that a walk along links came to.
+    using VisitedNotes = std::unordered_set<const OVNote*>;
 
     /// A new note without text, with an identifier; made and modified at one and the same time.
     static OVNote* insertInManagedObjectContext(NSManagedObjectContext& context);
@@ -93,9 +98,9 @@ public:
 
     /// A new note with this text.
     static OVNote* noteWithText(std::string_view text, NSManagedObjectContext& context);
-    /// Replaces the text and derives title, subtitle, tags, to-do counts, flags and the use of attachments from it;
-    /// counts the edit in the vector clock and names this device. The modification date becomes now unless
-    /// `updateModificationDate` is NO.
+    /// Replaces the text and derives title, subtitle, tags, to-do counts, flags, links and the use of attachments from
+    /// it; a changed title is carried into the notes that link to it. Counts the edit in the vector clock and names
+    /// this device. The modification date becomes now unless `updateModificationDate` is NO.
     void updateNoteWithText(std::string_view text);
     void updateNoteWithText(std::string_view text, bool updateModificationDate);
     /// What both come to.
@@ -104,7 +109,8 @@ public:
     void updateNoteWithAST(const CVKAST& document);
     void updateNoteWithAST(const CVKAST& document, bool updateModificationDate);
     /// Writes what a text came to into the record, and into its attachments. Counts stop at 32,767; a protected note
-    /// gets no subtitle. When tags cannot be looked up (which is logged) the note keeps those that it has.
+    /// gets no subtitle. When tags, or the notes that links lead to, cannot be looked up (which is logged) the note
+    /// keeps those that it has.
     void updateNoteFromTextSummary(const CVKTextSummary& summary);
     /// Marks attachments used or unused by the links of the text, and numbers the used ones by their first link.
     void updateFilesFromTextSummary(const CVKTextSummary& summary);
@@ -121,6 +127,16 @@ public:
     /// Replaces all but a heading of level 1 to 3 on the first of several lines; without one the new text begins with a
     /// line feed.
     void replaceNoteWithText(std::string_view replacement);
+
+    // Copies (notes/OVNote+Copying.cpp)
+    // ---------------------------------------------------------------------------------
+    /// A new note of the texts of all, a blank line between them, with their attachments; the notes go to the trash. It
+    /// is pinned when all were. Null, and nothing changes, for fewer than two notes. Raises "Invalid accessor", and
+    /// nothing has changed, when one of them is locked.
+    static OVNote* mergeNotes(const std::vector<OVNote*>& notes);
+    /// A new note like this one, with copies of its attachments and an identifier of its own, which also takes the
+    /// place of this note's identifier in the text. It counts as made when it was modified.
+    OVNote* duplicate() const;
 
     // Guarded text (notes/OVNote+Encryption.cpp)
     // ------------------------------------------------------------------------
@@ -189,6 +205,33 @@ public:
     std::vector<OVNote*> linkedNotes() const;
     std::vector<OVNote*> linkedByNotes() const;
 
+    // Wiki links (notes/OVNote+WikiLinks.cpp)
+    // ---------------------------------------------------------------------------
+    /// Brings the records of this note's links in step with the links of its text. A record stays where its link stands
+    /// at the same offset with the same title and its target still has that title; each other link is looked up anew:
+    /// of several notes with its title an untrashed one counts first, then the one made first. A link that finds no
+    /// note waits for one. When the notes cannot be looked up (which is logged) all records stay as they are.
+    void setLinkedNotesFromWikiLinks(std::span<const CVKWikiLink> wikiLinks);
+    /// Rewrites links to the old title in the notes that link here, without touching their modification dates, and so
+    /// on where that changes a title; then links that wait for the new title, or lead to a trashed note, lead here. An
+    /// empty title stands for the identifier. Encrypted notes are never rewritten. None: had no title.
+    void updateLinkedByNoteForNewTitle(
+        std::optional<std::string_view> newTitle, std::optional<std::string_view> oldTitle);
+    /// Whether links to `title` in this note's first line may be rewritten: NO when following its own title from there
+    /// would come to a note twice. Adds the notes that it comes to to `parentLinkedBy`; null: none yet.
+    bool canReplaceWikiLinkWithTitle(std::string_view title, VisitedNotes* parentLinkedBy = nullptr);
+
+    // Links from outside (notes/OVNote+XCallbackURL.cpp)
+    // ----------------------------------------------------------------
+    // Percent-encoded URLs of the application.
+    std::string openNoteXCallbackURLString() const;
+    std::string openNoteWithTitleXCallbackURLString() const;
+    std::string openNoteInNewWindowXCallbackURLString() const;
+    /// Opens the note at a heading.
+    std::string openNoteXCallbackURLStringWithHeader(std::string_view header) const;
+    /// The link with a heading added to it.
+    static std::string appendHeader(std::string_view header, std::string_view noteLink);
+
     // Conflicted copies (notes/OVNote+Conflict.cpp)
     // --------------------------------------------------------------------- Versions of one note that are kept side by
     // side form a group. A member holds the identifier of the note that the group is rooted at, a slash, and the time
@@ -238,6 +281,15 @@ public:
     std::vector<OVNoteFile*> orderedFiles() const;
     std::vector<OVNoteImage*> orderedImages() const;
     std::vector<OVNoteFile*> orderedFilesWithoutImages() const;
+    /// The attachment of this name, compared as `OVNoteFile::filenameIsEqualTo` does; a used one before an unused one.
+    /// Null when there is none.
+    OVNoteFile* attachmentIncludingUnusedForFilename(std::string_view filename) const;
+    /// The first used one of them.
+    OVNoteFile* attachmentForFilename(std::string_view filename) const;
+    /// The attachment made from a file, or the unused one that holds the same. Null when it cannot be attached.
+    OVNoteFile* addAttachmentFromFileURL(const std::filesystem::path& url);
+    /// Protects an attachment of a protected note with the note's password, when that is at hand. Null: does nothing.
+    void encryptFileIfNeeded(OVNoteFile* file);
 
     // Beside the record, never stored
     // -----------------------------------------------------------------------------------
@@ -256,6 +308,8 @@ private:
     void updateModificationDateOfTags();
     void leaveConflict();
     void setConflictUUID(std::optional<std::string_view> conflictUUID);
+    std::string textAfterTakingAttachmentsOf(const OVNote& note, std::string text);
+    void copyInto(OVNote& copy) const;
 
     std::int64_t searchIndex_ = 0;
     TagsCache* tagsCache_ = nullptr;

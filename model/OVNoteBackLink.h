@@ -1,6 +1,9 @@
 #pragma once
 
 #include "model/_OVNoteBackLink.h"
+#include "platform/predicate/NSPredicate.h"
+
+#include <vector>
 
 namespace tarn {
 
@@ -13,6 +16,18 @@ public:
 
     /// A new link with its identifier, version 3 and the date of now.
     static OVNoteBackLink* insertInManagedObjectContext(NSManagedObjectContext& context);
+
+    // Fetching (notes/OVNoteBackLink+Fetching.cpp) -------------------------------------------------------------------
+    /// The links that the predicate finds; all without one. A failed fetch is logged and gives an empty list.
+    static std::vector<OVNoteBackLink*> backlinksInManagedObjectContext(
+        NSManagedObjectContext& context, const std::optional<NSPredicate>& predicate);
+    /// The links to this title, compared without case and diacritics; with `onlyEmpty` those without a target or with a
+    /// trashed one. Empty on failure, which is not logged.
+    static std::vector<OVNoteBackLink*> backlinksForTitle(
+        std::string_view title, bool onlyEmpty, NSManagedObjectContext& context);
+    /// The links with these identifiers. Empty on failure, which is not logged.
+    static std::vector<OVNoteBackLink*> backlinksForUUIDs(
+        const std::vector<std::string>& uniqueIdentifiers, NSManagedObjectContext& context);
 };
 
 } // namespace tarn

@@ -3,7 +3,11 @@
 #include "encryption/OVEncryptableObject.h"
 #include "model/_OVNoteFile.h"
 
+#include <filesystem>
+
 namespace tarn {
+
+class NSError;
 
 /// One attachment of a note: an image or any other file. Its bytes lie in a folder of its own, named by its identifier.
 ///
@@ -21,6 +25,20 @@ public:
     bool isUnused() const { return unusedValue(); }
     /// Deletes the record from its context.
     void permanentlyDelete();
+    /// Whether the name is this, both percent-decoded and in canonical composition. A name with a malformed escape is
+    /// equal to none.
+    bool filenameIsEqualTo(std::string_view filename) const;
+
+    // Import (files/OVNoteFile+Import.cpp) ---------------------------------------------------------------------------
+    /// The attachment of `note` made from a file, or the unused one that holds the same. Null and an error when it
+    /// cannot be attached; this version cannot attach files yet.
+    static OVNoteFile* getOrCreateFileFromURL(const std::filesystem::path& url, OVNote& note, NSError* error);
+
+    // Copies (files/OVNoteFile+Copying.cpp) --------------------------------------------------------------------------
+    /// A new random identifier.
+    void updateUniqueIdentifier();
+    /// A new record like this one, with an identifier of its own, not uploaded yet, and of no note.
+    OVNoteFile* duplicate() const;
 
     // Protection (files/OVNoteFile+Encryption.cpp) -------------------------------------------------------------------
     // Of an encrypted attachment these read and write through the encryption manager, and raise "Invalid accessor" when
@@ -32,6 +50,8 @@ public:
     void setNormalizedFileExtension(std::optional<std::string_view> extension) override;
     std::optional<std::int64_t> fileSize() const override;
     void setFileSize(std::optional<std::int64_t> bytes) override;
+    /// Where its bytes lie; none while they lie nowhere.
+    std::optional<std::filesystem::path> fileURL() const;
 
     // What is stored: unguarded, and announced when written.
     std::optional<std::string> storedFilename() const override { return primitiveFilename(); }

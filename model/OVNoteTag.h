@@ -107,6 +107,28 @@ public:
     /// The notes that `untrashedNotesPredicate` finds. A failed fetch is logged and gives an empty list.
     std::vector<OVNote*> activeNotesWithSortDescriptors(const std::vector<NSSortDescriptor>& sortDescriptors) const;
 
+    // Changing the tag in texts (tags/OVNoteTag+Rewriting.cpp, tags/OVNoteTag+Renaming.cpp)
+    // ------------------------------
+    // Texts are rewritten without touching modification dates. Each raises "Invalid accessor", and nothing has changed,
+    // when one of the notes is locked.
+
+    /// Adds the hashtag to notes that do not carry the tag: at the bottom, or below the title.
+    void addTagToNotes(const std::vector<OVNote*>& notes, bool bottom);
+    /// Takes the tag and those below it out of the texts; the records stay until unused tags are deleted.
+    void deleteTag();
+    void deleteTagInNotes(const std::vector<OVNote*>& notes);
+    /// Gives the tag and those below it another name in all its notes, or in these; the tag that has the name now. A
+    /// new name takes icon, sorting and pin along (a nested one loses the pin); a name that exists keeps its own.
+    /// Pinned notes and icons of tags below always go along. Null, and nothing changes, for an unusable name, for the
+    /// same name, when no text can take the name, and when the store could not be asked (which is logged).
+    OVNoteTag* renameTagWithTagNamed(std::string_view newName);
+    OVNoteTag* renameTagWithTagNamed(std::string_view newName, const std::vector<OVNote*>& notes);
+
+    // Links from outside (tags/OVNoteTag+XCallbackURL.cpp)
+    // ----------------------------------------------------------------
+    /// A percent-encoded URL of the application that shows the tag.
+    std::string openTagXCallbackURLString() const;
+
     // State (tags/OVNoteTag.cpp)
     // ----------------------------------------------------------------------------------------
     /// Sets the modification date to now.
@@ -121,6 +143,10 @@ public:
     void setSortingDirection(std::optional<bool> sortingDirection) override;
 
 private:
+    OVNoteTag* rename(std::string_view newName, const std::vector<OVNote*>* notes);
+    void moveSettingsTo(OVNoteTag& tag) const;
+    void movePinnedNotesTo(OVNoteTag& tag);
+    void takeIconsOfSubTags(const std::vector<OVNoteTag*>& oldTags, std::string_view oldTitle);
     static std::vector<OVNoteTag*> tagsMatching(const std::optional<NSPredicate>& predicate,
         const std::vector<NSSortDescriptor>& sortDescriptors, NSManagedObjectContext& context);
 

@@ -1,6 +1,7 @@
 #include "model/OVNote.h"
 #include "model/OVNoteTag.h"
 #include "model/RecordFetch.h"
+#include "notes/NotePredicates.h"
 
 #include <algorithm>
 
@@ -163,12 +164,7 @@ std::vector<OVNote*> OVNote::notesWithTitlesOrUUIDs(const Strings& titlesOrUUIDs
 std::vector<OVNote*> OVNote::notesWithTitlesOrUUIDs(
     const Strings& titlesOrUUIDs, const SortDescriptors& sortDescritors, NSManagedObjectContext& context)
 {
-    std::vector<NSPredicate> alternatives;
-    alternatives.reserve(titlesOrUUIDs.size());
-    for (const std::string& name : titlesOrUUIDs)
-        alternatives.push_back(
-            NSPredicate::predicateWithFormat("title ==[cd] %@ OR uniqueIdentifier == %@", name, name));
-    return fetchNotes(NSPredicate::orPredicateWithSubpredicates(alternatives), sortDescritors, context);
+    return fetchNotes(predicateForTitlesOrUUIDs(titlesOrUUIDs), sortDescritors, context);
 }
 
 OVNote* OVNote::untrashedNoteWithTitle(std::string_view title, NSManagedObjectContext& context)

@@ -98,6 +98,7 @@ void OVNote::updateNoteWithAST(const CVKAST& document, bool updateModificationDa
 
 void OVNote::updateNoteFromTextSummary(const CVKTextSummary& summary)
 {
+    const std::optional<std::string> oldTitle = title();
     setTitle(summary.title);
     // What is protected must not shine through a list of notes.
     setSubtitle(hasEncryption() ? std::nullopt : std::optional<std::string_view>(summary.subtitle));
@@ -105,6 +106,8 @@ void OVNote::updateNoteFromTextSummary(const CVKTextSummary& summary)
     setTodoIncompletedValue(clampedCount(summary.todoCount));
     setTodoCompletedValue(clampedCount(summary.doneCount));
     setHasSourceCodeValue(summary.codeBlockCount != 0);
+    setLinkedNotesFromWikiLinks(summary.wikiLinks);
+    updateLinkedByNoteForNewTitle(summary.title, oldTitle);
     updateFilesFromTextSummary(summary);
 }
 

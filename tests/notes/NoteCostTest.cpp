@@ -28,6 +28,24 @@ protected:
         return statistics_.take();
     }
 
+    void addLinkedNotes(int count)
+    {
+        for (; noteCount_ < count; ++noteCount_)
+            note("# Page " + std::to_string(noteCount_) + "\n\n[[Page " + std::to_string(noteCount_ + 1)
+                + "]] [[Missing " + std::to_string(noteCount_) + "]] [[Popular]]");
+        reopen();
+    }
+
+    /// An edit that moves, resolves and drops links and gives a new title to a note that one other note links to.
+    SQLStatistics::Counts costOfANewTitle(const std::string& number)
+    {
+        statistics_.take();
+        OVNote* edited = OVNote::noteWithTitle("Page " + number, context());
+        edited->updateNoteWithText("# Sheet " + number + "\n\nmoved [[Page 3]] [[Absent " + number + "]]");
+        save();
+        return statistics_.take();
+    }
+
     SQLStatistics::Counts costOfASearchForTags()
     {
         statistics_.take();
@@ -62,6 +80,23 @@ TEST_P(NoteCost, OfAnEditIsTheSameInASmallAndALargeNotebook)
     EXPECT_GT(small.rows, 0);
     EXPECT_EQ(large.texts, small.texts);
     EXPECT_EQ(large.statements, small.statements);
+    EXPECT_EQ(large.rows, small.rows);
+    EXPECT_EQ(small.scannedRows, 0);
+    EXPECT_EQ(large.scannedRows, 0);
+}
+
+TEST_P(NoteCost, OfLinksAndTitlesIsTheSameInASmallAndALargeNotebook)
+{
+    addLinkedNotes(100);
+    costOfANewTitle("20");
+    const SQLStatistics::Counts small = costOfANewTitle("30");
+    addLinkedNotes(3000);
+    costOfANewTitle("2000");
+    const SQLStatistics::Counts large = costOfANewTitle("2500");
+
+    EXPECT_EQ(OVNote::noteWithTitle("Page 2499", context())->text(),
+        "# Page 2499\n\n[[Sheet 2500]] [[Missing 2499]] [[Popular]]");
+    EXPECT_EQ(large.texts, small.texts);
     EXPECT_EQ(large.rows, small.rows);
     EXPECT_EQ(small.scannedRows, 0);
     EXPECT_EQ(large.scannedRows, 0);

@@ -65,6 +65,8 @@ TEST_P(NoteTextEditing, AppendsOnLinesOfItsOwnAboveALineOfTags)
         {"# T\n\n#1 is a number", "x", "# T\n\n#1 is a number\nx"},
         {"# T\n\n# heading", "x", "# T\n\n# heading\nx"},
         {"# T\n\n#two words#", "x", "# T\n\n#two words#\nx"},
+        {"# T #tag\n\n#Tag", "x", "# T #tag\n\n#Tag\nx"},
+        {"# T\n\n#tag, #other", "x", "# T\n\n#tag, #other\nx"},
         {"\n\n\n", "x", "\n\n\nx"},
         {"# T\r\n\r\n#tag\r\n", "x", "# T\r\n\r\nx\n\n#tag\r\n"},
     };

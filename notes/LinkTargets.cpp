@@ -1,0 +1,65 @@
+#include "notes/LinkTargets.h"
+
+#include "model/RecordFetch.h"
+#include "notes/NotePredicates.h"
+#include "platform/foundation/Folding.h"
+
+#include <unordered_set>
+
+namespace tarn {
+
+namespace {
+
+std::optional<std::vector<OVNote*>> fetchTargets(
+    const std::vector<std::string>& titlesOrUUIDs, NSManagedObjectContext& context)
+{
+    NSFetchRequest request(OVNote::entityInManagedObjectContext(context));
+    request.predicate = predicateForTitlesOrUUIDs(titlesOrUUIDs);
+    request.sortDescriptors = {{"trashed", true}, {"creationDate", true}};
+    return fetchRecords<OVNote>(request, context);
+}
+
+} // namespace
+
+std::string linkKeyOf(const OVNote& note)
+{
+    const auto title = note.title();
+    return fold(title && !title->empty() ? *title : note.uniqueIdentifier().value_or(""));
+}
+
+OVNote* LinkTargets::knownTarget(const std::string& key) const
+{
+    const auto found = cache().find(key);
+    if (found == cache().end() || !found->second)
+        return nullptr;
+    // A lent cache lives through many edits, and each may change a title.
+    OVNote* note = found->second;
+    return !note->isDeleted() && linkKeyOf(*note) == key ? note : nullptr;
+}
+
+bool LinkTargets::lookUp(std::span<const CVKWikiLink> links)
+{
+    std::vector<std::string> wanted;
+    std::unordered_set<std::string> keys;
+    for (const CVKWikiLink& link : links) {
+        std::string key = fold(link.decodedTitle());
+        if (!knownTarget(key) && keys.insert(std::move(key)).second)
+            wanted.push_back(link.decodedTitle());
+    }
+    if (wanted.empty())
+        return true;
+    const auto notes = fetchTargets(wanted, context_);
+    if (!notes)
+        return false;
+    // Backwards, so that the first of several with one title has the last word.
+    for (auto note = notes->rbegin(); note != notes->rend(); ++note)
+        cache()[linkKeyOf(**note)] = *note;
+    return true;
+}
+
+OVNote* LinkTargets::targetOf(std::string_view title) const
+{
+    return knownTarget(fold(title));
+}
+
+} // namespace tarn

@@ -1,0 +1,97 @@
+#include "corvel/CVKWikiLink.h"
+#include "model/OVNote.h"
+#include "model/OVNoteBackLink.h"
+#include "notes/LinkTargets.h"
+#include "notes/TitlePropagation.h"
+#include "platform/coredata/NSManagedObjectContext.h"
+#include "platform/foundation/Folding.h"
+
+#include <unordered_map>
+
+namespace tarn {
+
+namespace {
+
+/// What reconciling the records of a note's links with its text comes to.
+struct LinkChanges {
+    std::vector<OVNoteBackLink*> gone;
+    std::vector<CVKWikiLink> missing;
+};
+
+bool isStillRight(const OVNoteBackLink& record, const CVKWikiLink& link)
+{
+    const OVNote* target = record.linkingTo();
+    if (!target)
+        return false;
+    const std::string title = fold(record.title().value_or(""));
+    return title == fold(link.decodedTitle()) && title == fold(target->title().value_or(""));
+}
+
+LinkChanges changesOfLinks(const OVNote& note, std::span<const CVKWikiLink> links)
+{
+    LinkChanges changes;
+    std::unordered_map<std::int64_t, OVNoteBackLink*> records;
+    const std::vector<OVNoteBackLink*> present = note.linkingToSet().allObjects();
+    for (OVNoteBackLink* record : present) {
+        // No two links stand at one place; a second record there is left over from a merge or a copy.
+        if (!records.try_emplace(record->locationValue(), record).second)
+            changes.gone.push_back(record);
+    }
+    for (const CVKWikiLink& link : links) {
+        const auto found = records.find(static_cast<std::int64_t>(link.offset()));
+        if (found != records.end() && isStillRight(*found->second, link))
+            records.erase(found);
+        else if (!link.decodedTitle().empty())
+            changes.missing.push_back(link);
+    }
+    for (OVNoteBackLink* record : present) {
+        const auto left = records.find(record->locationValue());
+        if (left != records.end() && left->second == record)
+            changes.gone.push_back(record);
+    }
+    return changes;
+}
+
+void forgetWalksOver(const OVNoteBackLink& link)
+{
+    if (const OVNote* target = link.linkingTo())
+        TitlePropagation::forget(*target);
+}
+
+} // namespace
+
+void OVNote::setLinkedNotesFromWikiLinks(std::span<const CVKWikiLink> wikiLinks)
+{
+    NSManagedObjectContext& context = managedObjectContext();
+    TitlePropagation::forget(*this);
+    const LinkChanges changes = changesOfLinks(*this, wikiLinks);
+    LinkTargets targets(context, notesCache_);
+    if (!targets.lookUp(changes.missing))
+        return;
+    for (OVNoteBackLink* record : changes.gone) {
+        forgetWalksOver(*record);
+        context.deleteObject(*record);
+    }
+    for (const CVKWikiLink& link : changes.missing) {
+        OVNoteBackLink* record = OVNoteBackLink::insertInManagedObjectContext(context);
+        record->setTitle(link.decodedTitle());
+        record->setLocationValue(static_cast<std::int64_t>(link.offset()));
+        record->setLinkingTo(targets.targetOf(link.decodedTitle()));
+        record->setLinkedBy(this);
+        forgetWalksOver(*record);
+    }
+}
+
+void OVNote::updateLinkedByNoteForNewTitle(
+    std::optional<std::string_view> newTitle, std::optional<std::string_view> oldTitle)
+{
+    TitlePropagation::titleChanged(*this, newTitle, oldTitle);
+}
+
+bool OVNote::canReplaceWikiLinkWithTitle(std::string_view title, VisitedNotes* parentLinkedBy)
+{
+    VisitedNotes visited;
+    return TitleLineGuard::walk(*this, title, parentLinkedBy ? *parentLinkedBy : visited);
+}
+
+} // namespace tarn

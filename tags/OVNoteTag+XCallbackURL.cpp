@@ -1,0 +1,12 @@
+#include "model/OVNoteTag.h"
+#include "platform/foundation/PercentEncoding.h"
+
+namespace tarn {
+
+std::string OVNoteTag::openTagXCallbackURLString() const
+{
+    return "tarn://x-callback-url/open-tag?name="
+        + stringByAddingPercentEncoding(title().value_or(""), UnescapedCharacters::Alphanumeric);
+}
+
+} // namespace tarn
