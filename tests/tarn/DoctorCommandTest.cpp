@@ -63,6 +63,35 @@ TEST_F(DoctorCommand, FindsAndRepairsFieldsThatAreNotWhatTheTextSays)
     }
 }
 
+TEST_F(DoctorCommand, FindsAndRepairsLinksThatAreNotWhatTheTextSays)
+{
+    const std::string target = note("# Target");
+    note("# Source\n\n[[Target]] [[Missing]]");
+    for (const std::string sql : {"DELETE FROM OVNoteBackLink", "UPDATE OVNoteBackLink SET location = location + 1",
+             "UPDATE OVNoteBackLink SET title = 'Other', title_folded = 'other' WHERE location = 10"}) {
+        SCOPED_TRACE(sql);
+        damage(sql);
+        const nlohmann::json report = json({"doctor"});
+        for (const auto& check : report.at("checks"))
+            EXPECT_EQ(check.at("ok"), check.at("name") != "links") << check;
+        EXPECT_EQ(run({"doctor", "--repair"}).exitCode, 0);
+        EXPECT_EQ(run({"doctor"}).exitCode, 0);
+        const nlohmann::json links = json({"links", "Source"}).at("links");
+        ASSERT_EQ(links.size(), 2U);
+        EXPECT_EQ(links.at(0).at("note"), target);
+    }
+}
+
+TEST_F(DoctorCommand, RepairsATitleWithoutRewritingLinks)
+{
+    note("# Target");
+    note("# Source\n\n[[Target]] [[Wrong]]");
+    damage("UPDATE OVNote SET title = 'Wrong', title_folded = 'wrong' WHERE title = 'Target'");
+    EXPECT_EQ(run({"doctor", "--repair"}).exitCode, 0);
+    EXPECT_EQ(output({"show", "Target"}), "# Target");
+    EXPECT_EQ(output({"show", "Source"}), "# Source\n\n[[Target]] [[Wrong]]");
+}
+
 TEST_F(DoctorCommand, FindsTagsThatNoTextNames)
 {
     note("# One\n\n#a");

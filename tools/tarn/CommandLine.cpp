@@ -40,12 +40,25 @@ std::string footerOf(const CommandDescription& description)
     return footer + "\n\nOptions of every command: --store DIR, --json (see 'tarn --help').";
 }
 
-/// CLI11 only says that a subcommand is required, whatever was written in the place of one.
-std::string commandProblemOf(const std::vector<std::string>& remaining)
+/// The command that needs another one behind it and got none; null when that is not what went wrong.
+const CLI::App* groupWithoutCommand(const CLI::App& application)
 {
+    const CLI::App* group = &application;
+    while (!group->get_subcommands().empty())
+        group = group->get_subcommands().front();
+    return group->get_require_subcommand_min() > 0 ? group : nullptr;
+}
+
+/// CLI11 only says that a subcommand is required, whatever was written in the place of one.
+std::string commandProblemOf(const CLI::App& group, const std::vector<std::string>& remaining)
+{
+    const std::string name = group.get_parent() ? "tarn " + group.get_name() : "tarn";
+    const std::string advice = "; see '" + name + " --help'";
     if (remaining.empty())
-        return "a command is missing; see 'tarn --help'";
-    return "there is no command or option \"" + unshielded(remaining.front()) + "\"; see 'tarn --help'";
+        return (group.get_parent() ? "a command is missing behind \"" + group.get_name() + "\""
+                                   : "a command is missing")
+            + advice;
+    return "there is no command or option \"" + unshielded(remaining.front()) + "\"" + advice;
 }
 
 std::string adviceFor(const CLI::ParseError& error)
@@ -98,10 +111,23 @@ CommandLine::CommandLine(Output& output)
 
 CLI::App& CommandLine::addCommand(const CommandDescription& description, Action action)
 {
-    CLI::App& command = *application_.add_subcommand(description.name, description.summary);
+    return addCommand(application_, description, std::move(action));
+}
+
+CLI::App& CommandLine::addCommand(CLI::App& group, const CommandDescription& description, Action action)
+{
+    CLI::App& command = *group.add_subcommand(description.name, description.summary);
     command.footer(footerOf(description));
     command.callback([this, action = std::move(action)] { action_ = action; });
     return command;
+}
+
+CLI::App& CommandLine::addGroup(const CommandDescription& description)
+{
+    CLI::App& group = *application_.add_subcommand(description.name, description.summary);
+    group.footer(footerOf(description));
+    group.require_subcommand(1);
+    return group;
 }
 
 CLI::Option* CommandLine::addArguments(
@@ -174,8 +200,9 @@ ExitCode CommandLine::parseAndRun(const std::vector<std::string>& arguments)
         invocation_.output.writeLine(version.what());
         return ExitCode::Done;
     } catch (const CLI::ParseError& error) {
-        if (application_.get_subcommands().empty() && dynamic_cast<const CLI::RequiredError*>(&error))
-            throw CommandFailure(ExitCode::Usage, commandProblemOf(application_.remaining()));
+        const CLI::App* group = groupWithoutCommand(application_);
+        if (group && dynamic_cast<const CLI::RequiredError*>(&error))
+            throw CommandFailure(ExitCode::Usage, commandProblemOf(*group, application_.remaining(true)));
         throw CommandFailure(ExitCode::Usage, singleLine(error.what()) + adviceFor(error));
     }
     if (application_.count("--store") > 0)

@@ -44,6 +44,10 @@ public:
     /// Adds a command; its options and arguments go onto what is returned, which this owns. The action runs when the
     /// command was named and all its arguments are right.
     CLI::App& addCommand(const CommandDescription& description, Action action);
+    /// Adds a command that is only the first word of others.
+    CLI::App& addGroup(const CommandDescription& description);
+    /// Adds a command to a group.
+    CLI::App& addCommand(CLI::App& group, const CommandDescription& description, Action action);
     /// An argument that may be given several times: files, notes, words. Taken as written.
     static CLI::Option* addArguments(
         CLI::App& command, const std::string& name, std::vector<std::string>& values, const std::string& description);

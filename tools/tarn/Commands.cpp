@@ -7,9 +7,18 @@ void addCommands(CommandLine& commandLine)
     addImportCommand(commandLine);
     addNewCommand(commandLine);
     addShowCommand(commandLine);
+    addEditCommands(commandLine);
+    addEditorCommand(commandLine);
+    addDuplicateCommand(commandLine);
+    addMergeCommand(commandLine);
     addListCommand(commandLine);
     addSearchCommand(commandLine);
     addTagsCommand(commandLine);
+    addTagCommands(commandLine);
+    addLinkCommands(commandLine);
+    addURLCommand(commandLine);
+    addConflictsCommand(commandLine);
+    addConflictCommand(commandLine);
     addStateCommands(commandLine);
     addDeleteCommand(commandLine);
     addStatsCommand(commandLine);

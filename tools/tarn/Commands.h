@@ -11,9 +11,23 @@ void addParseCommand(CommandLine& commandLine);
 void addImportCommand(CommandLine& commandLine);
 void addNewCommand(CommandLine& commandLine);
 void addShowCommand(CommandLine& commandLine);
+/// append, prepend, replace
+void addEditCommands(CommandLine& commandLine);
+/// edit
+void addEditorCommand(CommandLine& commandLine);
+void addDuplicateCommand(CommandLine& commandLine);
+void addMergeCommand(CommandLine& commandLine);
 void addListCommand(CommandLine& commandLine);
 void addSearchCommand(CommandLine& commandLine);
 void addTagsCommand(CommandLine& commandLine);
+/// tag add, remove, rename, delete, pin, unpin, prune
+void addTagCommands(CommandLine& commandLine);
+/// links, backlinks, unresolved, orphans
+void addLinkCommands(CommandLine& commandLine);
+void addURLCommand(CommandLine& commandLine);
+void addConflictsCommand(CommandLine& commandLine);
+/// conflict resolve
+void addConflictCommand(CommandLine& commandLine);
 /// trash, restore, archive, unarchive, pin, unpin, readonly, editable
 void addStateCommands(CommandLine& commandLine);
 void addDeleteCommand(CommandLine& commandLine);

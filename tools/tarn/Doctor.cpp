@@ -2,8 +2,10 @@
 
 #include "corvel/CVKAST.h"
 #include "corvel/CVKHashtag.h"
+#include "model/OVNoteBackLink.h"
 #include "model/OVNoteFile.h"
 #include "model/OVNoteImage.h"
+#include "platform/foundation/Folding.h"
 #include "tools/tarn/CommandFailure.h"
 
 #include <algorithm>
@@ -44,6 +46,25 @@ std::set<std::string> tagKeysOf(const OVNote& note)
     return keys;
 }
 
+/// Where links stand, and the folded titles that they name.
+using LinkPlaces = std::multiset<std::pair<std::int64_t, std::string>>;
+
+LinkPlaces placesOf(const std::vector<CVKWikiLink>& links)
+{
+    LinkPlaces places;
+    for (const CVKWikiLink& link : links)
+        places.emplace(static_cast<std::int64_t>(link.offset()), fold(link.decodedTitle()));
+    return places;
+}
+
+LinkPlaces placesOfRecords(const OVNote& note)
+{
+    LinkPlaces places;
+    for (const OVNoteBackLink* link : note.linkingToSet().allObjects())
+        places.emplace(link->locationValue(), fold(link->title().value_or("")));
+    return places;
+}
+
 struct AttachmentFlags {
     bool images = false;
     bool files = false;
@@ -69,7 +90,7 @@ Doctor::Doctor(StoreSession& session) : session_(session) { }
 std::vector<DoctorCheck> Doctor::examine()
 {
     constexpr std::array<const char*, CheckCount> kNames{
-        "integrity", "searchIndex", "title", "subtitle", "todos", "flags", "noteTags", "tags"};
+        "integrity", "searchIndex", "title", "subtitle", "todos", "flags", "noteTags", "links", "tags"};
     for (std::size_t index = 0; index < CheckCount; ++index)
         checks_[index] = {.name = kNames[index], .found = 0, .problems = {}};
     keysInTexts_.clear();
@@ -155,6 +176,7 @@ void Doctor::examineNote(const OVNote& note)
     check(Flags, note.hasImagesValue() == attachments.images, "the flag for images");
     check(Flags, note.hasFilesValue() == attachments.files, "the flag for files");
     check(NoteTags, tagKeysOf(note) == keys, "the set of tags");
+    check(Links, placesOfRecords(note) == placesOf(summary.wikiLinks), "the set of links");
     if (!sound)
         notesToRepair_.push_back(note.uniqueIdentifier().value_or(""));
 }
@@ -179,12 +201,25 @@ void Doctor::examineTags()
     session_.context().reset();
 }
 
+namespace {
+
+/// A wrong title is no old one: nobody's links are rewritten for it.
+void deriveAnew(OVNote& note)
+{
+    const CVKAST document = CVKAST::fromMarkdown(note.text().value_or(""));
+    note.setTitle(document.textSummary().title);
+    note.updateNoteWithAST(document, false);
+    note.updateLinkedByNoteForNewTitle(document.textSummary().title, std::nullopt);
+}
+
+} // namespace
+
 std::size_t Doctor::repair()
 {
     std::size_t repaired = 0;
     for (const std::string& identifier : notesToRepair_) {
         for (OVNote* note : session_.notes(NSPredicate::predicateWithFormat("uniqueIdentifier == %@", identifier))) {
-            note->updateNoteWithText(note->text().value_or(""), false);
+            deriveAnew(*note);
             ++repaired;
         }
         if (repaired % kPage == 0) {

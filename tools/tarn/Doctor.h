@@ -22,8 +22,9 @@ struct DoctorCheck {
 /// Looks at a whole store: is the file sound, and do the notes' fields say what their texts say?
 ///
 /// Names of checks: `integrity` (the file), `searchIndex` (whether searches find what the texts hold), `title`,
-/// `subtitle`, `todos`, `flags`, `noteTags` (fields of each note against a fresh parse of its text), `tags` (tags with
-/// notes against the hashtags of all texts). Protected notes are left out where their text is needed.
+/// `subtitle`, `todos`, `flags`, `noteTags` (fields of each note against a fresh parse of its text), `links` (titles
+/// and places of its wiki links, likewise), `tags` (tags with notes against the hashtags of all texts). Protected notes
+/// are left out where their text is needed.
 class Doctor {
 public:
     explicit Doctor(StoreSession& session);
@@ -32,13 +33,25 @@ public:
     std::vector<DoctorCheck> examine();
     /// Whether the file itself is damaged; after `examine`.
     bool fileIsDamaged() const noexcept;
-    /// Derives the notes whose fields were found wrong anew. Their modification dates stay. Returns how many.
+    /// Derives the notes whose fields were found wrong anew. Their modification dates stay, and so do all texts.
+    /// Returns how many.
     std::size_t repair();
     /// Brings the search index in step with the texts. Returns how many texts were amiss.
     std::size_t repairSearchIndex();
 
 private:
-    enum Check : std::size_t { Integrity, SearchIndex, Title, Subtitle, Todos, Flags, NoteTags, Tags, CheckCount };
+    enum Check : std::size_t {
+        Integrity,
+        SearchIndex,
+        Title,
+        Subtitle,
+        Todos,
+        Flags,
+        NoteTags,
+        Links,
+        Tags,
+        CheckCount
+    };
 
     void examineFile();
     void examineSearchIndex();

@@ -138,6 +138,13 @@ std::vector<OVNoteTag*> StoreSession::tags(const std::optional<NSPredicate>& pre
     return recordsOf<OVNoteTag>(*context_, request);
 }
 
+std::vector<OVNoteBackLink*> StoreSession::links(const std::optional<NSPredicate>& predicate)
+{
+    NSFetchRequest request(OVNoteBackLink::entityInManagedObjectContext(*context_));
+    request.predicate = predicate;
+    return recordsOf<OVNoteBackLink>(*context_, request);
+}
+
 std::size_t StoreSession::countOfEntity(const NSEntityDescription& entity, const std::optional<NSPredicate>& predicate)
 {
     NSFetchRequest request(entity);

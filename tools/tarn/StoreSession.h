@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/OVNote.h"
+#include "model/OVNoteBackLink.h"
 #include "model/OVNoteTag.h"
 #include "platform/coredata/NSManagedObjectContext.h"
 #include "platform/coredata/NSPersistentStoreCoordinator.h"
@@ -52,6 +53,8 @@ public:
     std::size_t countNotes(const std::optional<NSPredicate>& predicate);
     /// Tags in no particular order.
     std::vector<OVNoteTag*> tags(const std::optional<NSPredicate>& predicate);
+    /// Links in no particular order.
+    std::vector<OVNoteBackLink*> links(const std::optional<NSPredicate>& predicate);
     std::size_t countOfEntity(const NSEntityDescription& entity, const std::optional<NSPredicate>& predicate);
 
     /// Writes all changes of the context. What cannot be written is rolled back.

@@ -2,8 +2,9 @@
 
 _tarn()
 {
-    local commands="import new show list search tags trash restore archive unarchive pin unpin readonly editable delete
-        stats doctor parse"
+    local commands="import new show append prepend replace edit duplicate merge list search tags tag links backlinks
+        unresolved orphans url conflicts conflict trash restore archive unarchive pin unpin readonly editable delete stats
+        doctor parse"
     local global="--store --json --help --version"
     local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} command="" word index
     COMPREPLY=()
@@ -20,7 +21,9 @@ _tarn()
     case $previous in
         --store) mapfile -t COMPREPLY < <(compgen -d -- "$current"); return ;;
         --filter) mapfile -t COMPREPLY < <(compgen -W "active trashed archived pinned conflicted encrypted all" -- "$current"); return ;;
-        --tag | --limit) return ;;
+        --tag | --limit | --header) return ;;
+        tag) [[ $command == tag ]] && { mapfile -t COMPREPLY < <(compgen -W "add remove rename delete pin unpin prune" -- "$current"); return; } ;;
+        conflict) [[ $command == conflict ]] && { mapfile -t COMPREPLY < <(compgen -W "resolve" -- "$current"); return; } ;;
     esac
 
     local options=""
@@ -30,6 +33,8 @@ _tarn()
         list) options="--filter --tag --limit" ;;
         search) options="--limit --count --explain --all" ;;
         tags) options="--all" ;;
+        tag) options="--top" ;;
+        url) options="--title --new-window --header --tag" ;;
         delete) options="--yes" ;;
         doctor) options="--repair" ;;
     esac

@@ -1,6 +1,6 @@
 # Completion of tarn for fish.
 
-set -l commands import new show list search tags trash restore archive unarchive pin unpin readonly editable delete stats doctor parse
+set -l commands import new show append prepend replace edit duplicate merge list search tags tag links backlinks unresolved orphans url conflicts conflict trash restore archive unarchive pin unpin readonly editable delete stats doctor parse
 
 complete -c tarn -f
 complete -c tarn -l store -r -a '(__fish_complete_directories)' -d 'The folder of the store'
@@ -11,9 +11,23 @@ complete -c tarn -n "not __fish_seen_subcommand_from $commands" -l version -d 'P
 complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a import -d 'Make notes of Markdown and text files'
 complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a new -d 'Write a note'
 complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a show -d 'Print the text of a note'
+complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a append -d 'Add text at the end of a note'
+complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a prepend -d 'Add text at the beginning of a note'
+complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a replace -d 'Replace the text of a note'
+complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a edit -d 'Open a note in the editor'
+complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a duplicate -d 'Make a copy of a note'
+complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a merge -d 'Make one note of several'
 complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a list -d 'List notes'
 complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a search -d 'Find notes by their words and tags'
 complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a tags -d 'Show the tree of tags'
+complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a tag -d 'Add, remove, rename, delete, pin and prune tags'
+complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a links -d 'Show the links that a note holds'
+complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a backlinks -d 'List the notes that link to a note'
+complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a unresolved -d 'Show links that lead to no note'
+complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a orphans -d 'List notes without links'
+complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a url -d 'Print the URL that opens a note or a tag'
+complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a conflicts -d 'List notes of which several versions were kept'
+complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a conflict -d 'Resolve a conflict'
 complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a trash -d 'Move notes to the trash'
 complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a restore -d 'Take notes out of the trash'
 complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a archive -d 'Move notes to the archive'
@@ -37,5 +51,12 @@ complete -c tarn -n '__fish_seen_subcommand_from search' -l count -d 'Print how 
 complete -c tarn -n '__fish_seen_subcommand_from search' -l explain -d 'Tell how the store finds them'
 complete -c tarn -n '__fish_seen_subcommand_from search' -l all -d 'Look into archive and trash as well'
 complete -c tarn -n '__fish_seen_subcommand_from tags' -l all -d 'Also tags without active notes'
+complete -c tarn -n '__fish_seen_subcommand_from tag' -a 'add remove rename delete pin unpin prune'
+complete -c tarn -n '__fish_seen_subcommand_from tag' -l top -d 'Write the hashtag below the title'
+complete -c tarn -n '__fish_seen_subcommand_from conflict' -a resolve -d 'Keep one version of a note'
+complete -c tarn -n '__fish_seen_subcommand_from url' -l title -d 'Name the note by its title'
+complete -c tarn -n '__fish_seen_subcommand_from url' -l new-window -d 'Open it in a window of its own'
+complete -c tarn -n '__fish_seen_subcommand_from url' -l header -x -d 'Open it at this heading'
+complete -c tarn -n '__fish_seen_subcommand_from url' -l tag -x -d 'Open this tag'
 complete -c tarn -n '__fish_seen_subcommand_from delete' -l yes -d 'Do not ask'
 complete -c tarn -n '__fish_seen_subcommand_from doctor' -l repair -d 'Derive wrong fields anew'

@@ -1,0 +1,128 @@
+#include "tools/tarn/CommandFailure.h"
+#include "tools/tarn/CommandLine.h"
+#include "tools/tarn/Commands.h"
+#include "tools/tarn/NoteArgument.h"
+#include "tools/tarn/NoteJSON.h"
+#include "tools/tarn/NoteList.h"
+
+#include <algorithm>
+#include <memory>
+#include <unordered_set>
+
+namespace tarn {
+
+namespace {
+
+/// Versions of one note, the latest stamped first.
+struct ConflictGroup {
+    std::string root;
+    std::vector<OVNote*> notes;
+};
+
+ConflictGroup groupOf(const OVNote& note)
+{
+    return {note.conflictedRootUUID(), note.conflictedNotes()};
+}
+
+/// When its latest member was stamped, as text that sorts by time.
+std::string latestStampOf(const ConflictGroup& group)
+{
+    const std::string member
+        = group.notes.empty() ? std::string() : group.notes.front()->conflictUniqueIdentifier().value_or("");
+    return member.substr(std::min(member.size(), group.root.size()));
+}
+
+std::vector<ConflictGroup> allGroups(StoreSession& session)
+{
+    std::vector<ConflictGroup> groups;
+    std::unordered_set<std::string> roots;
+    for (const OVNote* note : session.notes(NSPredicate::predicateWithFormat("conflictUniqueIdentifier != nil"))) {
+        if (roots.insert(note->conflictedRootUUID()).second)
+            groups.push_back(groupOf(*note));
+    }
+    std::ranges::sort(groups, std::ranges::greater(), latestStampOf);
+    return groups;
+}
+
+void show(const Invocation& invocation, const std::vector<ConflictGroup>& groups)
+{
+    if (invocation.json) {
+        JSON list = JSON::array();
+        for (const ConflictGroup& group : groups)
+            list.push_back({{"root", group.root}, {"notes", jsonOfNotes(group.notes).at("notes")}});
+        writeJSON(invocation.output, {{"groups", std::move(list)}});
+        return;
+    }
+    bool isFirst = true;
+    for (const ConflictGroup& group : groups) {
+        if (!isFirst)
+            invocation.output.writeLine("");
+        isFirst = false;
+        for (const OVNote* note : group.notes)
+            writeNoteLine(invocation.output, *note);
+    }
+}
+
+ExitCode showConflicts(const Invocation& invocation, const std::optional<std::string>& argument)
+{
+    StoreSession session(invocation, StoreSession::Access::Read);
+    std::vector<ConflictGroup> groups;
+    if (!argument)
+        groups = allGroups(session);
+    else if (const OVNote& note = noteForArgument(*argument, session); note.hasConflictedNotes())
+        groups.push_back(groupOf(note));
+    show(invocation, groups);
+    return groups.empty() ? ExitCode::Failed : ExitCode::Done;
+}
+
+ExitCode resolveConflict(const Invocation& invocation, const std::string& argument)
+{
+    StoreSession session(invocation, StoreSession::Access::Write);
+    OVNote& kept = noteForArgument(argument, session);
+    if (!kept.hasConflictedNotes())
+        throw CommandFailure(ExitCode::Failed, "\"" + kept.title().value_or("") + "\" is in no conflict");
+    const ConflictGroup group = groupOf(kept);
+    for (OVNote* note : group.notes) {
+        if (note != &kept)
+            note->trash();
+    }
+    // Where it was the only one left, nobody's leaving has ended the conflict.
+    if (kept.hasConflictedNotes())
+        kept.unmarkAsConflicted();
+    session.save();
+    show(invocation, {group});
+    return ExitCode::Done;
+}
+
+} // namespace
+
+void addConflictsCommand(CommandLine& commandLine)
+{
+    const auto note = std::make_shared<std::optional<std::string>>();
+    CLI::App& command
+        = commandLine.addCommand({.name = "conflicts",
+                                     .summary = "List notes of which several versions were kept",
+                                     .explanation = "The versions of one note stand together, the latest first.",
+                                     .examples = {"tarn conflicts", "tarn conflicts Groceries"}},
+            [note](const Invocation& invocation) { return showConflicts(invocation, *note); });
+    CommandLine::addArgument(command, "NOTE", *note, "Only the versions of this note");
+}
+
+void addConflictCommand(CommandLine& commandLine)
+{
+    CLI::App& group = commandLine.addGroup({.name = "conflict",
+        .summary = "Resolve a conflict",
+        .explanation = "",
+        .examples = {"tarn conflict resolve 3F2504E0"}});
+    const auto note = std::make_shared<std::optional<std::string>>();
+    CLI::App& command = commandLine.addCommand(group,
+        {.name = "resolve",
+            .summary = "Keep one version of a note and move the others to the trash",
+            .explanation = "",
+            .examples = {"tarn conflict resolve 3F2504E0"}},
+        [note](const Invocation& invocation) { return resolveConflict(invocation, **note); });
+    CommandLine::addArgument(command, "NOTE", *note, "The version to keep: an identifier, or the beginning of one")
+        ->required();
+}
+
+} // namespace tarn

@@ -1,0 +1,70 @@
+#include "tools/tarn/CommandLine.h"
+#include "tools/tarn/Commands.h"
+#include "tools/tarn/EditableNote.h"
+#include "tools/tarn/TextArgument.h"
+
+#include <array>
+#include <memory>
+
+namespace tarn {
+
+namespace {
+
+struct EditCommand {
+    const char* name;
+    const char* summary;
+    const char* explanation;
+    std::array<const char*, 2> examples;
+    void (OVNote::*edit)(std::string_view);
+};
+
+constexpr std::array kEditCommands{
+    EditCommand{"append", "Add text at the end of a note",
+        "The text stands on lines of its own, above a last line of the note's tags.",
+        {"tarn append Groceries '- [ ] pears'", "date | tarn append Diary"}, &OVNote::appendNoteWithText},
+    EditCommand{"prepend", "Add text at the beginning of a note",
+        "The text stands below a first line that begins with \"# \", else in front of everything.",
+        {"tarn prepend Groceries '- [ ] plums'", "date | tarn prepend Diary"}, &OVNote::prependNoteWithText},
+    EditCommand{"replace", "Replace the text of a note",
+        "A heading of level 1 to 3 on the first of several lines stays; without one the new text begins with an empty "
+        "line.",
+        {"tarn replace Groceries '- [ ] pears'", "curl -s https://example.org/list.md | tarn replace List"},
+        &OVNote::replaceNoteWithText},
+};
+
+struct EditArguments {
+    std::optional<std::string> note;
+    std::optional<std::string> text;
+};
+
+ExitCode editNote(const Invocation& invocation, const EditArguments& arguments, const EditCommand& edit)
+{
+    // Read before the store is locked: whoever writes into the pipe may take their time.
+    const std::string text = textOfArgument(arguments.text);
+    StoreSession session(invocation, StoreSession::Access::Write);
+    OVNote& note = editableNoteForArgument(*arguments.note, session);
+    (note.*edit.edit)(text);
+    session.save();
+    writeNote(invocation, note);
+    return ExitCode::Done;
+}
+
+} // namespace
+
+void addEditCommands(CommandLine& commandLine)
+{
+    for (const EditCommand& edit : kEditCommands) {
+        const auto arguments = std::make_shared<EditArguments>();
+        CLI::App& command = commandLine.addCommand({.name = edit.name,
+                                                       .summary = edit.summary,
+                                                       .explanation = edit.explanation,
+                                                       .examples = {edit.examples.begin(), edit.examples.end()}},
+            [arguments, &edit](const Invocation& invocation) { return editNote(invocation, *arguments, edit); });
+        CommandLine::addArgument(command, "NOTE", arguments->note, "An identifier, the beginning of one, or a title")
+            ->required();
+        CommandLine::addArgument(
+            command, "TEXT", arguments->text, "The text; standard input when there is none, or \"-\"");
+    }
+}
+
+} // namespace tarn

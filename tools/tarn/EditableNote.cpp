@@ -1,0 +1,48 @@
+#include "tools/tarn/EditableNote.h"
+
+#include "tools/tarn/CommandFailure.h"
+#include "tools/tarn/NoteJSON.h"
+#include "tools/tarn/NoteList.h"
+
+namespace tarn {
+
+namespace {
+
+CommandFailure refusal(ExitCode code, const OVNote& note, const std::string& reason)
+{
+    return {code,
+        "\"" + note.title().value_or("") + "\" (" + note.uniqueIdentifier().value_or("").substr(0, 8) + ") " + reason};
+}
+
+} // namespace
+
+void requireUnlocked(const std::vector<OVNote*>& notes)
+{
+    for (const OVNote* note : notes) {
+        if (note->encryptedValue() && note->hasEncryptionAndIsLocked())
+            throw refusal(ExitCode::Locked, *note, "is protected by a password; nothing was changed");
+    }
+}
+
+OVNote& editableNoteForArgument(std::string_view argument, StoreSession& session)
+{
+    OVNote& note = noteForArgument(argument, session);
+    requireUnlocked({&note});
+    if (note.isTrashed())
+        throw refusal(ExitCode::Failed, note, "is in the trash; take it out with 'tarn restore'");
+    if (note.isArchived())
+        throw refusal(ExitCode::Failed, note, "is in the archive; take it out with 'tarn unarchive'");
+    if (!note.isEditable())
+        throw refusal(ExitCode::Failed, note, "is read-only; let it be edited with 'tarn editable'");
+    return note;
+}
+
+void writeNote(const Invocation& invocation, const OVNote& note)
+{
+    if (invocation.json)
+        writeJSON(invocation.output, jsonOfNote(note));
+    else
+        writeNoteLine(invocation.output, note);
+}
+
+} // namespace tarn

@@ -1,0 +1,25 @@
+#include "tools/tarn/TagArgument.h"
+
+#include "corvel/CVKHashtag.h"
+#include "tools/tarn/CommandFailure.h"
+
+namespace tarn {
+
+std::string tagNameForArgument(const std::string& argument)
+{
+    std::string name = CVKHashtag::sanitizeTagName(argument);
+    if (name.empty())
+        throw CommandFailure(ExitCode::Usage, "\"" + argument + "\" cannot be the name of a tag");
+    return name;
+}
+
+OVNoteTag& tagForArgument(const std::string& argument, StoreSession& session)
+{
+    const std::string name = tagNameForArgument(argument);
+    const auto tags = session.tags(NSPredicate::predicateWithFormat("title ==[cd] %@", name));
+    if (tags.empty())
+        throw CommandFailure(ExitCode::Failed, "there is no tag \"" + name + "\"; 'tarn tags --all' shows all");
+    return *tags.front();
+}
+
+} // namespace tarn

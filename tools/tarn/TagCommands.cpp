@@ -1,0 +1,210 @@
+#include "platform/foundation/Folding.h"
+#include "tools/tarn/CommandFailure.h"
+#include "tools/tarn/CommandLine.h"
+#include "tools/tarn/Commands.h"
+#include "tools/tarn/DisplayText.h"
+#include "tools/tarn/EditableNote.h"
+#include "tools/tarn/JSON.h"
+#include "tools/tarn/TagArgument.h"
+
+#include <array>
+#include <memory>
+
+namespace tarn {
+
+namespace {
+
+struct TagArguments {
+    std::optional<std::string> name;
+    std::optional<std::string> newName;
+    std::vector<std::string> notes;
+    bool top = false;
+};
+
+std::string numbered(std::size_t count, const std::string& thing)
+{
+    return std::to_string(count) + " " + thing + (count == 1 ? "" : "s");
+}
+
+/// What a command did: the title of the tag now, and how many notes were rewritten.
+void report(const Invocation& invocation, const std::string& tag, std::size_t notes)
+{
+    if (invocation.json)
+        writeJSON(invocation.output, {{"tag", tag}, {"notes", notes}});
+    else
+        invocation.output.writeLine(
+            invocation.output.styled(displayText(tag), TextStyle::Strong) + "  " + numbered(notes, "note"));
+}
+
+ExitCode addTag(const Invocation& invocation, const TagArguments& arguments)
+{
+    const std::string name = tagNameForArgument(*arguments.name);
+    StoreSession session(invocation, StoreSession::Access::Write);
+    std::vector<OVNote*> untagged = notesForArguments(arguments.notes, session);
+    OVNoteTag* tag = OVNoteTag::getOrCreateTagWithName(name, session.context());
+    if (!tag)
+        throw CommandFailure(ExitCode::Failed, "the tag \"" + name + "\" could not be looked up; nothing was changed");
+    std::erase_if(untagged, [tag](const OVNote* note) { return note->tagsSet().containsObject(*tag); });
+    requireUnlocked(untagged);
+    tag->addTagToNotes(untagged, !arguments.top);
+
+    std::size_t added = 0;
+    for (const OVNote* note : untagged) {
+        if (note->tagsSet().containsObject(*tag))
+            ++added;
+        else
+            tellOnStandardError("there is no place for the tag in \"" + note->title().value_or("") + "\"");
+    }
+    session.save();
+    report(invocation, tag->title().value_or(""), added);
+    return added == untagged.size() ? ExitCode::Done : ExitCode::Failed;
+}
+
+ExitCode removeTag(const Invocation& invocation, const TagArguments& arguments)
+{
+    StoreSession session(invocation, StoreSession::Access::Write);
+    OVNoteTag& tag = tagForArgument(*arguments.name, session);
+    std::vector<OVNote*> tagged = notesForArguments(arguments.notes, session);
+    std::erase_if(tagged, [&tag](const OVNote* note) { return !note->tagsSet().containsObject(tag); });
+    requireUnlocked(tagged);
+    tag.deleteTagInNotes(tagged);
+    session.save();
+    report(invocation, tag.title().value_or(""), tagged.size());
+    return ExitCode::Done;
+}
+
+/// Notes whose texts cannot take the new name are told of.
+bool allFollowed(const OVNoteTag& old, const OVNoteTag& renamed)
+{
+    const std::string above = fold(old.title().value_or("")) + "/";
+    if (&old == &renamed || fold(renamed.title().value_or("")).starts_with(above) || old.notesSet().empty())
+        return true;
+    tellOnStandardError(numbered(old.notesSet().count(), "note")
+        + " kept the old name of the tag: the new one makes the path of a tag below it too long");
+    return false;
+}
+
+ExitCode renameTag(const Invocation& invocation, const TagArguments& arguments)
+{
+    const std::string newName = tagNameForArgument(*arguments.newName);
+    StoreSession session(invocation, StoreSession::Access::Write);
+    OVNoteTag& tag = tagForArgument(*arguments.name, session);
+    if (tag.title() == newName)
+        throw CommandFailure(ExitCode::Failed, "the tag is called \"" + newName + "\" already");
+    const std::vector<OVNote*> notes = tag.notesSet().allObjects();
+    requireUnlocked(notes);
+    const OVNoteTag* renamed = tag.renameTagWithTagNamed(newName);
+    if (!renamed)
+        throw CommandFailure(ExitCode::Failed,
+            "the tag \"" + tag.title().value_or("") + "\" was not renamed: no text can take the name \"" + newName
+                + "\"");
+    session.save();
+    report(invocation, renamed->title().value_or(""), notes.size());
+    return allFollowed(tag, *renamed) ? ExitCode::Done : ExitCode::Failed;
+}
+
+ExitCode deleteTag(const Invocation& invocation, const TagArguments& arguments)
+{
+    StoreSession session(invocation, StoreSession::Access::Write);
+    OVNoteTag& tag = tagForArgument(*arguments.name, session);
+    const std::vector<OVNote*> notes = tag.notesSet().allObjects();
+    requireUnlocked(notes);
+    tag.deleteTagInNotes(notes);
+    session.save();
+    report(invocation, tag.title().value_or(""), notes.size());
+    return ExitCode::Done;
+}
+
+template <void (OVNoteTag::*change)()> ExitCode changeTag(const Invocation& invocation, const TagArguments& arguments)
+{
+    StoreSession session(invocation, StoreSession::Access::Write);
+    OVNoteTag& tag = tagForArgument(*arguments.name, session);
+    (tag.*change)();
+    session.save();
+    report(invocation, tag.title().value_or(""), 0);
+    return ExitCode::Done;
+}
+
+ExitCode pruneTags(const Invocation& invocation, const TagArguments&)
+{
+    StoreSession session(invocation, StoreSession::Access::Write);
+    std::vector<std::string> titles;
+    for (const OVNoteTag* tag : session.tags(NSPredicate::predicateWithFormat("notes.@count == 0")))
+        titles.push_back(tag->title().value_or(""));
+    OVNoteTag::deleteAllUnusedTagsInManagedObjectContext(session.context());
+    session.save();
+    if (invocation.json)
+        writeJSON(invocation.output, {{"tag", nullptr}, {"notes", 0}, {"deleted", titles}});
+    else
+        invocation.output.writeLine("deleted " + numbered(titles.size(), "tag"));
+    return ExitCode::Done;
+}
+
+/// Which arguments a command takes, beside the name of a tag.
+enum class Takes { Nothing, Name, NameAndNotes, NameAndNewName };
+
+struct TagCommand {
+    const char* name;
+    const char* summary;
+    const char* explanation;
+    const char* example;
+    Takes takes;
+    ExitCode (*run)(const Invocation&, const TagArguments&);
+};
+
+constexpr std::array kTagCommands{
+    TagCommand{"add", "Add a tag to notes that do not carry it",
+        "The hashtag is written at the bottom of the text: behind a last line of tags, else on a line of its own.",
+        "tarn tag add home/kitchen 'Recipe for bread' --top", Takes::NameAndNotes, addTag},
+    TagCommand{"remove", "Remove a tag, and those below it, from notes", "The hashtags are taken out of the texts.",
+        "tarn tag remove home Groceries", Takes::NameAndNotes, removeTag},
+    TagCommand{"rename", "Rename a tag, and those below it, in all notes",
+        "Where the new name exists already, the two tags become one.", "tarn tag rename work 'day job'",
+        Takes::NameAndNewName, renameTag},
+    TagCommand{"delete", "Remove a tag, and those below it, from all notes",
+        "The hashtags are taken out of the texts; 'tarn tag prune' forgets the tag.", "tarn tag delete home/kitchen",
+        Takes::Name, deleteTag},
+    TagCommand{
+        "pin", "Keep a tag on top of the list", "", "tarn tag pin work", Takes::Name, changeTag<&OVNoteTag::pin>},
+    TagCommand{
+        "unpin", "No longer keep a tag on top", "", "tarn tag unpin work", Takes::Name, changeTag<&OVNoteTag::unpin>},
+    TagCommand{"prune", "Forget tags that no note carries", "Trashed and archived notes count.", "tarn tag prune",
+        Takes::Nothing, pruneTags},
+};
+
+void addArguments(CLI::App& command, TagArguments& arguments, Takes takes)
+{
+    if (takes == Takes::Nothing)
+        return;
+    const bool isRename = takes == Takes::NameAndNewName;
+    CommandLine::addArgument(command, isRename ? "OLD" : "NAME", arguments.name, "The path of a tag, as \"work/acme\"")
+        ->required();
+    if (isRename)
+        CommandLine::addArgument(command, "NEW", arguments.newName, "Its new path")->required();
+    if (takes == Takes::NameAndNotes)
+        CommandLine::addArguments(command, "NOTE", arguments.notes, "Identifiers, beginnings of them, or titles")
+            ->required();
+}
+
+} // namespace
+
+void addTagCommands(CommandLine& commandLine)
+{
+    CLI::App& group = commandLine.addGroup({.name = "tag",
+        .summary = "Add, remove, rename, delete, pin and prune tags",
+        .explanation
+        = "Tags live in texts: whoever changes a tag rewrites the texts of its notes. A note that is protected "
+          "stops the\ncommand before anything has changed.",
+        .examples = {"tarn tag rename work 'day job'", "tarn tag add home Groceries", "tarn tag add --help"}});
+    for (const TagCommand& tag : kTagCommands) {
+        const auto arguments = std::make_shared<TagArguments>();
+        CLI::App& command = commandLine.addCommand(group,
+            {.name = tag.name, .summary = tag.summary, .explanation = tag.explanation, .examples = {tag.example}},
+            [arguments, &tag](const Invocation& invocation) { return tag.run(invocation, *arguments); });
+        addArguments(command, *arguments, tag.takes);
+        if (tag.run == addTag)
+            command.add_flag("--top", arguments->top, "Write the hashtag below the title instead of at the bottom");
+    }
+}
+
+} // namespace tarn

@@ -1,0 +1,67 @@
+#include "tools/tarn/CommandFailure.h"
+#include "tools/tarn/CommandLine.h"
+#include "tools/tarn/Commands.h"
+#include "tools/tarn/JSON.h"
+#include "tools/tarn/NoteArgument.h"
+#include "tools/tarn/TagArgument.h"
+
+#include <memory>
+
+namespace tarn {
+
+namespace {
+
+struct URLArguments {
+    std::optional<std::string> note;
+    std::optional<std::string> tag;
+    std::optional<std::string> header;
+    bool title = false;
+    bool newWindow = false;
+};
+
+std::string urlOfNote(const OVNote& note, const URLArguments& arguments)
+{
+    std::string url = arguments.title ? note.openNoteWithTitleXCallbackURLString()
+        : arguments.newWindow         ? note.openNoteInNewWindowXCallbackURLString()
+                                      : note.openNoteXCallbackURLString();
+    return arguments.header ? OVNote::appendHeader(*arguments.header, url) : url;
+}
+
+ExitCode showURL(const Invocation& invocation, const URLArguments& arguments)
+{
+    if (arguments.note.has_value() == arguments.tag.has_value())
+        throw CommandFailure(ExitCode::Usage, "url needs a note or --tag; see 'tarn url --help'");
+    StoreSession session(invocation, StoreSession::Access::Read);
+    const std::string url = arguments.tag ? tagForArgument(*arguments.tag, session).openTagXCallbackURLString()
+                                          : urlOfNote(noteForArgument(*arguments.note, session), arguments);
+    if (invocation.json)
+        writeJSON(invocation.output, {{"url", url}});
+    else
+        invocation.output.writeLine(url);
+    return ExitCode::Done;
+}
+
+} // namespace
+
+void addURLCommand(CommandLine& commandLine)
+{
+    const auto arguments = std::make_shared<URLArguments>();
+    CLI::App& command = commandLine.addCommand(
+        {.name = "url",
+            .summary = "Print the URL that opens a note or a tag",
+            .explanation = "A URL with the identifier keeps leading to the note when its title changes.",
+            .examples = {"tarn url Groceries --header Fruit", "tarn url --tag home/kitchen"}},
+        [arguments](const Invocation& invocation) { return showURL(invocation, *arguments); });
+    CommandLine::addArgument(command, "NOTE", arguments->note, "An identifier, the beginning of one, or a title");
+    CLI::Option* title = command.add_flag("--title", arguments->title, "Name the note by its title");
+    CLI::Option* window = command.add_flag("--new-window", arguments->newWindow, "Open it in a window of its own");
+    CLI::Option* header = CommandLine::addArgument(command, "--header", arguments->header, "Open it at this heading");
+    CLI::Option* tag = CommandLine::addArgument(command, "--tag", arguments->tag, "Open this tag");
+    header->option_text("TEXT");
+    tag->option_text("NAME");
+    title->excludes(window);
+    for (CLI::Option* ofNotes : {title, window, header})
+        tag->excludes(ofNotes);
+}
+
+} // namespace tarn
