@@ -1,0 +1,188 @@
+// What it costs to rename what many notes speak of: `bench_rename [most notes]`.
+//
+// Each measure is taken on a store that was just opened, and saved in one transaction; the shares of parsing, of
+// fetching and of writing are told apart, and how the time grows with the number of notes.
+
+#include "benchmarks/support/Yardsticks.h"
+#include "corvel/CVKAST.h"
+#include "corvel/CVKHashtag.h"
+#include "corvel/CVKWikiLink.h"
+#include "model/ManagedObjectModel.h"
+#include "model/OVNote.h"
+#include "model/OVNoteTag.h"
+#include "platform/coredata/NSManagedObjectContext.h"
+#include "platform/coredata/NSPersistentStoreCoordinator.h"
+#include "platform/foundation/NSUUID.h"
+
+#include <fmt/core.h>
+
+#include <chrono>
+#include <cstdlib>
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <string>
+
+namespace {
+
+using namespace tarn;
+namespace fs = std::filesystem;
+
+struct Store {
+    explicit Store(const fs::path& file)
+        : coordinator(std::make_shared<NSPersistentStoreCoordinator>(OVManagedObjectModel::current())),
+          context(NSManagedObjectContext::ConcurrencyType::MainQueue)
+    {
+        NSError error;
+        if (!coordinator->addPersistentStoreWithType(StoreType::SQLite, file, {}, &error)) {
+            fmt::print(stderr, "{}\n", error.localizedDescription());
+            std::exit(6);
+        }
+        context.setPersistentStoreCoordinator(coordinator);
+    }
+    void save()
+    {
+        NSError error;
+        if (!context.save(&error)) {
+            fmt::print(stderr, "{}\n", error.localizedDescription());
+            std::exit(6);
+        }
+    }
+    std::shared_ptr<NSPersistentStoreCoordinator> coordinator;
+    NSManagedObjectContext context;
+};
+
+double secondsOf(const std::function<void()>& work)
+{
+    const auto begin = std::chrono::steady_clock::now();
+    work();
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
+}
+
+/// What a rename took, in all and in its parts.
+struct Cost {
+    double reading = 0;   ///< fetching notes and their texts
+    double parsing = 0;   ///< rewriting and parsing the same texts, without any record
+    double rewriting = 0; ///< the rename itself, parsing included
+    double writing = 0;   ///< the save
+    double whole() const { return reading + rewriting + writing; }
+};
+
+/// A case: how a note's text is made, how the rename is done, how a text alone is rewritten.
+struct Case {
+    const char* name;
+    std::size_t notes;
+    std::function<std::string(std::size_t)> text;
+    std::function<std::vector<OVNote*>(NSManagedObjectContext&)> notesToRewrite;
+    std::function<void(NSManagedObjectContext&)> rename;
+    std::function<CVKAST(const std::string&)> rewrite;
+};
+
+std::string paragraph(std::size_t number)
+{
+    std::string text;
+    for (std::size_t line = 0; line < 12; ++line)
+        text += "Line " + std::to_string(line) + " of note " + std::to_string(number)
+            + ": *some* words, a [link](https://example.org/" + std::to_string(line) + ") and `code`.\n";
+    return text;
+}
+
+Cost measure(const fs::path& folder, const Case& tried, std::size_t count)
+{
+    const fs::path file = folder / (newUUIDString() + ".sqlite");
+    {
+        Store store(file);
+        OVNote::noteWithText("# Target", store.context);
+        for (std::size_t number = 0; number < count; ++number)
+            OVNote::noteWithText(tried.text(number), store.context);
+        store.save();
+    }
+    Store store(file);
+    Cost cost;
+    std::vector<std::string> texts;
+    cost.reading = secondsOf([&] {
+        for (const OVNote* note : tried.notesToRewrite(store.context))
+            texts.push_back(note->text().value_or(""));
+    });
+    cost.parsing = secondsOf([&] {
+        for (const std::string& text : texts)
+            static_cast<void>(tried.rewrite(text).textSummary());
+    });
+    cost.rewriting = secondsOf([&] { tried.rename(store.context); });
+    cost.writing = secondsOf([&] { store.save(); });
+    if (texts.size() != count)
+        fmt::print(stderr, "{} notes instead of {}\n", texts.size(), count);
+    fs::remove(file);
+    return cost;
+}
+
+std::vector<OVNote*> notesOfTag(NSManagedObjectContext& context)
+{
+    return OVNoteTag::tagWithName("work", context)->notesSet().allObjects();
+}
+
+void renameTag(NSManagedObjectContext& context)
+{
+    OVNoteTag::tagWithName("work", context)->renameTagWithTagNamed("day job");
+}
+
+std::vector<Case> cases()
+{
+    const auto rewriteTag = [](const std::string& text) { return CVKHashtag::renameTagName("work", "day job", text); };
+    return {
+        {"rename of a tag", 2000,
+            [](std::size_t number) {
+                return "# Note " + std::to_string(number) + "\n\n" + paragraph(number) + "\n#work\n";
+            },
+            notesOfTag, renameTag, rewriteTag},
+        {"rename of a tag with 500 below it", 10000,
+            [](std::size_t number) {
+                return "# Note " + std::to_string(number) + "\n\n" + paragraph(number) + "\n#work/project "
+                    + std::to_string(number % 500) + "#\n";
+            },
+            notesOfTag, renameTag, rewriteTag},
+        {"new title of a linked note", 1000,
+            [](std::size_t number) {
+                return "# Note " + std::to_string(number) + "\n\nSee [[Target]].\n" + paragraph(number);
+            },
+            [](NSManagedObjectContext& context) { return OVNote::noteWithTitle("Target", context)->linkedByNotes(); },
+            [](NSManagedObjectContext& context) {
+                OVNote::noteWithTitle("Target", context)->updateNoteWithText("# Goal");
+            },
+            [](const std::string& text) {
+                return CVKWikiLink::updateWikiLinkWithTitle("Target", "Goal", false, text);
+            }},
+    };
+}
+
+void report(const Case& tried, std::size_t count, const Cost& cost)
+{
+    const double whole = cost.whole();
+    fmt::print("{:<34} {:>6} notes {:>9.1f} ms {:>7.3f} ms a note   reading {:>2.0f} %, parsing {:>2.0f} %, "
+               "records {:>2.0f} %, writing {:>2.0f} %\n",
+        tried.name, count, whole * 1000, whole * 1000 / static_cast<double>(count), 100 * cost.reading / whole,
+        100 * cost.parsing / whole, 100 * (cost.rewriting - cost.parsing) / whole, 100 * cost.writing / whole);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    // Whoever runs all benchmarks hands them options of Google Benchmark, which read as 0.
+    const std::size_t given = argc > 1 ? std::strtoul(argv[1], nullptr, 10) : 0;
+    const std::size_t most = given ? given : 10000;
+    const fs::path folder = fs::temp_directory_path() / ("tarn benchmark " + newUUIDString());
+    fs::create_directories(folder);
+    for (const Case& tried : cases()) {
+        const std::size_t many = std::min(tried.notes, most);
+        const std::size_t few = std::max<std::size_t>(many / 4, 1);
+        const Cost costOfFew = measure(folder, tried, few);
+        const Cost costOfMany = measure(folder, tried, many);
+        report(tried, few, costOfFew);
+        report(tried, many, costOfMany);
+        const double growth
+            = costOfMany.whole() / static_cast<double>(many) / (costOfFew.whole() / static_cast<double>(few));
+        fmt::print("{:<34} time for each note, {} against {}: {:.2f} (linear is 1)\n", "", many, few, growth);
+    }
+    fs::remove_all(folder);
+}
