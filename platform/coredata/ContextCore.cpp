@@ -27,14 +27,43 @@ ContextCore::ContextCore(NSManagedObjectContext& owner, NSManagedObjectContext::
 
 ContextCore::~ContextCore()
 {
+    if (link_)
+        link_->close();
     queue_->cancelAtEndOfPass(this);
 }
 
 NSPersistentStore& ContextCore::store() const
 {
+    if (parentStore)
+        return *parentStore;
     if (!coordinator || !coordinator->persistentStore())
         throw NSException(NSInternalInconsistencyException, "The context has no persistent store");
     return *coordinator->persistentStore();
+}
+
+std::shared_ptr<NSPersistentStore> ContextCore::sharedStore() const
+{
+    return parentStore ? parentStore : std::shared_ptr<NSPersistentStore>(coordinator, &store());
+}
+
+std::shared_ptr<ParentLink> ContextCore::link()
+{
+    assertOnQueue();
+    if (!link_) {
+        // The main queue lives as long as the process.
+        auto queue = privateQueue_ ? privateQueue_ : std::shared_ptr<Queue>(std::shared_ptr<void>(), queue_);
+        link_ = std::make_shared<ParentLink>(*this, std::move(queue));
+    }
+    return link_;
+}
+
+void ContextCore::publish()
+{
+    // Nobody else holds it once the last child is gone.
+    if (link_ && link_.use_count() > 1)
+        link_->publish();
+    else
+        link_.reset();
 }
 
 void ContextCore::assertOnQueue() const
@@ -84,6 +113,42 @@ NSManagedObject& ContextCore::recordOrFault(const NSEntityDescription& entity, s
     RecordAccess::markFault(object);
     faulting.noteFault(object);
     return object;
+}
+
+NSManagedObject& ContextCore::adoptInsertion(
+    const NSEntityDescription& entity, std::int64_t key, PropertyValues values, PropertyMask changed)
+{
+    NSManagedObject& object
+        = registry.add(RecordAccess::make(context, NSManagedObjectID(store().identity(), entity, key)));
+    RecordAccess::fill(object, std::move(values), 0);
+    RecordAccess::markInserted(object, nextOrder_++);
+    RecordDetails& details = RecordAccess::details(object);
+    details.changed = details.changedInEvent = details.rowChanged = changed;
+    tracker.noteInserted(object);
+    pendingIndex.touch(object, ~PropertyMask{0});
+    fromChildren_.push_back(&object);
+    scheduleProcessing();
+    return object;
+}
+
+void ContextCore::noteFromChild(NSManagedObject& object)
+{
+    if (!object.hasChanges())
+        fromChildren_.push_back(&object);
+}
+
+void ContextCore::shedFromChildren()
+{
+    for (NSManagedObject* object : fromChildren_) {
+        const RecordDetails* details = RecordAccess::detailsIfAny(*object);
+        const bool isWatched = details && !details->observers.empty();
+        if (object->isFault() || object->isDeleted() || object->hasChanges() || isWatched)
+            continue;
+        relationships.unload(*object);
+        RecordAccess::markFault(*object);
+        faulting.noteFault(*object);
+    }
+    fromChildren_.clear();
 }
 
 bool ContextCore::beginWrite(NSManagedObject& object)
@@ -143,13 +208,14 @@ void ContextCore::noteRefreshed(NSManagedObject& object)
 
 // Deletion ------------------------------------------------------------------------------------------------------------
 
-void ContextCore::remove(NSManagedObject& object)
+void ContextCore::remove(NSManagedObject& object, Preparation preparation)
 {
     assertOnQueue();
     if (object.isDeleted() || RecordAccess::isBeingDeleted(object))
         return;
     RecordAccess::markBeingDeleted(object);
-    object.prepareForDeletion();
+    if (preparation == Preparation::Needed)
+        object.prepareForDeletion();
     if (RecordAccess::isGone(object))
         return;
     std::vector<NSManagedObject*> cascade;
@@ -170,7 +236,7 @@ void ContextCore::remove(NSManagedObject& object)
         registry.forget(object);
     scheduleProcessing();
     for (NSManagedObject* dependent : cascade)
-        remove(*dependent);
+        remove(*dependent, preparation);
 }
 
 // Events --------------------------------------------------------------------------------------------------------------
@@ -189,6 +255,7 @@ void ContextCore::processPendingChanges()
     isScheduled_ = false;
     if (isPosting_ || !tracker.hasEvent())
         return;
+    publish();
     struct Posting {
         explicit Posting(bool& flag) : flag_(flag) { flag_ = true; }
         ~Posting() { flag_ = false; }
@@ -246,6 +313,8 @@ void ContextCore::rollback()
         cancelInsertion(*object);
     tracker.clearPending();
     pendingIndex.clear();
+    fromChildren_.clear();
+    publish();
     if (tracker.hasEvent())
         scheduleProcessing();
 }
@@ -290,6 +359,8 @@ void ContextCore::reset()
     assertOnQueue();
     tracker.clear();
     pendingIndex.clear();
+    fromChildren_.clear();
+    publish();
     faulting.clear();
     registry.clear();
 }

@@ -5,12 +5,14 @@
 #include "platform/coredata/NSManagedObjectContext.h"
 #include "platform/coredata/NSPersistentStoreCoordinator.h"
 #include "platform/coredata/ObjectRegistry.h"
+#include "platform/coredata/ParentLink.h"
 #include "platform/coredata/PendingIndex.h"
 #include "platform/coredata/RelationshipMaintenance.h"
 
 #include <functional>
 #include <memory>
 #include <unordered_map>
+#include <vector>
 
 namespace tarn {
 
@@ -35,8 +37,18 @@ public:
     /// A save is under way; its will-save observers may change records, but not save again.
     bool isSaving = false;
 
-    /// Raises `NSInternalInconsistencyException` when the context has no store.
+    /// Set for a child: the parent, as a store.
+    std::shared_ptr<NSPersistentStore> parentStore;
+    NSManagedObjectContext* parentContext = nullptr;
+
+    /// The parent's view for a child. Raises `NSInternalInconsistencyException` when the context has no store.
     NSPersistentStore& store() const;
+    /// The same, kept alive.
+    std::shared_ptr<NSPersistentStore> sharedStore() const;
+    /// What children hold of this context; made when the first one asks. On the queue.
+    std::shared_ptr<ParentLink> link();
+    /// Lets children, where there are any, see what is pending now.
+    void publish();
     Queue& queue() const noexcept { return *queue_; }
     /// Debug builds abort, naming both queues, when the caller is on another one.
     void assertOnQueue() const;
@@ -48,7 +60,16 @@ public:
     bool beginWrite(NSManagedObject& object);
     /// After a change: the property counts as changed. `inRow`: it stands in the record's own row.
     void noteChange(NSManagedObject& object, PropertyIndex index, bool inRow);
-    void remove(NSManagedObject& object);
+    /// Whether `prepareForDeletion` ran already, in a child.
+    enum class Preparation : std::uint8_t { Needed, Done };
+    void remove(NSManagedObject& object, Preparation preparation = Preparation::Needed);
+    /// A record that a child inserted, with its permanent key.
+    NSManagedObject& adoptInsertion(
+        const NSEntityDescription& entity, std::int64_t key, PropertyValues values, PropertyMask changed);
+    /// A child changes the record: once saved it is let go, for this context may never have asked for it.
+    void noteFromChild(NSManagedObject& object);
+    /// After a save: records that only children brought keep no values.
+    void shedFromChildren();
     /// The record's row vanished from the store: it reads as deleted, and nothing of it is saved.
     void noteGone(NSManagedObject& object);
     /// A record that another writer inserted is here now: observers hear of an insertion, and nothing is saved.
@@ -79,6 +100,8 @@ private:
     std::unordered_map<const NSEntityDescription*, PropertyValues> defaults_;
     std::unordered_map<const NSEntityDescription*, KeyBlock> keyBlocks_;
 
+    std::shared_ptr<ParentLink> link_;
+    std::vector<NSManagedObject*> fromChildren_;
     std::shared_ptr<Queue> privateQueue_;
     Queue* queue_;
     std::uint32_t nextOrder_ = 1;

@@ -1,6 +1,7 @@
 #include "platform/coredata/NSManagedObjectContext.h"
 
 #include "platform/coredata/ContextCore.h"
+#include "platform/coredata/ParentContextStore.h"
 #include "platform/coredata/PendingFetch.h"
 #include "platform/coredata/RecordAccess.h"
 #include "platform/coredata/RemoteMerge.h"
@@ -17,6 +18,19 @@ NSManagedObjectContext::~NSManagedObjectContext() = default;
 void NSManagedObjectContext::setPersistentStoreCoordinator(std::shared_ptr<NSPersistentStoreCoordinator> coordinator)
 {
     core_->coordinator = std::move(coordinator);
+}
+
+void NSManagedObjectContext::setParentContext(NSManagedObjectContext& parent)
+{
+    core_->coordinator = parent.core_->coordinator;
+    core_->parentContext = &parent;
+    core_->parentStore = std::make_shared<ParentContextStore>(parent.core_->sharedStore(), parent.core_->link());
+    core_->mergePolicy = NSMergePolicy::MergeByPropertyObjectTrump;
+}
+
+NSManagedObjectContext* NSManagedObjectContext::parentContext() const noexcept
+{
+    return core_->parentContext;
 }
 
 NSPersistentStoreCoordinator& NSManagedObjectContext::persistentStoreCoordinator() const

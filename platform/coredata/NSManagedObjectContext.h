@@ -82,6 +82,13 @@ public:
 
     // Where it reads and saves, set once before first use.
     void setPersistentStoreCoordinator(std::shared_ptr<NSPersistentStoreCoordinator> coordinator);
+    /// Makes this a child: it reads what the parent has, unsaved changes included, and saves into the parent, whose own
+    /// save writes to the store. Instead of a coordinator; on the parent's queue. The parent's changes are seen once
+    /// it has processed them; reading never waits for its queue, saving does, and fails when the parent is gone. The
+    /// merge policy becomes by property, this context's values before the parent's.
+    void setParentContext(NSManagedObjectContext& parent);
+    /// Null for a context on a store. Not to be followed once the parent may be gone.
+    NSManagedObjectContext* parentContext() const noexcept;
     /// Raises `NSInternalInconsistencyException` before one was set.
     NSPersistentStoreCoordinator& persistentStoreCoordinator() const;
     const NSManagedObjectModel& managedObjectModel() const;

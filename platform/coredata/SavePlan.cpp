@@ -271,6 +271,7 @@ void SavePlan::finish()
         }
     core_.tracker.clearPending();
     core_.pendingIndex.clear();
+    core_.publish();
     NSNotificationCenter::defaultCenter().postNotification(NSManagedObjectContextDidSaveNotification, &core_.context,
         std::any(ObjectChanges{inserted_, updated_, deleted_, {}}));
     for (NSManagedObject* record : deleted_) {
@@ -280,6 +281,7 @@ void SavePlan::finish()
     }
     for (NSManagedObject* record : vanished_)
         core_.noteGone(*record);
+    core_.shedFromChildren();
 }
 
 /// After a failure: records have the identifiers that they had, and what will-save observers inserted is gone.

@@ -1,0 +1,68 @@
+#include "platform/coredata/ParentContextStore.h"
+
+#include "platform/coredata/OverlaidFetch.h"
+#include "platform/coredata/ParentTransaction.h"
+#include "platform/coredata/StoreFailure.h"
+
+namespace tarn {
+
+bool ParentContextStore::fetch(const StoreFetch& fetch, std::vector<StoreRow>& rows, NSError* error)
+{
+    const auto snapshot = parent_->snapshot();
+    if (snapshot->isEmpty())
+        return base_.fetch(fetch, rows, error);
+    return reportingFailure(error, [&] {
+        for (StoreRow& row : OverlaidFetch(base_, *snapshot, fetch).rows())
+            rows.push_back(std::move(row));
+    });
+}
+
+bool ParentContextStore::count(const StoreFetch& fetch, std::size_t& count, NSError* error)
+{
+    const auto snapshot = parent_->snapshot();
+    if (snapshot->isEmpty())
+        return base_.count(fetch, count, error);
+    StoreFetch keysOnly = fetch;
+    keysOnly.contents = RowContents::Keys;
+    keysOnly.sortDescriptors = {};
+    return reportingFailure(error, [&] { count = OverlaidFetch(base_, *snapshot, keysOnly).rows().size(); });
+}
+
+bool ParentContextStore::rowsForKeys(const NSEntityDescription& entity, std::span<const std::int64_t> keys,
+    RowContents contents, std::vector<StoreRow>& rows, NSError* error)
+{
+    const auto snapshot = parent_->snapshot();
+    if (snapshot->isEmpty())
+        return base_.rowsForKeys(entity, keys, contents, rows, error);
+    return reportingFailure(error, [&] {
+        for (StoreRow& row : OverlaidRows(base_, *snapshot).readRows(entity, keys, contents))
+            rows.push_back(std::move(row));
+    });
+}
+
+bool ParentContextStore::relatedKeys(
+    const NSRelationshipDescription& relationship, std::int64_t key, std::vector<RelatedKey>& related, NSError* error)
+{
+    const auto snapshot = parent_->snapshot();
+    if (snapshot->isEmpty())
+        return base_.relatedKeys(relationship, key, related, error);
+    return reportingFailure(
+        error, [&] { related = OverlaidRows(base_, *snapshot).readRelatedKeys(relationship, key); });
+}
+
+bool ParentContextStore::countRelated(
+    const NSRelationshipDescription& relationship, std::int64_t key, std::size_t& count, NSError* error)
+{
+    const auto snapshot = parent_->snapshot();
+    if (snapshot->isEmpty())
+        return base_.countRelated(relationship, key, count, error);
+    return reportingFailure(
+        error, [&] { count = OverlaidRows(base_, *snapshot).readRelatedKeys(relationship, key).size(); });
+}
+
+std::unique_ptr<StoreTransaction> ParentContextStore::beginTransaction(NSError*)
+{
+    return std::make_unique<ParentTransaction>(*this, parent_);
+}
+
+} // namespace tarn

@@ -1,0 +1,52 @@
+#include "platform/coredata/ParentLink.h"
+
+#include "platform/coredata/ContextCore.h"
+#include "platform/foundation/NSException.h"
+
+namespace tarn {
+
+ParentLink::ParentLink(ContextCore& core, std::shared_ptr<Queue> queue) : queue_(std::move(queue)), core_(&core)
+{
+    publish();
+}
+
+std::shared_ptr<const PendingSnapshot> ParentLink::snapshot() const
+{
+    const std::lock_guard lock(mutex_);
+    return snapshot_;
+}
+
+void ParentLink::publish()
+{
+    const auto previous = snapshot();
+    auto next = PendingSnapshot::ofContext(*core_, previous.get());
+    const std::lock_guard lock(mutex_);
+    snapshot_ = std::move(next);
+}
+
+bool ParentLink::perform(const std::function<void(ContextCore&)>& work, NSError* error) const
+{
+    bool isThere = true;
+    const auto run = [&] {
+        isThere = core_ != nullptr;
+        if (isThere)
+            work(*core_);
+    };
+    try {
+        queue_->sync(run);
+    } catch (const NSException& exception) {
+        // The queue is gone, or the work raised: either way nothing of it counts.
+        assignError(error, NSError(TarnStoreErrorDomain, StoreErrorGeneric, exception.reason()));
+        return false;
+    }
+    if (!isThere)
+        assignError(error, NSError(TarnStoreErrorDomain, StoreErrorGeneric, "The parent context is gone"));
+    return isThere;
+}
+
+void ParentLink::close()
+{
+    core_ = nullptr;
+}
+
+} // namespace tarn

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "platform/coredata/NSPersistentStore.h"
+#include "platform/coredata/ParentLink.h"
+
+#include <vector>
+
+namespace tarn {
+
+/// The save of a child context: gathers what is written, and makes it unsaved changes of the parent at the commit.
+class ParentTransaction final : public StoreTransaction {
+public:
+    ParentTransaction(NSPersistentStore& store, std::shared_ptr<ParentLink> parent)
+        : store_(store), parent_(std::move(parent))
+    { }
+
+    bool insertRow(const StoreRow& row, NSError* error) override;
+    RowWriteResult updateRow(const StoreRow& row, PropertyMask changed, NSError* error) override;
+    RowWriteResult deleteRow(
+        const NSEntityDescription& entity, std::int64_t key, std::int64_t version, NSError* error) override;
+    bool changeJoins(std::span<const JoinChange> changes, NSError* error) override;
+    bool commit(NSError* error) override;
+
+private:
+    struct Update {
+        StoreRow row;
+        PropertyMask changed = 0;
+    };
+    struct Deletion {
+        const NSEntityDescription* entity = nullptr;
+        std::int64_t key = 0;
+    };
+    /// The row as it is now; Gone or Failed when there is none.
+    RowWriteResult readVersion(
+        const NSEntityDescription& entity, std::int64_t key, std::int64_t& version, NSError* error);
+    void apply(ContextCore& parent) const;
+    static void insert(ContextCore& parent, const StoreRow& row);
+    static void update(ContextCore& parent, const StoreRow& row, PropertyMask changed);
+    static void relate(ContextCore& parent, NSManagedObject& record, const StoreRow& row, PropertyMask changed);
+    static void join(ContextCore& parent, const JoinChange& change);
+    static void remove(ContextCore& parent, const Deletion& deletion);
+
+    NSPersistentStore& store_;
+    std::shared_ptr<ParentLink> parent_;
+    std::vector<StoreRow> insertions_;
+    std::vector<Update> updates_;
+    std::vector<JoinChange> joins_;
+    std::vector<Deletion> deletions_;
+};
+
+} // namespace tarn
