@@ -79,6 +79,41 @@ TEST_P(Differential, FetchesWithPendingChangesMeanWhatJudgingEveryRecordMeans)
     }
 }
 
+TEST_P(Differential, FetchesOfAChildMeanWhatJudgingEveryRecordMeans)
+{
+    // What parent and child have not saved lies over the store in two layers.
+    for (unsigned seed = 201; seed <= 210; ++seed) {
+        restart();
+        for (const std::string_view entity : {"Item", "Book", "Shelf", "Chapter", "Cover"})
+            for (NSManagedObject* record : all(entity))
+                context_->deleteObject(*record);
+        save();
+        RandomLibrary library(*context_, seed);
+        library.populate(30);
+        save();
+        for (int state = 0; state < 3; ++state) {
+            library.change(8);
+            context_->processPendingChanges();
+            auto child = std::make_unique<NSManagedObjectContext>(NSManagedObjectContext::ConcurrencyType::MainQueue);
+            child->setParentContext(*context_);
+            std::swap(context_, child);
+            library.setContext(*context_);
+            for (int layer = 0; layer < 2; ++layer) {
+                for (int query = 0; query < 25 && !HasFatalFailure(); ++query)
+                    expectAgreement(randomRequest(library), seed);
+                library.change(6);
+            }
+            save();
+            std::swap(context_, child);
+            library.setContext(*context_);
+            for (int query = 0; query < 25 && !HasFatalFailure(); ++query)
+                expectAgreement(randomRequest(library), seed);
+            if (HasFatalFailure())
+                return;
+        }
+    }
+}
+
 TEST_P(Differential, WhatIsSavedIsWhatWasThere)
 {
     for (unsigned seed = 100; seed < 110; ++seed) {
