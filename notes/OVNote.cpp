@@ -8,6 +8,7 @@
 #include "platform/foundation/NSUUID.h"
 
 #include <algorithm>
+#include <unordered_set>
 
 namespace tarn {
 
@@ -208,9 +209,10 @@ using LinkEnd = OVNote* (OVNoteBackLink::*)() const;
 std::vector<OVNote*> notesAtEnd(const std::vector<OVNoteBackLink*>& links, LinkEnd end)
 {
     std::vector<OVNote*> notes;
+    std::unordered_set<const OVNote*> known;
     for (const OVNoteBackLink* link : links) {
         OVNote* note = (link->*end)();
-        if (note && std::find(notes.begin(), notes.end(), note) == notes.end())
+        if (note && known.insert(note).second)
             notes.push_back(note);
     }
     return notes;
