@@ -13,6 +13,7 @@ JOBS ?= $(shell nproc)
 PREFIX ?= /usr/local
 NOTES ?=
 FUZZ_SECONDS ?= 60
+export TARN_CORPUS ?=
 
 # A compiler cache is used where there is one. Without ccache the build is the same, only slower the second time.
 ifneq ($(shell command -v ccache),)
@@ -53,7 +54,7 @@ tidy: ## clang-tidy over all sources
 	cmake --build --preset tidy --target generated/model/_OVNote.h
 	scripts/tidy.py --jobs $(JOBS) build/tidy
 
-bench: ## build the benchmarks, optimised, and run them
+bench: ## build the benchmarks, optimised, and run them (TARN_CORPUS=folder of Markdown, for the search)
 	@scripts/install-dependencies.sh build bench
 	scripts/configure.sh bench
 	cmake --build --preset bench
