@@ -1,0 +1,28 @@
+#include "model/OVChange.h"
+#include "model/OVChangeItem.h"
+#include "model/RecordFetch.h"
+#include "sync/ChangeLogFetchInternal.h"
+
+namespace tarn {
+
+std::optional<OVChange*> fetchLatestChange(NSManagedObjectContext& context)
+{
+    NSFetchRequest request(OVChange::entityInManagedObjectContext(context));
+    request.sortDescriptors = {{"order", false}};
+    request.fetchLimit = 1;
+    const auto changes = fetchRecords<OVChange>(request, context);
+    if (!changes)
+        return std::nullopt;
+    return changes->empty() ? nullptr : changes->front();
+}
+
+std::optional<std::vector<OVChangeItem*>> fetchChangeItems(
+    const std::optional<NSPredicate>& predicate, NSManagedObjectContext& context)
+{
+    NSFetchRequest request(OVChangeItem::entityInManagedObjectContext(context));
+    request.predicate = predicate;
+    request.propertiesToFetch = {"itemDeleted", "itemEntity", "uniqueIdentifier"};
+    return fetchRecords<OVChangeItem>(request, context);
+}
+
+} // namespace tarn
