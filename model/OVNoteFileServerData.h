@@ -1,15 +1,28 @@
 #pragma once
 
 #include "model/_OVNoteFileServerData.h"
+#include "platform/cloudkit/CKRecord.h"
+
+#include <optional>
 
 namespace tarn {
 
-/// The server's bookkeeping of one attachment.
+/// The server's bookkeeping of one attachment: the system fields of its last known record there.
 ///
 /// Confined to its context's queue.
 class OVNoteFileServerData : public _OVNoteFileServerData {
 public:
     using _OVNoteFileServerData::_OVNoteFileServerData;
+
+    // All in sync/OVNoteFileServerData.cpp
+    /// Deletes the bookkeeping of every attachment; they stay, and look as if they had never been uploaded. The caller
+    /// saves. A failed fetch is logged and deletes nothing.
+    static void deleteAllObjectsInManagedObjectContext(NSManagedObjectContext& context);
+
+    /// A new record each time, with system fields alone; none when there are none or they cannot be decoded.
+    std::optional<CKRecord> ckRecord() const;
+    /// Keeps the system fields and no values.
+    void setCkRecord(const std::optional<CKRecord>& record);
 };
 
 } // namespace tarn

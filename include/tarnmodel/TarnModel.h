@@ -26,6 +26,12 @@
 #include "platform/coredata/NSPersistentStoreCoordinator.h"
 #include "platform/predicate/NSPredicate.h"
 
+// What the server keeps of a record.
+#include "platform/cloudkit/CKRecord.h"
+#include "platform/cloudkit/CKRecordZoneID.h"
+#include "platform/cloudkit/CKServerChangeToken.h"
+#include "platform/cloudkit/NSKeyedArchiver.h"
+
 // The Markdown parser.
 #include "corvel/CVKAST.h"
 #include "corvel/CVKHashtag.h"
@@ -88,3 +94,6 @@
 // Devices and their clocks.
 #include "sync/OVDeviceUUID.h"
 #include "sync/TolVectorClock.h"
+
+// Watching records.
+#include "store/OVManagedObjectObserver.h"

@@ -1,7 +1,7 @@
-# Runs the README's example in an empty folder: it prints what the README says.
-file(READ "${CMAKE_CURRENT_LIST_DIR}/../README.md" text)
+# Runs a document's example in an empty folder: it prints what the document says.
+file(READ "${document}" text)
 if(NOT text MATCHES "It prints `([^`]+)`")
-  message(FATAL_ERROR "README.md does not say what its example prints")
+  message(FATAL_ERROR "${document} does not say what its example prints")
 endif()
 set(expected "${CMAKE_MATCH_1}")
 
@@ -10,5 +10,5 @@ file(MAKE_DIRECTORY "${folder}")
 execute_process(COMMAND "${program}" WORKING_DIRECTORY "${folder}"
   RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE errors)
 if(NOT result EQUAL 0 OR NOT output STREQUAL "${expected}\n")
-  message(FATAL_ERROR "The example ended with ${result} and printed:\n${output}${errors}\nThe README says:\n${expected}")
+  message(FATAL_ERROR "The example ended with ${result} and printed:\n${output}${errors}\nThe document says:\n${expected}")
 endif()

@@ -1,0 +1,24 @@
+#include "platform/cloudkit/CKServerChangeToken.h"
+
+namespace tarn {
+namespace {
+
+constexpr std::string_view kClassName = "CKServerChangeToken";
+
+} // namespace
+
+std::optional<NSData> CKServerChangeToken::archivedData() const
+{
+    NSKeyedArchiver archiver(kClassName);
+    archiver.encode("data", data_);
+    return archiver.finishEncoding();
+}
+
+std::optional<CKServerChangeToken> CKServerChangeToken::unarchivedFromData(std::span<const std::byte> bytes)
+{
+    const auto unarchiver = NSKeyedUnarchiver::unarchiverForReadingFromData(bytes, kClassName);
+    auto data = unarchiver ? unarchiver->decodeData("data") : std::nullopt;
+    return data ? std::optional(CKServerChangeToken(std::move(*data))) : std::nullopt;
+}
+
+} // namespace tarn

@@ -1,0 +1,124 @@
+#include "store/OVManagedObjectObserver.h"
+
+#include "platform/coredata/NSManagedObjectContext.h"
+#include "platform/coredata/NSManagedObjectSet.h"
+
+#include <algorithm>
+
+namespace tarn {
+namespace {
+
+using KeySet = OVManagedObjectObserver::KeySet;
+
+KeySet changedKeysOf(const NSManagedObject& record)
+{
+    KeySet keys = record.changedKeys();
+    keys.merge(record.changedKeysForCurrentEvent());
+    return keys;
+}
+
+bool shareAName(const KeySet& left, const KeySet& right)
+{
+    return std::any_of(left.begin(), left.end(), [&right](const std::string& key) { return right.contains(key); });
+}
+
+bool holds(const std::vector<NSManagedObject*>& records, const NSManagedObject* record)
+{
+    return std::find(records.begin(), records.end(), record) != records.end();
+}
+
+} // namespace
+
+std::unique_ptr<OVManagedObjectObserver> OVManagedObjectObserver::observerForManagedObject(NSManagedObject& object,
+    std::optional<KeySet> keyPaths, const std::map<std::string, KeySet>& relationships, Block block)
+{
+    std::unique_ptr<OVManagedObjectObserver> observer(
+        new OVManagedObjectObserver(object, std::move(keyPaths), std::move(block)));
+    for (const auto& [name, keys] : relationships)
+        observer->observeObjectsInRelationshipName(name, keys);
+    observer->startObserving();
+    return observer;
+}
+
+OVManagedObjectObserver::OVManagedObjectObserver(NSManagedObject& object, std::optional<KeySet> keyPaths, Block block)
+    : object_(&object), keyPathToObserve_(std::move(keyPaths)), block_(std::move(block))
+{
+    // A record owns the blocks that observe its keys, and this block owns the lifeline: it ends when the record does.
+    const auto lifeline = std::make_shared<char>();
+    lifeline_ = lifeline;
+    lifelineHolder_ = object.addObserver(object.entity().property(0).name(), [lifeline](NSManagedObject&, auto) {});
+}
+
+OVManagedObjectObserver::~OVManagedObjectObserver() = default;
+
+void OVManagedObjectObserver::observeObjectsInRelationshipName(std::string_view name, const KeySet& keyPaths)
+{
+    if (observedObject() && object_->entity().relationshipNamed(name))
+        relationships_.insert_or_assign(std::string(name), keyPaths);
+}
+
+void OVManagedObjectObserver::startObserving()
+{
+    if (!observedObject() || subscription_.isActive())
+        return;
+    subscription_ = NSNotificationCenter::defaultCenter().addObserver(
+        NSManagedObjectContextObjectsDidChangeNotification, &object_->managedObjectContext(),
+        [this](const NSNotification& notification) { managedObjectContextObjectsDidChange(notification); });
+}
+
+void OVManagedObjectObserver::stopObserving()
+{
+    subscription_.cancel();
+}
+
+void OVManagedObjectObserver::managedObjectContextObjectsDidChange(const NSNotification& notification)
+{
+    // Another context may have come to the address of the one that is gone.
+    const auto* changes = notification.userInfoAs<ObjectChanges>();
+    if (!observedObject() || !changes)
+        return;
+    const Block block = block_; // which may destroy this observer
+    if (holds(changes->refreshed, object_)) {
+        block(std::nullopt, {}, true);
+        return;
+    }
+    const auto changedKeys = countingKeysOfObject(*changes);
+    const auto changedRelated = countingRelatedObjects(*changes);
+    if (changedKeys || !changedRelated.empty())
+        block(changedKeys, changedRelated, false);
+}
+
+std::optional<KeySet> OVManagedObjectObserver::countingKeysOfObject(const ObjectChanges& changes) const
+{
+    if (!holds(changes.updated, object_))
+        return std::nullopt;
+    KeySet changedKeys = changedKeysOf(*object_);
+    if (keyPathToObserve_ && !shareAName(*keyPathToObserve_, changedKeys))
+        return std::nullopt;
+    return changedKeys;
+}
+
+std::vector<NSManagedObject*> OVManagedObjectObserver::countingRelatedObjects(const ObjectChanges& changes) const
+{
+    std::vector<NSManagedObject*> related;
+    for (const auto& [name, keys] : relationships_) {
+        const auto& destination = object_->entity().relationshipNamed(name)->destinationEntity();
+        for (NSManagedObject* other : changes.updated) {
+            if (other->entity().isKindOfEntity(destination) && shareAName(keys, changedKeysOf(*other))
+                && isRelated(*other, name))
+                related.push_back(other);
+        }
+    }
+    return related;
+}
+
+bool OVManagedObjectObserver::isRelated(const NSManagedObject& other, const std::string& relationshipName) const
+{
+    if (object_->isDeleted())
+        return false;
+    const NSRelationshipDescription& relationship = *object_->entity().relationshipNamed(relationshipName);
+    return relationship.isToMany() ? object_->toManyAt(relationship.index()).contains(other)
+                                   : object_->toOneAt(relationship.index()) == &other;
+}
+
+} // namespace tarn
