@@ -12,8 +12,8 @@ namespace tarn {
 
 namespace {
 
-constexpr std::size_t kShortestPiece = 400;
-constexpr std::size_t kLongestPiece = 6000;
+constexpr std::size_t kShortestPiece = 1500;
+constexpr std::size_t kLongestPiece = 8000;
 constexpr std::size_t kOneWordIn = 15;
 
 /// A part of a file, and the language pool that its words may be replaced from.
@@ -38,7 +38,7 @@ void cut(const std::string& text, std::size_t language, std::vector<Piece>& piec
         if (end < text.size())
             end = std::min(text.find("\n#", end), text.find("\n\n", std::min(begin + kLongestPiece, text.size())));
         end = std::min(end, text.size());
-        if (end - begin >= kShortestPiece / 2)
+        if (end - begin >= kShortestPiece / 3)
             pieces.push_back({text.substr(begin, end - begin), language});
         begin = end;
     }

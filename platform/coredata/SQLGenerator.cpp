@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 
 namespace tarn {
 
@@ -123,7 +124,12 @@ GeneratedSelect SQLGenerator::rows(const StoreFetch& fetch, RowContents& content
 
 GeneratedSelect SQLGenerator::count(const StoreFetch& fetch) const
 {
-    return countSelect(fetch, std::nullopt);
+    const bool readsTexts = options_.rowsThatMayMatch && plan_.kind != SearchPlan::Kind::CheckCandidates;
+    if (!readsTexts)
+        return countSelect(fetch, std::nullopt);
+    // Texts lie in the order of keys; without a range SQLite walks whatever index is the smallest.
+    constexpr KeyRange kAll{std::numeric_limits<std::int64_t>::min(), std::numeric_limits<std::int64_t>::max()};
+    return countSelect(fetch, kAll);
 }
 
 GeneratedSelect SQLGenerator::countInRange(const StoreFetch& fetch, KeyRange range) const

@@ -21,10 +21,10 @@ StoreMetadata entityHashes(const NSManagedObjectModel& model)
 
 int foldingVersionOf(const StoreMetadata& metadata)
 {
-    const auto found = metadata.find(StoreMetadata::key_type(StoreFoldingVersionKey));
     int version = 0;
-    if (found != metadata.end())
-        std::from_chars(found->second.data(), found->second.data() + found->second.size(), version);
+    for (const auto& [key, value] : metadata)
+        if (key == StoreFoldingVersionKey)
+            std::from_chars(value.data(), value.data() + value.size(), version);
     return version;
 }
 
@@ -32,7 +32,7 @@ StoreMetadata newStoreMetadata(const NSManagedObjectModel& model)
 {
     StoreMetadata metadata = entityHashes(model);
     metadata[std::string(StoreUUIDKey)] = newUUIDString();
-    metadata[std::string(StoreFormatVersionKey)] = currentStoreFormatVersion;
+    metadata[std::string(StoreFormatVersionKey)] = std::string(currentStoreFormatVersion);
     metadata[std::string(StoreModelVersionKey)] = model.versionIdentifier();
     metadata[std::string(StoreFoldingVersionKey)] = std::to_string(foldingVersion());
     return metadata;

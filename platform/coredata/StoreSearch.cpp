@@ -11,8 +11,9 @@ namespace tarn {
 
 namespace {
 
-/// So many are checked and sorted faster than an order is walked.
+/// So many are checked and sorted faster than an order is walked; in a large store a hundredth of the rows.
 constexpr std::size_t kFewCandidates = 500;
+constexpr std::size_t kSmallShare = 100;
 /// Above this share of the rows a walk by key is faster than looking candidates up.
 constexpr std::size_t kLargeShare = 5;
 
@@ -82,7 +83,7 @@ bool hasIndexedOrder(const StoreFetch& fetch)
 SearchPlan::Kind chosenKind(const SearchPlan& plan, const StoreFetch& fetch, FetchPurpose purpose)
 {
     const std::size_t count = plan.candidates->size();
-    if (count <= kFewCandidates)
+    if (count <= std::max(kFewCandidates, plan.rowCount / kSmallShare))
         return SearchPlan::Kind::CheckCandidates;
     if (purpose == FetchPurpose::Rows && fetch.limit > 0 && hasIndexedOrder(fetch))
         return SearchPlan::Kind::WalkOrder;

@@ -158,8 +158,8 @@ std::string signatureOfNothing()
 std::string signatureOfText(std::string_view text)
 {
     const std::vector<std::uint32_t> hashes = distinctHashes(fold(text));
-    // Two and a half bits for each hash, in whole bytes.
-    const std::size_t byteCount = (hashes.size() * 5 + 15) / 16;
+    // Two bits for each hash, in whole bytes.
+    const std::size_t byteCount = (hashes.size() + 3) / 4;
     const std::uint64_t bitCount = std::uint64_t{byteCount} * 8;
     std::string signature;
     signature.reserve(signatureHeaderSize + byteCount);

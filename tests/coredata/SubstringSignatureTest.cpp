@@ -53,14 +53,14 @@ TEST(SubstringSignature, HasItsDocumentedBytes)
     const auto version = static_cast<unsigned>(foldingVersion());
     EXPECT_EQ(hex(signature.substr(0, 4)),
         fmt::format("01{:02x}{:02x}{:02x}", version & 0xFFU, (version >> 8U) & 0xFFU, (version >> 16U) & 0xFFU));
-    EXPECT_EQ(hex(signature.substr(4)), "82d860cc0314");
+    EXPECT_EQ(hex(signature.substr(4)), "4216ca1a28");
 }
 
-TEST(SubstringSignature, TakesTwoAndAHalfBitsForEachHashInWholeBytes)
+TEST(SubstringSignature, TakesTwoBitsForEachHashInWholeBytes)
 {
     EXPECT_EQ(signatureOfText("abc").size(), signatureHeaderSize + 1);
-    EXPECT_EQ(signatureOfText("abcde").size(), signatureHeaderSize + 1) << "three hashes";
-    EXPECT_EQ(signatureOfText("abcdef").size(), signatureHeaderSize + 2) << "four hashes";
+    EXPECT_EQ(signatureOfText("abcdef").size(), signatureHeaderSize + 1) << "four hashes";
+    EXPECT_EQ(signatureOfText("abcdefg").size(), signatureHeaderSize + 2) << "five hashes";
 }
 
 TEST(SubstringSignature, OfAShortTextIsTheHeaderAloneAndHasNoGrams)
