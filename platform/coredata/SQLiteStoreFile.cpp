@@ -9,7 +9,7 @@ namespace tarn {
 
 namespace {
 
-constexpr std::string_view kStoreMark = "SELECT count(*) FROM sqlite_schema WHERE name = 'store_metadata'";
+constexpr std::string_view kContents = "SELECT count(*), coalesce(sum(name = 'store_metadata'), 0) FROM sqlite_schema";
 
 /// Runs `work` between BEGIN and COMMIT; nothing of it stays when it throws.
 void inTransaction(SQLiteConnection& connection, const std::string& begin, const std::function<void()>& work)
@@ -40,10 +40,12 @@ void forEachShadow(const StoreSchema& schema, const ShadowVisitor& visit)
 
 StoreFileContents contentsOfStoreFile(SQLiteConnection& connection)
 {
-    if (connection.integerOf(kStoreMark) > 0)
+    // One statement: between two of them another process may have made the tables.
+    SQLiteStatement statement = connection.prepare(kContents);
+    statement.step();
+    if (statement.integer(1) > 0)
         return StoreFileContents::Store;
-    const bool isEmpty = connection.integerOf("SELECT count(*) FROM sqlite_schema") == 0;
-    return isEmpty ? StoreFileContents::Nothing : StoreFileContents::SomethingElse;
+    return statement.integer(0) == 0 ? StoreFileContents::Nothing : StoreFileContents::SomethingElse;
 }
 
 void createStoreTables(SQLiteConnection& connection, const StoreSchema& schema, const NSManagedObjectModel& model)
