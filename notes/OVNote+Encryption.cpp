@@ -5,6 +5,8 @@
 #include "model/RecordFetch.h"
 #include "platform/foundation/NSException.h"
 
+#include <algorithm>
+
 namespace tarn {
 
 std::optional<std::string> OVNote::text() const
@@ -48,6 +50,10 @@ bool OVNote::hasEncryption() const
 {
     if (encryptedValue())
         return true;
+    if (isInserted()) { // all its files are here; there is nothing to ask the store for
+        const auto files = filesSet().allObjects();
+        return std::any_of(files.begin(), files.end(), [](const OVNoteFile* file) { return file->encryptedValue(); });
+    }
     NSManagedObjectContext& context = managedObjectContext();
     NSFetchRequest request(OVNoteFile::entityInManagedObjectContext(context));
     request.predicate = NSPredicate::predicateWithFormat("note == %@ AND encrypted == YES", this);

@@ -4,6 +4,7 @@
 #include "benchmarks/support/Yardsticks.h"
 #include "model/ManagedObjectModel.h"
 #include "model/OVNote.h"
+#include "notes/OVNoteCacheLoan.h"
 #include "platform/coredata/NSManagedObjectContext.h"
 #include "platform/coredata/NSPersistentStoreCoordinator.h"
 #include "platform/foundation/NSUUID.h"
@@ -72,9 +73,14 @@ double import(const std::filesystem::path& file, const std::vector<std::string>&
     const auto begin = std::chrono::steady_clock::now();
     Store store(file);
     for (std::size_t first = 0; first < texts.size(); first += batchSize) {
+        OVNote::TagsCache tags;
+        OVNote::NotesCache notes;
         store.exclusively([&] {
-            for (std::size_t number = first; number < std::min(first + batchSize, texts.size()); ++number)
-                OVNote::noteWithText(texts[number], store.context);
+            for (std::size_t number = first; number < std::min(first + batchSize, texts.size()); ++number) {
+                OVNote& note = *OVNote::insertInManagedObjectContext(store.context);
+                const OVNoteCacheLoan loan(note, tags, notes);
+                note.updateNoteWithText(texts[number]);
+            }
         });
         store.context.reset();
     }

@@ -1,6 +1,7 @@
 #include "tools/tarn/Importer.h"
 
 #include "corvel/CVKAST.h"
+#include "notes/OVNoteCacheLoan.h"
 #include "tools/tarn/CommandFailure.h"
 #include "tools/tarn/ImportedText.h"
 
@@ -71,7 +72,11 @@ void Importer::importFile(const std::filesystem::path& path, const FileHandler& 
             ++result_.imported;
             return;
         }
-        OVNote& note = *OVNote::noteWithText(imported.text, session_->context());
+        OVNote& note = *OVNote::insertInManagedObjectContext(session_->context());
+        {
+            const OVNoteCacheLoan loan(note, tagsOfBatch_, notesOfBatch_);
+            note.updateNoteWithText(imported.text);
+        }
         const NoteDates dates = datesOf(file, imported);
         note.setCreationDate(dates.creation);
         note.setModificationDate(dates.modification);
@@ -89,6 +94,8 @@ void Importer::saveBatch()
     if (batch_.empty())
         return;
     session_->save();
+    tagsOfBatch_.clear();
+    notesOfBatch_.clear();
     session_->context().reset();
     result_.imported += batch_.size();
     batch_.clear();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/OVNote.h"
 #include "tools/tarn/MarkdownFiles.h"
 #include "tools/tarn/StoreSession.h"
 #include "tools/tarn/TextFile.h"
@@ -49,6 +50,9 @@ private:
     ImportResult result_;
     std::vector<std::filesystem::path> batch_; ///< files whose notes are not saved yet
     std::size_t batchBytes_ = 0;
+    // What the notes of a batch ask for again and again.
+    OVNote::TagsCache tagsOfBatch_;
+    OVNote::NotesCache notesOfBatch_;
 };
 
 } // namespace tarn
