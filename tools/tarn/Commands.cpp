@@ -13,6 +13,8 @@ void addCommands(CommandLine& commandLine)
     addMergeCommand(commandLine);
     addListCommand(commandLine);
     addSearchCommand(commandLine);
+    addPredicateCommand(commandLine);
+    addHighlightCommand(commandLine);
     addTagsCommand(commandLine);
     addTagCommands(commandLine);
     addLinkCommands(commandLine);

@@ -19,6 +19,8 @@ void addDuplicateCommand(CommandLine& commandLine);
 void addMergeCommand(CommandLine& commandLine);
 void addListCommand(CommandLine& commandLine);
 void addSearchCommand(CommandLine& commandLine);
+void addPredicateCommand(CommandLine& commandLine);
+void addHighlightCommand(CommandLine& commandLine);
 void addTagsCommand(CommandLine& commandLine);
 /// tag add, remove, rename, delete, pin, unpin, prune
 void addTagCommands(CommandLine& commandLine);

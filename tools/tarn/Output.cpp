@@ -2,6 +2,7 @@
 
 #include "platform/foundation/Environment.h"
 #include "tools/tarn/CommandFailure.h"
+#include "tools/tarn/DisplayText.h"
 
 #include <array>
 #include <cerrno>
@@ -71,6 +72,11 @@ void Output::flush()
     std::string pending;
     pending.swap(buffer_);
     writeAll(pending);
+}
+
+std::string Output::shown(std::string_view text) const
+{
+    return terminal_ ? displayText(text) : std::string(text);
 }
 
 void Output::writeAll(std::string_view text)

@@ -32,6 +32,8 @@ public:
     std::optional<std::size_t> width() const noexcept { return width_; }
     /// The text in colour where colours are wanted.
     std::string styled(std::string_view text, TextStyle style) const;
+    /// The text as it stands for programs that read it, made safe for a terminal.
+    std::string shown(std::string_view text) const;
 
 private:
     void writeAll(std::string_view text);

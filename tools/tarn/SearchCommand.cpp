@@ -1,10 +1,13 @@
+#include "platform/foundation/Folding.h"
+#include "search/HighlightTerms.h"
+#include "search/OVNoteSearchManager.h"
 #include "tools/tarn/CommandLine.h"
 #include "tools/tarn/Commands.h"
 #include "tools/tarn/MatchingLine.h"
 #include "tools/tarn/NoteFilter.h"
 #include "tools/tarn/NoteJSON.h"
 #include "tools/tarn/NoteList.h"
-#include "tools/tarn/SearchQuery.h"
+#include "tools/tarn/QueryArgument.h"
 #include "tools/tarn/StoreSession.h"
 
 #include <CLI/Validators.hpp>
@@ -19,11 +22,19 @@ namespace {
 constexpr std::size_t kWidthWithoutTerminal = 200;
 
 struct SearchOptions {
-    std::vector<std::string> words;
+    QueryArgument query;
     std::size_t limit = 0;
     bool countOnly = false;
     bool explain = false;
     bool all = false;
+};
+
+/// What a search shows of itself in the notes that it found.
+struct Highlight {
+    std::string pattern;
+    std::string editorTerm;
+    std::vector<std::string> foldedTerms;
+    std::optional<RegularExpression> expression; ///< none for an empty pattern, which matches nothing here
 };
 
 /// A search that was carried out, and how.
@@ -36,12 +47,15 @@ struct SearchResult {
     double fetchMilliseconds = 0;
 };
 
-std::string joined(const std::vector<std::string>& words)
+Highlight highlightOf(const std::string& query)
 {
-    std::string text;
-    for (const std::string& word : words)
-        text += (text.empty() ? "" : " ") + word;
-    return text;
+    Highlight highlight{OVNoteSearchManager::likeOrPatternForSearchString(query),
+        OVNoteSearchManager::searchStringForNoteEditor(query), {}, std::nullopt};
+    for (const HighlightTerm& term : highlightTermsOfSearchString(query).terms)
+        highlight.foldedTerms.push_back(fold(term.text));
+    if (!highlight.pattern.empty())
+        highlight.expression = OVNoteSearchManager::likeOrRegexForSearchString(query);
+    return highlight;
 }
 
 double millisecondsSince(std::chrono::steady_clock::time_point start)
@@ -60,10 +74,10 @@ std::string planOf(StoreSession& session, const NSPredicate& predicate, std::siz
     return session.store().explain(fetch);
 }
 
-SearchResult searchNotes(StoreSession& session, const SearchQuery& query, const SearchOptions& options)
+SearchResult searchNotes(StoreSession& session, const std::optional<NSPredicate>& wanted, const SearchOptions& options)
 {
     SearchResult result;
-    const auto predicate = conjunction(query.predicate, options.all ? std::nullopt : predicateOfFilter("active"))
+    const auto predicate = conjunction(wanted, options.all ? std::nullopt : predicateOfFilter("active"))
                                .value_or(NSPredicate::predicateWithValue(true));
     result.predicate = predicate.predicateFormat();
     const auto start = std::chrono::steady_clock::now();
@@ -79,30 +93,37 @@ SearchResult searchNotes(StoreSession& session, const SearchQuery& query, const 
     return result;
 }
 
-void writeHit(Output& output, const OVNote& note, const SearchQuery& query)
+void writeHit(Output& output, const OVNote& note, const Highlight& highlight)
 {
     writeNoteLine(output, note);
-    if (query.words.empty() || note.encryptedValue())
+    if (highlight.foldedTerms.empty() || note.encryptedValue())
         return;
     const std::size_t width = output.width().value_or(kWidthWithoutTerminal);
-    const auto line = firstMatchingLine(note.text().value_or(""), query.words, width > 14 ? width - 4 : 10);
-    if (line)
-        output.writeLine("    " + line->before + output.styled(line->match, TextStyle::Match) + line->after);
+    const std::vector<LinePiece> line = firstMatchingLine(
+        note.text().value_or(""), highlight.foldedTerms, highlight.expression, width > 14 ? width - 4 : 10);
+    if (line.empty())
+        return;
+    std::string text = "    ";
+    for (const LinePiece& piece : line)
+        text += piece.isMatch ? output.styled(piece.text, TextStyle::Match) : piece.text;
+    output.writeLine(text);
 }
 
 void writeExplanation(Output& output, const SearchResult& result)
 {
-    output.writeLine(output.styled("predicate  ", TextStyle::Faint) + result.predicate);
+    output.writeLine(output.styled("predicate  ", TextStyle::Faint) + output.shown(result.predicate));
     output.writeLine(output.styled("plan       ", TextStyle::Faint) + result.plan);
     output.writeLine(output.styled("times      ", TextStyle::Faint) + "compile "
         + std::to_string(result.compileMilliseconds) + " ms, fetch " + std::to_string(result.fetchMilliseconds)
         + " ms");
 }
 
-JSON jsonOfExtras(const SearchResult& result, bool explain)
+JSON jsonOfExtras(const SearchResult& result, const Highlight& highlight, bool explain)
 {
     JSON extras;
     extras["predicate"] = result.predicate;
+    extras["highlight"] = highlight.pattern;
+    extras["editorTerm"] = highlight.editorTerm;
     if (explain) {
         extras["plan"] = result.plan;
         extras["times"]
@@ -112,11 +133,11 @@ JSON jsonOfExtras(const SearchResult& result, bool explain)
 }
 
 void writeResult(
-    const Invocation& invocation, const SearchResult& result, const SearchQuery& query, const SearchOptions& options)
+    const Invocation& invocation, const SearchResult& result, const Highlight& highlight, const SearchOptions& options)
 {
     Output& output = invocation.output;
     if (invocation.json) {
-        writeNoteList(output, result.count, result.notes, jsonOfExtras(result, options.explain));
+        writeNoteList(output, result.count, result.notes, jsonOfExtras(result, highlight, options.explain));
         return;
     }
     if (options.explain)
@@ -124,18 +145,18 @@ void writeResult(
     if (options.countOnly)
         output.writeLine(std::to_string(result.count));
     for (const OVNote* note : result.notes)
-        writeHit(output, *note, query);
+        writeHit(output, *note, highlight);
 }
 
 ExitCode search(const Invocation& invocation, const SearchOptions& options)
 {
     const auto start = std::chrono::steady_clock::now();
-    const SearchQuery query = searchQueryOfText(joined(options.words));
+    const auto wanted = options.query.predicate();
     const double compileMilliseconds = millisecondsSince(start);
     StoreSession session(invocation, StoreSession::Access::Read);
-    SearchResult result = searchNotes(session, query, options);
+    SearchResult result = searchNotes(session, wanted, options);
     result.compileMilliseconds = compileMilliseconds;
-    writeResult(invocation, result, query, options);
+    writeResult(invocation, result, highlightOf(options.query.text()), options);
     if (result.count > 0)
         return ExitCode::Done;
     if (session.exists() && !options.countOnly)
@@ -151,13 +172,24 @@ void addSearchCommand(CommandLine& commandLine)
     const auto options = std::make_shared<SearchOptions>();
     CLI::App& command = commandLine.addCommand(
         {.name = "search",
-            .summary = "Find notes by their words and tags",
+            .summary = "Find notes by words, phrases, tags, dates and states",
             .explanation
-            = "Every word must be in the text (of an encrypted note: in the title), in any case, with or without\n"
-              "accents. #tag asks for a tag, '#tag of words#' for one with blanks; -word and -#tag for notes\n"
-              "without. A query that begins with \"-\" goes after \"--\". Trashed and archived notes are left out.\n"
-              "--json prints count, notes and predicate; highlight and editorTerm are not told yet.",
-            .examples = {"tarn search garden", "tarn search '#home/kitchen tiles -blue'", "tarn search -- -#work"}},
+            = "Words of the text (of an encrypted note: of the title), in any case, with or without accents:\n"
+              "  apple pie          both words            \"big red\"          this phrase; \"apple\" as a whole word\n"
+              "  apple or pear      either                -apple             not this word; also -\"...\", -#tag, "
+              "-@todo\n"
+              "  #home #two words#  notes with these tags !#home  #*/ideas   without its subtags; anywhere below a "
+              "tag\n"
+              "  @todo @done @task  by to-dos             @tagged @untagged @untitled @empty @pinned @locked "
+              "@readonly\n"
+              "  @images @files @attachments @code        @wikilinks @backlinks\n"
+              "  @today @yesterday @last7days             by the date of the last change; @ctoday @created7days made\n"
+              "  @date(2021-03) @date(>2020) @cdate(...)  a day, a month or a year; after it, before it\n"
+              "  @title apple       in titles only        @ocr apple         in attachments only (with --ocr)\n"
+              "Words that stand together bind tighter than \"or\". The terms are known in six languages. A query that\n"
+              "begins with \"-\" goes after \"--\". Trashed and archived notes are left out.",
+            .examples = {"tarn search '@todo #home -apple'", "tarn search '\"big red\" or @date(2021-03)'",
+                "tarn search -- -#work"}},
         [options](const Invocation& invocation) { return search(invocation, *options); });
     command.add_option("--limit", options->limit, "At most so many notes")
         ->check(CLI::PositiveNumber)
@@ -165,8 +197,8 @@ void addSearchCommand(CommandLine& commandLine)
     command.add_flag("--count", options->countOnly, "Print how many notes there are, and none of them");
     command.add_flag("--explain", options->explain, "Tell how the store finds them: predicate, plan and times");
     command.add_flag("--all", options->all, "Look into archive and trash as well");
-    CommandLine::addArguments(command, "QUERY", options->words, "What to find; several words are one query")
-        ->required();
+    options->query.addOCRFlagTo(command);
+    options->query.addTo(command);
 }
 
 } // namespace tarn

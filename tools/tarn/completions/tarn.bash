@@ -2,7 +2,7 @@
 
 _tarn()
 {
-    local commands="import new show append prepend replace edit duplicate merge list search tags tag links backlinks
+    local commands="import new show append prepend replace edit duplicate merge list search predicate highlight tags tag links backlinks
         unresolved orphans url conflicts conflict trash restore archive unarchive pin unpin readonly editable delete stats
         doctor parse"
     local global="--store --json --help --version"
@@ -31,7 +31,8 @@ _tarn()
         "") options="$commands $global" ;;
         import) options="--tag --dry-run" ;;
         list) options="--filter --tag --limit" ;;
-        search) options="--limit --count --explain --all" ;;
+        search) options="--limit --count --explain --all --ocr" ;;
+        predicate) options="--ocr" ;;
         tags) options="--all" ;;
         tag) options="--top" ;;
         url) options="--title --new-window --header --tag" ;;

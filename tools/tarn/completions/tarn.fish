@@ -1,6 +1,6 @@
 # Completion of tarn for fish.
 
-set -l commands import new show append prepend replace edit duplicate merge list search tags tag links backlinks unresolved orphans url conflicts conflict trash restore archive unarchive pin unpin readonly editable delete stats doctor parse
+set -l commands import new show append prepend replace edit duplicate merge list search predicate highlight tags tag links backlinks unresolved orphans url conflicts conflict trash restore archive unarchive pin unpin readonly editable delete stats doctor parse
 
 complete -c tarn -f
 complete -c tarn -l store -r -a '(__fish_complete_directories)' -d 'The folder of the store'
@@ -18,7 +18,9 @@ complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a edit -d 'Open
 complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a duplicate -d 'Make a copy of a note'
 complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a merge -d 'Make one note of several'
 complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a list -d 'List notes'
-complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a search -d 'Find notes by their words and tags'
+complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a search -d 'Find notes by words, phrases, tags, dates and states'
+complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a predicate -d 'Print the predicate that a search compiles to'
+complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a highlight -d 'Print what a search highlights in a note'
 complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a tags -d 'Show the tree of tags'
 complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a tag -d 'Add, remove, rename, delete, pin and prune tags'
 complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a links -d 'Show the links that a note holds'
@@ -50,6 +52,7 @@ complete -c tarn -n '__fish_seen_subcommand_from list search' -l limit -x -d 'At
 complete -c tarn -n '__fish_seen_subcommand_from search' -l count -d 'Print how many notes there are'
 complete -c tarn -n '__fish_seen_subcommand_from search' -l explain -d 'Tell how the store finds them'
 complete -c tarn -n '__fish_seen_subcommand_from search' -l all -d 'Look into archive and trash as well'
+complete -c tarn -n '__fish_seen_subcommand_from search predicate' -l ocr -d 'Look into the recognised text of attachments as well'
 complete -c tarn -n '__fish_seen_subcommand_from tags' -l all -d 'Also tags without active notes'
 complete -c tarn -n '__fish_seen_subcommand_from tag' -a 'add remove rename delete pin unpin prune'
 complete -c tarn -n '__fish_seen_subcommand_from tag' -l top -d 'Write the hashtag below the title'
