@@ -128,8 +128,7 @@ public:
     /// line feed.
     void replaceNoteWithText(std::string_view replacement);
 
-    // Copies (notes/OVNote+Copying.cpp)
-    // ---------------------------------------------------------------------------------
+    // Copies (notes/OVNote+Copying.cpp) -----------------------------------------------------------------------------
     /// A new note of the texts of all, a blank line between them, with their attachments; the notes go to the trash. It
     /// is pinned when all were. Null, and nothing changes, for fewer than two notes. Raises "Invalid accessor", and
     /// nothing has changed, when one of them is locked.
@@ -138,8 +137,7 @@ public:
     /// place of this note's identifier in the text. It counts as made when it was modified.
     OVNote* duplicate() const;
 
-    // Guarded text (notes/OVNote+Encryption.cpp)
-    // ------------------------------------------------------------------------
+    // Guarded text (notes/OVNote+Encryption.cpp) --------------------------------------------------------------------
     /// The text; through the encryption manager of the context when the note is protected and there is one. None when
     /// there is no text or the manager fails. Raises "Invalid accessor" while the note is locked.
     std::optional<std::string> text() const override;
@@ -205,8 +203,7 @@ public:
     std::vector<OVNote*> linkedNotes() const;
     std::vector<OVNote*> linkedByNotes() const;
 
-    // Wiki links (notes/OVNote+WikiLinks.cpp)
-    // ---------------------------------------------------------------------------
+    // Wiki links (notes/OVNote+WikiLinks.cpp) -----------------------------------------------------------------------
     /// Brings the records of this note's links in step with the links of its text. A record stays where its link stands
     /// at the same offset with the same title and its target still has that title; each other link is looked up anew:
     /// of several notes with its title an untrashed one counts first, then the one made first. A link that finds no
@@ -221,8 +218,7 @@ public:
     /// would come to a note twice. Adds the notes that it comes to to `parentLinkedBy`; null: none yet.
     bool canReplaceWikiLinkWithTitle(std::string_view title, VisitedNotes* parentLinkedBy = nullptr);
 
-    // Links from outside (notes/OVNote+XCallbackURL.cpp)
-    // ----------------------------------------------------------------
+    // Links from outside (notes/OVNote+XCallbackURL.cpp) ------------------------------------------------------------
     // Percent-encoded URLs of the application.
     std::string openNoteXCallbackURLString() const;
     std::string openNoteWithTitleXCallbackURLString() const;
@@ -253,8 +249,7 @@ public:
     /// Leaves its group: one that is left alone is no group any more, of several the latest stamped becomes the root.
     void unmarkAsConflicted();
 
-    // Vector clock (sync/OVNote+VectorClock.cpp)
-    // ------------------------------------------------------------------------
+    // Vector clock (sync/OVNote+VectorClock.cpp) --------------------------------------------------------------------
     /// The counts of edits; an empty clock when there are none yet, none when the stored bytes are damaged.
     std::optional<TolVectorClock> noteVectorClock() const;
     /// Counts one edit of this device; a damaged clock is replaced. Nothing changes when the device is unknown.
@@ -262,8 +257,7 @@ public:
     /// Takes the higher count of both for every device; a damaged clock is replaced.
     void mergeVectorClockWithClock(const TolVectorClock& clock);
 
-    // Tags (tags/OVNote+Tags.cpp)
-    // ---------------------------------------------------------------------------------------
+    // Tags (tags/OVNote+Tags.cpp) -----------------------------------------------------------------------------------
     /// The titles of its tags, in the order of the set.
     std::vector<std::string> tagsStrings() const;
     /// Gives the note exactly the tags of these names, which are made where they are missing; others stay as records.
@@ -273,8 +267,7 @@ public:
     OVNoteTag* tagForName(std::string_view name) const;
     bool hasTag(std::string_view name) const;
 
-    // Attachments (files/OVNote+Attachments.cpp)
-    // ------------------------------------------------------------------------
+    // Attachments (files/OVNote+Attachments.cpp) --------------------------------------------------------------------
     /// Whether the text refers to any.
     bool hasAttachments() const;
     /// Those that the text refers to, in the order of its links.
@@ -291,8 +284,7 @@ public:
     /// Protects an attachment of a protected note with the note's password, when that is at hand. Null: does nothing.
     void encryptFileIfNeeded(OVNoteFile* file);
 
-    // Beside the record, never stored
-    // -----------------------------------------------------------------------------------
+    // Beside the record, never stored -------------------------------------------------------------------------------
     /// A slot for callers; the model does not use it.
     std::int64_t searchIndex() const noexcept { return searchIndex_; }
     void setSearchIndex(std::int64_t searchIndex) noexcept { searchIndex_ = searchIndex; }

@@ -43,8 +43,7 @@ public:
     /// The first tag whose whole title is `name`, compared without case and diacritics; null when there is none.
     static OVNoteTag* tagWithName(std::string_view name, NSManagedObjectContext& context);
 
-    // Making and removing (tags/OVNoteTag+Creation.cpp)
-    // -----------------------------------------------------------------
+    // Making and removing (tags/OVNoteTag+Creation.cpp) -------------------------------------------------------------
     /// Inserts a tag with the sanitized name as its title; null, and nothing is made, for an unusable name. Does not
     /// look whether there is one already.
     static OVNoteTag* addNewTagWithName(std::string_view name, NSManagedObjectContext& context);
@@ -59,8 +58,7 @@ public:
     /// Deletes every tag without notes; trashed and archived notes count.
     static void deleteAllUnusedTagsInManagedObjectContext(NSManagedObjectContext& context);
 
-    // Names and hierarchy (tags/OVNoteTag+Hierarchy.cpp)
-    // ----------------------------------------------------------------
+    // Names and hierarchy (tags/OVNoteTag+Hierarchy.cpp) ------------------------------------------------------------
     /// The parts of the title between slashes; empty without a title.
     std::vector<std::string> tagComponents() const;
     /// The same, folded. Computed once: it does not follow a later change of the title.
@@ -95,8 +93,7 @@ public:
     std::vector<OVNoteTag*> childTagsWithSortDescriptors(
         const std::vector<NSSortDescriptor>& sortDescriptors = {}) const;
 
-    // The notes of a tag (tags/OVNoteTag+Fetching.cpp)
-    // ------------------------------------------------------------------
+    // The notes of a tag (tags/OVNoteTag+Fetching.cpp) --------------------------------------------------------------
     /// Finds this tag's notes that are neither trashed nor archived, those of the tags below it included. Names this
     /// record: use it while that lives.
     NSPredicate untrashedNotesPredicate() const;
@@ -107,8 +104,7 @@ public:
     /// The notes that `untrashedNotesPredicate` finds. A failed fetch is logged and gives an empty list.
     std::vector<OVNote*> activeNotesWithSortDescriptors(const std::vector<NSSortDescriptor>& sortDescriptors) const;
 
-    // Changing the tag in texts (tags/OVNoteTag+Rewriting.cpp, tags/OVNoteTag+Renaming.cpp)
-    // ------------------------------
+    // Changing the tag in texts (tags/OVNoteTag+Rewriting.cpp, tags/OVNoteTag+Renaming.cpp) -------------------------
     // Texts are rewritten without touching modification dates. Each raises "Invalid accessor", and nothing has changed,
     // when one of the notes is locked.
 
@@ -124,13 +120,11 @@ public:
     OVNoteTag* renameTagWithTagNamed(std::string_view newName);
     OVNoteTag* renameTagWithTagNamed(std::string_view newName, const std::vector<OVNote*>& notes);
 
-    // Links from outside (tags/OVNoteTag+XCallbackURL.cpp)
-    // ----------------------------------------------------------------
+    // Links from outside (tags/OVNoteTag+XCallbackURL.cpp) ----------------------------------------------------------
     /// A percent-encoded URL of the application that shows the tag.
     std::string openTagXCallbackURLString() const;
 
-    // State (tags/OVNoteTag.cpp)
-    // ----------------------------------------------------------------------------------------
+    // State (tags/OVNoteTag.cpp) ------------------------------------------------------------------------------------
     /// Sets the modification date to now.
     void updateModificationDate();
     // Both set the date of the pin to now, also when nothing changes.

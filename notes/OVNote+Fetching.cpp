@@ -46,8 +46,7 @@ Value::Array boxed(const Strings& strings)
 
 } // namespace
 
-// Lists
-// ----------------------------------------------------------------------------------------------------------------
+// Lists -------------------------------------------------------------------------------------------------------------
 
 std::vector<OVNote*> OVNote::notesInManagedObjectContext(
     NSManagedObjectContext& context, const std::optional<NSPredicate>& predicate)
@@ -95,8 +94,7 @@ std::vector<OVNote*> OVNote::watchNotesInManagedObjectContext(NSManagedObjectCon
     return fetchNotes(readable, standardNoteOrder(), context, maximumCount);
 }
 
-// By tag and identifier
-// ------------------------------------------------------------------------------------------------
+// By tag and identifier ---------------------------------------------------------------------------------------------
 
 std::vector<OVNote*> OVNote::notesForTags(const std::vector<OVNoteTag*>& tags, NSManagedObjectContext& context)
 {
@@ -131,8 +129,7 @@ void OVNote::deleteNotesWithUniqueIdentifiers(const Strings& uniqueIdentifiers, 
         context.deleteObject(*note);
 }
 
-// By title
-// -------------------------------------------------------------------------------------------------------------
+// By title ----------------------------------------------------------------------------------------------------------
 
 std::vector<OVNote*> OVNote::notesWithTitle(std::string_view title, NSManagedObjectContext& context)
 {
@@ -180,8 +177,7 @@ OVNote* OVNote::untrashedNoteWithTitleOrUUID(std::string_view titleOrUUID, NSMan
     return firstOf(fetchNotes(named, standardNoteOrder(), context));
 }
 
-// Protection
-// -----------------------------------------------------------------------------------------------------------
+// Protection --------------------------------------------------------------------------------------------------------
 
 bool OVNote::anyNoteHasEncryption(const std::vector<OVNote*>& notes)
 {

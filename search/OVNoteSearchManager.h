@@ -29,8 +29,7 @@ class OVNoteSearchManager {
 public:
     OVNoteSearchManager() = delete;
 
-    // Compiling (search/OVNoteSearchManager.cpp)
-    // ------------------------------------------------------------------------
+    // Compiling (search/OVNoteSearchManager.cpp) --------------------------------------------------------------------
 
     /// The notes that the string asks for. None when it asks for nothing: an empty string, or switches and "or" alone.
     /// Dates are those of the present; a predicate with dates goes stale at midnight. Raises the predicate parser's

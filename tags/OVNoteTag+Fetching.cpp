@@ -61,8 +61,7 @@ OVNoteTag* OVNoteTag::tagWithName(std::string_view name, NSManagedObjectContext&
     return lookUpTag(name, context).value_or(nullptr);
 }
 
-// The notes of a tag
-// ---------------------------------------------------------------------------------------------------
+// The notes of a tag ------------------------------------------------------------------------------------------------
 
 NSPredicate OVNoteTag::untrashedNotesPredicate() const
 {

@@ -7,8 +7,7 @@
 
 namespace tarn {
 
-// Components
-// -----------------------------------------------------------------------------------------------------------
+// Components --------------------------------------------------------------------------------------------------------
 
 std::vector<std::string> OVNoteTag::tagComponents() const
 {
@@ -31,8 +30,7 @@ std::string OVNoteTag::tagStringFromComponents(const std::vector<std::string>& c
     return CVKHashtag::tagNameFromComponents(components);
 }
 
-// Names
-// ----------------------------------------------------------------------------------------------------------------
+// Names -------------------------------------------------------------------------------------------------------------
 
 std::optional<std::string> OVNoteTag::leafTagName() const
 {
@@ -84,8 +82,7 @@ std::string OVNoteTag::hashTagString() const
     return CVKHashtag::hashtagStringForTagName(title().value_or(""));
 }
 
-// Ancestors
-// ------------------------------------------------------------------------------------------------------------
+// Ancestors ---------------------------------------------------------------------------------------------------------
 
 OVNoteTag* OVNoteTag::fatherTag() const
 {
@@ -114,8 +111,7 @@ bool OVNoteTag::isDescendantOfTag(const OVNoteTag& tag) const
         && std::equal(ancestor.begin(), ancestor.end(), components.begin());
 }
 
-// Descendants
-// ----------------------------------------------------------------------------------------------------------
+// Descendants -------------------------------------------------------------------------------------------------------
 
 std::vector<OVNoteTag*> OVNoteTag::childsAndSubChildsTagsWithSortDescriptors(
     const std::vector<NSSortDescriptor>& sortDescriptors) const

@@ -343,8 +343,7 @@ void NSManagedObject::setToOneAt(PropertyIndex index, NSManagedObject* target)
     core().relationships.setToOne(*this, relationship, target);
 }
 
-// Key-value coding
-// ------------------------------------------------------------------------------------------------------
+// Key-value coding --------------------------------------------------------------------------------------------------
 
 Value NSManagedObject::storedValueForKey(std::string_view key) const
 {
@@ -409,8 +408,7 @@ void NSManagedObject::setPrimitiveValueForKey(std::string_view key, const Value&
     toManyAt(index).set(members);
 }
 
-// Key-value observation
-// ---------------------------------------------------------------------------------------------------
+// Key-value observation ---------------------------------------------------------------------------------------------
 
 KeyValueObservation::KeyValueObservation(KeyValueObservation&& other) noexcept
     : registration_(std::move(other.registration_))

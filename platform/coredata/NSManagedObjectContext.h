@@ -97,8 +97,7 @@ public:
     /// Hears of values that a merge dropped.
     void setMergeConflictHandler(std::function<void(const MergeConflict&)> handler);
 
-    // Records
-    // -----------------------------------------------------------------------------------------------------------
+    // Records -------------------------------------------------------------------------------------------------------
     /// Inserts a record of the entity with its default values and a temporary identifier. An abstract entity may be
     /// inserted too.
     NSManagedObject& insertObject(const NSEntityDescription& entity);
@@ -118,8 +117,7 @@ public:
     NSManagedObject* objectRegisteredForID(const NSManagedObjectID& objectID) const;
     std::vector<NSManagedObject*> registeredObjects() const;
 
-    // Queries see unsaved changes
-    // -----------------------------------------------------------------------------------------
+    // Queries see unsaved changes -----------------------------------------------------------------------------------
     /// None and an error on failure; for callers to whom failure is not emptiness.
     std::optional<std::vector<NSManagedObject*>> fetch(const NSFetchRequest& request, NSError* error = nullptr);
     /// The same; empty on failure.
@@ -129,8 +127,7 @@ public:
     std::optional<std::vector<DictionaryResult>> executeDictionaryFetchRequest(
         const NSFetchRequest& request, NSError* error = nullptr);
 
-    // Changes
-    // ---------------------------------------------------------------------------------------------------------------
+    // Changes -------------------------------------------------------------------------------------------------------
     bool hasChanges() const;
     // Snapshots, in order of insertion or primary key: safe to walk while records are inserted or deleted.
     std::vector<NSManagedObject*> insertedObjects() const;
@@ -164,8 +161,7 @@ public:
     /// Forgets everything; all records of this context are gone.
     void reset();
 
-    // Work on its queue
-    // ---------------------------------------------------------------------------------------------------------
+    // Work on its queue ---------------------------------------------------------------------------------------------
     Queue& queue() const noexcept;
     void performBlock(std::function<void()> block);
     void performBlockAndWait(const std::function<void()>& block);

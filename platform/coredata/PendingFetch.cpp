@@ -29,8 +29,7 @@ PendingFetch::PendingFetch(ContextCore& core, const NSFetchRequest& request)
     : core_(core), request_(request), root_(request.entity->rootEntity())
 { }
 
-// Which records the store cannot answer for
-// -----------------------------------------------------------------------------
+// Which records the store cannot answer for -------------------------------------------------------------------------
 
 bool PendingFetch::isOfEntity(const NSManagedObject& record) const
 {
@@ -98,8 +97,7 @@ bool PendingFetch::isAffected(const NSManagedObject& record) const
     return record.isDeleted() || (RecordAccess::changed(record) & relevant_) || reached_.contains(&record);
 }
 
-// The answer in memory
-// --------------------------------------------------------------------------------------------------
+// The answer in memory ----------------------------------------------------------------------------------------------
 
 std::vector<NSManagedObject*> PendingFetch::candidates()
 {
@@ -138,8 +136,7 @@ std::vector<NSManagedObject*> PendingFetch::matchingInMemory()
     return found;
 }
 
-// Both together
-// -----------------------------------------------------------------------------------------------------------
+// Both together -----------------------------------------------------------------------------------------------------
 
 StoreFetch PendingFetch::storeFetch(RowContents contents) const
 {

@@ -211,8 +211,7 @@ std::size_t RelationshipMaintenance::countMembers(ToManySet& set)
     return count;
 }
 
-// Whole records
-// ---------------------------------------------------------------------------------------------------------
+// Whole records -----------------------------------------------------------------------------------------------------
 
 std::vector<NSManagedObject*> RelationshipMaintenance::related(
     const NSManagedObject& record, const NSRelationshipDescription& relationship)

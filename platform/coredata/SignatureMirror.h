@@ -69,8 +69,8 @@ private:
     std::size_t wastedBytes_ = 0;
     std::size_t staleCount_ = 0;
     std::size_t slotsSearchedForStale_ = 0; ///< by `takeStaleKeys`, since it last caught up
-    std::int64_t lastChange_ = 0; ///< as far as it has followed the changes
-    std::int64_t lastKey_ = 0;    ///< the key of that change
+    std::int64_t lastChange_ = 0;           ///< as far as it has followed the changes
+    std::int64_t lastKey_ = 0;              ///< the key of that change
     std::map<const SQLiteConnection*, std::int64_t> seenVersions_;
 };
 

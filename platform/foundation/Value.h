@@ -38,7 +38,8 @@ public:
 
     Value() = default;
     Value(std::nullptr_t) { }
-    Value(bool value) : storage_(value) { }
+    /// A bool and nothing that only converts to one: a pointer to a class that is still incomplete would.
+    template <std::same_as<bool> Bool> Value(Bool value) : storage_(value) { }
     template <std::integral Integer>
     requires(!std::same_as<Integer, bool>) Value(Integer value) : storage_(static_cast<std::int64_t>(value)) { }
     Value(double value) : storage_(value) { }

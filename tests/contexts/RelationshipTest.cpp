@@ -149,8 +149,7 @@ TEST_P(Relationship, RefusesARecordOfAnotherContext)
     EXPECT_THROW(book("A").setValueForKey("cover", Value(&foreign)), NSException);
 }
 
-// Deletion
-// --------------------------------------------------------------------------------------------------------------
+// Deletion ----------------------------------------------------------------------------------------------------------
 
 TEST_P(Relationship, DeletingCascadesAndNullifiesAtOnce)
 {

@@ -266,8 +266,7 @@ TEST_P(Save, OfTenThousandRecordsWithAFetchEachStaysQuick)
     EXPECT_EQ(find("Book", "title ==[cd] 'TITLE 9999'").size(), 1U);
 }
 
-// Events
-// ----------------------------------------------------------------------------------------------------------------
+// Events ------------------------------------------------------------------------------------------------------------
 
 TEST_P(Save, ChangesGatherIntoOneNotificationAPass)
 {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <concepts>
 #include <limits>
 
 using namespace tarn;
@@ -35,6 +36,12 @@ TEST(Value, KnowsItsKind)
     EXPECT_EQ(Value(static_cast<const NSKeyValueCoding*>(nullptr)).kind(), Value::Kind::Nil);
     EXPECT_EQ(Value(Value::Array{}).kind(), Value::Kind::Array);
 }
+
+class NeverDefined;
+static_assert(std::constructible_from<Value, bool>);
+static_assert(!std::constructible_from<Value, NeverDefined*>);
+static_assert(!std::constructible_from<Value, const NeverDefined*>);
+static_assert(!std::constructible_from<Value, void*>);
 
 TEST(Value, TakesWhatAnOptionalHolds)
 {

@@ -20,8 +20,7 @@ using testing::UnorderedElementsAre;
 
 using Accessors = RecordTest;
 
-// Attributes
-// -------------------------------------------------------------------------------------------------------------
+// Attributes --------------------------------------------------------------------------------------------------------
 
 TEST_P(Accessors, KeepEveryKindOfValue)
 {
@@ -118,8 +117,7 @@ TEST_P(Accessors, TakeCareOfNumbersThatDoNotFit)
     EXPECT_EQ(note.order(), 0);
 }
 
-// Observation
-// --------------------------------------------------------------------------------------------------------------
+// Observation -------------------------------------------------------------------------------------------------------
 
 TEST_P(Accessors, TellObserversOfTheBoxedAndTheScalarKey)
 {
@@ -159,8 +157,7 @@ TEST_P(Accessors, StorePrimitiveValuesInSilence)
     EXPECT_FALSE(note.primitivePinnedValue());
 }
 
-// Relationships
-// --------------------------------------------------------------------------------------------------------------
+// Relationships -----------------------------------------------------------------------------------------------------
 
 TEST_P(Accessors, KeepToManySetsAndTheirInversesInStep)
 {
@@ -217,8 +214,7 @@ TEST_P(Accessors, KeepItemsOfAChange)
     EXPECT_EQ(all<OVChange>().front()->itemsSet().count(), 1u);
 }
 
-// Identity and fetches
-// ------------------------------------------------------------------------------------------------------
+// Identity and fetches ----------------------------------------------------------------------------------------------
 
 TEST_P(Accessors, GiveIdentifiersOfTheirOwnType)
 {
@@ -264,8 +260,7 @@ TEST_P(Accessors, ComeBackAsTheirClasses)
     EXPECT_TRUE(dynamic_cast<OVNoteGenericFile*>(files[1]));
 }
 
-// Deletion
-// ---------------------------------------------------------------------------------------------------------------------
+// Deletion ----------------------------------------------------------------------------------------------------------
 
 TEST_P(Accessors, TakePartsAlongAndLeaveTheRest)
 {

@@ -272,8 +272,7 @@ TEST_P(Protection, OfFilesIsTheHostsToAllow)
     OVEncryptionCoreManager::setFileEncryptionEnabled(false);
 }
 
-// Use of attachments
-// -------------------------------------------------------------------------------------------------------
+// Use of attachments ------------------------------------------------------------------------------------------------
 
 using AttachmentUse = RecordTest;
 

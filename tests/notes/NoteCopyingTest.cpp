@@ -12,8 +12,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::UnorderedElementsAre;
 
-// Merging
-// --------------------------------------------------------------------------------------------------------------
+// Merging -----------------------------------------------------------------------------------------------------------
 
 class NoteMerge : public StoreFixture {
 protected:
@@ -95,8 +94,7 @@ TEST_P(NoteMerge, LeavesAConflictWithItsSources)
     EXPECT_FALSE(merger->hasConflictedNotes());
 }
 
-// Duplicating
-// ----------------------------------------------------------------------------------------------------------
+// Duplicating -------------------------------------------------------------------------------------------------------
 
 class NoteDuplicate : public StoreFixture { };
 INSTANTIATE_TEST_SUITE_P(Stores, NoteDuplicate, everyStore(), storeName);

@@ -138,8 +138,7 @@ TEST_P(NoteParsing, RefusesATextOfMoreThanHalfAGibibyte)
     munmap(memory, length);
 }
 
-// Attachments
-// ----------------------------------------------------------------------------------------------------------
+// Attachments -------------------------------------------------------------------------------------------------------
 
 TEST_P(NoteParsing, NumbersAttachmentsByTheirFirstLink)
 {
