@@ -41,10 +41,10 @@ public:
     /// A new note without text, with an identifier; made and modified at one and the same time.
     static OVNote* insertInManagedObjectContext(NSManagedObjectContext& context);
 
-    // Fetching (notes/OVNote+Fetching.cpp)
-    // ------------------------------------------------------------------------------ Lists are in no order but the
-    // store's unless it is named; the standard order is pinned notes first, then the latest modified. Titles are
-    // compared without case and diacritics. A failed fetch is logged and gives an empty list or null.
+    // Fetching (notes/OVNote+Fetching.cpp) --------------------------------------------------------------------------
+    // Lists are in no order but the store's unless it is named; the standard order is pinned notes first, then the
+    // latest modified. Titles are compared without case and diacritics. A failed fetch is logged and gives an empty
+    // list or null.
 
     /// The notes that the predicate finds; all without one.
     static std::vector<OVNote*> notesInManagedObjectContext(
@@ -91,10 +91,9 @@ public:
     static OVNote* untrashedNoteWithTitle(std::string_view title, NSManagedObjectContext& context);
     static OVNote* untrashedNoteWithTitleOrUUID(std::string_view titleOrUUID, NSManagedObjectContext& context);
 
-    // Text (notes/OVNote+Parsing.cpp)
-    // ----------------------------------------------------------------------------------- All raise "Invalid accessor"
-    // while the note is locked, and `NSInvalidArgumentException` for a text of more than 512 MiB; then nothing has
-    // changed. Ill-formed UTF-8 becomes U+FFFD.
+    // Text (notes/OVNote+Parsing.cpp) -------------------------------------------------------------------------------
+    // All raise "Invalid accessor" while the note is locked, and `NSInvalidArgumentException` for a text of more than
+    // 512 MiB; then nothing has changed. Ill-formed UTF-8 becomes U+FFFD.
 
     /// A new note with this text.
     static OVNote* noteWithText(std::string_view text, NSManagedObjectContext& context);
@@ -115,8 +114,8 @@ public:
     /// Marks attachments used or unused by the links of the text, and numbers the used ones by their first link.
     void updateFilesFromTextSummary(const CVKTextSummary& summary);
 
-    // Text editing (notes/OVNote+TextEditing.cpp)
-    // ----------------------------------------------------------------------- They end in `updateNoteWithText`.
+    // Text editing (notes/OVNote+TextEditing.cpp) -------------------------------------------------------------------
+    // They end in `updateNoteWithText`.
 
     /// Puts the text below a first line that begins with "# ", else in front.
     void prependNoteWithText(std::string_view addition);
@@ -160,9 +159,8 @@ public:
     /// What a note hands over when it is shared: its text. Raises "Invalid accessor" while the note is locked.
     std::vector<std::string> activityItems() const;
 
-    // State (notes/OVNote.cpp)
-    // ------------------------------------------------------------------------------------------ Whoever sets a state
-    // sets its companion date to now, also when nothing changes.
+    // State (notes/OVNote.cpp) --------------------------------------------------------------------------------------
+    // Whoever sets a state sets its companion date to now, also when nothing changes.
 
     /// Whether it has an identifier that stays.
     bool isPersistent() const;
@@ -228,10 +226,9 @@ public:
     /// The link with a heading added to it.
     static std::string appendHeader(std::string_view header, std::string_view noteLink);
 
-    // Conflicted copies (notes/OVNote+Conflict.cpp)
-    // --------------------------------------------------------------------- Versions of one note that are kept side by
-    // side form a group. A member holds the identifier of the note that the group is rooted at, a slash, and the time
-    // at which it was stamped: seconds since 1970 with six decimals.
+    // Conflicted copies (notes/OVNote+Conflict.cpp) -----------------------------------------------------------------
+    // Versions of one note that are kept side by side form a group. A member holds the identifier of the note that
+    // the group is rooted at, a slash, and the time at which it was stamped: seconds since 1970 with six decimals.
 
     /// The members of a group, the latest stamped first. A failed fetch is logged and gives an empty list.
     static std::vector<OVNote*> conflictedNotesForUniqueIdentifier(

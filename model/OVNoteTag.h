@@ -23,10 +23,9 @@ public:
     /// A new tag without title, with an identifier and a modification date.
     static OVNoteTag* insertInManagedObjectContext(NSManagedObjectContext& context);
 
-    // Finding (tags/OVNoteTag+Fetching.cpp)
-    // ----------------------------------------------------------------------------- The standard order is by title as
-    // people sort them: by locale, without case, digits by value. A failed fetch is logged and gives an empty list,
-    // null or none.
+    // Finding (tags/OVNoteTag+Fetching.cpp) -------------------------------------------------------------------------
+    // The standard order is by title as people sort them: by locale, without case, digits by value. A failed fetch is
+    // logged and gives an empty list, null or none.
 
     /// The tags that the predicate finds (all without one), in the standard order.
     static std::vector<OVNoteTag*> notesTagsInManagedObjectContext(

@@ -114,9 +114,8 @@ public:
     virtual void prepareForDeletion() { }
     virtual void willSave() { }
 
-    // By property index: what generated accessors rest on
-    // ----------------------------------------------------------------- Getters read the stored value (firing the
-    // fault). Setters tell observers; primitive ones do not.
+    // By property index: what generated accessors rest on -----------------------------------------------------------
+    // Getters read the stored value (firing the fault). Setters tell observers; primitive ones do not.
     std::optional<bool> booleanAt(PropertyIndex index) const;
     std::optional<std::int64_t> integerAt(PropertyIndex index) const;
     std::optional<double> doubleAt(PropertyIndex index) const;
