@@ -23,6 +23,8 @@ void addCommands(CommandLine& commandLine)
     addConflictCommand(commandLine);
     addStateCommands(commandLine);
     addDeleteCommand(commandLine);
+    addChangesCommand(commandLine);
+    addBaselineCommand(commandLine);
     addStatsCommand(commandLine);
     addDoctorCommand(commandLine);
     addParseCommand(commandLine);

@@ -33,6 +33,8 @@ void addConflictCommand(CommandLine& commandLine);
 /// trash, restore, archive, unarchive, pin, unpin, readonly, editable
 void addStateCommands(CommandLine& commandLine);
 void addDeleteCommand(CommandLine& commandLine);
+void addChangesCommand(CommandLine& commandLine);
+void addBaselineCommand(CommandLine& commandLine);
 void addStatsCommand(CommandLine& commandLine);
 void addDoctorCommand(CommandLine& commandLine);
 

@@ -1,6 +1,7 @@
 #include "tools/tarn/StoreSession.h"
 
 #include "model/ManagedObjectModel.h"
+#include "model/OVChange.h"
 #include "platform/foundation/Environment.h"
 #include "platform/foundation/Queue.h"
 #include "tools/tarn/CommandFailure.h"
@@ -107,6 +108,8 @@ void StoreSession::open(Access access)
     MainQueue::main(); // this thread is its owner
     context_ = std::make_unique<NSManagedObjectContext>(NSManagedObjectContext::ConcurrencyType::MainQueue);
     context_->setPersistentStoreCoordinator(coordinator_);
+    changeLog_ = NSNotificationCenter::defaultCenter().addObserver(NSManagedObjectContextWillSaveNotification,
+        context_.get(), [this](const NSNotification&) { OVChange::updateChangesInInManagedObjectContext(*context_); });
 }
 
 std::vector<OVNote*> StoreSession::notes(const std::optional<NSPredicate>& predicate, std::size_t limit)

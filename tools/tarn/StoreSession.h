@@ -5,6 +5,7 @@
 #include "model/OVNoteTag.h"
 #include "platform/coredata/NSManagedObjectContext.h"
 #include "platform/coredata/NSPersistentStoreCoordinator.h"
+#include "platform/foundation/NSNotificationCenter.h"
 #include "tools/tarn/CommandLine.h"
 #include "tools/tarn/StoreLock.h"
 
@@ -70,6 +71,7 @@ private:
     std::shared_ptr<NSPersistentStoreCoordinator> coordinator_;
     NSPersistentStore* store_ = nullptr;
     std::unique_ptr<NSManagedObjectContext> context_;
+    NSNotificationSubscription changeLog_; ///< writes what a save writes into the log, in the same transaction
 };
 
 /// The standard order of notes.

@@ -3,8 +3,8 @@
 _tarn()
 {
     local commands="import new show append prepend replace edit duplicate merge list search predicate highlight tags tag links backlinks
-        unresolved orphans url conflicts conflict trash restore archive unarchive pin unpin readonly editable delete stats
-        doctor parse"
+        unresolved orphans url conflicts conflict trash restore archive unarchive pin unpin readonly editable delete changes
+        baseline stats doctor parse"
     local global="--store --json --help --version"
     local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} command="" word index
     COMPREPLY=()
@@ -21,7 +21,7 @@ _tarn()
     case $previous in
         --store) mapfile -t COMPREPLY < <(compgen -d -- "$current"); return ;;
         --filter) mapfile -t COMPREPLY < <(compgen -W "active trashed archived pinned conflicted encrypted all" -- "$current"); return ;;
-        --tag | --limit | --header) return ;;
+        --tag | --limit | --header | --since) return ;;
         tag) [[ $command == tag ]] && { mapfile -t COMPREPLY < <(compgen -W "add remove rename delete pin unpin prune" -- "$current"); return; } ;;
         conflict) [[ $command == conflict ]] && { mapfile -t COMPREPLY < <(compgen -W "resolve" -- "$current"); return; } ;;
     esac
@@ -37,6 +37,7 @@ _tarn()
         tag) options="--top" ;;
         url) options="--title --new-window --header --tag" ;;
         delete) options="--yes" ;;
+        changes) options="--since" ;;
         doctor) options="--repair" ;;
     esac
     if [[ -z $command || $current == -* ]]; then

@@ -1,6 +1,6 @@
 # Completion of tarn for fish.
 
-set -l commands import new show append prepend replace edit duplicate merge list search predicate highlight tags tag links backlinks unresolved orphans url conflicts conflict trash restore archive unarchive pin unpin readonly editable delete stats doctor parse
+set -l commands import new show append prepend replace edit duplicate merge list search predicate highlight tags tag links backlinks unresolved orphans url conflicts conflict trash restore archive unarchive pin unpin readonly editable delete changes baseline stats doctor parse
 
 complete -c tarn -f
 complete -c tarn -l store -r -a '(__fish_complete_directories)' -d 'The folder of the store'
@@ -39,6 +39,8 @@ complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a unpin -d 'No 
 complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a readonly -d 'Protect notes from being edited'
 complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a editable -d 'Let notes be edited again'
 complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a delete -d 'Delete notes for good'
+complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a changes -d 'List what was saved since a token'
+complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a baseline -d 'Fold the change log into one change'
 complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a stats -d 'Count what is in the store'
 complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a doctor -d 'Examine the store'
 complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a parse -d 'Show what the Markdown parser sees'
@@ -53,6 +55,7 @@ complete -c tarn -n '__fish_seen_subcommand_from search' -l count -d 'Print how 
 complete -c tarn -n '__fish_seen_subcommand_from search' -l explain -d 'Tell how the store finds them'
 complete -c tarn -n '__fish_seen_subcommand_from search' -l all -d 'Look into archive and trash as well'
 complete -c tarn -n '__fish_seen_subcommand_from search predicate' -l ocr -d 'Look into the recognised text of attachments as well'
+complete -c tarn -n '__fish_seen_subcommand_from changes' -l since -x -d 'Only what was saved after this change'
 complete -c tarn -n '__fish_seen_subcommand_from tags' -l all -d 'Also tags without active notes'
 complete -c tarn -n '__fish_seen_subcommand_from tag' -a 'add remove rename delete pin unpin prune'
 complete -c tarn -n '__fish_seen_subcommand_from tag' -l top -d 'Write the hashtag below the title'
