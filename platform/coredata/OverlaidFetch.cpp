@@ -1,5 +1,6 @@
 #include "platform/coredata/OverlaidFetch.h"
 
+#include "platform/coredata/KeyPathWalk.h"
 #include "platform/coredata/PredicateKeys.h"
 #include "platform/coredata/RowOrder.h"
 #include "platform/coredata/SortOrder.h"
@@ -25,27 +26,16 @@ OverlaidFetch::OverlaidFetch(NSPersistentStore& base, const PendingSnapshot& sna
 /// Rows whose answer depends on a pending record at the other end of a path.
 void OverlaidFetch::noteKeyPath(const std::vector<std::string>& keys)
 {
-    const NSEntityDescription* entity = fetch_.entity;
-    std::vector<const NSRelationshipDescription*> path;
-    for (const std::string& key : keys) {
-        const NSPropertyDescription* property = entity->propertyNamed(key);
-        // A property of one sub-entity may be named in a fetch on the whole family.
-        for (std::size_t sub = 0; !property && sub < entity->subentities().size(); ++sub)
-            property = entity->subentities()[sub]->propertyNamed(key);
-        if (!property)
+    walkKeyPath(*fetch_.entity, keys, [this](const auto& way, const auto& entity, const auto&) {
+        if (way.empty())
             return;
-        if (!path.empty())
-            for (const auto& [pendingKey, entry] : snapshot_.entriesOfRoot(entity->rootEntity()))
-                if (!entry->isDeleted)
-                    reachBack(path, pendingKey);
-        if (!property->isRelationship())
-            return;
-        path.push_back(static_cast<const NSRelationshipDescription*>(property));
-        entity = &path.back()->destinationEntity();
-    }
+        for (const auto& [pendingKey, entry] : snapshot_.entriesOfRoot(entity.rootEntity()))
+            if (!entry->isDeleted)
+                reachBack(way, pendingKey);
+    });
 }
 
-void OverlaidFetch::reachBack(const std::vector<const NSRelationshipDescription*>& path, std::int64_t key)
+void OverlaidFetch::reachBack(std::span<const NSRelationshipDescription* const> path, std::int64_t key)
 {
     std::set<std::int64_t> front{key};
     for (auto step = path.rbegin(); step != path.rend(); ++step) {
@@ -71,7 +61,8 @@ bool OverlaidFetch::isOfEntity(const NSEntityDescription& entity) const
     return fetch_.includesSubentities ? entity.isKindOfEntity(*fetch_.entity) : &entity == fetch_.entity;
 }
 
-std::vector<StoreRow> OverlaidFetch::storedRows()
+/// Asks the store for all rows but the unsure ones, from the first on.
+template <typename Ask> void OverlaidFetch::askStore(Ask&& ask) const
 {
     std::vector<std::int64_t> excluded(unsure_.begin(), unsure_.end());
     excluded.insert(excluded.end(), fetch_.excludedKeys.begin(), fetch_.excludedKeys.end());
@@ -80,13 +71,12 @@ std::vector<StoreRow> OverlaidFetch::storedRows()
     stored.excludedKeys = excluded;
     stored.offset = 0;
     stored.limit = fetch_.limit ? fetch_.offset + fetch_.limit : 0;
+    // What is put among others by its values has to have them.
     if (!fetch_.sortDescriptors.empty() && stored.contents == RowContents::Keys)
         stored.contents = RowContents::Row;
-    std::vector<StoreRow> rows;
     NSError error;
-    if (!base_.fetch(stored, rows, &error))
+    if (!ask(stored, error))
         throw StoreFailure(std::move(error));
-    return rows;
 }
 
 std::vector<StoreRow> OverlaidFetch::judgedRows()
@@ -109,30 +99,56 @@ std::vector<StoreRow> OverlaidFetch::judgedRows()
     return rows;
 }
 
-std::vector<StoreRow> OverlaidFetch::rows()
+/// Puts each judged row in its place among the stored ones, which come in order; few of those are looked at.
+std::vector<StoreRow> OverlaidFetch::merged(std::vector<StoreRow> stored, std::vector<StoreRow> judged) const
 {
     const RowOrder order(fetch_.sortDescriptors, *fetch_.entity);
     std::vector<std::pair<RowOrder::Place, StoreRow>> placed;
-    const auto place = [&](std::vector<StoreRow> rows) {
-        for (StoreRow& row : rows) {
-            RowOrder::Place at = order.placeOf(row, overlaid_);
-            placed.emplace_back(std::move(at), std::move(row));
-        }
-    };
-    place(storedRows());
-    place(judgedRows());
+    for (StoreRow& row : judged) {
+        RowOrder::Place place = order.placeOf(row, overlaid_);
+        placed.emplace_back(std::move(place), std::move(row));
+    }
     std::ranges::sort(
         placed, [&](const auto& left, const auto& right) { return order.comesBefore(left.first, right.first); });
-    const std::size_t first = std::min(fetch_.offset, placed.size());
-    const std::size_t count = fetch_.limit ? std::min(fetch_.limit, placed.size() - first) : placed.size() - first;
+
+    std::vector<StoreRow> all;
+    all.reserve(stored.size() + placed.size());
+    auto next = stored.begin();
+    for (auto& [place, row] : placed) {
+        const auto behind = std::partition_point(next, stored.end(),
+            [&](const StoreRow& other) { return order.comesBefore(order.placeOf(other, overlaid_), place); });
+        std::move(next, behind, std::back_inserter(all));
+        all.push_back(std::move(row));
+        next = behind;
+    }
+    std::move(next, stored.end(), std::back_inserter(all));
+    return all;
+}
+
+std::vector<StoreRow> OverlaidFetch::rows()
+{
+    std::vector<StoreRow> stored;
+    askStore([&](const StoreFetch& fetch, NSError& error) { return base_.fetch(fetch, stored, &error); });
+    std::vector<StoreRow> all = merged(std::move(stored), judgedRows());
+    const std::size_t first = std::min(fetch_.offset, all.size());
+    const std::size_t count = fetch_.limit ? std::min(fetch_.limit, all.size() - first) : all.size() - first;
     std::vector<StoreRow> result;
     result.reserve(count);
     for (std::size_t at = first; at < first + count; ++at) {
         if (fetch_.contents == RowContents::Keys)
-            placed[at].second.values = PropertyValues();
-        result.push_back(std::move(placed[at].second));
+            all[at].values = PropertyValues();
+        result.push_back(std::move(all[at]));
     }
     return result;
+}
+
+std::size_t OverlaidFetch::count()
+{
+    std::size_t stored = 0;
+    askStore([&](const StoreFetch& fetch, NSError& error) { return base_.count(fetch, stored, &error); });
+    const std::size_t all = stored + judgedRows().size();
+    const std::size_t behind = all - std::min(fetch_.offset, all);
+    return fetch_.limit ? std::min(fetch_.limit, behind) : behind;
 }
 
 } // namespace tarn

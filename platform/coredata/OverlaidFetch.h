@@ -3,6 +3,7 @@
 #include "platform/coredata/OverlaidRows.h"
 
 #include <set>
+#include <span>
 #include <vector>
 
 namespace tarn {
@@ -16,13 +17,15 @@ public:
 
     /// Throws a `StoreFailure`.
     std::vector<StoreRow> rows();
+    std::size_t count();
 
 private:
     void noteKeyPath(const std::vector<std::string>& keys);
-    void reachBack(const std::vector<const NSRelationshipDescription*>& path, std::int64_t key);
+    void reachBack(std::span<const NSRelationshipDescription* const> path, std::int64_t key);
     bool isOfEntity(const NSEntityDescription& entity) const;
-    std::vector<StoreRow> storedRows();
+    template <typename Ask> void askStore(Ask&& ask) const;
     std::vector<StoreRow> judgedRows();
+    std::vector<StoreRow> merged(std::vector<StoreRow> stored, std::vector<StoreRow> judged) const;
 
     NSPersistentStore& base_;
     const PendingSnapshot& snapshot_;

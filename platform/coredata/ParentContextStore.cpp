@@ -22,10 +22,9 @@ bool ParentContextStore::count(const StoreFetch& fetch, std::size_t& count, NSEr
     const auto snapshot = parent_->snapshot();
     if (snapshot->isEmpty())
         return base_.count(fetch, count, error);
-    StoreFetch keysOnly = fetch;
-    keysOnly.contents = RowContents::Keys;
-    keysOnly.sortDescriptors = {};
-    return reportingFailure(error, [&] { count = OverlaidFetch(base_, *snapshot, keysOnly).rows().size(); });
+    StoreFetch unsorted = fetch;
+    unsorted.sortDescriptors = {};
+    return reportingFailure(error, [&] { count = OverlaidFetch(base_, *snapshot, unsorted).count(); });
 }
 
 bool ParentContextStore::rowsForKeys(const NSEntityDescription& entity, std::span<const std::int64_t> keys,

@@ -1,6 +1,7 @@
 #include "platform/coredata/PendingFetch.h"
 
 #include "platform/coredata/ContextCore.h"
+#include "platform/coredata/KeyPathWalk.h"
 #include "platform/coredata/RecordAccess.h"
 #include "platform/coredata/SortOrder.h"
 #include "platform/foundation/NSException.h"
@@ -55,29 +56,22 @@ void PendingFetch::collectRelevantProperties()
 /// traced back to the fetched ones over the inverse relationships.
 void PendingFetch::noteKeyPath(const std::vector<std::string>& keys)
 {
-    const NSEntityDescription* entity = request_.entity;
-    std::vector<const NSRelationshipDescription*> path;
-    for (const std::string& key : keys) {
-        const NSPropertyDescription* property = entity->propertyNamed(key);
-        // A property of one sub-entity may be named in a fetch on the whole family.
-        for (std::size_t sub = 0; !property && sub < entity->subentities().size(); ++sub)
-            property = entity->subentities()[sub]->propertyNamed(key);
-        if (!property)
+    walkKeyPath(*request_.entity, keys, [this](const auto& way, const auto& entity, const auto& property) {
+        const PropertyMask bit = propertyBit(property.index());
+        if (way.empty()) {
+            relevant_ |= bit;
             return;
-        if (path.empty())
-            relevant_ |= propertyBit(property->index());
-        else if (const PendingRecords* pending = core_.tracker.pending(entity->rootEntity()))
-            for (NSManagedObject* record : std::vector<NSManagedObject*>(pending->updated))
-                if (record->isUpdated() && (RecordAccess::changed(*record) & propertyBit(property->index())))
-                    reachBack(path, *record);
-        if (!property->isRelationship())
+        }
+        const PendingRecords* pending = core_.tracker.pending(entity.rootEntity());
+        if (!pending)
             return;
-        path.push_back(static_cast<const NSRelationshipDescription*>(property));
-        entity = &path.back()->destinationEntity();
-    }
+        for (NSManagedObject* record : std::vector<NSManagedObject*>(pending->updated))
+            if (record->isUpdated() && (RecordAccess::changed(*record) & bit))
+                reachBack(way, *record);
+    });
 }
 
-void PendingFetch::reachBack(const std::vector<const NSRelationshipDescription*>& path, NSManagedObject& record)
+void PendingFetch::reachBack(std::span<const NSRelationshipDescription* const> path, NSManagedObject& record)
 {
     std::vector<NSManagedObject*> front{&record};
     for (auto step = path.rbegin(); step != path.rend(); ++step) {

@@ -4,6 +4,7 @@
 #include "platform/coredata/NSPersistentStore.h"
 
 #include <optional>
+#include <span>
 #include <unordered_set>
 #include <vector>
 
@@ -27,7 +28,7 @@ public:
 private:
     void collectRelevantProperties();
     void noteKeyPath(const std::vector<std::string>& keys);
-    void reachBack(const std::vector<const NSRelationshipDescription*>& path, NSManagedObject& record);
+    void reachBack(std::span<const NSRelationshipDescription* const> path, NSManagedObject& record);
     bool isOfEntity(const NSManagedObject& record) const;
     bool isAffected(const NSManagedObject& record) const;
     bool hasPending() const;

@@ -37,6 +37,15 @@ protected:
         return request;
     }
 
+    void beginWithAnEmptyStore()
+    {
+        restart();
+        for (const std::string_view entity : {"Item", "Book", "Shelf", "Chapter", "Cover"})
+            for (NSManagedObject* record : all(entity))
+                context_->deleteObject(*record);
+        save();
+    }
+
     void expectAgreement(const NSFetchRequest& request, unsigned seed)
     {
         const auto expected = judgedOneByOne(all("Book"), request);
@@ -56,11 +65,7 @@ TEST_P(Differential, FetchesWithPendingChangesMeanWhatJudgingEveryRecordMeans)
 {
     // 25 stores with 4 states of unsaved changes and 100 predicates each: 10,000 predicates.
     for (unsigned seed = 1; seed <= 25; ++seed) {
-        restart();
-        for (const std::string_view entity : {"Item", "Book", "Shelf", "Chapter", "Cover"})
-            for (NSManagedObject* record : all(entity))
-                context_->deleteObject(*record);
-        save();
+        beginWithAnEmptyStore();
         RandomLibrary library(*context_, seed);
         library.populate(40);
         save();
@@ -83,11 +88,7 @@ TEST_P(Differential, FetchesOfAChildMeanWhatJudgingEveryRecordMeans)
 {
     // What parent and child have not saved lies over the store in two layers.
     for (unsigned seed = 201; seed <= 210; ++seed) {
-        restart();
-        for (const std::string_view entity : {"Item", "Book", "Shelf", "Chapter", "Cover"})
-            for (NSManagedObject* record : all(entity))
-                context_->deleteObject(*record);
-        save();
+        beginWithAnEmptyStore();
         RandomLibrary library(*context_, seed);
         library.populate(30);
         save();
