@@ -261,14 +261,16 @@ void SQLiteStore::beginWriting()
         followDerivedValues(pool_->writer());
     } catch (...) {
         pool_->writer().rollBack();
-        writerVersion_ = -1;
-        pool_->turn().giveBack();
+        endWriting(WritingEnd::RolledBack);
         throw;
     }
 }
 
-void SQLiteStore::endWriting() noexcept
+void SQLiteStore::endWriting(WritingEnd end) noexcept
 {
+    // What followed the derived values was taken back with the rest.
+    if (end == WritingEnd::RolledBack)
+        writerVersion_ = -1;
     pool_->turn().giveBack();
 }
 
@@ -292,10 +294,10 @@ void SQLiteStore::write(const std::function<void(SQLiteConnection&)>& work)
         connection.execute("COMMIT");
     } catch (...) {
         connection.rollBack();
-        endWriting();
+        endWriting(WritingEnd::RolledBack);
         throw;
     }
-    endWriting();
+    endWriting(WritingEnd::Committed);
 }
 
 /// What other programs have made stale is made good a little at a time, in transactions that write texts anyway.

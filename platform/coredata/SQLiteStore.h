@@ -19,6 +19,7 @@
 namespace tarn {
 
 class StoreSearch;
+enum class WritingEnd : std::uint8_t;
 
 /// Records in one SQLite file, which several processes may have open at once. Any thread.
 class SQLiteStore final : public NSPersistentStore {
@@ -63,7 +64,7 @@ private:
     std::optional<std::size_t> countInParallel(
         const StoreFetch& fetch, const StoreSearch& search, SQLiteConnection& connection);
     void beginWriting();
-    void endWriting() noexcept;
+    void endWriting(WritingEnd end) noexcept;
     /// Runs `work` in the transaction of this thread, or in a short one of its own.
     void write(const std::function<void(SQLiteConnection&)>& work);
     std::int64_t takeKeys(SQLiteConnection& connection, const NSEntityDescription& root, std::size_t count);

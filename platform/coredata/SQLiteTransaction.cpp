@@ -17,15 +17,15 @@ SQLiteTransaction::~SQLiteTransaction()
     if (finished_)
         return;
     connection_.rollBack();
-    finish(true);
+    finish(WritingEnd::RolledBack);
 }
 
-void SQLiteTransaction::finish(bool keepKeys) noexcept
+void SQLiteTransaction::finish(WritingEnd end) noexcept
 {
     finished_ = true;
-    if (keepKeys)
+    if (end == WritingEnd::RolledBack)
         store_.keepReservedKeys();
-    store_.endWriting();
+    store_.endWriting(end);
 }
 
 void SQLiteTransaction::requireOpen() const
@@ -87,7 +87,7 @@ bool SQLiteTransaction::commit(NSError* error)
     });
     if (!committed)
         connection_.rollBack();
-    finish(!committed);
+    finish(committed ? WritingEnd::Committed : WritingEnd::RolledBack);
     return committed;
 }
 

@@ -7,6 +7,8 @@ namespace tarn {
 
 class SQLiteStore;
 
+enum class WritingEnd : std::uint8_t { Committed, RolledBack };
+
 /// The write transaction of a SQLite store; holds the turn to write and the file's lock from its making.
 class SQLiteTransaction final : public StoreTransaction {
 public:
@@ -25,7 +27,7 @@ public:
 
 private:
     void requireOpen() const;
-    void finish(bool keepKeys) noexcept;
+    void finish(WritingEnd end) noexcept;
 
     SQLiteStore& store_;
     SQLiteConnection& connection_;

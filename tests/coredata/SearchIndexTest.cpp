@@ -356,6 +356,20 @@ TEST_F(SearchedStore, MakesEverythingStaleThatAnOlderFoldingMade)
     EXPECT_THAT(found(store, "pears"), ElementsAre(key)) << "without waiting for anything to be made again";
 }
 
+TEST_F(SearchedStore, FollowsAnotherFoldingAgainAfterARollback)
+{
+    const OpenStore store = open();
+    const auto key = document(store, "pears");
+    OtherProgram(folder.file()).run("UPDATE store_metadata SET value = '1' WHERE key = 'foldingVersion'");
+    OtherProgram(folder.file()).run("UPDATE Document SET title_folded = 'as it was folded once'");
+    ASSERT_TRUE(store->beginTransaction(nullptr)) << "and rolled back at once";
+    ASSERT_EQ(store->metadata(nullptr).at("foldingVersion"), "1");
+
+    document(store, "apples");
+    EXPECT_EQ(store->metadata(nullptr).at("foldingVersion"), std::to_string(foldingVersion()));
+    EXPECT_THAT(store.keysWhere("Document", "title ==[cd] 'T'"), testing::Contains(key));
+}
+
 TEST_F(SearchedStore, IgnoresSignaturesOfAnotherVersion)
 {
     const OpenStore store = open();
