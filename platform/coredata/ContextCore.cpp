@@ -27,7 +27,10 @@ ContextCore::ContextCore(NSManagedObjectContext& owner, NSManagedObjectContext::
 
 ContextCore::~ContextCore()
 {
-    if (link_)
+    // A child's save may be under way on the queue.
+    if (link_ && privateQueue_)
+        privateQueue_->sync([this] { link_->close(); });
+    else if (link_)
         link_->close();
     queue_->cancelAtEndOfPass(this);
 }

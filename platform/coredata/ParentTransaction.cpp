@@ -4,18 +4,34 @@
 #include "platform/coredata/RecordAccess.h"
 #include "platform/foundation/Log.h"
 
+#include <map>
+#include <set>
+
 namespace tarn {
 
 namespace {
 
-NSManagedObject* recordOfKey(ContextCore& core, const NSEntityDescription& entity, std::int64_t key)
+/// Null when it is deleted. Reads nothing: what a save touches was read before.
+NSManagedObject* recordOfKey(const ContextCore& core, const NSEntityDescription& entity, std::int64_t key)
 {
-    return core.context.existingObjectWithID(NSManagedObjectID(core.store().identity(), entity, key));
+    NSManagedObject* record = core.registry.find(entity.rootEntity(), key);
+    return record && !record->isDeleted() ? record : nullptr;
 }
 
 PropertyMask loadedAttributes(const StoreRow& row)
 {
     return row.values.loadedMask() & ~row.entity->relationshipMask();
+}
+
+/// Those that stand in the row's own columns.
+std::vector<const NSRelationshipDescription*> changedToOnes(const StoreRow& row, PropertyMask changed)
+{
+    std::vector<const NSRelationshipDescription*> found = row.entity->relationships();
+    std::erase_if(found, [&](const NSRelationshipDescription* relationship) {
+        return relationship->isToMany() || relationship->storage() != RelationshipStorage::Column
+            || !(changed & propertyBit(relationship->index()));
+    });
+    return found;
 }
 
 } // namespace
@@ -69,7 +85,90 @@ bool ParentTransaction::changeJoins(std::span<const JoinChange> changes, NSError
 
 bool ParentTransaction::commit(NSError* error)
 {
-    return parent_->perform([this](ContextCore& parent) { apply(parent); }, error);
+    bool isApplied = false;
+    NSError failure;
+    const auto work = [&](ContextCore& parent) {
+        if (!readRecords(parent, &failure))
+            return;
+        apply(parent);
+        isApplied = true;
+    };
+    if (!parent_->perform(work, error))
+        return false;
+    if (!isApplied)
+        assignError(error, std::move(failure));
+    return isApplied;
+}
+
+/// A record that cannot be read must not look like one that was deleted, and a save must not stop half-way: everything
+/// is read before the first change.
+bool ParentTransaction::readRecords(ContextCore& parent, NSError* error) const
+{
+    std::map<const NSEntityDescription*, std::set<std::int64_t>> missing;
+    const auto want = [&](const NSEntityDescription& entity, std::int64_t key) {
+        const NSManagedObject* known = parent.registry.find(entity.rootEntity(), key);
+        if (!known || known->isFault())
+            missing[&entity.rootEntity()].insert(key);
+    };
+    const auto wantTargets = [&](const StoreRow& row, PropertyMask changed) {
+        for (const NSRelationshipDescription* relationship : changedToOnes(row, changed))
+            if (!row.values.isNil(relationship->index()))
+                want(relationship->destinationEntity(), row.values.integer(relationship->index()));
+    };
+    for (const StoreRow& row : insertions_)
+        wantTargets(row, row.values.loadedMask());
+    for (const Update& changed : updates_) {
+        want(*changed.row.entity, changed.row.key);
+        wantTargets(changed.row, changed.changed);
+    }
+    for (const JoinChange& change : joins_) {
+        want(change.relationship->inverseRelationship().destinationEntity(), change.ownerKey);
+        want(change.relationship->destinationEntity(), change.memberKey);
+    }
+    for (const Deletion& deletion : deletions_)
+        want(*deletion.entity, deletion.key);
+
+    for (const auto& [root, keys] : missing) {
+        const std::vector<std::int64_t> wanted(keys.begin(), keys.end());
+        std::vector<StoreRow> rows;
+        if (!parent.store().rowsForKeys(*root, wanted, RowContents::Row, rows, error))
+            return false;
+        for (StoreRow& row : rows)
+            parent.faulting.adopt(std::move(row));
+    }
+    readOtherEnds(parent);
+    return true;
+}
+
+/// Who held a target before, and whom a deletion leaves behind. Raises where that cannot be read.
+void ParentTransaction::readOtherEnds(ContextCore& parent) const
+{
+    const auto fire = [&](const NSManagedObject* record) {
+        if (record && record->isFault())
+            parent.faulting.fire(*record);
+    };
+    const auto readEnds = [&](const StoreRow& row, PropertyMask changed) {
+        const NSManagedObject* record = recordOfKey(parent, *row.entity, row.key);
+        for (const NSRelationshipDescription* relationship : changedToOnes(row, changed)) {
+            if (record)
+                fire(parent.relationships.toOne(*record, *relationship));
+            const NSRelationshipDescription& inverse = relationship->inverseRelationship();
+            const NSManagedObject* target = row.values.isNil(relationship->index())
+                ? nullptr
+                : recordOfKey(parent, relationship->destinationEntity(), row.values.integer(relationship->index()));
+            if (target && !inverse.isToMany())
+                fire(parent.relationships.toOne(*target, inverse));
+        }
+    };
+    for (const StoreRow& row : insertions_)
+        readEnds(row, row.values.loadedMask());
+    for (const Update& changed : updates_)
+        readEnds(changed.row, changed.changed);
+    for (const Deletion& deletion : deletions_)
+        if (const NSManagedObject* record = recordOfKey(parent, *deletion.entity, deletion.key))
+            for (const NSRelationshipDescription* relationship : record->entity().relationships())
+                for (const NSManagedObject* related : parent.relationships.related(*record, *relationship))
+                    fire(related);
 }
 
 void ParentTransaction::apply(ContextCore& parent) const
@@ -119,11 +218,8 @@ void ParentTransaction::update(ContextCore& parent, const StoreRow& row, Propert
 
 void ParentTransaction::relate(ContextCore& parent, NSManagedObject& record, const StoreRow& row, PropertyMask changed)
 {
-    for (const NSRelationshipDescription* relationship : row.entity->relationships()) {
+    for (const NSRelationshipDescription* relationship : changedToOnes(row, changed)) {
         const PropertyIndex index = relationship->index();
-        if (relationship->isToMany() || relationship->storage() != RelationshipStorage::Column
-            || !(changed & propertyBit(index)))
-            continue;
         NSManagedObject* target = row.values.isNil(index)
             ? nullptr
             : recordOfKey(parent, relationship->destinationEntity(), row.values.integer(index));

@@ -33,6 +33,8 @@ private:
     /// The row as it is now; Gone or Failed when there is none.
     RowWriteResult readVersion(
         const NSEntityDescription& entity, std::int64_t key, std::int64_t& version, NSError* error);
+    bool readRecords(ContextCore& parent, NSError* error) const;
+    void readOtherEnds(ContextCore& parent) const;
     void apply(ContextCore& parent) const;
     static void insert(ContextCore& parent, const StoreRow& row);
     static void update(ContextCore& parent, const StoreRow& row, PropertyMask changed);

@@ -292,6 +292,52 @@ TEST_P(ChildContext, FailsToSaveOnceItsParentIsGone)
     EXPECT_TRUE(child_->hasChanges());
 }
 
+TEST_P(ChildContext, KeepsItsChangesWhenItsParentCannotReadTheStore)
+{
+    if (GetParam() == StoreType::InMemory)
+        GTEST_SKIP() << "a store in memory is always read";
+    set(book("one"), "shelves").add(shelf("old"));
+    shelf("new");
+    save();
+    restart(); // the parent has none of them
+    makeChild();
+    NSManagedObject& seen = *findThere("Book", NSPredicate::predicateWithFormat("TRUEPREDICATE")).at(0);
+    NSManagedObject& place = *findThere("Shelf", NSPredicate::predicateWithFormat("name == 'new'")).at(0);
+    set(seen, "shelves").add(place);
+    const auto file = folder_ / "library.sqlite";
+    std::filesystem::rename(file, folder_ / "away");
+
+    NSError error;
+    EXPECT_FALSE(child_->save(&error));
+    EXPECT_EQ(error.code(), StoreErrorReplaced);
+    EXPECT_TRUE(child_->hasChanges());
+    EXPECT_FALSE(context_->hasChanges());
+
+    std::filesystem::rename(folder_ / "away", file);
+    saveChild();
+    save();
+    restart();
+    EXPECT_EQ(set(*all("Book").at(0), "shelves").count(), 2U);
+}
+
+TEST_P(ChildContext, EndsWithAParentOnAQueueOfItsOwn)
+{
+    auto parent = std::make_unique<NSManagedObjectContext>(NSManagedObjectContext::ConcurrencyType::PrivateQueue);
+    parent->setPersistentStoreCoordinator(coordinator_);
+    NSManagedObjectContext grown(NSManagedObjectContext::ConcurrencyType::PrivateQueue);
+    parent->performBlockAndWait([&] { grown.setParentContext(*parent); });
+    std::atomic<int> saves = 0;
+    grown.performBlock([&] {
+        do
+            grown.insertObject("Book");
+        while (grown.save() && ++saves);
+    });
+    MainQueue::main().runUntil([&] { return saves > 0; });
+    parent.reset(); // while the child goes on saving into it
+    grown.performBlockAndWait([] {});
+    EXPECT_GT(saves, 0);
+}
+
 TEST_P(ChildContext, MayHaveChildrenOfItsOwn)
 {
     book("stored");
