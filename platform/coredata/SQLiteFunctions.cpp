@@ -43,7 +43,7 @@ class LastFoldedText {
 public:
     std::string_view folded(std::string_view text)
     {
-        if (text.size() != text_.size() || std::memcmp(text.data(), text_.data(), text.size()) != 0) {
+        if (text != text_) {
             text_ = text;
             folded_.clear();
             appendFolded(folded_, text);

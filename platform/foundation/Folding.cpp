@@ -102,7 +102,8 @@ bool foldedContains(std::string_view text, std::string_view foldedNeedle)
         return false;
     const FoldedText folded(text);
     const std::string_view hay = folded.view();
-    return ::memmem(hay.data(), hay.size(), foldedNeedle.data(), foldedNeedle.size()) != nullptr;
+    return hay.size() >= foldedNeedle.size()
+        && ::memmem(hay.data(), hay.size(), foldedNeedle.data(), foldedNeedle.size()) != nullptr;
 }
 
 } // namespace tarn

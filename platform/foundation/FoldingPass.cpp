@@ -61,6 +61,8 @@ std::size_t startOfLastCodePoint(std::string_view validText) noexcept
 
 void Buffer::append(std::string_view text)
 {
+    if (text.empty())
+        return;
     reserve(text.size());
     std::memcpy(end(), text.data(), text.size());
     grow(text.size());

@@ -81,7 +81,8 @@ bool StringTest::State::holdsFor(std::string_view left) const
     case ComparisonOperator::GreaterThanOrEqualTo:
         return left >= needle;
     case ComparisonOperator::Contains:
-        return !needle.empty() && ::memmem(left.data(), left.size(), needle.data(), needle.size()) != nullptr;
+        return !needle.empty() && left.size() >= needle.size()
+            && ::memmem(left.data(), left.size(), needle.data(), needle.size()) != nullptr;
     case ComparisonOperator::BeginsWith:
         return !needle.empty() && left.starts_with(needle);
     case ComparisonOperator::EndsWith:
