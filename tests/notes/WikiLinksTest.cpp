@@ -3,8 +3,6 @@
 #include "corvel/CVKWikiLink.h"
 #include "model/OVNoteBackLink.h"
 
-#include <sqlite3.h>
-
 namespace tarn {
 namespace {
 
@@ -239,16 +237,7 @@ TEST_P(WikiLinks, AreFetchedByTitleOrIdentifier)
         testing::SizeIs(2));
 }
 
-class UnreadableTargets : public WikiLinks {
-protected:
-    void run(const char* sql)
-    {
-        sqlite3* database = nullptr;
-        ASSERT_EQ(sqlite3_open(storeFile().c_str(), &database), SQLITE_OK);
-        EXPECT_EQ(sqlite3_exec(database, sql, nullptr, nullptr, nullptr), SQLITE_OK) << sqlite3_errmsg(database);
-        sqlite3_close(database);
-    }
-};
+class UnreadableTargets : public WikiLinks { };
 INSTANTIATE_TEST_SUITE_P(Stores, UnreadableTargets, testing::Values(StoreType::SQLite), storeName);
 
 TEST_P(UnreadableTargets, LeaveTheLinksAsTheyWere)
@@ -260,12 +249,12 @@ TEST_P(UnreadableTargets, LeaveTheLinksAsTheyWere)
     OVNote* target = OVNote::noteWithTitle("B", context());
     ASSERT_THAT(linksOf(*source), ElementsAre("B@9 -> B"));
     ASSERT_EQ(source->text(), "# Source\n[[B]]");
-    run("ALTER TABLE \"OVNote\" RENAME TO \"hidden\"");
+    runSQL("ALTER TABLE \"OVNote\" RENAME TO \"hidden\"");
 
     const std::vector<CVKWikiLink> links{{"B", 3}, {"C", 9}};
     source->setLinkedNotesFromWikiLinks(links);
 
-    run("ALTER TABLE \"hidden\" RENAME TO \"OVNote\"");
+    runSQL("ALTER TABLE \"hidden\" RENAME TO \"OVNote\"");
     EXPECT_THAT(takeLog(), ElementsAre(testing::StartsWith("Error while fetching\n")));
     EXPECT_THAT(linksOf(*source), ElementsAre("B@9 -> B"));
     EXPECT_FALSE(context().hasChanges());
@@ -276,13 +265,13 @@ TEST_P(UnreadableTargets, LeaveTheLinksAsTheyWere)
 
 TEST_P(UnreadableTargets, AreLoggedOnlyWhereLinksAreFetchedByPredicate)
 {
-    run("ALTER TABLE \"OVNoteBackLink\" RENAME TO \"hidden\"");
+    runSQL("ALTER TABLE \"OVNoteBackLink\" RENAME TO \"hidden\"");
     EXPECT_THAT(OVNoteBackLink::backlinksForTitle("B", true, context()), IsEmpty());
     EXPECT_THAT(OVNoteBackLink::backlinksForUUIDs({"B"}, context()), IsEmpty());
     EXPECT_THAT(takeLog(), IsEmpty());
     EXPECT_THAT(OVNoteBackLink::backlinksInManagedObjectContext(context(), std::nullopt), IsEmpty());
     EXPECT_THAT(takeLog(), ElementsAre(testing::StartsWith("Error while fetching\n")));
-    run("ALTER TABLE \"hidden\" RENAME TO \"OVNoteBackLink\"");
+    runSQL("ALTER TABLE \"hidden\" RENAME TO \"OVNoteBackLink\"");
 }
 
 } // namespace

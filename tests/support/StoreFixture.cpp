@@ -5,6 +5,8 @@
 #include "model/OVNoteImage.h"
 #include "platform/foundation/NSUUID.h"
 
+#include <sqlite3.h>
+
 namespace tarn {
 
 StoreFixture::StoreFixture()
@@ -70,6 +72,14 @@ void StoreFixture::reopen()
     if (GetParam() == StoreType::SQLite)
         coordinator_.reset();
     open();
+}
+
+void StoreFixture::runSQL(const char* sql)
+{
+    sqlite3* database = nullptr;
+    EXPECT_EQ(sqlite3_open(storeFile().c_str(), &database), SQLITE_OK);
+    EXPECT_EQ(sqlite3_exec(database, sql, nullptr, nullptr, nullptr), SQLITE_OK) << sqlite3_errmsg(database);
+    sqlite3_close(database);
 }
 
 OVNote& StoreFixture::noteTitled(std::string_view title)

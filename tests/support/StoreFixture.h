@@ -46,6 +46,8 @@ protected:
     void save();
     /// Saves and goes on with a new context (on a file: with a newly opened store). Records from before are gone.
     void reopen();
+    /// Runs statements on the store's file behind the store's back, as another program or a damage would.
+    void runSQL(const char* sql);
 
     // Builders; records belong to the context.
     OVNote& note(std::string_view text) { return *OVNote::noteWithText(text, context()); }

@@ -5,8 +5,6 @@
 #include "model/OVNoteImage.h"
 #include "model/OVPassword.h"
 
-#include <sqlite3.h>
-
 namespace tarn {
 namespace {
 
@@ -168,16 +166,7 @@ TEST_P(ChangeBaseline, DeletesTheChangesBeforeOne)
     EXPECT_EQ(countOfChanges(), 2U);
 }
 
-class UnreadableRecords : public ChangeLogFixture {
-protected:
-    void run(const char* sql)
-    {
-        sqlite3* database = nullptr;
-        ASSERT_EQ(sqlite3_open(storeFile().c_str(), &database), SQLITE_OK);
-        EXPECT_EQ(sqlite3_exec(database, sql, nullptr, nullptr, nullptr), SQLITE_OK) << sqlite3_errmsg(database);
-        sqlite3_close(database);
-    }
-};
+class UnreadableRecords : public ChangeLogFixture { };
 INSTANTIATE_TEST_SUITE_P(Stores, UnreadableRecords, testing::Values(StoreType::SQLite), storeName);
 
 TEST_P(UnreadableRecords, AreLeftOutOfTheInitialBaselineClassByClass)
@@ -185,25 +174,25 @@ TEST_P(UnreadableRecords, AreLeftOutOfTheInitialBaselineClassByClass)
     noteWithIdentifier("n");
     tag("t").setUniqueIdentifier("t");
     save();
-    run("ALTER TABLE \"OVNoteTag\" RENAME TO \"hidden\"");
+    runSQL("ALTER TABLE \"OVNoteTag\" RENAME TO \"hidden\"");
 
     EXPECT_THAT(textsOf(OVChange::initialBaselineChangesInManagedObjectContext(context())), ElementsAre("OVNote n"));
 
     EXPECT_THAT(takeLog(), ElementsAre(testing::StartsWith("Error while fetching\n")));
-    run("ALTER TABLE \"hidden\" RENAME TO \"OVNoteTag\"");
+    runSQL("ALTER TABLE \"hidden\" RENAME TO \"OVNoteTag\"");
 }
 
 TEST_P(UnreadableRecords, OfTheLogKeepTheBaselineFromEmptyingIt)
 {
     item(changeOfOrder(3), "OVNote", "a");
     save();
-    run("ALTER TABLE \"OVChangeItem\" RENAME TO \"hidden\"");
+    runSQL("ALTER TABLE \"OVChangeItem\" RENAME TO \"hidden\"");
 
     EXPECT_EQ(OVChange::baselineChangesInManagedObjectContext(context(), false), nullptr);
 
     EXPECT_THAT(takeLog(), ElementsAre(testing::StartsWith("Error while fetching\n")));
     EXPECT_FALSE(context().hasChanges());
-    run("ALTER TABLE \"hidden\" RENAME TO \"OVChangeItem\"");
+    runSQL("ALTER TABLE \"hidden\" RENAME TO \"OVChangeItem\"");
     EXPECT_EQ(latest()->orderValue(), 3);
 }
 

@@ -5,8 +5,6 @@
 #include "model/OVPassword.h"
 #include "platform/foundation/NSUUID.h"
 
-#include <sqlite3.h>
-
 namespace tarn {
 namespace {
 
@@ -235,19 +233,12 @@ protected:
         save();
         recordSaves();
     }
-    void run(const char* sql)
-    {
-        sqlite3* database = nullptr;
-        ASSERT_EQ(sqlite3_open(storeFile().c_str(), &database), SQLITE_OK);
-        EXPECT_EQ(sqlite3_exec(database, sql, nullptr, nullptr, nullptr), SQLITE_OK) << sqlite3_errmsg(database);
-        sqlite3_close(database);
-    }
 };
 INSTANTIATE_TEST_SUITE_P(Stores, FailingSave, testing::Values(StoreType::SQLite), storeName);
 
 TEST_P(FailingSave, LeavesNoChangeBehind)
 {
-    run("CREATE TRIGGER \"refuse\" BEFORE UPDATE ON \"OVNote\" BEGIN SELECT RAISE(ABORT, 'refused'); END");
+    runSQL("CREATE TRIGGER \"refuse\" BEFORE UPDATE ON \"OVNote\" BEGIN SELECT RAISE(ABORT, 'refused'); END");
     OVNote::noteWithTitle("a", context())->setTitle("changed");
     for (int attempt = 0; attempt < 2; ++attempt) {
         NSError error;
@@ -257,7 +248,7 @@ TEST_P(FailingSave, LeavesNoChangeBehind)
         EXPECT_THAT(all<OVChangeItem>(), IsEmpty());
         EXPECT_THAT(context().insertedObjects(), IsEmpty());
     }
-    run("DROP TRIGGER \"refuse\"");
+    runSQL("DROP TRIGGER \"refuse\"");
     save();
 
     ASSERT_EQ(countOfChanges(), 1U);
@@ -267,11 +258,11 @@ TEST_P(FailingSave, LeavesNoChangeBehind)
 
 TEST_P(FailingSave, HasNoSaveWithoutItsChange)
 {
-    run("CREATE TRIGGER \"refuse\" BEFORE INSERT ON \"OVChangeItem\" BEGIN SELECT RAISE(ABORT, 'refused'); END");
+    runSQL("CREATE TRIGGER \"refuse\" BEFORE INSERT ON \"OVChangeItem\" BEGIN SELECT RAISE(ABORT, 'refused'); END");
     OVNote::noteWithTitle("a", context())->setTitle("changed");
     NSError error;
     EXPECT_FALSE(context().save(&error));
-    run("DROP TRIGGER \"refuse\"");
+    runSQL("DROP TRIGGER \"refuse\"");
     context().rollback();
     reopen();
 
@@ -281,8 +272,8 @@ TEST_P(FailingSave, HasNoSaveWithoutItsChange)
 
 class UnreadableLog : public FailingSave {
 protected:
-    void hide() { run("ALTER TABLE \"OVChange\" RENAME TO \"hidden\""); }
-    void show() { run("ALTER TABLE \"hidden\" RENAME TO \"OVChange\""); }
+    void hide() { runSQL("ALTER TABLE \"OVChange\" RENAME TO \"hidden\""); }
+    void show() { runSQL("ALTER TABLE \"hidden\" RENAME TO \"OVChange\""); }
 };
 INSTANTIATE_TEST_SUITE_P(Stores, UnreadableLog, testing::Values(StoreType::SQLite), storeName);
 

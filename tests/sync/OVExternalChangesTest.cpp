@@ -3,8 +3,6 @@
 #include "model/OVExternalChanges.h"
 #include "model/OVPassword.h"
 
-#include <sqlite3.h>
-
 namespace tarn {
 namespace {
 
@@ -195,23 +193,14 @@ TEST_P(ExternalChanges, AreDeletedTogether)
     EXPECT_EQ(all<OVNote>().size(), 2U);
 }
 
-class UnreadableQueue : public ExternalChanges {
-protected:
-    void run(const char* sql)
-    {
-        sqlite3* database = nullptr;
-        ASSERT_EQ(sqlite3_open(storeFile().c_str(), &database), SQLITE_OK);
-        EXPECT_EQ(sqlite3_exec(database, sql, nullptr, nullptr, nullptr), SQLITE_OK) << sqlite3_errmsg(database);
-        sqlite3_close(database);
-    }
-};
+class UnreadableQueue : public ExternalChanges { };
 INSTANTIATE_TEST_SUITE_P(Stores, UnreadableQueue, testing::Values(StoreType::SQLite), storeName);
 
 TEST_P(UnreadableQueue, MergesAndDeletesNothing)
 {
     OVExternalChanges::newExternalChangeForModelObject(noteTitled("a"), 0);
     save();
-    run("ALTER TABLE \"OVExternalChanges\" RENAME TO \"hidden\"");
+    runSQL("ALTER TABLE \"OVExternalChanges\" RENAME TO \"hidden\"");
 
     EXPECT_FALSE(merge());
     EXPECT_THAT(takeLog(), ElementsAre(testing::StartsWith("Error while fetching\n")));
@@ -219,19 +208,19 @@ TEST_P(UnreadableQueue, MergesAndDeletesNothing)
     EXPECT_THAT(takeLog(), ElementsAre(testing::StartsWith("Error while fetching\n")));
     EXPECT_FALSE(context().hasChanges());
 
-    run("ALTER TABLE \"hidden\" RENAME TO \"OVExternalChanges\"");
+    runSQL("ALTER TABLE \"hidden\" RENAME TO \"OVExternalChanges\"");
     EXPECT_EQ(queue().size(), 1U);
 }
 
 TEST_P(UnreadableQueue, RecordsNothingWithoutPermanentIdentifiers)
 {
     noteTitled("a");
-    run("ALTER TABLE \"store_keys\" RENAME TO \"hidden\"");
+    runSQL("ALTER TABLE \"store_keys\" RENAME TO \"hidden\"");
 
     OVExternalChanges::updateExternalChangesInManagedObjectContext(context());
 
     EXPECT_THAT(takeLog(), ElementsAre(testing::StartsWith("Error while trying to save object from extension ")));
-    run("ALTER TABLE \"hidden\" RENAME TO \"store_keys\"");
+    runSQL("ALTER TABLE \"hidden\" RENAME TO \"store_keys\"");
     EXPECT_THAT(queue(), IsEmpty());
 }
 

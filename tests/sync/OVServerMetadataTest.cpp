@@ -4,8 +4,6 @@
 #include "model/OVNoteServerData.h"
 #include "tests/support/StoreFixture.h"
 
-#include <sqlite3.h>
-
 namespace tarn {
 namespace {
 
@@ -184,25 +182,16 @@ TEST_P(ServerData, IsDeletedTogetherWhileNotesAndFilesStay)
     EXPECT_EQ(all<OVNoteGenericFile>().at(0)->serverData(), nullptr);
 }
 
-class UnreadableServerData : public StoreFixture {
-protected:
-    void run(const char* sql)
-    {
-        sqlite3* database = nullptr;
-        ASSERT_EQ(sqlite3_open(storeFile().c_str(), &database), SQLITE_OK);
-        EXPECT_EQ(sqlite3_exec(database, sql, nullptr, nullptr, nullptr), SQLITE_OK) << sqlite3_errmsg(database);
-        sqlite3_close(database);
-    }
-};
+class UnreadableServerData : public StoreFixture { };
 INSTANTIATE_TEST_SUITE_P(Stores, UnreadableServerData, testing::Values(StoreType::SQLite), storeName);
 
 TEST_P(UnreadableServerData, IsLoggedAndDeletesNothing)
 {
     OVNoteServerData::insertInManagedObjectContext(context());
     save();
-    run("ALTER TABLE \"OVNoteServerData\" RENAME TO \"hidden\"");
+    runSQL("ALTER TABLE \"OVNoteServerData\" RENAME TO \"hidden\"");
     OVNoteServerData::deleteAllObjectsInManagedObjectContext(context());
-    run("ALTER TABLE \"hidden\" RENAME TO \"OVNoteServerData\"");
+    runSQL("ALTER TABLE \"hidden\" RENAME TO \"OVNoteServerData\"");
 
     EXPECT_THAT(takeLog(), ElementsAre(testing::StartsWith("Error while fetching\n")));
     EXPECT_FALSE(context().hasChanges());
@@ -212,9 +201,9 @@ TEST_P(UnreadableServerData, LeadsToNewMetadata)
 {
     OVServerMetadata::insertInManagedObjectContext(context())->setNoteZoneSubscriptionID("there");
     save();
-    run("ALTER TABLE \"OVServerMetadata\" RENAME TO \"hidden\"");
+    runSQL("ALTER TABLE \"OVServerMetadata\" RENAME TO \"hidden\"");
     const OVServerMetadata* metadata = OVServerMetadata::serverMetadataInManagedObjectContext(context());
-    run("ALTER TABLE \"hidden\" RENAME TO \"OVServerMetadata\"");
+    runSQL("ALTER TABLE \"hidden\" RENAME TO \"OVServerMetadata\"");
 
     EXPECT_TRUE(metadata->isInserted());
     EXPECT_EQ(metadata->noteZoneSubscriptionID(), std::nullopt);

@@ -1,7 +1,5 @@
 #include "tests/support/StoreFixture.h"
 
-#include <sqlite3.h>
-
 namespace tarn {
 namespace {
 
@@ -122,17 +120,10 @@ protected:
         note("note #a #b");
         save();
     }
-    void hideTags() { run("ALTER TABLE \"OVNoteTag\" RENAME TO \"hidden\""); }
-    void showTags() { run("ALTER TABLE \"hidden\" RENAME TO \"OVNoteTag\""); }
+    void hideTags() { runSQL("ALTER TABLE \"OVNoteTag\" RENAME TO \"hidden\""); }
+    void showTags() { runSQL("ALTER TABLE \"hidden\" RENAME TO \"OVNoteTag\""); }
 
 private:
-    void run(const char* sql)
-    {
-        sqlite3* database = nullptr;
-        ASSERT_EQ(sqlite3_open(storeFile().c_str(), &database), SQLITE_OK);
-        EXPECT_EQ(sqlite3_exec(database, sql, nullptr, nullptr, nullptr), SQLITE_OK) << sqlite3_errmsg(database);
-        sqlite3_close(database);
-    }
 };
 INSTANTIATE_TEST_SUITE_P(Stores, UnreadableTags, testing::Values(StoreType::SQLite), storeName);
 

@@ -4,8 +4,6 @@
 #include "platform/foundation/NSException.h"
 #include "tests/support/TextKeeper.h"
 
-#include <sqlite3.h>
-
 namespace tarn {
 namespace {
 
@@ -300,16 +298,7 @@ TEST_P(TagRename, ThatMeetsALockedNoteChangesNothing)
     static_cast<void>(linker);
 }
 
-class UnreadableNotes : public TagRename {
-protected:
-    void run(const char* sql)
-    {
-        sqlite3* database = nullptr;
-        ASSERT_EQ(sqlite3_open(storeFile().c_str(), &database), SQLITE_OK);
-        EXPECT_EQ(sqlite3_exec(database, sql, nullptr, nullptr, nullptr), SQLITE_OK) << sqlite3_errmsg(database);
-        sqlite3_close(database);
-    }
-};
+class UnreadableNotes : public TagRename { };
 INSTANTIATE_TEST_SUITE_P(Stores, UnreadableNotes, testing::Values(StoreType::SQLite), storeName);
 
 TEST_P(UnreadableNotes, EndARenameBeforeItChangesAnything)
@@ -321,11 +310,11 @@ TEST_P(UnreadableNotes, EndARenameBeforeItChangesAnything)
     std::vector<OVNote*> notes = a->notesSet().allObjects();
     ASSERT_EQ(notes.size(), 2U);
     EXPECT_EQ(notes.front()->text(), "# 1\n#a") << "read before the table goes";
-    run("ALTER TABLE \"OVNote_large\" RENAME TO \"hidden\"");
+    runSQL("ALTER TABLE \"OVNote_large\" RENAME TO \"hidden\"");
 
     EXPECT_THROW(a->renameTagWithTagNamed("b"), NSException);
 
-    run("ALTER TABLE \"hidden\" RENAME TO \"OVNote_large\"");
+    runSQL("ALTER TABLE \"hidden\" RENAME TO \"OVNote_large\"");
     EXPECT_EQ(textOf("1"), "# 1\n#a");
     EXPECT_EQ(textOf("2"), "# 2\n#a");
     EXPECT_FALSE(context().hasChanges());
@@ -337,11 +326,11 @@ TEST_P(UnreadableNotes, EndARenameWhoseTargetCannotBeLookedUp)
     reopen();
     OVNoteTag* a = find("a");
     EXPECT_EQ(a->title(), "a");
-    run("ALTER TABLE \"OVNoteTag\" RENAME TO \"hidden\"");
+    runSQL("ALTER TABLE \"OVNoteTag\" RENAME TO \"hidden\"");
 
     EXPECT_EQ(a->renameTagWithTagNamed("b"), nullptr);
 
-    run("ALTER TABLE \"hidden\" RENAME TO \"OVNoteTag\"");
+    runSQL("ALTER TABLE \"hidden\" RENAME TO \"OVNoteTag\"");
     EXPECT_THAT(takeLog(), testing::Each(testing::StartsWith("Error while fetching\n")));
     EXPECT_EQ(textOf("1"), "# 1\n#a");
     EXPECT_FALSE(context().hasChanges());
