@@ -45,16 +45,16 @@ void write(const Invocation& invocation, const Changes& changes)
     writeJSON(invocation.output, document);
 }
 
-ExitCode showChanges(const Invocation& invocation, const std::string& sinceToken)
+ExitCode showChanges(const Invocation& invocation, const std::optional<std::string>& sinceToken)
 {
     StoreSession session(invocation, StoreSession::Access::Read);
     NSManagedObjectContext& context = session.context();
     // A log that cannot be read must not look like one in which nothing changed.
     session.countOfEntity(OVChange::entityInManagedObjectContext(context), std::nullopt);
-    const OVChange* since = sinceToken.empty() ? nullptr : OVChange::changeWithToken(sinceToken, context);
-    if (!since && !sinceToken.empty())
+    const OVChange* since = sinceToken ? OVChange::changeWithToken(*sinceToken, context) : nullptr;
+    if (!since && sinceToken)
         throw CommandFailure(ExitCode::Failed,
-            "the change log does not hold the token " + sinceToken
+            "the change log does not hold the token " + *sinceToken
                 + " any more; start from a baseline: 'tarn baseline'");
     Changes changes;
     changes.updated = OVChange::objectsUpdatedSinceChange(since, &changes.deleted, context);
@@ -86,8 +86,8 @@ ExitCode makeBaseline(const Invocation& invocation)
 
 void addChangesCommand(CommandLine& commandLine)
 {
-    const auto since = std::make_shared<std::string>();
-    CLI::App& command = commandLine.addCommand(
+    const auto since = std::make_shared<std::optional<std::string>>();
+    const Command command = commandLine.addCommand(
         {.name = "changes",
             .summary = "List what was saved since a token of the change log",
             .explanation
@@ -96,7 +96,7 @@ void addChangesCommand(CommandLine& commandLine)
               "token from which to go on. A token that the log does not hold any more is an error.",
             .examples = {"tarn changes", "tarn --json changes --since 2B0C3A4E-6D5F-4E8A-9C1B-7A8D9E0F1A2B"}},
         [since](const Invocation& invocation) { return showChanges(invocation, *since); });
-    command.add_option("--since", *since, "Only what was saved after this change")->option_text("TOKEN");
+    command.addOption("--since", *since, "Only what was saved after this change").called("TOKEN");
 }
 
 void addBaselineCommand(CommandLine& commandLine)

@@ -4,6 +4,10 @@
 #include "tools/tarn/CommandFailure.h"
 #include "tools/tarn/DisplayText.h"
 
+#include <CLI/App.hpp>
+#include <CLI/Config.hpp>
+#include <CLI/Formatter.hpp>
+
 #include <algorithm>
 #include <cstdio>
 #include <new>
@@ -12,22 +16,6 @@
 namespace tarn {
 
 namespace {
-
-constexpr char kShield = '\x01';
-
-/// CLI11 takes "[a,b]" for a list, "{}" for an empty one and "++" for the end of a command. A file may have such a name
-/// and a query such a word, so those arguments travel behind a shield.
-std::string shielded(const std::string& argument)
-{
-    const bool special = argument.starts_with('[') || argument.starts_with('{') || argument == "++" || argument.empty()
-        || argument.front() == kShield;
-    return special ? kShield + argument : argument;
-}
-
-std::string unshielded(const std::string& argument)
-{
-    return argument.starts_with(kShield) ? argument.substr(1) : argument;
-}
 
 std::string footerOf(const CommandDescription& description)
 {
@@ -58,7 +46,7 @@ std::string commandProblemOf(const CLI::App& group, const std::vector<std::strin
         return (group.get_parent() ? "a command is missing behind \"" + group.get_name() + "\""
                                    : "a command is missing")
             + advice;
-    return "there is no command or option \"" + unshielded(remaining.front()) + "\"" + advice;
+    return "there is no command or option \"" + unshieldedArgument(remaining.front()) + "\"" + advice;
 }
 
 std::string adviceFor(const CLI::ParseError& error)
@@ -86,19 +74,19 @@ void tellOnStandardError(std::string_view message)
 
 CommandLine::CommandLine(Output& output)
     : invocation_{.storeOption = std::nullopt, .json = false, .output = output},
-      application_("Notes in Markdown: import, write, list and search them.", "tarn")
+      application_(std::make_unique<CLI::App>("Notes in Markdown: import, write, list and search them.", "tarn"))
 {
-    application_.set_version_flag("--version", "tarn " TARN_VERSION, "Print the version and end");
-    application_.set_help_flag("--help,-h", "Print this help and end");
+    application_->set_version_flag("--version", "tarn " TARN_VERSION, "Print the version and end");
+    application_->set_help_flag("--help,-h", "Print this help and end");
     application_
-        .add_option(
+        ->add_option(
             "--store", store_, "The folder of the store (default: $TARN_STORE, else tarn in the XDG data folder)")
         ->option_text("DIR");
-    application_.add_flag("--json", invocation_.json, "Print one JSON document");
-    application_.require_subcommand(1);
-    application_.fallthrough();
-    application_.get_formatter()->column_width(34);
-    application_.footer(
+    application_->add_flag("--json", invocation_.json, "Print one JSON document");
+    application_->require_subcommand(1);
+    application_->fallthrough();
+    application_->get_formatter()->column_width(34);
+    application_->footer(
         "Examples:\n"
         "  tarn import ~/Documents/notes\n"
         "  tarn new '# Groceries'\n"
@@ -109,58 +97,27 @@ CommandLine::CommandLine(Output& output)
         "6 input or output.");
 }
 
-CLI::App& CommandLine::addCommand(const CommandDescription& description, Action action)
+CommandLine::~CommandLine() = default;
+
+Command CommandLine::addCommand(const CommandDescription& description, Action action)
 {
-    return addCommand(application_, description, std::move(action));
+    return addCommand(Command(*application_), description, std::move(action));
 }
 
-CLI::App& CommandLine::addCommand(CLI::App& group, const CommandDescription& description, Action action)
+Command CommandLine::addCommand(Command group, const CommandDescription& description, Action action)
 {
-    CLI::App& command = *group.add_subcommand(description.name, description.summary);
+    CLI::App& command = *group.application().add_subcommand(description.name, description.summary);
     command.footer(footerOf(description));
     command.callback([this, action = std::move(action)] { action_ = action; });
-    return command;
+    return Command(command);
 }
 
-CLI::App& CommandLine::addGroup(const CommandDescription& description)
+Command CommandLine::addGroup(const CommandDescription& description)
 {
-    CLI::App& group = *application_.add_subcommand(description.name, description.summary);
+    CLI::App& group = *application_->add_subcommand(description.name, description.summary);
     group.footer(footerOf(description));
     group.require_subcommand(1);
-    return group;
-}
-
-CLI::Option* CommandLine::addArguments(
-    CLI::App& command, const std::string& name, std::vector<std::string>& values, const std::string& description)
-{
-    return addOptionList(command, name, values, description)
-        ->expected(1, CLI::detail::expected_max_vector_size)
-        ->allow_extra_args()
-        ->option_text(" ");
-}
-
-CLI::Option* CommandLine::addOptionList(
-    CLI::App& command, const std::string& name, std::vector<std::string>& values, const std::string& description)
-{
-    const auto take = [&values](const CLI::results_t& results) {
-        values.clear();
-        std::ranges::transform(results, std::back_inserter(values), unshielded);
-        return true;
-    };
-    return command.add_option(name, take, description)
-        ->type_size(1)
-        ->expected(1)
-        ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
-}
-
-CLI::Option* CommandLine::addArgument(
-    CLI::App& command, const std::string& name, std::optional<std::string>& value, const std::string& description)
-{
-    const auto take = [&value](const CLI::results_t& results) {
-        value = unshielded(results.at(0));
-        return true;
-    };
-    return command.add_option(name, take, description)->type_size(1)->expected(1)->option_text(" ");
+    return Command(group);
 }
 
 ExitCode CommandLine::run(const std::vector<std::string>& arguments)
@@ -189,24 +146,24 @@ ExitCode CommandLine::run(const std::vector<std::string>& arguments)
 ExitCode CommandLine::parseAndRun(const std::vector<std::string>& arguments)
 {
     std::vector<std::string> reversed;
-    std::ranges::transform(arguments, std::back_inserter(reversed), shielded);
+    std::ranges::transform(arguments, std::back_inserter(reversed), shieldedArgument);
     std::ranges::reverse(reversed);
     try {
-        application_.parse(std::move(reversed));
+        application_->parse(std::move(reversed));
     } catch (const CLI::CallForHelp&) {
-        invocation_.output.write(application_.help());
+        invocation_.output.write(application_->help());
         return ExitCode::Done;
     } catch (const CLI::CallForVersion& version) {
         invocation_.output.writeLine(version.what());
         return ExitCode::Done;
     } catch (const CLI::ParseError& error) {
-        const CLI::App* group = groupWithoutCommand(application_);
+        const CLI::App* group = groupWithoutCommand(*application_);
         if (group && dynamic_cast<const CLI::RequiredError*>(&error))
-            throw CommandFailure(ExitCode::Usage, commandProblemOf(*group, application_.remaining(true)));
+            throw CommandFailure(ExitCode::Usage, commandProblemOf(*group, application_->remaining(true)));
         throw CommandFailure(ExitCode::Usage, singleLine(error.what()) + adviceFor(error));
     }
-    if (application_.count("--store") > 0)
-        invocation_.storeOption = unshielded(store_);
+    if (application_->count("--store") > 0)
+        invocation_.storeOption = unshieldedArgument(store_);
     return action_(invocation_);
 }
 

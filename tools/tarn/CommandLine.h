@@ -1,13 +1,11 @@
 #pragma once
 
+#include "tools/tarn/Command.h"
 #include "tools/tarn/ExitCode.h"
 #include "tools/tarn/Output.h"
 
-#include <CLI/App.hpp>
-#include <CLI/Config.hpp>
-#include <CLI/Formatter.hpp>
-
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -40,23 +38,16 @@ public:
     using Action = std::function<ExitCode(const Invocation&)>;
 
     explicit CommandLine(Output& output);
+    ~CommandLine();
+    CommandLine(const CommandLine&) = delete;
+    CommandLine& operator=(const CommandLine&) = delete;
 
-    /// Adds a command; its options and arguments go onto what is returned, which this owns. The action runs when the
-    /// command was named and all its arguments are right.
-    CLI::App& addCommand(const CommandDescription& description, Action action);
+    /// Adds a command. The action runs when the command was named and all its arguments are right.
+    Command addCommand(const CommandDescription& description, Action action);
     /// Adds a command that is only the first word of others.
-    CLI::App& addGroup(const CommandDescription& description);
+    Command addGroup(const CommandDescription& description);
     /// Adds a command to a group.
-    CLI::App& addCommand(CLI::App& group, const CommandDescription& description, Action action);
-    /// An argument that may be given several times: files, notes, words. Taken as written.
-    static CLI::Option* addArguments(
-        CLI::App& command, const std::string& name, std::vector<std::string>& values, const std::string& description);
-    /// An option that may be given several times, each time with one value.
-    static CLI::Option* addOptionList(
-        CLI::App& command, const std::string& name, std::vector<std::string>& values, const std::string& description);
-    /// The same as `addArguments` for one that is given at most once.
-    static CLI::Option* addArgument(
-        CLI::App& command, const std::string& name, std::optional<std::string>& value, const std::string& description);
+    Command addCommand(Command group, const CommandDescription& description, Action action);
 
     /// Runs the command that the arguments (without the program's name) name. What goes wrong is told in one line on
     /// standard error.
@@ -67,7 +58,7 @@ private:
 
     Invocation invocation_;
     std::string store_;
-    CLI::App application_;
+    std::unique_ptr<CLI::App> application_;
     Action action_;
 };
 

@@ -99,30 +99,29 @@ ExitCode resolveConflict(const Invocation& invocation, const std::string& argume
 void addConflictsCommand(CommandLine& commandLine)
 {
     const auto note = std::make_shared<std::optional<std::string>>();
-    CLI::App& command
+    const Command command
         = commandLine.addCommand({.name = "conflicts",
                                      .summary = "List notes of which several versions were kept",
                                      .explanation = "The versions of one note stand together, the latest first.",
                                      .examples = {"tarn conflicts", "tarn conflicts Groceries"}},
             [note](const Invocation& invocation) { return showConflicts(invocation, *note); });
-    CommandLine::addArgument(command, "NOTE", *note, "Only the versions of this note");
+    command.addArgument("NOTE", *note, "Only the versions of this note");
 }
 
 void addConflictCommand(CommandLine& commandLine)
 {
-    CLI::App& group = commandLine.addGroup({.name = "conflict",
+    const Command group = commandLine.addGroup({.name = "conflict",
         .summary = "Resolve a conflict",
         .explanation = "",
         .examples = {"tarn conflict resolve 3F2504E0"}});
     const auto note = std::make_shared<std::optional<std::string>>();
-    CLI::App& command = commandLine.addCommand(group,
+    const Command command = commandLine.addCommand(group,
         {.name = "resolve",
             .summary = "Keep one version of a note and move the others to the trash",
             .explanation = "",
             .examples = {"tarn conflict resolve 3F2504E0"}},
         [note](const Invocation& invocation) { return resolveConflict(invocation, **note); });
-    CommandLine::addArgument(command, "NOTE", *note, "The version to keep: an identifier, or the beginning of one")
-        ->required();
+    command.addArgument("NOTE", *note, "The version to keep: an identifier, or the beginning of one").required();
 }
 
 } // namespace tarn

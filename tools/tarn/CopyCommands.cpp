@@ -36,7 +36,7 @@ ExitCode mergeNotes(const Invocation& invocation, const std::vector<std::string>
 void addDuplicateCommand(CommandLine& commandLine)
 {
     const auto note = std::make_shared<std::optional<std::string>>();
-    CLI::App& command = commandLine.addCommand(
+    const Command command = commandLine.addCommand(
         {.name = "duplicate",
             .summary = "Make a copy of a note",
             .explanation
@@ -44,13 +44,13 @@ void addDuplicateCommand(CommandLine& commandLine)
               "the copy's.",
             .examples = {"tarn duplicate 'Packing list'"}},
         [note](const Invocation& invocation) { return duplicateNote(invocation, **note); });
-    CommandLine::addArgument(command, "NOTE", *note, "An identifier, the beginning of one, or a title")->required();
+    command.addArgument("NOTE", *note, "An identifier, the beginning of one, or a title").required();
 }
 
 void addMergeCommand(CommandLine& commandLine)
 {
     const auto notes = std::make_shared<std::vector<std::string>>();
-    CLI::App& command = commandLine.addCommand(
+    const Command command = commandLine.addCommand(
         {.name = "merge",
             .summary = "Make one note of several, which go to the trash",
             .explanation
@@ -58,8 +58,7 @@ void addMergeCommand(CommandLine& commandLine)
               "pinned when all were.",
             .examples = {"tarn merge 'Paris 1' 'Paris 2'"}},
         [notes](const Invocation& invocation) { return mergeNotes(invocation, *notes); });
-    CommandLine::addArguments(command, "NOTE", *notes, "Two or more identifiers, beginnings of them, or titles")
-        ->required();
+    command.addArguments("NOTE", *notes, "Two or more identifiers, beginnings of them, or titles").required();
 }
 
 } // namespace tarn

@@ -117,14 +117,14 @@ ExitCode examine(const Invocation& invocation, bool repair)
 void addDoctorCommand(CommandLine& commandLine)
 {
     const auto repair = std::make_shared<bool>(false);
-    CLI::App& command = commandLine.addCommand(
+    const Command command = commandLine.addCommand(
         {.name = "doctor",
             .summary
             = "Examine the store: its file, its search index, and whether the notes' fields are what their texts say",
             .explanation = "Exits with 0 when all is well, with 5 when the file itself is damaged.",
             .examples = {"tarn doctor", "tarn doctor --repair"}},
         [repair](const Invocation& invocation) { return examine(invocation, *repair); });
-    command.add_flag("--repair", *repair, "Derive wrong fields anew; texts and modification dates stay as they are");
+    command.addFlag("--repair", *repair, "Derive wrong fields anew; texts and modification dates stay as they are");
 }
 
 } // namespace tarn

@@ -55,15 +55,13 @@ void addEditCommands(CommandLine& commandLine)
 {
     for (const EditCommand& edit : kEditCommands) {
         const auto arguments = std::make_shared<EditArguments>();
-        CLI::App& command = commandLine.addCommand({.name = edit.name,
-                                                       .summary = edit.summary,
-                                                       .explanation = edit.explanation,
-                                                       .examples = {edit.examples.begin(), edit.examples.end()}},
+        const Command command = commandLine.addCommand({.name = edit.name,
+                                                           .summary = edit.summary,
+                                                           .explanation = edit.explanation,
+                                                           .examples = {edit.examples.begin(), edit.examples.end()}},
             [arguments, &edit](const Invocation& invocation) { return editNote(invocation, *arguments, edit); });
-        CommandLine::addArgument(command, "NOTE", arguments->note, "An identifier, the beginning of one, or a title")
-            ->required();
-        CommandLine::addArgument(
-            command, "TEXT", arguments->text, "The text; standard input when there is none, or \"-\"");
+        command.addArgument("NOTE", arguments->note, "An identifier, the beginning of one, or a title").required();
+        command.addArgument("TEXT", arguments->text, "The text; standard input when there is none, or \"-\"");
     }
 }
 

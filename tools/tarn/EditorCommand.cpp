@@ -48,14 +48,14 @@ ExitCode edit(const Invocation& invocation, const std::string& argument)
 void addEditorCommand(CommandLine& commandLine)
 {
     const auto note = std::make_shared<std::optional<std::string>>();
-    CLI::App& command = commandLine.addCommand(
+    const Command command = commandLine.addCommand(
         {.name = "edit",
             .summary = "Open a note in $EDITOR and save what comes back",
             .explanation = "The shell runs $EDITOR with a file as its last argument. When the editor fails, nothing is "
                            "saved. The store\nis locked for other commands that write until the editor ends.",
             .examples = {"tarn edit Groceries", "EDITOR=nano tarn edit Groceries"}},
         [note](const Invocation& invocation) { return edit(invocation, **note); });
-    CommandLine::addArgument(command, "NOTE", *note, "An identifier, the beginning of one, or a title")->required();
+    command.addArgument("NOTE", *note, "An identifier, the beginning of one, or a title").required();
 }
 
 } // namespace tarn

@@ -45,7 +45,7 @@ ExitCode printHighlight(const Invocation& invocation, const QueryArgument& query
 void addHighlightCommand(CommandLine& commandLine)
 {
     const auto query = std::make_shared<QueryArgument>();
-    CLI::App& command = commandLine.addCommand(
+    const Command command = commandLine.addCommand(
         {.name = "highlight",
             .summary = "Print what a search highlights in a note",
             .explanation

@@ -110,7 +110,7 @@ ExitCode import(const Invocation& invocation, const ImportOptions& options)
 void addImportCommand(CommandLine& commandLine)
 {
     const auto options = std::make_shared<ImportOptions>();
-    CLI::App& command = commandLine.addCommand(
+    const Command command = commandLine.addCommand(
         {.name = "import",
             .summary = "Make notes of Markdown and text files",
             .explanation
@@ -124,10 +124,9 @@ void addImportCommand(CommandLine& commandLine)
               "become hashtags, its dates win over those of the file; anything else stays in a block below the text.",
             .examples = {"tarn import ~/Documents/notes", "tarn import --tag old --dry-run notes.md archive/"}},
         [options](const Invocation& invocation) { return import(invocation, *options); });
-    CommandLine::addArguments(command, "PATH", options->paths, "Files and folders")->required();
-    CommandLine::addOptionList(command, "--tag", options->tags, "Add this tag to every note, at the bottom")
-        ->option_text("NAME");
-    command.add_flag("--dry-run", options->dryRun, "Read everything, write nothing, tell what would be imported");
+    command.addArguments("PATH", options->paths, "Files and folders").required();
+    command.addOptionList("--tag", options->tags, "Add this tag to every note, at the bottom").called("NAME");
+    command.addFlag("--dry-run", options->dryRun, "Read everything, write nothing, tell what would be imported");
 }
 
 } // namespace tarn

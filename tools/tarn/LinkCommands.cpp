@@ -109,9 +109,9 @@ void addLinkCommandOfNote(CommandLine& commandLine, const CommandDescription& de
     ExitCode (*run)(const Invocation&, const std::string&))
 {
     const auto note = std::make_shared<std::optional<std::string>>();
-    CLI::App& command = commandLine.addCommand(
+    const Command command = commandLine.addCommand(
         description, [note, run](const Invocation& invocation) { return run(invocation, **note); });
-    CommandLine::addArgument(command, "NOTE", *note, "An identifier, the beginning of one, or a title")->required();
+    command.addArgument("NOTE", *note, "An identifier, the beginning of one, or a title").required();
 }
 
 } // namespace

@@ -7,8 +7,6 @@
 #include "tools/tarn/NoteList.h"
 #include "tools/tarn/StoreSession.h"
 
-#include <CLI/Validators.hpp>
-
 #include <memory>
 
 namespace tarn {
@@ -16,8 +14,8 @@ namespace tarn {
 namespace {
 
 struct ListOptions {
-    std::string filter = "active";
-    std::string tag;
+    std::optional<std::string> filter;
+    std::optional<std::string> tag;
     std::size_t limit = 0;
 };
 
@@ -31,9 +29,10 @@ NSPredicate predicateOfTag(const std::string& name)
 
 ExitCode list(const Invocation& invocation, const ListOptions& options)
 {
-    const auto tagPredicate = options.tag.empty() ? std::nullopt : std::optional(predicateOfTag(options.tag));
+    const auto tagPredicate = options.tag ? std::optional(predicateOfTag(*options.tag)) : std::nullopt;
     StoreSession session(invocation, StoreSession::Access::Read);
-    const auto notes = session.notes(conjunction(tagPredicate, predicateOfFilter(options.filter)), options.limit);
+    const auto notes
+        = session.notes(conjunction(tagPredicate, predicateOfFilter(options.filter.value_or("active"))), options.limit);
     if (invocation.json) {
         writeNoteList(invocation.output, notes.size(), notes, JSON::object());
     } else {
@@ -52,7 +51,7 @@ ExitCode list(const Invocation& invocation, const ListOptions& options)
 void addListCommand(CommandLine& commandLine)
 {
     const auto options = std::make_shared<ListOptions>();
-    CLI::App& command = commandLine.addCommand(
+    const Command command = commandLine.addCommand(
         {.name = "list",
             .summary = "List notes: pinned ones first, then the latest modified",
             .explanation
@@ -61,14 +60,12 @@ void addListCommand(CommandLine& commandLine)
             .examples = {"tarn list --limit 20", "tarn list --filter trashed", "tarn --json list --tag home/kitchen"}},
         [options](const Invocation& invocation) { return list(invocation, *options); });
     command
-        .add_option("--filter", options->filter,
+        .addOption("--filter", options->filter,
             "Which notes: active (the default), trashed, archived, pinned, conflicted, encrypted, all")
-        ->check(CLI::IsMember(namesOfFilters()))
-        ->option_text("NAME");
-    command.add_option("--tag", options->tag, "Only notes with this tag, or one below it")->option_text("NAME");
-    command.add_option("--limit", options->limit, "At most so many notes")
-        ->check(CLI::PositiveNumber)
-        ->option_text("N");
+        .oneOf(namesOfFilters())
+        .called("NAME");
+    command.addOption("--tag", options->tag, "Only notes with this tag, or one below it").called("NAME");
+    command.addCount("--limit", options->limit, "At most so many notes");
 }
 
 } // namespace tarn

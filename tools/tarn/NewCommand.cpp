@@ -24,7 +24,7 @@ void addNewCommand(CommandLine& commandLine)
             writeNoteLine(invocation.output, note);
         return ExitCode::Done;
     };
-    CLI::App& command = commandLine.addCommand(
+    const Command command = commandLine.addCommand(
         {.name = "new",
             .summary = "Write a note",
             .explanation
@@ -33,7 +33,7 @@ void addNewCommand(CommandLine& commandLine)
             .examples
             = {"tarn new '# Groceries'", "tarn new '- [ ] pears'", "pandoc -t markdown page.html | tarn new"}},
         action);
-    CommandLine::addArgument(command, "TEXT", *text, "The text; standard input when there is none, or \"-\"");
+    command.addArgument("TEXT", *text, "The text; standard input when there is none, or \"-\"");
 }
 
 } // namespace tarn

@@ -78,7 +78,7 @@ void writeSummary(Output& output, const CVKTextSummary& summary)
 void addParseCommand(CommandLine& commandLine)
 {
     const auto file = std::make_shared<std::optional<std::string>>();
-    CLI::App& command
+    const Command command
         = commandLine.addCommand({.name = "parse",
                                      .summary = "Show what the Markdown parser sees in a text",
                                      .explanation = "Needs no store. Offsets count UTF-16 units.",
@@ -91,7 +91,7 @@ void addParseCommand(CommandLine& commandLine)
                     writeSummary(invocation.output, document.textSummary());
                 return ExitCode::Done;
             });
-    CommandLine::addArgument(command, "FILE", *file, "A Markdown file; standard input when there is none, or \"-\"");
+    command.addArgument("FILE", *file, "A Markdown file; standard input when there is none, or \"-\"");
 }
 
 } // namespace tarn

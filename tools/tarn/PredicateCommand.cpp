@@ -28,7 +28,7 @@ ExitCode printPredicate(const Invocation& invocation, const QueryArgument& query
 void addPredicateCommand(CommandLine& commandLine)
 {
     const auto query = std::make_shared<QueryArgument>();
-    CLI::App& command = commandLine.addCommand(
+    const Command command = commandLine.addCommand(
         {.name = "predicate",
             .summary = "Print the predicate that a search compiles to",
             .explanation

@@ -29,14 +29,14 @@ std::optional<NSPredicate> QueryArgument::predicate() const
     }
 }
 
-void QueryArgument::addTo(CLI::App& command)
+void QueryArgument::addTo(const Command& command)
 {
-    CommandLine::addArguments(command, "QUERY", words, "What to find; several words are one query")->required();
+    command.addArguments("QUERY", words, "What to find; several words are one query").required();
 }
 
-void QueryArgument::addOCRFlagTo(CLI::App& command)
+void QueryArgument::addOCRFlagTo(const Command& command)
 {
-    command.add_flag("--ocr", ocr, "Look into the recognised text of attachments as well");
+    command.addFlag("--ocr", ocr, "Look into the recognised text of attachments as well");
 }
 
 } // namespace tarn

@@ -19,8 +19,8 @@ struct QueryArgument {
     /// no predicate.
     std::optional<NSPredicate> predicate() const;
     /// Adds the argument QUERY, and --ocr where it is wanted.
-    void addTo(CLI::App& command);
-    void addOCRFlagTo(CLI::App& command);
+    void addTo(const Command& command);
+    void addOCRFlagTo(const Command& command);
 };
 
 } // namespace tarn

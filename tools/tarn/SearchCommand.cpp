@@ -10,8 +10,6 @@
 #include "tools/tarn/QueryArgument.h"
 #include "tools/tarn/StoreSession.h"
 
-#include <CLI/Validators.hpp>
-
 #include <chrono>
 #include <memory>
 
@@ -170,7 +168,7 @@ ExitCode search(const Invocation& invocation, const SearchOptions& options)
 void addSearchCommand(CommandLine& commandLine)
 {
     const auto options = std::make_shared<SearchOptions>();
-    CLI::App& command = commandLine.addCommand(
+    const Command command = commandLine.addCommand(
         {.name = "search",
             .summary = "Find notes by words, phrases, tags, dates and states",
             .explanation
@@ -191,12 +189,10 @@ void addSearchCommand(CommandLine& commandLine)
             .examples = {"tarn search '@todo #home -apple'", "tarn search '\"big red\" or @date(2021-03)'",
                 "tarn search -- -#work"}},
         [options](const Invocation& invocation) { return search(invocation, *options); });
-    command.add_option("--limit", options->limit, "At most so many notes")
-        ->check(CLI::PositiveNumber)
-        ->option_text("N");
-    command.add_flag("--count", options->countOnly, "Print how many notes there are, and none of them");
-    command.add_flag("--explain", options->explain, "Tell how the store finds them: predicate, plan and times");
-    command.add_flag("--all", options->all, "Look into archive and trash as well");
+    command.addCount("--limit", options->limit, "At most so many notes");
+    command.addFlag("--count", options->countOnly, "Print how many notes there are, and none of them");
+    command.addFlag("--explain", options->explain, "Tell how the store finds them: predicate, plan and times");
+    command.addFlag("--all", options->all, "Look into archive and trash as well");
     options->query.addOCRFlagTo(command);
     options->query.addTo(command);
 }

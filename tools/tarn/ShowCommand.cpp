@@ -36,13 +36,13 @@ void addShowCommand(CommandLine& commandLine)
             writeText(invocation.output, note);
         return ExitCode::Done;
     };
-    CLI::App& command
+    const Command command
         = commandLine.addCommand({.name = "show",
                                      .summary = "Print the text of a note",
                                      .explanation = "With --json the whole record, with the text as a key.",
                                      .examples = {"tarn show Groceries", "tarn --json show 3F2504E0"}},
             action);
-    CommandLine::addArgument(command, "NOTE", *argument, "Identifier, beginning of one, or title")->required();
+    command.addArgument("NOTE", *argument, "Identifier, beginning of one, or title").required();
 }
 
 } // namespace tarn

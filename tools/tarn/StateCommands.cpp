@@ -35,10 +35,10 @@ constexpr std::array kStateCommands{
 
 using Arguments = std::shared_ptr<std::vector<std::string>>;
 
-Arguments addNoteArguments(CLI::App& command)
+Arguments addNoteArguments(const Command& command)
 {
     auto arguments = std::make_shared<std::vector<std::string>>();
-    CommandLine::addArguments(command, "NOTE", *arguments, "Identifiers, beginnings of them, or titles")->required();
+    command.addArguments("NOTE", *arguments, "Identifiers, beginnings of them, or titles").required();
     return arguments;
 }
 
@@ -100,7 +100,7 @@ void addStateCommands(CommandLine& commandLine)
 {
     for (const StateCommand& state : kStateCommands) {
         const auto arguments = std::make_shared<Arguments>();
-        CLI::App& command = commandLine.addCommand(
+        const Command command = commandLine.addCommand(
             {.name = state.name,
                 .summary = state.summary,
                 .explanation = "When one of the notes is not found, nothing is changed.",
@@ -114,14 +114,14 @@ void addDeleteCommand(CommandLine& commandLine)
 {
     const auto arguments = std::make_shared<Arguments>();
     const auto confirmed = std::make_shared<bool>(false);
-    CLI::App& command = commandLine.addCommand(
+    const Command command = commandLine.addCommand(
         {.name = "delete",
             .summary = "Delete notes for good, trashed or not",
             .explanation = "Asks before it does. Nobody can bring them back; 'tarn trash' is the gentler way.",
             .examples = {"tarn delete 3F2504E0", "tarn delete --yes 'Old list'"}},
         [arguments, confirmed](
             const Invocation& invocation) { return deleteNotes(invocation, **arguments, *confirmed); });
-    command.add_flag("--yes", *confirmed, "Do not ask");
+    command.addFlag("--yes", *confirmed, "Do not ask");
     *arguments = addNoteArguments(command);
 }
 

@@ -172,25 +172,23 @@ constexpr std::array kTagCommands{
         Takes::Nothing, pruneTags},
 };
 
-void addArguments(CLI::App& command, TagArguments& arguments, Takes takes)
+void addArguments(const Command& command, TagArguments& arguments, Takes takes)
 {
     if (takes == Takes::Nothing)
         return;
     const bool isRename = takes == Takes::NameAndNewName;
-    CommandLine::addArgument(command, isRename ? "OLD" : "NAME", arguments.name, "The path of a tag, as \"work/acme\"")
-        ->required();
+    command.addArgument(isRename ? "OLD" : "NAME", arguments.name, "The path of a tag, as \"work/acme\"").required();
     if (isRename)
-        CommandLine::addArgument(command, "NEW", arguments.newName, "Its new path")->required();
+        command.addArgument("NEW", arguments.newName, "Its new path").required();
     if (takes == Takes::NameAndNotes)
-        CommandLine::addArguments(command, "NOTE", arguments.notes, "Identifiers, beginnings of them, or titles")
-            ->required();
+        command.addArguments("NOTE", arguments.notes, "Identifiers, beginnings of them, or titles").required();
 }
 
 } // namespace
 
 void addTagCommands(CommandLine& commandLine)
 {
-    CLI::App& group = commandLine.addGroup({.name = "tag",
+    const Command group = commandLine.addGroup({.name = "tag",
         .summary = "Add, remove, rename, delete, pin and prune tags",
         .explanation
         = "Tags live in texts: whoever changes a tag rewrites the texts of its notes. A note that is protected "
@@ -198,12 +196,12 @@ void addTagCommands(CommandLine& commandLine)
         .examples = {"tarn tag rename work 'day job'", "tarn tag add home Groceries", "tarn tag add --help"}});
     for (const TagCommand& tag : kTagCommands) {
         const auto arguments = std::make_shared<TagArguments>();
-        CLI::App& command = commandLine.addCommand(group,
+        const Command command = commandLine.addCommand(group,
             {.name = tag.name, .summary = tag.summary, .explanation = tag.explanation, .examples = {tag.example}},
             [arguments, &tag](const Invocation& invocation) { return tag.run(invocation, *arguments); });
         addArguments(command, *arguments, tag.takes);
         if (tag.run == addTag)
-            command.add_flag("--top", arguments->top, "Write the hashtag below the title instead of at the bottom");
+            command.addFlag("--top", arguments->top, "Write the hashtag below the title instead of at the bottom");
     }
 }
 

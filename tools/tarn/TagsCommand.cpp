@@ -93,13 +93,13 @@ ExitCode showTags(const Invocation& invocation, bool all)
 void addTagsCommand(CommandLine& commandLine)
 {
     const auto all = std::make_shared<bool>(false);
-    CLI::App& command = commandLine.addCommand(
+    const Command command = commandLine.addCommand(
         {.name = "tags",
             .summary = "Show the tree of tags with the number of active notes of each",
             .explanation = "A note of a nested tag counts for the tags above it as well. * marks a pinned tag.",
             .examples = {"tarn tags", "tarn --json tags --all"}},
         [all](const Invocation& invocation) { return showTags(invocation, *all); });
-    command.add_flag("--all", *all, "Also tags without active notes");
+    command.addFlag("--all", *all, "Also tags without active notes");
 }
 
 } // namespace tarn

@@ -46,22 +46,21 @@ ExitCode showURL(const Invocation& invocation, const URLArguments& arguments)
 void addURLCommand(CommandLine& commandLine)
 {
     const auto arguments = std::make_shared<URLArguments>();
-    CLI::App& command = commandLine.addCommand(
+    const Command command = commandLine.addCommand(
         {.name = "url",
             .summary = "Print the URL that opens a note or a tag",
             .explanation = "A URL with the identifier keeps leading to the note when its title changes.",
             .examples = {"tarn url Groceries --header Fruit", "tarn url --tag home/kitchen"}},
         [arguments](const Invocation& invocation) { return showURL(invocation, *arguments); });
-    CommandLine::addArgument(command, "NOTE", arguments->note, "An identifier, the beginning of one, or a title");
-    CLI::Option* title = command.add_flag("--title", arguments->title, "Name the note by its title");
-    CLI::Option* window = command.add_flag("--new-window", arguments->newWindow, "Open it in a window of its own");
-    CLI::Option* header = CommandLine::addArgument(command, "--header", arguments->header, "Open it at this heading");
-    CLI::Option* tag = CommandLine::addArgument(command, "--tag", arguments->tag, "Open this tag");
-    header->option_text("TEXT");
-    tag->option_text("NAME");
-    title->excludes(window);
-    for (CLI::Option* ofNotes : {title, window, header})
-        tag->excludes(ofNotes);
+    command.addArgument("NOTE", arguments->note, "An identifier, the beginning of one, or a title");
+    const CommandOption title = command.addFlag("--title", arguments->title, "Name the note by its title");
+    const CommandOption window
+        = command.addFlag("--new-window", arguments->newWindow, "Open it in a window of its own");
+    const CommandOption header
+        = command.addOption("--header", arguments->header, "Open it at this heading").called("TEXT");
+    const CommandOption tag = command.addOption("--tag", arguments->tag, "Open this tag").called("NAME");
+    title.excludes({window});
+    tag.excludes({title, window, header});
 }
 
 } // namespace tarn
