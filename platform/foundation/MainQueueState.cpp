@@ -218,10 +218,11 @@ std::size_t MainQueueState::runQueued(MainQueue& queue)
     std::unique_lock lock(mutex_);
     const std::uint64_t lastAtEntry = lastNumber_;
     while (!items_.empty() && items_.front().number <= lastAtEntry) {
-        const Task task = std::move(items_.front().task);
+        Task task = std::move(items_.front().task);
         items_.pop_front();
         lock.unlock();
         runTask(queue, task);
+        task = nullptr; // what goes with it may call this queue
         ++count;
         lock.lock();
     }
@@ -233,9 +234,10 @@ std::size_t MainQueueState::runKeyed(MainQueue& queue, KeyedTasks& tasks)
     std::size_t count = 0;
     std::unique_lock lock(mutex_);
     const std::uint64_t lastAtEntry = tasks.lastNumber();
-    while (const auto task = tasks.takeFirst(lastAtEntry)) {
+    while (auto task = tasks.takeFirst(lastAtEntry)) {
         lock.unlock();
         runTask(queue, *task);
+        task.reset(); // what goes with it may call this queue
         ++count;
         lock.lock();
     }

@@ -37,9 +37,10 @@ void SerialQueue::runPass(const Task& task)
     runTask(*this, task);
     std::unique_lock lock(state_->mutex);
     const std::uint64_t lastNumber = state_->endOfPass.lastNumber();
-    while (const auto atEnd = state_->endOfPass.takeFirst(lastNumber)) {
+    while (auto atEnd = state_->endOfPass.takeFirst(lastNumber)) {
         lock.unlock();
         runTask(*this, *atEnd);
+        atEnd.reset(); // what goes with it may call this queue
         lock.lock();
     }
 }

@@ -296,6 +296,21 @@ TEST(MainQueue, MayEndInItsOwnTask)
 
 // Timers --------------------------------------------------------------------------------------------------------------
 
+TEST(MainQueue, IsFreeWhenWhatATaskHeldGoesWithIt)
+{
+    MainQueue queue;
+    const auto callingTheQueue = [&queue](int*) {
+        queue.cancelAtEndOfPass(&queue);
+        queue.async([] {});
+    };
+    queue.async([last = std::shared_ptr<int>(nullptr, callingTheQueue)] {});
+    queue.postCoalesced(&queue, [last = std::shared_ptr<int>(nullptr, callingTheQueue)] {});
+    queue.runAtEndOfPass(&callingTheQueue, [last = std::shared_ptr<int>(nullptr, callingTheQueue)] {});
+
+    EXPECT_EQ(queue.drain(), 3U);
+    EXPECT_EQ(queue.drain(), 3U);
+}
+
 TEST(Timer, FiresAtTheStartOfTheNextPass)
 {
     MainQueue queue;
@@ -463,6 +478,17 @@ TEST(SerialQueue, LogsATaskThatThrowsAndGoesOn)
     queue->async([] { throw std::runtime_error("dark"); });
     waitForIdle(*queue);
     EXPECT_THAT(log.lines(), ElementsAre("A task of the queue \"cellar\" threw: dark"));
+}
+
+TEST(SerialQueue, IsFreeWhenWhatATaskHeldGoesWithIt)
+{
+    const auto queue = SerialQueue::make("holding");
+    std::promise<void> gone;
+    queue->runAtEndOfPass(&gone, [last = std::shared_ptr<int>(nullptr, [&](int*) {
+        queue->cancelAtEndOfPass(&queue);
+        gone.set_value();
+    })] {});
+    ASSERT_EQ(gone.get_future().wait_for(kLongEnough), std::future_status::ready);
 }
 
 TEST(GlobalQueue, RunsTasksSideBySide)
