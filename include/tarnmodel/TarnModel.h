@@ -10,6 +10,7 @@
 #include "platform/foundation/NSError.h"
 #include "platform/foundation/NSException.h"
 #include "platform/foundation/NSNotificationCenter.h"
+#include "platform/foundation/NSProgress.h"
 #include "platform/foundation/NSRange.h"
 #include "platform/foundation/NSUUID.h"
 #include "platform/foundation/Queue.h"
@@ -95,5 +96,13 @@
 #include "sync/OVDeviceUUID.h"
 #include "sync/TolVectorClock.h"
 
-// Watching records.
+// Folders.
+#include "files/OVLocalFileManager.h"
+
+// Opening the store, and watching records.
+#include "store/OVCoreDataStack.h"
+#include "store/OVCoreDataStackDelegate.h"
+#include "store/OVCoreDataStackForExtensions.h"
+#include "store/OVCoreDataStackForWidgets.h"
 #include "store/OVManagedObjectObserver.h"
+#include "store/VexMigrationManager.h"

@@ -1,0 +1,138 @@
+#include "platform/coredata/StoreFailure.h"
+#include "platform/coredata/StoreFileMove.h"
+#include "platform/foundation/Log.h"
+#include "platform/foundation/NSDate.h"
+#include "platform/foundation/NSProgress.h"
+#include "store/OVCoreDataStack.h"
+
+#include <algorithm>
+#include <chrono>
+#include <utility>
+
+namespace tarn {
+
+namespace {
+
+constexpr std::int64_t kProgressUnits = 100;
+
+/// Makes a progress the current one of this thread for a scope.
+class CurrentProgress {
+public:
+    CurrentProgress(NSProgress& progress, std::int64_t pendingUnits) : progress_(progress)
+    {
+        progress_.becomeCurrentWithPendingUnitCount(pendingUnits);
+    }
+    ~CurrentProgress() { progress_.resignCurrent(); }
+    CurrentProgress(const CurrentProgress&) = delete;
+    CurrentProgress& operator=(const CurrentProgress&) = delete;
+
+private:
+    NSProgress& progress_;
+};
+
+/// "database_backup 2020-01-31T101500Z.sqlite" beside the store. The name is part of the layout on disk.
+std::filesystem::path backupOfStore(const std::filesystem::path& store)
+{
+    std::string stamp = iso8601String(std::chrono::floor<std::chrono::seconds>(now()));
+    std::erase(stamp, ':');
+    return store.parent_path() / ("database_backup " + stamp + ".sqlite");
+}
+
+void setStoreAside(const std::filesystem::path& store)
+{
+    NSError error;
+    // What stays in its place cannot be opened, and the delegate hears of that.
+    if (!moveStoreFile(store, backupOfStore(store), &error))
+        logMessage("Error while setting the old store aside\n" + error.localizedDescription());
+}
+
+bool isWithoutPath(const std::optional<NSError>& error)
+{
+    return error && error->domain() == MigrationErrorDomain && error->code() == MigrationErrorNoPath;
+}
+
+} // namespace
+
+bool OVCoreDataStack::isMigrationNeeded() const
+{
+    const auto metadata
+        = NSPersistentStoreCoordinator::metadataForPersistentStoreOfType(persistentStoreType(), persistentStoreURL());
+    const auto model = metadata ? managedObjectModel() : nullptr;
+    return model && !NSPersistentStoreCoordinator::isModelCompatibleWithStoreMetadata(*model, *metadata);
+}
+
+void OVCoreDataStack::setMigrationManagerMaker(MigrationManagerMaker maker)
+{
+    makeMigrationManager_ = std::move(maker);
+}
+
+void OVCoreDataStack::migrate()
+{
+    if (migrationQueue_)
+        return;
+    migrationQueue_ = SerialQueue::make("migrationQueue");
+    const auto progress = NSProgress::progressWithTotalUnitCount(kProgressUnits);
+    if (OVCoreDataStackDelegate* const listener = delegate())
+        listener->coreDataStackDidBeginMigrationWithProgress(*this, progress);
+    // The destructor waits for this task, not for the one that it leaves on the main queue.
+    migrationQueue_->async([this, progress] {
+        MigrationEnd end = [&] {
+            const CurrentProgress current(*progress, 0);
+            return runMigration();
+        }();
+        MainQueue::main().async([this, stack = lifeline(), end = std::move(end)] {
+            if (!stack.expired())
+                endMigration(end);
+        });
+    });
+}
+
+OVCoreDataStack::MigrationEnd OVCoreDataStack::runMigration()
+{
+    MigrationEnd end;
+    try {
+        const auto manager = makeMigrationManager_ ? makeMigrationManager_() : std::make_unique<VexMigrationManager>();
+        manager->setDelegate(this);
+        NSError error;
+        const auto model = managedObjectModel(&error);
+        if (!model || !manager->progressivelyMigrateURL(persistentStoreURL(), persistentStoreType(), *model, &error))
+            end.error = error;
+        end.migratedVersions = manager->migratedVersions();
+        if (isWithoutPath(end.error)) {
+            setStoreAside(persistentStoreURL());
+            end.error.reset();
+        }
+    } catch (...) {
+        end.error = errorOfCurrentException();
+    }
+    return end;
+}
+
+void OVCoreDataStack::migrationManagerMigrationProgress(VexMigrationManager&, float progress)
+{
+    if (const auto current = NSProgress::currentProgress())
+        current->setCompletedUnitCount(static_cast<std::int64_t>(progress * static_cast<float>(kProgressUnits)));
+}
+
+void OVCoreDataStack::endMigration(const MigrationEnd& end)
+{
+    migrationQueue_.reset();
+    if (OVCoreDataStackDelegate* const listener = delegate())
+        listener->coreDataStackDidEndMigration(*this, end.error, end.migratedVersions);
+    else if (end.error)
+        logMessage("Error while migrating the store\n" + end.error->localizedDescription());
+    if (!end.error)
+        setupStack();
+}
+
+void OVCoreDataStack::waitForMigration()
+{
+    try {
+        if (migrationQueue_)
+            migrationQueue_->sync([] {});
+    } catch (const std::exception& failure) {
+        logMessage(std::string("Error while waiting for the migration\n") + failure.what());
+    }
+}
+
+} // namespace tarn

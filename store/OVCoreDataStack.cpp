@@ -1,0 +1,229 @@
+#include "store/OVCoreDataStack.h"
+
+#include "files/OVLocalFileManager.h"
+#include "model/ManagedObjectModel.h"
+#include "platform/foundation/Log.h"
+#include "platform/foundation/NSException.h"
+
+#include <utility>
+
+namespace tarn {
+
+namespace {
+
+constexpr std::string_view kStoreFileName = "database.sqlite";
+constexpr long kNeedsMigrationCode = 1;
+constexpr std::string_view kNeedsMigration = "The database need migration, open the main application";
+
+} // namespace
+
+OVCoreDataStack& OVCoreDataStack::sharedStack()
+{
+    static auto* const stack = new OVCoreDataStack;
+    return *stack;
+}
+
+OVCoreDataStack::OVCoreDataStack() = default;
+
+OVCoreDataStack::~OVCoreDataStack()
+{
+    if (coalescenceSaveTimer_)
+        coalescenceSaveTimer_->invalidate();
+    waitForMigration();
+}
+
+// Setting up ----------------------------------------------------------------------------------------------------------
+
+void OVCoreDataStack::setDelegate(OVCoreDataStackDelegate* delegate)
+{
+    delegate_ = WeakReference<OVCoreDataStackDelegate>(delegate);
+}
+
+void OVCoreDataStack::setupStackWithDelegate(OVCoreDataStackDelegate* delegate)
+{
+    setDelegate(delegate);
+    if (isMigrationNeeded())
+        migrate();
+    else
+        setupStack();
+}
+
+void OVCoreDataStack::setupStack()
+{
+    initializeCoreData();
+    initializeInMemoryContext();
+    OVCoreDataStackDelegate* const listener = delegate();
+    if (listener && managedObjectContext_)
+        listener->coreDataStackDidInitializeManagedObjectContext(*this, *managedObjectContext_);
+}
+
+void OVCoreDataStack::initializeCoreData()
+{
+    if (managedObjectContext_)
+        return;
+    NSError error;
+    if (openStore(NSManagedObjectContext::ConcurrencyType::MainQueue, &error))
+        return;
+    if (OVCoreDataStackDelegate* const listener = delegate())
+        listener->coreDataStackDidFailToInitializeManagedObjectContext(*this, error);
+    else
+        logMessage("Error while opening the store\n" + error.localizedDescription());
+}
+
+bool OVCoreDataStack::openStore(NSManagedObjectContext::ConcurrencyType type, NSError* error)
+{
+    auto model = managedObjectModel(error);
+    if (!model)
+        return false;
+    auto coordinator = std::make_shared<NSPersistentStoreCoordinator>(std::move(model));
+    if (!coordinator->addPersistentStoreWithType(
+            persistentStoreType(), persistentStoreURL(), persistentStoreOptions(), error))
+        return false;
+    auto context = std::make_shared<NSManagedObjectContext>(type);
+    context->setPersistentStoreCoordinator(std::move(coordinator));
+    context->setMergePolicy(NSMergePolicy::MergeByPropertyStoreTrump);
+    // A task in the background may hold the context when the stack has ended.
+    context->setMergeConflictHandler([this, stack = lifeline()](const MergeConflict& conflict) {
+        if (!stack.expired())
+            tellOfConflict(conflict);
+    });
+    managedObjectContext_ = std::move(context);
+    return true;
+}
+
+void OVCoreDataStack::initializeInMemoryContext()
+{
+    if (inMemoryManagedObjectContext_)
+        return;
+    auto model = managedObjectModel();
+    if (!model)
+        return;
+    auto coordinator = std::make_shared<NSPersistentStoreCoordinator>(std::move(model));
+    coordinator->addPersistentStoreWithType(StoreType::InMemory, {}, {});
+    inMemoryManagedObjectContext_
+        = std::make_unique<NSManagedObjectContext>(NSManagedObjectContext::ConcurrencyType::MainQueue);
+    inMemoryManagedObjectContext_->setPersistentStoreCoordinator(std::move(coordinator));
+    inMemoryManagedObjectContext_->setMergePolicy(NSMergePolicy::MergeByPropertyObjectTrump);
+}
+
+void OVCoreDataStack::tellOfConflict(const MergeConflict& conflict)
+{
+    if (OVCoreDataStackDelegate* const listener = delegate())
+        listener->coreDataStackDidMergeConflict(*this, conflict);
+}
+
+// Work in the background ----------------------------------------------------------------------------------------------
+
+std::unique_ptr<NSManagedObjectContext> OVCoreDataStack::backgroundPrivateManagedObjectContext()
+{
+    if (!managedObjectContext_)
+        throw NSException(NSInternalInconsistencyException, "The store stack has no main context");
+    auto context = std::make_unique<NSManagedObjectContext>(NSManagedObjectContext::ConcurrencyType::PrivateQueue);
+    managedObjectContext_->performBlockAndWait([&] { context->setParentContext(*managedObjectContext_); });
+    return context;
+}
+
+void OVCoreDataStack::performBackgroundTask(std::function<void(NSManagedObjectContext&)> block)
+{
+    if (MainQueue::main().isCurrent()) {
+        runInBackground(std::move(block));
+        return;
+    }
+    MainQueue::main().async([this, stack = lifeline(), block = std::move(block)]() mutable {
+        if (!stack.expired())
+            runInBackground(std::move(block));
+    });
+}
+
+void OVCoreDataStack::runInBackground(std::function<void(NSManagedObjectContext&)> block)
+{
+    std::shared_ptr<NSManagedObjectContext> child = backgroundPrivateManagedObjectContext();
+    // The last reference to the main context must go on its own queue, so it travels with the task to be run there.
+    const auto saveMainContext = [this, stack = lifeline()](std::shared_ptr<NSManagedObjectContext> parent) {
+        NSManagedObjectContext& context = *parent;
+        context.performBlock([this, stack, parent = std::move(parent)] {
+            if (!stack.expired())
+                saveUsingCoalescence(false);
+        });
+    };
+    NSManagedObjectContext& context = *child;
+    context.performBlock(
+        [&context, block = std::move(block), saveMainContext, parent = managedObjectContext_]() mutable {
+            try {
+                block(context);
+            } catch (...) {
+                saveMainContext(std::move(parent));
+                throw; // to the log of the queue
+            }
+            saveMainContext(std::move(parent));
+        });
+    // After the end of the pass of the block, where the child has its changes to tell.
+    context.performBlock([child = std::move(child)]() mutable { child.reset(); });
+}
+
+// Saving --------------------------------------------------------------------------------------------------------------
+
+void OVCoreDataStack::saveUsingCoalescence(bool coalescence)
+{
+    if (coalescenceSaveTimer_)
+        coalescenceSaveTimer_->invalidate();
+    coalescenceSaveTimer_.reset();
+    if (coalescence)
+        coalescenceSaveTimer_ = Timer::scheduleAfterPass(MainQueue::main(), [this] { coalescenceSaveTimerFired(); });
+    else
+        save();
+}
+
+void OVCoreDataStack::coalescenceSaveTimerFired()
+{
+    saveUsingCoalescence(false);
+}
+
+void OVCoreDataStack::save()
+{
+    if (!managedObjectContext_)
+        return;
+    NSError error;
+    bool saved = true;
+    managedObjectContext_->performBlockAndWait([&] {
+        if (managedObjectContext_->hasChanges())
+            saved = managedObjectContext_->save(&error);
+    });
+    if (saved)
+        return;
+    logMessage("Error while saving\n" + error.localizedDescription());
+    if (OVCoreDataStackDelegate* const listener = delegate())
+        listener->coreDataStackDidFailToSave(*this, error);
+}
+
+// The store -----------------------------------------------------------------------------------------------------------
+
+std::shared_ptr<const NSManagedObjectModel> OVCoreDataStack::managedObjectModel(NSError* error) const
+{
+    return OVManagedObjectModel::current(error);
+}
+
+std::optional<std::filesystem::path> OVCoreDataStack::managedObjectModelURL() const
+{
+    return OVManagedObjectModel::modelURL();
+}
+
+std::filesystem::path OVCoreDataStack::persistentStoreURL() const
+{
+    return OVLocalFileManager::applicationPersistentDataURL() / kStoreFileName;
+}
+
+StoreOptions OVCoreDataStack::persistentStoreOptions() const
+{
+    return {.pragmas = {{"journal_mode", "DELETE"}}, .inferMappingModelAutomatically = true};
+}
+
+bool OVCoreDataStack::refusesToMigrate(std::string_view domain, NSError* error) const
+{
+    if (!isMigrationNeeded())
+        return false;
+    assignError(error, NSError(domain, kNeedsMigrationCode, kNeedsMigration));
+    return true;
+}
+
+} // namespace tarn

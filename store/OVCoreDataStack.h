@@ -1,0 +1,126 @@
+#pragma once
+
+#include "platform/coredata/NSManagedObjectContext.h"
+#include "platform/coredata/NSPersistentStoreCoordinator.h"
+#include "platform/foundation/Queue.h"
+#include "platform/foundation/WeakReference.h"
+#include "store/OVCoreDataStackDelegate.h"
+#include "store/VexMigrationManager.h"
+
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace tarn {
+
+/// Opens the one store of an application, migrates it first when it is old, and offers the contexts on it.
+///
+/// Call it on the main queue, where its delegate and its timer are called too; `sharedStack`, `performBackgroundTask`,
+/// `isMigrationNeeded` and what names the store may be called by any thread. It ends on the main queue.
+///
+///     OVCoreDataStack::sharedStack().setupStackWithDelegate(&application);
+///     OVNote::noteWithText("# Groceries", *OVCoreDataStack::sharedStack().managedObjectContext());
+///     OVCoreDataStack::sharedStack().saveUsingCoalescence(true);
+class OVCoreDataStack : public VexMigrationManagerDelegate {
+public:
+    /// Makes what migrates a store, once for each migration; called on the queue of the migration.
+    using MigrationManagerMaker = std::function<std::unique_ptr<VexMigrationManager>()>;
+
+    /// The one of this process, made at the first call; never destroyed.
+    static OVCoreDataStack& sharedStack();
+
+    OVCoreDataStack();
+    /// Takes back a pending save and waits for a migration that is under way.
+    ~OVCoreDataStack() override;
+    OVCoreDataStack(const OVCoreDataStack&) = delete;
+    OVCoreDataStack& operator=(const OVCoreDataStack&) = delete;
+
+    // Setting up ----------------------------------------------------------------------------------------------------
+    /// Sets the delegate, then opens the store; one that needs migration is migrated in the background before.
+    virtual void setupStackWithDelegate(OVCoreDataStackDelegate* delegate);
+    /// Makes both contexts and tells the delegate when the main one is there.
+    virtual void setupStack();
+    /// Opens the store, or makes a new one, with the main context on it. A failure goes to the delegate, and there is
+    /// no main context. Does nothing when there is one.
+    void initializeCoreData();
+    /// Makes the scratch context. Does nothing when there is one.
+    void initializeInMemoryContext();
+
+    OVCoreDataStackDelegate* delegate() const noexcept { return delegate_.get(); }
+    void setDelegate(OVCoreDataStackDelegate* delegate);
+
+    // Contexts ------------------------------------------------------------------------------------------------------
+    /// Null before the store was opened.
+    NSManagedObjectContext* managedObjectContext() const noexcept { return managedObjectContext_.get(); }
+    /// Over a store in memory, for records that are never saved. Null before `setupStack`.
+    NSManagedObjectContext* inMemoryManagedObjectContext() const noexcept
+    {
+        return inMemoryManagedObjectContext_.get();
+    }
+    /// A new child of the main context on a queue of its own, for work in the background. Let it end on that queue, or
+    /// when nothing runs on it any more. Raises `NSInternalInconsistencyException` without a main context.
+    std::unique_ptr<NSManagedObjectContext> backgroundPrivateManagedObjectContext();
+    /// Calls `block` with such a child, on its queue; then the main context is saved. What the block wants to keep it
+    /// saves into the main context by saving the child, which ends after the block. Returns at once.
+    void performBackgroundTask(std::function<void(NSManagedObjectContext&)> block);
+
+    // Saving --------------------------------------------------------------------------------------------------------
+    /// Saves the main context if it has changes: now, or with `coalescence` once at the start of the queue's next pass,
+    /// however often it is asked for in this one. A failure goes to the log and the delegate; the changes stay.
+    void saveUsingCoalescence(bool coalescence);
+    void coalescenceSaveTimerFired();
+    /// The pending save, or none.
+    const std::optional<Timer>& coalescenceSaveTimer() const noexcept { return coalescenceSaveTimer_; }
+
+    // Migration -----------------------------------------------------------------------------------------------------
+    /// Whether there is a store that another version of the model wrote. NO without one, or when it is unreadable.
+    bool isMigrationNeeded() const;
+    /// Migrates the store on a queue of its own, then sets up the stack. A store that cannot be migrated is kept beside
+    /// the new one as "database_backup <time>.sqlite". Does nothing while a migration is under way.
+    virtual void migrate();
+    /// For tests, and for hosts that bring their own; an empty maker restores the library's.
+    void setMigrationManagerMaker(MigrationManagerMaker maker);
+    /// Moves the current progress of the calling thread.
+    void migrationManagerMigrationProgress(VexMigrationManager& manager, float progress) override;
+
+    // The store -----------------------------------------------------------------------------------------------------
+    /// Read at first use; null when the resources are missing, which `setupStack` reports.
+    std::shared_ptr<const NSManagedObjectModel> managedObjectModel(NSError* error = nullptr) const;
+    /// The folder of all versions of the model.
+    std::optional<std::filesystem::path> managedObjectModelURL() const;
+    /// "database.sqlite" in the persistent data folder.
+    std::filesystem::path persistentStoreURL() const;
+    virtual StoreOptions persistentStoreOptions() const;
+    StoreType persistentStoreType() const noexcept { return StoreType::SQLite; }
+
+protected:
+    /// Opens the store and makes the main context on it; false and an error when that fails.
+    bool openStore(NSManagedObjectContext::ConcurrencyType type, NSError* error);
+    /// True, and an error of this domain, when the store needs migration, which is left to the main application.
+    bool refusesToMigrate(std::string_view domain, NSError* error) const;
+
+private:
+    struct MigrationEnd {
+        std::optional<NSError> error;
+        std::vector<std::string> migratedVersions;
+    };
+
+    MigrationEnd runMigration();
+    void endMigration(const MigrationEnd& end);
+    void waitForMigration();
+    void runInBackground(std::function<void(NSManagedObjectContext&)> block);
+    void save();
+    void tellOfConflict(const MergeConflict& conflict);
+
+    WeakReference<OVCoreDataStackDelegate> delegate_;
+    MigrationManagerMaker makeMigrationManager_;
+    std::shared_ptr<NSManagedObjectContext> managedObjectContext_; ///< shared with tasks in the background alone
+    std::unique_ptr<NSManagedObjectContext> inMemoryManagedObjectContext_;
+    std::optional<Timer> coalescenceSaveTimer_;
+    std::shared_ptr<SerialQueue> migrationQueue_; ///< while a migration is under way
+};
+
+} // namespace tarn

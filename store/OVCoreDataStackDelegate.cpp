@@ -1,0 +1,20 @@
+#include "store/OVCoreDataStackDelegate.h"
+
+namespace tarn {
+
+void OVCoreDataStackDelegate::coreDataStackDidInitializeManagedObjectContext(OVCoreDataStack&, NSManagedObjectContext&)
+{ }
+
+void OVCoreDataStackDelegate::coreDataStackDidBeginMigrationWithProgress(
+    OVCoreDataStack&, const std::shared_ptr<NSProgress>&)
+{ }
+
+void OVCoreDataStackDelegate::coreDataStackDidEndMigration(
+    OVCoreDataStack&, const std::optional<NSError>&, const std::vector<std::string>&)
+{ }
+
+void OVCoreDataStackDelegate::coreDataStackDidFailToSave(OVCoreDataStack&, const NSError&) { }
+
+void OVCoreDataStackDelegate::coreDataStackDidMergeConflict(OVCoreDataStack&, const MergeConflict&) { }
+
+} // namespace tarn

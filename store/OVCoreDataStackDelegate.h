@@ -1,0 +1,45 @@
+#pragma once
+
+#include "platform/foundation/NSError.h"
+#include "platform/foundation/WeakReference.h"
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace tarn {
+
+class NSManagedObjectContext;
+class NSProgress;
+class OVCoreDataStack;
+struct MergeConflict;
+
+/// What a store stack tells its owner, always on the main queue.
+///
+/// A stack does not keep its delegate alive and stops calling it once it has ended; let it end on the main queue's
+/// thread.
+class OVCoreDataStackDelegate : public WeaklyReferenced {
+public:
+    virtual ~OVCoreDataStackDelegate() = default;
+
+    /// The main context is ready.
+    virtual void coreDataStackDidInitializeManagedObjectContext(
+        OVCoreDataStack& stack, NSManagedObjectContext& context);
+    /// The store could not be opened; there is no main context.
+    virtual void coreDataStackDidFailToInitializeManagedObjectContext(OVCoreDataStack& stack, const NSError& error) = 0;
+    /// A migration begins. Of 100 units; it moves on another thread.
+    virtual void coreDataStackDidBeginMigrationWithProgress(
+        OVCoreDataStack& stack, const std::shared_ptr<NSProgress>& progress);
+    /// The migration has ended: without an error when the store is current now, or was set aside for a new one.
+    /// `migratedVersions`: the models that the store was brought to, in order.
+    virtual void coreDataStackDidEndMigration(OVCoreDataStack& stack, const std::optional<NSError>& migrationError,
+        const std::vector<std::string>& migratedVersions);
+
+    /// The stack could not save the main context. Its changes are still there, and the next save tries again.
+    virtual void coreDataStackDidFailToSave(OVCoreDataStack& stack, const NSError& error);
+    /// A save of the main context met another writer's changes, and values gave way to those of the other side.
+    virtual void coreDataStackDidMergeConflict(OVCoreDataStack& stack, const MergeConflict& conflict);
+};
+
+} // namespace tarn

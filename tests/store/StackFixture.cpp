@@ -1,0 +1,208 @@
+#include "tests/store/StackFixture.h"
+
+#include "model/ManagedObjectModel.h"
+#include "model/OVNote.h"
+#include "platform/foundation/NSProgress.h"
+#include "platform/foundation/NSUUID.h"
+
+#include <algorithm>
+#include <fstream>
+#include <sstream>
+#include <thread>
+
+namespace tarn {
+
+namespace fs = std::filesystem;
+
+// What it hears
+// ---------------------------------------------------------------------------------------------------------
+
+namespace {
+
+void expectMainQueue()
+{
+    EXPECT_TRUE(MainQueue::main().isCurrent()) << "a delegate is called on the main queue";
+}
+
+} // namespace
+
+void StackListener::coreDataStackDidInitializeManagedObjectContext(
+    OVCoreDataStack& stack, NSManagedObjectContext& context)
+{
+    expectMainQueue();
+    EXPECT_EQ(&context, stack.managedObjectContext());
+    events.emplace_back("initialized");
+}
+
+void StackListener::coreDataStackDidFailToInitializeManagedObjectContext(OVCoreDataStack& stack, const NSError& failure)
+{
+    expectMainQueue();
+    EXPECT_FALSE(stack.managedObjectContext());
+    error = failure;
+    events.emplace_back("failed");
+}
+
+void StackListener::coreDataStackDidBeginMigrationWithProgress(
+    OVCoreDataStack& stack, const std::shared_ptr<NSProgress>& begun)
+{
+    expectMainQueue();
+    EXPECT_FALSE(stack.managedObjectContext());
+    progress = begun;
+    events.push_back("migration of " + std::to_string(begun->totalUnitCount()));
+}
+
+void StackListener::coreDataStackDidEndMigration(OVCoreDataStack& stack, const std::optional<NSError>& migrationError,
+    const std::vector<std::string>& migratedVersions)
+{
+    expectMainQueue();
+    EXPECT_FALSE(stack.managedObjectContext()) << "contexts come after the end is told";
+    error = migrationError;
+    std::string event = migrationError ? "migration failed:" : "migrated:";
+    for (const std::string& version : migratedVersions)
+        event += " " + version;
+    events.push_back(event);
+}
+
+void StackListener::coreDataStackDidFailToSave(OVCoreDataStack&, const NSError& failure)
+{
+    expectMainQueue();
+    error = failure;
+    events.emplace_back("not saved");
+}
+
+void StackListener::coreDataStackDidMergeConflict(OVCoreDataStack&, const MergeConflict& conflict)
+{
+    expectMainQueue();
+    std::string event = "conflict:";
+    for (const std::string& property : conflict.properties)
+        event += " " + property;
+    events.push_back(event);
+}
+
+// The folder
+// ------------------------------------------------------------------------------------------------------------
+
+StackFixture::StackFixture()
+    : folder_(fs::temp_directory_path() / ("tarn stäck " + newUUIDString())),
+      previousHost_(setHostUUIDProvider([](std::chrono::seconds) {
+          return HostUUID{HostUUIDStatus::Known, *bytesOfUUIDString("01020304-0506-4708-890A-0B0C0D0E0F10")};
+      }))
+{
+    MainQueue::main();                                                   // this thread is its owner
+    world_.setNow(dateWithMicrosecondsSince1970(1'580'465'700'250'000)); // 2020-01-31 10:15:00.25
+    world_.setTimeZoneIdentifier("Europe/Berlin");
+    fs::create_directories(folder_);
+    OVLocalFileManager::setApplicationPersistentDataTestURL(folder_);
+}
+
+StackFixture::~StackFixture()
+{
+    OVLocalFileManager::setApplicationPersistentDataTestURL(std::nullopt);
+    setHostUUIDProvider(previousHost_);
+    std::error_code failure;
+    fs::remove_all(folder_, failure);
+}
+
+void StackFixture::TearDown()
+{
+    MainQueue::main().drain();
+    EXPECT_THAT(takeLog(), testing::IsEmpty()) << "unexpected log messages";
+}
+
+std::vector<std::string> StackFixture::files() const
+{
+    std::vector<std::string> names;
+    for (const fs::directory_entry& entry : fs::directory_iterator(folder_))
+        names.push_back(entry.path().filename().string());
+    std::ranges::sort(names);
+    return names;
+}
+
+std::string StackFixture::bytesOf(const fs::path& file)
+{
+    std::ifstream stream(file, std::ios::binary);
+    EXPECT_TRUE(stream.is_open()) << file;
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+void StackFixture::makeStore(const std::shared_ptr<const NSManagedObjectModel>& model)
+{
+    NSError error;
+    NSPersistentStoreCoordinator coordinator(model);
+    ASSERT_TRUE(coordinator.addPersistentStoreWithType(StoreType::SQLite, storeFile(), {}, &error)) << error;
+}
+
+void StackFixture::makeStoreOfVersion(std::string_view version)
+{
+    NSError error;
+    const auto file = OVManagedObjectModel::modelURLForVersion(version);
+    ASSERT_TRUE(file) << version;
+    const auto model = NSManagedObjectModel::modelWithContentsOfFile(*file, &error);
+    ASSERT_TRUE(model) << error;
+    makeStore(model);
+}
+
+void StackFixture::makeStoreOfUnknownModel()
+{
+    NSError error;
+    const auto model = NSManagedObjectModel::modelWithText(
+        R"({"version": "Other", "entities": [{"name": "Thing", "attributes": [{"name": "size", "type": "int64"}]}]})",
+        &error);
+    ASSERT_TRUE(model) << error;
+    makeStore(model);
+}
+
+void StackFixture::runUntil(const std::function<bool()>& done)
+{
+    EXPECT_TRUE(MainQueue::main().runUntil(done, std::chrono::seconds(10))) << "it did not happen";
+}
+
+OVNote& StackFixture::noteTitled(std::string_view title, NSManagedObjectContext& context)
+{
+    OVNote* note = OVNote::insertInManagedObjectContext(context);
+    note->setTitle(title);
+    return *note;
+}
+
+std::vector<std::string> StackFixture::titlesIn(NSManagedObjectContext& context)
+{
+    std::vector<std::string> titles;
+    for (NSManagedObject* record :
+        context.executeFetchRequest(NSFetchRequest(OVNote::entityInManagedObjectContext(context))))
+        titles.push_back(static_cast<OVNote*>(record)->title().value_or("-"));
+    return titles;
+}
+
+std::vector<std::string> StackFixture::titlesInStore() const
+{
+    NSError error;
+    auto coordinator = std::make_shared<NSPersistentStoreCoordinator>(OVManagedObjectModel::current());
+    EXPECT_TRUE(coordinator->addPersistentStoreWithType(
+        StoreType::SQLite, storeFile(), {.readOnly = true, .createIfMissing = false}, &error))
+        << error;
+    NSManagedObjectContext context(NSManagedObjectContext::ConcurrencyType::MainQueue);
+    context.setPersistentStoreCoordinator(coordinator);
+    return titlesIn(context);
+}
+
+// Files that are left alone
+// -----------------------------------------------------------------------------------------------
+
+UntouchedFile::UntouchedFile(fs::path file) : file_(std::move(file))
+{
+    // Long ago, so that any change shows, however coarse the clock of the file system is.
+    fs::last_write_time(file_, fs::last_write_time(file_) - std::chrono::hours(24));
+    std::ifstream stream(file_, std::ios::binary);
+    bytes_.assign(std::istreambuf_iterator<char>(stream), {});
+    time_ = fs::last_write_time(file_);
+}
+
+void UntouchedFile::expectUntouched() const
+{
+    std::ifstream stream(file_, std::ios::binary);
+    EXPECT_TRUE(stream.is_open());
+    EXPECT_TRUE(bytes_ == std::string(std::istreambuf_iterator<char>(stream), {})) << "bytes of " << file_;
+    EXPECT_EQ(fs::last_write_time(file_), time_) << file_;
+}
+
+} // namespace tarn
