@@ -12,7 +12,7 @@ namespace tarn {
 // Signatures tell which texts cannot contain a string. They stand in store files: docs/file-format.md says how they are
 // made, and whoever changes the grams, the hash, the rounding or the order of bits raises `signatureFormat`.
 
-/// The hashes of a folded text's grams, each once, ascending: one for every three code points in a row, three for every
+/// The hashes of a folded text's distinct grams, ascending: one for every three code points in a row, three for every
 /// two of which one is at or above U+2E80, where words are short.
 ///
 /// What a folded text contains has no gram that the text lacks.

@@ -121,6 +121,34 @@ TEST(SubstringSignature, NeverHidesAPartOfItsText)
     EXPECT_GT(contained, 2'500);
 }
 
+/// The bits as the format says, from the hashes one by one.
+std::string signatureByHand(std::string_view text)
+{
+    const auto hashes = gramHashes(fold(text));
+    std::string signature = signatureOfNothing();
+    signature.resize(signatureHeaderSize + (hashes.size() + 3) / 4);
+    const std::uint64_t bits = (signature.size() - signatureHeaderSize) * 8;
+    for (const std::uint64_t hash : hashes) {
+        const std::uint64_t index = hash * bits >> 32U;
+        signature[signatureHeaderSize + index / 8] |= static_cast<char>(1U << index % 8);
+    }
+    return signature;
+}
+
+TEST(SubstringSignature, IsTheSameWhicheverWayItsGramsAreCollected)
+{
+    using namespace std::literals;
+    for (const std::string_view text : {""sv, "pears"sv, "\0\0\0\0"sv, "a\0\0\0b"sv, "\x7f\x7f\x7f"sv, "Straße"sv,
+             "éabcé"sv, "abé"sv, "日本ab日本abc語"sv, "\xFF\xFE ab"sv, "Ж да Ж да нет, yes yes 日本"sv})
+        EXPECT_EQ(hex(signatureOfText(text)), hex(signatureByHand(text))) << text;
+    std::mt19937 random(20261121);
+    std::string text;
+    for (int i = 0; i < 20'000; ++i)
+        text += i % 5 ? std::string(1, static_cast<char>(random() % 128)) : fmt::format("é日{} ", random() % 1000);
+    EXPECT_EQ(signatureOfText(text), signatureByHand(text));
+    EXPECT_EQ(signatureOfText("after another"), signatureByHand("after another"));
+}
+
 TEST(SubstringSignature, LeavesOutNearlyAllTextsWithoutTheNeedle)
 {
     std::mt19937_64 random(7);
