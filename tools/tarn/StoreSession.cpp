@@ -1,5 +1,6 @@
 #include "tools/tarn/StoreSession.h"
 
+#include "files/OVLocalFileManager.h"
 #include "model/ManagedObjectModel.h"
 #include "model/OVChange.h"
 #include "platform/foundation/Environment.h"
@@ -56,9 +57,7 @@ fs::path storeFolderOf(const Invocation& invocation)
     const Environment& environment = Environment::current();
     if (const auto folder = environment.variable("TARN_STORE"); folder && !folder->empty())
         return *folder;
-    // By the rules of XDG a relative folder counts as none.
-    const fs::path data = environment.variable("XDG_DATA_HOME").value_or("");
-    return (data.is_absolute() ? data : environment.homeDirectory() / ".local" / "share") / "tarn";
+    return OVLocalFileManager::applicationGroupURL();
 }
 
 fs::path databaseInStoreFolder(const fs::path& folder)
