@@ -247,11 +247,14 @@ int SQLiteConnection::waitForLock(void* connection, int attempt)
     return 1;
 }
 
-void SQLiteConnection::fail(int result, std::string_view doing) const
+void SQLiteConnection::fail(int result, std::string_view doing)
 {
     const char* detail = handle_ ? sqlite3_errmsg(handle_) : nullptr;
     const int extended = handle_ ? sqlite3_extended_errcode(handle_) : result;
-    throw failureOf(result, extended, detail, std::string(doing.substr(0, 200)));
+    StoreFailure failure = failureOf(result, extended, detail, std::string(doing.substr(0, 200)));
+    if (handle_ && !isInTransaction())
+        failureOutsideOfTransaction_ = failure.error();
+    throw failure;
 }
 
 sqlite3_stmt* SQLiteConnection::prepareNew(std::string_view sql)

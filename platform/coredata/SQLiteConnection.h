@@ -1,11 +1,14 @@
 #pragma once
 
+#include "platform/foundation/NSError.h"
+
 #include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
 #include <list>
 #include <map>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -111,7 +114,9 @@ public:
 
     sqlite3* handle() const noexcept { return handle_; }
     /// The last result of this connection as a failure.
-    [[noreturn]] void fail(int result, std::string_view doing) const;
+    [[noreturn]] void fail(int result, std::string_view doing);
+    /// What a transaction came to its end by when SQLite rolled it back by itself. Of no meaning while one is open.
+    const std::optional<NSError>& failureOutsideOfTransaction() const noexcept { return failureOutsideOfTransaction_; }
 
 private:
     friend class SQLiteStatement;
@@ -129,7 +134,8 @@ private:
     std::uint32_t jitter_ = 0;
     std::size_t inUse_ = 0;
     bool waits_ = true;
-    Cache cache_; ///< the latest used first
+    std::optional<NSError> failureOutsideOfTransaction_; ///< since the last transaction began
+    Cache cache_;                                        ///< the latest used first
     std::unordered_map<std::string_view, Cache::iterator> cachedByText_;
 };
 

@@ -162,6 +162,10 @@ void SQLiteRowWriter::insert(const StoreRow& row)
                 bindShadow(statement, parameter++, *column, row);
         statement.run();
     }
+    if (!firstInsertedTable_) {
+        firstInsertedTable_ = &table;
+        firstInsertedKey_ = row.key;
+    }
     awaitTargets(table, plan.columns, row);
     const auto isSet = [&](const StoreColumn* column) { return hasValue(*column, row); };
     writeSignatures(table, plan.columns, row);
@@ -169,6 +173,11 @@ void SQLiteRowWriter::insert(const StoreRow& row)
         return;
     writeLarge(table, plan.largeColumns, row);
     writeSignatures(table, plan.largeColumns, row);
+}
+
+bool SQLiteRowWriter::findsInsertedRows()
+{
+    return firstInsertedTable_ && exists(*firstInsertedTable_, firstInsertedKey_);
 }
 
 /// After the columns: triggers have made the signatures stale, as they do whoever writes.

@@ -38,6 +38,9 @@ public:
     void changeJoins(std::span<const JoinChange> changes);
     /// Writes nil to the to-ones whose targets did not come. Before the commit.
     void clearMissingTargets();
+    /// After a commit of which nobody knows how it ended: whether the rows that were inserted are there. Keys are given
+    /// out once, so nobody else can have made them. NO when nothing was inserted.
+    bool findsInsertedRows();
 
 private:
     struct InsertPlan {
@@ -67,6 +70,8 @@ private:
     DerivedValues derived_ = DerivedValues::Written;
     bool hasWrittenSignatures_ = false;
     std::unordered_map<const NSEntityDescription*, InsertPlan> insertPlans_;
+    const StoreTable* firstInsertedTable_ = nullptr; ///< null before the first row
+    std::int64_t firstInsertedKey_ = 0;
     std::vector<AwaitedTarget> awaited_;
     std::vector<std::string> foldedTexts_; ///< what the statement in hand has bound
 };

@@ -2,6 +2,7 @@
 
 #include "platform/coredata/SQLiteStore.h"
 #include "platform/coredata/StoreFailure.h"
+#include "platform/foundation/Log.h"
 
 namespace tarn {
 
@@ -30,9 +31,13 @@ void SQLiteTransaction::finish(WritingEnd end) noexcept
 
 void SQLiteTransaction::requireOpen() const
 {
-    // After some failures (a full disk, for one) SQLite rolls back by itself; what came next would stand alone.
-    if (finished_ || !connection_.isInTransaction())
+    if (finished_)
         throw StoreFailure(StoreErrorGeneric, "The transaction is over.");
+    // After some failures (a full disk, for one) SQLite rolls back by itself; what came next would stand alone. When a
+    // failure was not this transaction's own (will-save observers read and take keys), it is told here.
+    if (!connection_.isInTransaction())
+        throw StoreFailure(connection_.failureOutsideOfTransaction().value_or(
+            NSError(TarnStoreErrorDomain, StoreErrorGeneric, "The transaction is over.")));
 }
 
 bool SQLiteTransaction::insertRow(const StoreRow& row, NSError* error)
@@ -78,17 +83,35 @@ bool SQLiteTransaction::commit(NSError* error)
         assignError(error, NSError(TarnStoreErrorDomain, StoreErrorGeneric, "The transaction is over."));
         return false;
     }
-    const bool committed = reportingFailure(error, [&] {
+    NSError failure;
+    bool committed = reportingFailure(&failure, [&] {
         requireOpen();
         writer_.clearMissingTargets();
         if (writer_.hasWrittenSignatures())
             store_.fillSomeSignatures(connection_);
         connection_.execute("COMMIT"); // waits for readers by the busy handler
     });
-    if (!committed)
+    if (!committed) {
         connection_.rollBack();
+        committed = wasCommittedAllTheSame(failure);
+    }
+    if (!committed)
+        assignError(error, failure);
     finish(committed ? WritingEnd::Committed : WritingEnd::RolledBack);
     return committed;
+}
+
+/// The commit is the removal of the journal. When the folder cannot be synced after it SQLite reports a failure, but
+/// the save is there; a caller that tried again would write it twice.
+bool SQLiteTransaction::wasCommittedAllTheSame(const NSError& failure)
+{
+    if (failure.code() != StoreErrorIO)
+        return false;
+    bool isThere = false;
+    reportingFailure(nullptr, [&] { isThere = writer_.findsInsertedRows(); });
+    if (isThere)
+        logMessage("A save is in the store, but a power failure may still undo it: " + failure.localizedDescription());
+    return isThere;
 }
 
 } // namespace tarn

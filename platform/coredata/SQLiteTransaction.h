@@ -27,6 +27,7 @@ public:
 
 private:
     void requireOpen() const;
+    bool wasCommittedAllTheSame(const NSError& failure);
     void finish(WritingEnd end) noexcept;
 
     SQLiteStore& store_;
