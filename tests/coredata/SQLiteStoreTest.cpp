@@ -3,9 +3,9 @@
 #include "platform/coredata/SQLiteConnection.h"
 #include "platform/coredata/StoreSchema.h"
 #include "platform/foundation/Folding.h"
-#include "tests/coredata/FaultyFilesystem.h"
 #include "tests/coredata/OtherProgram.h"
 #include "tests/coredata/StoreFixture.h"
+#include "tests/support/FaultyDisk.h"
 
 #include <fstream>
 #include <future>
@@ -329,14 +329,14 @@ TEST_F(SQLiteStoreFile, LosesNothingWhenAnyWriteFails)
     bool committed = false;
     int failures = 0;
     for (int k = 1; !committed && k < 200; ++k) {
-        FaultyFilesystem disk(1'000'000, SQLITE_FULL);
+        FaultyDisk disk;
         NSError error;
         {
             const OpenStore store = open();
             ASSERT_TRUE(store) << store.error();
             auto transaction = store->beginTransaction(&error);
             ASSERT_TRUE(transaction) << error;
-            disk.failFrom(k);
+            disk.arm(k, DiskFault::FailsFromNowOn, DiskFailure::Full);
             const auto key = 1000 + k;
             const bool written = transaction->insertRow(
                 makeRow(store.entity("Document"), key, {{"title", "new"}, {"body", std::string(50'000, 'x')}}), &error);
@@ -346,7 +346,7 @@ TEST_F(SQLiteStoreFile, LosesNothingWhenAnyWriteFails)
             ++failures;
             EXPECT_EQ(error.code(), StoreErrorFull) << error << " at write " << k;
             transaction.reset();
-            disk.failFrom(1'000'000);
+            disk.heal();
             EXPECT_THAT(store.keys("Document"), ElementsAre(kept)) << "at write " << k;
         }
         const OpenStore store = open();
@@ -361,16 +361,16 @@ TEST_F(SQLiteStoreFile, LosesNothingWhenAnyWriteFails)
 TEST_F(SQLiteStoreFile, GoesOnAfterAFullDiskHasSpaceAgain)
 {
     open();
-    FaultyFilesystem disk(1'000'000, SQLITE_FULL);
+    FaultyDisk disk;
     const OpenStore store = open();
-    disk.failFrom(3);
+    disk.arm(3, DiskFault::FailsFromNowOn, DiskFailure::Full);
     NSError error;
     auto transaction = store->beginTransaction(&error);
     ASSERT_TRUE(transaction) << error;
     const StoreRow row = makeRow(store.entity("Document"), 1, {{"body", std::string(50'000, 'x')}});
     EXPECT_FALSE(transaction->insertRow(row, &error) && transaction->commit(&error));
     transaction.reset();
-    disk.failFrom(1'000'000);
+    disk.heal();
     transaction = store->beginTransaction(&error);
     ASSERT_TRUE(transaction) << error;
     EXPECT_TRUE(transaction->insertRow(row, &error)) << error;

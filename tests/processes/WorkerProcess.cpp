@@ -1,0 +1,72 @@
+#include "tests/processes/Worker.h"
+
+#include <array>
+#include <cerrno>
+#include <csignal>
+#include <cstdlib>
+#include <fcntl.h>
+#include <spawn.h>
+#include <stdexcept>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <utility>
+
+namespace tarn {
+
+WorkerProcess::WorkerProcess(const std::vector<std::string>& arguments)
+{
+    std::array<int, 2> pipe{};
+    if (::pipe2(pipe.data(), O_CLOEXEC) != 0)
+        throw std::runtime_error("no pipe");
+    pipe_ = pipe[0];
+    std::vector<std::string> all{"test_processes", "worker"};
+    all.insert(all.end(), arguments.begin(), arguments.end());
+    std::vector<char*> values;
+    for (std::string& argument : all)
+        values.push_back(argument.data());
+    values.push_back(nullptr);
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    posix_spawn_file_actions_adddup2(&actions, pipe[1], STDOUT_FILENO);
+    posix_spawn_file_actions_adddup2(&actions, pipe[1], STDERR_FILENO);
+    const int result = ::posix_spawn(&pid_, "/proc/self/exe", &actions, nullptr, values.data(), ::environ);
+    posix_spawn_file_actions_destroy(&actions);
+    ::close(pipe[1]);
+    if (result != 0)
+        throw std::runtime_error("no process");
+}
+
+WorkerProcess::WorkerProcess(WorkerProcess&& other) noexcept
+    : pid_(std::exchange(other.pid_, -1)), pipe_(std::exchange(other.pipe_, -1))
+{ }
+
+WorkerProcess::~WorkerProcess()
+{
+    if (pipe_ >= 0)
+        ::close(pipe_);
+    if (pid_ > 0) {
+        ::kill(pid_, SIGKILL);
+        ::waitpid(pid_, nullptr, 0);
+    }
+}
+
+WorkerResult WorkerProcess::finish()
+{
+    WorkerResult result;
+    std::array<char, 4096> buffer{};
+    for (ssize_t count = 1; count > 0 || (count < 0 && errno == EINTR);) {
+        count = ::read(pipe_, buffer.data(), buffer.size());
+        if (count > 0)
+            result.output.append(buffer.data(), static_cast<std::size_t>(count));
+    }
+    int status = 0;
+    while (::waitpid(pid_, &status, 0) < 0 && errno == EINTR) { }
+    pid_ = -1;
+    if (WIFEXITED(status))
+        result.exitCode = WEXITSTATUS(status);
+    else
+        result.signal = WTERMSIG(status);
+    return result;
+}
+
+} // namespace tarn
