@@ -75,10 +75,10 @@ void OVCoreDataStack::migrate()
     if (OVCoreDataStackDelegate* const listener = delegate())
         listener->coreDataStackDidBeginMigrationWithProgress(*this, progress);
     // The destructor waits for this task, not for the one that it leaves on the main queue.
-    migrationQueue_->async([this, progress] {
+    migrationQueue_->async([this, progress, makeManager = makeMigrationManager_] {
         MigrationEnd end = [&] {
             const CurrentProgress current(*progress, 0);
-            return runMigration();
+            return runMigration(makeManager);
         }();
         MainQueue::main().async([this, stack = lifeline(), end = std::move(end)] {
             if (!stack.expired())
@@ -87,11 +87,11 @@ void OVCoreDataStack::migrate()
     });
 }
 
-OVCoreDataStack::MigrationEnd OVCoreDataStack::runMigration()
+OVCoreDataStack::MigrationEnd OVCoreDataStack::runMigration(const MigrationManagerMaker& makeManager)
 {
     MigrationEnd end;
     try {
-        const auto manager = makeMigrationManager_ ? makeMigrationManager_() : std::make_unique<VexMigrationManager>();
+        const auto manager = makeManager ? makeManager() : std::make_unique<VexMigrationManager>();
         manager->setDelegate(this);
         NSError error;
         const auto model = managedObjectModel(&error);

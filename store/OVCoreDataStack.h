@@ -81,7 +81,8 @@ public:
     /// Migrates the store on a queue of its own, then sets up the stack. A store that cannot be migrated is kept beside
     /// the new one as "database_backup <time>.sqlite". Does nothing while a migration is under way.
     virtual void migrate();
-    /// For tests, and for hosts that bring their own; an empty maker restores the library's.
+    /// For tests, and for hosts that bring their own; an empty maker restores the library's. Counts from the next
+    /// migration on.
     void setMigrationManagerMaker(MigrationManagerMaker maker);
     /// Moves the current progress of the calling thread.
     void migrationManagerMigrationProgress(VexMigrationManager& manager, float progress) override;
@@ -108,7 +109,7 @@ private:
         std::vector<std::string> migratedVersions;
     };
 
-    MigrationEnd runMigration();
+    MigrationEnd runMigration(const MigrationManagerMaker& makeManager);
     void endMigration(const MigrationEnd& end);
     void waitForMigration();
     void runInBackground(std::function<void(NSManagedObjectContext&)> block);

@@ -15,6 +15,7 @@ public:
 protected:
     WeaklyReferenced() = default;
     WeaklyReferenced(const WeaklyReferenced&) { }
+    // NOLINTNEXTLINE(bugprone-unhandled-self-assignment): nothing is assigned
     WeaklyReferenced& operator=(const WeaklyReferenced&) { return *this; }
     ~WeaklyReferenced() = default;
 

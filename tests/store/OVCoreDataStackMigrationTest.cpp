@@ -158,19 +158,20 @@ TEST_F(StoreMigration, NeverReplacesAnEarlierBackup)
 
 TEST_F(StoreMigration, ThatFailsLeavesTheStackWithoutContexts)
 {
-    const std::pair<std::string_view, long> failures[] = {{"Kelpa", 8002}, {"Other", 8001}, {"TarnStore", 11}};
+    const NSError failures[] = {{"Kelpa", 8002, "scripted"}, {"Other", 8001, ""}, {"TarnStore", 11, "scripted"}};
     makeStoreOfVersion("Model 2");
     const UntouchedFile store(storeFile());
-    for (const auto& [domain, code] : failures) {
+    for (const NSError& failure : failures) {
         listener_.events.clear();
         stack_ = std::make_unique<OVCoreDataStack>();
         migrate([&](ScriptedMigration& manager, const auto&, NSError* error) {
             manager.addMigratedVersion("Model 2");
-            return fail(error, domain, code);
+            assignError(error, failure);
+            return false;
         });
 
         EXPECT_THAT(listener_.events, ElementsAre("migration of 100", "migration failed: Model 2"));
-        EXPECT_EQ(listener_.error, NSError(domain, code, "scripted"));
+        EXPECT_EQ(listener_.error, failure);
         EXPECT_FALSE(stack_->managedObjectContext());
         EXPECT_FALSE(stack_->inMemoryManagedObjectContext());
         EXPECT_THAT(files(), ElementsAre("database.sqlite"));

@@ -274,7 +274,9 @@ TEST_F(StoreStack, TakesItsPendingSaveBackWhenItEnds)
     setUp();
     noteTitled("never asked for again", context());
     stack_->saveUsingCoalescence(true);
+    const Timer pending = *stack_->coalescenceSaveTimer();
     stack_.reset();
+    EXPECT_FALSE(pending.isValid());
     MainQueue::main().drain();
     EXPECT_THAT(titlesInStore(), IsEmpty());
 }
