@@ -93,6 +93,7 @@
 #include "search/OVNoteSearchToken.h"
 
 // Devices and their clocks.
+#include "sync/HostUUID.h"
 #include "sync/OVDeviceUUID.h"
 #include "sync/TolVectorClock.h"
 
