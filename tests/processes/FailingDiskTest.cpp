@@ -1,8 +1,10 @@
 // A save on a disk that refuses: the caller hears of it, the store stays as it was, the context keeps its changes, and
 // the next save writes what the first one should have written.
 
+#include "files/OVLocalFileManager.h"
 #include "platform/coredata/NSPersistentStore.h"
 #include "platform/foundation/Environment.h"
+#include "store/OVCoreDataStack.h"
 #include "tests/processes/KnownWorld.h"
 #include "tests/processes/SharedStore.h"
 #include "tests/processes/Workload.h"
@@ -223,6 +225,51 @@ INSTANTIATE_TEST_SUITE_P(Disks, UnclearCommit,
         testing::Values(StoreRole::Application, StoreRole::Extension),
         testing::Values(Refusal{"", DiskFault::FailsThoughDone, DiskFailure::Broken, {}})),
     nameOf);
+
+/// Hears of saves that failed.
+struct Listener : OVCoreDataStackDelegate {
+    void coreDataStackDidFailToInitializeManagedObjectContext(OVCoreDataStack&, const NSError& error) override
+    {
+        ADD_FAILURE() << error;
+    }
+    void coreDataStackDidFailToSave(OVCoreDataStack&, const NSError& error) override { codes.push_back(error.code()); }
+    std::vector<long> codes;
+};
+
+// Nobody waits for the answer of a coalesced save: its failure goes to the log and the delegate, and the next one
+// writes.
+TEST(StackOnAFullDisk, TellsOfACoalescedSaveThatFailedAndSavesTheNextTime)
+{
+    const StoreFolder folder;
+    OVLocalFileManager::setApplicationPersistentDataTestURL(folder.file().parent_path());
+    LogCapture log;
+    FaultyDisk disk;
+    MainQueue& queue = MainQueue::main();
+    {
+        Listener listener;
+        OVCoreDataStack stack;
+        stack.setupStackWithDelegate(&listener);
+        ASSERT_TRUE(stack.managedObjectContext());
+        OVNote::noteWithText("# Pears", *stack.managedObjectContext());
+        stack.saveUsingCoalescence(true);
+        disk.arm(1, DiskFault::FailsFromNowOn, DiskFailure::Full);
+        queue.drain();
+        EXPECT_THAT(listener.codes, testing::ElementsAre(StoreErrorFull));
+        EXPECT_THAT(log.take(), testing::SizeIs(1));
+        EXPECT_TRUE(stack.managedObjectContext()->hasChanges());
+
+        disk.heal();
+        stack.saveUsingCoalescence(true);
+        queue.drain();
+        EXPECT_FALSE(stack.managedObjectContext()->hasChanges());
+        EXPECT_THAT(listener.codes, testing::SizeIs(1));
+    }
+    OVLocalFileManager::setApplicationPersistentDataTestURL(std::nullopt);
+    SharedStore store(folder.file(), StoreRole::Reader);
+    ASSERT_TRUE(store) << store.error();
+    EXPECT_TRUE(OVNote::noteWithTitle("Pears", store.context()));
+    EXPECT_THAT(log.take(), IsEmpty());
+}
 
 class NewStore : public testing::TestWithParam<Refusal> { };
 
