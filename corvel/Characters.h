@@ -40,6 +40,11 @@ constexpr bool isASCIIControl(char c) noexcept
 {
     return static_cast<unsigned char>(c) < 0x20 || c == 0x7F;
 }
+/// The control characters of Unicode: those of ASCII and of Latin-1.
+constexpr bool isControl(char32_t codePoint) noexcept
+{
+    return codePoint < 0x20 || (codePoint >= 0x7F && codePoint < 0xA0);
+}
 constexpr bool isASCIIPunctuation(char c) noexcept
 {
     return (c >= '!' && c <= '/') || (c >= ':' && c <= '@') || (c >= '[' && c <= '`') || (c >= '{' && c <= '~');

@@ -20,11 +20,6 @@ constexpr ByteSet kEndOfOpenName("`<>[\\|");
 constexpr ByteSet kNotLastInOpenName("*_~=-/");
 constexpr ByteSet kOpening("([{\"'");
 
-SourceRange rangeOf(std::size_t begin, std::size_t end) noexcept
-{
-    return {static_cast<Offset>(begin), static_cast<Offset>(end)};
-}
-
 bool isEndOrWhiteSpace(std::string_view content, std::size_t offset) noexcept
 {
     return offset >= content.size() || isWhiteSpace(codePointAt(content, offset));

@@ -19,11 +19,6 @@ constexpr ByteSet kTokenStops("\\`<[]#:&*_~=\r\n");
 
 constexpr std::size_t kLongestLabel = 999;
 
-SourceRange rangeOf(std::size_t begin, std::size_t end) noexcept
-{
-    return {static_cast<Offset>(begin), static_cast<Offset>(end)};
-}
-
 /// After the line end at `at`, which may have two bytes.
 std::size_t afterLineEnd(std::string_view text, std::size_t at) noexcept
 {

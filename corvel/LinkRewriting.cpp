@@ -36,11 +36,6 @@ std::string percentDecoded(std::string_view text)
     return decoded;
 }
 
-bool isControl(char32_t codePoint) noexcept
-{
-    return codePoint < 0x20 || (codePoint >= 0x7F && codePoint < 0xA0);
-}
-
 /// A destination as it is written, between angle brackets or bare.
 std::string encodedDestination(std::string_view destination, bool inAngles)
 {

@@ -9,11 +9,6 @@ namespace {
 constexpr std::size_t kLongestLabel = 999;
 constexpr int kDeepestParentheses = 32;
 
-SourceRange rangeOf(std::size_t begin, std::size_t end) noexcept
-{
-    return {static_cast<Offset>(begin), static_cast<Offset>(end)};
-}
-
 bool isEscape(std::string_view content, std::size_t offset) noexcept
 {
     return content[offset] == '\\' && offset + 1 < content.size() && isASCIIPunctuation(content[offset + 1]);

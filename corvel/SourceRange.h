@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 
 namespace tarn::corvel {
@@ -16,5 +17,11 @@ struct SourceRange {
     bool empty() const noexcept { return begin == end; }
     friend bool operator==(const SourceRange&, const SourceRange&) = default;
 };
+
+/// From indexes of a text, which is never longer than an `Offset` can tell.
+inline SourceRange rangeOf(std::size_t begin, std::size_t end) noexcept
+{
+    return {static_cast<Offset>(begin), static_cast<Offset>(end)};
+}
 
 } // namespace tarn::corvel

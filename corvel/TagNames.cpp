@@ -14,11 +14,6 @@ namespace {
 
 constexpr std::size_t kLongestName = 500;
 
-bool isControl(char32_t codePoint) noexcept
-{
-    return codePoint < 0x20 || (codePoint >= 0x7F && codePoint < 0xA0);
-}
-
 /// What a hashtag cannot hold or nobody can see.
 bool isRemoved(char32_t codePoint) noexcept
 {
@@ -162,7 +157,7 @@ std::vector<std::string> tagComponents(std::string_view name)
 std::string hashtagForName(std::string_view name)
 {
     constexpr std::size_t kColor = 6;
-    const std::string clean = sanitizedTagName(name);
+    std::string clean = sanitizedTagName(name);
     if (clean.empty())
         return clean;
     const std::u32string codePoints = codePointsOf(clean);

@@ -15,7 +15,7 @@ namespace tarn::corvel {
 namespace {
 
 // Removing text can expose a fence, and with it hashtags that were code.
-constexpr int kMostPasses = 4;
+constexpr int kMostRemovals = 4;
 
 /// One pass: the bytes that go with the hashtags of a tag.
 class TagRemoval {
@@ -159,7 +159,7 @@ CVKAST withoutTag(const CVKAST& document, std::string_view name)
     if (!tag.isUsable())
         return document;
     CVKAST result = document;
-    for (int pass = 0; pass < kMostPasses; ++pass) {
+    for (int pass = 0; pass < kMostRemovals; ++pass) {
         const auto edits = TagRemoval(result.document(), tag).edits();
         if (edits.empty())
             break;

@@ -15,7 +15,7 @@ namespace tarn::corvel {
 namespace {
 
 // A rename may bring to light what was hidden, for example by closing a hashtag that swallowed others.
-constexpr int kMostPasses = 4;
+constexpr int kMostRenamings = 4;
 
 constexpr ByteSet kNotLastInOpenName("*_~=-/");
 constexpr ByteSet kEndOfOpenName("`<>[\\|");
@@ -107,7 +107,7 @@ CVKAST renamedTag(const CVKAST& document, std::string_view name, std::string_vie
     // Under the new name they would be found again.
     const bool once = old.tailOf(clean).has_value();
     CVKAST result = document;
-    for (int pass = 0; pass < (once ? 1 : kMostPasses); ++pass) {
+    for (int pass = 0; pass < (once ? 1 : kMostRenamings); ++pass) {
         CVKAST next = TagRenaming(result, old, clean).apply();
         if (next.markdown() == result.markdown())
             break;

@@ -16,29 +16,33 @@ import subprocess
 import sys
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
-SKIPPED = ("tests/", "benchmarks/", "fuzz/", "build")
+SKIPPED = ("tests/", "benchmarks/", "fuzz/", "examples/", "build")
 FINDING = re.compile(r"^(?P<place>/[^:]+:\d+:\d+): (?:error|warning): (?P<text>.*)$")
 
 
 def sources(build, wanted):
+    """What is to be looked at: of a build of several sources as one, those that CMake writes, else our own."""
     commands = json.loads((build / "compile_commands.json").read_text(encoding="utf-8"))
-    names = set()
+    paths = set()
     for command in commands:
         path = pathlib.Path(command["directory"], command["file"]).resolve()
-        if not path.is_relative_to(ROOT):
+        if path.is_relative_to(build) and path.parent.name == "Unity":
+            name = path.relative_to(build).as_posix()
+        elif path.is_relative_to(ROOT):
+            name = path.relative_to(ROOT).as_posix()
+        else:
             continue
-        name = path.relative_to(ROOT).as_posix()
         if name.startswith(SKIPPED):
             continue
         if not wanted or any(name == path_ or name.startswith(path_.rstrip("/") + "/") for path_ in wanted):
-            names.add(name)
-    return sorted(names)
+            paths.add(path)
+    return sorted(paths)
 
 
-def check(build, name):
-    command = ["clang-tidy", "-p", str(build), "--quiet", name]
+def check(build, path):
+    command = ["clang-tidy", "-p", str(build), "--quiet", str(path)]
     result = subprocess.run(command, cwd=ROOT, capture_output=True, text=True, check=False)
-    return name, result.returncode, result.stdout, result.stderr
+    return path, result.returncode, result.stdout, result.stderr
 
 
 def main():
@@ -49,15 +53,15 @@ def main():
     options = parser.parse_args()
 
     build = options.build.resolve()
-    names = sources(build, options.paths)
-    if not names:
+    paths = sources(build, options.paths)
+    if not paths:
         print("tidy: found no sources", file=sys.stderr)
         return 1
 
     seen = set()
     failed = False
     with concurrent.futures.ThreadPoolExecutor(options.jobs) as pool:
-        for name, code, output, errors in pool.map(lambda name: check(build, name), names):
+        for path, code, output, errors in pool.map(lambda path: check(build, path), paths):
             failed = failed or code != 0
             known = True
             for line in output.splitlines():
@@ -68,8 +72,8 @@ def main():
                 if not known:
                     print(line.replace(f"{ROOT}/", ""), flush=True)
             if code != 0 and not output:
-                print(f"{name}: clang-tidy ended with {code} {errors.strip()}", flush=True)
-    print(f"clang-tidy looked at {len(names)} sources and found {len(seen)} things.")
+                print(f"{path}: clang-tidy ended with {code} {errors.strip()}", flush=True)
+    print(f"clang-tidy looked at {len(paths)} files (some hold several sources) and found {len(seen)} things.")
     return 1 if failed else 0
 
 

@@ -7,7 +7,7 @@
 namespace tarn {
 namespace {
 
-constexpr std::string_view kClassName = "CKRecord";
+constexpr std::string_view kRecordClass = "CKRecord";
 
 bool holdsObject(const Value& value)
 {
@@ -78,14 +78,14 @@ std::optional<CKRecord> CKRecord::initWithCoder(const NSKeyedUnarchiver& unarchi
 
 std::optional<NSData> CKRecord::archivedSystemFields() const
 {
-    NSKeyedArchiver archiver(kClassName);
+    NSKeyedArchiver archiver(kRecordClass);
     encodeSystemFieldsWithCoder(archiver);
     return archiver.finishEncoding();
 }
 
 std::optional<CKRecord> CKRecord::recordWithArchivedSystemFields(std::span<const std::byte> bytes)
 {
-    const auto unarchiver = NSKeyedUnarchiver::unarchiverForReadingFromData(bytes, kClassName);
+    const auto unarchiver = NSKeyedUnarchiver::unarchiverForReadingFromData(bytes, kRecordClass);
     return unarchiver ? initWithCoder(*unarchiver) : std::nullopt;
 }
 

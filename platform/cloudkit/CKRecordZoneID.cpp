@@ -3,13 +3,13 @@
 namespace tarn {
 namespace {
 
-constexpr std::string_view kClassName = "CKRecordZoneID";
+constexpr std::string_view kZoneClass = "CKRecordZoneID";
 
 } // namespace
 
 std::optional<NSData> CKRecordZoneID::archivedData() const
 {
-    NSKeyedArchiver archiver(kClassName);
+    NSKeyedArchiver archiver(kZoneClass);
     archiver.encode("zoneName", zoneName);
     archiver.encode("ownerName", ownerName);
     return archiver.finishEncoding();
@@ -17,7 +17,7 @@ std::optional<NSData> CKRecordZoneID::archivedData() const
 
 std::optional<CKRecordZoneID> CKRecordZoneID::unarchivedFromData(std::span<const std::byte> bytes)
 {
-    const auto unarchiver = NSKeyedUnarchiver::unarchiverForReadingFromData(bytes, kClassName);
+    const auto unarchiver = NSKeyedUnarchiver::unarchiverForReadingFromData(bytes, kZoneClass);
     if (!unarchiver)
         return std::nullopt;
     auto zoneName = unarchiver->decodeString("zoneName");

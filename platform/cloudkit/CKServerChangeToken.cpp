@@ -3,20 +3,20 @@
 namespace tarn {
 namespace {
 
-constexpr std::string_view kClassName = "CKServerChangeToken";
+constexpr std::string_view kTokenClass = "CKServerChangeToken";
 
 } // namespace
 
 std::optional<NSData> CKServerChangeToken::archivedData() const
 {
-    NSKeyedArchiver archiver(kClassName);
+    NSKeyedArchiver archiver(kTokenClass);
     archiver.encode("data", data_);
     return archiver.finishEncoding();
 }
 
 std::optional<CKServerChangeToken> CKServerChangeToken::unarchivedFromData(std::span<const std::byte> bytes)
 {
-    const auto unarchiver = NSKeyedUnarchiver::unarchiverForReadingFromData(bytes, kClassName);
+    const auto unarchiver = NSKeyedUnarchiver::unarchiverForReadingFromData(bytes, kTokenClass);
     auto data = unarchiver ? unarchiver->decodeData("data") : std::nullopt;
     return data ? std::optional(CKServerChangeToken(std::move(*data))) : std::nullopt;
 }

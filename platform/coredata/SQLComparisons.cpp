@@ -16,11 +16,6 @@ using Condition = SQLConditionBuilder::Condition;
 
 constexpr std::size_t kLongestInlineList = 8;
 
-std::string truth(bool value)
-{
-    return std::string(value ? SQLConditionBuilder::always : SQLConditionBuilder::never);
-}
-
 /// A condition that may be NULL, as 0 or 1 with the other meaning.
 std::string negation(const std::string& condition)
 {
@@ -198,7 +193,7 @@ Condition SQLConditionBuilder::equality(
     bool comparable = false;
     const auto value = sqlValue(left, right, comparable);
     if (!comparable)
-        return truth(negated);
+        return SQLConditionBuilder::literal(negated);
     if (left.kind == Kind::String && hasOptions(options)) {
         if (isFullFold(options))
             return foldedEquality(left, value->asString(), negated);
@@ -261,7 +256,7 @@ Condition SQLConditionBuilder::membership(
         hasNil = hasNil || member.isNil();
     }
     if (values.empty())
-        return hasNil ? left.sql + (negated ? " IS NOT NULL" : " IS NULL") : truth(negated);
+        return hasNil ? left.sql + (negated ? " IS NOT NULL" : " IS NULL") : SQLConditionBuilder::literal(negated);
     const std::string wanted = " IN " + boundList(values);
     const std::string byText = "fold(" + left.sql + ")";
     if (folds && !left.shadow.empty() && !negated && !hasNil)
@@ -281,7 +276,7 @@ Condition SQLConditionBuilder::between(
     const Operand& left, const Value& bounds, ComparisonOptions options, bool negated)
 {
     if (bounds.asArray().size() != 2)
-        return truth(negated);
+        return SQLConditionBuilder::literal(negated);
     const auto low = order(left, ComparisonOperator::GreaterThanOrEqualTo, bounds.asArray()[0], options, false);
     const auto high = order(left, ComparisonOperator::LessThanOrEqualTo, bounds.asArray()[1], options, false);
     if (!low || !high)
@@ -296,7 +291,7 @@ Condition SQLConditionBuilder::order(
     bool comparable = false;
     const auto value = sqlValue(left, right, comparable);
     if (!comparable || left.kind == Kind::Object)
-        return truth(negated);
+        return SQLConditionBuilder::literal(negated);
     std::string condition;
     if (left.kind == Kind::String && hasOptions(options)) {
         condition = stringTest(left, operation, options, value->asString());
@@ -329,13 +324,13 @@ Condition SQLConditionBuilder::stringCondition(
     const Operand& left, const ComparisonPredicate& predicate, const Value& right, bool negated)
 {
     if (left.kind != Kind::String || right.kind() != Value::Kind::String)
-        return truth(negated);
+        return SQLConditionBuilder::literal(negated);
     const ComparisonOptions options = predicate.options;
     if (predicate.operation == ComparisonOperator::BeginsWith && !left.shadow.empty() && isFullFold(options)) {
         const std::string prefix = fold(right.asString());
         if (negated)
             return beginning("coalesce(" + left.shadow + ", fold(" + left.sql + "))", prefix, true);
-        const auto range = beginning(left.shadow, prefix, false);
+        auto range = beginning(left.shadow, prefix, false);
         if (prefix.empty())
             return range;
         return "(" + *range + " OR (" + left.shadow + " IS NULL AND " + left.sql + " IS NOT NULL AND "
@@ -350,7 +345,7 @@ Condition SQLConditionBuilder::stringCondition(
 Condition SQLConditionBuilder::beginning(const std::string& column, const std::string& prefix, bool negated)
 {
     if (prefix.empty())
-        return truth(negated);
+        return SQLConditionBuilder::literal(negated);
     const std::string end = afterPrefix(prefix);
     std::string range = "(" + column + " >= " + text_.bind(prefix);
     if (!end.empty())
@@ -379,7 +374,7 @@ Condition SQLConditionBuilder::compareOperands(
         return leftValue + (wantsEqual ? " IS " : " IS NOT ") + rightValue;
     }
     if (left.kind == Kind::Object)
-        return truth(negated);
+        return SQLConditionBuilder::literal(negated);
     const std::string condition = leftValue + std::string(textOf(operation).sql) + rightValue;
     return negated ? negation(condition) : condition;
 }

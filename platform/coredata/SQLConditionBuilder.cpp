@@ -34,11 +34,6 @@ bool isConstant(const Expression& expression)
             [](const ExpressionPtr& member) { return isConstant(*member); });
 }
 
-std::string truth(bool value)
-{
-    return std::string(value ? SQLConditionBuilder::always : SQLConditionBuilder::never);
-}
-
 /// The operator that says the same with both sides exchanged; none where there is none.
 std::optional<ComparisonOperator> mirrored(ComparisonOperator operation)
 {
@@ -88,7 +83,7 @@ SQLConditionBuilder::Condition SQLConditionBuilder::condition(const PredicateNod
             [&](const ComparisonPredicate& predicate) { return comparison(predicate, scope, negated); },
             [&](const CompoundPredicate& predicate) { return compound(predicate, scope, negated); },
             [&](const NotPredicate& predicate) { return condition(*predicate.operand, scope, !negated); },
-            [&](const ConstantPredicate& predicate) { return Condition(truth(predicate.value != negated)); },
+            [&](const ConstantPredicate& predicate) { return Condition(literal(predicate.value != negated)); },
         },
         node.form);
 }
@@ -136,7 +131,7 @@ SQLConditionBuilder::Condition SQLConditionBuilder::comparison(
     const bool leftIsConstant = isConstant(*predicate.left);
     if (leftIsConstant && isConstant(*predicate.right)) {
         const NSPredicate constant(std::make_shared<PredicateNode>(PredicateNode{predicate}));
-        return truth(constant.evaluateWithObject(NoObject()) != negated);
+        return literal(constant.evaluateWithObject(NoObject()) != negated);
     }
     if (leftIsConstant) {
         const auto operation = mirrored(predicate.operation);

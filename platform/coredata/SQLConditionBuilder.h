@@ -39,6 +39,7 @@ public:
     static constexpr std::string_view always = "1";
     /// The condition that holds for none.
     static constexpr std::string_view never = "0";
+    static std::string literal(bool value) { return std::string(value ? always : never); }
     using Condition = std::optional<std::string>;
 
     SQLConditionBuilder(SQLPaths& paths, SQLText& text, SQLConditionOptions options)

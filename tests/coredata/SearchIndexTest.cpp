@@ -479,17 +479,17 @@ TEST_F(SearchedStore, CanBeCheckedDumpedAndVacuumedByAnyProgram)
 
 // Processes and threads -----------------------------------------------------------------------------------------------
 
-constexpr const char* kFileVariable = "TARN_TEST_SEARCHED_FILE";
-constexpr int kWords = 60;
+constexpr const char* kSearchedFileVariable = "TARN_TEST_SEARCHED_FILE";
+constexpr int kWrittenWords = 60;
 
 /// Runs in a process of its own for the test below; by itself it writes to a store of its own.
 TEST(SearchProcess, WritesTextsToTheStoreThatItIsGiven)
 {
-    const auto given = Environment::current().variable(kFileVariable);
+    const auto given = Environment::current().variable(kSearchedFileVariable);
     const TestFolder folder;
     const OpenStore store(StoreType::SQLite, given ? std::filesystem::path(*given) : folder.file());
     ASSERT_TRUE(store) << store.error();
-    for (int i = 0; i < kWords; ++i)
+    for (int i = 0; i < kWrittenWords; ++i)
         EXPECT_GT(store.insert("Document", {{"title", "t"}, {"body", fmt::format("the word{}end stands here", i)}}), 0);
 }
 
@@ -499,7 +499,7 @@ TEST_F(SearchedStore, FollowsAnotherProcessWhileItWrites)
     EXPECT_THAT(found(store, "word"), IsEmpty());
     const pid_t process = fork();
     if (process == 0) {
-        setenv(kFileVariable, folder.file().c_str(), 1);
+        setenv(kSearchedFileVariable, folder.file().c_str(), 1);
         execl("/proc/self/exe", "test_coredata", "--gtest_filter=SearchProcess.*", "--gtest_brief=1", nullptr);
         _exit(127);
     }
@@ -517,7 +517,7 @@ TEST_F(SearchedStore, FollowsAnotherProcessWhileItWrites)
         }
     }
     EXPECT_EQ(status, 0);
-    EXPECT_EQ(seen, std::size_t{kWords});
+    EXPECT_EQ(seen, std::size_t{kWrittenWords});
 }
 
 TEST_F(SearchedStore, IsSearchedByThreadsWhileOneWrites)

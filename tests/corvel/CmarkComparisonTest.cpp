@@ -13,7 +13,7 @@ namespace tarn {
 
 namespace {
 
-constexpr std::uint64_t kSeed = 20240101;
+constexpr std::uint64_t kCmarkSeed = 20240101;
 
 std::string cmarkHtml(const std::string& text)
 {
@@ -85,7 +85,7 @@ std::string withoutLeadingBlanks(std::string_view html)
 
 TEST(CmarkComparison, RandomTextsGiveTheSameHtml)
 {
-    RandomMarkdown random(kSeed, commonMarkPieces());
+    RandomMarkdown random(kCmarkSeed, commonMarkPieces());
     const std::size_t count = fuzzCount(50000);
     int differing = 0;
     std::size_t differingInBlanks = 0;
@@ -101,7 +101,7 @@ TEST(CmarkComparison, RandomTextsGiveTheSameHtml)
             ++differingInBlanks;
             continue;
         }
-        ADD_FAILURE() << "seed " << kSeed << ", text " << i << "\n--- text\n"
+        ADD_FAILURE() << "seed " << kCmarkSeed << ", text " << i << "\n--- text\n"
                       << text << "\n--- cmark\n"
                       << expected << "--- given\n"
                       << given;

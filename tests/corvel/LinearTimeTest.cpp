@@ -162,7 +162,7 @@ std::vector<Family> families()
     };
 }
 
-std::string nameOf(const testing::TestParamInfo<Family>& info)
+std::string nameOfFamily(const testing::TestParamInfo<Family>& info)
 {
     return info.param.name;
 }
@@ -231,7 +231,7 @@ TEST_P(LinearTime, Rewriting)
     expectLinear(rewrite, GetParam(), 8 * 1024);
 }
 
-INSTANTIATE_TEST_SUITE_P(Families, LinearTime, testing::ValuesIn(families()), nameOf);
+INSTANTIATE_TEST_SUITE_P(Families, LinearTime, testing::ValuesIn(families()), nameOfFamily);
 
 TEST(DeepNesting, EmphasisNestsTwentyFiveThousandDeep)
 {

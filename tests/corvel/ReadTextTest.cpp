@@ -15,7 +15,7 @@ std::vector<TextCase> readingCases()
     return cases;
 }
 
-std::string nameOf(const testing::TestParamInfo<TextCase>& info)
+std::string nameOfReading(const testing::TestParamInfo<TextCase>& info)
 {
     return "Case" + info.param.name;
 }
@@ -48,6 +48,6 @@ TEST_P(ReadText, GivesItsSummary)
     EXPECT_EQ(std::to_string(summary.codeBlockCount), one.value("code-blocks").value_or("0"));
 }
 
-INSTANTIATE_TEST_SUITE_P(Corvel, ReadText, testing::ValuesIn(readingCases()), nameOf);
+INSTANTIATE_TEST_SUITE_P(Corvel, ReadText, testing::ValuesIn(readingCases()), nameOfReading);
 
 } // namespace tarn

@@ -16,7 +16,7 @@ std::vector<TextCase> rewritingCases()
     return cases;
 }
 
-std::string nameOf(const testing::TestParamInfo<TextCase>& info)
+std::string nameOfRewriting(const testing::TestParamInfo<TextCase>& info)
 {
     return "Case" + info.param.name;
 }
@@ -60,6 +60,6 @@ TEST_P(RewriteText, GivesTheResult)
     EXPECT_EQ(rewritten(GetParam()), GetParam().text("result"));
 }
 
-INSTANTIATE_TEST_SUITE_P(Corvel, RewriteText, testing::ValuesIn(rewritingCases()), nameOf);
+INSTANTIATE_TEST_SUITE_P(Corvel, RewriteText, testing::ValuesIn(rewritingCases()), nameOfRewriting);
 
 } // namespace tarn

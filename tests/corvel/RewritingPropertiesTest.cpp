@@ -15,7 +15,7 @@ namespace tarn {
 
 namespace {
 
-constexpr std::uint64_t kSeed = 4711;
+constexpr std::uint64_t kRewritingSeed = 4711;
 constexpr std::size_t kTexts = 4000;
 
 constexpr std::array<std::string_view, 12> kNames{
@@ -84,13 +84,13 @@ bool isWrittenInOneWay(const CVKAST& document)
 /// Runs the check on random notes; says which one failed.
 template <typename Check> void forRandomNotes(Check check)
 {
-    RandomMarkdown random(kSeed, notePieces());
+    RandomMarkdown random(kRewritingSeed, notePieces());
     const std::size_t count = fuzzCount(kTexts);
     for (std::size_t i = 0; i < count && !testing::Test::HasFailure(); ++i) {
         const std::string text = random.text(20);
         const std::string name(kNames[random.below(kNames.size())]);
-        SCOPED_TRACE(
-            "seed " + std::to_string(kSeed) + ", text " + std::to_string(i) + ", tag '" + name + "':\n" + text);
+        SCOPED_TRACE("seed " + std::to_string(kRewritingSeed) + ", text " + std::to_string(i) + ", tag '" + name
+            + "':\n" + text);
         check(text, name);
     }
 }

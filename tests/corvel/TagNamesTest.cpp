@@ -18,8 +18,8 @@ namespace {
 constexpr std::string_view kTagExpression
     = R"~((?!#{2,}|#[0-9a-fA-F]{6}\s|#[0-9a-fA-F]{6}$)(!|-)?#([^#\n\s]{1}|[^#\n\s]{1}[^#\n]{1,500}?[^#\n\s-!]{1})#|(?<=^|\s|[\(\[\{"'])(!|-)?(?!#{2,}|#[0-9a-fA-F]{6}\s|#[0-9a-fA-F]{6}$)#(?!/)(?![0-9-]+(?=$|\s|[:;,،、…!.?\)\]\}"']))\S{1,500}?(?=$|\s|[:;,،、…!.?\)\]\}"']))~";
 
-constexpr std::uint64_t kSeed = 90125;
-constexpr std::size_t kNames = 20000;
+constexpr std::uint64_t kNamesSeed = 90125;
+constexpr std::size_t kNameCount = 20000;
 constexpr std::size_t kLongestName = 500;
 
 constexpr std::array<std::string_view, 46> kPieces{"a", "b", "ab", "xyz", "1", "42", "facade", "0a1b2c", "-", "--", " ",
@@ -29,11 +29,11 @@ constexpr std::array<std::string_view, 46> kPieces{"a", "b", "ab", "xyz", "1", "
 
 template <typename Check> void forRandomNames(Check check)
 {
-    RandomMarkdown random(kSeed, kPieces);
-    const std::size_t count = fuzzCount(kNames);
+    RandomMarkdown random(kNamesSeed, kPieces);
+    const std::size_t count = fuzzCount(kNameCount);
     for (std::size_t i = 0; i < count && !testing::Test::HasFailure(); ++i) {
         const std::string name = random.text(i % 100 == 0 ? 300 : 8);
-        SCOPED_TRACE("seed " + std::to_string(kSeed) + ", name " + std::to_string(i) + ": '" + name + "'");
+        SCOPED_TRACE("seed " + std::to_string(kNamesSeed) + ", name " + std::to_string(i) + ": '" + name + "'");
         check(name);
     }
 }

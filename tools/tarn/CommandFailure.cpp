@@ -1,6 +1,7 @@
 #include "tools/tarn/CommandFailure.h"
 
 #include "platform/coredata/NSPersistentStore.h"
+#include "tools/tarn/DisplayText.h"
 
 #include <algorithm>
 #include <array>
@@ -37,12 +38,6 @@ const StoreErrorMeaning* meaningOf(const NSError& error) noexcept
         return nullptr;
     const auto* found = std::ranges::find(kMeanings, error.code(), &StoreErrorMeaning::code);
     return found == kMeanings.end() ? nullptr : found;
-}
-
-std::string singleLine(std::string text)
-{
-    std::ranges::replace(text, '\n', ' ');
-    return text;
 }
 
 } // namespace

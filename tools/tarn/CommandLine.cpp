@@ -56,14 +56,6 @@ std::string adviceFor(const CLI::ParseError& error)
     return "; see 'tarn --help'";
 }
 
-std::string singleLine(std::string text)
-{
-    while (!text.empty() && (text.back() == '\n' || text.back() == '.'))
-        text.pop_back();
-    std::ranges::replace(text, '\n', ' ');
-    return text;
-}
-
 } // namespace
 
 void tellOnStandardError(std::string_view message)

@@ -4,6 +4,8 @@
 
 #include <unicode/uchar.h>
 
+#include <algorithm>
+
 namespace tarn {
 
 namespace {
@@ -113,6 +115,14 @@ std::string textPaddedToWidth(std::string_view text, std::size_t width)
     if (used < width)
         result.append(width - used, ' ');
     return result;
+}
+
+std::string singleLine(std::string text)
+{
+    while (!text.empty() && (text.back() == '\n' || text.back() == '.'))
+        text.pop_back();
+    std::ranges::replace(text, '\n', ' ');
+    return text;
 }
 
 } // namespace tarn

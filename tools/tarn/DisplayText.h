@@ -19,4 +19,7 @@ std::string textFittedToWidth(std::string_view text, std::size_t width);
 /// The text filled up with blanks to `width` columns.
 std::string textPaddedToWidth(std::string_view text, std::size_t width);
 
+/// A message of another library as a part of one line: without its line ends and its full stop.
+std::string singleLine(std::string text);
+
 } // namespace tarn
