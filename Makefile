@@ -13,6 +13,7 @@ JOBS ?= $(shell nproc)
 PREFIX ?= /usr/local
 NOTES ?=
 FUZZ_SECONDS ?= 60
+TSAN_EXCEPT ?=
 export TARN_CORPUS ?=
 
 # A compiler cache is used where there is one. Without ccache the build is the same, only slower the second time.
@@ -66,11 +67,11 @@ asan: ## the tests with the address and undefined-behaviour sanitizers
 	cmake --build --preset asan
 	ctest --preset asan
 
-tsan: ## the tests with the thread sanitizer
+tsan: ## the tests with the thread sanitizer (TSAN_EXCEPT=regular expression, for some of them)
 	@scripts/install-dependencies.sh build tests
 	scripts/configure.sh tsan
 	scripts/without-address-randomisation.sh cmake --build --preset tsan
-	scripts/without-address-randomisation.sh ctest --preset tsan
+	scripts/without-address-randomisation.sh ctest --preset tsan $(if $(TSAN_EXCEPT),--exclude-regex "$(TSAN_EXCEPT)")
 
 fuzz: ## run each fuzzer for FUZZ_SECONDS (60)
 	@scripts/install-dependencies.sh build fuzz
