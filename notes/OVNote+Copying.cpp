@@ -56,6 +56,7 @@ OVNote* OVNote::mergeNotes(const std::vector<OVNote*>& notes)
         return nullptr;
     // Read first: a note that is locked ends the merge before anything has changed.
     std::vector<std::string> texts;
+    texts.reserve(notes.size());
     for (const OVNote* note : notes)
         texts.push_back(note->text().value_or(""));
 

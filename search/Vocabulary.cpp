@@ -114,6 +114,7 @@ const std::vector<FinishedFragments>& finishedFragments()
 {
     static const std::vector<FinishedFragments> fragments = [] {
         std::vector<FinishedFragments> result;
+        result.reserve(kTerms.size());
         for (const Term& term : kTerms)
             result.push_back({finished(term.fragment, term.form), finished(term.negatedFragment, term.form)});
         return result;

@@ -260,9 +260,9 @@ void ContextCore::processPendingChanges()
         return;
     publish();
     struct Posting {
-        explicit Posting(bool& flag) : flag_(flag) { flag_ = true; }
-        ~Posting() { flag_ = false; }
-        bool& flag_;
+        explicit Posting(bool& isPosting) : flag(isPosting) { flag = true; }
+        ~Posting() { flag = false; }
+        bool& flag;
     };
     const ObjectChanges changes = tracker.takeEvent();
     const auto endEvent = [this](const std::vector<NSManagedObject*>& objects) {

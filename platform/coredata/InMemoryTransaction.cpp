@@ -17,9 +17,8 @@ StoreRow storedRow(const StoreRow& row)
         const PropertyIndex index = property->index();
         const bool isColumn = !property->isRelationship()
             || static_cast<const NSRelationshipDescription*>(property)->storage() == RelationshipStorage::Column;
-        if (!isColumn || !row.values.isLoaded(index))
-            stored.values.setNil(index);
-        else if (property->isRelationship() && stored.values.integer(index) <= 0)
+        const bool isValue = isColumn && row.values.isLoaded(index);
+        if (!isValue || (property->isRelationship() && stored.values.integer(index) <= 0))
             stored.values.setNil(index);
     }
     return stored;

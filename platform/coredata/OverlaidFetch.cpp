@@ -114,7 +114,8 @@ std::vector<StoreRow> OverlaidFetch::merged(std::vector<StoreRow> stored, std::v
     std::vector<StoreRow> all;
     all.reserve(stored.size() + placed.size());
     auto next = stored.begin();
-    for (auto& [place, row] : placed) {
+    for (auto& [itsPlace, row] : placed) {
+        const RowOrder::Place& place = itsPlace;
         const auto behind = std::partition_point(next, stored.end(),
             [&](const StoreRow& other) { return order.comesBefore(order.placeOf(other, overlaid_), place); });
         std::move(next, behind, std::back_inserter(all));

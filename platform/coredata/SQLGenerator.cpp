@@ -155,7 +155,7 @@ GeneratedSelect SQLGenerator::countSelect(const StoreFetch& fetch, std::optional
 /// A CROSS JOIN keeps its order: the candidates lead to the rows.
 std::string SQLGenerator::from(const StoreTable& table, Parts& parts) const
 {
-    const std::string rows = quotedIdentifier(table.name) + " AS " + parts.scope.alias;
+    std::string rows = quotedIdentifier(table.name) + " AS " + parts.scope.alias;
     if (plan_.kind != SearchPlan::Kind::CheckCandidates)
         return rows;
     return "value_list(" + parts.select.text.bind(SQLKeyList{plan_.candidates}) + ") AS c CROSS JOIN " + rows + " ON "

@@ -71,7 +71,7 @@ std::string SQLPaths::joinedAlias(
     for (const SQLScope::Join& join : scope.joins)
         if (join.path == path)
             return join.alias;
-    const std::string alias = newAlias();
+    std::string alias = newAlias();
     scope.joins.push_back(
         {path, alias, " LEFT JOIN " + quotedIdentifier(table) + " AS " + alias + " ON " + alias + ".\"pk\" = " + key});
     return alias;

@@ -251,10 +251,10 @@ void SQLiteConnection::fail(int result, std::string_view doing)
 {
     const char* detail = handle_ ? sqlite3_errmsg(handle_) : nullptr;
     const int extended = handle_ ? sqlite3_extended_errcode(handle_) : result;
-    StoreFailure failure = failureOf(result, extended, detail, std::string(doing.substr(0, 200)));
+    const StoreFailure failure = failureOf(result, extended, detail, std::string(doing.substr(0, 200)));
     if (handle_ && !isInTransaction())
         failureOutsideOfTransaction_ = failure.error();
-    throw failure;
+    throw StoreFailure(failure);
 }
 
 sqlite3_stmt* SQLiteConnection::prepareNew(std::string_view sql)

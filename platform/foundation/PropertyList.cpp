@@ -21,7 +21,7 @@ constexpr std::string_view kMagic = "bplist00";
 constexpr std::size_t kTrailerSize = 32;
 constexpr std::uint64_t kFirstUnsignedOnly = std::uint64_t(1) << 63U;
 
-enum Marker : std::uint8_t { kInteger = 0x10, kAsciiString = 0x50, kUTF16String = 0x60, kDictionary = 0xD0 };
+enum Marker : std::uint8_t { Integer = 0x10, ASCIIString = 0x50, UTF16String = 0x60, Dictionary = 0xD0 };
 constexpr std::uint8_t kLongCount = 0x0F; ///< in a marker: the count follows as an integer
 
 /// Bytes for a count of objects or an offset.
@@ -68,7 +68,7 @@ private:
     }
     void appendRoot(const IntegerDictionary& dictionary)
     {
-        startObject(kDictionary, dictionary.size());
+        startObject(Marker::Dictionary, dictionary.size());
         for (std::size_t number = 1; number <= dictionary.size(); ++number)
             appendNumber(number, referenceWidth_);
         for (const auto& [key, value] : dictionary)
@@ -77,12 +77,12 @@ private:
     void appendString(const std::string& text)
     {
         if (isAscii(text)) {
-            startObject(kAsciiString, text.size());
+            startObject(Marker::ASCIIString, text.size());
             appendText(text);
             return;
         }
         const std::u16string units = utf16FromUTF8(text);
-        startObject(kUTF16String, units.size());
+        startObject(Marker::UTF16String, units.size());
         for (const char16_t unit : units)
             appendNumber(unit, 2);
     }
@@ -101,14 +101,14 @@ private:
     void appendIntegerForm(std::uint64_t value)
     {
         if (value >= kFirstUnsignedOnly) {
-            appendNumber(kInteger | 4U, 1);
+            appendNumber(Marker::Integer | 4U, 1);
             appendNumber(0, 8);
             appendNumber(value, 8);
             return;
         }
         const std::size_t width = widthFor(value);
         const std::array<std::uint8_t, 9> powers = {0, 0, 1, 0, 2, 0, 0, 0, 3};
-        appendNumber(kInteger | powers[width], 1);
+        appendNumber(Marker::Integer | powers[width], 1);
         appendNumber(value, width);
     }
     void appendTableAndTrailer()
@@ -157,7 +157,7 @@ public:
         auto position = positionOfObject(root_);
         if (!position)
             return std::nullopt;
-        const auto count = readMarker(*position, kDictionary);
+        const auto count = readMarker(*position, Marker::Dictionary);
         if (!count || *count > (table_ - *position) / (2 * referenceWidth_))
             return std::nullopt;
         return entries(*position, static_cast<std::size_t>(*count));
@@ -215,7 +215,8 @@ private:
     {
         const auto marker = static_cast<unsigned>(position < table_ ? number(position, 1) : 0);
         const unsigned power = marker & 0x0FU;
-        if ((marker & 0xF0U) != kInteger || power > highestPower || table_ - position - 1 < (std::size_t(1) << power))
+        if ((marker & 0xF0U) != Marker::Integer || power > highestPower
+            || table_ - position - 1 < (std::size_t(1) << power))
             return std::nullopt;
         std::size_t width = std::size_t(1) << power;
         ++position;
@@ -246,8 +247,8 @@ private:
         auto position = positionOfObject(object);
         if (!position)
             return std::nullopt;
-        const bool isWide = (number(*position, 1) & 0xF0U) == kUTF16String;
-        const auto count = readMarker(*position, isWide ? kUTF16String : kAsciiString);
+        const bool isWide = (number(*position, 1) & 0xF0U) == Marker::UTF16String;
+        const auto count = readMarker(*position, isWide ? Marker::UTF16String : Marker::ASCIIString);
         const std::size_t width = isWide ? 2 : 1;
         if (!count || *count > (table_ - *position) / width || !spendKeyBytes(*count * width))
             return std::nullopt;

@@ -30,6 +30,7 @@ std::optional<NSPredicate> predicateOfFilter(std::string_view name)
 std::vector<std::string> namesOfFilters()
 {
     std::vector<std::string> names;
+    names.reserve(kFilters.size());
     for (const NoteFilter& filter : kFilters)
         names.emplace_back(filter.name);
     return names;

@@ -115,11 +115,11 @@ ExitCode deleteTag(const Invocation& invocation, const TagArguments& arguments)
     return ExitCode::Done;
 }
 
-template <void (OVNoteTag::*change)()> ExitCode changeTag(const Invocation& invocation, const TagArguments& arguments)
+template <void (OVNoteTag::*Change)()> ExitCode changeTag(const Invocation& invocation, const TagArguments& arguments)
 {
     StoreSession session(invocation, StoreSession::Access::Write);
     OVNoteTag& tag = tagForArgument(*arguments.name, session);
-    (tag.*change)();
+    (tag.*Change)();
     session.save();
     report(invocation, tag.title().value_or(""), 0);
     return ExitCode::Done;

@@ -7,11 +7,10 @@
 
 int main(int count, char** values)
 {
-    using namespace tarn;
-    reserveStandardStreams();
-    setLogSink(tellOnStandardError);
-    Output output(STDOUT_FILENO);
-    CommandLine commandLine(output);
-    addCommands(commandLine);
+    tarn::reserveStandardStreams();
+    tarn::setLogSink(tarn::tellOnStandardError);
+    tarn::Output output(STDOUT_FILENO);
+    tarn::CommandLine commandLine(output);
+    tarn::addCommands(commandLine);
     return static_cast<int>(commandLine.run(std::vector<std::string>(values + (count > 0), values + count)));
 }
