@@ -1,17 +1,13 @@
 // Notes in a store, beside what the machine itself takes: `bench_notes [count] [folder of Markdown]`.
 
+#include "benchmarks/support/BenchmarkStore.h"
 #include "benchmarks/support/Corpus.h"
 #include "benchmarks/support/Yardsticks.h"
-#include "model/ManagedObjectModel.h"
 #include "model/OVNote.h"
 #include "notes/OVNoteCacheLoan.h"
-#include "platform/coredata/NSManagedObjectContext.h"
-#include "platform/coredata/NSPersistentStoreCoordinator.h"
-#include "platform/foundation/NSUUID.h"
 
 #include <fmt/core.h>
 
-#include <chrono>
 #include <cstdlib>
 #include <filesystem>
 #include <functional>
@@ -25,43 +21,6 @@ using namespace tarn;
 /// Notes that one import saves together; what the command line does too.
 constexpr std::size_t batchSize = 500;
 
-struct Store {
-    explicit Store(const std::filesystem::path& file)
-        : coordinator(std::make_shared<NSPersistentStoreCoordinator>(OVManagedObjectModel::current())),
-          context(NSManagedObjectContext::ConcurrencyType::MainQueue)
-    {
-        NSError error;
-        if (!coordinator->addPersistentStoreWithType(StoreType::SQLite, file, {}, &error)) {
-            fmt::print(stderr, "{}\n", error.localizedDescription());
-            std::exit(6);
-        }
-        context.setPersistentStoreCoordinator(coordinator);
-    }
-    void exclusively(const std::function<void()>& block)
-    {
-        NSError error;
-        if (!context.performExclusive(block, &error)) {
-            fmt::print(stderr, "{}\n", error.localizedDescription());
-            std::exit(6);
-        }
-    }
-    void save()
-    {
-        NSError error;
-        if (!context.save(&error)) {
-            fmt::print(stderr, "{}\n", error.localizedDescription());
-            std::exit(6);
-        }
-    }
-    std::shared_ptr<NSPersistentStoreCoordinator> coordinator;
-    NSManagedObjectContext context;
-};
-
-double secondsSince(std::chrono::steady_clock::time_point begin)
-{
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
-}
-
 void report(const char* name, double seconds, const char* yardstick, double unit, double target)
 {
     fmt::print("{:<34} {:>12.3f} ms  {:>8.2f} x {:<8} target <= {:g}\n", name, seconds * 1000, seconds / unit,
@@ -70,21 +29,21 @@ void report(const char* name, double seconds, const char* yardstick, double unit
 
 double import(const std::filesystem::path& file, const std::vector<std::string>& texts)
 {
-    const auto begin = std::chrono::steady_clock::now();
-    Store store(file);
-    for (std::size_t first = 0; first < texts.size(); first += batchSize) {
-        OVNote::TagsCache tags;
-        OVNote::NotesCache notes;
-        store.exclusively([&] {
-            for (std::size_t number = first; number < std::min(first + batchSize, texts.size()); ++number) {
-                OVNote& note = *OVNote::insertInManagedObjectContext(store.context);
-                const OVNoteCacheLoan loan(note, tags, notes);
-                note.updateNoteWithText(texts[number]);
-            }
-        });
-        store.context.reset();
-    }
-    return secondsSince(begin);
+    return secondsOf([&] {
+        BenchmarkStore store(file);
+        for (std::size_t first = 0; first < texts.size(); first += batchSize) {
+            OVNote::TagsCache tags;
+            OVNote::NotesCache notes;
+            store.exclusively([&] {
+                for (std::size_t number = first; number < std::min(first + batchSize, texts.size()); ++number) {
+                    OVNote& note = *OVNote::insertInManagedObjectContext(store.context);
+                    const OVNoteCacheLoan loan(note, tags, notes);
+                    note.updateNoteWithText(texts[number]);
+                }
+            });
+            store.context.reset();
+        }
+    });
 }
 
 NSFetchRequest standardOrder(NSManagedObjectContext& context)
@@ -96,7 +55,7 @@ NSFetchRequest standardOrder(NSManagedObjectContext& context)
 
 void measureEdits(const std::filesystem::path& file, std::size_t count, const Yardsticks& yardsticks)
 {
-    Store store(file);
+    BenchmarkStore store(file);
     std::mt19937 random(1);
     NSFetchRequest request = standardOrder(store.context);
     request.fetchLimit = 200;
@@ -112,7 +71,7 @@ void measureEdits(const std::filesystem::path& file, std::size_t count, const Ya
 
 void measureLookups(const std::filesystem::path& file, const Yardsticks& yardsticks)
 {
-    Store store(file);
+    BenchmarkStore store(file);
     NSFetchRequest some = standardOrder(store.context);
     some.fetchLimit = 500;
     std::vector<std::string> titles;
@@ -125,7 +84,7 @@ void measureLookups(const std::filesystem::path& file, const Yardsticks& yardsti
     report("title look-up, object layer", seconds / static_cast<double>(titles.size()), "L_point", yardsticks.point, 3);
 
     const double list = medianSeconds(11, [&](int) {
-        Store fresh(file);
+        BenchmarkStore fresh(file);
         NSFetchRequest first = standardOrder(fresh.context);
         first.predicate = NSPredicate::predicateWithFormat("trashed == NO AND archived == NO");
         first.fetchLimit = 50;
@@ -133,7 +92,7 @@ void measureLookups(const std::filesystem::path& file, const Yardsticks& yardsti
     });
     fmt::print("{:<34} {:>12.3f} ms  target <= 50 ms\n", "open the store, first 50 notes", list * 1000);
 
-    Store whole(file);
+    BenchmarkStore whole(file);
     whole.context.executeFetchRequest(standardOrder(whole.context)); // fills what SQLite keeps of the file
     whole.context.reset();
     const std::size_t before = allocatedMemory();
@@ -192,11 +151,9 @@ int main(int argc, char** argv)
 {
     const std::size_t most = argc > 1 ? std::strtoul(argv[1], nullptr, 10) : 100000;
     const std::string corpus = argc > 2 ? argv[2] : "";
-    const auto folder = std::filesystem::temp_directory_path() / ("tarn benchmark " + tarn::newUUIDString());
-    std::filesystem::create_directories(folder);
-    const double few = measure(folder, std::max<std::size_t>(most / 10, 1), corpus);
-    const double many = measure(folder, most, corpus);
+    const tarn::BenchmarkFolder folder;
+    const double few = measure(folder.path(), std::max<std::size_t>(most / 10, 1), corpus);
+    const double many = measure(folder.path(), most, corpus);
     fmt::print("\nimport time for each note, {} against {} notes: {:.2f} (linear is 1, target <= 1.2)\n", most,
         most / 10, many / few);
-    std::filesystem::remove_all(folder);
 }

@@ -3,61 +3,26 @@
 // Each measure is taken on a store that was just opened, and saved in one transaction; the shares of parsing, of
 // fetching and of writing are told apart, and how the time grows with the number of notes.
 
+#include "benchmarks/support/BenchmarkStore.h"
 #include "benchmarks/support/Yardsticks.h"
 #include "corvel/CVKAST.h"
 #include "corvel/CVKHashtag.h"
 #include "corvel/CVKWikiLink.h"
-#include "model/ManagedObjectModel.h"
 #include "model/OVNote.h"
 #include "model/OVNoteTag.h"
-#include "platform/coredata/NSManagedObjectContext.h"
-#include "platform/coredata/NSPersistentStoreCoordinator.h"
 #include "platform/foundation/NSUUID.h"
 
 #include <fmt/core.h>
 
-#include <chrono>
 #include <cstdlib>
 #include <filesystem>
 #include <functional>
-#include <memory>
 #include <string>
 
 namespace {
 
 using namespace tarn;
 namespace fs = std::filesystem;
-
-struct Store {
-    explicit Store(const fs::path& file)
-        : coordinator(std::make_shared<NSPersistentStoreCoordinator>(OVManagedObjectModel::current())),
-          context(NSManagedObjectContext::ConcurrencyType::MainQueue)
-    {
-        NSError error;
-        if (!coordinator->addPersistentStoreWithType(StoreType::SQLite, file, {}, &error)) {
-            fmt::print(stderr, "{}\n", error.localizedDescription());
-            std::exit(6);
-        }
-        context.setPersistentStoreCoordinator(coordinator);
-    }
-    void save()
-    {
-        NSError error;
-        if (!context.save(&error)) {
-            fmt::print(stderr, "{}\n", error.localizedDescription());
-            std::exit(6);
-        }
-    }
-    std::shared_ptr<NSPersistentStoreCoordinator> coordinator;
-    NSManagedObjectContext context;
-};
-
-double secondsOf(const std::function<void()>& work)
-{
-    const auto begin = std::chrono::steady_clock::now();
-    work();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
-}
 
 /// What a rename took, in all and in its parts.
 struct Cost {
@@ -91,13 +56,13 @@ Cost measure(const fs::path& folder, const Case& tried, std::size_t count)
 {
     const fs::path file = folder / (newUUIDString() + ".sqlite");
     {
-        Store store(file);
+        BenchmarkStore store(file);
         OVNote::noteWithText("# Target", store.context);
         for (std::size_t number = 0; number < count; ++number)
             OVNote::noteWithText(tried.text(number), store.context);
         store.save();
     }
-    Store store(file);
+    BenchmarkStore store(file);
     Cost cost;
     std::vector<std::string> texts;
     cost.reading = secondsOf([&] {
@@ -171,18 +136,16 @@ int main(int argc, char** argv)
     // Whoever runs all benchmarks hands them options of Google Benchmark, which read as 0.
     const std::size_t given = argc > 1 ? std::strtoul(argv[1], nullptr, 10) : 0;
     const std::size_t most = given ? given : 10000;
-    const fs::path folder = fs::temp_directory_path() / ("tarn benchmark " + newUUIDString());
-    fs::create_directories(folder);
+    const BenchmarkFolder folder;
     for (const Case& tried : cases()) {
         const std::size_t many = std::min(tried.notes, most);
         const std::size_t few = std::max<std::size_t>(many / 4, 1);
-        const Cost costOfFew = measure(folder, tried, few);
-        const Cost costOfMany = measure(folder, tried, many);
+        const Cost costOfFew = measure(folder.path(), tried, few);
+        const Cost costOfMany = measure(folder.path(), tried, many);
         report(tried, few, costOfFew);
         report(tried, many, costOfMany);
         const double growth
             = costOfMany.whole() / static_cast<double>(many) / (costOfFew.whole() / static_cast<double>(few));
         fmt::print("{:<34} time for each note, {} against {}: {:.2f} (linear is 1)\n", "", many, few, growth);
     }
-    fs::remove_all(folder);
 }
