@@ -7,7 +7,7 @@
 SHELL := /bin/bash
 .SHELLFLAGS := -euo pipefail -c
 .DEFAULT_GOAL := help
-.PHONY: demo test test-slow format format-check tidy bench asan tsan fuzz coverage install help clean
+.PHONY: demo test test-slow test-long format format-check tidy bench asan tsan fuzz coverage install help clean
 
 JOBS ?= $(shell nproc)
 PREFIX ?= /usr/local
@@ -35,11 +35,17 @@ test: ## build the library, the tools and the tests, and run all tests but the s
 	cmake --build --preset dev
 	ctest --preset dev --label-exclude slow
 
-test-slow: ## the tests that compile again: each public header alone, and programs that use the library
+test-slow: ## the tests that compile again (each public header alone, programs that use the library), and the long ones
 	@scripts/install-dependencies.sh build tests
 	scripts/configure.sh dev
 	cmake --build --preset dev
 	ctest --preset dev --label-regex slow
+
+test-long: ## the long forms of tests: many random runs, deaths of processes and failures of disks; some minutes
+	@scripts/install-dependencies.sh build tests
+	scripts/configure.sh dev
+	cmake --build --preset dev
+	ctest --preset dev --label-regex long
 
 format: ## lay out all sources by .clang-format
 	@scripts/install-dependencies.sh format
