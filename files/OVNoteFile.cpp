@@ -1,9 +1,9 @@
 #include "model/OVNoteFile.h"
 
-#include "files/PercentEncoding.h"
 #include "platform/coredata/NSManagedObjectContext.h"
 #include "platform/foundation/NSDate.h"
 #include "platform/foundation/Normalization.h"
+#include "platform/foundation/PercentEncoding.h"
 
 namespace tarn {
 

@@ -1,10 +1,10 @@
 #include "corvel/CVKAST.h"
 #include "corvel/CVKTextSummary.h"
-#include "files/PercentEncoding.h"
 #include "model/OVNote.h"
 #include "model/OVNoteGenericFile.h"
 #include "model/OVNoteImage.h"
 #include "platform/foundation/NSDate.h"
+#include "platform/foundation/PercentEncoding.h"
 #include "platform/foundation/UTF.h"
 #include "sync/OVDeviceUUID.h"
 
