@@ -122,33 +122,14 @@ TEST_F(ExtensionStack, TellsTheApplicationWhatItSaved)
 
 TEST_F(ExtensionStack, RefusesAStoreThatNeedsMigration)
 {
-    for (const std::string version : {"Model", "Model 2", "another"}) {
-        if (version == "another")
-            makeStoreOfUnknownModel();
-        else
-            makeStoreOfVersion(version);
-        const UntouchedFile store(storeFile());
-        NSError error;
-
-        EXPECT_FALSE(OVCoreDataStackForExtensions::initStackOutputError(&error)) << version;
-
-        EXPECT_EQ(error,
-            NSError("OVCoreDataStackForExtensions", 1, "The database need migration, open the main application"));
-        store.expectUntouched();
-        EXPECT_THAT(files(), ElementsAre("database.sqlite"));
-        std::filesystem::remove(storeFile());
-    }
-    makeStoreOfVersion("Model 2");
-    EXPECT_FALSE(OVCoreDataStackForExtensions::initStackOutputError()) << "nobody has to take the error";
+    expectRefusesStoresThatNeedMigration("OVCoreDataStackForExtensions",
+        [](NSError* error) { return OVCoreDataStackForExtensions::initStackOutputError(error) != nullptr; });
 }
 
 TEST_F(ExtensionStack, TellsWhyTheStoreCannotBeOpened)
 {
-    std::ofstream(storeFile())
-        << "This is no store, but a text that is longer than the header of one would have to be.";
-    NSError error;
-    EXPECT_FALSE(OVCoreDataStackForExtensions::initStackOutputError(&error));
-    EXPECT_EQ(error.code(), StoreErrorNotAStore);
+    expectRefusesAFileThatIsNoStore(
+        [](NSError* error) { return OVCoreDataStackForExtensions::initStackOutputError(error) != nullptr; });
 }
 
 TEST_F(ExtensionStack, IsNeitherSharedNorSetUpAgainNorMigrates)

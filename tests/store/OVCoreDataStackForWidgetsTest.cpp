@@ -78,33 +78,17 @@ TEST_F(WidgetStack, NeverWrites)
 
 TEST_F(WidgetStack, RefusesAStoreThatNeedsMigration)
 {
-    for (const std::string version : {"Model", "Model 2", "another"}) {
-        if (version == "another")
-            makeStoreOfUnknownModel();
-        else
-            makeStoreOfVersion(version);
-        const UntouchedFile store(storeFile());
-        NSError error;
-
-        EXPECT_FALSE(OVCoreDataStackForWidgets::initStack(&error)) << version;
-
-        EXPECT_EQ(
-            error, NSError("OVCoreDataStackForWidgets", 1, "The database need migration, open the main application"));
-        store.expectUntouched();
-        EXPECT_THAT(files(), ElementsAre("database.sqlite"));
-        std::filesystem::remove(storeFile());
-    }
+    expectRefusesStoresThatNeedMigration("OVCoreDataStackForWidgets",
+        [](NSError* error) { return OVCoreDataStackForWidgets::initStack(error) != nullptr; });
 }
 
 TEST_F(WidgetStack, TellsWhyTheStoreCannotBeOpened)
 {
-    std::ofstream(storeFile())
-        << "This is no store, but a text that is longer than the header of one would have to be.";
-    NSError error;
-    EXPECT_FALSE(OVCoreDataStackForWidgets::initStack(&error));
-    EXPECT_EQ(error.code(), StoreErrorNotAStore);
+    expectRefusesAFileThatIsNoStore(
+        [](NSError* error) { return OVCoreDataStackForWidgets::initStack(error) != nullptr; });
 
     std::filesystem::remove_all(folder());
+    NSError error;
     EXPECT_FALSE(OVCoreDataStackForWidgets::initStack(&error));
     EXPECT_EQ(error.code(), StoreErrorCannotOpen) << "without the folder";
     std::filesystem::create_directories(folder());

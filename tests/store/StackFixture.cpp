@@ -185,8 +185,38 @@ std::vector<std::string> StackFixture::titlesInStore() const
     return titlesIn(context);
 }
 
-// Files that are left alone
-// -----------------------------------------------------------------------------------------------
+// Files that are left alone -------------------------------------------------------------------------------------------
+
+void StackFixture::expectRefusesStoresThatNeedMigration(std::string_view domain, const Opening& open)
+{
+    for (const std::string version : {"Model", "Model 2", "another"}) {
+        SCOPED_TRACE(version);
+        if (version == "another")
+            makeStoreOfUnknownModel();
+        else
+            makeStoreOfVersion(version);
+        const UntouchedFile store(storeFile());
+        NSError error;
+
+        EXPECT_FALSE(open(&error));
+
+        EXPECT_EQ(error, NSError(domain, 1, "The database need migration, open the main application"));
+        store.expectUntouched();
+        EXPECT_THAT(files(), testing::ElementsAre("database.sqlite"));
+        fs::remove(storeFile());
+    }
+    makeStoreOfVersion("Model 2");
+    EXPECT_FALSE(open(nullptr)) << "nobody has to take the error";
+}
+
+void StackFixture::expectRefusesAFileThatIsNoStore(const Opening& open) const
+{
+    std::ofstream(storeFile())
+        << "This is no store, but a text that is longer than the header of one would have to be.";
+    NSError error;
+    EXPECT_FALSE(open(&error));
+    EXPECT_EQ(error.code(), StoreErrorNotAStore);
+}
 
 UntouchedFile::UntouchedFile(fs::path file) : file_(std::move(file))
 {

@@ -59,6 +59,12 @@ protected:
     /// Makes the store with a model that this library has never had.
     void makeStoreOfUnknownModel();
 
+    /// Opens a stack that never migrates; whether that gave one.
+    using Opening = std::function<bool(NSError*)>;
+    /// Stores of older and of unknown models are refused with the error of the stack's class, and stay as they are.
+    void expectRefusesStoresThatNeedMigration(std::string_view domain, const Opening& open);
+    void expectRefusesAFileThatIsNoStore(const Opening& open) const;
+
     /// Drains the main queue until the condition holds; fails the test after ten seconds.
     static void runUntil(const std::function<bool()>& done);
     static OVNote& noteTitled(std::string_view title, NSManagedObjectContext& context);
