@@ -19,7 +19,9 @@ std::error_code createPrivateFolder(const std::filesystem::path& folder)
     }
     // A folder on the way that may not be written to is no failure when the next one is there.
     std::error_code ignored;
-    return std::filesystem::is_directory(folder, ignored) ? std::error_code() : failure;
+    if (std::filesystem::is_directory(folder, ignored))
+        return {};
+    return failure ? failure : std::make_error_code(std::errc::not_a_directory);
 }
 
 } // namespace tarn

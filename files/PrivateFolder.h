@@ -6,7 +6,8 @@
 namespace tarn {
 
 /// Makes the folder and those above it, readable by their owner alone; folders that are there stay as they are. The
-/// error of the first folder that could not be made; none when the folder is there in the end.
+/// error of the first folder that could not be made, or that something else has its name; none when the folder is there
+/// in the end.
 std::error_code createPrivateFolder(const std::filesystem::path& folder);
 
 } // namespace tarn

@@ -1,14 +1,13 @@
 #include "tools/tarn/StoreSession.h"
 
 #include "files/OVLocalFileManager.h"
+#include "files/PrivateFolder.h"
 #include "model/ManagedObjectModel.h"
 #include "model/OVChange.h"
 #include "platform/foundation/Environment.h"
 #include "platform/foundation/Queue.h"
 #include "tools/tarn/CommandFailure.h"
 
-#include <cerrno>
-#include <sys/stat.h>
 #include <system_error>
 
 namespace tarn {
@@ -29,20 +28,6 @@ std::vector<Record*> recordsOf(NSManagedObjectContext& context, const NSFetchReq
     for (NSManagedObject* record : *fetched)
         records.push_back(static_cast<Record*>(record));
     return records;
-}
-
-/// Makes the folder and those above it; notes are private, so nobody else looks in.
-void createPrivateFolders(const fs::path& folder)
-{
-    fs::path path;
-    for (const fs::path& part : folder) {
-        path /= part;
-        if (::mkdir(path.c_str(), 0700) != 0 && errno != EEXIST && errno != EROFS && errno != EACCES)
-            throw failureForSystemError("cannot make the folder " + path.string(), errno);
-    }
-    std::error_code error;
-    if (!fs::is_directory(folder, error))
-        throw failureForSystemError("cannot make the folder " + folder.string(), error ? error.value() : ENOTDIR);
 }
 
 } // namespace
@@ -74,7 +59,9 @@ StoreSession::StoreSession(const Invocation& invocation, Access access)
     : folder_(storeFolderOf(invocation)), database_(databaseInStoreFolder(folder_))
 {
     if (access == Access::Write) {
-        createPrivateFolders(fs::absolute(database_.parent_path()));
+        const fs::path folder = fs::absolute(database_.parent_path());
+        if (const std::error_code failure = createPrivateFolder(folder))
+            throw failureForSystemError("cannot make the folder " + folder.string(), failure.value());
         lock_ = std::make_unique<StoreLock>(database_.parent_path() / "tarn.lock", StoreLock::limitOfEnvironment());
     } else {
         std::error_code error;
