@@ -175,8 +175,8 @@ std::vector<std::uint32_t> orderedHashes(std::string_view foldedText)
     return numbers.takeHashes();
 }
 
-/// The same in no order, for long texts.
-std::vector<std::uint32_t> hashesOfLongText(std::string_view foldedText)
+/// The same in no order; faster for whole texts.
+std::vector<std::uint32_t> unorderedHashes(std::string_view foldedText)
 {
     thread_local ASCIIGrams kept;
     ASCIIGrams& ascii = kept; // looked up once
@@ -229,7 +229,7 @@ std::string signatureOfNothing()
 
 std::string signatureOfText(std::string_view text)
 {
-    const std::vector<std::uint32_t> hashes = hashesOfLongText(fold(text));
+    const std::vector<std::uint32_t> hashes = unorderedHashes(fold(text));
     // Two bits for each hash, in whole bytes.
     const std::size_t byteCount = (hashes.size() + 3) / 4;
     const std::uint64_t bitCount = std::uint64_t{byteCount} * 8;
