@@ -106,18 +106,26 @@ double NSProgress::fractionCompleted() const
 {
     std::vector<State::Child> children;
     std::int64_t total = 0;
-    double completed = 0;
+    std::int64_t completed = 0;
     {
         const std::lock_guard lock(state_->mutex);
         total = state_->total;
-        completed = static_cast<double>(state_->completed);
+        completed = state_->completed;
         children = state_->children;
     }
     if (total <= 0)
         return 0;
-    for (const State::Child& child : children)
-        completed += child.progress->fractionCompleted() * static_cast<double>(child.pendingUnits);
-    return std::clamp(completed / static_cast<double>(total), 0.0, 1.0);
+    // A child that is done counts in whole units whether or not it left the list yet: as one more term of the sum it
+    // would be rounded otherwise before than after, and the fraction could step back by a last digit.
+    double parts = 0;
+    for (const State::Child& child : children) {
+        const double fraction = child.progress->fractionCompleted();
+        if (fraction == 1)
+            completed += child.pendingUnits;
+        else
+            parts += fraction * static_cast<double>(child.pendingUnits);
+    }
+    return std::clamp((static_cast<double>(completed) + parts) / static_cast<double>(total), 0.0, 1.0);
 }
 
 bool NSProgress::isIndeterminate() const

@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <random>
 #include <thread>
 #include <vector>
 
@@ -126,6 +127,40 @@ TEST(NSProgress, TellsItsObserversAndThoseOfItsParent)
 
     EXPECT_THAT(ofChild, ElementsAre(1));
     EXPECT_THAT(ofParent, ElementsAre(0.25, 0.5, 1.0));
+}
+
+/// A progress of so many units that stands for one of `parent`.
+std::shared_ptr<NSProgress> partOf(const std::shared_ptr<NSProgress>& parent, std::int64_t units)
+{
+    parent->becomeCurrentWithPendingUnitCount(1);
+    auto part = NSProgress::progressWithTotalUnitCount(units);
+    parent->resignCurrent();
+    return part;
+}
+
+TEST(NSProgress, ChildrenThatFinishNeverTakeAStepBack)
+{
+    std::mt19937 random(20261121);
+    for (int round = 0; round < 300; ++round) {
+        const auto parent = NSProgress::discreteProgressWithTotalUnitCount(7);
+        std::vector<std::shared_ptr<NSProgress>> steps;
+        for (int i = 0; i < 7; ++i) {
+            steps.push_back(partOf(partOf(parent, 1), 500));
+            steps.back()->setCompletedUnitCount(static_cast<std::int64_t>(random() % 500));
+        }
+        double last = parent->fractionCompleted();
+        const auto look = [&] {
+            EXPECT_GE(parent->fractionCompleted(), last);
+            last = parent->fractionCompleted();
+        };
+        for (; !steps.empty(); steps.pop_back()) {
+            // Told when the child of `parent` is done and has not left it yet.
+            const auto watching = steps.back()->observe([&](const NSProgress&) { look(); });
+            steps.back()->setCompletedUnitCount(500);
+            look();
+        }
+        EXPECT_EQ(last, 1);
+    }
 }
 
 TEST(NSProgress, MayBeMovedAndWatchedByManyThreads)
