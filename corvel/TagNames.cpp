@@ -110,12 +110,12 @@ std::u32string withWritableForm(std::u32string name)
     return name;
 }
 
-/// Letters, digits and inner hyphens of ASCII: nothing to clean.
+/// Letters, digits and inner hyphens of ASCII, single slashes between them: nothing to clean.
 bool isPlain(std::string_view name) noexcept
 {
-    const auto isInner = [](char c) { return isASCIIAlphanumeric(c) || c == '-'; };
+    const auto isInner = [](char c) { return isASCIIAlphanumeric(c) || c == '-' || c == '/'; };
     return !name.empty() && name.size() <= kLongestName && std::all_of(name.begin(), name.end(), isInner)
-        && name.back() != '-';
+        && name.front() != '/' && name.back() != '/' && name.back() != '-' && name.find("//") == std::string_view::npos;
 }
 
 } // namespace

@@ -72,7 +72,8 @@ std::string where(const std::vector<std::string>& conditions)
 
 std::string_view nameOfPlan(SearchPlan::Kind kind)
 {
-    constexpr std::array<std::string_view, 4> kNames{"no index", "check candidates", "walk the order", "scan"};
+    constexpr std::array<std::string_view, 5> kNames{
+        "no index", "check candidates", "sort candidates", "walk the order", "scan"};
     return kNames[static_cast<std::size_t>(kind)];
 }
 
@@ -124,39 +125,65 @@ GeneratedSelect SQLGenerator::rows(const StoreFetch& fetch, RowContents& content
 
 GeneratedSelect SQLGenerator::count(const StoreFetch& fetch) const
 {
-    const bool readsTexts = options_.rowsThatMayMatch && plan_.kind != SearchPlan::Kind::CheckCandidates;
+    const bool readsTexts = options_.rowsThatMayMatch && !startsWithCandidates();
     if (!readsTexts)
-        return countSelect(fetch, std::nullopt);
+        return unsorted(fetch, Result::Count, std::nullopt);
     // Texts lie in the order of keys; without a range SQLite walks whatever index is the smallest.
     constexpr KeyRange kAll{std::numeric_limits<std::int64_t>::min(), std::numeric_limits<std::int64_t>::max()};
-    return countSelect(fetch, kAll);
+    return unsorted(fetch, Result::Count, kAll);
 }
 
 GeneratedSelect SQLGenerator::countInRange(const StoreFetch& fetch, KeyRange range) const
 {
-    return countSelect(fetch, range);
+    return unsorted(fetch, Result::Count, range);
 }
 
-GeneratedSelect SQLGenerator::countSelect(const StoreFetch& fetch, std::optional<KeyRange> range) const
+GeneratedSelect SQLGenerator::keysInRange(const StoreFetch& fetch, KeyRange range) const
+{
+    return unsorted(fetch, Result::Keys, range);
+}
+
+GeneratedSelect SQLGenerator::unsorted(const StoreFetch& fetch, Result result, std::optional<KeyRange> range) const
 {
     Parts parts(selects_.schema(), *fetch.entity);
     std::vector<std::string> all = conditions(fetch, parts);
     const StoreTable& table = selects_.schema().table(*fetch.entity);
     const std::string source = from(table, parts);
+    const std::string key = parts.scope.alias + ".\"pk\"";
     if (range) {
         const std::string first = parts.select.text.bind(range->first);
         const std::string last = parts.select.text.bind(range->last);
-        all.insert(all.begin(), parts.scope.alias + ".\"pk\" BETWEEN " + first + " AND " + last);
+        all.insert(all.begin(), key + " BETWEEN " + first + " AND " + last);
     }
-    parts.select.text.sql = "SELECT count(*) FROM " + source + parts.scope.joinSQL() + where(all);
+    const bool isCount = result == Result::Count;
+    parts.select.text.sql = "SELECT " + (isCount ? "count(*)" : key) + " FROM " + source + parts.scope.joinSQL()
+        + where(all) + (isCount ? "" : " ORDER BY " + key);
     return std::move(parts.select);
+}
+
+GeneratedSelect SQLGenerator::candidatesInOrder(const StoreFetch& fetch) const
+{
+    Parts parts(selects_.schema(), *fetch.entity);
+    StoreFetch all = fetch;
+    all.predicate = nullptr;
+    const std::string condition = where(conditions(all, parts));
+    const std::string order = orderBy(fetch, parts);
+    const std::string source = from(selects_.schema().table(*fetch.entity), parts);
+    parts.select.text.sql
+        = "SELECT " + parts.scope.alias + ".\"pk\" FROM " + source + parts.scope.joinSQL() + condition + order;
+    return std::move(parts.select);
+}
+
+bool SQLGenerator::startsWithCandidates() const noexcept
+{
+    return plan_.kind == SearchPlan::Kind::CheckCandidates || plan_.kind == SearchPlan::Kind::SortCandidates;
 }
 
 /// A CROSS JOIN keeps its order: the candidates lead to the rows.
 std::string SQLGenerator::from(const StoreTable& table, Parts& parts) const
 {
     std::string rows = quotedIdentifier(table.name) + " AS " + parts.scope.alias;
-    if (plan_.kind != SearchPlan::Kind::CheckCandidates)
+    if (!startsWithCandidates())
         return rows;
     return "value_list(" + parts.select.text.bind(SQLKeyList{plan_.candidates}) + ") AS c CROSS JOIN " + rows + " ON "
         + parts.scope.alias + ".\"pk\" = c.\"value\"";

@@ -24,7 +24,8 @@ struct GeneratedSelect {
 struct SearchPlan {
     enum class Kind : std::uint8_t {
         NoIndex,         ///< nothing is known about the predicate as a whole
-        CheckCandidates, ///< the candidates one by one, then sorted
+        CheckCandidates, ///< the candidates one by one, what is left is sorted
+        SortCandidates,  ///< the candidates in the order asked for, checked until there are enough
         WalkOrder,       ///< the rows in the order asked for, candidates checked, until there are enough
         Scan,            ///< the rows by key, candidates checked
     };
@@ -52,19 +53,30 @@ public:
     { }
 
     const SearchPlan& plan() const noexcept { return plan_; }
+    /// One that walks the same fetches by another plan.
+    SQLGenerator withPlan(SearchPlan::Kind kind, KeySetPtr candidates) const
+    {
+        return {selects_, options_, {kind, std::move(candidates), plan_.rowCount}};
+    }
 
     /// SELECT of rows in the order asked for, as a `RowLayout` for these contents reads them; with a remainder,
     /// contents are at least `Row`.
     GeneratedSelect rows(const StoreFetch& fetch, RowContents& contents) const;
     /// SELECT count(*), without limit and offset. With a remainder only that counts: fetch rows instead.
     GeneratedSelect count(const StoreFetch& fetch) const;
-    /// The same for part of the rows; the last two arguments are the ends of the range.
+    /// The same for part of the rows.
     GeneratedSelect countInRange(const StoreFetch& fetch, KeyRange range) const;
+    /// SELECT of the keys of part of the rows, ascending, without limit and offset.
+    GeneratedSelect keysInRange(const StoreFetch& fetch, KeyRange range) const;
+    /// SELECT of the candidates' keys in the order asked for, whether the predicate picks them or not.
+    GeneratedSelect candidatesInOrder(const StoreFetch& fetch) const;
 
 private:
     struct Parts;
 
-    GeneratedSelect countSelect(const StoreFetch& fetch, std::optional<KeyRange> range) const;
+    enum class Result : std::uint8_t { Count, Keys };
+    GeneratedSelect unsorted(const StoreFetch& fetch, Result result, std::optional<KeyRange> range) const;
+    bool startsWithCandidates() const noexcept;
     std::string from(const StoreTable& table, Parts& parts) const;
     std::vector<std::string> conditions(const StoreFetch& fetch, Parts& parts) const;
     void addPredicate(const NSPredicate& predicate, Parts& parts, std::vector<std::string>& conditions) const;

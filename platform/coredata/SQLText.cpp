@@ -70,4 +70,15 @@ std::string describeBinding(const SQLBinding& binding)
         binding);
 }
 
+std::string explainedStatement(SQLiteConnection& connection, const SQLText& text)
+{
+    std::string explained = text.sql + "\n";
+    for (std::size_t i = 0; i < text.bindings.size(); ++i)
+        explained += "?" + std::to_string(i + 1) + " = " + describeBinding(text.bindings[i]) + "\n";
+    SQLiteStatement statement = connection.prepare("EXPLAIN QUERY PLAN " + text.sql);
+    while (statement.step())
+        explained += "plan: " + std::string(statement.bytes(3)) + "\n";
+    return explained;
+}
+
 } // namespace tarn

@@ -13,6 +13,7 @@
 
 namespace tarn {
 
+class SQLiteConnection;
 class SQLiteStatement;
 
 /// A string test as an argument of `string_test`.
@@ -44,5 +45,7 @@ struct SQLText {
 void bindAll(SQLiteStatement& statement, const std::vector<SQLBinding>& bindings);
 /// An argument as people read it.
 std::string describeBinding(const SQLBinding& binding);
+/// A statement as people read it: text, arguments, and the way that SQLite goes, a line for each.
+std::string explainedStatement(SQLiteConnection& connection, const SQLText& text);
 
 } // namespace tarn

@@ -82,12 +82,7 @@ std::string SQLiteFetch::explain()
 {
     RowContents contents = fetch_.contents;
     const GeneratedSelect select = generator_.rows(fetch_, contents);
-    std::string text = select.text.sql + "\n";
-    for (std::size_t i = 0; i < select.text.bindings.size(); ++i)
-        text += "?" + std::to_string(i + 1) + " = " + describeBinding(select.text.bindings[i]) + "\n";
-    SQLiteStatement statement = connection_.prepare("EXPLAIN QUERY PLAN " + select.text.sql);
-    while (statement.step())
-        text += "plan: " + std::string(statement.bytes(3)) + "\n";
+    std::string text = explainedStatement(connection_, select.text);
     if (select.remainder)
         text += "then evaluated: " + select.remainder->predicateFormat() + "\n";
     return text;

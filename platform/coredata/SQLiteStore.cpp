@@ -1,6 +1,7 @@
 #include "platform/coredata/SQLiteStore.h"
 
-#include "platform/coredata/ParallelCount.h"
+#include "platform/coredata/CandidateWalk.h"
+#include "platform/coredata/ParallelScan.h"
 #include "platform/coredata/SQLiteFetch.h"
 #include "platform/coredata/SQLiteStoreFile.h"
 #include "platform/coredata/SQLiteTransaction.h"
@@ -147,11 +148,29 @@ bool SQLiteStore::fetch(const StoreFetch& fetch, std::vector<StoreRow>& rows, NS
     return reportingFailure(error, [&] {
         const ReadAccess access = pool_->read();
         SQLiteConnection& connection = access.connection();
-        const SQLiteRowReader reader(*identity_, selects_, connection);
         const StoreSearch search(hasSearchIndex_ ? &searchIndex_ : nullptr, selects_, connection, fetch,
             FetchPurpose::Rows, conditionOptions(fetch, connection));
-        rows = SQLiteFetch(fetch, selects_, search.generator(), reader, connection).rows();
+        rows = rowsOf(fetch, search, connection);
     });
+}
+
+std::vector<StoreRow> SQLiteStore::rowsOf(
+    const StoreFetch& fetch, const StoreSearch& search, SQLiteConnection& connection)
+{
+    if (search.goesByOrder())
+        if (CandidateWalk walk(fetch, selects_, search.generator(), connection, *pool_); walk.isWhole())
+            return walk.rows();
+    const SQLiteRowReader reader(*identity_, selects_, connection);
+    return SQLiteFetch(fetch, selects_, search.generator(), reader, connection).rows();
+}
+
+std::string SQLiteStore::explanationOf(const StoreFetch& fetch, const StoreSearch& search, SQLiteConnection& connection)
+{
+    if (search.goesByOrder())
+        if (const CandidateWalk walk(fetch, selects_, search.generator(), connection, *pool_); walk.isWhole())
+            return walk.explain();
+    const SQLiteRowReader reader(*identity_, selects_, connection);
+    return SQLiteFetch(fetch, selects_, search.generator(), reader, connection).explain();
 }
 
 bool SQLiteStore::count(const StoreFetch& fetch, std::size_t& count, NSError* error)
@@ -228,15 +247,13 @@ std::string SQLiteStore::explain(const StoreFetch& fetch)
     const bool explained = reportingFailure(&error, [&] {
         const ReadAccess access = pool_->read();
         SQLiteConnection& connection = access.connection();
-        const SQLiteRowReader reader(*identity_, selects_, connection);
         const StoreSearch search(hasSearchIndex_ ? &searchIndex_ : nullptr, selects_, connection, fetch,
             FetchPurpose::Rows, conditionOptions(fetch, connection));
-        SQLiteFetch answer(fetch, selects_, search.generator(), reader, connection);
-        text = answer.explain();
+        text = explanationOf(fetch, search, connection);
         if (!search.searchesTexts())
             return;
         const auto start = std::chrono::steady_clock::now();
-        const std::size_t found = answer.rows().size();
+        const std::size_t found = rowsOf(fetch, search, connection).size();
         const std::chrono::duration<double, std::milli> taken = std::chrono::steady_clock::now() - start;
         text += search.description() + fmt::format("; {} found in {:.2f} ms\n", found, taken.count());
     });

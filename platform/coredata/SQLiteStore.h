@@ -61,6 +61,8 @@ private:
     void followDerivedValues(SQLiteConnection& connection);
     void fillSomeSignatures(SQLiteConnection& connection);
     SQLConditionOptions conditionOptions(const StoreFetch& fetch, SQLiteConnection& connection) const;
+    std::vector<StoreRow> rowsOf(const StoreFetch& fetch, const StoreSearch& search, SQLiteConnection& connection);
+    std::string explanationOf(const StoreFetch& fetch, const StoreSearch& search, SQLiteConnection& connection);
     std::optional<std::size_t> countInParallel(
         const StoreFetch& fetch, const StoreSearch& search, SQLiteConnection& connection);
     void beginWriting();

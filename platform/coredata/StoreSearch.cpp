@@ -11,11 +11,18 @@ namespace tarn {
 
 namespace {
 
-/// So many are checked and sorted faster than an order is walked; in a large store a hundredth of the rows.
+/// Where all hits are wanted, so many are checked and sorted faster than anything else; in a large store a hundredth of
+/// the rows.
 constexpr std::size_t kFewCandidates = 500;
 constexpr std::size_t kSmallShare = 100;
 /// Above this share of the rows a walk by key is faster than looking candidates up.
 constexpr std::size_t kLargeShare = 5;
+/// Where only the first hits are wanted: so few are checked at once.
+constexpr std::size_t kOneBlock = 64;
+/// Looking up what a candidate is sorted by takes so many times as long as passing over a row of an index.
+constexpr std::size_t kCostOfSorting = 10;
+/// The guess before anything is known: one candidate in so many is a hit.
+constexpr std::size_t kCandidatesForAHit = 4;
 
 bool isSearched(const Expression& expression, const std::vector<const NSAttributeDescription*>& searched);
 
@@ -80,13 +87,26 @@ bool hasIndexedOrder(const StoreFetch& fetch)
         [&](const IndexDescription& index) { return isOrderOfIndex(fetch.sortDescriptors, index); });
 }
 
+/// Whether it is cheaper to pass over the rows of an index until enough candidates were met than to sort them all.
+bool isWalkCheaper(const SearchPlan& plan, const StoreFetch& fetch)
+{
+    if (!hasIndexedOrder(fetch))
+        return false;
+    const std::size_t count = plan.candidates->size();
+    const std::size_t met = std::min(count, kCandidatesForAHit * (fetch.offset + fetch.limit));
+    return plan.rowCount / count * met < kCostOfSorting * count;
+}
+
 SearchPlan::Kind chosenKind(const SearchPlan& plan, const StoreFetch& fetch, FetchPurpose purpose)
 {
     const std::size_t count = plan.candidates->size();
+    if (purpose == FetchPurpose::Rows && fetch.limit > 0) {
+        if (count <= kOneBlock)
+            return SearchPlan::Kind::CheckCandidates;
+        return isWalkCheaper(plan, fetch) ? SearchPlan::Kind::WalkOrder : SearchPlan::Kind::SortCandidates;
+    }
     if (count <= std::max(kFewCandidates, plan.rowCount / kSmallShare))
         return SearchPlan::Kind::CheckCandidates;
-    if (purpose == FetchPurpose::Rows && fetch.limit > 0 && hasIndexedOrder(fetch))
-        return SearchPlan::Kind::WalkOrder;
     return count < plan.rowCount / kLargeShare ? SearchPlan::Kind::CheckCandidates : SearchPlan::Kind::Scan;
 }
 
@@ -143,6 +163,12 @@ SearchPlan StoreSearch::plan(const StoreSchema& schema, SQLiteConnection& connec
     if (plan.candidates)
         plan.kind = chosenKind(plan, fetch, purpose);
     return plan;
+}
+
+bool StoreSearch::goesByOrder() const noexcept
+{
+    const SearchPlan::Kind kind = generator_->plan().kind;
+    return kind == SearchPlan::Kind::SortCandidates || kind == SearchPlan::Kind::WalkOrder;
 }
 
 std::string StoreSearch::description() const

@@ -37,6 +37,8 @@ public:
 
     /// Whether the fetch looks for something in texts.
     bool searchesTexts() const noexcept { return pass_.has_value(); }
+    /// Whether its plan takes candidates in the order asked for.
+    bool goesByOrder() const noexcept;
     const SQLGenerator& generator() const noexcept { return *generator_; }
     /// One line for people: plan, candidates, time.
     std::string description() const;

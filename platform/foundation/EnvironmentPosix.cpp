@@ -122,7 +122,10 @@ std::string systemHostName()
 
 std::optional<MachineIdentifier> systemMachineIdentifier()
 {
-    return machineIdentifierFromText(readSystemFile("/etc/machine-id"));
+    const auto read = [] { return machineIdentifierFromText(readSystemFile("/etc/machine-id")); };
+    // A machine keeps it, and every changed note asks; only the first start of a system may still have none.
+    static const std::optional<MachineIdentifier> identifier = read();
+    return identifier ? identifier : read();
 }
 
 } // namespace

@@ -89,8 +89,8 @@ std::vector<NSSortDescriptor> sortOf(const std::string& text)
 
 SearchPlan::Kind planNamed(const std::string& name)
 {
-    for (const auto kind : {SearchPlan::Kind::NoIndex, SearchPlan::Kind::CheckCandidates, SearchPlan::Kind::WalkOrder,
-             SearchPlan::Kind::Scan})
+    for (const auto kind : {SearchPlan::Kind::NoIndex, SearchPlan::Kind::CheckCandidates,
+             SearchPlan::Kind::SortCandidates, SearchPlan::Kind::WalkOrder, SearchPlan::Kind::Scan})
         if (name == nameOfPlan(kind))
             return kind;
     ADD_FAILURE() << "no plan is called " << name;

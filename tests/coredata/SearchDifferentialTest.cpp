@@ -299,7 +299,7 @@ protected:
         for (int i = 0; i < kCount; ++i) {
             std::string body = fmt::format("number {} ", i);
             body += i % 3 == 0 ? "common pears" : i % 5 == 0 ? "often plums" : "nothing special";
-            body += i == 1234 ? " rarest" : "";
+            body += i == 1234 ? " rarest" : i % 40 == 7 ? " sometimes" : "";
             ASSERT_TRUE(transaction->insertRow(
                 makeRow(store_->entity("Document"), first + i,
                     {{"title", fmt::format("Title {}", i)}, {"body", body}, {"flag", i % 700 == 0},
@@ -356,8 +356,10 @@ TEST_F(ManyDocuments, AreWalkedInTheirOrderWhenManyAreCandidates)
 {
     const std::string text = explained("body CONTAINS[cd] 'pears'", 50);
     EXPECT_EQ(plan(text, 1000), "walk the order");
-    EXPECT_NE(text.find("plan: SCAN t0 USING INDEX Document_flag_modified"), std::string::npos) << text;
-    EXPECT_EQ(text.find("TEMP B-TREE"), std::string::npos) << text;
+    const std::string walk = text.substr(0, text.find("then, block by block:"));
+    EXPECT_NE(walk.find("plan: SCAN t0 USING COVERING INDEX Document_flag_modified"), std::string::npos) << text;
+    EXPECT_EQ(walk.find("TEMP B-TREE"), std::string::npos) << text;
+    EXPECT_NE(text.find("plan: SEARCH t0 USING INTEGER PRIMARY KEY", walk.size()), std::string::npos) << text;
 }
 
 TEST_F(ManyDocuments, AreScannedWhenMoreThanAFifthAreCandidatesAndAllAreWanted)
@@ -379,14 +381,68 @@ TEST_F(ManyDocuments, AreCountedTheSameByOneThreadAndByTwo)
     EXPECT_EQ(store().count("Document", "body CONTAINS[cd] 'pears'"), 1000U) << "within a transaction by one";
 }
 
-TEST_F(ManyDocuments, ComeInTheSameOrderByEveryPlan)
+// First rows of many --------------------------------------------------------------------------------------------------
+
+using Order = std::vector<NSSortDescriptor>;
+
+/// The first rows that a search finds, against a part of all that it finds.
+struct FirstRows {
+    std::string format;
+    std::size_t hits;
+    std::string plan; ///< for a limit of 50 in the order that has an index
+};
+
+void PrintTo(const FirstRows& rows, std::ostream* stream)
 {
-    const std::vector<NSSortDescriptor> sort{{"flag", false}, {"modified", false}};
-    const auto pears = NSPredicate::predicateWithFormat("body CONTAINS[cd] 'pears'");
-    const auto all = store().keys("Document", pears, sort);
-    ASSERT_EQ(all.size(), 1000U);
-    const auto some = store().keys("Document", pears, sort, 50, 10);
-    EXPECT_EQ(some, std::vector<std::int64_t>(all.begin() + 10, all.begin() + 60));
+    *stream << rows.format;
+}
+
+class FirstOfManyDocuments : public ManyDocuments, public testing::WithParamInterface<FirstRows> { };
+
+INSTANTIATE_TEST_SUITE_P(Searches, FirstOfManyDocuments,
+    testing::Values( //
+        FirstRows{"body CONTAINS[cd] 'rarest'", 1, "check candidates"},
+        FirstRows{"body CONTAINS[cd] 'sometimes'", 75, "sort candidates"},
+        FirstRows{"body CONTAINS[cd] 'plums'", 400, "walk the order"},
+        FirstRows{"body CONTAINS[cd] 'pears'", 1000, "walk the order"},
+        FirstRows{"body CONTAINS[cd] 'number'", 3000, "walk the order"},
+        // Many candidates, hardly any of them a hit.
+        FirstRows{"body CONTAINS[cd] 'number' AND title ENDSWITH[cd] '77'", 30, "walk the order"},
+        FirstRows{"body CONTAINS[cd] 'number' AND title == 'Title 2999'", 1, "walk the order"},
+        FirstRows{"body CONTAINS[cd] 'number' AND title == 'nothing'", 0, "walk the order"},
+        // Half of it is beyond SQL.
+        FirstRows{"body CONTAINS[cd] 'pears' AND title IN[c] {'TITLE 3', 'Title 6', 'title 7'}", 2, "walk the order"}));
+
+TEST_P(FirstOfManyDocuments, ArePartOfAll)
+{
+    const auto predicate = NSPredicate::predicateWithFormat(GetParam().format);
+    const Order indexed{{"flag", false}, {"modified", false}};
+    const std::string text = explained(GetParam().format, 50);
+    EXPECT_NE(text.find("search: " + GetParam().plan + ","), std::string::npos) << text;
+    for (const Order& order : {indexed, Order{{"title", true}}, Order{}, Order{{"flag", true}, {"modified", true}}}) {
+        const auto all = store().keys("Document", predicate, order);
+        ASSERT_EQ(all.size(), GetParam().hits);
+        for (const std::size_t limit : {1, 9, 50, 64, 65, 700, 5000})
+            for (const std::size_t offset : {0, 3, 63, 999, 2500}) {
+                const std::size_t first = std::min(offset, all.size());
+                const std::size_t last = std::min(first + limit, all.size());
+                ASSERT_EQ(store().keys("Document", predicate, order, limit, offset),
+                    std::vector<std::int64_t>(all.begin() + static_cast<std::ptrdiff_t>(first),
+                        all.begin() + static_cast<std::ptrdiff_t>(last)))
+                    << limit << " from " << offset;
+            }
+    }
+}
+
+TEST_P(FirstOfManyDocuments, AreTheSameWithinATransaction)
+{
+    const auto predicate = NSPredicate::predicateWithFormat(GetParam().format);
+    const Order order{{"flag", false}, {"modified", false}};
+    const auto wanted = store().keys("Document", predicate, order, 20, 5);
+    NSError error;
+    const auto transaction = store()->beginTransaction(&error);
+    ASSERT_TRUE(transaction) << error;
+    EXPECT_EQ(store().keys("Document", predicate, order, 20, 5), wanted);
 }
 
 } // namespace

@@ -1,0 +1,121 @@
+#include "platform/coredata/CandidateWalk.h"
+
+#include "platform/coredata/ParallelScan.h"
+#include "platform/coredata/RowLayout.h"
+#include "platform/coredata/SQLiteConnection.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace tarn {
+
+namespace {
+
+constexpr std::size_t kFirstBlock = 64;
+constexpr std::size_t kLargestBlock = 512;
+/// With fewer candidates left the second thread would come too late.
+constexpr std::size_t kWorthTwoThreads = 2000;
+/// Two threads that go through texts by key take about half as long as one that looks them up in another order.
+constexpr std::size_t kGainOfTwoThreads = 2;
+/// Hits are checked again when they are sorted; more of them than one in so many candidates would eat up the gain.
+constexpr std::size_t kFewHits = 10;
+
+const KeySetPtr& noKeys()
+{
+    static const KeySetPtr none = std::make_shared<const KeySet>(std::vector<std::int64_t>());
+    return none;
+}
+
+StoreFetch withoutBounds(StoreFetch fetch)
+{
+    fetch.limit = 0;
+    fetch.offset = 0;
+    return fetch;
+}
+
+} // namespace
+
+CandidateWalk::CandidateWalk(const StoreFetch& fetch, const StoreSelects& selects, const SQLGenerator& generator,
+    SQLiteConnection& connection, ConnectionPool& pool)
+    : fetch_(fetch), generator_(generator), connection_(connection), pool_(pool), wanted_(fetch.offset + fetch.limit)
+{
+    RowContents contents = fetch.contents;
+    block_ = generator.withPlan(SearchPlan::Kind::CheckCandidates, noKeys()).rows(withoutBounds(fetch), contents);
+    layout_ = &selects.layout(*fetch.entity, contents);
+    blockKeys_ = &*std::find_if(block_.text.bindings.begin(), block_.text.bindings.end(),
+        [](const SQLBinding& binding) { return std::holds_alternative<SQLKeyList>(binding); });
+}
+
+std::vector<StoreRow> CandidateWalk::rows()
+{
+    const GeneratedSelect order = generator_.candidatesInOrder(fetch_);
+    SQLiteStatement candidates = connection_.prepare(order.text.sql);
+    bindAll(candidates, order.text.bindings);
+    std::vector<StoreRow> found;
+    std::vector<std::int64_t> block;
+    std::size_t tried = 0;
+    bool isAtEnd = false;
+    for (std::size_t size = kFirstBlock; !isAtEnd && found.size() < wanted_; size = std::min(2 * size, kLargestBlock)) {
+        block.clear();
+        // A step beyond the end would begin again.
+        while (block.size() < size && !(isAtEnd = !candidates.step()))
+            block.push_back(candidates.integer(0));
+        std::sort(block.begin(), block.end()); // texts lie in the order of keys
+        auto hits = checked(block);
+        found.insert(found.end(), std::make_move_iterator(hits.begin()), std::make_move_iterator(hits.end()));
+        tried += block.size();
+        if (!isAtEnd && isHardlyEverAHit(tried, found.size()))
+            if (auto all = checkedOnTwoThreads())
+                return std::move(*all);
+    }
+    found.resize(std::min(found.size(), wanted_));
+    found.erase(found.begin(), found.begin() + static_cast<std::ptrdiff_t>(std::min(fetch_.offset, found.size())));
+    return found;
+}
+
+/// In the order asked for.
+std::vector<StoreRow> CandidateWalk::checked(std::span<const std::int64_t> keys)
+{
+    *blockKeys_ = keys;
+    return read(block_.text);
+}
+
+std::vector<StoreRow> CandidateWalk::read(const SQLText& select) const
+{
+    std::vector<StoreRow> rows;
+    SQLiteStatement statement = connection_.prepare(select.sql);
+    bindAll(statement, select.bindings);
+    while (statement.step())
+        rows.push_back(layout_->read(statement));
+    return rows;
+}
+
+/// Whether the walk is likely to take longer than to check all candidates at once.
+bool CandidateWalk::isHardlyEverAHit(std::size_t tried, std::size_t hits) const noexcept
+{
+    const std::size_t count = generator_.plan().candidates->size();
+    const std::size_t left = count - std::min(tried, count);
+    if (hits >= wanted_ || left < kWorthTwoThreads || (hits + 1) * kFewHits > tried)
+        return false;
+    const std::size_t expected = (wanted_ - hits) * tried / (hits + 1);
+    return kGainOfTwoThreads * expected > left;
+}
+
+std::optional<std::vector<StoreRow>> CandidateWalk::checkedOnTwoThreads()
+{
+    const SQLGenerator scan = generator_.withPlan(SearchPlan::Kind::Scan, generator_.plan().candidates);
+    auto keys = keysOnTwoThreads(pool_, connection_, scan, fetch_);
+    if (!keys)
+        return std::nullopt;
+    const auto hits = std::make_shared<const KeySet>(std::move(*keys));
+    RowContents contents = fetch_.contents;
+    return read(generator_.withPlan(SearchPlan::Kind::CheckCandidates, hits).rows(fetch_, contents).text);
+}
+
+std::string CandidateWalk::explain() const
+{
+    return explainedStatement(connection_, generator_.candidatesInOrder(fetch_).text) + "then, block by block:\n"
+        + explainedStatement(connection_, block_.text);
+}
+
+} // namespace tarn

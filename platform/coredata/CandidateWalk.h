@@ -1,0 +1,52 @@
+#pragma once
+
+#include "platform/coredata/NSPersistentStore.h"
+#include "platform/coredata/SQLGenerator.h"
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace tarn {
+
+class ConnectionPool;
+class RowLayout;
+class SQLiteConnection;
+
+/// The first rows of a search, from candidates in the order asked for: a block of them is checked, then the next one,
+/// until there are enough. When hardly any candidate is a hit, two threads check all of them instead.
+///
+/// One thread asks it, on a connection that stands in a read transaction.
+class CandidateWalk {
+public:
+    /// `generator` has a plan that goes by an order, and the fetch a limit.
+    CandidateWalk(const StoreFetch& fetch, const StoreSelects& selects, const SQLGenerator& generator,
+        SQLiteConnection& connection, ConnectionPool& pool);
+    CandidateWalk(const CandidateWalk&) = delete;
+    CandidateWalk& operator=(const CandidateWalk&) = delete;
+
+    /// Whether the statements say all of the predicate; else there is no such walk.
+    bool isWhole() const noexcept { return !block_.remainder; }
+    std::vector<StoreRow> rows();
+    /// Both statements and their plans, for people.
+    std::string explain() const;
+
+private:
+    std::vector<StoreRow> checked(std::span<const std::int64_t> keys);
+    std::optional<std::vector<StoreRow>> checkedOnTwoThreads();
+    std::vector<StoreRow> read(const SQLText& select) const;
+    bool isHardlyEverAHit(std::size_t tried, std::size_t hits) const noexcept;
+
+    const StoreFetch& fetch_;
+    const SQLGenerator& generator_;
+    SQLiteConnection& connection_;
+    ConnectionPool& pool_;
+    std::size_t wanted_; ///< rows, those that the offset passes over included
+    GeneratedSelect block_;
+    SQLBinding* blockKeys_; ///< among the arguments of `block_`
+    const RowLayout* layout_;
+};
+
+} // namespace tarn
