@@ -86,7 +86,7 @@ std::vector<StoreRow> CandidateWalk::read(const SQLText& select) const
     SQLiteStatement statement = connection_.prepare(select.sql);
     bindAll(statement, select.bindings);
     while (statement.step())
-        rows.push_back(layout_->read(statement));
+        rows.push_back(layout_->read(statement, rows.empty() ? nullptr : &rows.back()));
     return rows;
 }
 

@@ -214,18 +214,37 @@ void ModelReader::setMasks()
 {
     for (const auto& owned : model_->ownedEntities_) {
         for (const NSPropertyDescription* property : owned->properties_) {
+            if (property->isRelationship())
+                noteRelationship(*owned, static_cast<const NSRelationshipDescription&>(*property));
+            else
+                noteAttribute(*owned, static_cast<const NSAttributeDescription&>(*property));
             const PropertyMask bit = propertyBit(property->index_);
             if (property->inTextGroup_)
                 owned->textGroupMask_ |= bit;
-            if (const auto* attribute = dynamic_cast<const NSAttributeDescription*>(property)) {
-                if (attribute->large_)
-                    owned->largeMask_ |= bit;
-                continue;
-            }
-            owned->relationshipMask_ |= bit;
-            if (static_cast<const NSRelationshipDescription*>(property)->toMany_)
-                owned->toManyMask_ |= bit;
+            if (!(owned->slotlessMask_ & bit))
+                owned->slots_[property->index_] = owned->slotCount_++;
         }
+    }
+}
+
+void ModelReader::noteAttribute(NSEntityDescription& entity, const NSAttributeDescription& attribute)
+{
+    const PropertyMask bit = propertyBit(attribute.index_);
+    if (attribute.large_)
+        entity.largeMask_ |= bit;
+    if (attribute.type_ == NSAttributeType::Boolean)
+        entity.slotlessMask_ |= bit;
+}
+
+void ModelReader::noteRelationship(NSEntityDescription& entity, const NSRelationshipDescription& relationship)
+{
+    const PropertyMask bit = propertyBit(relationship.index_);
+    entity.relationshipMask_ |= bit;
+    if (relationship.storage_ == RelationshipStorage::InverseColumn)
+        entity.inverseColumnMask_ |= bit;
+    if (relationship.toMany_) {
+        entity.toManyMask_ |= bit;
+        entity.slotlessMask_ |= bit;
     }
 }
 

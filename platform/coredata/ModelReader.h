@@ -29,6 +29,8 @@ private:
     void checkCompanions() const;
     void addIndexes();
     void setMasks();
+    static void noteAttribute(NSEntityDescription& entity, const NSAttributeDescription& attribute);
+    static void noteRelationship(NSEntityDescription& entity, const NSRelationshipDescription& relationship);
     NSAttributeDescription& makeAttribute(const ModelFile::Attribute& declared, const NSEntityDescription& entity);
     NSRelationshipDescription& makeRelationship(
         const ModelFile::Relationship& declared, const NSEntityDescription& entity);

@@ -3,6 +3,7 @@
 #include "platform/foundation/NSError.h"
 #include "platform/foundation/Value.h"
 
+#include <array>
 #include <cstdint>
 #include <filesystem>
 #include <memory>
@@ -158,6 +159,15 @@ public:
     PropertyMask toManyMask() const noexcept { return toManyMask_; }
     PropertyMask largeMask() const noexcept { return largeMask_; }
     PropertyMask textGroupMask() const noexcept { return textGroupMask_; }
+    /// Relationships that the row of a record says nothing about.
+    PropertyMask inverseColumnMask() const noexcept { return inverseColumnMask_; }
+
+    // How `PropertyValues` keeps the values of a record.
+    /// Boolean attributes, which take a bit each, and to-many relationships, which take nothing.
+    PropertyMask slotlessMask() const noexcept { return slotlessMask_; }
+    /// The place of any other property; an inherited one has the same in every sub-entity.
+    std::uint8_t slot(PropertyIndex index) const noexcept { return slots_[index]; }
+    std::size_t slotCount() const noexcept { return slotCount_; }
 
     /// Equal for two versions of a model exactly when rows of one can be read as rows of the other; 16 hex digits.
     const std::string& versionHash() const noexcept { return versionHash_; }
@@ -181,6 +191,10 @@ private:
     PropertyMask toManyMask_ = 0;
     PropertyMask largeMask_ = 0;
     PropertyMask textGroupMask_ = 0;
+    PropertyMask inverseColumnMask_ = 0;
+    PropertyMask slotlessMask_ = 0;
+    std::array<std::uint8_t, maximumPropertyCount> slots_{};
+    std::uint8_t slotCount_ = 0;
     std::string versionHash_;
     RecordConstructor constructor_ = nullptr;
 };

@@ -52,31 +52,35 @@ PropertyMask allProperties(const NSEntityDescription& entity) noexcept
     return count >= maximumPropertyCount ? ~PropertyMask{0} : (PropertyMask{1} << count) - 1;
 }
 
+std::size_t slotsFor(const NSEntityDescription& entity) noexcept
+{
+    return std::max<std::size_t>(entity.slotCount(), 1); // an address at least: none means no values
+}
+
 } // namespace
 
-PropertyValues::PropertyValues(const NSEntityDescription& entity)
-    : entity_(&entity), loaded_(allProperties(entity)),
-      slots_(new Slot[std::max<std::size_t>(entity.properties().size(), 1)]())
+PropertyValues::PropertyValues(const NSEntityDescription& entity, PropertyMask unloaded)
+    : entity_(&entity), loaded_(allProperties(entity) & ~unloaded), slots_(new Slot[slotsFor(entity)]())
 { }
 
 PropertyValues::PropertyValues(const PropertyValues& other)
-    : entity_(other.entity_), present_(other.present_), loaded_(other.loaded_)
+    : entity_(other.entity_), present_(other.present_), loaded_(other.loaded_), flags_(other.flags_)
 {
     if (!other.slots_)
         return;
-    const std::size_t count = std::max<std::size_t>(entity_->properties().size(), 1);
-    slots_ = new Slot[count];
-    std::copy_n(other.slots_, count, slots_);
+    slots_ = new Slot[slotsFor(*entity_)];
+    std::copy_n(other.slots_, slotsFor(*entity_), slots_);
     for (PropertyMask rest = present_; rest != 0; rest &= rest - 1) {
         const auto index = static_cast<PropertyIndex>(std::countr_zero(rest));
         if (holdsBytes(index))
-            slots_[index].bytes->retain();
+            slot(index).bytes->retain();
     }
 }
 
 PropertyValues::PropertyValues(PropertyValues&& other) noexcept
     : entity_(std::exchange(other.entity_, nullptr)), present_(std::exchange(other.present_, 0)),
-      loaded_(std::exchange(other.loaded_, 0)), slots_(std::exchange(other.slots_, nullptr))
+      loaded_(std::exchange(other.loaded_, 0)), flags_(std::exchange(other.flags_, 0)),
+      slots_(std::exchange(other.slots_, nullptr))
 { }
 
 PropertyValues& PropertyValues::operator=(PropertyValues other) noexcept
@@ -84,6 +88,7 @@ PropertyValues& PropertyValues::operator=(PropertyValues other) noexcept
     std::swap(entity_, other.entity_);
     std::swap(present_, other.present_);
     std::swap(loaded_, other.loaded_);
+    std::swap(flags_, other.flags_);
     std::swap(slots_, other.slots_);
     return *this;
 }
@@ -105,7 +110,7 @@ bool PropertyValues::holdsBytes(PropertyIndex index) const noexcept
 void PropertyValues::releaseBytes(PropertyIndex index) noexcept
 {
     if (holdsBytes(index))
-        slots_[index].bytes->release();
+        slot(index).bytes->release();
 }
 
 void PropertyValues::setUnloaded(PropertyIndex index) noexcept
@@ -117,7 +122,9 @@ void PropertyValues::setUnloaded(PropertyIndex index) noexcept
 void PropertyValues::setNil(PropertyIndex index) noexcept
 {
     releaseBytes(index);
-    slots_[index].integer = 0;
+    if (hasSlot(index))
+        slot(index).integer = 0;
+    flags_ &= ~propertyBit(index);
     present_ &= ~propertyBit(index);
     loaded_ |= propertyBit(index);
 }
@@ -125,7 +132,10 @@ void PropertyValues::setNil(PropertyIndex index) noexcept
 void PropertyValues::setInteger(PropertyIndex index, std::int64_t value) noexcept
 {
     assert(!keepsBytes(entity_->property(index)));
-    slots_[index].integer = value;
+    if (hasSlot(index))
+        slot(index).integer = value;
+    else
+        flags_ = (flags_ & ~propertyBit(index)) | (value != 0 ? propertyBit(index) : 0);
     present_ |= propertyBit(index);
     loaded_ |= propertyBit(index);
 }
@@ -135,9 +145,15 @@ void PropertyValues::setBytes(PropertyIndex index, std::string_view bytes)
     assert(keepsBytes(entity_->property(index)));
     SharedBytes* made = SharedBytes::make(bytes); // before the old ones go: `bytes` may lie in them
     releaseBytes(index);
-    slots_[index].bytes = made;
+    slot(index).bytes = made;
     present_ |= propertyBit(index);
     loaded_ |= propertyBit(index);
+}
+
+void PropertyValues::setBytes(PropertyIndex index, std::string_view bytes, const PropertyValues* model)
+{
+    const bool isSame = model && model->entity_ == entity_ && model->holdsBytes(index) && model->bytes(index) == bytes;
+    return isSame ? assign(index, *model) : setBytes(index, bytes);
 }
 
 void PropertyValues::assign(PropertyIndex index, const PropertyValues& other)
@@ -146,10 +162,12 @@ void PropertyValues::assign(PropertyIndex index, const PropertyValues& other)
         return;
     const bool sharesBytes = other.holdsBytes(index);
     if (sharesBytes)
-        other.slots_[index].bytes->retain();
+        other.slot(index).bytes->retain();
     releaseBytes(index);
-    slots_[index] = other.slots_[index];
     const PropertyMask bit = propertyBit(index);
+    if (hasSlot(index))
+        slot(index) = other.slot(index);
+    flags_ = (flags_ & ~bit) | (other.flags_ & bit);
     present_ = (present_ & ~bit) | (other.present_ & bit);
     loaded_ = (loaded_ & ~bit) | (other.loaded_ & bit);
 }
@@ -161,15 +179,15 @@ bool PropertyValues::equals(PropertyIndex index, const PropertyValues& other) co
     if (isNil(index))
         return true;
     if (!holdsBytes(index))
-        return slots_[index].integer == other.slots_[index].integer;
-    return slots_[index].bytes == other.slots_[index].bytes || bytes(index) == other.bytes(index);
+        return integer(index) == other.integer(index);
+    return slot(index).bytes == other.slot(index).bytes || bytes(index) == other.bytes(index);
 }
 
 std::size_t PropertyValues::heapSize() const noexcept
 {
     if (!slots_)
         return 0;
-    std::size_t size = entity_->properties().size() * sizeof(Slot);
+    std::size_t size = slotsFor(*entity_) * sizeof(Slot);
     for (PropertyMask rest = present_; rest != 0; rest &= rest - 1) {
         const auto index = static_cast<PropertyIndex>(std::countr_zero(rest));
         if (holdsBytes(index))

@@ -23,7 +23,7 @@ private:
     std::uint32_t length_;
 };
 
-/// The values of one record by property index, eight bytes each.
+/// The values of one record by property index, eight bytes each; booleans a bit.
 ///
 /// Attributes are typed by their description. A to-one relationship is held as the target's key (above 0 in the store,
 /// below 0 while temporary); to-many relationships are not held here. A value is loaded or not yet read; nil or not.
@@ -31,8 +31,8 @@ private:
 class PropertyValues {
 public:
     PropertyValues() = default;
-    /// Everything loaded and nil.
-    explicit PropertyValues(const NSEntityDescription& entity);
+    /// Everything nil, and loaded but for those of `unloaded`.
+    explicit PropertyValues(const NSEntityDescription& entity, PropertyMask unloaded = 0);
     PropertyValues(const PropertyValues& other);
     PropertyValues(PropertyValues&& other) noexcept;
     PropertyValues& operator=(PropertyValues other) noexcept;
@@ -49,16 +49,21 @@ public:
     void setNil(PropertyIndex index) noexcept;
     // Boolean (0 or 1), Integer16, Integer64, Date (microseconds since 1970) and to-one (key).
     void setInteger(PropertyIndex index, std::int64_t value) noexcept;
-    std::int64_t integer(PropertyIndex index) const noexcept { return slots_[index].integer; }
+    std::int64_t integer(PropertyIndex index) const noexcept
+    {
+        return hasSlot(index) ? slot(index).integer : static_cast<std::int64_t>((flags_ >> index) & 1U);
+    }
     void setDouble(PropertyIndex index, double value) noexcept
     {
         setInteger(index, std::bit_cast<std::int64_t>(value));
     }
-    double floating(PropertyIndex index) const noexcept { return std::bit_cast<double>(slots_[index].integer); }
+    double floating(PropertyIndex index) const noexcept { return std::bit_cast<double>(slot(index).integer); }
     // String and Data.
     void setBytes(PropertyIndex index, std::string_view bytes);
+    /// The same, sharing the bytes of `model` where those are equal: rows in a row often hold the same.
+    void setBytes(PropertyIndex index, std::string_view bytes, const PropertyValues* model);
     /// Valid until the property is set again.
-    std::string_view bytes(PropertyIndex index) const noexcept { return slots_[index].bytes->view(); }
+    std::string_view bytes(PropertyIndex index) const noexcept { return slot(index).bytes->view(); }
 
     /// Takes value and loadedness of one property from another record of the same inheritance chain; shares strings.
     void assign(PropertyIndex index, const PropertyValues& other);
@@ -78,12 +83,16 @@ private:
         std::int64_t integer;
         SharedBytes* bytes;
     };
+    bool hasSlot(PropertyIndex index) const noexcept { return !(entity_->slotlessMask() & propertyBit(index)); }
+    Slot& slot(PropertyIndex index) noexcept { return slots_[entity_->slot(index)]; }
+    const Slot& slot(PropertyIndex index) const noexcept { return slots_[entity_->slot(index)]; }
     bool holdsBytes(PropertyIndex index) const noexcept;
     void releaseBytes(PropertyIndex index) noexcept;
 
     const NSEntityDescription* entity_ = nullptr;
     PropertyMask present_ = 0;
     PropertyMask loaded_ = 0;
+    PropertyMask flags_ = 0; ///< values of booleans
     Slot* slots_ = nullptr;
 };
 

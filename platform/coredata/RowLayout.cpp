@@ -63,8 +63,8 @@ const NSEntityDescription& RowLayout::concreteEntity(const SQLiteStatement& stat
 
 namespace {
 
-void readValue(
-    const SQLiteStatement& statement, int column, const NSPropertyDescription& property, PropertyValues& values)
+void readValue(const SQLiteStatement& statement, int column, const NSPropertyDescription& property,
+    PropertyValues& values, const StoreRow* before)
 {
     if (statement.isNull(column))
         return;
@@ -76,7 +76,7 @@ void readValue(
         return values.setDouble(index, statement.floating(column));
     case NSAttributeType::String:
     case NSAttributeType::Data:
-        return values.setBytes(index, statement.bytes(column));
+        return values.setBytes(index, statement.bytes(column), before ? &before->values : nullptr);
     case NSAttributeType::Boolean:
         return values.setInteger(index, statement.integer(column) != 0 ? 1 : 0);
     default:
@@ -86,24 +86,18 @@ void readValue(
 
 } // namespace
 
-StoreRow RowLayout::read(const SQLiteStatement& statement) const
+StoreRow RowLayout::read(const SQLiteStatement& statement, const StoreRow* before) const
 {
     const NSEntityDescription& entity = concreteEntity(statement);
     StoreRow row{&entity, statement.integer(0), statement.integer(1), {}};
     if (contents_ == RowContents::Keys)
         return row;
-    row.values = PropertyValues(entity);
-    for (const NSPropertyDescription* property : entity.properties()) {
-        const bool elsewhere = property->isRelationship()
-            && static_cast<const NSRelationshipDescription*>(property)->storage() == RelationshipStorage::InverseColumn;
-        const bool unread = contents_ == RowContents::Row && (entity.largeMask() & propertyBit(property->index()));
-        if (elsewhere || unread)
-            row.values.setUnloaded(property->index());
-    }
+    const PropertyMask unread = contents_ == RowContents::Row ? entity.largeMask() : 0;
+    row.values = PropertyValues(entity, entity.inverseColumnMask() | unread);
     int column = firstValue_;
     for (const Column& read : columns_) {
         if (entity.isKindOfEntity(read.property->declaringEntity()))
-            readValue(statement, column, *read.property, row.values);
+            readValue(statement, column, *read.property, row.values, before);
         ++column;
     }
     return row;

@@ -27,8 +27,9 @@ public:
     /// The columns of a SELECT in which `rowAlias` names the table, and `largeAlias` the one with the large attributes.
     const std::string& columnList() const noexcept { return columnList_; }
     bool readsLargeTable() const noexcept { return contents_ == RowContents::WholeRow && hasLargeColumns_; }
-    /// The row on which the statement stands.
-    StoreRow read(const SQLiteStatement& statement) const;
+    /// The row on which the statement stands. `before` is the row that was read before, with which it shares equal
+    /// strings; null for none.
+    StoreRow read(const SQLiteStatement& statement, const StoreRow* before = nullptr) const;
 
 private:
     struct Column {

@@ -19,7 +19,7 @@ std::vector<StoreRow> SQLiteFetch::rows()
     SQLiteStatement statement = connection_.prepare(select.text.sql);
     bindAll(statement, select.text.bindings);
     while (statement.step())
-        rows.push_back(layout.read(statement));
+        rows.push_back(layout.read(statement, rows.empty() ? nullptr : &rows.back()));
     return rows;
 }
 

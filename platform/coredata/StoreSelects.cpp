@@ -86,7 +86,7 @@ void StoreSelects::appendRows(SQLiteConnection& connection, const NSEntityDescri
     SQLiteStatement statement = connection.prepare(select.byKeys);
     statement.bindPointer(1, &keys, keyListPointerType);
     while (statement.step())
-        rows.push_back(select.layout.read(statement));
+        rows.push_back(select.layout.read(statement, rows.empty() ? nullptr : &rows.back()));
 }
 
 std::vector<RelatedKey> StoreSelects::related(
