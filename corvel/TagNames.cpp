@@ -83,13 +83,15 @@ std::u32string withCleanComponents(const std::u32string& name)
     return joined;
 }
 
+/// Slashes that come to stand at an end go at once: were each left to the next pass, a name of nothing but dots and
+/// slashes would take as many passes as it is long.
 std::u32string withCleanEnds(const std::u32string& name)
 {
     std::size_t first = 0;
     std::size_t last = name.size();
-    while (first < last && isTrimmedInFront(name[first]))
+    while (first < last && (isTrimmedInFront(name[first]) || name[first] == U'/'))
         ++first;
-    while (last > first && isTrimmedBehind(name[last - 1]))
+    while (last > first && (isTrimmedBehind(name[last - 1]) || name[last - 1] == U'/'))
         --last;
     return name.substr(first, last - first);
 }

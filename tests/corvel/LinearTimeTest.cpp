@@ -233,6 +233,35 @@ TEST_P(LinearTime, Rewriting)
 
 INSTANTIATE_TEST_SUITE_P(Families, LinearTime, testing::ValuesIn(families()), nameOfFamily);
 
+namespace {
+
+/// Names that people cannot have meant, but can paste.
+std::vector<Family> namesOfTags()
+{
+    return {
+        repeating("Slashes", "/"),
+        repeating("DotsAndSlashes", "./"),
+        repeating("BlanksAndSlashes", " /"),
+        repeating("MarksAndSlashes", "*/-/"),
+        {"DotsAndSlashesAroundAName", [](std::size_t n) { return around("./", "a", "/-", n); }},
+        {"TerminatorsBehindAColor", [](std::size_t n) { return "facade " + repeated(")/", n); }},
+        repeating("Components", "a/"),
+        repeating("HashMarks", "#"),
+    };
+}
+
+} // namespace
+
+class LinearNames : public testing::TestWithParam<Family> { };
+
+TEST_P(LinearNames, Sanitizing)
+{
+    const Work sanitize = [](const std::string& name) { CVKHashtag::sanitizeTagName(name); };
+    expectLinear(sanitize, GetParam(), 8 * 1024);
+}
+
+INSTANTIATE_TEST_SUITE_P(Families, LinearNames, testing::ValuesIn(namesOfTags()), nameOfFamily);
+
 TEST(DeepNesting, EmphasisNestsTwentyFiveThousandDeep)
 {
     constexpr std::size_t kDepth = 25000;

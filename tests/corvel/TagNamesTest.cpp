@@ -90,6 +90,15 @@ TEST(TagNames, HaveFiveHundredCharactersAtMost)
     EXPECT_EQ(CVKHashtag::sanitizeTagName(umlauts + "\xC3\xA4"), "");
 }
 
+TEST(TagNames, LoseSlashesThatComeToStandAtAnEnd)
+{
+    EXPECT_EQ(CVKHashtag::sanitizeTagName("./.. /a b/(/-/."), "a b");
+    EXPECT_EQ(CVKHashtag::sanitizeTagName("./a./.b/."), "a./.b");
+    EXPECT_EQ(CVKHashtag::sanitizeTagName("./*/./"), "");
+    EXPECT_EQ(CVKHashtag::sanitizeTagName("./facade x/."), "facade-x");
+    EXPECT_EQ(CVKHashtag::sanitizeTagName("/a)/."), "a");
+}
+
 TEST(TagNames, SplitAtSlashesAndJoinAgain)
 {
     EXPECT_THAT(CVKHashtag::componentsForForTagName("a/b c/d"), testing::ElementsAre("a", "b c", "d"));
