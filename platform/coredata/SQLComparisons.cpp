@@ -200,17 +200,20 @@ Condition SQLConditionBuilder::equality(
         const std::string test = stringTest(left, ComparisonOperator::EqualTo, options, value->asString());
         return negated ? "NOT " + test : test;
     }
-    const std::string wanted = (negated ? " IS NOT " : " = ") + text_.bind(*scalarBinding(*value));
-    return flagPrefix(left, wanted) + left.sql + wanted;
+    const std::string_view operation = negated ? " IS NOT " : " = ";
+    SQLBinding wanted = *scalarBinding(*value);
+    const std::string prefix = flagPrefix(left, operation, wanted);
+    return prefix + left.sql + std::string(operation) + text_.bind(std::move(wanted));
 }
 
 /// Half of the rows have a flag, or nearly all: an index that begins with it would collect and sort them. The plus
 /// keeps SQLite from that.
-std::string SQLConditionBuilder::flagPrefix(const Operand& left, const std::string& wanted) const
+std::string SQLConditionBuilder::flagPrefix(
+    const Operand& left, std::string_view operation, const SQLBinding& wanted) const
 {
     if (left.flagSelect.empty())
         return {};
-    return options_.isLargeSet({left.flagSelect + wanted, text_.bindings}) ? "+" : "";
+    return options_.isCommonFlag({left.flagSelect + std::string(operation) + "?1", {wanted}}) ? "+" : "";
 }
 
 /// Rows whose shadow another program has made stale are looked at one by one; normally there are none.

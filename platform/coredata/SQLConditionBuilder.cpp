@@ -221,7 +221,7 @@ std::string SQLConditionBuilder::searchedColumn(const SQLPathEnd& end) const
 std::string SQLConditionBuilder::flagSelect(const SQLPathEnd& end) const
 {
     const bool isOfWalkedRow = end.place.path.empty() && end.place.scope->outer == nullptr;
-    if (!options_.isLargeSet || !options_.walksOrder || !isOfWalkedRow
+    if (!options_.isCommonFlag || !options_.walksOrder || !isOfWalkedRow
         || end.attribute->type() != NSAttributeType::Boolean || end.attribute->name() == options_.firstSortKey)
         return {};
     const auto& indexes = end.attribute->declaringEntity().indexes();

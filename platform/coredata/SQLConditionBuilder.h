@@ -20,6 +20,8 @@ struct SQLConditionOptions {
     bool usesShadows = true;
     /// Whether a SELECT gives so many rows that others should be looked at instead. Unset: never.
     std::function<bool(const SQLText& select)> isLargeSet;
+    /// The same for the rows with a flag, which hardly change from one fetch to the next. Unset: never.
+    std::function<bool(const SQLText& select)> isCommonFlag;
     /// The rows of an attribute's table that a test may hold for; null when nothing is known. Unset: never known.
     std::function<KeySetPtr(const NSAttributeDescription& attribute, const StringTest& test)> rowsThatMayMatch;
     /// An order is asked for, and only its first rows: an index may be walked until there are enough.
@@ -94,7 +96,7 @@ private:
     Condition compareOperands(
         const Operand& left, const ComparisonPredicate& predicate, const Operand& right, bool negated);
     Condition equality(const Operand& left, const Value& right, ComparisonOptions options, bool negated);
-    std::string flagPrefix(const Operand& left, const std::string& wanted) const;
+    std::string flagPrefix(const Operand& left, std::string_view operation, const SQLBinding& wanted) const;
     Condition foldedEquality(const Operand& left, const std::string& right, bool negated);
     Condition order(
         const Operand& left, ComparisonOperator operation, const Value& right, ComparisonOptions options, bool negated);

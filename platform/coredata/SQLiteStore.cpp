@@ -22,17 +22,6 @@ namespace tarn {
 namespace {
 
 constexpr std::string_view kPatiencePragma = "busy_timeout";
-/// Collecting and sorting so many rows costs more than looking at them one by one until a list is full.
-constexpr std::int64_t kLargeSet = 2000;
-
-/// How many rows a SELECT gives; at most `limit` are counted.
-std::int64_t countUpTo(SQLiteConnection& connection, const SQLText& select, std::int64_t limit)
-{
-    SQLiteStatement statement
-        = connection.prepare("SELECT count(*) FROM (" + select.sql + " LIMIT " + std::to_string(limit) + ")");
-    bindAll(statement, select.bindings);
-    return statement.step() ? statement.integer(0) : 0;
-}
 
 /// The settings of all connections; "busy_timeout" (milliseconds) is how long our own handler waits.
 SQLiteConnectionOptions connectionOptions(const StoreOptions& options)
@@ -135,8 +124,9 @@ SQLConditionOptions SQLiteStore::conditionOptions(const StoreFetch& fetch, SQLit
     SQLConditionOptions options;
     options.store = identity_;
     options.usesShadows = usesShadows_;
-    options.isLargeSet
-        = [&connection](const SQLText& select) { return countUpTo(connection, select, kLargeSet) >= kLargeSet; };
+    options.isLargeSet = [&connection](const SQLText& select) { return givesManyRows(connection, select); };
+    options.isCommonFlag
+        = [this, &connection](const SQLText& select) { return commonFlags_.contains(connection, select); };
     options.walksOrder = fetch.limit > 0 && !fetch.sortDescriptors.empty();
     if (options.walksOrder)
         options.firstSortKey = fetch.sortDescriptors.front().key;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/coredata/CommonFlags.h"
 #include "platform/coredata/ConnectionPool.h"
 #include "platform/coredata/NSPersistentStore.h"
 #include "platform/coredata/NSPersistentStoreCoordinator.h"
@@ -79,6 +80,7 @@ private:
     StoreSelects selects_;
     std::unique_ptr<ConnectionPool> pool_;
     SearchIndex searchIndex_;
+    mutable CommonFlags commonFlags_;
     bool hasSearchIndex_ = true; ///< NO for a file that lacks the tables and cannot be given them
     const StoreIdentity* identity_ = nullptr;
     std::atomic<bool> usesShadows_ = true;

@@ -309,6 +309,7 @@ public:
             statement.step();
             return random_() % 2 == 0;
         };
+        options.isCommonFlag = options.isLargeSet;
         const SQLGenerator generator(selects_, options);
         std::vector<std::int64_t> keys;
         for (const StoreRow& row : SQLiteFetch(fetch, selects_, generator, reader_, connection_).rows())

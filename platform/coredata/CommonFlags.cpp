@@ -1,0 +1,44 @@
+#include "platform/coredata/CommonFlags.h"
+
+#include "platform/coredata/SQLText.h"
+#include "platform/coredata/SQLiteConnection.h"
+
+namespace tarn {
+
+namespace {
+
+constexpr std::int64_t kMany = 2000;
+constexpr int kUses = 100;
+/// A model has a few flags; what else is asked for is not worth keeping.
+constexpr std::size_t kMostAnswers = 64;
+
+} // namespace
+
+bool givesManyRows(SQLiteConnection& connection, const SQLText& select)
+{
+    SQLiteStatement statement
+        = connection.prepare("SELECT count(*) FROM (" + select.sql + " LIMIT " + std::to_string(kMany) + ")");
+    bindAll(statement, select.bindings);
+    return statement.step() && statement.integer(0) >= kMany;
+}
+
+bool CommonFlags::contains(SQLiteConnection& connection, const SQLText& select)
+{
+    std::string question = select.sql;
+    for (const SQLBinding& binding : select.bindings)
+        question += '\n' + describeBinding(binding);
+    {
+        const std::lock_guard lock(mutex_);
+        const auto known = answers_.find(question);
+        if (known != answers_.end() && known->second.usesLeft-- > 0)
+            return known->second.isCommon;
+    }
+    const bool isCommon = givesManyRows(connection, select); // not under the lock: it reads
+    const std::lock_guard lock(mutex_);
+    if (answers_.size() >= kMostAnswers)
+        answers_.clear();
+    answers_[std::move(question)] = {isCommon, kUses};
+    return isCommon;
+}
+
+} // namespace tarn
