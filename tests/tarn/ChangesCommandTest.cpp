@@ -1,6 +1,12 @@
+#include "include/tarnmodel/TarnModel.h"
 #include "tests/tarn/TarnCommandTest.h"
 
 #include <algorithm>
+#include <atomic>
+#include <chrono>
+#include <memory>
+#include <set>
+#include <thread>
 
 namespace tarn::test {
 
@@ -17,6 +23,29 @@ std::vector<std::string> updatedIn(const nlohmann::json& document)
 }
 
 using Strings = std::vector<std::string>;
+
+/// Makes notes on a store, one save each and as fast as it can, as another program would; their identifiers.
+Strings saveNotesUntil(const std::atomic<bool>& shallEnd, const std::filesystem::path& database)
+{
+    Strings identifiers;
+    NSError error;
+    const auto coordinator = std::make_shared<NSPersistentStoreCoordinator>(OVManagedObjectModel::current(&error));
+    const StoreOptions options{.pragmas = {{"journal_mode", "DELETE"}, {"synchronous", "OFF"}}};
+    EXPECT_TRUE(coordinator->addPersistentStoreWithType(StoreType::SQLite, database, options, &error)) << error;
+    NSManagedObjectContext context(NSManagedObjectContext::ConcurrencyType::PrivateQueue);
+    context.setPersistentStoreCoordinator(coordinator);
+    context.performBlockAndWait([&] {
+        const auto recording
+            = NSNotificationCenter::defaultCenter().addObserver(NSManagedObjectContextWillSaveNotification, &context,
+                [&](const NSNotification&) { OVChange::updateChangesInInManagedObjectContext(context); });
+        while (!shallEnd) {
+            identifiers.push_back(OVNote::insertInManagedObjectContext(context)->uniqueIdentifier().value());
+            EXPECT_TRUE(context.save(&error)) << error;
+            std::this_thread::sleep_for(std::chrono::milliseconds(1)); // readers want a turn as well
+        }
+    });
+    return identifiers;
+}
 
 } // namespace
 
@@ -138,6 +167,31 @@ TEST_F(ChangesCommand, BeginsAnEmptyLogWithEveryRecord)
     EXPECT_EQ(json({"changes"}).at("token"), nlohmann::json());
 
     EXPECT_EQ(updatedIn(json({"baseline"})), Strings{"OVNote " + identifier});
+}
+
+TEST_F(ChangesCommand, PassesOverNothingThatIsSavedWhileItReads)
+{
+    note("first");
+    std::string token = json({"changes"}).at("token");
+    std::set<std::string> listed;
+    const auto poll = [&] {
+        const auto document = json({"changes", "--since", token});
+        for (const auto& record : document.at("updated"))
+            listed.insert(std::string(record.at("uniqueIdentifier")));
+        token = document.at("token");
+    };
+    Strings saved;
+    std::atomic<bool> shallEnd = false;
+    std::thread writer([&] { saved = saveNotesUntil(shallEnd, database()); });
+    for (int count = 0; count < 25; ++count)
+        poll();
+    shallEnd = true;
+    writer.join();
+    poll();
+
+    EXPECT_GT(saved.size(), 25U);
+    for (const std::string& identifier : saved)
+        EXPECT_TRUE(listed.contains(identifier)) << identifier;
 }
 
 TEST_F(ChangesCommand, LeavesNoChangeBehindASaveThatFailed)

@@ -67,6 +67,20 @@ TEST_F(StoreSafety, TwoImportsAtOnceMakeOneTagOfEachName)
     EXPECT_EQ(json({"tags"}).at("tags").size(), 52U);
 }
 
+TEST_F(StoreSafety, AReaderTakesAnEmptyFileForAStoreThatIsNotThereYet)
+{
+    fs::create_directories(database().parent_path());
+    std::ofstream(database()).flush();
+    for (const char* command : {"list", "changes", "tags"}) {
+        const TarnResult result = run({command});
+        EXPECT_EQ(result.exitCode, 1) << command;
+        EXPECT_NE(result.errors.find("there is no store"), std::string::npos) << result.errors;
+    }
+    EXPECT_EQ(fs::file_size(database()), 0U) << "looking makes nothing";
+    note("# A");
+    EXPECT_EQ(json({"list"}).at("count"), 1);
+}
+
 TEST_F(StoreSafety, AWriterGivesUpWhenTheStoreStaysLocked)
 {
     note("# A");

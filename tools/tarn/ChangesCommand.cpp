@@ -51,18 +51,19 @@ ExitCode showChanges(const Invocation& invocation, const std::optional<std::stri
     NSManagedObjectContext& context = session.context();
     // A log that cannot be read must not look like one in which nothing changed.
     session.countOfEntity(OVChange::entityInManagedObjectContext(context), std::nullopt);
+    Changes changes;
+    // Before the list: what another process saves in between is listed again next time, and never passed over.
+    if (const OVChange* latest = OVChange::latestChangeInManagedObjectContext(context))
+        changes.token = latest->token();
     const OVChange* since = sinceToken ? OVChange::changeWithToken(*sinceToken, context) : nullptr;
     if (!since && sinceToken)
         throw CommandFailure(ExitCode::Failed,
             "the change log does not hold the token " + *sinceToken
                 + " any more; start from a baseline: 'tarn baseline'");
-    Changes changes;
     changes.updated = OVChange::objectsUpdatedSinceChange(since, &changes.deleted, context);
     // Classes are walked one by one: each may name an identifier.
     std::sort(changes.deleted.begin(), changes.deleted.end());
     changes.deleted.erase(std::unique(changes.deleted.begin(), changes.deleted.end()), changes.deleted.end());
-    if (const OVChange* latest = OVChange::latestChangeInManagedObjectContext(context))
-        changes.token = latest->token();
     write(invocation, changes);
     return session.exists() ? ExitCode::Done : ExitCode::Failed;
 }

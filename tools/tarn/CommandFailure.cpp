@@ -23,8 +23,7 @@ constexpr std::array kMeanings{
     StoreErrorMeaning{StoreErrorIncompatible, ExitCode::NeedsMigration,
         "the store was written by another version and has to be migrated first"},
     StoreErrorMeaning{StoreErrorCorrupt, ExitCode::Corrupt, "run 'tarn doctor', and keep a copy of the file"},
-    StoreErrorMeaning{
-        StoreErrorNotAStore, ExitCode::Corrupt, "the file is no store; move it away or name another folder"},
+    StoreErrorMeaning{StoreErrorNotAStore, ExitCode::Corrupt, "move it away or name another folder"},
     StoreErrorMeaning{StoreErrorReadOnly, ExitCode::InputOutput, "check the permissions of the folder"},
     StoreErrorMeaning{StoreErrorIO, ExitCode::InputOutput, "check the disk"},
     StoreErrorMeaning{StoreErrorFull, ExitCode::InputOutput, "make room on the disk and try again"},

@@ -68,6 +68,9 @@ StoreSession::StoreSession(const Invocation& invocation, Access access)
         exists_ = fs::exists(database_, error);
         if (error)
             throw failureForSystemError(database_.string(), error.value());
+        // A tarn that makes the store at this moment begins with an empty file.
+        if (fs::is_regular_file(database_, error) && fs::file_size(database_, error) == 0)
+            exists_ = false;
         if (!exists_)
             tellOnStandardError(
                 "there is no store in " + folder_.string() + " yet; 'tarn new' and 'tarn import' make one");
