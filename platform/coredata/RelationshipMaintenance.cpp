@@ -73,8 +73,11 @@ void RelationshipMaintenance::setToOne(
     NSManagedObject* former = toOne(record, relationship);
     if (former == target)
         return;
-    store(record, relationship, target);
     const NSRelationshipDescription& inverse = relationship.inverseRelationship();
+    // The other end of a pair may not have been read yet; afterwards the store's answer does not count any more.
+    if (former && !inverse.isToMany())
+        toOne(*former, inverse);
+    store(record, relationship, target);
     if (former)
         detachInverse(*former, inverse, record);
     if (target)

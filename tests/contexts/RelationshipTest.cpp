@@ -48,6 +48,21 @@ TEST_P(Relationship, OfOneToOneLetsTheFormerHolderGo)
     EXPECT_EQ(find("Book", "cover == nil").size(), 1U);
 }
 
+TEST_P(Relationship, OfOneToOneCountsAsChangedForAFormerEndThatWasNotReadYet)
+{
+    book("One").setValueForKey("cover", Value(&insert("Cover")));
+    save();
+    restart();
+    NSManagedObject& one = *all("Book").at(0);
+    NSManagedObject& former = *all("Cover").at(0);
+
+    one.setValueForKey("cover", Value());
+
+    EXPECT_TRUE(former.storedValueForKey("book").isNil());
+    EXPECT_THAT(former.changedKeys(), ElementsAre("book"));
+    EXPECT_THAT(context_->updatedObjects(), UnorderedElementsAre(&one, &former));
+}
+
 TEST_P(Relationship, AddingAMemberDoesNotReadTheOthers)
 {
     NSManagedObject& popular = shelf("popular");
