@@ -24,7 +24,8 @@ std::unique_ptr<OVCoreDataStackForWidgets> OVCoreDataStackForWidgets::initStack(
 bool OVCoreDataStackForWidgets::makeMissingStore(NSError* error) const
 {
     std::error_code failure;
-    if (std::filesystem::exists(persistentStoreURL(), failure))
+    // An empty file is one that another program is about to make a store of.
+    if (const auto size = std::filesystem::file_size(persistentStoreURL(), failure); !failure && size > 0)
         return true;
     const auto model = managedObjectModel(error);
     if (!model)

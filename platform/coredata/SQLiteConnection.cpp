@@ -41,8 +41,12 @@ StoreFailure failureOf(int result, int extendedResult, const char* detail, const
     if (extendedResult == SQLITE_READONLY_DBMOVED)
         return {StoreErrorReplaced, "the store was replaced; open it again"};
     for (const auto& meaning : kMeanings) {
-        if (meaning.result == (result & 0xFF))
-            return {meaning.code, std::string(meaning.description) + " (" + doing + ": " + message + ")"};
+        if (meaning.result != (result & 0xFF))
+            continue;
+        // Which statement came upon it first says nothing about the file.
+        if (meaning.code == StoreErrorNotAStore)
+            return {meaning.code, meaning.description};
+        return {meaning.code, std::string(meaning.description) + " (" + doing + ": " + message + ")"};
     }
     return {StoreErrorGeneric, "The store failed. (" + doing + ": " + message + ")"};
 }

@@ -63,6 +63,15 @@ TEST_F(WidgetStack, MakesAnEmptyStoreWhenItComesFirst)
     EXPECT_FALSE(OVCoreDataStack().isMigrationNeeded());
 }
 
+TEST_F(WidgetStack, MakesAStoreOfAnEmptyFile)
+{
+    std::ofstream(storeFile()).flush();
+    open();
+    EXPECT_THAT(titles(), IsEmpty());
+    saveNote("one");
+    EXPECT_THAT(titles(), ElementsAre("one"));
+}
+
 TEST_F(WidgetStack, NeverWrites)
 {
     saveNote("one");

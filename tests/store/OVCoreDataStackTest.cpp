@@ -48,6 +48,17 @@ TEST_F(StoreStack, MakesANewStoreWhereThereIsNone)
     EXPECT_FALSE(stack_->isMigrationNeeded());
 }
 
+TEST_F(StoreStack, MakesAStoreOfAnEmptyFile)
+{
+    std::ofstream(storeFile()).flush();
+    EXPECT_FALSE(stack_->isMigrationNeeded());
+
+    setUp();
+
+    EXPECT_THAT(listener_.events, ElementsAre("initialized"));
+    EXPECT_THAT(titlesInStore(), IsEmpty());
+}
+
 TEST_F(StoreStack, OpensTheStoreThatIsThere)
 {
     setUp();

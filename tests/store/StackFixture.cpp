@@ -216,6 +216,7 @@ void StackFixture::expectRefusesAFileThatIsNoStore(const Opening& open) const
     NSError error;
     EXPECT_FALSE(open(&error));
     EXPECT_EQ(error.code(), StoreErrorNotAStore);
+    EXPECT_EQ(error.localizedDescription(), "The file is not a store.");
 }
 
 UntouchedFile::UntouchedFile(fs::path file) : file_(std::move(file))
