@@ -11,7 +11,7 @@ namespace {
 
 using ChangeItems = std::vector<OVChangeItem*>;
 
-/// One new item for each record of the entity. Identifiers are read as they are, without making a record of each.
+/// One new item for each record of the entity that has an identifier.
 ChangeItems newItemsForEntity(const NSEntityDescription& entity, NSManagedObjectContext& context)
 {
     NSFetchRequest request(entity);

@@ -290,6 +290,22 @@ TEST_P(UnreadableLog, ReadsAsEmptyAndIsLogged)
     show();
 }
 
+TEST_P(UnreadableLog, ListsAndDeletesNothing)
+{
+    item(changeOfOrder(3), "OVNote", "a");
+    const OVChange& last = changeOfOrder(4);
+    save();
+    hide();
+    const auto failure = testing::StartsWith("Error while fetching\n");
+    EXPECT_THAT(OVChange::changeItemsSinceChange(&last, context()), IsEmpty());
+    EXPECT_THAT(takeLog(), ElementsAre(failure));
+    OVChange::deleteChangesBeforeChange(&last, context());
+    EXPECT_THAT(takeLog(), ElementsAre(failure));
+    EXPECT_FALSE(context().hasChanges());
+    show();
+    EXPECT_EQ(countOfChanges(), 2U);
+}
+
 TEST_P(UnreadableLog, GetsNoChangeWithAnOrderThatWasGuessed)
 {
     hide();

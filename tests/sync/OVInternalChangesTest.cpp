@@ -82,5 +82,24 @@ TEST_P(InternalChanges, WithoutAnAddressNameNothing)
     }
 }
 
+class UnreadableInternalQueue : public InternalChanges { };
+INSTANTIATE_TEST_SUITE_P(Stores, UnreadableInternalQueue, testing::Values(StoreType::SQLite), storeName);
+
+TEST_P(UnreadableInternalQueue, IsLoggedAndDeletesNothing)
+{
+    add("one", noteTitled("a"));
+    save();
+    runSQL("ALTER TABLE \"OVInternalChanges\" RENAME TO \"hidden\"");
+
+    EXPECT_THAT(queue("one"), IsEmpty());
+    EXPECT_THAT(takeLog(), testing::ElementsAre(testing::StartsWith("Error while fetching\n")));
+    OVInternalChanges::deleteAllInternalChangesForType("one", context());
+    EXPECT_THAT(takeLog(), testing::ElementsAre(testing::StartsWith("Error while fetching\n")));
+    EXPECT_FALSE(context().hasChanges());
+
+    runSQL("ALTER TABLE \"hidden\" RENAME TO \"OVInternalChanges\"");
+    EXPECT_EQ(queue("one").size(), 1U);
+}
+
 } // namespace
 } // namespace tarn

@@ -97,6 +97,20 @@ TEST_P(ServerMetadata, ForgetsEverything)
     EXPECT_EQ(all<OVServerMetadata>().size(), 1U);
 }
 
+TEST_P(ServerMetadata, ForgetsTheTokenFirstAndTheZoneLast)
+{
+    OVServerMetadata& observed = metadata();
+    std::vector<std::string> heard;
+    std::vector<KeyValueObservation> observations;
+    for (const char* key : {"noteZoneIDData", "serverChangeTokenData", "noteZoneSubscriptionID"})
+        observations.push_back(observed.addObserver(
+            key, [&heard](NSManagedObject&, std::string_view changed) { heard.emplace_back(changed); }));
+
+    OVServerMetadata::resetServerMetadataInManagedObjectContext(context());
+
+    EXPECT_THAT(heard, ElementsAre("serverChangeTokenData", "noteZoneSubscriptionID", "noteZoneIDData"));
+}
+
 class ServerData : public StoreFixture {
 protected:
     static CKRecord aRecord()

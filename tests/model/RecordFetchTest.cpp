@@ -1,0 +1,38 @@
+#include "model/RecordFetch.h"
+
+#include "model/OVNote.h"
+#include "tests/model/RecordFixture.h"
+#include "tests/support/LogCapture.h"
+
+namespace tarn {
+namespace {
+
+using testing::ElementsAre;
+
+TEST(RecordFetch, LogsWhatAFailureSaysOfItself)
+{
+    LogCapture log;
+    logFetchFailure(NSError("TarnStore", 1, "The store is damaged."));
+    logFetchFailure(NSError("TarnStore", 1, ""));
+    EXPECT_THAT(
+        log.take(), ElementsAre("Error while fetching\nThe store is damaged.", "Error while fetching\nUnknown Error"));
+}
+
+using FetchedRecords = RecordTest;
+INSTANTIATE_TEST_SUITE_P(
+    Stores, FetchedRecords, testing::Values(StoreType::SQLite, StoreType::InMemory), storeTypeName);
+
+TEST_P(FetchedRecords, TellAFailureFromAnEmptyAnswer)
+{
+    LogCapture log;
+    NSFetchRequest request(OVNote::entityInManagedObjectContext(context()));
+    EXPECT_EQ(fetchRecords<OVNote>(request, context()), std::vector<OVNote*>());
+    EXPECT_THAT(log.take(), testing::IsEmpty());
+
+    request.predicate = NSPredicate::predicateWithFormat("flavour == 1");
+    EXPECT_EQ(fetchRecords<OVNote>(request, context()), std::nullopt);
+    EXPECT_THAT(log.take(), ElementsAre(testing::StartsWith("Error while fetching\n")));
+}
+
+} // namespace
+} // namespace tarn
