@@ -1,0 +1,163 @@
+#include "tests/contexts/RandomLibrary.h"
+
+#include "platform/foundation/NSNotificationCenter.h"
+
+#include <algorithm>
+#include <map>
+#include <utility>
+
+namespace tarn {
+namespace {
+
+/// What a context says of every record: by identifier, one text with all attributes and the identifiers it relates to.
+using Snapshot = std::map<std::string, std::string>;
+
+/// What the one says otherwise than the other, a line a record.
+std::string differences(const Snapshot& found, const Snapshot& expected)
+{
+    std::string text;
+    const auto add = [&](std::string_view side, const Snapshot& those, const Snapshot& others) {
+        for (const auto& [identifier, record] : those)
+            if (const auto other = others.find(identifier); other == others.end() || other->second != record)
+                text += std::string(side) + identifier + " " + record + '\n';
+    };
+    add("found    ", found, expected);
+    add("expected ", expected, found);
+    return text;
+}
+
+std::string textOfValue(const Value& value)
+{
+    switch (value.kind()) {
+    case Value::Kind::Bool:
+        return value.asBool() ? "YES" : "NO";
+    case Value::Kind::Integer:
+        return std::to_string(value.asInteger());
+    case Value::Kind::Double:
+        return std::to_string(value.asDouble());
+    case Value::Kind::String:
+        return '"' + value.asString() + '"';
+    case Value::Kind::Date:
+        return std::to_string(microsecondsSince1970(value.asDate()));
+    case Value::Kind::Data:
+        return "data " + std::string(value.asData().text());
+    default:
+        return "nil";
+    }
+}
+
+std::string textOfRelated(const NSManagedObject& record, const NSRelationshipDescription& relationship)
+{
+    if (!relationship.isToMany()) {
+        const NSManagedObject* target = record.toOneAt(relationship.index());
+        return target ? target->objectID().URIRepresentation() : "-";
+    }
+    std::vector<std::string> members;
+    for (const NSManagedObject* member : record.toManyAt(relationship.index()).members())
+        members.push_back(member->objectID().URIRepresentation());
+    std::sort(members.begin(), members.end());
+    std::string text = std::to_string(record.toManyAt(relationship.index()).count()) + ":";
+    for (const std::string& member : members)
+        text += ' ' + member;
+    return text;
+}
+
+std::string textOfRecord(const NSManagedObject& record)
+{
+    std::string text;
+    for (const NSAttributeDescription* attribute : record.entity().attributes())
+        text += attribute->name() + '=' + textOfValue(record.storedValueForKey(attribute->name())) + "; ";
+    for (const NSRelationshipDescription* relationship : record.entity().relationships())
+        text += relationship->name() + '=' + textOfRelated(record, *relationship) + "; ";
+    return text;
+}
+
+/// Two contexts on one store, as of an application and an extension: `context_` merges what `other_` saves.
+class RemoteMergeDifferential : public ContextTest {
+protected:
+    void TearDown() override
+    {
+        saved_ = NSNotificationSubscription();
+        other_.reset();
+        ContextTest::TearDown();
+    }
+
+    void begin(RandomLibrary& library)
+    {
+        restart();
+        for (const std::string_view entity : {"Item", "Book", "Shelf", "Chapter", "Cover"})
+            for (NSManagedObject* record : all(entity))
+                context_->deleteObject(*record);
+        save();
+        library.setContext(*context_);
+        library.populate(30);
+        save();
+        restart();
+        other_ = contextOn(coordinator_);
+        saved_ = NSNotificationCenter::defaultCenter().addObserver(
+            NSManagedObjectContextDidSaveNotification, other_.get(), [this](const NSNotification& notification) {
+                const auto& changes = *notification.userInfoAs<ObjectChanges>();
+                const auto add = [](auto& identifiers, const auto& records) {
+                    for (const NSManagedObject* record : records)
+                        identifiers.push_back(record->objectID());
+                };
+                add(news_.inserted, changes.inserted);
+                add(news_.updated, changes.updated);
+                add(news_.deleted, changes.deleted);
+            });
+    }
+
+    Snapshot snapshotOf(NSManagedObjectContext& context) const
+    {
+        Snapshot snapshot;
+        for (const std::string_view entity : {"Item", "Book", "Shelf", "Chapter", "Cover"})
+            for (const NSManagedObject* record :
+                context.executeFetchRequest(NSFetchRequest(*model_->entityNamed(entity))))
+                snapshot.emplace(record->objectID().URIRepresentation(), textOfRecord(*record));
+        return snapshot;
+    }
+    Snapshot snapshotOfStore() const { return snapshotOf(*contextOn(coordinator_)); }
+
+    void saveThere(RandomLibrary& library, std::size_t changes)
+    {
+        other_->refreshAllObjects();
+        library.setContext(*other_);
+        library.change(changes);
+        NSError error;
+        ASSERT_TRUE(other_->save(&error)) << error;
+    }
+    void merge()
+    {
+        NSManagedObjectContext* const contexts[] = {context_.get()};
+        NSManagedObjectContext::mergeChangesFromRemoteContextSave(std::exchange(news_, {}), contexts);
+    }
+
+    std::unique_ptr<NSManagedObjectContext> other_;
+
+private:
+    NSNotificationSubscription saved_;
+    RemoteChanges news_;
+};
+INSTANTIATE_TEST_SUITE_P(
+    Stores, RemoteMergeDifferential, testing::Values(StoreType::SQLite, StoreType::InMemory), storeTypeName);
+
+TEST_P(RemoteMergeDifferential, ACleanContextShowsTheStoreAfterIt)
+{
+    const unsigned seeds = GetParam() == StoreType::SQLite ? 25 : 60;
+    for (unsigned seed = 1; seed <= seeds; ++seed) {
+        SCOPED_TRACE(testing::Message() << "seed " << seed);
+        RandomLibrary library(*context_, seed);
+        begin(library);
+        for (int round = 0; round < 6; ++round) {
+            snapshotOf(*context_); // everything is loaded, so everything can be out of date
+            saveThere(library, 1 + library.below(6));
+            merge();
+
+            ASSERT_FALSE(context_->hasChanges()) << "round " << round;
+            ASSERT_EQ(differences(snapshotOf(*context_), snapshotOfStore()), "") << "round " << round;
+        }
+    }
+}
+
+} // namespace
+} // namespace tarn
