@@ -1,5 +1,6 @@
 // Any bytes give a predicate, nothing, or the parser's exception, in a time that grows with their length.
 
+#include "platform/foundation/Environment.h"
 #include "platform/foundation/NSException.h"
 #include "platform/foundation/UTF.h"
 #include "search/OVNoteSearchManager.h"
@@ -12,6 +13,7 @@
 #include <ctime>
 #include <functional>
 #include <random>
+#include <thread>
 
 namespace tarn {
 
@@ -149,6 +151,33 @@ TEST(HostileSearch, OfAnyBytesGivesAPredicateOrNothingOrTheParsersException)
     }
     OVNoteSearchManager::setAllowOCRSearch(false);
     EXPECT_GT(found, 8'000U);
+}
+
+TEST(HostileSearch, IsCompiledOnSeveralThreadsAtOnce)
+{
+    const std::vector<std::string> queries{
+        "apple -pear", "\"big red\" or #fruit", "@前七天 @date(3/15/21)", "@empty -@done", "!#a #*/b", "@title \"x\""};
+    const auto compile = [&queries] {
+        std::string all;
+        for (const std::string& query : queries)
+            all += OVNoteSearchManager::predicateForSearchString(query)->predicateFormat()
+                + OVNoteSearchManager::likeOrPatternForSearchString(query)
+                + OVNoteSearchManager::searchStringForNoteEditor(query) + '\n';
+        return all;
+    };
+    EnvironmentOverride world;
+    world.setNow(dateFromISO8601String("2021-03-15T10:00:00Z").value());
+    std::vector<std::string> results(4);
+    std::vector<std::thread> threads;
+    for (std::string& result : results)
+        threads.emplace_back([&result, &compile] {
+            for (int round = 0; round < 25; ++round)
+                result = compile();
+        });
+    for (std::thread& thread : threads)
+        thread.join();
+    for (const std::string& result : results)
+        EXPECT_EQ(result, compile());
 }
 
 TEST(HostileSearch, FindsTokensByIndexAsByLooking)

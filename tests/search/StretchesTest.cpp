@@ -65,6 +65,17 @@ private:
 
 } // namespace
 
+TEST(SearchExpressions, AreMadeOnceAndMatchAtEveryLine)
+{
+    const RegularExpression& quoted = OVNoteSearchManager::quotedSearchRegularExpression();
+    const RegularExpression& tags = OVNoteSearchManager::tagSearchRegularExpression();
+    EXPECT_EQ(&quoted, &OVNoteSearchManager::quotedSearchRegularExpression());
+    EXPECT_EQ(&tags, &OVNoteSearchManager::tagSearchRegularExpression());
+    const std::string lines = "a\n\"b\"\n-“c d”\n#e\n!#f g#\n#a0b1c2\n##\n-#2021\n(#😀)";
+    EXPECT_EQ(shown(matchesOf(quoted, lines)), "{2,3} {6,6} ");
+    EXPECT_EQ(shown(matchesOf(tags, lines)), "{13,2} {16,6} {42,3} ");
+}
+
 TEST(Stretches, AreWhatTheExpressionsMatch)
 {
     constexpr std::uint32_t kSeed = 20211105;
