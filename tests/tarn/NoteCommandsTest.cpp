@@ -97,6 +97,36 @@ TEST_F(NoteCommands, FindANoteByIdentifierItsBeginningOrItsTitle)
     }
 }
 
+TEST_F(NoteCommands, TakeNoEmptyArgumentForANoteWithoutATitle)
+{
+    note("");
+    for (const std::string empty : {"", "\u200B"}) {
+        for (const std::vector<std::string>& command :
+            std::vector<std::vector<std::string>>{{"show"}, {"delete", "--yes"}, {"trash"}, {"append"}, {"links"}}) {
+            std::vector<std::string> arguments = command;
+            arguments.push_back(empty);
+            const TarnResult result = run(arguments);
+            EXPECT_EQ(result.exitCode, 1) << command.front();
+            EXPECT_NE(result.errors.find("NOTE is empty"), std::string::npos) << result.errors;
+        }
+    }
+    EXPECT_EQ(json({"list"}).at("count"), 1);
+}
+
+TEST_F(NoteCommands, DoNotShowAProtectedText)
+{
+    const std::string identifier = note("# Secret\n\nhidden");
+    damage("UPDATE OVNote SET encrypted = 1; UPDATE OVNote_large SET text = NULL");
+    const TarnResult result = run({"show", "Secret"});
+    EXPECT_EQ(result.exitCode, 3);
+    EXPECT_EQ(result.output, "");
+    EXPECT_EQ(result.errors,
+        "tarn: \"Secret\" (" + identifier.substr(0, 8) + ") is protected by a password and cannot be read here\n");
+    const nlohmann::json document = json({"show", "Secret"});
+    EXPECT_EQ(document.at("encrypted"), true);
+    EXPECT_TRUE(document.at("text").is_null());
+}
+
 TEST_F(NoteCommands, PreferAnUntrashedNoteOfTheSameTitle)
 {
     note("# Same\n\nkept");

@@ -10,8 +10,7 @@ namespace {
 
 CommandFailure refusal(ExitCode code, const OVNote& note, const std::string& reason)
 {
-    return {code,
-        "\"" + note.title().value_or("") + "\" (" + note.uniqueIdentifier().value_or("").substr(0, 8) + ") " + reason};
+    return {code, nameOfNote(note) + " " + reason};
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "tools/tarn/NoteArgument.h"
 
+#include "platform/foundation/Folding.h"
 #include "tools/tarn/CommandFailure.h"
 
 #include <algorithm>
@@ -68,6 +69,9 @@ OVNote* noteWithTitle(std::string_view title, StoreSession& session)
 
 OVNote& noteForArgument(std::string_view argument, StoreSession& session)
 {
+    // A script with an unset variable means no note; a note without a title would be found by it.
+    if (fold(argument).empty())
+        throw CommandFailure(ExitCode::Failed, "NOTE is empty; give an identifier, the beginning of one, or a title");
     if (OVNote* note = noteWithIdentifierBeginning(argument, session))
         return *note;
     if (OVNote* note = noteWithTitle(argument, session))

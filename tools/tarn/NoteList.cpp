@@ -44,6 +44,12 @@ std::string displayDate(NSDate date)
     return text.data();
 }
 
+std::string nameOfNote(const OVNote& note)
+{
+    return "\"" + note.title().value_or("") + "\" ("
+        + note.uniqueIdentifier().value_or("").substr(0, kIdentifierColumns) + ")";
+}
+
 void writeNoteLine(Output& output, const OVNote& note)
 {
     const std::string identifier = displayText(note.uniqueIdentifier().value_or("").substr(0, kIdentifierColumns));

@@ -14,6 +14,9 @@ namespace tarn {
 /// Marks: `*` pinned, `x` trashed, `a` archived, `r` read-only, `e` encrypted, `!` in conflict.
 void writeNoteLine(Output& output, const OVNote& note);
 
+/// A note as messages name it: its title in quotes and the beginning of its identifier.
+std::string nameOfNote(const OVNote& note);
+
 /// "2025-03-04 10:15" in the zone of the environment.
 std::string displayDate(NSDate date);
 

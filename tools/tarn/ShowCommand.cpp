@@ -3,6 +3,7 @@
 #include "tools/tarn/Commands.h"
 #include "tools/tarn/NoteArgument.h"
 #include "tools/tarn/NoteJSON.h"
+#include "tools/tarn/NoteList.h"
 
 #include <memory>
 
@@ -14,8 +15,8 @@ void writeText(Output& output, const OVNote& note)
 {
     const std::optional<std::string> text = note.text();
     if (!text && note.encryptedValue())
-        throw CommandFailure(ExitCode::Failed,
-            "the note " + note.uniqueIdentifier().value_or("") + " is protected and cannot be read here");
+        throw CommandFailure(
+            ExitCode::Locked, nameOfNote(note) + " is protected by a password and cannot be read here");
     output.write(text.value_or(""));
     // A prompt on the last line of the text is ugly; a pipe gets the bytes and nothing else.
     if (output.isTerminal() && text && !text->empty() && !text->ends_with('\n'))
