@@ -54,6 +54,38 @@ TEST_F(CommandLineTest, TellsWrongArgumentsInOneLine)
     EXPECT_FALSE(std::filesystem::exists(store()));
 }
 
+TEST_F(CommandLineTest, SaysInWordsWhatIsWrongAndWhereToRead)
+{
+    const std::string dash = "; what begins with \"-\" and is no option goes after \"--\"; see 'tarn ";
+    const std::vector<WrongArguments> messages{
+        {{"list", "--limit", "0"}, "--limit: \"0\" is no whole number from 1; see 'tarn list --help'"},
+        {{"list", "--limit", "0x10"}, "--limit: \"0x10\" is no whole number from 1; see 'tarn list --help'"},
+        {{"list", "--limit", "1.5"}, "--limit: \"1.5\" is no whole number from 1; see 'tarn list --help'"},
+        {{"list", "--limit", ""}, "--limit: \"\" is no whole number from 1; see 'tarn list --help'"},
+        {{"list", "extra"}, "\"extra\" is one argument too many; see 'tarn list --help'"},
+        {{"tag", "prune", "[x]"}, "\"[x]\" is one argument too many; see 'tarn tag prune --help'"},
+        {{"list", "--", "-x"}, "\"-x\" is one argument too many; see 'tarn list --help'"},
+        {{"search"}, "QUERY is required; see 'tarn search --help'"},
+        {{"search", "--"}, "QUERY is required; see 'tarn search --help'"},
+        {{"search", "-#work"}, "there is no option \"-#work\"" + dash + "search --help'"},
+        {{"highlight", "apple", "-pear"}, "there is no option \"-pear\"" + dash + "highlight --help'"},
+        {{"nonsense"}, "there is no command or option \"nonsense\"; see 'tarn --help'"},
+        {{"tag", "nonsense"}, "there is no command or option \"nonsense\"; see 'tarn tag --help'"},
+        {{}, "a command is missing; see 'tarn --help'"},
+    };
+    for (const WrongArguments& wrong : messages)
+        EXPECT_EQ(run(wrong.arguments).errors, "tarn: " + wrong.says + "\n");
+}
+
+TEST_F(CommandLineTest, CountsInDecimalDigits)
+{
+    for (int index = 0; index < 11; ++index)
+        note("# N");
+    EXPECT_EQ(json({"list", "--limit", "010"}).at("count"), 10);
+    EXPECT_EQ(json({"list", "--limit", "9"}).at("count"), 9);
+    EXPECT_EQ(json({"list", "--limit", "99999999999999999999999"}).at("count"), 11);
+}
+
 TEST_F(CommandLineTest, PrintsItsVersion)
 {
     const std::string version = output({"--version"});

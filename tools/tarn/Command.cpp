@@ -6,7 +6,10 @@
 #include <CLI/Validators.hpp>
 
 #include <algorithm>
+#include <charconv>
 #include <iterator>
+#include <limits>
+#include <system_error>
 #include <utility>
 
 namespace tarn {
@@ -14,6 +17,24 @@ namespace tarn {
 namespace {
 
 constexpr char kShield = '\x01';
+
+/// Decimal digits alone; a number that is too large for the machine is the largest that is not.
+std::optional<std::size_t> countFromText(const std::string& text)
+{
+    std::size_t count = 0;
+    const char* const end = text.data() + text.size();
+    const auto [stop, error] = std::from_chars(text.data(), end, count);
+    if (stop != end || error == std::errc::invalid_argument)
+        return std::nullopt;
+    if (error == std::errc::result_out_of_range)
+        return std::numeric_limits<std::size_t>::max();
+    return count > 0 ? std::optional(count) : std::nullopt;
+}
+
+std::string problemOfCount(const std::string& text)
+{
+    return countFromText(text) ? std::string() : "\"" + unshieldedArgument(text) + "\" is no whole number from 1";
+}
 
 } // namespace
 
@@ -71,7 +92,13 @@ CommandOption Command::addOption(
 
 CommandOption Command::addCount(const std::string& name, std::size_t& value, const std::string& description) const
 {
-    return CommandOption(*command_->add_option(name, value, description)->check(CLI::PositiveNumber)->option_text("N"));
+    // CLI11's own conversion takes "0x10" and "010" for other numbers than people do.
+    const auto take = [&value](const CLI::results_t& results) {
+        value = countFromText(results.at(0)).value_or(0);
+        return true;
+    };
+    CLI::Option* option = command_->add_option(name, take, description)->type_size(1)->expected(1)->option_text("N");
+    return CommandOption(*option->check(problemOfCount));
 }
 
 CommandOption Command::addOptionList(

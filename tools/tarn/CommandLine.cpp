@@ -49,11 +49,37 @@ std::string commandProblemOf(const CLI::App& group, const std::vector<std::strin
     return "there is no command or option \"" + unshieldedArgument(remaining.front()) + "\"" + advice;
 }
 
-std::string adviceFor(const CLI::ParseError& error)
+/// The command that was named, as people write it: "tarn", "tarn list", "tarn tag add".
+std::string nameOfCommand(const CLI::App& application)
 {
-    if (dynamic_cast<const CLI::ExtrasError*>(&error))
-        return "; what begins with \"-\" and is no option goes after \"--\"; see 'tarn --help'";
-    return "; see 'tarn --help'";
+    std::string name = "tarn";
+    const CLI::App* command = &application;
+    while (!command->get_subcommands().empty()) {
+        command = command->get_subcommands().front();
+        name += " " + command->get_name();
+    }
+    return name;
+}
+
+/// What is wrong with the arguments, and what to do.
+std::string problemOf(
+    const CLI::ParseError& error, const CLI::App& application, const std::vector<std::string>& arguments)
+{
+    const bool isMissing = dynamic_cast<const CLI::RequiredError*>(&error);
+    const bool isExtra = dynamic_cast<const CLI::ExtrasError*>(&error);
+    std::vector<std::string> remaining = application.remaining(true);
+    if (const CLI::App* group = groupWithoutCommand(application); group && isMissing)
+        return commandProblemOf(*group, remaining);
+    std::erase(remaining, "--");
+    const std::string extra = remaining.empty() ? std::string() : unshieldedArgument(remaining.front());
+    const auto dashes = std::ranges::find(arguments, "--");
+    const bool isBehindDashes = std::find(dashes, arguments.end(), extra) != arguments.end();
+    const std::string advice = "; see '" + nameOfCommand(application) + " --help'";
+    // A query such as "-#work" is taken for an option, and then there is no query.
+    if (extra.starts_with('-') && !isBehindDashes && (isMissing || isExtra))
+        return "there is no option \"" + extra + "\"; what begins with \"-\" and is no option goes after \"--\""
+            + advice;
+    return (isExtra ? "\"" + extra + "\" is one argument too many" : singleLine(error.what())) + advice;
 }
 
 } // namespace
@@ -149,10 +175,7 @@ ExitCode CommandLine::parseAndRun(const std::vector<std::string>& arguments)
         invocation_.output.writeLine(version.what());
         return ExitCode::Done;
     } catch (const CLI::ParseError& error) {
-        const CLI::App* group = groupWithoutCommand(*application_);
-        if (group && dynamic_cast<const CLI::RequiredError*>(&error))
-            throw CommandFailure(ExitCode::Usage, commandProblemOf(*group, application_->remaining(true)));
-        throw CommandFailure(ExitCode::Usage, singleLine(error.what()) + adviceFor(error));
+        throw CommandFailure(ExitCode::Usage, problemOf(error, *application_, arguments));
     }
     if (application_->count("--store") > 0)
         invocation_.storeOption = unshieldedArgument(store_);
