@@ -53,14 +53,22 @@ TEST_F(LinkCommands, ListNotesWithoutAnyLink)
 
 TEST_F(LinkCommands, FindNothingPolitely)
 {
-    note("# A");
-    for (const std::vector<std::string>& command :
-        std::vector<std::vector<std::string>>{{"links", "A"}, {"backlinks", "A"}, {"unresolved"}, {"conflicts"}}) {
+    const std::string name = "\"A\" (" + note("# A").substr(0, 8) + ")";
+    const std::vector<std::pair<std::vector<std::string>, std::string>> commands{
+        {{"links", "A"}, "there is no link in " + name}, {{"backlinks", "A"}, "no note links to " + name},
+        {{"unresolved"}, "every link leads to a note"}, {{"conflicts"}, "no note is in conflict"},
+        {{"conflicts", "A"}, "there is one version of the note"},
+        {{"tags"}, "no active note has a tag; --all shows every tag"},
+        {{"highlight", "@todo"}, "there is nothing to highlight: QUERY holds no word, phrase or tag that is wanted"}};
+    for (const auto& [command, message] : commands) {
         const TarnResult result = run(command);
         EXPECT_EQ(result.exitCode, 1) << command.front();
         EXPECT_EQ(result.output, "") << command.front();
+        EXPECT_EQ(result.errors, "tarn: " + message + "\n");
     }
     EXPECT_EQ(run({"links", "none"}).exitCode, 1);
+    output({"trash", "A"});
+    EXPECT_EQ(run({"orphans"}).errors, "tarn: there is no active note without links\n");
 }
 
 TEST_F(LinkCommands, PrintURLs)

@@ -83,6 +83,7 @@ TEST_F(SearchCommands, PrintWhatAnApplicationNeeds)
     EXPECT_NE(text.find("title CONTAINS[cd] \"apple\""), std::string::npos) << text;
     EXPECT_NE(text.find("SELECT"), std::string::npos) << text;
     EXPECT_NE(text.find("compile "), std::string::npos) << text;
+    EXPECT_EQ(text.find("\n\n"), std::string::npos) << text;
 }
 
 TEST_F(SearchCommands, ShowTheLineThatHoldsAPhraseOrATag)

@@ -72,7 +72,8 @@ ExitCode showConflicts(const Invocation& invocation, const std::optional<std::st
     else if (const OVNote& note = noteForArgument(*argument, session); note.hasConflictedNotes())
         groups.push_back(groupOf(note));
     show(invocation, groups);
-    return groups.empty() ? ExitCode::Failed : ExitCode::Done;
+    return session.exitCodeOfSearch(
+        !groups.empty(), argument ? "there is one version of the note" : "no note is in conflict");
 }
 
 ExitCode resolveConflict(const Invocation& invocation, const std::string& argument)

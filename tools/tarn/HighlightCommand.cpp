@@ -37,7 +37,10 @@ ExitCode printHighlight(const Invocation& invocation, const QueryArgument& query
             std::string(title ? "titles" : "") + (title && ocr ? ", " : "") + (ocr ? "attachments" : ""));
         writeField(output, "editor term", term);
     }
-    return pattern.empty() && term.empty() ? ExitCode::Failed : ExitCode::Done;
+    if (!pattern.empty() || !term.empty())
+        return ExitCode::Done;
+    tellOnStandardError("there is nothing to highlight: QUERY holds no word, phrase or tag that is wanted");
+    return ExitCode::Failed;
 }
 
 } // namespace

@@ -48,7 +48,7 @@ void writeLink(Output& output, const OVNoteBackLink& link, LinkEnd end)
         + output.styled(displayText(link.title().value_or("")), note ? TextStyle::Strong : TextStyle::Plain));
 }
 
-ExitCode show(const Invocation& invocation, const Links& links, LinkEnd end)
+void show(const Invocation& invocation, const Links& links, LinkEnd end)
 {
     if (invocation.json) {
         writeJSON(invocation.output, jsonOf(links, end));
@@ -56,10 +56,9 @@ ExitCode show(const Invocation& invocation, const Links& links, LinkEnd end)
         for (const OVNoteBackLink* link : links)
             writeLink(invocation.output, *link, end);
     }
-    return links.empty() ? ExitCode::Failed : ExitCode::Done;
 }
 
-ExitCode show(const Invocation& invocation, const std::vector<OVNote*>& notes)
+void show(const Invocation& invocation, const std::vector<OVNote*>& notes)
 {
     if (invocation.json) {
         writeJSON(invocation.output, jsonOfNotes(notes));
@@ -67,22 +66,25 @@ ExitCode show(const Invocation& invocation, const std::vector<OVNote*>& notes)
         for (const OVNote* note : notes)
             writeNoteLine(invocation.output, *note);
     }
-    return notes.empty() ? ExitCode::Failed : ExitCode::Done;
 }
 
 ExitCode showLinks(const Invocation& invocation, const std::string& argument)
 {
     StoreSession session(invocation, StoreSession::Access::Read);
-    Links links = noteForArgument(argument, session).linkingToSet().allObjects();
+    const OVNote& note = noteForArgument(argument, session);
+    Links links = note.linkingToSet().allObjects();
     std::ranges::sort(links, {}, &OVNoteBackLink::locationValue);
-    return show(invocation, links, &OVNoteBackLink::linkingTo);
+    show(invocation, links, &OVNoteBackLink::linkingTo);
+    return session.exitCodeOfSearch(!links.empty(), "there is no link in " + nameOfNote(note));
 }
 
 ExitCode showBacklinks(const Invocation& invocation, const std::string& argument)
 {
     StoreSession session(invocation, StoreSession::Access::Read);
     const OVNote& note = noteForArgument(argument, session);
-    return show(invocation, session.notes(NSPredicate::predicateWithFormat("ANY linkingTo.linkingTo == %@", &note)));
+    const auto notes = session.notes(NSPredicate::predicateWithFormat("ANY linkingTo.linkingTo == %@", &note));
+    show(invocation, notes);
+    return session.exitCodeOfSearch(!notes.empty(), "no note links to " + nameOfNote(note));
 }
 
 ExitCode showUnresolved(const Invocation& invocation)
@@ -94,15 +96,17 @@ ExitCode showUnresolved(const Invocation& invocation)
         const std::string rightNote = identifierOf(right->linkedBy());
         return leftNote != rightNote ? leftNote < rightNote : left->locationValue() < right->locationValue();
     });
-    return show(invocation, links, &OVNoteBackLink::linkedBy);
+    show(invocation, links, &OVNoteBackLink::linkedBy);
+    return session.exitCodeOfSearch(!links.empty(), "every link leads to a note");
 }
 
 ExitCode showOrphans(const Invocation& invocation)
 {
     StoreSession session(invocation, StoreSession::Access::Read);
-    return show(invocation,
-        session.notes(NSPredicate::predicateWithFormat(
-            "linkingTo.@count == 0 AND linkedBy.@count == 0 AND trashed == NO AND archived == NO")));
+    const auto notes = session.notes(NSPredicate::predicateWithFormat(
+        "linkingTo.@count == 0 AND linkedBy.@count == 0 AND trashed == NO AND archived == NO"));
+    show(invocation, notes);
+    return session.exitCodeOfSearch(!notes.empty(), "there is no active note without links");
 }
 
 void addLinkCommandOfNote(CommandLine& commandLine, const CommandDescription& description,

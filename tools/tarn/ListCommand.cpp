@@ -39,11 +39,7 @@ ExitCode list(const Invocation& invocation, const ListOptions& options)
         for (const OVNote* note : notes)
             writeNoteLine(invocation.output, *note);
     }
-    if (!notes.empty())
-        return ExitCode::Done;
-    if (session.exists())
-        tellOnStandardError("no notes found; 'tarn list --filter all' shows every note");
-    return ExitCode::Failed;
+    return session.exitCodeOfSearch(!notes.empty(), "no notes found; 'tarn list --filter all' shows every note");
 }
 
 } // namespace

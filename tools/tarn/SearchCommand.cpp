@@ -1,4 +1,5 @@
 #include "platform/foundation/Folding.h"
+#include "platform/foundation/UTF.h"
 #include "search/HighlightTerms.h"
 #include "search/OVNoteSearchManager.h"
 #include "tools/tarn/CommandLine.h"
@@ -69,7 +70,8 @@ std::string planOf(StoreSession& session, const NSPredicate& predicate, std::siz
     fetch.predicate = &predicate;
     fetch.sortDescriptors = order;
     fetch.limit = limit;
-    return session.store().explain(fetch);
+    const std::string plan = session.store().explain(fetch);
+    return std::string(trimmed(plan)); // its lines end with a line feed, also the last one
 }
 
 SearchResult searchNotes(StoreSession& session, const std::optional<NSPredicate>& wanted, const SearchOptions& options)
@@ -155,12 +157,10 @@ ExitCode search(const Invocation& invocation, const SearchOptions& options)
     SearchResult result = searchNotes(session, wanted, options);
     result.compileMilliseconds = compileMilliseconds;
     writeResult(invocation, result, highlightOf(options.query.text()), options);
-    if (result.count > 0)
-        return ExitCode::Done;
-    if (session.exists() && !options.countOnly)
-        tellOnStandardError(
-            options.all ? "nothing found" : "nothing found; --all looks into archive and trash as well");
-    return ExitCode::Failed;
+    if (options.countOnly)
+        return result.count > 0 ? ExitCode::Done : ExitCode::Failed;
+    return session.exitCodeOfSearch(
+        result.count > 0, options.all ? "nothing found" : "nothing found; --all looks into archive and trash as well");
 }
 
 } // namespace

@@ -101,6 +101,13 @@ void StoreSession::open(Access access)
         context_.get(), [this](const NSNotification&) { OVChange::updateChangesInInManagedObjectContext(*context_); });
 }
 
+ExitCode StoreSession::exitCodeOfSearch(bool found, std::string_view nothing) const
+{
+    if (!found && exists_)
+        tellOnStandardError(nothing);
+    return found ? ExitCode::Done : ExitCode::Failed;
+}
+
 std::vector<OVNote*> StoreSession::notes(const std::optional<NSPredicate>& predicate, std::size_t limit)
 {
     NSFetchRequest request(OVNote::entityInManagedObjectContext(*context_));

@@ -13,6 +13,7 @@
 #include <filesystem>
 #include <memory>
 #include <optional>
+#include <string_view>
 #include <vector>
 
 namespace tarn {
@@ -46,6 +47,9 @@ public:
     const std::filesystem::path& folder() const noexcept { return folder_; }
     /// Whether there is a database on disk; NO for a reading command on a folder without a store.
     bool exists() const noexcept { return exists_; }
+
+    /// How a command ends that looked for something. Tells `nothing` where it found none in a store that is there.
+    ExitCode exitCodeOfSearch(bool found, std::string_view nothing) const;
 
     /// Notes in the standard order: pinned first, then the latest modified. `limit` 0: all.
     std::vector<OVNote*> notes(const std::optional<NSPredicate>& predicate, std::size_t limit = 0);

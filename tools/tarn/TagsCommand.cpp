@@ -83,9 +83,8 @@ ExitCode showTags(const Invocation& invocation, bool all)
         writeJSON(invocation.output, jsonOf(lines));
     else
         writeTree(invocation.output, lines);
-    if (lines.empty() && session.exists())
-        tellOnStandardError("there are no tags; a #hashtag in a note makes one");
-    return lines.empty() ? ExitCode::Failed : ExitCode::Done;
+    return session.exitCodeOfSearch(!lines.empty(),
+        all ? "there are no tags; a #hashtag in a note makes one" : "no active note has a tag; --all shows every tag");
 }
 
 } // namespace
