@@ -64,6 +64,20 @@ TEST_P(NoteConflict, HoldsRootAndSecondsInTheIdentifier)
     EXPECT_EQ(a_->conflictedUUIDFromRootUUID("ROOT"), "ROOT/" + seconds + ".000124") << "later by a microsecond";
 }
 
+TEST_P(NoteConflict, IsFoundByItsRootAlsoWhereThatIsNoMember)
+{
+    b_->setConflictUniqueIdentifier(identifier(*a_) + "/1700000000.000001");
+    c_->setConflictUniqueIdentifier(identifier(*a_) + "/1700000000.000002");
+    for (const bool isSaved : {false, true}) {
+        if (isSaved)
+            save();
+        EXPECT_THAT(group(*a_), ElementsAre("C", "B"));
+        EXPECT_THAT(
+            titlesOf(OVNote::conflictedNotesForUniqueIdentifier(identifier(*a_), context())), ElementsAre("C", "B"));
+    }
+    EXPECT_THAT(OVNote::conflictedNotesForUniqueIdentifier(identifier(*b_), context()), IsEmpty());
+}
+
 TEST_P(NoteConflict, GrowsAroundTheSameRoot)
 {
     b_->markAsConflictedFromNote(*a_);

@@ -1,9 +1,12 @@
 #include "tests/support/StoreFixture.h"
 
+#include "encryption/OVEncryptionCoreManager.h"
 #include "model/OVNoteBackLink.h"
 #include "model/OVNoteGenericFile.h"
 #include "model/OVNoteImage.h"
 #include "model/OVPassword.h"
+#include "platform/foundation/NSException.h"
+#include "tests/support/TextKeeper.h"
 
 namespace tarn {
 namespace {
@@ -69,8 +72,13 @@ TEST_P(NoteMerge, IsPinnedWhenAllWere)
     OVNote& third = note("# C");
     pinned.pin();
     other.pin();
-    EXPECT_TRUE(OVNote::mergeNotes({&pinned, &other})->isPinned());
-    EXPECT_FALSE(OVNote::mergeNotes({&pinned, &third})->isPinned());
+    const NSDate before = mark();
+    const OVNote* ofPinned = OVNote::mergeNotes({&pinned, &other});
+    EXPECT_TRUE(ofPinned->isPinned());
+    EXPECT_GT(ofPinned->pinnedDate(), before);
+    const OVNote* ofBoth = OVNote::mergeNotes({&pinned, &third});
+    EXPECT_FALSE(ofBoth->isPinned());
+    EXPECT_GT(ofBoth->pinnedDate(), before) << "the date says when it was decided";
 }
 
 TEST_P(NoteMerge, TakesOverTheLinksToItsFirstNote)
@@ -128,6 +136,47 @@ TEST_P(NoteDuplicate, HasTheSameContentAndAnIdentifierOfItsOwn)
     EXPECT_EQ(copy->creationDate(), copy->modificationDate());
     EXPECT_GT(copy->creationDate(), original->modificationDate());
     static_cast<void>(target), static_cast<void>(source);
+}
+
+TEST_P(NoteDuplicate, TakesTheAttributesThatHaveAValue)
+{
+    OVNote& source = note("# A");
+    note("# A\nchanged").markAsConflictedFromNote(source);
+    source.setVersion(std::nullopt);
+    source.trash();
+    source.setConflictUniqueIdentifier("ROOT/1.000000");
+    source.archive();
+    source.setConflictUniqueIdentifier("ROOT/1.000000");
+
+    const OVNote* copy = source.duplicate();
+
+    EXPECT_EQ(copy->versionValue(), 3) << "that of a new note, where the source has none";
+    EXPECT_TRUE(copy->isArchived());
+    EXPECT_EQ(copy->archivedDate(), source.archivedDate());
+    EXPECT_EQ(copy->trashedDate(), source.trashedDate());
+    EXPECT_EQ(copy->conflictUniqueIdentifier(), "ROOT/1.000000");
+}
+
+TEST_P(NoteDuplicate, OfALockedNotePassesOnWhatIsStored)
+{
+    OVNote& source = note("# Secret\n![](a.png)");
+    OVNoteImage& attached = image(source, "a.png");
+    source.setEncryptedValue(true);
+    attached.setEncryptedValue(true);
+    source.setEncryptedData(NSData::fromText("cipher"));
+    TextKeeper keeper;
+    keeper.isLocked = true;
+    OVEncryptionCoreManager::setEncryptionCoreManager(&keeper, context());
+
+    const OVNote* copy = source.duplicate();
+
+    EXPECT_THROW(static_cast<void>(copy->text()), NSException) << "the manager is there again";
+    OVEncryptionCoreManager::setEncryptionCoreManager(nullptr, context());
+    EXPECT_TRUE(keeper.texts.empty());
+    EXPECT_EQ(copy->storedText(), source.storedText());
+    EXPECT_EQ(copy->encryptedData(), source.encryptedData());
+    ASSERT_EQ(copy->filesSet().count(), 1U);
+    EXPECT_EQ(copy->filesSet().allObjects().front()->storedFilename(), "a.png");
 }
 
 TEST_P(NoteDuplicate, SpeaksOfItselfWhereTheSourceDid)

@@ -60,6 +60,23 @@ protected:
         });
     }
 
+    /// How often a rename of the tag of so many notes, each with a link that the new name moves, asks for records by
+    /// their titles.
+    std::int64_t titleLookUpsOfARename(int noteCount)
+    {
+        const std::string name = "tag" + std::to_string(noteCount);
+        for (int number = 0; number < noteCount; ++number)
+            note("# Tagged " + std::to_string(number) + "\n\n#" + name + "/below #shared [[Hub]]");
+        reopen();
+        OVNoteTag& renamed = tag(name);
+        statistics_.take();
+        renamed.renameTagWithTagNamed("new-" + name);
+        const SQLStatistics::Counts counts = statistics_.take();
+        return std::count_if(counts.texts.begin(), counts.texts.end(), [](const std::string& text) {
+            return text.starts_with("SELECT") && text.find("\"title_folded\"") != std::string::npos;
+        });
+    }
+
     SQLStatistics statistics_;
     std::vector<std::string> names_;
     int noteCount_ = 0;
@@ -122,6 +139,15 @@ TEST_P(NoteCost, OfFindingTagsIsOneFetchForAHundredNames)
     EXPECT_EQ(tagFetches(costOfASearchForTags()), 3);
     names_.resize(200);
     EXPECT_EQ(tagFetches(costOfASearchForTags()), 2);
+}
+
+TEST_P(NoteCost, OfARenameIsOneLookUpOfATitleForAllItsNotes)
+{
+    note("# Hub");
+    titleLookUpsOfARename(1);
+    const std::int64_t ofFew = titleLookUpsOfARename(3);
+    EXPECT_GT(ofFew, 0);
+    EXPECT_EQ(titleLookUpsOfARename(40), ofFew);
 }
 
 } // namespace

@@ -47,6 +47,21 @@ TEST_P(NoteEncryption, IsThatOfTheNoteOrOfAnAttachment)
     EXPECT_FALSE(plain_->hasEncryption());
 }
 
+class UncountableAttachments : public NoteEncryption { };
+INSTANTIATE_TEST_SUITE_P(Stores, UncountableAttachments, testing::Values(StoreType::SQLite), storeName);
+
+TEST_P(UncountableAttachments, CountAsNotProtected)
+{
+    file(*plain_, "a.pdf").setEncryptedValue(true);
+    save();
+    ASSERT_TRUE(plain_->hasEncryption());
+    runSQL("ALTER TABLE \"OVNoteFile\" RENAME TO \"hidden\"");
+    EXPECT_FALSE(plain_->hasEncryption());
+    EXPECT_TRUE(protected_->hasEncryption()) << "nothing has to be counted";
+    runSQL("ALTER TABLE \"hidden\" RENAME TO \"OVNoteFile\"");
+    takeLog();
+}
+
 TEST_P(NoteEncryption, IsFoundInAnyOfSeveralNotes)
 {
     EXPECT_FALSE(OVNote::anyNoteHasEncryption({}));

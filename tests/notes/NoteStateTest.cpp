@@ -174,6 +174,26 @@ TEST_P(NoteState, AnnouncesTheFlagAlsoWhenItStaysTheSame)
     EXPECT_EQ(heard.size(), 5U);
 }
 
+TEST_P(NoteState, TellsItsTagsBeforeItsObservers)
+{
+    OVNote& note = this->note("a #one");
+    const OVNoteTag& one = tag("one");
+    NSDate before = mark();
+    int calls = 0;
+    const auto hear = [&](NSManagedObject&, std::string_view) {
+        ++calls;
+        EXPECT_GT(one.modificationDate(), before);
+    };
+    const auto trashed = note.addObserver("trashed", hear);
+    const auto archived = note.addObserver("archived", hear);
+
+    note.setTrashed(true);
+    EXPECT_EQ(calls, 1);
+    before = mark();
+    note.setArchived(true);
+    EXPECT_EQ(calls, 2);
+}
+
 TEST_P(NoteState, KeepsItsStateInTheStore)
 {
     OVNote& note = noteTitled("a");

@@ -41,6 +41,8 @@ TEST_P(NoteTextEditing, PrependsBelowATitleLineElseInFront)
         {"", "x", "x"},
         {"", "", ""},
         {"# Ä\nbody", "ö", "# Ä\nö\nbody"},
+        {"# 😀\n\nbody", "𝒜", "# 😀\n𝒜\n\nbody"},
+        {"# A\r\nbody", "x", "# A\r\nx\nbody"},
     };
     check(cases, [](OVNote& note, const std::string& addition) { note.prependNoteWithText(addition); });
 }
@@ -69,6 +71,9 @@ TEST_P(NoteTextEditing, AppendsOnLinesOfItsOwnAboveALineOfTags)
         {"# T\n\n#tag, #other", "x", "# T\n\n#tag, #other\nx"},
         {"\n\n\n", "x", "\n\n\nx"},
         {"# T\r\n\r\n#tag\r\n", "x", "# T\r\n\r\nx\n\n#tag\r\n"},
+        {"# 😀\n\n𝒜\n\n#ütag", "𝒜", "# 😀\n\n𝒜\n\n𝒜\n\n#ütag"},
+        {"\n#tag", "x", "\nx\n\n#tag"},
+        {"# T #a/b\n\n#a more", "x", "# T #a/b\n\nx\n\n#a more"},
     };
     check(cases, [](OVNote& note, const std::string& addition) { note.appendNoteWithText(addition); });
 }
@@ -112,6 +117,7 @@ TEST_P(NoteTextEditing, ReplacesAllButAHeading)
         {"# Title\nold", "new", "# Title\nnew"},
         {"## Title\nold\nolder", "new", "## Title\nnew"},
         {"### Title\n", "new", "### Title\nnew"},
+        {"# Title\r\nold", "new", "# Title\r\nnew"},
         {"#### Title\nold", "new", "\nnew"},
         {"# Title", "new", "\nnew"},
         {"Title\nold", "new", "\nnew"},

@@ -20,6 +20,9 @@ TEST_P(NoteURL, OpensANoteByItsTitle)
 {
     EXPECT_EQ(note("# Café au lait / 2").openNoteWithTitleXCallbackURLString(),
         "tarn://x-callback-url/open-note?title=Café%20au%20lait%20%2F%202");
+    EXPECT_EQ(note("# \U0001D49C\U00020BB7 \U0001F44D").openNoteWithTitleXCallbackURLString(),
+        "tarn://x-callback-url/open-note?title=\U0001D49C\U00020BB7%20%F0%9F%91%8D")
+        << "letters outside the first plane stay too";
     EXPECT_EQ(note("").openNoteWithTitleXCallbackURLString(), "tarn://x-callback-url/open-note?title=");
 }
 

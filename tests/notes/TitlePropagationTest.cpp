@@ -83,6 +83,18 @@ TEST_P(TitlePropagation, DoesNothingWhileTheTitleStays)
     EXPECT_EQ(source.vectorClock(), clock);
 }
 
+TEST_P(TitlePropagation, OnlyAttachesWaitingLinksWhereThereWasNoTitle)
+{
+    OVNote& target = note("# A");
+    OVNote& source = note("# 1\n[[A]] [[X]]");
+    target.updateLinkedByNoteForNewTitle("X", std::nullopt);
+    EXPECT_EQ(source.text(), "# 1\n[[A]] [[X]]");
+    EXPECT_EQ(target.linkedBySet().count(), 2U);
+    target.updateLinkedByNoteForNewTitle("X", "X");
+    target.updateLinkedByNoteForNewTitle(std::nullopt, std::nullopt);
+    EXPECT_EQ(source.text(), "# 1\n[[A]] [[X]]");
+}
+
 TEST_P(TitlePropagation, StandsInWithTheIdentifierForAnEmptyTitle)
 {
     OVNote& target = note("# A");

@@ -73,6 +73,24 @@ TEST_P(WikiLinks, KeepTheirRecordWhileNothingAboutThemChanges)
     EXPECT_EQ(onlyLinkOf(source), link);
 }
 
+TEST_P(WikiLinks, GetANewRecordWhileTheyLeadNowhere)
+{
+    OVNote& source = note("# S\n[[Missing]]");
+    const OVNoteBackLink* link = onlyLinkOf(source);
+    source.updateNoteWithText("# S\n[[Missing]]");
+    EXPECT_NE(onlyLinkOf(source), link);
+    EXPECT_TRUE(link->isDeleted());
+
+    OVNote& target = note("# Missing");
+    link = onlyLinkOf(source);
+    source.updateNoteWithText("# S\n[[Missing]]");
+    EXPECT_EQ(onlyLinkOf(source), link);
+    target.setTitle("Elsewhere");
+    source.updateNoteWithText("# S\n[[Missing]]");
+    EXPECT_NE(onlyLinkOf(source), link) << "its note has another title now";
+    EXPECT_THAT(linksOf(source), ElementsAre("Missing@4 -> -"));
+}
+
 TEST_P(WikiLinks, GetANewRecordWhenTheyMove)
 {
     note("# B");

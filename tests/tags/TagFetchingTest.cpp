@@ -136,5 +136,27 @@ TEST_P(NotesOfATag, AreListedInAnyOrder)
         ElementsAre("both #a #a/b", "child #a/b", "own #a"));
 }
 
+/// A store that cannot be read for a while.
+class UnreadableNotesOfATag : public NotesOfATag { };
+INSTANTIATE_TEST_SUITE_P(Stores, UnreadableNotesOfATag, testing::Values(StoreType::SQLite), storeName);
+
+TEST_P(UnreadableNotesOfATag, AreNeitherCountedNorListed)
+{
+    reopen();
+    const OVNoteTag& a = tag("a");
+    ASSERT_EQ(a.title(), "a");
+    runSQL("ALTER TABLE \"OVNote\" RENAME TO \"hidden\"");
+    EXPECT_EQ(a.untrashedNotesCount(), std::nullopt);
+    EXPECT_THAT(takeLog(), ElementsAre(testing::StartsWith("Error while fetching\n")));
+    EXPECT_THAT(a.activeNotesWithSortDescriptors({}), IsEmpty());
+    EXPECT_THAT(takeLog(), ElementsAre(testing::StartsWith("Error while fetching\n")));
+    EXPECT_THAT(a.childTagsWithSortDescriptors(), IsEmpty());
+    EXPECT_THAT(takeLog(), ElementsAre(testing::StartsWith("Error while fetching\n")));
+    EXPECT_THAT(OVNoteTag::rootTagsInManagedObjectContext(context()), IsEmpty());
+    EXPECT_THAT(takeLog(), ElementsAre(testing::StartsWith("Error while fetching\n")));
+    runSQL("ALTER TABLE \"hidden\" RENAME TO \"OVNote\"");
+    EXPECT_EQ(a.untrashedNotesCount(), 3U);
+}
+
 } // namespace
 } // namespace tarn
