@@ -203,6 +203,19 @@ void ContextCore::noteAppeared(NSManagedObject& object)
     scheduleProcessing();
 }
 
+void ContextCore::settleMergedRelationships(const std::vector<NSManagedObject*>& deleted)
+{
+    if (!std::exchange(holdsMergedRelationships, false))
+        return;
+    KeysOfEntities gone;
+    for (const NSManagedObject* record : deleted)
+        gone[&record->entity().rootEntity()].insert(record->objectID().key());
+    if (!gone.empty())
+        relationships.dropReferences(gone);
+    for (NSManagedObject* record : registry.objects())
+        relationships.forgetEndsWithoutColumn(*record);
+}
+
 void ContextCore::noteRefreshed(NSManagedObject& object)
 {
     tracker.noteRefreshed(object);
@@ -316,6 +329,7 @@ void ContextCore::rollback()
         cancelInsertion(*object);
     tracker.clearPending();
     pendingIndex.clear();
+    settleMergedRelationships({});
     fromChildren_.clear();
     publish();
     if (tracker.hasEvent())

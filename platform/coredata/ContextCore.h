@@ -36,6 +36,9 @@ public:
     std::unique_ptr<StoreTransaction> exclusiveTransaction;
     /// A save is under way; its will-save observers may change records, but not save again.
     bool isSaving = false;
+    /// Changes of other writers came in below unsaved ones: relationships may say what nobody saved, until the next
+    /// save.
+    bool holdsMergedRelationships = false;
 
     /// Set for a child: the parent, as a store.
     std::shared_ptr<NSPersistentStore> parentStore;
@@ -74,6 +77,9 @@ public:
     void noteGone(NSManagedObject& object);
     /// A record that another writer inserted is here now: observers hear of an insertion, and nothing is saved.
     void noteAppeared(NSManagedObject& object);
+    /// Nothing is unsaved any more: relationships that were changed here and elsewhere are read again at next use, and
+    /// nothing names a record that was `deleted` here while others came to name it.
+    void settleMergedRelationships(const std::vector<NSManagedObject*>& deleted);
     /// A clean record got newer values from the store.
     void noteRefreshed(NSManagedObject& object);
 

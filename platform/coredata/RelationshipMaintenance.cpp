@@ -277,6 +277,47 @@ void RelationshipMaintenance::forgetGone(NSManagedObject& record)
     }
 }
 
+void RelationshipMaintenance::dropReferences(const KeysOfEntities& gone)
+{
+    const auto namesGone = [&](const PropertyValues& values, const NSRelationshipDescription& relationship) {
+        const PropertyIndex index = relationship.index();
+        if (values.isEmpty() || !values.isLoaded(index) || values.isNil(index))
+            return false;
+        const auto keys = gone.find(&relationship.destinationEntity().rootEntity());
+        return keys != gone.end() && keys->second.contains(values.integer(index));
+    };
+    for (NSManagedObject* record : core_.registry.objects()) {
+        forgetGone(*record);
+        if (record->isFault())
+            continue;
+        RecordDetails* details = RecordAccess::detailsIfAny(*record);
+        bool isRefreshed = false;
+        for (const NSRelationshipDescription* relationship : record->entity().relationships()) {
+            if (relationship->isToMany())
+                continue;
+            if (namesGone(RecordAccess::values(*record), *relationship)) {
+                RecordAccess::values(*record).setNil(relationship->index());
+                isRefreshed = true;
+            }
+            if (details && namesGone(details->committed, *relationship))
+                details->committed.setNil(relationship->index());
+        }
+        if (isRefreshed)
+            core_.noteRefreshed(*record);
+    }
+}
+
+void RelationshipMaintenance::forgetEndsWithoutColumn(NSManagedObject& record)
+{
+    forgetStoredMembers(record);
+    if (record.isFault() || record.isDeleted())
+        return;
+    const NSEntityDescription& entity = record.entity();
+    PropertyMask rest = entity.inverseColumnMask() & ~entity.toManyMask();
+    for (; rest != 0; rest &= rest - 1)
+        RecordAccess::values(record).setUnloaded(static_cast<PropertyIndex>(std::countr_zero(rest)));
+}
+
 void RelationshipMaintenance::makeKeysPermanent(NSManagedObject& record)
 {
     PropertyValues& values = RecordAccess::values(record);

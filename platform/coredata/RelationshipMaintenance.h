@@ -2,11 +2,17 @@
 
 #include "platform/coredata/NSManagedObjectSet.h"
 
+#include <cstdint>
+#include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 namespace tarn {
 
 class ContextCore;
+
+/// Primary keys by root entity.
+using KeysOfEntities = std::unordered_map<const NSEntityDescription*, std::unordered_set<std::int64_t>>;
 
 /// Keeps both ends of every relationship in step, in memory.
 class RelationshipMaintenance {
@@ -35,12 +41,15 @@ public:
     void unload(NSManagedObject& record, const NSRelationshipDescription& relationship);
     /// Reads stored members of a record's sets again at next use; its unsaved additions and removals stay.
     void forgetStoredMembers(NSManagedObject& record);
-    /// After deletions elsewhere: what the record holds of records that are gone, is dropped.
-    void forgetGone(NSManagedObject& record);
+    /// Records that name one of these name nothing now; their rows say so already.
+    void dropReferences(const KeysOfEntities& gone);
+    /// What the record holds of relationships that other records' rows say is read again at next use.
+    void forgetEndsWithoutColumn(NSManagedObject& record);
     /// Writes permanent keys where a record's to-ones hold temporary ones.
     void makeKeysPermanent(NSManagedObject& record);
 
 private:
+    void forgetGone(NSManagedObject& record);
     void store(NSManagedObject& record, const NSRelationshipDescription& relationship, NSManagedObject* target);
     void attachInverse(NSManagedObject& target, const NSRelationshipDescription& inverse, NSManagedObject& record);
     void detachInverse(NSManagedObject& target, const NSRelationshipDescription& inverse, NSManagedObject& record);

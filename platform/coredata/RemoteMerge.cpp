@@ -12,13 +12,14 @@ namespace tarn {
 void RemoteMerge::run(const RemoteChanges& changes)
 {
     core_.assertOnQueue();
+    core_.holdsMergedRelationships = core_.holdsMergedRelationships || core_.tracker.hasChanges();
     takeRows(keysOf(changes.inserted), true);
     takeRows(knownKeys(keysOf(changes.updated)), false);
     for (const auto& [root, keys] : knownKeys(keysOf(changes.deleted)))
         for (const std::int64_t key : keys)
             remove(*root, key);
     if (!gone_.empty())
-        dropReferencesToGone();
+        core_.relationships.dropReferences(gone_);
     core_.processPendingChanges();
 }
 
@@ -118,37 +119,6 @@ void RemoteMerge::remove(const NSEntityDescription& root, std::int64_t key)
     core_.tracker.forgetPending(*record);
     core_.noteGone(*record);
     gone_[&root].insert(key);
-}
-
-/// Records that named one that is gone name nothing now; their rows say so already.
-void RemoteMerge::dropReferencesToGone()
-{
-    const auto namesGone = [&](const PropertyValues& values, const NSRelationshipDescription& relationship) {
-        const PropertyIndex index = relationship.index();
-        if (values.isEmpty() || !values.isLoaded(index) || values.isNil(index))
-            return false;
-        const auto keys = gone_.find(&relationship.destinationEntity().rootEntity());
-        return keys != gone_.end() && keys->second.contains(values.integer(index));
-    };
-    for (NSManagedObject* record : core_.registry.objects()) {
-        core_.relationships.forgetGone(*record);
-        if (record->isFault())
-            continue;
-        RecordDetails* details = RecordAccess::detailsIfAny(*record);
-        bool isRefreshed = false;
-        for (const NSRelationshipDescription* relationship : record->entity().relationships()) {
-            if (relationship->isToMany())
-                continue;
-            if (namesGone(RecordAccess::values(*record), *relationship)) {
-                RecordAccess::values(*record).setNil(relationship->index());
-                isRefreshed = true;
-            }
-            if (details && namesGone(details->committed, *relationship))
-                details->committed.setNil(relationship->index());
-        }
-        if (isRefreshed)
-            core_.noteRefreshed(*record);
-    }
 }
 
 } // namespace tarn

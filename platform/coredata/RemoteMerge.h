@@ -2,9 +2,9 @@
 
 #include "platform/coredata/NSManagedObjectContext.h"
 #include "platform/coredata/NSPersistentStore.h"
+#include "platform/coredata/RelationshipMaintenance.h"
 
 #include <unordered_map>
-#include <unordered_set>
 #include <vector>
 
 namespace tarn {
@@ -30,10 +30,9 @@ private:
     void takeRow(StoreRow row, bool isInserted);
     void take(NSManagedObject& record, StoreRow row);
     void remove(const NSEntityDescription& root, std::int64_t key);
-    void dropReferencesToGone();
 
     ContextCore& core_;
-    std::unordered_map<const NSEntityDescription*, std::unordered_set<std::int64_t>> gone_; ///< by root entity
+    KeysOfEntities gone_;
 };
 
 } // namespace tarn

@@ -62,8 +62,10 @@ bool SavePlan::run(std::unique_ptr<StoreTransaction> transaction, NSError* error
     if (core_.isSaving)
         return fail(error, StoreErrorGeneric, "A save is under way");
     core_.processPendingChanges();
-    if (!core_.tracker.hasChanges())
+    if (!core_.tracker.hasChanges()) {
+        core_.settleMergedRelationships({});
         return !transaction || transaction->commit(error);
+    }
     if (!transaction)
         transaction = core_.store().beginTransaction(error);
     if (!transaction)
@@ -271,6 +273,7 @@ void SavePlan::finish()
         }
     core_.tracker.clearPending();
     core_.pendingIndex.clear();
+    core_.settleMergedRelationships(deleted_);
     core_.publish();
     NSNotificationCenter::defaultCenter().postNotification(NSManagedObjectContextDidSaveNotification, &core_.context,
         std::any(ObjectChanges{inserted_, updated_, deleted_, {}}));

@@ -1,5 +1,6 @@
 #include "tests/contexts/RandomLibrary.h"
 
+#include "platform/foundation/Log.h"
 #include "platform/foundation/NSNotificationCenter.h"
 
 #include <algorithm>
@@ -75,10 +76,17 @@ std::string textOfRecord(const NSManagedObject& record)
 /// Two contexts on one store, as of an application and an extension: `context_` merges what `other_` saves.
 class RemoteMergeDifferential : public ContextTest {
 protected:
+    void SetUp() override
+    {
+        ContextTest::SetUp();
+        // What gives way is logged; here only the outcome counts.
+        former_ = setLogSink([](std::string_view) {});
+    }
     void TearDown() override
     {
         saved_ = NSNotificationSubscription();
         other_.reset();
+        setLogSink(former_);
         ContextTest::TearDown();
     }
 
@@ -94,6 +102,8 @@ protected:
         save();
         restart();
         other_ = contextOn(coordinator_);
+        context_->setMergePolicy(NSMergePolicy::MergeByPropertyStoreTrump);
+        other_->setMergePolicy(NSMergePolicy::MergeByPropertyStoreTrump);
         saved_ = NSNotificationCenter::defaultCenter().addObserver(
             NSManagedObjectContextDidSaveNotification, other_.get(), [this](const NSNotification& notification) {
                 const auto& changes = *notification.userInfoAs<ObjectChanges>();
@@ -135,6 +145,7 @@ protected:
     std::unique_ptr<NSManagedObjectContext> other_;
 
 private:
+    LogSink former_;
     NSNotificationSubscription saved_;
     RemoteChanges news_;
 };
@@ -155,6 +166,31 @@ TEST_P(RemoteMergeDifferential, ACleanContextShowsTheStoreAfterIt)
 
             ASSERT_FALSE(context_->hasChanges()) << "round " << round;
             ASSERT_EQ(differences(snapshotOf(*context_), snapshotOfStore()), "") << "round " << round;
+        }
+    }
+}
+
+TEST_P(RemoteMergeDifferential, AnEditedContextShowsTheStoreOnceItIsSavedOrRolledBack)
+{
+    const unsigned seeds = GetParam() == StoreType::SQLite ? 30 : 90;
+    for (unsigned seed = 101; seed <= 100 + seeds; ++seed) {
+        SCOPED_TRACE(testing::Message() << "seed " << seed);
+        RandomLibrary library(*context_, seed);
+        begin(library);
+        for (int round = 0; round < 6; ++round) {
+            snapshotOf(*context_);
+            library.setContext(*context_);
+            library.change(library.below(6));
+            saveThere(library, 1 + library.below(6));
+            merge();
+            const bool isSaved = library.below(3) != 0;
+            if (isSaved)
+                save();
+            else
+                context_->rollback();
+
+            ASSERT_EQ(differences(snapshotOf(*context_), snapshotOfStore()), "")
+                << (isSaved ? "saved" : "rolled back") << " in round " << round;
         }
     }
 }
