@@ -64,7 +64,11 @@ CommandOption CommandOption::called(const std::string& valueName) const
 
 CommandOption CommandOption::oneOf(std::vector<std::string> values) const
 {
-    option_->check(CLI::IsMember(std::move(values)));
+    option_->check([values = std::move(values)](const std::string& text) {
+        if (std::ranges::find(values, unshieldedArgument(text)) != values.end())
+            return std::string();
+        return "\"" + unshieldedArgument(text) + "\" is none of " + CLI::detail::join(values, ", ");
+    });
     return *this;
 }
 
@@ -77,7 +81,7 @@ CommandOption CommandOption::excludes(std::initializer_list<CommandOption> other
 
 CommandOption Command::addFlag(const std::string& name, bool& value, const std::string& description) const
 {
-    return CommandOption(*command_->add_flag(name, value, description));
+    return CommandOption(*command_->add_flag(name, value, description)->disable_flag_override());
 }
 
 CommandOption Command::addOption(

@@ -61,6 +61,21 @@ std::string nameOfCommand(const CLI::App& application)
     return name;
 }
 
+/// What CLI11 says of an option, in our words; it begins with the option's name.
+std::string problemOfOption(const CLI::ParseError& error)
+{
+    const std::string text = singleLine(error.what());
+    const std::string name = text.substr(0, text.find_first_of(": "));
+    if (dynamic_cast<const CLI::ArgumentMismatch*>(&error)) {
+        if (text == CLI::ArgumentMismatch::FlagOverride(name).what())
+            return "--" + name + " takes no value";
+        return name + (text.ends_with("missing") ? " needs a value" : " is given more than once");
+    }
+    if (dynamic_cast<const CLI::ExcludesError*>(&error))
+        return name + " and " + text.substr(text.rfind(' ') + 1) + " do not go together";
+    return text;
+}
+
 /// What is wrong with the arguments, and what to do.
 std::string problemOf(
     const CLI::ParseError& error, const CLI::App& application, const std::vector<std::string>& arguments)
@@ -79,7 +94,7 @@ std::string problemOf(
     if (extra.starts_with('-') && !isBehindDashes && (isMissing || isExtra))
         return "there is no option \"" + extra + "\"; what begins with \"-\" and is no option goes after \"--\""
             + advice;
-    return (isExtra ? "\"" + extra + "\" is one argument too many" : singleLine(error.what())) + advice;
+    return (isExtra ? "\"" + extra + "\" is one argument too many" : problemOfOption(error)) + advice;
 }
 
 } // namespace
@@ -100,7 +115,7 @@ CommandLine::CommandLine(Output& output)
         ->add_option(
             "--store", store_, "The folder of the store (default: $TARN_STORE, else tarn in the XDG data folder)")
         ->option_text("DIR");
-    application_->add_flag("--json", invocation_.json, "Print one JSON document");
+    application_->add_flag("--json", invocation_.json, "Print one JSON document")->disable_flag_override();
     application_->require_subcommand(1);
     application_->fallthrough();
     application_->get_formatter()->column_width(34);
