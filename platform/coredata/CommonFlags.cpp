@@ -3,6 +3,8 @@
 #include "platform/coredata/SQLText.h"
 #include "platform/coredata/SQLiteConnection.h"
 
+#include <utility>
+
 namespace tarn {
 
 namespace {

@@ -7,6 +7,7 @@
 
 #include <any>
 #include <cstdlib>
+#include <utility>
 
 namespace tarn {
 
