@@ -19,7 +19,7 @@ namespace {
 using namespace tarn;
 
 /// Notes that one import saves together; what the command line does too.
-constexpr std::size_t batchSize = 500;
+constexpr std::size_t batchSize = 2500;
 
 void report(const char* name, double seconds, const char* yardstick, double unit, double target)
 {

@@ -103,14 +103,14 @@ TEST_F(ImportCommand, TakesHostileNames)
 
 TEST_F(ImportCommand, SavesInBatchesInTheOrderOfNames)
 {
-    for (int index = 0; index < 1'101; ++index) {
+    for (int index = 0; index < 2'601; ++index) {
         std::string number = std::to_string(index);
         number.insert(0, 4 - number.size(), '0');
         file("in/" + number + ".md", "# Note " + number + "\n\n#shared/" + std::to_string(index % 10) + "\n");
     }
-    EXPECT_EQ(json({"import", folder() / "in"}).at("imported"), 1'101);
-    EXPECT_EQ(json({"list", "--tag", "shared"}).at("count"), 1'101);
-    EXPECT_EQ(json({"list", "--tag", "shared/3"}).at("count"), 110);
+    EXPECT_EQ(json({"import", folder() / "in"}).at("imported"), 2'601);
+    EXPECT_EQ(json({"list", "--tag", "shared"}).at("count"), 2'601);
+    EXPECT_EQ(json({"list", "--tag", "shared/3"}).at("count"), 260);
     EXPECT_EQ(json({"tags"}).at("tags").size(), 11U) << "one tag of each name over all batches";
     EXPECT_EQ(run({"doctor"}).exitCode, 0);
 }

@@ -11,7 +11,9 @@ namespace tarn {
 
 namespace {
 
-constexpr std::size_t kBatchNotes = 500;
+/// Identifiers are random, so that each note of a save goes to pages of its own in their indexes: the more notes, the
+/// more of them share a page that is written anyway.
+constexpr std::size_t kBatchNotes = 2500;
 constexpr std::size_t kBatchBytes = std::size_t{32} << 20;
 
 struct NoteDates {
