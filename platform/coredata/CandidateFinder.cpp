@@ -13,12 +13,6 @@ constexpr std::size_t kMostMembers = 5000;
 /// So few are checked faster than they are narrowed.
 constexpr std::size_t kFewEnough = 16;
 
-KeySetPtr noKeys()
-{
-    static const KeySetPtr none = std::make_shared<const KeySet>(std::vector<std::int64_t>());
-    return none;
-}
-
 const Value* constantOf(const Expression& expression)
 {
     const auto* constant = std::get_if<ConstantExpression>(&expression.form);

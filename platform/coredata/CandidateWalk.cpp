@@ -15,17 +15,11 @@ namespace {
 constexpr std::size_t kFirstBlock = 64;
 constexpr std::size_t kLargestBlock = 512;
 /// With fewer candidates left the second thread would come too late.
-constexpr std::size_t kWorthTwoThreads = 2000;
+constexpr std::size_t kEnoughForTwoThreads = 2000;
 /// Two threads that go through texts by key take about half as long as one that looks them up in another order.
 constexpr std::size_t kGainOfTwoThreads = 2;
 /// Hits are checked again when they are sorted; more of them than one in so many candidates would eat up the gain.
 constexpr std::size_t kFewHits = 10;
-
-const KeySetPtr& noKeys()
-{
-    static const KeySetPtr none = std::make_shared<const KeySet>(std::vector<std::int64_t>());
-    return none;
-}
 
 StoreFetch withoutBounds(StoreFetch fetch)
 {
@@ -96,7 +90,7 @@ bool CandidateWalk::isHardlyEverAHit(std::size_t tried, std::size_t hits) const 
 {
     const std::size_t count = generator_.plan().candidates->size();
     const std::size_t left = count - std::min(tried, count);
-    if (hits >= wanted_ || left < kWorthTwoThreads || (hits + 1) * kFewHits > tried)
+    if (hits >= wanted_ || left < kEnoughForTwoThreads || (hits + 1) * kFewHits > tried)
         return false;
     const std::size_t expected = (wanted_ - hits) * tried / (hits + 1);
     return kGainOfTwoThreads * expected > left;

@@ -37,6 +37,12 @@ bool KeySet::contains(std::int64_t key) const noexcept
     return ((bits_[place / 64] >> (place % 64)) & 1U) != 0;
 }
 
+const KeySetPtr& noKeys()
+{
+    static const KeySetPtr none = std::make_shared<const KeySet>(std::vector<std::int64_t>());
+    return none;
+}
+
 KeySetPtr intersection(const KeySetPtr& left, const KeySetPtr& right)
 {
     if (!left || !right)

@@ -28,6 +28,8 @@ private:
 /// Null stands for all keys.
 using KeySetPtr = std::shared_ptr<const KeySet>;
 
+/// The set without keys.
+const KeySetPtr& noKeys();
 KeySetPtr intersection(const KeySetPtr& left, const KeySetPtr& right);
 KeySetPtr unionOf(const KeySetPtr& left, const KeySetPtr& right);
 
