@@ -64,7 +64,7 @@ std::string nameOfCommand(const CLI::App& application)
 /// What CLI11 says of an option, in our words; it begins with the option's name.
 std::string problemOfOption(const CLI::ParseError& error)
 {
-    const std::string text = singleLine(error.what());
+    std::string text = singleLine(error.what());
     const std::string name = text.substr(0, text.find_first_of(": "));
     if (dynamic_cast<const CLI::ArgumentMismatch*>(&error)) {
         if (text == CLI::ArgumentMismatch::FlagOverride(name).what())
