@@ -1,5 +1,6 @@
 #include "platform/coredata/CandidateWalk.h"
 
+#include "platform/coredata/CappedSum.h"
 #include "platform/coredata/ParallelScan.h"
 #include "platform/coredata/RowLayout.h"
 #include "platform/coredata/SQLiteConnection.h"
@@ -17,7 +18,7 @@ constexpr std::size_t kLargestBlock = 512;
 /// With fewer candidates left the second thread would come too late.
 constexpr std::size_t kEnoughForTwoThreads = 2000;
 /// Two threads that go through texts by key take about half as long as one that looks them up in another order.
-constexpr std::size_t kGainOfTwoThreads = 2;
+constexpr double kGainOfTwoThreads = 2;
 /// Hits are checked again when they are sorted; more of them than one in so many candidates would eat up the gain.
 constexpr std::size_t kFewHits = 10;
 
@@ -32,7 +33,8 @@ StoreFetch withoutBounds(StoreFetch fetch)
 
 CandidateWalk::CandidateWalk(const StoreFetch& fetch, const StoreSelects& selects, const SQLGenerator& generator,
     SQLiteConnection& connection, ConnectionPool& pool)
-    : fetch_(fetch), generator_(generator), connection_(connection), pool_(pool), wanted_(fetch.offset + fetch.limit)
+    : fetch_(fetch), generator_(generator), connection_(connection), pool_(pool),
+      wanted_(cappedSum(fetch.offset, fetch.limit))
 {
     RowContents contents = fetch.contents;
     block_ = generator.withPlan(SearchPlan::Kind::CheckCandidates, noKeys()).rows(withoutBounds(fetch), contents);
@@ -92,8 +94,9 @@ bool CandidateWalk::isHardlyEverAHit(std::size_t tried, std::size_t hits) const 
     const std::size_t left = count - std::min(tried, count);
     if (hits >= wanted_ || left < kEnoughForTwoThreads || (hits + 1) * kFewHits > tried)
         return false;
-    const std::size_t expected = (wanted_ - hits) * tried / (hits + 1);
-    return kGainOfTwoThreads * expected > left;
+    const double expected
+        = static_cast<double>(wanted_ - hits) * static_cast<double>(tried) / static_cast<double>(hits + 1);
+    return kGainOfTwoThreads * expected > static_cast<double>(left);
 }
 
 std::optional<std::vector<StoreRow>> CandidateWalk::checkedOnTwoThreads()

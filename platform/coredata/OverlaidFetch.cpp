@@ -1,5 +1,6 @@
 #include "platform/coredata/OverlaidFetch.h"
 
+#include "platform/coredata/CappedSum.h"
 #include "platform/coredata/KeyPathWalk.h"
 #include "platform/coredata/PredicateKeys.h"
 #include "platform/coredata/RowOrder.h"
@@ -70,7 +71,7 @@ template <typename Ask> void OverlaidFetch::askStore(Ask&& ask) const
     StoreFetch stored = fetch_;
     stored.excludedKeys = excluded;
     stored.offset = 0;
-    stored.limit = fetch_.limit ? fetch_.offset + fetch_.limit : 0;
+    stored.limit = fetch_.limit ? cappedSum(fetch_.offset, fetch_.limit) : 0;
     // What is put among others by its values has to have them.
     if (!fetch_.sortDescriptors.empty() && stored.contents == RowContents::Keys)
         stored.contents = RowContents::Row;

@@ -1,5 +1,6 @@
 #include "platform/coredata/PendingFetch.h"
 
+#include "platform/coredata/CappedSum.h"
 #include "platform/coredata/ContextCore.h"
 #include "platform/coredata/KeyPathWalk.h"
 #include "platform/coredata/RecordAccess.h"
@@ -160,7 +161,8 @@ std::vector<NSManagedObject*> PendingFetch::merged(
             });
     }
     const std::size_t begin = std::min(request_.fetchOffset, all.size());
-    const std::size_t end = request_.fetchLimit ? std::min(begin + request_.fetchLimit, all.size()) : all.size();
+    const std::size_t end
+        = request_.fetchLimit ? std::min(cappedSum(begin, request_.fetchLimit), all.size()) : all.size();
     return {all.begin() + static_cast<std::ptrdiff_t>(begin), all.begin() + static_cast<std::ptrdiff_t>(end)};
 }
 
@@ -173,7 +175,7 @@ std::optional<std::vector<NSManagedObject*>> PendingFetch::mergedObjects(RowCont
         // Room for every stored record that may have to be dropped from the answer.
         const PendingRecords* pending = core_.tracker.pending(root_);
         const std::size_t unsure = reached_.size() + (pending ? pending->updated.size() + pending->deleted.size() : 0);
-        fetch.limit = request_.fetchOffset + request_.fetchLimit + unsure;
+        fetch.limit = cappedSum(cappedSum(request_.fetchOffset, request_.fetchLimit), unsure);
     }
     std::vector<StoreRow> rows;
     if (!core_.store().fetch(fetch, rows, error))

@@ -114,10 +114,12 @@ GeneratedSelect SQLGenerator::rows(const StoreFetch& fetch, RowContents& content
             + ".\"pk\"";
     sql += condition + order;
     if (!parts.select.remainder && (fetch.limit > 0 || fetch.offset > 0)) {
-        const std::int64_t limit = fetch.limit > 0 ? static_cast<std::int64_t>(fetch.limit) : -1;
+        // Numbers that SQLite does not have are as good as its largest.
+        constexpr std::size_t kMost = std::numeric_limits<std::int64_t>::max();
+        const std::int64_t limit = fetch.limit > 0 ? static_cast<std::int64_t>(std::min(fetch.limit, kMost)) : -1;
         sql += " LIMIT " + parts.select.text.bind(limit);
         if (fetch.offset > 0)
-            sql += " OFFSET " + parts.select.text.bind(static_cast<std::int64_t>(fetch.offset));
+            sql += " OFFSET " + parts.select.text.bind(static_cast<std::int64_t>(std::min(fetch.offset, kMost)));
     }
     parts.select.text.sql = std::move(sql);
     return std::move(parts.select);

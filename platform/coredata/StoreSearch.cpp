@@ -1,6 +1,7 @@
 #include "platform/coredata/StoreSearch.h"
 
 #include "platform/coredata/CandidateFinder.h"
+#include "platform/coredata/CappedSum.h"
 #include "platform/coredata/SQLiteConnection.h"
 
 #include <fmt/format.h>
@@ -93,7 +94,8 @@ bool isWalkCheaper(const SearchPlan& plan, const StoreFetch& fetch)
     if (!hasIndexedOrder(fetch))
         return false;
     const std::size_t count = plan.candidates->size();
-    const std::size_t met = std::min(count, kCandidatesForAHit * (fetch.offset + fetch.limit));
+    const std::size_t wanted = std::min(count, cappedSum(fetch.offset, fetch.limit));
+    const std::size_t met = std::min(count, kCandidatesForAHit * wanted);
     return plan.rowCount / count * met < kCostOfSorting * count;
 }
 

@@ -1,5 +1,7 @@
 #include "tests/contexts/ContextFixture.h"
 
+#include <limits>
+
 namespace tarn {
 namespace {
 
@@ -57,6 +59,32 @@ TEST_P(FetchWithPendingChanges, SortsAndLimitsTheMergedResult)
     EXPECT_THAT(texts(fetch(wanted), "title"), ElementsAre("new"));
     wanted.fetchOffset = 9;
     EXPECT_THAT(fetch(wanted), IsEmpty());
+}
+
+TEST_P(FetchWithPendingChanges, TakesTheLargestNumbersForAsManyAsThereAre)
+{
+    constexpr std::size_t kMost = std::numeric_limits<std::size_t>::max();
+    for (const std::int64_t pages : {10, 20, 30})
+        book("b" + std::to_string(pages), pages);
+    save();
+    NSFetchRequest wanted = request("Book", {{"pages", true}});
+    const auto expectTheSame = [&] {
+        const auto all = texts(fetch(wanted), "title");
+        for (const std::size_t limit : {kMost, kMost - 1, kMost / 2, kMost / 2 + 1}) {
+            wanted.fetchLimit = limit;
+            wanted.fetchOffset = 0;
+            EXPECT_EQ(texts(fetch(wanted), "title"), all);
+            wanted.fetchOffset = 2;
+            EXPECT_EQ(texts(fetch(wanted), "title"), std::vector(all.begin() + 2, all.end()));
+            wanted.fetchOffset = limit;
+            EXPECT_THAT(fetch(wanted), IsEmpty());
+        }
+        wanted.fetchLimit = wanted.fetchOffset = 0;
+    };
+    expectTheSame();
+    find("Book", "pages == 10").at(0)->setValueForKey("pages", Value(35));
+    book("new", 25);
+    expectTheSame();
 }
 
 TEST_P(FetchWithPendingChanges, BreaksTiesByKeyThenByInsertion)

@@ -8,6 +8,7 @@
 #include "tests/coredata/StoreFixture.h"
 
 #include <fmt/format.h>
+#include <limits>
 #include <random>
 
 namespace tarn {
@@ -422,10 +423,11 @@ TEST_P(FirstOfManyDocuments, ArePartOfAll)
     for (const Order& order : {indexed, Order{{"title", true}}, Order{}, Order{{"flag", true}, {"modified", true}}}) {
         const auto all = store().keys("Document", predicate, order);
         ASSERT_EQ(all.size(), GetParam().hits);
-        for (const std::size_t limit : {1, 9, 50, 64, 65, 700, 5000})
+        for (const std::size_t limit : {std::size_t{1}, std::size_t{9}, std::size_t{50}, std::size_t{64},
+                 std::size_t{65}, std::size_t{700}, std::size_t{5000}, std::numeric_limits<std::size_t>::max()})
             for (const std::size_t offset : {0, 3, 63, 999, 2500}) {
                 const std::size_t first = std::min(offset, all.size());
-                const std::size_t last = std::min(first + limit, all.size());
+                const std::size_t last = first + std::min(limit, all.size() - first);
                 ASSERT_EQ(store().keys("Document", predicate, order, limit, offset),
                     std::vector<std::int64_t>(all.begin() + static_cast<std::ptrdiff_t>(first),
                         all.begin() + static_cast<std::ptrdiff_t>(last)))
