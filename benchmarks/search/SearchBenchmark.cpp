@@ -26,7 +26,7 @@ using namespace tarn;
 namespace fs = std::filesystem;
 
 constexpr std::size_t kBatch = 2500; ///< notes that one import saves together, as the command line does
-constexpr std::size_t kShown = 50;  ///< what a list shows at first
+constexpr std::size_t kShown = 50;   ///< what a list shows at first
 
 [[noreturn]] void stop(const std::string& why)
 {
