@@ -10,6 +10,7 @@ namespace tarn {
 namespace {
 
 constexpr std::int64_t kMany = 2000;
+/// How often an answer is used before it is asked for again.
 constexpr int kUses = 100;
 /// A model has a few flags; what else is asked for is not worth keeping.
 constexpr std::size_t kMostAnswers = 64;

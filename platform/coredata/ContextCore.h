@@ -37,7 +37,7 @@ public:
     /// A save is under way; its will-save observers may change records, but not save again.
     bool isSaving = false;
     /// Changes of other writers came in below unsaved ones: relationships may say what nobody saved, until the next
-    /// save.
+    /// save or rollback.
     bool holdsMergedRelationships = false;
 
     /// Set for a child: the parent, as a store.

@@ -12,7 +12,9 @@ namespace tarn {
 void RemoteMerge::run(const RemoteChanges& changes)
 {
     core_.assertOnQueue();
-    core_.holdsMergedRelationships = core_.holdsMergedRelationships || core_.tracker.hasChanges();
+    const bool hasNews = !changes.inserted.empty() || !changes.updated.empty() || !changes.deleted.empty();
+    if (hasNews && core_.tracker.hasChanges())
+        core_.holdsMergedRelationships = true;
     takeRows(keysOf(changes.inserted), true);
     takeRows(knownKeys(keysOf(changes.updated)), false);
     for (const auto& [root, keys] : knownKeys(keysOf(changes.deleted)))
