@@ -3,6 +3,7 @@
 #include "corvel/CVKAST.h"
 #include "corvel/CVKWikiLink.h"
 #include "model/OVNoteBackLink.h"
+#include "platform/foundation/Folding.h"
 
 #include <algorithm>
 #include <unordered_set>
@@ -34,6 +35,16 @@ std::optional<std::string> linkedTitle(const OVNote& note, std::optional<std::st
     if (!title)
         return std::nullopt;
     return title->empty() ? note.uniqueIdentifier().value_or("") : std::string(*title);
+}
+
+/// Whether a record of the source leads to the note by a title that the note no longer has.
+bool hasOutdatedLink(const OVNote& source, const OVNote& note, std::string_view newTitle)
+{
+    const std::string key = fold(newTitle);
+    const std::vector<OVNoteBackLink*> links = source.linkingToSet().allObjects();
+    return std::ranges::any_of(links, [&](const OVNoteBackLink* link) {
+        return link->linkingTo() == &note && fold(link->title().value_or("")) != key;
+    });
 }
 
 } // namespace
@@ -93,17 +104,19 @@ void TitlePropagation::run()
         }
         OVNote* source = change.sources[change.next++];
         if (!source->isDeleted() && !source->encryptedValue())
-            rewrite(*source, *change.oldTitle, *change.newTitle);
+            rewrite(*source, change);
     }
 }
 
 /// A changed title of the source is put on top of the stack, so that its chain is followed before the next source.
-void TitlePropagation::rewrite(OVNote& source, const std::string& oldTitle, const std::string& newTitle)
+void TitlePropagation::rewrite(OVNote& source, const Change& change)
 {
-    const bool mayChangeTitleLine = guard_.allows(source, oldTitle);
+    const bool mayChangeTitleLine = guard_.allows(source, *change.oldTitle);
     const std::string text = source.text().value_or("");
-    const CVKAST document = CVKWikiLink::updateWikiLinkWithTitle(oldTitle, newTitle, !mayChangeTitleLine, text);
-    if (mayChangeTitleLine && document.markdown() == text)
+    const CVKAST document
+        = CVKWikiLink::updateWikiLinkWithTitle(*change.oldTitle, *change.newTitle, !mayChangeTitleLine, text);
+    // A link that cannot be rewritten keeps the old title in the text, so its record must not lead to the note.
+    if (mayChangeTitleLine && document.markdown() == text && !hasOutdatedLink(source, *change.note, *change.newTitle))
         return;
     beingRewritten_ = &source;
     source.updateNoteWithAST(document, false);

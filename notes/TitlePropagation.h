@@ -40,7 +40,7 @@ private:
     ~TitlePropagation();
     void add(OVNote& note, std::optional<std::string> newTitle, std::optional<std::string> oldTitle);
     void run();
-    void rewrite(OVNote& source, const std::string& oldTitle, const std::string& newTitle);
+    void rewrite(OVNote& source, const Change& change);
     static void attachWaitingLinks(OVNote& note, const std::string& title);
 
     static thread_local TitlePropagation* current_;

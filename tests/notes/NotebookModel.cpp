@@ -86,8 +86,7 @@ void NotebookModel::setLinks(Note& note, const std::vector<CVKWikiLink>& links, 
     lookUp(missing, targets);
     for (const CVKWikiLink& parsed : missing) {
         Note* target = known(parsed.decodedTitle(), targets);
-        links_.push_back(std::make_unique<Link>(
-            Link{&note, parsed.decodedTitle(), parsed.offset(), target, target ? keyOf(*target) : std::string()}));
+        links_.push_back(std::make_unique<Link>(Link{&note, parsed.decodedTitle(), parsed.offset(), target}));
     }
 }
 
@@ -124,15 +123,16 @@ void NotebookModel::followTitle(Note& note, const std::string& newTitle, std::op
             const bool can = canReplace(*source, linkedOld, visited);
             const std::string text
                 = CVKWikiLink::updateWikiLinkWithTitle(linkedOld, linkedNew, !can, source->text).markdown();
-            if (text != source->text || !can)
+            const auto isOutdated = [&](const auto& link) {
+                return link->source == source && link->target == &note && fold(link->title) != fold(linkedNew);
+            };
+            if (text != source->text || !can || std::ranges::any_of(links_, isOutdated))
                 edit(*source, text);
         }
     }
     for (const auto& link : links_) {
-        if ((!link->target || link->target->trashed) && fold(link->title) == fold(linkedNew)) {
+        if ((!link->target || link->target->trashed) && fold(link->title) == fold(linkedNew))
             link->target = &note;
-            link->titleOfTarget = keyOf(note);
-        }
     }
 }
 

@@ -21,8 +21,7 @@ public:
         Note* source;
         std::string title;
         std::size_t location;
-        Note* target;              ///< null: waits for one
-        std::string titleOfTarget; ///< folded, when it was last resolved
+        Note* target; ///< null: waits for one
     };
     struct Note {
         std::string identifier;

@@ -3,6 +3,7 @@
 #include "encryption/OVEncryptionCoreManager.h"
 #include "model/OVNoteBackLink.h"
 #include "notes/TitleLineGuard.h"
+#include "platform/foundation/Folding.h"
 #include "tests/support/TextKeeper.h"
 
 namespace tarn {
@@ -257,6 +258,58 @@ TEST_P(TitlePropagation, AttachesWaitingLinksAfterItFollowedTheOldTitle)
     EXPECT_THAT(waiting.linkedNotes(), ElementsAre(&a));
     EXPECT_THAT(source.linkedNotes(), ElementsAre(&a));
     EXPECT_THAT(trashed.linkedByNotes(), IsEmpty());
+}
+
+TEST_P(TitlePropagation, LetsALinkWaitThatCannotBeRewritten)
+{
+    struct Case {
+        std::string source;
+        std::string newTitle;
+    };
+    const std::vector<Case> cases{
+        {"#tag\n# See [[Old]]", "New"},                                       // a title line that is not the first
+        {"\n\n[[Old]] and [[old|it]]", "New"}, {"# S\n\na ` [[Old]]", "x`y"}, // it would become code
+        {"# S\n\n<a b=\"[[Old]]", "x\">y"},                                   // or HTML
+    };
+    for (const Case& one : cases) {
+        SCOPED_TRACE(one.source);
+        OVNote& target = note("# Old");
+        OVNote& source = note(one.source);
+        ASSERT_THAT(source.linkedNotes(), ElementsAre(&target));
+
+        target.updateNoteWithText("# " + one.newTitle);
+
+        EXPECT_EQ(source.text(), one.source);
+        EXPECT_THAT(source.linkedNotes(), IsEmpty()) << "its text does not name the note any more";
+        EXPECT_EQ(target.linkedBySet().count(), 0U);
+        for (const OVNoteBackLink* link : source.linkingToSet().allObjects())
+            EXPECT_EQ(fold(*link->title()), "old");
+        OVNote& heir = note("# old");
+        EXPECT_THAT(source.linkedNotes(), ElementsAre(&heir));
+        target.permanentlyDelete();
+        source.permanentlyDelete();
+        heir.permanentlyDelete();
+    }
+}
+
+TEST_P(TitlePropagation, GivesALinkThatCannotBeRewrittenToAnotherNoteOfTheOldTitle)
+{
+    OVNote& first = note("# A");
+    OVNote& second = note("# a");
+    OVNote& source = note("#tag\n# See [[A]]");
+    ASSERT_THAT(source.linkedNotes(), ElementsAre(&first));
+    first.updateNoteWithText("# B");
+    EXPECT_THAT(source.linkedNotes(), ElementsAre(&second));
+}
+
+TEST_P(TitlePropagation, LeavesANoteAloneWhoseLinkIsStillRight)
+{
+    OVNote& target = note("# cafe");
+    OVNote& source = note("#tag\n# See [[cafe]]");
+    const auto clock = source.vectorClock();
+    target.updateNoteWithText("# Café");
+    EXPECT_THAT(source.linkedNotes(), ElementsAre(&target)) << "the same title but for an accent";
+    EXPECT_EQ(source.vectorClock(), clock);
 }
 
 TEST_P(TitlePropagation, RewritesALinkToTheOldTitleInItsOwnText)
