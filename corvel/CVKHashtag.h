@@ -14,7 +14,8 @@ public:
     CVKHashtag() = delete;
 
     // Names -----------------------------------------------------------------------------------------------------------
-    /// The canonical written form of a tag path; "" when the name is unusable. Idempotent.
+    /// The canonical written form of a tag path; "" when the name is unusable. Idempotent, and the paths above a
+    /// canonical path are canonical.
     static std::string sanitizeTagName(std::string_view name);
     /// The key by which two paths are the same tag: fold(sanitizeTagName(name)).
     static std::string normalizeTagName(std::string_view name);

@@ -63,37 +63,53 @@ std::u32string withoutForbidden(const std::u32string& name)
     return kept;
 }
 
-/// Each component without blanks at its ends; empty ones go.
-std::u32string withCleanComponents(const std::u32string& name)
+std::string utf8Of(std::u32string_view codePoints)
+{
+    std::string text;
+    for (const char32_t c : codePoints)
+        appendCodePoint(text, c);
+    return text;
+}
+
+/// Whether nothing of a component is left in the key of a name: marks and format characters alone.
+bool vanishesInKey(std::u32string_view component, bool isFirst)
+{
+    constexpr char32_t kFirstMark = 0x300;
+    constexpr char32_t kSoftHyphen = 0xAD;
+    if (std::ranges::any_of(component, [](char32_t c) { return c < kFirstMark && c != kSoftHyphen; }))
+        return false;
+    // A mark is another thing behind a slash than at the start of a name.
+    return fold(isFirst ? utf8Of(component) : '/' + utf8Of(component)).size() == (isFirst ? 0U : 1U);
+}
+
+/// A component as it would be if the name ended with it, so that the path of an ancestor is a clean name as well.
+std::u32string_view cleanComponent(std::u32string_view component, bool isFirst)
+{
+    for (std::u32string_view before; before != component;) {
+        before = component;
+        while (!component.empty() && isTrimmedInFront(component.front()))
+            component.remove_prefix(1);
+        while (!component.empty() && isTrimmedBehind(component.back()))
+            component.remove_suffix(1);
+        // Two code points of which the last ends a word are no hashtag in any form.
+        if (isFirst && component.size() == 2 && isTagTerminator(component.back()))
+            component.remove_suffix(1);
+    }
+    return vanishesInKey(component, isFirst) ? std::u32string_view() : component;
+}
+
+std::u32string withCleanComponents(std::u32string_view name)
 {
     std::u32string joined;
     for (std::size_t begin = 0; begin <= name.size();) {
         const std::size_t slash = std::min(name.find(U'/', begin), name.size());
-        std::size_t first = begin;
-        std::size_t last = slash;
-        while (first < last && name[first] == U' ')
-            ++first;
-        while (last > first && name[last - 1] == U' ')
-            --last;
-        if (first < last && !joined.empty())
+        const std::u32string_view component = cleanComponent(name.substr(begin, slash - begin), joined.empty());
+        if (!component.empty() && !joined.empty())
             joined += U'/';
-        joined.append(name, first, last - first);
+        joined += component;
         begin = slash + 1;
     }
     return joined;
-}
-
-/// Slashes that come to stand at an end go at once: were each left to the next pass, a name of nothing but dots and
-/// slashes would take as many passes as it is long.
-std::u32string withCleanEnds(const std::u32string& name)
-{
-    std::size_t first = 0;
-    std::size_t last = name.size();
-    while (first < last && (isTrimmedInFront(name[first]) || name[first] == U'/'))
-        ++first;
-    while (last > first && (isTrimmedBehind(name[last - 1]) || name[last - 1] == U'/'))
-        --last;
-    return name.substr(first, last - first);
 }
 
 bool isHexDigit(char32_t c) noexcept
@@ -101,14 +117,12 @@ bool isHexDigit(char32_t c) noexcept
     return c < 0x80 && isASCIIHexDigit(static_cast<char>(c));
 }
 
-/// A colour followed by a blank, and two code points of which the last ends a word, are no hashtag in any form.
+/// A colour followed by a blank is no hashtag in any form.
 std::u32string withWritableForm(std::u32string name)
 {
     constexpr std::size_t kColor = 6;
     if (name.size() > kColor && name[kColor] == U' ' && std::all_of(name.begin(), name.begin() + kColor, isHexDigit))
         name[kColor] = U'-';
-    if (name.size() == 2 && isTagTerminator(name[1]))
-        name.pop_back();
     return name;
 }
 
@@ -117,7 +131,8 @@ bool isPlain(std::string_view name) noexcept
 {
     const auto isInner = [](char c) { return isASCIIAlphanumeric(c) || c == '-' || c == '/'; };
     return !name.empty() && name.size() <= kLongestName && std::all_of(name.begin(), name.end(), isInner)
-        && name.front() != '/' && name.back() != '/' && name.back() != '-' && name.find("//") == std::string_view::npos;
+        && name.front() != '/' && name.back() != '/' && name.back() != '-' && name.find("//") == std::string_view::npos
+        && name.find("-/") == std::string_view::npos;
 }
 
 } // namespace
@@ -129,14 +144,9 @@ std::string sanitizedTagName(std::string_view name)
     std::u32string clean = codePointsOf(name);
     for (std::u32string before; before != clean;) {
         before = clean;
-        clean = withWritableForm(withCleanEnds(withCleanComponents(withoutForbidden(before))));
+        clean = withWritableForm(withCleanComponents(withoutForbidden(before)));
     }
-    std::string result;
-    if (clean.size() > kLongestName)
-        return result;
-    for (const char32_t c : clean)
-        appendCodePoint(result, c);
-    return result;
+    return clean.size() > kLongestName ? std::string() : utf8Of(clean);
 }
 
 std::string normalizedTagName(std::string_view name)

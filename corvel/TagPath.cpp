@@ -2,6 +2,8 @@
 
 #include "corvel/TagNames.h"
 
+#include "platform/foundation/Folding.h"
+
 #include <algorithm>
 
 namespace tarn::corvel {
@@ -10,10 +12,9 @@ TagPath::TagPath(std::string_view name) : key_(normalizedTagName(name)) { }
 
 std::optional<std::string> TagPath::tailOf(std::string_view path) const
 {
-    // Each ancestor is looked at as the tag that it makes: the path 'a-/b' lies below the tag 'a'.
     for (std::size_t end = 0; end < path.size();) {
         end = std::min(path.find('/', end + 1), path.size());
-        if (normalizedTagName(path.substr(0, end)) == key_)
+        if (fold(path.substr(0, end)) == key_)
             return std::string(path.substr(end));
     }
     return std::nullopt;

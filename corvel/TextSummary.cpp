@@ -123,7 +123,7 @@ public:
     void add(const std::string& path)
     {
         for (std::size_t slash = path.find('/'); slash != std::string::npos; slash = path.find('/', slash + 1))
-            add(sanitizedTagName(std::string_view(path).substr(0, slash)), Spelling::Derived);
+            add(path.substr(0, slash), Spelling::Derived);
         add(path, Spelling::Written);
     }
     std::vector<std::string> take() { return std::move(tags_); }

@@ -54,6 +54,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     const std::string clean = CVKHashtag::sanitizeTagName(name);
     require(CVKHashtag::sanitizeTagName(clean) == clean);
+    for (std::size_t slash = clean.find('/'); slash != std::string::npos; slash = clean.find('/', slash + 1))
+        require(CVKHashtag::sanitizeTagName(clean.substr(0, slash)) == clean.substr(0, slash));
 
     const CVKAST before = CVKAST::fromMarkdown(std::string_view(text));
     requireOneTagMore(before, CVKHashtag::addTagNameToTheTopOfString(name, text), name);

@@ -33,7 +33,7 @@ TEST_P(TagCreation, SanitizesTheNameAndKnowsRoots)
 
 TEST_P(TagCreation, MakesNothingOfAnUnusableName)
 {
-    for (const std::string_view name : {"", "***", " / ", "#"}) {
+    for (const std::string_view name : {"", "***", " / ", "#", "\u00AD", "./?"}) {
         EXPECT_EQ(OVNoteTag::addNewTagWithName(name, context()), nullptr) << name;
         EXPECT_EQ(OVNoteTag::getOrCreateTagWithName(name, context()), nullptr) << name;
     }

@@ -1,5 +1,10 @@
 #include "tests/support/StoreFixture.h"
 
+#include "platform/foundation/Folding.h"
+
+#include <array>
+#include <random>
+
 namespace tarn {
 namespace {
 
@@ -70,6 +75,38 @@ TEST_P(TagHierarchy, FindsFatherAndRootByTheirNames)
     EXPECT_EQ(father.fatherTag(), &root);
     EXPECT_EQ(root.fatherTag(), nullptr);
     EXPECT_EQ(root.rootFatherTag(), nullptr) << "a root has no root above it";
+}
+
+TEST_P(TagHierarchy, HasEveryAncestorOfATagThatATextNames)
+{
+    constexpr std::array<std::string_view, 17> pieces{
+        "a", "Bc", "Ä", "/", "/", "/", "-", ".", "?", ")", "(", "*", " ", "facade", "\u00AD", "\u0301", "!"};
+    constexpr unsigned seed = 4711;
+    std::mt19937 random(seed);
+    const auto below = [&random](std::size_t bound) { return static_cast<std::size_t>(random() % bound); };
+    for (int number = 0; number < 300 && !HasFailure(); ++number) {
+        std::string name;
+        for (std::size_t count = 1 + below(9); count > 0; --count)
+            name += pieces[below(pieces.size())];
+        SCOPED_TRACE("seed " + std::to_string(seed) + ": #" + name + "#");
+        OVNote& tagged = note("text #" + name + "#");
+        for (OVNoteTag* tag : tagged.tagsSet().allObjects()) {
+            EXPECT_EQ(tag->isRootValue(), tag->tagComponents().size() == 1);
+            EXPECT_EQ(tag->normalizedTitle(), fold(*tag->title()));
+            EXPECT_NE(tag->normalizedTitle(), "");
+            if (!tag->fatherTagName())
+                continue;
+            OVNoteTag* father = tag->fatherTag();
+            ASSERT_NE(father, nullptr) << *tag->title();
+            EXPECT_TRUE(tag->isChildOfTag(*father));
+            EXPECT_TRUE(tagged.tagsSet().containsObject(*father)) << *father->title();
+            EXPECT_EQ(father->normalizedTitle(), tag->normalizedFatherTagName());
+            ASSERT_NE(tag->rootFatherTag(), nullptr);
+            EXPECT_TRUE(tagged.tagsSet().containsObject(*tag->rootFatherTag()));
+        }
+        tagged.permanentlyDelete();
+        OVNoteTag::deleteAllUnusedTagsInManagedObjectContext(context());
+    }
 }
 
 TEST_P(TagHierarchy, TellsChildrenFromDescendants)
