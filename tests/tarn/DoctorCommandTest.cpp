@@ -1,5 +1,7 @@
 #include "tests/tarn/TarnCommandTest.h"
 
+#include <gmock/gmock.h>
+
 namespace tarn::test {
 
 using DoctorCommand = TarnCommandTest;
@@ -82,6 +84,25 @@ TEST_F(DoctorCommand, FindsAndRepairsLinksThatAreNotWhatTheTextSays)
     }
 }
 
+TEST_F(DoctorCommand, FindsAndRepairsLinksThatLeadToANoteOfAnotherTitle)
+{
+    const std::string target = note("# Target");
+    note("# Other");
+    const std::string untitled = note("");
+    note("# Source\n\n[[Target]] [[" + untitled + "]]");
+    EXPECT_EQ(run({"doctor"}).exitCode, 0) << "a note without title is linked by its identifier";
+    for (const std::string title : {"Other", "Source"}) {
+        damage("UPDATE OVNoteBackLink SET linkingTo = (SELECT pk FROM OVNote WHERE title = '" + title
+            + "') WHERE title = 'Target'");
+        const nlohmann::json report = json({"doctor"});
+        for (const auto& check : report.at("checks"))
+            EXPECT_EQ(check.at("found"), check.at("name") == "links" ? 1 : 0) << check;
+        EXPECT_EQ(run({"doctor", "--repair"}).exitCode, 0);
+        EXPECT_EQ(json({"links", "Source"}).at("links").at(0).at("note"), target);
+        EXPECT_EQ(run({"doctor"}).exitCode, 0);
+    }
+}
+
 TEST_F(DoctorCommand, RepairsATitleWithoutRewritingLinks)
 {
     note("# Target");
@@ -101,6 +122,54 @@ TEST_F(DoctorCommand, FindsTagsThatNoTextNames)
     EXPECT_NE(found.output.find("#b: no text names it"), std::string::npos) << found.output;
     EXPECT_EQ(run({"doctor", "--repair"}).exitCode, 0);
     EXPECT_EQ(json({"show", "One"}).at("tags"), nlohmann::json::array({"a"}));
+}
+
+TEST_F(DoctorCommand, FindsAndMendsTagsOfNamesThatNoTextCanGive)
+{
+    note("# One\n\n#Miller & Co./Bills# #x-/y#");
+    EXPECT_EQ(run({"doctor"}).exitCode, 0);
+    // As a version left them that trimmed whole names only.
+    damage("UPDATE OVNoteTag SET title = 'Miller & Co./Bills', tagcon = 'receipt' WHERE title = 'Miller & Co/Bills'");
+    damage("UPDATE OVNoteTag SET title = 'x-/y' WHERE title = 'x/y'");
+    note("# Two\n\n#x/y"); // makes the tag once more
+    damage("UPDATE OVNote SET encrypted = 1 WHERE title = 'One'");
+    damage("DELETE FROM OVNote_tags WHERE member = (SELECT pk FROM OVNoteTag WHERE title = 'x')");
+
+    const nlohmann::json found = json({"doctor"});
+    for (const auto& check : found.at("checks")) {
+        if (check.at("name") == "tags") {
+            EXPECT_THAT(check.at("problems"),
+                testing::IsSupersetOf({"#Miller & Co./Bills: no text can give a tag this name",
+                    "#x-/y: no text can give a tag this name"}));
+        }
+        EXPECT_EQ(check.at("ok"), check.at("name") != "tags" && check.at("name") != "noteTags") << check;
+    }
+    EXPECT_EQ(run({"doctor", "--repair"}).exitCode, 0);
+    EXPECT_EQ(run({"doctor"}).exitCode, 0);
+    const nlohmann::json tags = json({"tags", "--all"}).at("tags");
+    std::vector<std::string> titles;
+    for (const auto& tag : tags)
+        titles.push_back(tag.at("title"));
+    EXPECT_THAT(titles, testing::ElementsAre("Miller & Co", "Miller & Co/Bills", "x", "x/y"));
+    EXPECT_THAT(json({"show", "One"}).at("tags"), testing::SizeIs(4)) << "a protected note gets them as well";
+    EXPECT_THAT(json({"show", "Two"}).at("tags"), testing::SizeIs(2));
+    EXPECT_EQ(stored("SELECT tagcon FROM OVNoteTag WHERE title = 'Miller & Co/Bills'"), "receipt");
+}
+
+TEST_F(DoctorCommand, MakesOneTagOfTwoOfOneName)
+{
+    note("# One\n\n#a");
+    note("# Two\n\n#b");
+    damage("UPDATE OVNoteTag SET title = 'A', title_folded = 'a', tagcon = 'star', pinned = 1 WHERE title = 'b'");
+    damage("UPDATE OVNote_large SET text = replace(text, '#b', '#A')");
+    const TarnResult found = run({"doctor"});
+    EXPECT_NE(found.output.find(": there are two such tags"), std::string::npos) << found.output;
+    const TarnResult repaired = run({"doctor", "--repair"});
+    EXPECT_EQ(repaired.exitCode, 0) << repaired.output;
+    EXPECT_NE(repaired.output.find("\nmended 1 tag\n"), std::string::npos) << repaired.output;
+    EXPECT_EQ(stored("SELECT count(*) FROM OVNoteTag"), "1");
+    EXPECT_EQ(stored("SELECT tagcon || pinned FROM OVNoteTag"), "star1");
+    EXPECT_EQ(json({"tags"}).at("tags").at(0).at("count"), 2);
 }
 
 TEST_F(DoctorCommand, EntersTextsInTheSearchIndexThatItDoesNotHave)

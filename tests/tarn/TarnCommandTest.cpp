@@ -73,6 +73,21 @@ void TarnCommandTest::damage(const std::string& sql) const
     sqlite3_close(connection);
 }
 
+std::string TarnCommandTest::stored(const std::string& sql) const
+{
+    std::string value;
+    const auto take = [](void* result, int count, char** values, char**) {
+        if (count > 0 && values[0])
+            *static_cast<std::string*>(result) = values[0];
+        return 0;
+    };
+    sqlite3* connection = nullptr;
+    EXPECT_EQ(sqlite3_open(database().c_str(), &connection), SQLITE_OK);
+    EXPECT_EQ(sqlite3_exec(connection, sql.c_str(), take, &value, nullptr), SQLITE_OK) << sqlite3_errmsg(connection);
+    sqlite3_close(connection);
+    return value;
+}
+
 std::vector<std::string> keysOf(const nlohmann::ordered_json& object)
 {
     std::vector<std::string> keys;

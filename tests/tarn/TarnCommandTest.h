@@ -35,6 +35,8 @@ protected:
     std::filesystem::path file(const std::string& name, std::string_view contents) const;
     /// Runs SQL on the database, for damage that no program would do.
     void damage(const std::string& sql) const;
+    /// The one value that a query of the database gives, as text.
+    std::string stored(const std::string& sql) const;
 
 private:
     std::filesystem::path folder_;

@@ -125,4 +125,9 @@ std::string singleLine(std::string text)
     return text;
 }
 
+std::string numbered(std::size_t count, std::string_view thing)
+{
+    return std::to_string(count) + ' ' + std::string(thing) + (count == 1 ? "" : "s");
+}
+
 } // namespace tarn

@@ -22,4 +22,7 @@ std::string textPaddedToWidth(std::string_view text, std::size_t width);
 /// A message of another library as a part of one line: without its line ends and its full stop.
 std::string singleLine(std::string text);
 
+/// "1 note", "2 notes".
+std::string numbered(std::size_t count, std::string_view thing);
+
 } // namespace tarn

@@ -7,6 +7,7 @@
 #include "model/OVNoteImage.h"
 #include "platform/foundation/Folding.h"
 #include "tools/tarn/CommandFailure.h"
+#include "tools/tarn/TagRepair.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -63,6 +64,20 @@ LinkPlaces placesOfRecords(const OVNote& note)
     for (const OVNoteBackLink* link : note.linkingToSet().allObjects())
         places.emplace(link->locationValue(), fold(link->title().value_or("")));
     return places;
+}
+
+/// Whether each link that leads somewhere leads to a note of the title that it names.
+bool targetsHaveTheirTitles(const OVNote& note)
+{
+    const std::vector<OVNoteBackLink*> links = note.linkingToSet().allObjects();
+    return std::ranges::all_of(links, [](const OVNoteBackLink* link) {
+        const OVNote* target = link->linkingTo();
+        if (!target)
+            return true;
+        const std::string title = target->title().value_or("");
+        const std::string linked = title.empty() ? target->uniqueIdentifier().value_or("") : title;
+        return fold(linked) == fold(link->title().value_or(""));
+    });
 }
 
 struct AttachmentFlags {
@@ -150,8 +165,11 @@ void Doctor::examineNotes()
 
 void Doctor::examineNote(const OVNote& note)
 {
-    if (note.encryptedValue())
+    if (note.encryptedValue()) {
+        if (!hasTagsAbove(note))
+            report(NoteTags, nameOf(note) + ": it does not have every tag above its tags");
         return;
+    }
     const CVKAST document = CVKAST::fromMarkdown(note.text().value_or(""));
     const CVKTextSummary& summary = document.textSummary();
     const std::set<std::string> keys = keysOf(summary.tags);
@@ -177,6 +195,7 @@ void Doctor::examineNote(const OVNote& note)
     check(Flags, note.hasFilesValue() == attachments.files, "the flag for files");
     check(NoteTags, tagKeysOf(note) == keys, "the set of tags");
     check(Links, placesOfRecords(note) == placesOf(summary.wikiLinks), "the set of links");
+    check(Links, targetsHaveTheirTitles(note), "where a link leads");
     if (!sound)
         notesToRepair_.push_back(note.uniqueIdentifier().value_or(""));
 }
@@ -198,6 +217,10 @@ void Doctor::examineTags()
         if (!keysOfTags.contains(key))
             report(Tags, "#" + key + ": a text names it, but no tag with notes is so called");
     }
+    for (const OVNoteTag* tag : session_.tags(std::nullopt)) {
+        if (!hasCanonicalTitle(*tag))
+            report(Tags, "#" + tag->title().value_or("") + ": no text can give a tag this name");
+    }
     session_.context().reset();
 }
 
@@ -213,6 +236,14 @@ void deriveAnew(OVNote& note)
 }
 
 } // namespace
+
+std::size_t Doctor::repairTags()
+{
+    const std::size_t mended = TagRepair(session_).run();
+    session_.save();
+    session_.context().reset();
+    return mended;
+}
 
 std::size_t Doctor::repair()
 {

@@ -23,8 +23,9 @@ struct DoctorCheck {
 ///
 /// Names of checks: `integrity` (the file), `searchIndex` (whether searches find what the texts hold), `title`,
 /// `subtitle`, `todos`, `flags`, `noteTags` (fields of each note against a fresh parse of its text), `links` (titles
-/// and places of its wiki links, likewise), `tags` (tags with notes against the hashtags of all texts). Protected notes
-/// are left out where their text is needed.
+/// and places of its wiki links, likewise, and the titles of the notes that they lead to), `tags` (tags with notes
+/// against the hashtags of all texts, and the names of all tags). Protected notes are left out where their text is
+/// needed.
 class Doctor {
 public:
     explicit Doctor(StoreSession& session);
@@ -33,6 +34,9 @@ public:
     std::vector<DoctorCheck> examine();
     /// Whether the file itself is damaged; after `examine`.
     bool fileIsDamaged() const noexcept;
+    /// Gives tags the names that texts can give them. Returns how many tags were mended; before `repair`, which gives
+    /// notes their tags.
+    std::size_t repairTags();
     /// Derives the notes whose fields were found wrong anew. Their modification dates stay, and so do all texts.
     /// Returns how many.
     std::size_t repair();

@@ -15,7 +15,8 @@ namespace {
 /// What the doctor has to say.
 struct Diagnosis {
     std::vector<DoctorCheck> checks;
-    std::size_t repaired = 0;
+    std::size_t repaired = 0; ///< notes
+    std::size_t mendedTags = 0;
     std::size_t indexed = 0; ///< texts that the search index did not have, or had wrongly
     ExitCode code = ExitCode::Done;
 };
@@ -30,9 +31,10 @@ Diagnosis diagnose(const Invocation& invocation, bool repair)
     diagnosis.checks = doctor.examine();
     // A damaged file is not written to: that could make it worse.
     if (repair && !doctor.fileIsDamaged()) {
+        diagnosis.mendedTags = doctor.repairTags();
         diagnosis.repaired = doctor.repair();
         diagnosis.indexed = doctor.repairSearchIndex();
-        if (diagnosis.repaired + diagnosis.indexed > 0)
+        if (diagnosis.repaired + diagnosis.mendedTags + diagnosis.indexed > 0)
             diagnosis.checks = doctor.examine();
     }
     if (doctor.fileIsDamaged())
@@ -47,6 +49,7 @@ Diagnosis diagnosisOfFailure(const CommandFailure& failure)
 {
     return {.checks = {{.name = "integrity", .found = 1, .problems = {failure.what()}}},
         .repaired = 0,
+        .mendedTags = 0,
         .indexed = 0,
         .code = failure.code()};
 }
@@ -66,6 +69,7 @@ JSON jsonOf(const Diagnosis& diagnosis, bool repair)
     document["checks"] = std::move(checks);
     if (repair) {
         document["repaired"] = diagnosis.repaired;
+        document["mendedTags"] = diagnosis.mendedTags;
         document["indexed"] = diagnosis.indexed;
     }
     return document;
@@ -83,11 +87,11 @@ void writeDiagnosis(Output& output, const Diagnosis& diagnosis, bool repair)
             output.writeLine("    and " + std::to_string(check.found - check.problems.size()) + " more");
     }
     if (repair)
-        output.writeLine(
-            "repaired " + std::to_string(diagnosis.repaired) + (diagnosis.repaired == 1 ? " note" : " notes"));
+        output.writeLine("repaired " + numbered(diagnosis.repaired, "note"));
+    if (diagnosis.mendedTags > 0)
+        output.writeLine("mended " + numbered(diagnosis.mendedTags, "tag"));
     if (diagnosis.indexed > 0)
-        output.writeLine("entered " + std::to_string(diagnosis.indexed) + (diagnosis.indexed == 1 ? " text" : " texts")
-            + " in the search index");
+        output.writeLine("entered " + numbered(diagnosis.indexed, "text") + " in the search index");
 }
 
 ExitCode examine(const Invocation& invocation, bool repair)

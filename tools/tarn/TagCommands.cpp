@@ -21,11 +21,6 @@ struct TagArguments {
     bool top = false;
 };
 
-std::string numbered(std::size_t count, const std::string& thing)
-{
-    return std::to_string(count) + " " + thing + (count == 1 ? "" : "s");
-}
-
 /// What a command did: the title of the tag now, and how many notes were rewritten.
 void report(const Invocation& invocation, const std::string& tag, std::size_t notes)
 {
