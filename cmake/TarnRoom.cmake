@@ -75,7 +75,7 @@ function(tarn_room target)
     $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>
     $<BUILD_INTERFACE:${PROJECT_BINARY_DIR}/generated>)
   # Libraries of headers alone matter while a room is built, not to those who link it.
-  list(TRANSFORM ROOM_PRIVATE REPLACE "^(tarn_asio|nlohmann_json::nlohmann_json)$" "$<BUILD_INTERFACE:\\1>")
+  list(TRANSFORM ROOM_PRIVATE REPLACE "^(nlohmann_json::nlohmann_json)$" "$<BUILD_INTERFACE:\\1>")
   target_link_libraries(${target}
     PUBLIC ${ROOM_PUBLIC}
     PRIVATE ${ROOM_PRIVATE} $<BUILD_INTERFACE:tarn_build_flags>)

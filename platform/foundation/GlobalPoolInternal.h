@@ -1,9 +1,9 @@
 #pragma once
 
-#include <asio/post.hpp>
-#include <asio/strand.hpp>
-#include <asio/thread_pool.hpp>
+#include "platform/foundation/QueueInternal.h"
 
+#include <condition_variable>
+#include <deque>
 #include <memory>
 #include <mutex>
 #include <thread>
@@ -11,56 +11,77 @@
 
 namespace tarn {
 
-class MainQueueState;
-
 /// The threads under the global queue and all serial queues.
 ///
-/// A thread that waits in a `sync` is made up for by another one, so that what it waits for finds a thread.
+/// A thread is made when there is work for it. One that waits in a `sync` is made up for by another, so that what it
+/// waits for finds a thread. Where the system gives no thread at all, who waits does what it waits for itself, and the
+/// main queue does the rest in its passes: less at once, but all of it.
 class GlobalPool {
 public:
-    using Executor = asio::thread_pool::executor_type;
-
     /// Never destroyed; when the process ends it works off what is queued and takes nothing more.
     static GlobalPool& shared();
 
-    Executor executor() noexcept { return pool_.get_executor(); }
-    /// Closes this main queue before the last tasks run, since nobody drains it then.
-    void closeWhenProcessEnds(std::weak_ptr<MainQueueState> queue);
+    /// Queues the task for a thread; it should not throw. False, and it is dropped, once the pool is closed. What the
+    /// call throws was not queued. Follow it by `passOnShortage`, holding no lock.
+    bool post(Task task);
+    /// Turns to those who wait, and to the main queue, when there is work and no thread for it. Logs the first time
+    /// that one could not be made.
+    void passOnShortage() noexcept;
+    /// Whether a thread is there for what is queued, if need be one made now.
+    bool hasThread();
+
+    /// This main queue takes over when there is no thread. It is closed before the last tasks of the process run, since
+    /// nobody drains it then.
+    void setMainQueue(std::weak_ptr<MainQueueState> queue);
     /// Once it is true nothing may be posted any more.
     bool isClosed() const;
 
-    /// Marks a thread as one that runs a task of the pool.
-    class WorkingThreadScope {
+    /// Starts a thread that does this work, or throws.
+    using ThreadStarter = std::function<std::thread(Task work)>;
+    /// For tests; before the first task.
+    void setThreadStarter(ThreadStarter starter);
+
+    /// Says that the calling thread waits, and that it wants to hear of it when there is no thread.
+    class WaitScope {
     public:
-        WorkingThreadScope() noexcept;
-        ~WorkingThreadScope();
-        WorkingThreadScope(const WorkingThreadScope&) = delete;
-        WorkingThreadScope& operator=(const WorkingThreadScope&) = delete;
-    };
-    /// Says that the calling thread waits; means something on threads of the pool only.
-    class BlockedThreadScope {
-    public:
-        BlockedThreadScope();
-        ~BlockedThreadScope();
-        BlockedThreadScope(const BlockedThreadScope&) = delete;
-        BlockedThreadScope& operator=(const BlockedThreadScope&) = delete;
+        explicit WaitScope(std::shared_ptr<ThreadParking> parking);
+        ~WaitScope();
+        WaitScope(const WaitScope&) = delete;
+        WaitScope& operator=(const WaitScope&) = delete;
 
     private:
-        const bool isWorkingThread_;
+        const std::shared_ptr<ThreadParking> parking_;
+        const bool blocksThread_;
     };
 
 private:
+    using Lock = std::unique_lock<std::mutex>;
+
     GlobalPool();
-    void threadBlocks();
-    void threadGoesOn();
+    std::size_t freeThreads() const noexcept { return livingThreads_ - blockedThreads_; }
+    bool isShort() const noexcept { return !tasks_.empty() && freeThreads() == 0; }
+    bool wantsThread() const noexcept;
+    void makeThreadIfWanted() noexcept;
+    void work();
+    void runOldest(Lock& lock);
+    void runOnMainQueue();
     void finish();
 
     const std::size_t wantedThreads_;
-    asio::thread_pool pool_;
     mutable std::mutex mutex_;
-    std::vector<std::thread> extraThreads_;
+    std::condition_variable workCame_;
+    std::deque<Task> tasks_;
+    std::vector<std::thread> threads_;
+    std::size_t livingThreads_ = 0; ///< those that have not left `work`
+    std::size_t idleThreads_ = 0;
     std::size_t blockedThreads_ = 0;
+    std::vector<std::shared_ptr<ThreadParking>> waiting_;
     std::weak_ptr<MainQueueState> mainQueue_;
+    ThreadStarter startThread_;
+    bool isMainQueueAsked_ = false;
+    bool hasFailed_ = false; ///< a thread was wanted and could not be made
+    bool isFailureLogged_ = false;
+    bool isEnding_ = false;
     bool isClosed_ = false;
 };
 

@@ -48,17 +48,21 @@ GlobalQueue& GlobalQueue::shared()
 void GlobalQueue::async(Task task)
 {
     GlobalPool& pool = GlobalPool::shared();
-    if (pool.isClosed())
-        return;
-    asio::post(pool.executor(), [this, task = std::move(task)] {
-        const GlobalPool::WorkingThreadScope working;
-        runTask(*this, task);
-    });
+    pool.post([this, task = std::move(task)] { runTask(*this, task); });
+    pool.passOnShortage();
 }
 
 void GlobalQueue::enqueueAwaited(Task task)
 {
     async(std::move(task));
+}
+
+bool GlobalQueue::workOff(const Task& awaited)
+{
+    if (GlobalPool::shared().hasThread())
+        return false;
+    runTask(*this, awaited);
+    return true;
 }
 
 bool GlobalQueue::isCurrent() const noexcept

@@ -40,7 +40,7 @@ MainQueue& MainQueue::main()
     // Never destroyed, only closed when the process ends: threads may still ask for it then.
     static auto* const queue = [] {
         auto* const made = new MainQueue("main");
-        GlobalPool::shared().closeWhenProcessEnds(made->state_);
+        GlobalPool::shared().setMainQueue(made->state_);
         return made;
     }();
     return *queue;

@@ -18,7 +18,7 @@ class MainQueueState : public std::enable_shared_from_this<MainQueueState> {
 public:
     explicit MainQueueState(MainQueue& queue);
 
-    bool isOwnedByThisThread() const noexcept { return parking_ == ThreadParking::ofThisThread(); }
+    bool isOwnedByThisThread() const noexcept { return parking_.get() == ThreadParking::existing(); }
     ThreadParking& parking() noexcept { return *parking_; }
     /// Null once the queue has ended.
     MainQueue* queue() const;

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <thread>
 #include <utility>
 
 namespace tarn {
@@ -18,7 +19,11 @@ namespace {
 
 thread_local Queue* queueOfThisThread = nullptr;
 
+thread_local ThreadParking* parkingOfThisThread = nullptr;
+
 std::atomic<std::int64_t> syncWarningMilliseconds = 5'000;
+
+constexpr std::chrono::milliseconds kPatienceWithoutMemory(10);
 
 /// One `sync` under way: what to run, and who waits for it.
 class AwaitedCall {
@@ -27,7 +32,7 @@ public:
     /// The queue ended before the task could run.
     void abandon()
     {
-        if (isDone())
+        if (isBegun_.exchange(true))
             return;
         failure_ = std::make_exception_ptr(NSException(
             NSInternalInconsistencyException, fmt::format("The queue \"{}\" ended before it ran a task.", label_)));
@@ -35,6 +40,8 @@ public:
     }
     void run()
     {
+        if (isBegun_.exchange(true))
+            return; // who waits for it ran it
         try {
             task_();
         } catch (...) {
@@ -42,15 +49,15 @@ public:
         }
         finish();
     }
-    void wait()
+    /// `workOff` does of it what this thread can.
+    void wait(const std::function<bool()>& workOff)
     {
         auto deadline = std::chrono::steady_clock::now() + std::chrono::milliseconds(syncWarningMilliseconds);
         bool warned = false;
-        for (;;) {
+        while (!isDone()) {
             const std::uint64_t seen = parking_->pokes();
-            serveAwaitedTasksOfThisThread();
-            if (isDone())
-                break;
+            if (helped(workOff))
+                continue;
             if (warned)
                 parking_->sleep(seen);
             else if (!parking_->sleepUntil(deadline, seen))
@@ -61,6 +68,18 @@ public:
     }
 
 private:
+    /// Does what others wait for, and what this call waits for; whether to look again at once. Nothing may end the wait
+    /// before the task has run, since the task is the caller's.
+    bool helped(const std::function<bool()>& workOff) const noexcept
+    {
+        try {
+            serveAwaitedTasksOfThisThread();
+            return isDone() || workOff();
+        } catch (...) {
+            std::this_thread::sleep_for(kPatienceWithoutMemory);
+            return true;
+        }
+    }
     bool isDone() const noexcept { return done_.load(std::memory_order_acquire); }
     void finish()
     {
@@ -68,11 +87,15 @@ private:
         done_.store(true, std::memory_order_release);
         parking->poke();
     }
-    bool warn() const
+    bool warn() const noexcept
     {
-        const Queue* waiting = Queue::current();
-        logMessage(fmt::format("The queue \"{}\" is still waiting for the queue \"{}\".",
-            waiting ? waiting->label() : std::string("(a thread of its own)"), label_));
+        try {
+            const Queue* waiting = Queue::current();
+            logMessage(fmt::format("The queue \"{}\" is still waiting for the queue \"{}\".",
+                waiting ? waiting->label() : std::string("(a thread of its own)"), label_));
+        } catch (...) {
+            logFailure("A queue is still waiting for another one.");
+        }
         return true;
     }
 
@@ -80,6 +103,7 @@ private:
     const std::string label_;
     const std::shared_ptr<ThreadParking> parking_ = ThreadParking::ofThisThread();
     std::exception_ptr failure_;
+    std::atomic<bool> isBegun_ = false;
     std::atomic<bool> done_ = false;
 };
 
@@ -107,11 +131,8 @@ Queue* Queue::current() noexcept
 {
     if (queueOfThisThread)
         return queueOfThisThread;
-    for (const auto& state : ThreadParking::ofThisThread()->mainQueues()) {
-        if (MainQueue* const queue = state->queue())
-            return queue;
-    }
-    return nullptr;
+    const ThreadParking* const parking = ThreadParking::existing();
+    return parking ? parking->firstMainQueue() : nullptr;
 }
 
 void Queue::setSyncWarningDelay(std::chrono::milliseconds delay) noexcept
@@ -126,15 +147,39 @@ void Queue::sync(const Task& task)
         return;
     }
     const auto call = std::make_shared<AwaitedCall>(task, label_);
+    const Task run = [call] { call->run(); };
+    const std::function<bool()> help = [this, &run] { return workOff(run); };
+    // From the moment when it is queued, nothing may throw before it is done.
+    const GlobalPool::WaitScope waiting(ThreadParking::ofThisThread());
     enqueueAwaited([holder = std::make_shared<AwaitedCallHolder>(call)] { holder->call().run(); });
-    const GlobalPool::BlockedThreadScope blocked;
-    call->wait();
+    call->wait(help);
+}
+
+bool Queue::workOff(const Task& /*awaited*/)
+{
+    return false;
 }
 
 const std::shared_ptr<ThreadParking>& ThreadParking::ofThisThread()
 {
     thread_local const auto parking = std::make_shared<ThreadParking>();
     return parking;
+}
+
+ThreadParking::ThreadParking()
+{
+    parkingOfThisThread = this;
+}
+
+ThreadParking::~ThreadParking()
+{
+    if (parkingOfThisThread == this)
+        parkingOfThisThread = nullptr;
+}
+
+ThreadParking* ThreadParking::existing() noexcept
+{
+    return parkingOfThisThread;
 }
 
 void ThreadParking::poke()
@@ -182,6 +227,17 @@ std::vector<std::shared_ptr<MainQueueState>> ThreadParking::mainQueues() const
     return living;
 }
 
+MainQueue* ThreadParking::firstMainQueue() const noexcept
+{
+    const std::lock_guard lock(mutex_);
+    for (const auto& entry : mainQueues_) {
+        const auto state = entry.lock();
+        if (MainQueue* const queue = state ? state->queue() : nullptr)
+            return queue;
+    }
+    return nullptr;
+}
+
 void serveAwaitedTasksOfThisThread()
 {
     for (const auto& queue : ThreadParking::ofThisThread()->mainQueues()) {
@@ -201,15 +257,32 @@ Queue* CurrentQueueScope::queue() noexcept
     return queueOfThisThread;
 }
 
+void logThrown(const Queue& queue, std::string_view lead, std::string_view what) noexcept
+{
+    try {
+        logMessage(fmt::format("A task of the queue \"{}\" threw{}{}", queue.label(), lead, what));
+    } catch (...) {
+        logFailure("A task of a queue threw for want of memory.");
+    }
+}
+
 void runTask(Queue& queue, const Task& task)
 {
     const CurrentQueueScope scope(&queue);
     try {
         task();
     } catch (const std::exception& exception) {
-        logMessage(fmt::format("A task of the queue \"{}\" threw: {}", queue.label(), exception.what()));
+        logThrown(queue, ": ", exception.what());
     } catch (...) {
-        logMessage(fmt::format("A task of the queue \"{}\" threw something that is no exception.", queue.label()));
+        logThrown(queue, " something that is no exception", ".");
+    }
+}
+
+void logFailure(std::string_view message) noexcept
+{
+    try {
+        logMessage(message);
+    } catch (...) { // the log itself has no memory
     }
 }
 

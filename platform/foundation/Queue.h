@@ -29,7 +29,7 @@ public:
     /// Runs the task and returns when it is done; at once and inline when this queue is current. What the task throws
     /// is thrown here. A thread that owns a main queue goes on serving `sync` calls to that queue while it waits. A
     /// wait of 5 seconds is logged. Raises `NSInternalInconsistencyException` when the queue ends before the task could
-    /// run.
+    /// run. Where no thread can be made for the queue, the calling thread does its work.
     void sync(const Task& task);
     /// Whether the calling code runs on this queue.
     virtual bool isCurrent() const noexcept = 0;
@@ -50,6 +50,9 @@ public:
 protected:
     /// Like `async`, for a task that another thread waits for.
     virtual void enqueueAwaited(Task task) = 0;
+    /// For the thread that waits for this task: runs it, or what stands before it, when no thread of the library can.
+    /// False when there is nothing for the calling thread to do.
+    virtual bool workOff(const Task& awaited);
 
 private:
     std::string label_;
@@ -142,13 +145,19 @@ public:
 private:
     explicit SerialQueue(std::string_view label);
     void enqueueAwaited(Task task) override;
+    bool workOff(const Task& awaited) override;
+    bool schedule();
+    void runTurn();
+    bool runSome(int most);
     void runPass(const Task& task);
 
     struct State;
     std::unique_ptr<State> state_;
 };
 
-/// The concurrent queue of the process: at least two threads, more while some of them wait in a `sync`.
+/// The concurrent queue of the process: at least two threads once there is work for them, more while some of them wait
+/// in a `sync`. Where the system gives fewer, those do the work; where it gives none, `MainQueue::main()` does it in
+/// its passes.
 ///
 /// When the process ends, `MainQueue::main()` takes no more tasks, and the tasks of this queue that are left run to
 /// their end.
@@ -166,6 +175,7 @@ private:
     GlobalQueue();
     ~GlobalQueue() override;
     void enqueueAwaited(Task task) override;
+    bool workOff(const Task& awaited) override;
 };
 
 } // namespace tarn

@@ -20,6 +20,12 @@ public:
 
     /// The one of the calling thread.
     static const std::shared_ptr<ThreadParking>& ofThisThread();
+    /// The same, or null before the thread has ever waited or owned a main queue.
+    static ThreadParking* existing() noexcept;
+    ThreadParking();
+    ~ThreadParking();
+    ThreadParking(const ThreadParking&) = delete;
+    ThreadParking& operator=(const ThreadParking&) = delete;
 
     /// Wakes the thread, now or when it next goes to sleep. Any thread.
     void poke();
@@ -32,6 +38,8 @@ public:
     void addMainQueue(std::weak_ptr<MainQueueState> queue);
     /// The living main queues of the thread, in the order in which they were made.
     std::vector<std::shared_ptr<MainQueueState>> mainQueues() const;
+    /// The first of them, or null.
+    MainQueue* firstMainQueue() const noexcept;
 
 private:
     mutable std::mutex mutex_;
@@ -60,6 +68,9 @@ private:
 
 /// Runs a task of a queue; what it throws is logged.
 void runTask(Queue& queue, const Task& task);
+
+/// Logs what went wrong among the queues, whatever the sink does.
+void logFailure(std::string_view message) noexcept;
 
 /// Tasks that wait for the end of a pass, one for each key, in the order in which they were asked for. Not locked.
 class KeyedTasks {

@@ -29,7 +29,7 @@ CASES = [
     ("platform/coredata/Rows.h", "#include <sqlite3.h>\n", "of another library"),
     ("platform/coredata/RowsInternal.h", "#include <sqlite3.h>\n", None),
     ("platform/foundation/Locale.h", "#include <unicode/locid.h>\n", "of another library"),
-    ("platform/foundation/Pool.h", "#include <asio/thread_pool.hpp>\n", "of another library"),
+    ("platform/foundation/Pool.h", "#include <unicode/ucal.h>\n", "of another library"),
     ("model/Json.h", "#include <nlohmann/json.hpp>\n", "of another library"),
     ("notes/Text.h", "#include <fmt/format.h>\n", "of another library"),
     ("platform/coredata/Open.h", '#include "platform/coredata/RowsInternal.h"\n', "not installed"),
