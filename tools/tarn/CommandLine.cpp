@@ -3,6 +3,7 @@
 #include "platform/foundation/NSException.h"
 #include "tools/tarn/CommandFailure.h"
 #include "tools/tarn/DisplayText.h"
+#include "tools/tarn/MemoryShortage.h"
 
 #include <CLI/App.hpp>
 #include <CLI/Config.hpp>
@@ -101,8 +102,12 @@ std::string problemOf(
 
 void tellOnStandardError(std::string_view message)
 {
-    const std::string line = "tarn: " + displayText(message) + "\n";
-    std::fwrite(line.data(), 1, line.size(), stderr);
+    try {
+        const std::string line = "tarn: " + displayText(message) + "\n";
+        std::fwrite(line.data(), 1, line.size(), stderr);
+    } catch (const std::bad_alloc&) { // a failure without a word would be worse than one in plain bytes
+        tellOfMemoryShortage();
+    }
 }
 
 CommandLine::CommandLine(Output& output)

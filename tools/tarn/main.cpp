@@ -1,16 +1,34 @@
 #include "platform/foundation/Log.h"
 #include "tools/tarn/CommandLine.h"
 #include "tools/tarn/Commands.h"
+#include "tools/tarn/MemoryShortage.h"
 #include "tools/tarn/StandardStreams.h"
 
 #include <unistd.h>
 
-int main(int count, char** values)
+#include <new>
+
+namespace {
+
+tarn::ExitCode run(int count, char** values)
 {
-    tarn::reserveStandardStreams();
     tarn::setLogSink(tarn::tellOnStandardError);
     tarn::Output output(STDOUT_FILENO);
     tarn::CommandLine commandLine(output);
     tarn::addCommands(commandLine);
-    return static_cast<int>(commandLine.run(std::vector<std::string>(values + (count > 0), values + count)));
+    return commandLine.run(std::vector<std::string>(values + (count > 0), values + count));
+}
+
+} // namespace
+
+int main(int count, char** values)
+{
+    tarn::reserveStandardStreams();
+    tarn::endInWordsWhenMemoryIsShort();
+    try {
+        return static_cast<int>(run(count, values));
+    } catch (const std::bad_alloc&) { // before there was a command line to say so
+        tarn::tellOfMemoryShortage();
+        return static_cast<int>(tarn::ExitCode::Failed);
+    }
 }
