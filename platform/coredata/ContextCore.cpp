@@ -237,7 +237,7 @@ void ContextCore::remove(NSManagedObject& object, Preparation preparation)
         return;
     std::vector<NSManagedObject*> cascade;
     for (const NSRelationshipDescription* relationship : object.entity().relationships()) {
-        if (relationship->deleteRule() == NSDeleteRule::Deny)
+        if (relationship->deleteRule() == NSDeleteRule::Deny && !wasInserted)
             continue; // the save asks whether somebody is still there
         if (relationship->deleteRule() == NSDeleteRule::Cascade) {
             const auto related = relationships.related(object, *relationship);
@@ -245,7 +245,8 @@ void ContextCore::remove(NSManagedObject& object, Preparation preparation)
         }
         relationships.detach(object, *relationship);
     }
-    const bool wasInserted = object.isInserted();
+    if (RecordAccess::isGone(object))
+        return;
     tracker.noteDeleted(object);
     pendingIndex.touch(object, ~PropertyMask{0});
     RecordAccess::markDeleted(object);
@@ -255,6 +256,7 @@ void ContextCore::remove(NSManagedObject& object, Preparation preparation)
     for (NSManagedObject* dependent : cascade)
         remove(*dependent, preparation);
 }
+    const bool wasInserted = object.isInserted();
 
 // Events --------------------------------------------------------------------------------------------------------------
 

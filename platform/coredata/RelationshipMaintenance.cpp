@@ -32,6 +32,13 @@ void requireSameContext(
 NSManagedObject* RelationshipMaintenance::toOne(
     const NSManagedObject& record, const NSRelationshipDescription& relationship)
 {
+    NSManagedObject* target = named(record, relationship);
+    return target && !target->isDeleted() ? target : nullptr;
+}
+
+NSManagedObject* RelationshipMaintenance::named(
+    const NSManagedObject& record, const NSRelationshipDescription& relationship)
+{
     if (record.isFault())
         core_.faulting.fire(record);
     const PropertyValues& values = RecordAccess::values(record);
@@ -45,9 +52,7 @@ NSManagedObject* RelationshipMaintenance::toOne(
     const std::int64_t key = values.integer(index);
     const NSEntityDescription& destination = relationship.destinationEntity();
     NSManagedObject* target = core_.registry.find(destination.rootEntity(), key);
-    if (!target)
-        target = core_.context.objectWithID(NSManagedObjectID(core_.store().identity(), destination, key));
-    return target && !target->isDeleted() ? target : nullptr;
+    return target ? target : core_.context.objectWithID(NSManagedObjectID(core_.store().identity(), destination, key));
 }
 
 void RelationshipMaintenance::store(
@@ -70,8 +75,12 @@ void RelationshipMaintenance::setToOne(
         requireSameContext(record, relationship, *target);
     if (!core_.beginWrite(record))
         return;
-    NSManagedObject* former = toOne(record, relationship);
+    NSManagedObject* former = named(record, relationship);
     if (former == target)
+        return;
+    if (target && !core_.beginWrite(*target))
+        target = nullptr;
+    if (!former && !target)
         return;
     const NSRelationshipDescription& inverse = relationship.inverseRelationship();
     // The other end of a pair may not have been read yet; afterwards the store's answer does not count any more.
@@ -106,6 +115,9 @@ void RelationshipMaintenance::attachInverse(
 void RelationshipMaintenance::detachInverse(
     NSManagedObject& target, const NSRelationshipDescription& inverse, NSManagedObject& record)
 {
+    // A deletion that is not saved yet is judged by who is still there.
+    if (target.isDeleted() && inverse.isToMany())
+        toMany(target, inverse).take(record);
     if (!core_.beginWrite(target))
         return;
     if (inverse.isToMany()) {
@@ -152,7 +164,7 @@ void RelationshipMaintenance::removeMember(ToManySet& set, NSManagedObject& memb
     NSManagedObject& owner = *set.owner_;
     const NSRelationshipDescription& inverse = set.relationship().inverseRelationship();
     if (!inverse.isToMany()) {
-        if (toOne(member, inverse) == &owner)
+        if (named(member, inverse) == &owner)
             setToOne(member, inverse, nullptr);
         return;
     }
@@ -179,6 +191,12 @@ void RelationshipMaintenance::loadMembers(ToManySet& set)
         && !core_.store().relatedKeys(relationship, owner.objectID().key(), keys, &error))
         raiseUnreadable(relationship, error);
 
+    // Where the members' rows say it, an unsaved change there has the last word.
+    const NSRelationshipDescription& inverse = relationship.inverseRelationship();
+    const auto isElsewhere = [&](const NSManagedObject& member) {
+        return !inverse.isToMany() && (RecordAccess::changed(member) & propertyBit(inverse.index()))
+            && named(member, inverse) != &owner;
+    };
     const std::unordered_set<const NSManagedObject*> removed(set.removed_.begin(), set.removed_.end());
     std::unordered_set<const NSManagedObject*> stored;
     std::vector<NSManagedObject*> members;
@@ -186,7 +204,7 @@ void RelationshipMaintenance::loadMembers(ToManySet& set)
     for (const RelatedKey& key : keys) {
         NSManagedObject& member = core_.recordOrFault(*key.entity, key.key);
         stored.insert(&member);
-        if (!member.isDeleted() && !removed.contains(&member))
+        if (!member.isDeleted() && !removed.contains(&member) && !isElsewhere(member))
             members.push_back(&member);
     }
     // From here on the deltas say exactly what differs from the store; noted unread, they may say too much.

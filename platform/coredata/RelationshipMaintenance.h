@@ -21,6 +21,9 @@ public:
 
     /// The record's target; null for none. A target that is deleted reads as none.
     NSManagedObject* toOne(const NSManagedObject& record, const NSRelationshipDescription& relationship);
+    /// The same for a target that is deleted, too.
+    NSManagedObject* named(const NSManagedObject& record, const NSRelationshipDescription& relationship);
+    /// A target that is deleted, or that the store does not have any more, makes it none.
     void setToOne(NSManagedObject& record, const NSRelationshipDescription& relationship, NSManagedObject* target);
     ToManySet& toMany(const NSManagedObject& record, const NSRelationshipDescription& relationship);
     void addMember(ToManySet& set, NSManagedObject& member);

@@ -150,12 +150,13 @@ bool SavePlan::validate(NSError* error) const
 
 bool SavePlan::deletionsAllowed(NSError* error) const
 {
-    const auto hasMember = [&](const NSManagedObject& record, const NSRelationshipDescription& relationship) {
+    const auto hasMember = [&](NSManagedObject& record, const NSRelationshipDescription& relationship) {
+        core_.relationships.forgetStoredMembers(record); // others may have come or gone since they were read
         const auto members = core_.relationships.related(record, relationship);
         return std::any_of(
             members.begin(), members.end(), [](const NSManagedObject* member) { return !member->isDeleted(); });
     };
-    for (const NSManagedObject* record : deleted_)
+    for (NSManagedObject* record : deleted_)
         for (const NSRelationshipDescription* relationship : record->entity().relationships())
             if (relationship->deleteRule() == NSDeleteRule::Deny && hasMember(*record, *relationship))
                 return fail(error, StoreErrorDeleteDenied,

@@ -211,6 +211,140 @@ TEST_P(Relationship, DenyRefusesTheSaveWhileMembersRemain)
     EXPECT_THAT(all("Book"), IsEmpty());
 }
 
+/// What becomes of the member of a record that may not be deleted while it has members.
+enum class Way : std::uint8_t { None, Another, Deleted, SetWithoutIt, SetOfAnother };
+
+TEST_P(Relationship, DenyAllowsTheSaveOnceItsMembersAreElsewhereInAnyOrder)
+{
+    for (const Way way : {Way::None, Way::Another, Way::Deleted, Way::SetWithoutIt, Way::SetOfAnother})
+        for (const bool isDeletedFirst : {false, true})
+            for (const bool isLoaded : {false, true})
+                for (const bool isInserted : {false, true}) {
+                    SCOPED_TRACE(testing::Message() << static_cast<int>(way) << (isDeletedFirst ? " first" : "")
+                                                    << (isLoaded ? " loaded" : "") << (isInserted ? " new" : ""));
+                    NSManagedObject& kept = book("kept");
+                    insert("Map").setValueForKey("book", Value(&book("doomed")));
+                    if (!isInserted)
+                        save();
+                    NSManagedObject& doomed = *find("Book", "title == 'doomed'").at(0);
+                    NSManagedObject& map = *all("Map").at(0);
+                    if (isLoaded)
+                        set(doomed, "items").members();
+                    if (isDeletedFirst)
+                        context_->deleteObject(doomed);
+                    NSManagedObject* const theMap[] = {&map};
+                    switch (way) {
+                    case Way::None:
+                        map.setValueForKey("book", Value());
+                        break;
+                    case Way::Another:
+                        map.setValueForKey("book", Value(&kept));
+                        break;
+                    case Way::Deleted:
+                        context_->deleteObject(map);
+                        break;
+                    case Way::SetWithoutIt:
+                        set(doomed, "items").remove(map);
+                        break;
+                    case Way::SetOfAnother:
+                        set(kept, "items").set(theMap);
+                        break;
+                    }
+                    if (!isDeletedFirst)
+                        context_->deleteObject(doomed);
+                    save();
+                    ASSERT_FALSE(HasFatalFailure());
+                    const bool isOfAnother = way == Way::Another || way == Way::SetOfAnother;
+                    for (int look = 0; look < 2; ++look) {
+                        EXPECT_THAT(texts(all("Book"), "title"), ElementsAre("kept"));
+                        EXPECT_EQ(set(*all("Book").at(0), "items").count(), isOfAnother ? 1U : 0U);
+                        EXPECT_EQ(find("Map", "book == nil").size(), isOfAnother || way == Way::Deleted ? 0U : 1U);
+                        restart();
+                    }
+                    for (const std::string_view entity : {"Map", "Book"})
+                        for (NSManagedObject* record : all(entity))
+                            context_->deleteObject(*record);
+                    save();
+                }
+}
+
+TEST_P(Relationship, ADenialThatIsTakenBackLeavesTheMembersWhereTheyWere)
+{
+    NSManagedObject& one = book("One");
+    NSManagedObject& map = insert("Map");
+    map.setValueForKey("book", Value(&one));
+    save();
+    context_->deleteObject(one);
+    map.setValueForKey("book", Value());
+    EXPECT_THAT(map.changedKeys(), ElementsAre("book"));
+
+    context_->rollback();
+
+    EXPECT_EQ(map.storedValueForKey("book"), Value(&one));
+    EXPECT_THAT(set(one, "items").members(), ElementsAre(&map));
+    context_->deleteObject(one);
+    NSError error;
+    EXPECT_FALSE(context_->save(&error));
+    EXPECT_EQ(error.code(), StoreErrorDeleteDenied);
+}
+
+TEST_P(Relationship, DenyLooksAtWhatIsStoredNow)
+{
+    NSManagedObject& one = book("One");
+    NSManagedObject& map = insert("Map");
+    map.setValueForKey("book", Value(&one));
+    save();
+    const NSManagedObjectID mapID = map.objectID();
+    ASSERT_THAT(set(one, "items").members(), ElementsAre(&map));
+    const auto other = contextOn(coordinator_);
+    other->objectWithID(mapID)->setValueForKey("book", Value());
+    ASSERT_TRUE(other->save());
+
+    context_->deleteObject(one); // which still shows the member here
+    save();
+    restart();
+    EXPECT_THAT(all("Book"), IsEmpty());
+
+    NSManagedObject& two = book("Two");
+    save();
+    ASSERT_THAT(set(two, "items").members(), IsEmpty());
+    const auto another = contextOn(coordinator_);
+    another->objectWithID(mapID)->setValueForKey("book", Value(another->objectWithID(two.objectID())));
+    ASSERT_TRUE(another->save());
+    context_->deleteObject(two);
+    NSError error;
+    EXPECT_FALSE(context_->save(&error)) << "a member that came meanwhile counts, too";
+    EXPECT_EQ(error.code(), StoreErrorDeleteDenied);
+}
+
+TEST_P(Relationship, IsSetToNothingWhoeverItNamed)
+{
+    // A target may be deleted, saved or not, before the relationship that names it is set.
+    for (const char* entity : {"Map", "Chapter", "Cover"})
+        for (const bool isSaved : {false, true}) {
+            SCOPED_TRACE(entity + std::string(isSaved ? " saved" : ""));
+            NSManagedObject& one = book("One");
+            NSManagedObject& part = insert(entity);
+            part.setValueForKey("book", Value(&one));
+            if (isSaved)
+                save();
+            context_->deleteObject(one);
+            if (part.isDeleted())
+                continue; // with its owner
+            part.setValueForKey("book", Value());
+            EXPECT_TRUE(part.storedValueForKey("book").isNil());
+            save();
+            EXPECT_TRUE(part.storedValueForKey("book").isNil());
+            part.setValueForKey("book", Value(&book("Two")));
+            save();
+            restart();
+            EXPECT_THAT(texts(find("Book", "title == 'Two'"), "title"), ElementsAre("Two"));
+            context_->deleteObject(*all(entity).at(0));
+            context_->deleteObject(*all("Book").at(0));
+            save();
+        }
+}
+
 TEST_P(Relationship, DeletingAnInsertedRecordLeavesNoTrace)
 {
     NSManagedObject& one = book("One");
