@@ -108,6 +108,19 @@ NSManagedObject& ContextCore::insert(const NSEntityDescription& entity)
     return object;
 }
 
+NSManagedObjectID ContextCore::localID(const NSManagedObjectID& objectID) const
+{
+    const bool hasStore = parentStore || (coordinator && coordinator->persistentStore());
+    if (!objectID || !hasStore || &objectID.store() != &store().identity())
+        return {};
+    const NSManagedObjectModel& model = coordinator->managedObjectModel();
+    if (&objectID.entity().model() == &model)
+        return objectID;
+    // Another coordinator on the same store may have read the model for itself.
+    const NSEntityDescription* entity = model.entityNamed(objectID.entity().name());
+    return entity ? NSManagedObjectID(objectID.store(), *entity, objectID.key()) : NSManagedObjectID();
+}
+
 NSManagedObject& ContextCore::recordOrFault(const NSEntityDescription& entity, std::int64_t key)
 {
     if (NSManagedObject* known = registry.find(entity.rootEntity(), key))

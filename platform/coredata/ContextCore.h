@@ -57,6 +57,8 @@ public:
     void assertOnQueue() const;
 
     NSManagedObject& insert(const NSEntityDescription& entity);
+    /// The identifier in terms of this context's store and model; empty for one of another store.
+    NSManagedObjectID localID(const NSManagedObjectID& objectID) const;
     /// The record of a permanent key, made as a fault when it is not here yet.
     NSManagedObject& recordOrFault(const NSEntityDescription& entity, std::int64_t key);
     /// Before the first change of a record: fires its fault and keeps its committed values. False when it is gone.

@@ -80,7 +80,9 @@ void NSManagedObjectContext::deleteObject(NSManagedObject& object)
 
 NSManagedObject* NSManagedObjectContext::objectRegisteredForID(const NSManagedObjectID& objectID) const
 {
-    return objectID ? core_->registry.find(*objectID.root(), objectID.key()) : nullptr;
+    const NSManagedObjectID id = core_->localID(objectID);
+    NSManagedObject* known = id ? core_->registry.find(*id.root(), id.key()) : nullptr;
+    return known && known->entity().isKindOfEntity(id.entity()) ? known : nullptr;
 }
 
 NSManagedObject* NSManagedObjectContext::existingObjectWithID(const NSManagedObjectID& objectID, NSError* error)
@@ -91,12 +93,13 @@ NSManagedObject* NSManagedObjectContext::existingObjectWithID(const NSManagedObj
             core_->faulting.fire(*known);
         return known->isDeleted() ? nullptr : known;
     }
-    if (!objectID || objectID.isTemporaryID())
+    const NSManagedObjectID id = core_->localID(objectID);
+    if (!id || id.isTemporaryID())
         return nullptr;
-    const std::int64_t key = objectID.key();
+    const std::int64_t key = id.key();
     std::vector<StoreRow> rows;
-    if (!core_->store().rowsForKeys(*objectID.root(), std::span(&key, 1), RowContents::Row, rows, error)
-        || rows.empty())
+    if (!core_->store().rowsForKeys(*id.root(), std::span(&key, 1), RowContents::Row, rows, error) || rows.empty()
+        || !rows.front().entity->isKindOfEntity(id.entity()))
         return nullptr;
     return &core_->faulting.adopt(std::move(rows.front()));
 }
@@ -106,12 +109,13 @@ NSManagedObject* NSManagedObjectContext::objectWithID(const NSManagedObjectID& o
     core_->assertOnQueue();
     if (NSManagedObject* known = objectRegisteredForID(objectID))
         return known->isDeleted() ? nullptr : known;
-    if (!objectID || objectID.isTemporaryID())
+    const NSManagedObjectID id = core_->localID(objectID);
+    if (!id || id.isTemporaryID())
         return nullptr;
-    // Which class a record of a sub-entity is of, only its row tells.
-    if (!objectID.entity().subentities().empty())
-        return existingObjectWithID(objectID);
-    return &core_->recordOrFault(objectID.entity(), objectID.key());
+    // Which class a record of a family is of, only its row tells.
+    if (!id.entity().rootEntity().subentities().empty())
+        return existingObjectWithID(id);
+    return &core_->recordOrFault(id.entity(), id.key());
 }
 
 std::vector<NSManagedObject*> NSManagedObjectContext::registeredObjects() const

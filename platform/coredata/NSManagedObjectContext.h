@@ -106,6 +106,7 @@ public:
     /// Runs `prepareForDeletion`, then takes the record out of all relationships (by their delete rules) and fetches.
     /// The rows go at the next save. Deleting twice is no error.
     void deleteObject(NSManagedObject& object);
+    // An identifier of another store, and one that names an entity which the record is not of, have no record.
     /// The record with this identifier, read when it is not here yet; null when the store does not know it (or cannot
     /// be read).
     NSManagedObject* existingObjectWithID(const NSManagedObjectID& objectID, NSError* error = nullptr);
