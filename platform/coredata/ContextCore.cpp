@@ -417,6 +417,7 @@ bool ContextCore::takeKey(const NSEntityDescription& root, std::int64_t& key, NS
     if (exclusiveTransaction || isSaving)
         return store().reserveKeys(root, 1, key, error);
     KeyBlock& block = keyBlocks_[&root];
+    relationships.followKey(object, former);
     if (block.next == block.end) {
         if (!store().reserveKeys(root, keyBlockSize, block.next, error))
             return false;

@@ -91,7 +91,7 @@ public:
     void refresh(NSManagedObject& object, bool mergeChanges);
     void reset();
     bool obtainPermanentIDs(std::span<NSManagedObject* const> objects, NSError* error);
-    /// Gives a record another identifier; it still answers to the one that it had.
+    /// Gives a record another identifier, also where others name it; it still answers to the one that it had.
     void readdress(NSManagedObject& object, const NSManagedObjectID& objectID);
 
 private:

@@ -336,22 +336,29 @@ void RelationshipMaintenance::forgetEndsWithoutColumn(NSManagedObject& record)
         RecordAccess::values(record).setUnloaded(static_cast<PropertyIndex>(std::countr_zero(rest)));
 }
 
-void RelationshipMaintenance::makeKeysPermanent(NSManagedObject& record)
+void RelationshipMaintenance::followKey(const NSManagedObject& record, std::int64_t former)
 {
-    PropertyValues& values = RecordAccess::values(record);
-    for (const NSPropertyDescription* property : record.entity().properties()) {
-        const PropertyIndex index = property->index();
-        if (!property->isRelationship() || !values.isLoaded(index) || values.isNil(index) || values.integer(index) > 0)
-            continue;
-        const auto& relationship = static_cast<const NSRelationshipDescription&>(*property);
-        if (relationship.isToMany())
-            continue;
-        const NSManagedObject* target
-            = core_.registry.find(relationship.destinationEntity().rootEntity(), values.integer(index));
-        if (target && !target->objectID().isTemporaryID())
-            values.setInteger(index, target->objectID().key());
-        else if (!target)
-            values.setNil(index);
+    const std::int64_t key = record.objectID().key();
+    const RecordDetails* details = RecordAccess::detailsIfAny(record);
+    for (const NSRelationshipDescription* relationship : record.entity().relationships()) {
+        const NSRelationshipDescription& inverse = relationship->inverseRelationship();
+        const PropertyIndex index = inverse.index();
+        const auto follow = [&](NSManagedObject& holder) {
+            PropertyValues& values = RecordAccess::values(holder);
+            if (values.isEmpty() || !values.isLoaded(index) || values.isNil(index) || values.integer(index) != former)
+                return;
+            values.setInteger(index, key);
+            core_.pendingIndex.touch(holder, propertyBit(index));
+        };
+        if (inverse.isToMany())
+            continue; // sets hold the record itself
+        if (!relationship->isToMany()) {
+            if (NSManagedObject* holder = named(record, *relationship))
+                follow(*holder);
+        } else if (const ToManySet* set = details ? details->toManySet(relationship->index()) : nullptr) {
+            for (NSManagedObject* holder : set->added_)
+                follow(*holder);
+        }
     }
 }
 

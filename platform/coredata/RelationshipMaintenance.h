@@ -48,8 +48,8 @@ public:
     void dropReferences(const KeysOfEntities& gone);
     /// What the record holds of relationships that other records' rows say is read again at next use.
     void forgetEndsWithoutColumn(NSManagedObject& record);
-    /// Writes permanent keys where a record's to-ones hold temporary ones.
-    void makeKeysPermanent(NSManagedObject& record);
+    /// An unsaved record has another key than `former` now: who names it names it by that one.
+    void followKey(const NSManagedObject& record, std::int64_t former);
 
 private:
     void forgetGone(NSManagedObject& record);

@@ -126,9 +126,6 @@ bool SavePlan::assignKeys(NSError* error)
             core_.readdress(*record, NSManagedObjectID(former.store(), former.entity(), key++));
         }
     }
-    for (const auto* records : {&inserted_, &updated_})
-        for (NSManagedObject* record : *records)
-            core_.relationships.makeKeysPermanent(*record);
     return true;
 }
 
@@ -291,22 +288,8 @@ void SavePlan::finish()
 /// After a failure: records have the identifiers that they had, and what will-save observers inserted is gone.
 void SavePlan::takeBack()
 {
-    std::unordered_map<const NSEntityDescription*, std::unordered_map<std::int64_t, std::int64_t>> formerKeys;
-    for (const auto& [record, former] : formerIDs_) {
-        formerKeys[former.root()][record->objectID().key()] = former.key();
+    for (const auto& [record, former] : formerIDs_)
         core_.readdress(*record, former);
-    }
-    for (const auto* records : {&inserted_, &updated_})
-        for (NSManagedObject* record : *records)
-            for (const NSRelationshipDescription* relationship : record->entity().relationships()) {
-                PropertyValues& values = RecordAccess::values(*record);
-                if (relationship->isToMany() || values.isEmpty() || !values.isLoaded(relationship->index())
-                    || values.isNil(relationship->index()))
-                    continue;
-                const auto& keys = formerKeys[&relationship->destinationEntity().rootEntity()];
-                if (const auto former = keys.find(values.integer(relationship->index())); former != keys.end())
-                    values.setInteger(relationship->index(), former->second);
-            }
     const std::unordered_set<const NSManagedObject*> before(announcedBefore_.begin(), announcedBefore_.end());
     for (NSManagedObject* record : core_.tracker.insertedObjects())
         if (!before.contains(record))

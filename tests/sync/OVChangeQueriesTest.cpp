@@ -72,6 +72,27 @@ TEST_P(ChangeQueries, FindTheRecordsOfOneChange)
         identifiersOf(OVChange::objectsUpdatedForChange(*first, &deletedUIDs, tags(), context())), ElementsAre("t"));
 }
 
+TEST_P(ChangeQueries, FindTheRecordsOfAChangeThatIsNotSavedYet)
+{
+    noteWithIdentifier("n");
+    tag("t").setUniqueIdentifier("t");
+    OVChange& change = changeOfOrder(0);
+    item(change, "OVNote", "n");
+    item(change, "OVNoteTag", "t");
+    const auto expectAll = [&](const char* when) {
+        EXPECT_THAT(identifiersOf(OVChange::objectsUpdatedForChange(change, &deletedUIDs, context())),
+            UnorderedElementsAre("n", "t"))
+            << when;
+        EXPECT_THAT(
+            identifiersOf(OVChange::objectsUpdatedForChange(change, &deletedUIDs, tags(), context())), ElementsAre("t"))
+            << when;
+    };
+    expectAll("alone");
+    NSManagedObjectContext child(NSManagedObjectContext::ConcurrencyType::MainQueue);
+    child.setParentContext(context()); // new records get the identifiers that stay
+    expectAll("with a child context");
+}
+
 TEST_P(ChangeQueries, ReportADeletionOfOneChangeOnlyAsSuch)
 {
     noteWithIdentifier("a");
