@@ -132,11 +132,16 @@ NSManagedObject& ContextCore::recordOrFault(const NSEntityDescription& entity, s
     return object;
 }
 
-NSManagedObject& ContextCore::adoptInsertion(
+NSManagedObject* ContextCore::adoptInsertion(
     const NSEntityDescription& entity, std::int64_t key, PropertyValues values, PropertyMask changed)
 {
-    NSManagedObject& object
-        = registry.add(RecordAccess::make(context, NSManagedObjectID(store().identity(), entity, key)));
+    // Somebody may have asked for it by its identifier: then this is the object that it is from now on.
+    NSManagedObject* known = registry.find(entity.rootEntity(), key);
+    if (known && known->isDeleted())
+        return nullptr;
+    NSManagedObject& object = known
+        ? *known
+        : registry.add(RecordAccess::make(context, NSManagedObjectID(store().identity(), entity, key)));
     RecordAccess::fill(object, std::move(values), 0);
     RecordAccess::markInserted(object, nextOrder_++);
     RecordDetails& details = RecordAccess::details(object);
@@ -145,7 +150,7 @@ NSManagedObject& ContextCore::adoptInsertion(
     pendingIndex.touch(object, ~PropertyMask{0});
     fromChildren_.push_back(&object);
     scheduleProcessing();
-    return object;
+    return &object;
 }
 
 void ContextCore::noteFromChild(NSManagedObject& object)
@@ -203,6 +208,7 @@ void ContextCore::noteChange(NSManagedObject& object, PropertyIndex index, bool 
 
 void ContextCore::noteGone(NSManagedObject& object)
 {
+    tracker.forgetPending(object);
     tracker.noteGone(object);
     RecordAccess::markGone(object);
     relationships.unload(object);
@@ -249,6 +255,7 @@ void ContextCore::remove(NSManagedObject& object, Preparation preparation)
     if (RecordAccess::isGone(object))
         return;
     std::vector<NSManagedObject*> cascade;
+    const bool wasInserted = object.isInserted();
     for (const NSRelationshipDescription* relationship : object.entity().relationships()) {
         if (relationship->deleteRule() == NSDeleteRule::Deny && !wasInserted)
             continue; // the save asks whether somebody is still there
@@ -269,7 +276,6 @@ void ContextCore::remove(NSManagedObject& object, Preparation preparation)
     for (NSManagedObject* dependent : cascade)
         remove(*dependent, preparation);
 }
-    const bool wasInserted = object.isInserted();
 
 // Events --------------------------------------------------------------------------------------------------------------
 
@@ -403,11 +409,15 @@ void ContextCore::reset()
 void ContextCore::readdress(NSManagedObject& object, const NSManagedObjectID& objectID)
 {
     const std::int64_t former = object.objectID().key();
+    // Who asked for this key before it was given asked for nothing.
+    if (NSManagedObject* early = registry.find(*objectID.root(), objectID.key()); early && early != &object)
+        noteGone(*early);
     registry.forget(object);
     RecordAccess::setObjectID(object, objectID);
     registry.remember(object);
     if (former < 0)
         registry.addFormerKey(former, object);
+    relationships.followKey(object, former);
 }
 
 bool ContextCore::takeKey(const NSEntityDescription& root, std::int64_t& key, NSError* error)
@@ -417,7 +427,6 @@ bool ContextCore::takeKey(const NSEntityDescription& root, std::int64_t& key, NS
     if (exclusiveTransaction || isSaving)
         return store().reserveKeys(root, 1, key, error);
     KeyBlock& block = keyBlocks_[&root];
-    relationships.followKey(object, former);
     if (block.next == block.end) {
         if (!store().reserveKeys(root, keyBlockSize, block.next, error))
             return false;

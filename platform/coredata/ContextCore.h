@@ -68,8 +68,8 @@ public:
     /// Whether `prepareForDeletion` ran already, in a child.
     enum class Preparation : std::uint8_t { Needed, Done };
     void remove(NSManagedObject& object, Preparation preparation = Preparation::Needed);
-    /// A record that a child inserted, with its permanent key.
-    NSManagedObject& adoptInsertion(
+    /// A record that a child inserted, with its permanent key. Null when it was asked for, and deleted, here before.
+    NSManagedObject* adoptInsertion(
         const NSEntityDescription& entity, std::int64_t key, PropertyValues values, PropertyMask changed);
     /// A child changes the record: once saved it is let go, for this context may never have asked for it.
     void noteFromChild(NSManagedObject& object);

@@ -156,8 +156,11 @@ public:
     /// temporary ones are passed over. A failing read is logged and leaves the records as they were.
     static void mergeChangesFromRemoteContextSave(
         const RemoteChanges& changes, std::span<NSManagedObjectContext* const> contexts);
-    /// Reads the record again at next use; with `mergeChanges` its unsaved changes stay on top.
+    /// Reads the record again: at next use, or at once below its unsaved changes where those are kept. Without
+    /// `mergeChanges` they are dropped; a relationship goes back to what was saved at both ends, and so do other
+    /// records' to-ones that name this one, or did. Inserted and deleted records stay as they are.
     void refreshObject(NSManagedObject& object, bool mergeChanges);
+    /// The same for all records; unsaved changes stay on top.
     void refreshAllObjects();
     /// Forgets everything; all records of this context are gone.
     void reset();

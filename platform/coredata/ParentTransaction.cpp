@@ -39,6 +39,7 @@ std::vector<const NSRelationshipDescription*> changedToOnes(const StoreRow& row,
 bool ParentTransaction::insertRow(const StoreRow& row, NSError*)
 {
     insertions_.push_back(row);
+    insertedKeys_[&row.entity->rootEntity()].insert(row.key);
     return true;
 }
 
@@ -107,7 +108,7 @@ bool ParentTransaction::readRecords(ContextCore& parent, NSError* error) const
     std::map<const NSEntityDescription*, std::set<std::int64_t>> missing;
     const auto want = [&](const NSEntityDescription& entity, std::int64_t key) {
         const NSManagedObject* known = parent.registry.find(entity.rootEntity(), key);
-        if (!known || known->isFault())
+        if (!isInserted(entity, key) && (!known || known->isFault()))
             missing[&entity.rootEntity()].insert(key);
     };
     const auto wantTargets = [&](const StoreRow& row, PropertyMask changed) {
@@ -140,6 +141,19 @@ bool ParentTransaction::readRecords(ContextCore& parent, NSError* error) const
     return true;
 }
 
+bool ParentTransaction::isInserted(const NSEntityDescription& entity, std::int64_t key) const
+{
+    const auto keys = insertedKeys_.find(&entity.rootEntity());
+    return keys != insertedKeys_.end() && keys->second.contains(key);
+}
+
+NSManagedObject* ParentTransaction::formerRecord(
+    const ContextCore& parent, const NSEntityDescription& entity, std::int64_t key) const
+{
+    // Somebody may have asked the parent for a record that is inserted only now: reading it would find nothing.
+    return isInserted(entity, key) ? nullptr : recordOfKey(parent, entity, key);
+}
+
 /// Who held a target before, and whom a deletion leaves behind. Raises where that cannot be read.
 void ParentTransaction::readOtherEnds(ContextCore& parent) const
 {
@@ -148,14 +162,14 @@ void ParentTransaction::readOtherEnds(ContextCore& parent) const
             parent.faulting.fire(*record);
     };
     const auto readEnds = [&](const StoreRow& row, PropertyMask changed) {
-        const NSManagedObject* record = recordOfKey(parent, *row.entity, row.key);
+        const NSManagedObject* record = formerRecord(parent, *row.entity, row.key);
         for (const NSRelationshipDescription* relationship : changedToOnes(row, changed)) {
             if (record)
                 fire(parent.relationships.toOne(*record, *relationship));
             const NSRelationshipDescription& inverse = relationship->inverseRelationship();
             const NSManagedObject* target = row.values.isNil(relationship->index())
                 ? nullptr
-                : recordOfKey(parent, relationship->destinationEntity(), row.values.integer(relationship->index()));
+                : formerRecord(parent, relationship->destinationEntity(), row.values.integer(relationship->index()));
             if (target && !inverse.isToMany())
                 fire(parent.relationships.toOne(*target, inverse));
         }
@@ -176,7 +190,7 @@ void ParentTransaction::apply(ContextCore& parent) const
     for (const StoreRow& row : insertions_)
         insert(parent, row);
     for (const StoreRow& row : insertions_)
-        if (NSManagedObject* record = parent.registry.find(row.entity->rootEntity(), row.key))
+        if (NSManagedObject* record = recordOfKey(parent, *row.entity, row.key))
             relate(parent, *record, row, row.values.loadedMask());
     for (const Update& changed : updates_)
         update(parent, changed.row, changed.changed);
@@ -194,7 +208,8 @@ void ParentTransaction::insert(ContextCore& parent, const StoreRow& row)
     PropertyValues values(*row.entity);
     for (const NSAttributeDescription* attribute : row.entity->attributes())
         values.assign(attribute->index(), row.values);
-    parent.adoptInsertion(*row.entity, row.key, std::move(values), loadedAttributes(row));
+    if (!parent.adoptInsertion(*row.entity, row.key, std::move(values), loadedAttributes(row)))
+        logMessage("A record was deleted in the parent context; the child's insertion was dropped");
 }
 
 void ParentTransaction::update(ContextCore& parent, const StoreRow& row, PropertyMask changed)

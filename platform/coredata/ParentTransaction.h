@@ -2,6 +2,7 @@
 
 #include "platform/coredata/NSPersistentStore.h"
 #include "platform/coredata/ParentLink.h"
+#include "platform/coredata/RelationshipMaintenance.h"
 
 #include <vector>
 
@@ -35,6 +36,9 @@ private:
         const NSEntityDescription& entity, std::int64_t key, std::int64_t& version, NSError* error);
     bool readRecords(ContextCore& parent, NSError* error) const;
     void readOtherEnds(ContextCore& parent) const;
+    bool isInserted(const NSEntityDescription& entity, std::int64_t key) const;
+    /// The parent's record of the key as it is before this save; null when it is deleted, or inserted only now.
+    NSManagedObject* formerRecord(const ContextCore& parent, const NSEntityDescription& entity, std::int64_t key) const;
     void apply(ContextCore& parent) const;
     static void insert(ContextCore& parent, const StoreRow& row);
     static void update(ContextCore& parent, const StoreRow& row, PropertyMask changed);
@@ -45,6 +49,7 @@ private:
     NSPersistentStore& store_;
     std::shared_ptr<ParentLink> parent_;
     std::vector<StoreRow> insertions_;
+    KeysOfEntities insertedKeys_;
     std::vector<Update> updates_;
     std::vector<JoinChange> joins_;
     std::vector<Deletion> deletions_;
