@@ -49,7 +49,11 @@ void OVNote::setConflictUUID(std::optional<std::string_view> conflictUUID)
 
 void OVNote::markAsConflictedFromNote(OVNote& note)
 {
+    if (&note == this)
+        return;
     const std::string root = note.conflictedRootUUID();
+    if (hasConflictedNotes() && conflictedRootUUID() != root)
+        unmarkAsConflicted(); // or the group that it was in might be left with one note
     std::vector<OVNote*> group = conflictedNotesForUniqueIdentifier(root, managedObjectContext());
     if (group.empty())
         group.push_back(&note);

@@ -52,6 +52,38 @@ TEST_P(NoteConflict, TiesACopyToTheNoteItCameFrom)
     EXPECT_FALSE(c_->hasConflictedNotes());
 }
 
+TEST_P(NoteConflict, IsNothingThatANoteHasWithItself)
+{
+    save();
+    a_->markAsConflictedFromNote(*a_);
+    EXPECT_FALSE(a_->hasConflictedNotes());
+    EXPECT_EQ(a_->conflictUniqueIdentifierDate(), std::nullopt);
+    EXPECT_FALSE(context().hasChanges());
+
+    b_->markAsConflictedFromNote(*a_);
+    const auto stamps = std::pair(a_->conflictUniqueIdentifier(), b_->conflictUniqueIdentifier());
+    save();
+    b_->markAsConflictedFromNote(*b_);
+    a_->markAsConflictedFromNote(*a_);
+    EXPECT_EQ(std::pair(a_->conflictUniqueIdentifier(), b_->conflictUniqueIdentifier()), stamps);
+    EXPECT_FALSE(context().hasChanges());
+}
+
+TEST_P(NoteConflict, LeavesNobodyAloneInTheGroupThatACopyWasIn)
+{
+    b_->markAsConflictedFromNote(*a_);
+    b_->markAsConflictedFromNote(*c_);
+    EXPECT_THAT(group(*c_), ElementsAre("B", "C"));
+    EXPECT_FALSE(a_->hasConflictedNotes());
+
+    OVNote& d = noteTitled("D");
+    a_->markAsConflictedFromNote(*c_);
+    ASSERT_THAT(group(*c_), testing::UnorderedElementsAre("A", "B", "C"));
+    b_->markAsConflictedFromNote(d);
+    EXPECT_THAT(group(d), ElementsAre("B", "D"));
+    EXPECT_THAT(titlesOf(c_->conflictedNotes()), testing::UnorderedElementsAre("A", "C"));
+}
+
 TEST_P(NoteConflict, HoldsRootAndSecondsInTheIdentifier)
 {
     // Stamps grow for the whole process, so each run has a time of its own.
