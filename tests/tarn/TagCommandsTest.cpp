@@ -91,7 +91,7 @@ TEST_F(TagCommands, DeleteATagAndForgetIt)
     note("# A\n\n#a/b\n");
     note("# B\n\n#a\n");
     output({"trash", "B"});
-    EXPECT_EQ(json({"tag", "delete", "a"}).at("notes"), 2);
+    EXPECT_EQ(json({"tag", "delete", "--yes", "a"}).at("notes"), 2);
     EXPECT_EQ(output({"show", "A"}), "# A\n");
     EXPECT_EQ(output({"show", "B"}), "# B\n");
     EXPECT_EQ(tags({"--all"}), (Titles{"a", "a/b"}));
@@ -99,6 +99,37 @@ TEST_F(TagCommands, DeleteATagAndForgetIt)
     EXPECT_EQ(pruned.at("deleted").size(), 2U);
     EXPECT_EQ(run({"tags", "--all"}).exitCode, 1);
     EXPECT_EQ(output({"tag", "prune"}), "deleted 0 tags\n");
+}
+
+TEST_F(TagCommands, AskBeforeTagsBelowAreTakenOutAsWell)
+{
+    const std::string text = "# A\n\n#a/b #a/c/d\n";
+    note(text);
+    note("# B\n\n#a #ab\n");
+    const TarnResult refused = run({"tag", "delete", "a"});
+    EXPECT_EQ(refused.exitCode, 2);
+    EXPECT_EQ(refused.errors,
+        "tarn: tag delete asks before it takes out 3 tags below as well, and there is no terminal to ask on; use "
+        "--yes\n");
+    const auto answered = [this](const std::string& answer) {
+        TarnProcess process(arguments({"tag", "delete", "a"}));
+        process.useTerminalInput();
+        process.setInput(answer);
+        return process.finish();
+    };
+    for (const std::string answer : {"n\n", "\n", "\x04"}) {
+        const TarnResult declined = answered(answer);
+        EXPECT_EQ(declined.exitCode, 1);
+        EXPECT_EQ(declined.errors, "Take \"a\" and 3 tags below it out of 2 notes? [y/N] tarn: nothing was changed\n");
+        EXPECT_EQ(output({"show", "A"}), text);
+    }
+    const TarnResult agreed = answered("y\n");
+    EXPECT_EQ(agreed.exitCode, 0) << agreed.errors;
+    EXPECT_EQ(agreed.output, "a  2 notes, 3 tags below\n");
+    EXPECT_EQ(output({"show", "A"}), "# A\n");
+    EXPECT_EQ(output({"show", "B"}), "# B\n\n#ab\n");
+    EXPECT_EQ(output({"tag", "delete", "ab"}), "ab  1 note\n") << "nobody is asked where nothing lies below";
+    EXPECT_EQ(output({"tag", "delete", "a"}), "a  0 notes\n");
 }
 
 TEST_F(TagCommands, PinATag)

@@ -31,6 +31,18 @@ bool readSome(int descriptor, std::string& text, std::size_t limit)
     return count > 0 || (count < 0 && errno == EINTR);
 }
 
+/// Both ends of a terminal, in the order of a pipe: the program's, ours.
+std::array<int, 2> openTerminal()
+{
+    const int ours = ::posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC);
+    if (ours < 0 || ::grantpt(ours) != 0 || ::unlockpt(ours) != 0)
+        throw std::runtime_error("no terminal");
+    std::array<char, 128> name{};
+    if (::ptsname_r(ours, name.data(), name.size()) != 0)
+        throw std::runtime_error("no terminal");
+    return {::open(name.data(), O_RDWR | O_NOCTTY | O_CLOEXEC), ours};
+}
+
 } // namespace
 
 TarnProcess::TarnProcess(std::vector<std::string> arguments) : arguments_(std::move(arguments))
@@ -84,6 +96,11 @@ void TarnProcess::start()
         if (::pipe2(pipe.data(), O_CLOEXEC) != 0)
             throw std::runtime_error("no pipe");
     }
+    if (terminal_) {
+        ::close(pipes[0][0]);
+        ::close(pipes[0][1]);
+        pipes[0] = openTerminal();
+    }
     pid_ = ::fork();
     if (pid_ == 0)
         runInChild(pipes[0][0], pipes[1][1], pipes[2][1]);
@@ -106,10 +123,11 @@ TarnResult TarnProcess::finish()
     TarnResult result;
     std::size_t fed = 0;
     while (outputPipe_ >= 0 || errorPipe_ >= 0) {
-        if (inputPipe_ >= 0 && fed == input_.size())
+        const bool isFed = fed == input_.size();
+        if (isFed && !terminal_) // who closes a terminal takes back what was typed
             closeDescriptor(inputPipe_);
         std::array<pollfd, 3> waiting{
-            pollfd{inputPipe_, POLLOUT, 0}, pollfd{outputPipe_, POLLIN, 0}, pollfd{errorPipe_, POLLIN, 0}};
+            pollfd{isFed ? -1 : inputPipe_, POLLOUT, 0}, pollfd{outputPipe_, POLLIN, 0}, pollfd{errorPipe_, POLLIN, 0}};
         if (::poll(waiting.data(), waiting.size(), -1) < 0)
             continue;
         if (waiting[0].revents != 0) {
@@ -124,6 +142,7 @@ TarnResult TarnProcess::finish()
         if (waiting[2].revents != 0 && !readSome(errorPipe_, result.errors, std::string::npos))
             closeDescriptor(errorPipe_);
     }
+    closeDescriptor(inputPipe_);
     waitForEnd(result);
     return result;
 }

@@ -30,6 +30,8 @@ public:
 
     void setVariable(const std::string& name, const std::string& value) { variables_[name] = value; }
     void setInput(std::string input) { input_ = std::move(input); }
+    /// Standard input is a terminal, at which the input is typed.
+    void useTerminalInput() { terminal_ = true; }
     /// Starts it without standard input, output and error.
     void closeStandardStreams() { closed_ = true; }
     /// Standard output goes to this file instead.
@@ -52,6 +54,7 @@ private:
     std::string input_;
     std::filesystem::path outputFile_;
     bool closed_ = false;
+    bool terminal_ = false;
     pid_t pid_ = -1;
     int inputPipe_ = -1;
     int outputPipe_ = -1;

@@ -1,15 +1,14 @@
 #include "tools/tarn/CommandFailure.h"
 #include "tools/tarn/CommandLine.h"
 #include "tools/tarn/Commands.h"
+#include "tools/tarn/Confirmation.h"
 #include "tools/tarn/DisplayText.h"
 #include "tools/tarn/NoteArgument.h"
 #include "tools/tarn/NoteJSON.h"
 #include "tools/tarn/NoteList.h"
 
 #include <array>
-#include <cstdio>
 #include <memory>
-#include <unistd.h>
 
 namespace tarn {
 
@@ -58,20 +57,11 @@ ExitCode changeState(const Invocation& invocation, const std::vector<std::string
     return ExitCode::Done;
 }
 
-/// Asks on the terminal; raises `CommandFailure` when there is nobody to ask.
 bool confirmsDeletion(const std::vector<OVNote*>& notes)
 {
-    if (::isatty(STDIN_FILENO) != 1)
-        throw CommandFailure(
-            ExitCode::Usage, "delete asks before it deletes, and there is no terminal to ask on; use --yes");
     const std::string what = notes.size() == 1 ? "\"" + displayText(notes.front()->title().value_or("")) + "\""
-                                               : std::to_string(notes.size()) + " notes";
-    std::fprintf(stderr, "Delete %s for good? [y/N] ", what.c_str());
-    std::fflush(stderr);
-    std::array<char, 16> answer{};
-    if (!std::fgets(answer.data(), static_cast<int>(answer.size()), stdin))
-        return false;
-    return answer[0] == 'y' || answer[0] == 'Y';
+                                               : numbered(notes.size(), "note");
+    return confirmedOnTerminal("Delete " + what + " for good?", "delete asks before it deletes");
 }
 
 ExitCode deleteNotes(const Invocation& invocation, const std::vector<std::string>& arguments, bool confirmed)
@@ -89,8 +79,7 @@ ExitCode deleteNotes(const Invocation& invocation, const std::vector<std::string
     if (invocation.json)
         writeJSON(invocation.output, document);
     else
-        invocation.output.writeLine(
-            "deleted " + std::to_string(notes.size()) + (notes.size() == 1 ? " note" : " notes"));
+        invocation.output.writeLine("deleted " + numbered(notes.size(), "note"));
     return ExitCode::Done;
 }
 

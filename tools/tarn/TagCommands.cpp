@@ -2,6 +2,7 @@
 #include "tools/tarn/CommandFailure.h"
 #include "tools/tarn/CommandLine.h"
 #include "tools/tarn/Commands.h"
+#include "tools/tarn/Confirmation.h"
 #include "tools/tarn/DisplayText.h"
 #include "tools/tarn/EditableNote.h"
 #include "tools/tarn/JSON.h"
@@ -19,16 +20,17 @@ struct TagArguments {
     std::optional<std::string> newName;
     std::vector<std::string> notes;
     bool top = false;
+    bool confirmed = false;
 };
 
-/// What a command did: the title of the tag now, and how many notes were rewritten.
-void report(const Invocation& invocation, const std::string& tag, std::size_t notes)
+/// What a command did: the title of the tag now, how many notes were rewritten, and what else there is to say.
+void report(const Invocation& invocation, const std::string& tag, std::size_t notes, const std::string& more = {})
 {
     if (invocation.json)
         writeJSON(invocation.output, {{"tag", tag}, {"notes", notes}});
     else
         invocation.output.writeLine(
-            invocation.output.styled(displayText(tag), TextStyle::Strong) + "  " + numbered(notes, "note"));
+            invocation.output.styled(displayText(tag), TextStyle::Strong) + "  " + numbered(notes, "note") + more);
 }
 
 ExitCode addTag(const Invocation& invocation, const TagArguments& arguments)
@@ -98,15 +100,32 @@ ExitCode renameTag(const Invocation& invocation, const TagArguments& arguments)
     return allFollowed(tag, *renamed) ? ExitCode::Done : ExitCode::Failed;
 }
 
+/// How many tags below one have notes; they go with it.
+std::size_t countTagsBelow(const OVNoteTag& tag, StoreSession& session)
+{
+    const auto below = NSPredicate::predicateWithFormat(
+        "title BEGINSWITH[cd] %@ AND notes.@count > 0", tag.title().value_or("") + "/");
+    return session.countOfEntity(OVNoteTag::entityInManagedObjectContext(session.context()), below);
+}
+
 ExitCode deleteTag(const Invocation& invocation, const TagArguments& arguments)
 {
     StoreSession session(invocation, StoreSession::Access::Write);
     OVNoteTag& tag = tagForArgument(*arguments.name, session);
     const std::vector<OVNote*> notes = tag.notesSet().allObjects();
     requireUnlocked(notes);
+    const std::size_t below = countTagsBelow(tag, session);
+    const std::string tagsBelow = numbered(below, "tag") + " below";
+    if (below > 0 && !arguments.confirmed
+        && !confirmedOnTerminal("Take \"" + displayText(tag.title().value_or("")) + "\" and " + tagsBelow
+                + " it out of " + numbered(notes.size(), "note") + "?",
+            "tag delete asks before it takes out " + tagsBelow + " as well")) {
+        tellOnStandardError("nothing was changed");
+        return ExitCode::Failed;
+    }
     tag.deleteTagInNotes(notes);
     session.save();
-    report(invocation, tag.title().value_or(""), notes.size());
+    report(invocation, tag.title().value_or(""), notes.size(), below > 0 ? ", " + tagsBelow : "");
     return ExitCode::Done;
 }
 
@@ -157,8 +176,8 @@ constexpr std::array kTagCommands{
         "Where the new name exists already, the two tags become one.", "tarn tag rename work 'day job'",
         Takes::NameAndNewName, renameTag},
     TagCommand{"delete", "Remove a tag, and those below it, from all notes",
-        "The hashtags are taken out of the texts; 'tarn tag prune' forgets the tag.", "tarn tag delete home/kitchen",
-        Takes::Name, deleteTag},
+        "The hashtags are taken out of the texts; 'tarn tag prune' forgets the tag. Asks when there are tags below.",
+        "tarn tag delete home/kitchen --yes", Takes::Name, deleteTag},
     TagCommand{
         "pin", "Keep a tag on top of the list", "", "tarn tag pin work", Takes::Name, changeTag<&OVNoteTag::pin>},
     TagCommand{
@@ -197,6 +216,8 @@ void addTagCommands(CommandLine& commandLine)
         addArguments(command, *arguments, tag.takes);
         if (tag.run == addTag)
             command.addFlag("--top", arguments->top, "Write the hashtag below the title instead of at the bottom");
+        if (tag.run == deleteTag)
+            command.addFlag("--yes", arguments->confirmed, "Do not ask");
     }
 }
 

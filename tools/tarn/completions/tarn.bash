@@ -34,7 +34,7 @@ _tarn()
         search) options="--limit --count --explain --all --ocr" ;;
         predicate) options="--ocr" ;;
         tags) options="--all" ;;
-        tag) options="--top" ;;
+        tag) options="--top --yes" ;;
         url) options="--title --new-window --header --tag" ;;
         delete) options="--yes" ;;
         changes) options="--since" ;;

@@ -59,6 +59,7 @@ complete -c tarn -n '__fish_seen_subcommand_from changes' -l since -x -d 'Only w
 complete -c tarn -n '__fish_seen_subcommand_from tags' -l all -d 'Also tags without active notes'
 complete -c tarn -n '__fish_seen_subcommand_from tag' -a 'add remove rename delete pin unpin prune'
 complete -c tarn -n '__fish_seen_subcommand_from tag' -l top -d 'Write the hashtag below the title'
+complete -c tarn -n '__fish_seen_subcommand_from tag' -l yes -d 'Do not ask'
 complete -c tarn -n '__fish_seen_subcommand_from conflict' -a resolve -d 'Keep one version of a note'
 complete -c tarn -n '__fish_seen_subcommand_from url' -l title -d 'Name the note by its title'
 complete -c tarn -n '__fish_seen_subcommand_from url' -l new-window -d 'Open it in a window of its own'
