@@ -94,17 +94,19 @@ SQLConditionBuilder::Condition SQLConditionBuilder::compound(
     if (depth_ >= kDeepestNesting)
         return std::nullopt;
     ++depth_;
-    const auto members = groupedMembers(predicate);
     const bool isAnd = (predicate.type == CompoundType::And) != negated;
-    Condition result = membersOfCompound(members, isAnd, scope, negated);
+    Condition result = membersOfCompound(groupedMembers(predicate), isAnd, scope, negated);
     --depth_;
     return result;
 }
 
 SQLConditionBuilder::Condition SQLConditionBuilder::membersOfCompound(
-    const std::vector<PredicateNodePtr>& members, bool isAnd, SQLScope& scope, bool negated)
+    std::vector<PredicateNodePtr> members, bool isAnd, SQLScope& scope, bool negated)
 {
     const std::string_view neutral = isAnd ? always : never;
+    std::vector<PredicateNodePtr> texts = takeTexts(members, scope);
+    const std::vector<std::string> ofTexts = textConditions(texts, isAnd, scope, negated);
+    members.insert(members.end(), texts.begin(), texts.end());
     std::vector<std::string> parts;
     for (const PredicateNodePtr& member : members) {
         Condition part = condition(*member, scope, negated);
@@ -115,6 +117,13 @@ SQLConditionBuilder::Condition SQLConditionBuilder::membersOfCompound(
         if (*part == (isAnd ? never : always))
             return part;
         parts.push_back(std::move(*part));
+    }
+    // What reads texts comes last.
+    for (const std::string& part : ofTexts) {
+        if (part == (isAnd ? never : always))
+            return part;
+        if (part != neutral)
+            parts.push_back(part);
     }
     if (parts.empty())
         return std::string(neutral);

@@ -84,8 +84,7 @@ private:
 
     // The tree (SQLConditionBuilder.cpp).
     Condition compound(const CompoundPredicate& predicate, SQLScope& scope, bool negated);
-    Condition membersOfCompound(
-        const std::vector<PredicateNodePtr>& members, bool isAnd, SQLScope& scope, bool negated);
+    Condition membersOfCompound(std::vector<PredicateNodePtr> members, bool isAnd, SQLScope& scope, bool negated);
     Condition comparison(const ComparisonPredicate& predicate, SQLScope& scope, bool negated);
 
     // Comparisons of single values (SQLComparisons.cpp).
@@ -108,6 +107,14 @@ private:
     std::string stringTest(
         const Operand& left, ComparisonOperator operation, ComparisonOptions options, const std::string& right);
     std::string boundList(const Value::Array& values);
+
+    // Texts (SQLTextConditions.cpp).
+    class TextQuestion;
+    /// Takes out the members that ask for texts, if they ask for so much that they should do so together.
+    static std::vector<PredicateNodePtr> takeTexts(std::vector<PredicateNodePtr>& members, const SQLScope& scope);
+    /// As few conditions for them as can be; leaves in `members` those that have to stand for themselves.
+    std::vector<std::string> textConditions(
+        std::vector<PredicateNodePtr>& members, bool isAnd, SQLScope& scope, bool negated);
 
     // Collections (SQLCollections.cpp).
     Condition quantified(

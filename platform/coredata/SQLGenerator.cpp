@@ -219,21 +219,36 @@ void SQLGenerator::addPredicate(const NSPredicate& predicate, Parts& parts, std:
     }
     parts.select.text.bindings.clear();
     parts.scope.joins.clear();
-    SQLConditionBuilder partial(parts.paths, parts.select.text, options_);
+    // What can be said is said as one again: words that stand side by side are one question.
+    std::vector<PredicateNodePtr> said;
     std::vector<NSPredicate> remainder;
+    SQLText trial;
     for (const PredicateNodePtr& member : conjuncts(predicate)) {
-        const std::size_t bindingCount = parts.select.text.bindings.size();
-        const std::size_t joinCount = parts.scope.joins.size();
-        auto condition = partial.condition(*member, parts.scope, false);
-        if (!condition) {
-            parts.select.text.bindings.resize(bindingCount);
-            parts.scope.joins.resize(joinCount);
+        Parts alone(selects_.schema(), *parts.scope.entity);
+        SQLConditionBuilder partial(alone.paths, trial, options_);
+        if (partial.condition(*member, alone.scope, false))
+            said.push_back(member);
+        else
             remainder.emplace_back(member);
-        } else if (*condition != SQLConditionBuilder::always) {
-            conditions.push_back(std::move(*condition));
+        trial.bindings.clear();
+    }
+    std::optional<std::string> condition;
+    for (;;) {
+        SQLConditionBuilder together(parts.paths, parts.select.text, options_);
+        condition = together.condition(PredicateNode{CompoundPredicate{CompoundType::And, said}}, parts.scope, false);
+        if (condition)
+            break;
+        // Each by itself can be said, but not all of them.
+        parts.select.text.bindings.clear();
+        parts.scope.joins.clear();
+        for (std::size_t half = said.size() - said.size() / 2; half > 0; --half) {
+            remainder.emplace_back(said.back());
+            said.pop_back();
         }
     }
     parts.select.remainder = NSPredicate::andPredicateWithSubpredicates(remainder);
+    if (*condition != SQLConditionBuilder::always)
+        conditions.push_back(std::move(*condition));
 }
 
 std::string SQLGenerator::orderBy(const StoreFetch& fetch, Parts& parts) const

@@ -1,5 +1,6 @@
 #include "platform/coredata/SQLText.h"
 
+#include "platform/coredata/RowTextTests.h"
 #include "platform/coredata/SQLiteConnection.h"
 #include "platform/coredata/SQLiteFunctions.h"
 #include "platform/predicate/PredicateTree.h"
@@ -48,6 +49,9 @@ void bindAll(SQLiteStatement& statement, const std::vector<SQLBinding>& bindings
                 [&](const SQLKeyList& list) {
                     statement.bindPointer(parameter, &list.keys->keys(), keyListPointerType);
                 },
+                [&](const std::shared_ptr<RowTextTests>& tests) {
+                    statement.bindPointer(parameter, tests.get(), rowTextTestsPointerType);
+                },
             },
             bindings[i]);
     }
@@ -66,6 +70,7 @@ std::string describeBinding(const SQLBinding& binding)
             [](const std::span<const std::int64_t>& keys) { return fmt::format("<{} keys>", keys.size()); },
             [](const KeySetPtr& keys) { return fmt::format("<{} keys>", keys->size()); },
             [](const SQLKeyList& list) { return fmt::format("<{} keys>", list.keys->size()); },
+            [](const std::shared_ptr<RowTextTests>& tests) { return tests->description(); },
         },
         binding);
 }

@@ -13,6 +13,7 @@
 
 namespace tarn {
 
+class RowTextTests;
 class SQLiteConnection;
 class SQLiteStatement;
 
@@ -27,9 +28,11 @@ struct SQLKeyList {
     KeySetPtr keys;
 };
 
-/// One argument of a statement: a scalar, a string test, keys for `key_in`, or a list for `value_list`.
-using SQLBinding = std::variant<std::int64_t, double, std::string, NSData, SQLStringTest,
-    std::shared_ptr<const Value::Array>, std::span<const std::int64_t>, KeySetPtr, SQLKeyList>;
+/// One argument of a statement: a scalar, a string test, tests for `texts_hold`, keys for `key_in`, or a list for
+/// `value_list`.
+using SQLBinding
+    = std::variant<std::int64_t, double, std::string, NSData, SQLStringTest, std::shared_ptr<const Value::Array>,
+        std::span<const std::int64_t>, KeySetPtr, SQLKeyList, std::shared_ptr<RowTextTests>>;
 
 /// A statement and its arguments: `?1` is the first one.
 struct SQLText {

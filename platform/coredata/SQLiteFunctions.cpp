@@ -1,8 +1,10 @@
 #include "platform/coredata/SQLiteFunctions.h"
 
 #include "platform/coredata/KeySet.h"
+#include "platform/coredata/RowTextTests.h"
 #include "platform/coredata/SQLiteConnection.h"
 #include "platform/coredata/SQLiteValueList.h"
+#include "platform/coredata/StoreFailure.h"
 #include "platform/foundation/Collation.h"
 #include "platform/foundation/Folding.h"
 #include "platform/predicate/StringTest.h"
@@ -87,6 +89,32 @@ void stringTestFunction(sqlite3_context* context, int, sqlite3_value** arguments
     }
 }
 
+/// What a statement within the function failed by is what the statement around it fails by.
+void textsHoldFunction(sqlite3_context* context, int count, sqlite3_value** arguments)
+{
+    auto* tests = static_cast<RowTextTests*>(sqlite3_value_pointer(arguments[0], rowTextTestsPointerType));
+    if (!tests || count != tests->argumentCount()) {
+        sqlite3_result_int(context, 0);
+        return;
+    }
+    auto& connection = *static_cast<SQLiteConnection*>(sqlite3_user_data(context));
+    std::uint32_t conditions = 0;
+    for (int i = 0; i < tests->conditionCount(); ++i)
+        conditions |= sqlite3_value_int(arguments[2 + i]) != 0 ? 1U << i : 0U;
+    const auto valueAt = [&](std::size_t place) -> std::optional<std::string_view> {
+        sqlite3_value* value = arguments[2 + tests->conditionCount() + static_cast<int>(place)];
+        return sqlite3_value_type(value) == SQLITE_NULL ? std::nullopt : std::optional(textOf(value));
+    };
+    try {
+        const bool hold = tests->hold(connection, sqlite3_value_int64(arguments[1]), conditions, valueAt);
+        sqlite3_result_int(context, hold ? 1 : 0);
+    } catch (const StoreFailure&) {
+        sqlite3_result_error_code(context, sqlite3_extended_errcode(connection.handle()));
+    } catch (const std::exception& failure) {
+        sqlite3_result_error(context, failure.what(), -1);
+    }
+}
+
 void keyInFunction(sqlite3_context* context, int, sqlite3_value** arguments)
 {
     const auto* keys = static_cast<const KeySet*>(sqlite3_value_pointer(arguments[0], keySetPointerType));
@@ -117,6 +145,9 @@ void registerSQLiteFunctions(SQLiteConnection& connection)
     if (result == SQLITE_OK)
         result = sqlite3_create_function_v2(handle, "string_test", 2, kFlags, new LastFoldedText, stringTestFunction,
             nullptr, nullptr, [](void* last) { delete static_cast<LastFoldedText*>(last); });
+    if (result == SQLITE_OK)
+        result = sqlite3_create_function_v2(handle, "texts_hold", -1, SQLITE_UTF8 | SQLITE_DIRECTONLY, &connection,
+            textsHoldFunction, nullptr, nullptr, nullptr);
     if (result == SQLITE_OK)
         result = sqlite3_create_function_v2(
             handle, "key_in", 2, kFlags, nullptr, keyInFunction, nullptr, nullptr, nullptr);

@@ -129,6 +129,11 @@ bool StringTest::matchesFolded(std::string_view folded) const
     return state_->holdsFor(folded);
 }
 
+bool StringTest::isOfLiteralAlone() const noexcept
+{
+    return state_->operation == ComparisonOperator::Contains && isFullFold(state_->options);
+}
+
 // Without both options the text is not compared folded, and folding may join what stands apart.
 std::optional<std::string_view> StringTest::foldedLiteral() const
 {

@@ -29,6 +29,8 @@ public:
     /// What an index may look for: every text that matches has it in its folded form. None when nothing like that is
     /// known. Lives as long as the test.
     std::optional<std::string_view> foldedLiteral() const;
+    /// Whether that says it all: every text that has it in its folded form matches.
+    bool isOfLiteralAlone() const noexcept;
 
 private:
     struct State;
