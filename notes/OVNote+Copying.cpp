@@ -6,6 +6,7 @@
 #include "model/OVNoteTag.h"
 #include "model/OVPassword.h"
 #include "model/RecordCopying.h"
+#include "notes/EditGuard.h"
 #include "platform/coredata/NSManagedObjectContext.h"
 
 namespace tarn {
@@ -54,11 +55,12 @@ OVNote* OVNote::mergeNotes(const std::vector<OVNote*>& notes)
 {
     if (notes.size() < 2)
         return nullptr;
-    // Read first: a note that is locked ends the merge before anything has changed.
+    // Read first: a note or an attachment that is locked ends the merge before anything has changed.
     std::vector<std::string> texts;
     texts.reserve(notes.size());
     for (const OVNote* note : notes)
         texts.push_back(note->text().value_or(""));
+    EditGuard::requireReadableAttachments(notes);
 
     OVNote* merger = insertInManagedObjectContext(notes.front()->managedObjectContext());
     std::string merged;

@@ -3,6 +3,8 @@
 #include "model/OVNote.h"
 #include "model/OVNoteGenericFile.h"
 #include "model/OVNoteImage.h"
+#include "notes/EditGuard.h"
+#include "notes/TitlePropagation.h"
 #include "platform/foundation/NSDate.h"
 #include "platform/foundation/PercentEncoding.h"
 #include "platform/foundation/UTF.h"
@@ -25,11 +27,14 @@ std::int16_t clampedCount(std::size_t count)
 
 using FilesByName = std::unordered_map<std::string, OVNoteFile*>;
 
-/// The attachments that a link can name. Of several with one name a used one counts, of these the last.
+/// The attachments that a link can name. Of several with one name a used one counts, of these the last. Locked ones are
+/// not asked for theirs.
 FilesByName filesByName(const OVNote& note)
 {
     FilesByName files;
     for (OVNoteFile* file : note.filesSet().allObjects()) {
+        if (EditGuard::isUnreadable(*file) && file->encryptionCoreManager())
+            continue;
         const auto name = file->filename();
         if (name && !(file->isUnused() && files.contains(*name)))
             files[*name] = file;
@@ -88,6 +93,8 @@ void OVNote::updateNoteWithAST(const CVKAST& document)
 
 void OVNote::updateNoteWithAST(const CVKAST& document, bool updateModificationDate)
 {
+    if (!TitlePropagation::isRewriting(*this))
+        EditGuard::requireEditable(*this, document.textSummary().title);
     setText(document.markdown());
     updateNoteFromTextSummary(document.textSummary());
     if (updateModificationDate)
@@ -127,10 +134,18 @@ void OVNote::updateFilesFromTextSummary(const CVKTextSummary& summary)
         linksImage = linksImage || dynamic_cast<OVNoteImage*>(file);
         linksFile = linksFile || dynamic_cast<OVNoteGenericFile*>(file);
     }
+    for (OVNoteFile* file : filesSet().allObjects()) {
+        // Nobody can say that the text does not link it, and what is unused gets deleted.
+        const bool staysInUse = !file->isUnused() && EditGuard::isUnreadable(*file);
+        linksImage = linksImage || (staysInUse && dynamic_cast<OVNoteImage*>(file));
+        linksFile = linksFile || (staysInUse && dynamic_cast<OVNoteGenericFile*>(file));
+    }
     setHasImagesValue(linksImage);
     setHasFilesValue(linksFile);
-    for (const auto& [name, file] : unlinked)
-        file->setUnused();
+    for (const auto& [name, file] : unlinked) {
+        if (!EditGuard::isUnreadable(*file))
+            file->setUnused();
+    }
 }
 
 } // namespace tarn

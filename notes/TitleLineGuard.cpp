@@ -18,6 +18,8 @@ std::string firstMarkdownLineOf(const OVNote& note)
     return text;
 }
 
+} // namespace
+
 bool titleLineLinksTo(const OVNote& note, std::string_view title)
 {
     if (note.encryptedValue())
@@ -31,8 +33,6 @@ bool titleLineLinksTo(const OVNote& note, std::string_view title)
     return std::any_of(
         links.begin(), links.end(), [&key](const CVKWikiLink& link) { return fold(link.decodedTitle()) == key; });
 }
-
-} // namespace
 
 bool TitleLineGuard::walk(
     OVNote& note, std::string_view title, OVNote::VisitedNotes& visited, std::vector<Passed>* passed)

@@ -9,6 +9,9 @@
 
 namespace tarn {
 
+/// Whether the note's first line, where a title is, holds a link to this title. NO for a protected note.
+bool titleLineLinksTo(const OVNote& note, std::string_view title);
+
 /// Says whether the title line of a note may follow the new title of a note that it links to.
 ///
 /// A changed title line is a changed title, which is to be followed by those that link to it, and so on; when such a

@@ -68,7 +68,7 @@ void TitlePropagation::titleChanged(
         return;
     auto linkedNew = linkedTitle(note, newTitle);
     auto linkedOld = linkedTitle(note, oldTitle);
-    if (current_ && current_->beingRewritten_ == &note) {
+    if (isRewriting(note)) {
         current_->add(note, std::move(linkedNew), std::move(linkedOld));
         return;
     }

@@ -20,6 +20,8 @@ public:
     /// The title of the note was `oldTitle` and is `newTitle` now; none: never had one. Returns when all has followed.
     static void titleChanged(
         OVNote& note, std::optional<std::string_view> newTitle, std::optional<std::string_view> oldTitle);
+    /// Whether the note is being rewritten for a title on its way: what it comes to was asked for when that began.
+    static bool isRewriting(const OVNote& note) { return current_ && current_->beingRewritten_ == &note; }
     /// The text of the note, or which links lead to it, changed: whatever run is on its way looks again.
     static void forget(const OVNote& note);
 

@@ -2,10 +2,10 @@
 #include "corvel/CVKHashtag.h"
 #include "model/OVNote.h"
 #include "model/OVNoteTag.h"
+#include "notes/EditGuard.h"
 #include "notes/OVNoteCacheLoan.h"
 #include "platform/foundation/Folding.h"
 #include "platform/foundation/NSDate.h"
-#include "tags/ReadableNotesInternal.h"
 #include "tags/TagLookupInternal.h"
 
 #include <map>
@@ -73,7 +73,8 @@ OVNoteTag* OVNoteTag::rename(std::string_view newName, const std::vector<OVNote*
     if (!existing)
         return nullptr;
     const std::vector<OVNote*> renamed = notes ? *notes : notesSet().allObjects();
-    requireReadableTexts(renamed);
+    EditGuard::requireRewritable(
+        renamed, [&](const std::string& text) { return CVKHashtag::renameTagName(oldTitle, newTitle, text); });
 
     rewriteNotes(renamed, oldTitle, newTitle);
     OVNoteTag* newTag = lookUpTag(newTitle, context).value_or(nullptr);

@@ -2,7 +2,7 @@
 #include "corvel/CVKHashtag.h"
 #include "model/OVNote.h"
 #include "model/OVNoteTag.h"
-#include "tags/ReadableNotesInternal.h"
+#include "notes/EditGuard.h"
 
 namespace tarn {
 
@@ -16,16 +16,16 @@ void OVNoteTag::addTagToNotes(const std::vector<OVNote*>& notes, bool bottom)
         if (!note->tagsSet().containsObject(*this))
             untagged.push_back(note);
     }
-    requireReadableTexts(untagged);
     const std::string name = title().value_or("");
+    const auto withTag = [&](const std::string& text) {
+        return bottom ? CVKHashtag::addTagNameToTheBottomOfString(name, text)
+                      : CVKHashtag::addTagNameToTheTopOfString(name, text);
+    };
+    EditGuard::requireRewritable(untagged, withTag);
     for (OVNote* note : untagged) {
         // The same note may have been named twice.
-        if (note->isDeleted() || note->tagsSet().containsObject(*this))
-            continue;
-        const std::string text = note->text().value_or("");
-        note->updateNoteWithAST(bottom ? CVKHashtag::addTagNameToTheBottomOfString(name, text)
-                                       : CVKHashtag::addTagNameToTheTopOfString(name, text),
-            false);
+        if (!note->isDeleted() && !note->tagsSet().containsObject(*this))
+            note->updateNoteWithAST(withTag(note->text().value_or("")), false);
     }
 }
 
@@ -36,11 +36,12 @@ void OVNoteTag::deleteTag()
 
 void OVNoteTag::deleteTagInNotes(const std::vector<OVNote*>& notes)
 {
-    requireReadableTexts(notes);
     const std::string name = title().value_or("");
+    const auto withoutTag = [&](const std::string& text) { return CVKHashtag::removeTagName(name, text); };
+    EditGuard::requireRewritable(notes, withoutTag);
     for (OVNote* note : std::vector<OVNote*>(notes)) {
         if (!note->isDeleted())
-            note->updateNoteWithAST(CVKHashtag::removeTagName(name, note->text().value_or("")), false);
+            note->updateNoteWithAST(withoutTag(note->text().value_or("")), false);
     }
 }
 
