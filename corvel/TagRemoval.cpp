@@ -43,11 +43,18 @@ public:
     {
         std::vector<CVKTextEdit> edits;
         for (const SourceRange range : removed_)
-            edits.push_back({{range.begin, range.length()}, ""});
+            edits.push_back({{range.begin, range.length()}, joinsLineEnd(range) ? "\n" : ""});
         return edits;
     }
 
 private:
+    /// Whether a CR and an LF that are two line ends would become one.
+    bool joinsLineEnd(SourceRange removed) const
+    {
+        return removed.begin > 0 && text_[removed.begin - 1] == '\r' && removed.end < text_.size()
+            && text_[removed.end] == '\n';
+    }
+
     void removeFromLine(SourceRange line, const std::vector<SourceRange>& hashtags)
     {
         if (hashtags.empty())
@@ -141,7 +148,11 @@ private:
     {
         if (!removed_.empty())
             range.begin = std::max(range.begin, removed_.back().end);
-        if (range.begin < range.end)
+        if (range.begin >= range.end)
+            return;
+        if (!removed_.empty() && range.begin == removed_.back().end)
+            removed_.back().end = range.end;
+        else
             removed_.push_back(range);
     }
 
