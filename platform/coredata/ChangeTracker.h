@@ -32,6 +32,8 @@ public:
     std::vector<NSManagedObject*> updatedObjects() const;
     std::vector<NSManagedObject*> deletedObjects() const;
     bool hasChanges() const;
+    /// False only when there are none; asks no record.
+    bool mayHaveChanges() const noexcept { return !states_.empty(); }
     /// Null when nothing of that chain is pending.
     const PendingRecords* pending(const NSEntityDescription& root) const;
 

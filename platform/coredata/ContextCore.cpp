@@ -358,41 +358,6 @@ void ContextCore::rollback()
         scheduleProcessing();
 }
 
-void ContextCore::refresh(NSManagedObject& object, bool mergeChanges)
-{
-    assertOnQueue();
-    if (object.isInserted() || object.isDeleted() || object.isFault())
-        return;
-    if (!mergeChanges || !object.hasChanges()) {
-        if (object.hasChanges())
-            discardChanges(object);
-        relationships.unload(object);
-        RecordAccess::markFault(object);
-        faulting.noteFault(object);
-        noteRefreshed(object);
-        return;
-    }
-    const std::int64_t key = object.objectID().key();
-    std::vector<StoreRow> rows;
-    NSError error;
-    if (!store().rowsForKeys(object.entity().rootEntity(), std::span(&key, 1), RowContents::Row, rows, &error)) {
-        logMessage("Error while refreshing\n" + error.localizedDescription());
-        return;
-    }
-    if (rows.empty()) {
-        noteGone(object);
-        return;
-    }
-    PropertyValues values = rows.front().values;
-    const PropertyMask changed = RecordAccess::details(object).rowChanged;
-    for (const NSPropertyDescription* property : object.entity().properties())
-        if (changed & propertyBit(property->index()))
-            values.assign(property->index(), RecordAccess::values(object));
-    RecordAccess::details(object).committed = std::move(rows.front().values);
-    RecordAccess::fill(object, std::move(values), rows.front().version);
-    noteRefreshed(object);
-}
-
 void ContextCore::reset()
 {
     assertOnQueue();
@@ -401,6 +366,7 @@ void ContextCore::reset()
     fromChildren_.clear();
     publish();
     faulting.clear();
+    relationships.clear();
     registry.clear();
 }
 

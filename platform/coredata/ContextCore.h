@@ -89,6 +89,9 @@ public:
     void scheduleProcessing();
     void rollback();
     void refresh(NSManagedObject& object, bool mergeChanges);
+    void refreshAll();
+    /// Reads one record's row and sets again, at next use; at once where unsaved changes stay on top.
+    void readAgain(NSManagedObject& object);
     void reset();
     bool obtainPermanentIDs(std::span<NSManagedObject* const> objects, NSError* error);
     /// Gives a record another identifier, also where others name it; it still answers to the one that it had.
@@ -101,6 +104,8 @@ private:
         std::int64_t end = 0;
     };
     void discardChanges(NSManagedObject& object);
+    void readBelowChanges(NSManagedObject& object);
+    void mergeBelowChanges(NSManagedObject& object, StoreRow row);
     void cancelInsertion(NSManagedObject& object);
     const PropertyValues& defaultValues(const NSEntityDescription& entity);
     bool takeKey(const NSEntityDescription& root, std::int64_t& key, NSError* error);

@@ -25,6 +25,9 @@ constexpr std::size_t batchSize = 100;
 void Faulting::noteFault(NSManagedObject& object)
 {
     auto& faults = faults_[&object.entity().rootEntity()];
+    // What is read again and again keeps its place.
+    if (const std::uint32_t place = RecordAccess::order(object); place < faults.size() && faults[place] == &object)
+        return;
     RecordAccess::setOrder(object, static_cast<std::uint32_t>(faults.size()));
     faults.push_back(&object);
 }
@@ -107,6 +110,9 @@ void Faulting::loadInverseToOne(const NSManagedObject& object, const NSRelations
         const PropertyIndex inverse = relationship.inverseRelationship().index();
         if (target.isDeleted() || (RecordAccess::changed(target) & propertyBit(inverse)))
             continue;
+        // It was read before another writer moved it.
+        if (!target.isFault() && RecordAccess::values(target).integer(inverse) != id.key())
+            core_.readAgain(target);
         values.setInteger(relationship.index(), candidate.key);
         return;
     }
@@ -129,7 +135,9 @@ NSManagedObject& Faulting::adopt(StoreRow row)
 
 void Faulting::takeRow(NSManagedObject& object, StoreRow row)
 {
+    const PropertyValues before = std::move(RecordAccess::values(object));
     RecordAccess::fill(object, std::move(row.values), row.version);
+    core_.relationships.followRow(object, before);
 }
 
 } // namespace tarn

@@ -227,8 +227,7 @@ void NSManagedObjectContext::refreshObject(NSManagedObject& object, bool mergeCh
 
 void NSManagedObjectContext::refreshAllObjects()
 {
-    for (NSManagedObject* object : registeredObjects())
-        core_->refresh(*object, true);
+    core_->refreshAll();
 }
 
 void NSManagedObjectContext::reset()

@@ -4,6 +4,7 @@
 #include "platform/coredata/RecordAccess.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace tarn {
 
@@ -156,9 +157,9 @@ void ToManySet::unload()
 
 void ToManySet::forgetStored()
 {
-    members_.clear();
     index_.clear();
-    loaded_ = false;
+    if (std::exchange(loaded_, false))
+        maintenance(*owner_).noteForgotten(*this);
 }
 
 } // namespace tarn

@@ -47,7 +47,8 @@ private:
     NSManagedObject* owner_;
     const NSRelationshipDescription* relationship_;
     bool loaded_ = false;
-    std::vector<NSManagedObject*> members_;                    ///< only while loaded
+    std::size_t place_ = 0;                                    ///< among the loaded sets of the context
+    std::vector<NSManagedObject*> members_;                    ///< while not loaded those that were, if any
     mutable std::unordered_set<const NSManagedObject*> index_; ///< of members_, once there are many
     std::vector<NSManagedObject*> added_;
     std::vector<NSManagedObject*> removed_;

@@ -185,11 +185,8 @@ void RelationshipMaintenance::loadMembers(ToManySet& set)
         return;
     const NSManagedObject& owner = *set.owner_;
     const NSRelationshipDescription& relationship = set.relationship();
-    std::vector<RelatedKey> keys;
-    NSError error;
-    if (!owner.objectID().isTemporaryID() && !RecordAccess::isGone(owner) && !owner.isInserted()
-        && !core_.store().relatedKeys(relationship, owner.objectID().key(), keys, &error))
-        raiseUnreadable(relationship, error);
+    const std::vector<RelatedKey> keys = storedKeys(owner, relationship);
+    readMovedMembers(set, keys);
 
     // Where the members' rows say it, an unsaved change there has the last word.
     const NSRelationshipDescription& inverse = relationship.inverseRelationship();
@@ -215,6 +212,19 @@ void RelationshipMaintenance::loadMembers(ToManySet& set)
     set.members_ = std::move(members);
     set.index_.clear();
     set.loaded_ = true;
+    noteLoaded(set);
+    forgetSetsWithoutOwner(set);
+}
+
+std::vector<RelatedKey> RelationshipMaintenance::storedKeys(
+    const NSManagedObject& owner, const NSRelationshipDescription& relationship)
+{
+    std::vector<RelatedKey> keys;
+    NSError error;
+    if (!owner.objectID().isTemporaryID() && !RecordAccess::isGone(owner) && !owner.isInserted()
+        && !core_.store().relatedKeys(relationship, owner.objectID().key(), keys, &error))
+        raiseUnreadable(relationship, error);
+    return keys;
 }
 
 std::size_t RelationshipMaintenance::countMembers(ToManySet& set)
@@ -331,7 +341,7 @@ void RelationshipMaintenance::forgetEndsWithoutColumn(NSManagedObject& record)
     if (record.isFault() || record.isDeleted())
         return;
     const NSEntityDescription& entity = record.entity();
-    PropertyMask rest = entity.inverseColumnMask() & ~entity.toManyMask();
+    PropertyMask rest = entity.inverseColumnMask() & ~entity.toManyMask() & ~RecordAccess::changed(record);
     for (; rest != 0; rest &= rest - 1)
         RecordAccess::values(record).setUnloaded(static_cast<PropertyIndex>(std::countr_zero(rest)));
 }

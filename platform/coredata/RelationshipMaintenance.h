@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/coredata/NSManagedObjectSet.h"
+#include "platform/coredata/NSPersistentStore.h"
 
 #include <cstdint>
 #include <unordered_map>
@@ -51,13 +52,44 @@ public:
     /// An unsaved record has another key than `former` now: who names it names it by that one.
     void followKey(const NSManagedObject& record, std::int64_t former);
 
+    // When records are read again (RelationshipRefresh.cpp) ---------------------------------------------------------
+    /// The record's row was read; `before` are the values that it had, empty for a fault. Where it names another record
+    /// than before, what is known there is read again; one to one, an unsaved change there has the last word.
+    void followRow(NSManagedObject& record, const PropertyValues& before);
+    /// The record is going to be read again: so is what is known of it at the other ends.
+    void forgetOtherEnds(NSManagedObject& record);
+    /// Those whose rows name the record, one to one, and show the store.
+    std::vector<NSManagedObject*> holdersOf(const NSManagedObject& record) const;
+    /// Brings the record's changed relationships back to what was saved, at both ends. Where another unsaved record
+    /// has taken its place one to one, that one gives way.
+    void takeBack(NSManagedObject& record);
+
+    // Called by sets: which of them are loaded.
+    void noteLoaded(ToManySet& set);
+    void noteForgotten(ToManySet& set);
+    /// Before all records go.
+    void clear() { loaded_.clear(); }
+
 private:
+    std::vector<RelatedKey> storedKeys(const NSManagedObject& owner, const NSRelationshipDescription& relationship);
+    void forgetEnd(const NSRelationshipDescription& relationship, std::int64_t key);
+    void meetEnd(NSManagedObject& record, const NSRelationshipDescription& relationship, NSManagedObject& target);
+    /// Members that say otherwise than the store were moved by another writer since they were read.
+    void readMovedMembers(const ToManySet& set, const std::vector<RelatedKey>& stored);
+    /// Sets of members that were read before another writer made them members.
+    void forgetSetsWithoutOwner(const ToManySet& set);
+    std::vector<NSManagedObject*> changedHolders(
+        const NSManagedObject& record, const NSRelationshipDescription& relationship);
+    void takeBackToOne(NSManagedObject& holder, const NSRelationshipDescription& relationship);
+    void takeBackJoins(NSManagedObject& record, const NSRelationshipDescription& relationship);
+    void forgetChange(NSManagedObject& record, const NSRelationshipDescription& relationship, NSManagedObject& member);
     void forgetGone(NSManagedObject& record);
     void store(NSManagedObject& record, const NSRelationshipDescription& relationship, NSManagedObject* target);
     void attachInverse(NSManagedObject& target, const NSRelationshipDescription& inverse, NSManagedObject& record);
     void detachInverse(NSManagedObject& target, const NSRelationshipDescription& inverse, NSManagedObject& record);
 
     ContextCore& core_;
+    std::vector<ToManySet*> loaded_;
 };
 
 } // namespace tarn

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <map>
+#include <set>
 #include <utility>
 
 namespace tarn {
@@ -70,6 +71,50 @@ std::string textOfRecord(const NSManagedObject& record)
         text += attribute->name() + '=' + textOfValue(record.storedValueForKey(attribute->name())) + "; ";
     for (const NSRelationshipDescription* relationship : record.entity().relationships())
         text += relationship->name() + '=' + textOfRelated(record, *relationship) + "; ";
+    return text;
+}
+
+std::set<const NSManagedObject*> relatedTo(const NSManagedObject& record, const NSRelationshipDescription& relationship)
+{
+    std::set<const NSManagedObject*> related;
+    if (relationship.isToMany()) {
+        const auto& members = record.toManyAt(relationship.index()).members();
+        related.insert(members.begin(), members.end());
+    } else if (const NSManagedObject* target = record.toOneAt(relationship.index())) {
+        related.insert(target);
+    }
+    return related;
+}
+
+/// Where an end of a relationship of this record says what the other does not, a line each.
+std::string disagreementsOf(const NSManagedObject& record)
+{
+    std::string text;
+    const auto note
+        = [&](const NSManagedObject& one, const NSRelationshipDescription& relationship, const NSManagedObject& other) {
+              text += one.objectID().URIRepresentation() + ' ' + relationship.name() + " names "
+                  + other.objectID().URIRepresentation() + ", which does not know\n";
+          };
+    for (const NSRelationshipDescription* relationship : record.entity().relationships()) {
+        const auto related = relatedTo(record, *relationship);
+        const NSRelationshipDescription& inverse = relationship->inverseRelationship();
+        for (const NSManagedObject* other : related)
+            if (!relatedTo(*other, inverse).contains(&record))
+                note(record, *relationship, *other);
+        for (const NSManagedObject* other : record.managedObjectContext().registeredObjects())
+            if (other->entity().isKindOfEntity(relationship->destinationEntity()) && !other->isDeleted()
+                && !related.contains(other) && relatedTo(*other, inverse).contains(&record))
+                note(*other, inverse, record);
+    }
+    return text;
+}
+
+std::string disagreements(NSManagedObjectContext& context)
+{
+    std::string text;
+    for (const NSManagedObject* record : context.registeredObjects())
+        if (!record->isDeleted())
+            text += disagreementsOf(*record);
     return text;
 }
 
@@ -191,6 +236,58 @@ TEST_P(RemoteMergeDifferential, AnEditedContextShowsTheStoreOnceItIsSavedOrRolle
 
             ASSERT_EQ(differences(snapshotOf(*context_), snapshotOfStore()), "")
                 << (isSaved ? "saved" : "rolled back") << " in round " << round;
+        }
+    }
+}
+
+TEST_P(RemoteMergeDifferential, ARefreshedContextShowsTheStoreUnderItsChanges)
+{
+    const unsigned seeds = GetParam() == StoreType::SQLite ? 8 : 60;
+    for (unsigned seed = 301; seed <= 300 + seeds; ++seed) {
+        SCOPED_TRACE(testing::Message() << "seed " << seed);
+        RandomLibrary library(*context_, seed);
+        begin(library);
+        for (int round = 0; round < 6; ++round) {
+            snapshotOf(*context_);
+            library.setContext(*context_);
+            const bool isEdited = library.below(3) != 0;
+            if (isEdited)
+                library.change(1 + library.below(5));
+            saveThere(library, 1 + library.below(6));
+            context_->refreshAllObjects();
+
+            ASSERT_EQ(disagreements(*context_), "") << "round " << round;
+            const std::string differing = differences(snapshotOf(*context_), snapshotOfStore());
+            ASSERT_TRUE(context_->hasChanges() || differing.empty()) << differing << "round " << round;
+            library.below(3) != 0 ? save() : context_->rollback();
+            ASSERT_EQ(disagreements(*context_), "") << "round " << round;
+            ASSERT_EQ(differences(snapshotOf(*context_), snapshotOfStore()), "") << "round " << round;
+            other_->reset();
+        }
+    }
+}
+
+TEST_P(RemoteMergeDifferential, ARefreshedRecordAgreesWithTheOtherEnds)
+{
+    const unsigned seeds = GetParam() == StoreType::SQLite ? 8 : 60;
+    for (unsigned seed = 401; seed <= 400 + seeds; ++seed) {
+        SCOPED_TRACE(testing::Message() << "seed " << seed);
+        RandomLibrary library(*context_, seed);
+        begin(library);
+        for (int round = 0; round < 6; ++round) {
+            snapshotOf(*context_);
+            library.setContext(*context_);
+            if (library.below(2) == 0)
+                library.change(1 + library.below(3));
+            saveThere(library, 1 + library.below(4));
+            const auto known = context_->registeredObjects();
+            NSManagedObject* const refreshed = known.at(library.below(known.size()));
+            context_->refreshObject(*refreshed, library.below(2) == 0);
+            ASSERT_EQ(disagreementsOf(*refreshed), "") << "round " << round;
+            context_->rollback();
+            context_->refreshAllObjects();
+            ASSERT_EQ(differences(snapshotOf(*context_), snapshotOfStore()), "") << "round " << round;
+            other_->reset();
         }
     }
 }

@@ -1,0 +1,102 @@
+#include "platform/coredata/ContextCore.h"
+
+#include "platform/coredata/MergeConflicts.h"
+#include "platform/coredata/RecordAccess.h"
+#include "platform/foundation/Log.h"
+
+#include <bit>
+#include <utility>
+
+namespace tarn {
+
+void ContextCore::refresh(NSManagedObject& object, bool mergeChanges)
+{
+    assertOnQueue();
+    if (object.isInserted() || object.isDeleted())
+        return;
+    if (!mergeChanges && object.hasChanges()) {
+        relationships.takeBack(object);
+        discardChanges(object);
+        pendingIndex.touch(object, ~PropertyMask{0});
+    }
+    // Below unsaved changes of others it may say what nobody saved.
+    if (tracker.mayHaveChanges())
+        holdsMergedRelationships = true;
+    for (NSManagedObject* holder : relationships.holdersOf(object))
+        readAgain(*holder);
+    readAgain(object);
+}
+
+void ContextCore::refreshAll()
+{
+    assertOnQueue();
+    const auto objects = registry.objects();
+    for (NSManagedObject* object : objects)
+        relationships.forgetStoredMembers(*object);
+    for (NSManagedObject* object : objects)
+        refresh(*object, true);
+}
+
+void ContextCore::readAgain(NSManagedObject& object)
+{
+    if (object.isInserted() || object.isDeleted())
+        return;
+    if (object.hasChanges())
+        return readBelowChanges(object);
+    relationships.forgetOtherEnds(object);
+    relationships.forgetStoredMembers(object);
+    if (object.isFault())
+        return;
+    RecordAccess::markFault(object);
+    faulting.noteFault(object);
+    noteRefreshed(object);
+}
+
+void ContextCore::readBelowChanges(NSManagedObject& object)
+{
+    const auto read = [&](RowContents contents, std::vector<StoreRow>& rows) {
+        const std::int64_t key = object.objectID().key();
+        NSError error;
+        rows.clear();
+        const bool isRead
+            = store().rowsForKeys(object.entity().rootEntity(), std::span(&key, 1), contents, rows, &error);
+        if (!isRead)
+            logMessage("Error while refreshing\n" + error.localizedDescription());
+        return isRead;
+    };
+    std::vector<StoreRow> rows;
+    if (!read(RowContents::Row, rows))
+        return;
+    const bool hasMoved = !rows.empty() && rows.front().version != object.rowVersion();
+    if (hasMoved && !read(RowContents::WholeRow, rows))
+        return;
+    if (rows.empty()) {
+        logMessage(
+            "Another writer deleted " + object.objectID().URIRepresentation() + "; its unsaved changes were dropped");
+        noteGone(object);
+        relationships.dropReferences({{&object.entity().rootEntity(), {object.objectID().key()}}});
+        return;
+    }
+    relationships.forgetOtherEnds(object);
+    if (hasMoved)
+        mergeBelowChanges(object, std::move(rows.front()));
+    relationships.forgetEndsWithoutColumn(object);
+    noteRefreshed(object);
+}
+
+void ContextCore::mergeBelowChanges(NSManagedObject& object, StoreRow row)
+{
+    const PropertyValues before = RecordAccess::values(object);
+    RecordDetails& details = RecordAccess::details(object);
+    const NSEntityDescription& entity = object.entity();
+    // What was set at an end whose column is the other one's says nothing of this row.
+    const PropertyMask ends = details.changed & entity.inverseColumnMask() & ~entity.toManyMask();
+    mergeRowIntoRecord(*this, object, std::move(row), MergeWinner::Context);
+    for (PropertyMask rest = ends; rest != 0; rest &= rest - 1)
+        RecordAccess::values(object).assign(static_cast<PropertyIndex>(std::countr_zero(rest)), before);
+    details.changed |= ends;
+    pendingIndex.touch(object, ~PropertyMask{0});
+    relationships.followRow(object, before);
+}
+
+} // namespace tarn
