@@ -6,6 +6,8 @@
 #include "platform/foundation/Folding.h"
 #include "tests/support/TextKeeper.h"
 
+#include <ctime>
+
 namespace tarn {
 namespace {
 
@@ -209,6 +211,37 @@ TEST_P(TitlePropagation, KeepsWhatTheGuardFoundUntilANoteOnTheWayChanges)
     guard.forget(g);
     EXPECT_FALSE(guard.allows(f, "E")) << "its walk went over the note that changed";
     static_cast<void>(c), static_cast<void>(e);
+
+    OVNote& k = note("# K [[E]]");
+    OVNote& l = note("# L [[E]]");
+    OVNote& m = note("# M [[K E]] [[L E]]");
+    EXPECT_TRUE(guard.allows(k, "E"));
+    EXPECT_TRUE(guard.allows(l, "E")) << "another way to the same note";
+    note("# N\n[[M K E L E]] [[M K E L E]]");
+    guard.forget(m);
+    EXPECT_FALSE(guard.allows(l, "E"));
+    EXPECT_FALSE(guard.allows(k, "E")) << "the way that was found first is forgotten as well";
+}
+
+TEST_P(TitlePropagation, LooksAgainWhereLinksAreFoundOnItsWay)
+{
+    OVNote& a = note("# A");
+    OVNote& namesake = note("# E C S A");
+    note("# S [[A]]");
+    note("# B [[S A]]");
+    OVNote& c = note("# C [[S A]]");
+    OVNote& e = note("# E [[C S A]]");
+    OVNote& q = note("# Q [[B S A]]\n[[E C S A]] [[E C S A]]");
+    ASSERT_EQ(namesake.linkedBySet().count(), 2U);
+    namesake.permanentlyDelete();
+    ASSERT_EQ(e.linkedBySet().count(), 0U) << "the links wait until their text is parsed again";
+
+    a.updateNoteWithText("# Z");
+
+    EXPECT_EQ(q.text(), "# Q [[B S Z]]\n[[E C S A]] [[E C S A]]");
+    EXPECT_EQ(e.linkedBySet().count(), 2U) << "parsed on the way";
+    EXPECT_EQ(c.text(), "# C [[S A]]") << "two links from one note are a ring";
+    EXPECT_EQ(e.text(), "# E [[C S A]]");
 }
 
 TEST_P(TitlePropagation, NeverReadsAnEncryptedNoteForTheGuard)
@@ -371,6 +404,23 @@ TEST_P(TitleChain, OfFiveThousandTitlesIsFollowedToItsEnd)
     title.front() = 'B';
     EXPECT_EQ(*last->title(), title);
     EXPECT_EQ(last->text(), "# [[" + title.substr(0, title.size() - 1) + "]]x");
+}
+
+TEST_P(TitleChain, IsWalkedOnceAndNotFromEachOfItsNotes)
+{
+    // Processor time, since other programs run beside; from each of its notes it would take a hundred times as long.
+    constexpr int length = 1500;
+    constexpr int mostTimes = 12;
+    const std::clock_t begin = std::clock();
+    OVNote& first = note("# A");
+    std::string title = "A";
+    for (int number = 1; number < length; ++number) {
+        note("# [[" + title + "]]x");
+        title += 'x';
+    }
+    const std::clock_t made = std::clock();
+    first.updateNoteWithText("# B");
+    EXPECT_LT(std::clock() - made, mostTimes * (made - begin));
 }
 
 } // namespace
