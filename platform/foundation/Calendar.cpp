@@ -1,56 +1,55 @@
 #include "platform/foundation/Calendar.h"
 
 #include "platform/foundation/CalendarInternal.h"
-#include "platform/foundation/Environment.h"
 
 #include <cmath>
-#include <mutex>
+#include <memory>
 
 namespace tarn {
 
-std::unique_ptr<icu::TimeZone> timeZoneNamed(const std::string& identifier)
+double icuDate(WallTime wall) noexcept
 {
-    return std::unique_ptr<icu::TimeZone>(icu::TimeZone::createTimeZone(icu::UnicodeString::fromUTF8(identifier)));
+    return static_cast<double>(wall.time_since_epoch().count()) / 1'000;
 }
 
-double icuDate(NSDate date) noexcept
+WallTime wallTimeWithICUDate(double milliseconds) noexcept
 {
-    return static_cast<double>(microsecondsSince1970(date)) / 1'000;
-}
-
-NSDate dateWithICUDate(double milliseconds) noexcept
-{
-    return dateWithMicrosecondsSince1970(std::llround(milliseconds * 1'000));
+    return WallTime(NSDate::duration(std::llround(milliseconds * 1'000)));
 }
 
 namespace {
 
-/// A calendar in the zone, a copy of one that is kept: making one from nothing takes ICU ten times as long.
-std::unique_ptr<icu::GregorianCalendar> calendarInZone(const std::string& identifier)
+/// A copy of one that is kept: making one from nothing takes ICU ten times as long.
+std::unique_ptr<icu::GregorianCalendar> calendarOfTheWall()
 {
-    static std::mutex mutex;
-    static std::string zoneOfPrototype;
-    static std::unique_ptr<const icu::GregorianCalendar> prototype;
-    const std::scoped_lock lock(mutex);
-    if (!prototype || zoneOfPrototype != identifier) {
+    static const icu::GregorianCalendar prototype = [] {
         UErrorCode status = U_ZERO_ERROR;
-        prototype = std::make_unique<const icu::GregorianCalendar>(
-            *timeZoneNamed(identifier), icu::Locale::getRoot(), status);
-        zoneOfPrototype = identifier;
-    }
-    return std::make_unique<icu::GregorianCalendar>(*prototype);
+        return icu::GregorianCalendar(*icu::TimeZone::getGMT(), icu::Locale::getRoot(), status);
+    }();
+    return std::make_unique<icu::GregorianCalendar>(prototype);
 }
 
 } // namespace
 
+/// The calendar counts the time of the wall as UTC; where that is in time, the system says.
 struct Calendar::State {
-    std::unique_ptr<icu::GregorianCalendar> calendar;
+    std::unique_ptr<icu::GregorianCalendar> calendar = calendarOfTheWall();
+
+    WallTime wallTime(const CalendarFields& fields) const
+    {
+        UErrorCode status = U_ZERO_ERROR;
+        calendar->clear();
+        calendar->set(UCAL_EXTENDED_YEAR, fields.year);
+        calendar->set(UCAL_MONTH, fields.month - 1);
+        calendar->set(UCAL_DATE, fields.day);
+        calendar->set(UCAL_HOUR_OF_DAY, fields.hour);
+        calendar->set(UCAL_MINUTE, fields.minute);
+        calendar->set(UCAL_SECOND, fields.second);
+        return wallTimeWithICUDate(calendar->getTime(status));
+    }
 };
 
-Calendar::Calendar() : state_(std::make_unique<State>())
-{
-    state_->calendar = calendarInZone(Environment::current().timeZoneIdentifier());
-}
+Calendar::Calendar() : state_(std::make_unique<State>()) { }
 
 Calendar::~Calendar() = default;
 Calendar::Calendar(Calendar&&) noexcept = default;
@@ -58,30 +57,32 @@ Calendar& Calendar::operator=(Calendar&&) noexcept = default;
 
 CalendarDay Calendar::dayOfDate(NSDate date) const
 {
+    const CalendarFields fields = fieldsOfDate(date);
+    return {fields.year, fields.month, fields.day};
+}
+
+CalendarFields Calendar::fieldsOfDate(NSDate date) const
+{
     UErrorCode status = U_ZERO_ERROR;
     icu::GregorianCalendar& calendar = *state_->calendar;
-    calendar.setTime(icuDate(date), status);
-    return {calendar.get(UCAL_EXTENDED_YEAR, status), calendar.get(UCAL_MONTH, status) + 1,
-        calendar.get(UCAL_DATE, status)};
+    calendar.setTime(icuDate(wallTimeOfDate(date)), status);
+    const auto field = [&](UCalendarDateFields name) { return calendar.get(name, status); };
+    return {.year = field(UCAL_EXTENDED_YEAR),
+        .month = field(UCAL_MONTH) + 1,
+        .day = field(UCAL_DATE),
+        .hour = field(UCAL_HOUR_OF_DAY),
+        .minute = field(UCAL_MINUTE),
+        .second = field(UCAL_SECOND)};
 }
 
 NSDate Calendar::dateWithFields(const CalendarFields& fields) const
 {
-    UErrorCode status = U_ZERO_ERROR;
-    icu::GregorianCalendar& calendar = *state_->calendar;
-    calendar.clear();
-    calendar.set(UCAL_EXTENDED_YEAR, fields.year);
-    calendar.set(UCAL_MONTH, fields.month - 1);
-    calendar.set(UCAL_DATE, fields.day);
-    calendar.set(UCAL_HOUR_OF_DAY, fields.hour);
-    calendar.set(UCAL_MINUTE, fields.minute);
-    calendar.set(UCAL_SECOND, fields.second);
-    return dateWithICUDate(calendar.getTime(status));
+    return dateOfWallTime(state_->wallTime(fields));
 }
 
 NSDate Calendar::beginOfDay(const CalendarDay& day) const
 {
-    return dateWithFields({.year = day.year, .month = day.month, .day = day.day});
+    return beginOfWallDay(state_->wallTime({.year = day.year, .month = day.month, .day = day.day}));
 }
 
 bool Calendar::isRealDay(const CalendarDay& day)
@@ -91,7 +92,8 @@ bool Calendar::isRealDay(const CalendarDay& day)
     if (day.day <= 28 && day.year != 1582)
         return true;
     UErrorCode status = U_ZERO_ERROR;
-    icu::GregorianCalendar calendar(*icu::TimeZone::getGMT(), icu::Locale::getRoot(), status);
+    const auto kept = calendarOfTheWall();
+    icu::GregorianCalendar& calendar = *kept;
     calendar.clear();
     calendar.set(day.year, day.month - 1, day.day);
     return calendar.get(UCAL_MONTH, status) == day.month - 1 && calendar.get(UCAL_DATE, status) == day.day;

@@ -25,9 +25,9 @@ struct CalendarFields {
     int second = 0;
 };
 
-/// The Gregorian calendar (the Julian one before October 1582) in the time zone of `Environment`.
+/// The Gregorian calendar (the Julian one before October 1582) in the local time of `Environment`.
 ///
-/// Keeps the zone that it was made with. A value; one thread at a time.
+/// Follows the system when that is set to another zone. A value; one thread at a time.
 ///
 ///     CalendarDay today = Calendar().dayOfDate(now());
 class Calendar {
@@ -38,10 +38,12 @@ public:
     Calendar& operator=(Calendar&&) noexcept;
 
     CalendarDay dayOfDate(NSDate date) const;
+    /// Fractions of a second are left out.
+    CalendarFields fieldsOfDate(NSDate date) const;
     /// The time that the fields name, all set at once: one after another would stumble over changes of the clock. A
     /// time that the clock skips gives one as much later; of one that it shows twice the later is taken.
     NSDate dateWithFields(const CalendarFields& fields) const;
-    /// Midnight, or the first time of a day that has none.
+    /// Midnight, the first time of a day that has none, the first midnight of a day that has two.
     NSDate beginOfDay(const CalendarDay& day) const;
 
     /// Whether the calendar has such a day, in years 1 to 9999.

@@ -1,20 +1,15 @@
 #pragma once
 
-#include "platform/foundation/NSDate.h"
+#include "platform/foundation/LocalTimeInternal.h"
 
 #include <unicode/gregocal.h>
 #include <unicode/timezone.h>
 
-#include <memory>
-#include <string>
-
 namespace tarn {
 
-/// UTC for a name that nobody knows.
-std::unique_ptr<icu::TimeZone> timeZoneNamed(const std::string& identifier);
-
-/// Dates as ICU counts them: milliseconds since 1970.
-double icuDate(NSDate date) noexcept;
-NSDate dateWithICUDate(double milliseconds) noexcept;
+/// Times of the wall as a calendar of ICU in GMT counts them: milliseconds since 1970. Zones are not ICU's business:
+/// its copy of their rules is as old as the library.
+double icuDate(WallTime wall) noexcept;
+WallTime wallTimeWithICUDate(double milliseconds) noexcept;
 
 } // namespace tarn

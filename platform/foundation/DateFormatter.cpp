@@ -17,17 +17,16 @@ namespace {
 
 constexpr int kYearsBack = 80;
 
-/// The calendar of a locale in the current zone.
+/// The calendar of a locale, of what the clock on the wall shows.
 class LocaleCalendar {
 public:
     explicit LocaleCalendar(const std::string& locale)
-        : calendar_(icu::Calendar::createInstance(
-            *timeZoneNamed(Environment::current().timeZoneIdentifier()), icu::Locale(locale.c_str()), status_))
+        : calendar_(icu::Calendar::createInstance(*icu::TimeZone::getGMT(), icu::Locale(locale.c_str()), status_))
     { }
 
     DateNumbers numbersOfDate(NSDate date)
     {
-        calendar_->setTime(icuDate(date), status_);
+        calendar_->setTime(icuDate(wallTimeOfDate(date)), status_);
         return {.year = field(UCAL_YEAR), .month = field(UCAL_MONTH) + 1, .day = field(UCAL_DATE)};
     }
     /// None when there is no such day.
@@ -37,10 +36,10 @@ public:
             numbers.year = fullYear(numbers);
         calendar_->clear();
         calendar_->set(numbers.year, numbers.month - 1, numbers.day);
-        const NSDate date = dateWithICUDate(calendar_->getTime(status_));
+        const WallTime midnight = wallTimeWithICUDate(calendar_->getTime(status_));
         const bool isReal = U_SUCCESS(status_) && field(UCAL_YEAR) == numbers.year
             && field(UCAL_MONTH) == numbers.month - 1 && field(UCAL_DATE) == numbers.day;
-        return isReal ? std::optional(date) : std::nullopt;
+        return isReal ? std::optional(beginOfWallDay(midnight)) : std::nullopt;
     }
 
 private:

@@ -52,9 +52,9 @@ std::optional<std::string> Environment::variable(std::string_view name) const
     return providers()->variable(name);
 }
 
-std::string Environment::timeZoneIdentifier() const
+std::chrono::seconds Environment::localTimeOffset(NSDate date) const
 {
-    return providers()->timeZoneIdentifier();
+    return providers()->localTimeOffset(date);
 }
 
 std::string Environment::localeIdentifier() const
@@ -87,6 +87,8 @@ EnvironmentOverride::EnvironmentOverride() : previous_(Environment::current().pr
 EnvironmentOverride::~EnvironmentOverride()
 {
     Environment::current().setProviders(std::move(previous_));
+    for (const auto& [name, value] : previousZoneVariables_)
+        setZoneVariableOfProcess(name, value);
 }
 
 template <typename Change> void EnvironmentOverride::change(Change change)
@@ -113,6 +115,10 @@ void EnvironmentOverride::setRandomBytes(std::function<void(std::span<std::byte>
 
 void EnvironmentOverride::setVariable(std::string name, std::optional<std::string> value)
 {
+    if (name == "TZ" || name == "TZDIR") {
+        previousZoneVariables_.try_emplace(name, systemEnvironmentProviders().variable(name));
+        setZoneVariableOfProcess(name, value);
+    }
     change([&](EnvironmentProviders& providers) {
         providers.variable = [name = std::move(name), value = std::move(value), others = providers.variable](
                                  std::string_view wanted) { return wanted == name ? value : others(wanted); };
@@ -121,9 +127,7 @@ void EnvironmentOverride::setVariable(std::string name, std::optional<std::strin
 
 void EnvironmentOverride::setTimeZoneIdentifier(std::string identifier)
 {
-    change([&](EnvironmentProviders& providers) {
-        providers.timeZoneIdentifier = [identifier = std::move(identifier)] { return identifier; };
-    });
+    setVariable("TZ", std::move(identifier));
 }
 
 void EnvironmentOverride::setLocaleIdentifier(std::string identifier)

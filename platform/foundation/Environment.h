@@ -3,9 +3,11 @@
 #include "platform/foundation/NSDate.h"
 
 #include <array>
+#include <chrono>
 #include <cstddef>
 #include <filesystem>
 #include <functional>
+#include <map>
 #include <memory>
 #include <optional>
 #include <span>
@@ -22,7 +24,7 @@ struct EnvironmentProviders {
     std::function<NSDate()> clock;
     std::function<void(std::span<std::byte>)> randomBytes;
     std::function<std::optional<std::string>(std::string_view)> variable;
-    std::function<std::string()> timeZoneIdentifier;
+    std::function<std::chrono::seconds(NSDate)> localTimeOffset;
     std::function<std::string()> localeIdentifier;
     std::function<std::filesystem::path()> homeDirectory;
     std::function<std::filesystem::path()> temporaryDirectory;
@@ -34,7 +36,7 @@ struct EnvironmentProviders {
 ///
 /// Any thread. Tests replace single answers by an `EnvironmentOverride`.
 ///
-///     std::string zone = Environment::current().timeZoneIdentifier();
+///     std::string locale = Environment::current().localeIdentifier();
 class Environment {
 public:
     /// The one of this process.
@@ -45,8 +47,9 @@ public:
     void fillWithRandomBytes(std::span<std::byte> bytes) const;
     /// An environment variable; none when it is not set.
     std::optional<std::string> variable(std::string_view name) const;
-    /// An Olson name ("Europe/Berlin"): TZ, else the system's setting, else "UTC".
-    std::string timeZoneIdentifier() const;
+    /// How far local time was ahead of UTC at that moment, by the rules of the system: what TZ says in any of its
+    /// forms, else the system's setting. A zone that the system does not know is UTC, and the log says so once.
+    std::chrono::seconds localTimeOffset(NSDate date) const;
     /// Language, script and country ("de_DE", "sr_Latn_RS"): the first of LC_ALL, LC_TIME and LANG that is not empty.
     /// "en_US_POSIX" for C, POSIX and nothing.
     std::string localeIdentifier() const;
@@ -86,8 +89,10 @@ public:
     /// A clock that stands still.
     void setNow(NSDate date);
     void setRandomBytes(std::function<void(std::span<std::byte>)> randomBytes);
-    /// Sets one variable, or hides it when `value` is none.
+    /// Sets one variable, or hides it when `value` is none. TZ and TZDIR, which the system itself reads, are set for
+    /// the whole process: not while another thread may look at a variable.
     void setVariable(std::string name, std::optional<std::string> value);
+    /// What TZ is to say: a name ("Europe/Berlin"), a file, or rules ("CET-1CEST,M3.5.0,M10.5.0/3").
     void setTimeZoneIdentifier(std::string identifier);
     void setLocaleIdentifier(std::string identifier);
     void setHomeDirectory(std::filesystem::path path);
@@ -99,6 +104,7 @@ private:
     template <typename Change> void change(Change change);
 
     std::shared_ptr<const EnvironmentProviders> previous_;
+    std::map<std::string, std::optional<std::string>> previousZoneVariables_; ///< of the process
 };
 
 } // namespace tarn

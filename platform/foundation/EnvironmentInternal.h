@@ -8,18 +8,21 @@
 
 namespace tarn {
 
-/// The answers of the operating system. Locale and time zone ask the variables of `Environment`, so that an overridden
-/// variable shows there too.
+/// The answers of the operating system. The locale asks the variables of `Environment`, so that an overridden variable
+/// shows there too.
 EnvironmentProviders systemEnvironmentProviders();
 
 /// "de_DE" from "de_DE.UTF-8@euro", "sr_Latn_RS" from "sr_RS@latin"; "en_US_POSIX" from "C", "C.UTF-8", "POSIX", "".
 std::string localeIdentifierFromSystemName(std::string_view name);
 
-/// The Olson name that a value of TZ stands for; none for nothing, and the text itself for forms that name no file.
-std::optional<std::string> timeZoneIdentifierFromVariable(std::string_view value);
+/// Seconds of local time ahead of UTC, by libc.
+std::chrono::seconds systemLocalTimeOffset(NSDate date);
 
-/// What follows "zoneinfo/" in the path of a zone's file; none for another path.
-std::optional<std::string> timeZoneIdentifierFromPath(std::string_view path);
+/// Sets or removes TZ or TZDIR for libc. Not while another thread may look at a variable.
+void setZoneVariableOfProcess(const std::string& name, const std::optional<std::string>& value);
+
+/// Whether a value of TZ has the form of rules: "EST5EDT,M3.2.0,M11.1.0", "<+0530>-5:30".
+bool isTimeZoneRule(std::string_view value);
 
 /// Sixteen bytes from 32 hexadecimal digits with white space around them; none for anything else and for all zeros.
 std::optional<MachineIdentifier> machineIdentifierFromText(std::string_view text);

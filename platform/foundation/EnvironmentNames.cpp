@@ -1,5 +1,6 @@
 #include "platform/foundation/EnvironmentInternal.h"
 #include "platform/foundation/NSUUID.h"
+#include "platform/foundation/RegularExpression.h"
 #include "platform/foundation/UTF.h"
 
 #include <algorithm>
@@ -46,29 +47,15 @@ std::string localeIdentifierFromSystemName(std::string_view name)
     return identifier;
 }
 
-std::optional<std::string> timeZoneIdentifierFromPath(std::string_view path)
+bool isTimeZoneRule(std::string_view value)
 {
-    constexpr std::string_view kFolder = "zoneinfo/";
-    const std::size_t found = path.rfind(kFolder);
-    if (found == std::string_view::npos)
-        return std::nullopt;
-    std::string_view name = path.substr(found + kFolder.size());
-    for (const std::string_view variant : {std::string_view("posix/"), std::string_view("right/")}) {
-        if (name.starts_with(variant))
-            name.remove_prefix(variant.size());
-    }
-    return name.empty() ? std::nullopt : std::optional(std::string(name));
-}
-
-std::optional<std::string> timeZoneIdentifierFromVariable(std::string_view value)
-{
-    if (value.starts_with(':'))
-        value.remove_prefix(1);
-    if (value.empty())
-        return std::nullopt;
-    if (auto name = timeZoneIdentifierFromPath(value))
-        return name;
-    return std::string(value);
+    static const RegularExpression rule([] {
+        const std::string name = "(?:[A-Za-z]{3,}|<[A-Za-z0-9+-]{3,}>)";
+        const std::string time = "[+-]?\\d{1,3}(?::\\d{1,2}){0,2}";
+        const std::string day = "(?:J?\\d{1,3}|M\\d{1,2}\\.\\d\\.\\d)(?:/" + time + ")?";
+        return "^" + name + time + "(?:" + name + "(?:" + time + ")?(?:," + day + "," + day + ")?)?$";
+    }());
+    return rule.matches(value) == true;
 }
 
 std::optional<MachineIdentifier> machineIdentifierFromText(std::string_view text)

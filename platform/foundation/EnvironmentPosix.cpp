@@ -1,4 +1,4 @@
-// The only place that asks a POSIX system; another system gets a file like this one.
+// This and LocalTimePosix.cpp are the only places that ask a POSIX system; another system gets files like these.
 
 #include "platform/foundation/EnvironmentInternal.h"
 #include "platform/foundation/NSException.h"
@@ -65,19 +65,6 @@ std::optional<std::string> processVariable(std::string_view name)
     return value ? std::optional(std::string(value)) : std::nullopt;
 }
 
-std::string systemTimeZone()
-{
-    if (const auto variable = Environment::current().variable("TZ"))
-        return timeZoneIdentifierFromVariable(*variable).value_or("UTC");
-    std::error_code failure;
-    const auto link = std::filesystem::read_symlink("/etc/localtime", failure);
-    if (const auto name = timeZoneIdentifierFromPath(link.string()))
-        return *name;
-    std::string name = readSystemFile("/etc/timezone");
-    name.resize(std::min(name.find_first_of(" \t\r\n"), name.size()));
-    return name.empty() ? "UTC" : name;
-}
-
 std::string systemLocale()
 {
     for (const std::string_view variable : {"LC_ALL", "LC_TIME", "LANG"}) {
@@ -135,7 +122,7 @@ EnvironmentProviders systemEnvironmentProviders()
     return {.clock = systemTime,
         .randomBytes = fillFromSystem,
         .variable = processVariable,
-        .timeZoneIdentifier = systemTimeZone,
+        .localTimeOffset = systemLocalTimeOffset,
         .localeIdentifier = systemLocale,
         .homeDirectory = systemHome,
         .temporaryDirectory = systemTemporaryFolder,

@@ -24,12 +24,10 @@ TEST_F(CalendarTest, KnowsTheDayInItsZone)
 {
     EXPECT_EQ(Calendar().dayOfDate(at("2021-03-15T22:59:59Z")), (CalendarDay{2021, 3, 15}));
     EXPECT_EQ(Calendar().dayOfDate(at("2021-03-15T23:00:00Z")), (CalendarDay{2021, 3, 16}));
-    const Calendar berlin;
+    const Calendar calendar;
     world_.setTimeZoneIdentifier("America/Sao_Paulo");
     EXPECT_EQ(Calendar().dayOfDate(at("2021-03-15T02:59:59Z")), (CalendarDay{2021, 3, 14}));
-    EXPECT_EQ(berlin.dayOfDate(at("2021-03-15T23:00:00Z")), (CalendarDay{2021, 3, 16}));
-    world_.setTimeZoneIdentifier("No/Such_Place");
-    EXPECT_EQ(Calendar().dayOfDate(at("2021-03-15T23:59:59Z")), (CalendarDay{2021, 3, 15}));
+    EXPECT_EQ(calendar.dayOfDate(at("2021-03-15T02:59:59Z")), (CalendarDay{2021, 3, 14})) << "the system has moved";
 }
 
 TEST_F(CalendarTest, CountsOnFromFieldsOutsideOfTheirRanges)

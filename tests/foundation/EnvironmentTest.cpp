@@ -21,15 +21,14 @@ TEST(Environment, ReadsLocaleNamesOfTheSystem)
         EXPECT_EQ(localeIdentifierFromSystemName(name), expected) << name;
 }
 
-TEST(Environment, ReadsTimeZonesOfTheSystem)
+TEST(Environment, KnowsTheFormsOfTimeZoneRules)
 {
-    for (const auto& [value, expected] : std::vector<NameCase>{{"Europe/Berlin", "Europe/Berlin"},
-             {":Asia/Tokyo", "Asia/Tokyo"}, {"/usr/share/zoneinfo/America/New_York", "America/New_York"},
-             {":/usr/share/zoneinfo/posix/Asia/Tokyo", "Asia/Tokyo"}, {"UTC", "UTC"}, {"CET-1CEST", "CET-1CEST"}})
-        EXPECT_EQ(timeZoneIdentifierFromVariable(value), expected) << value;
-    EXPECT_EQ(timeZoneIdentifierFromVariable(""), std::nullopt);
-    EXPECT_EQ(timeZoneIdentifierFromPath("/etc/elsewhere"), std::nullopt);
-    EXPECT_EQ(timeZoneIdentifierFromPath("/usr/share/zoneinfo/"), std::nullopt);
+    for (const std::string_view value : {"UTC0", "CET-1CEST", "EST5EDT4", "EST5EDT,M3.2.0,M11.1.0", "<+0530>-5:30",
+             "<-03>3<-02>,M3.5.0/-2,M10.5.0/-1", "IST-2IDT,M3.4.4/26,M10.5.0", "XYZ+1:02:03ABC,J60,300/1:30"})
+        EXPECT_TRUE(isTimeZoneRule(value)) << value;
+    for (const std::string_view value : {"", "UTC", "X5", "No/Such_Place", "EST5EDT,garbage", "EST5EDT,M3.2.0",
+             "europe/berlin", "<+05>", "EST5 EDT", "EST5EDT,M3.2.0,M11.1.0,", "5"})
+        EXPECT_FALSE(isTimeZoneRule(value)) << value;
 }
 
 TEST(Environment, ReadsMachineIdentifiers)
@@ -74,19 +73,20 @@ TEST(Environment, TakesFoldersAndZoneFromVariables)
     world.setVariable("HOME", "/home/anna");
     world.setVariable("TMPDIR", "/var/tmp");
     world.setVariable("TZ", ":Europe/Berlin");
+    const NSDate date = dateFromISO8601String("2021-03-15").value();
     EXPECT_EQ(Environment::current().homeDirectory(), "/home/anna");
     EXPECT_EQ(Environment::current().temporaryDirectory(), "/var/tmp");
-    EXPECT_EQ(Environment::current().timeZoneIdentifier(), "Europe/Berlin");
+    EXPECT_EQ(Environment::current().localTimeOffset(date), std::chrono::hours(1));
     world.setVariable("TMPDIR", std::nullopt);
     EXPECT_EQ(Environment::current().temporaryDirectory(), "/tmp");
     world.setVariable("TZ", "");
-    EXPECT_EQ(Environment::current().timeZoneIdentifier(), "UTC");
+    EXPECT_EQ(Environment::current().localTimeOffset(date), std::chrono::hours(0));
 }
 
 TEST(Environment, AnswersWithoutAnyOverride)
 {
     const Environment& environment = Environment::current();
-    EXPECT_FALSE(environment.timeZoneIdentifier().empty());
+    EXPECT_LT(std::chrono::abs(environment.localTimeOffset(environment.now())), std::chrono::hours(25));
     EXPECT_FALSE(environment.hostName().empty());
     EXPECT_GT(environment.now(), *dateFromISO8601String("2020-01-01"));
     std::array<std::byte, 300> bytes{};
@@ -123,7 +123,8 @@ TEST(EnvironmentOverride, SetsWhatItIsTold)
     world.setMachineIdentifier(std::nullopt);
     world.setHostName("bad\xFFname");
     const Environment& environment = Environment::current();
-    EXPECT_EQ(environment.timeZoneIdentifier(), "Asia/Tokyo");
+    EXPECT_EQ(environment.localTimeOffset(environment.now()), std::chrono::hours(9));
+    EXPECT_EQ(environment.variable("TZ"), "Asia/Tokyo");
     EXPECT_EQ(environment.localeIdentifier(), "ko_KR");
     EXPECT_EQ(environment.homeDirectory(), "/h");
     EXPECT_EQ(environment.temporaryDirectory(), "/t");

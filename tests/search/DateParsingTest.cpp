@@ -158,4 +158,15 @@ TEST_F(DateParsing, BeginsADayWithoutMidnightWithItsFirstHour)
     EXPECT_EQ(period("2021-03"), "2021-02-28T18:15:00Z 2021-03-31T19:14:59Z");
 }
 
+TEST_F(DateParsing, GoesByTheRulesInTheVariable)
+{
+    setWorld("EST5EDT,M3.2.0,M11.1.0", "en_US");
+    EXPECT_EQ(period("2021-03-14"), "2021-03-14T05:00:00Z 2021-03-15T03:59:59Z");
+    EXPECT_EQ(period("3/15/21"), "2021-03-15T04:00:00Z 2021-03-16T03:59:59Z");
+    EXPECT_EQ(period("2021-03"), "2021-03-01T05:00:00Z 2021-04-01T04:59:59Z");
+    EXPECT_EQ(period("2021"), "2021-01-01T05:00:00Z 2022-01-01T05:59:59Z");
+    setWorld("<+0530>-5:30", "en_US");
+    EXPECT_EQ(period("2021-03-15"), "2021-03-14T18:30:00Z 2021-03-15T18:29:59Z");
+}
+
 } // namespace tarn

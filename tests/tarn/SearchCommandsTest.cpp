@@ -175,4 +175,25 @@ TEST_F(SearchCommands, TakeLongAndStrangeQueries)
     }
 }
 
+TEST_F(SearchCommands, AndListsGoByTheZoneOfTheSystem)
+{
+    std::filesystem::path notes
+        = file("dated.md", "---\ndate: 2021-03-14T19:00:00Z\nmodified: 2021-03-14T19:00:00Z\n---\n# Late\n");
+    output({"import", notes});
+    const auto runIn = [&](const std::string& zone, std::vector<std::string> command) {
+        TarnProcess process(arguments(std::move(command)));
+        process.setVariable("TZ", zone);
+        return process.finish();
+    };
+    for (const auto& [zone, day, time] :
+        {std::tuple{"UTC", "2021-03-14", "2021-03-14 19:00"}, {"<+0530>-5:30", "2021-03-15", "2021-03-15 00:30"},
+            {"CET-1CEST,M3.2.0/0,M10.5.0/3", "2021-03-14", "2021-03-14 21:00"}}) {
+        EXPECT_EQ(runIn(zone, {"search", "--count", "@cdate(" + std::string(day) + ")"}).output, "1\n") << zone;
+        EXPECT_THAT(runIn(zone, {"list"}).output, testing::HasSubstr(time)) << zone;
+    }
+    const TarnResult unknown = runIn("No/Such_Place", {"search", "--count", "@cdate(2021-03-14)"});
+    EXPECT_EQ(unknown.output, "1\n");
+    EXPECT_EQ(unknown.errors, "tarn: The system has no time zone \"No/Such_Place\" and takes it for UTC.\n");
+}
+
 } // namespace tarn::test

@@ -1,9 +1,10 @@
 #include "tools/tarn/NoteList.h"
 
+#include "platform/foundation/Calendar.h"
 #include "tools/tarn/DisplayText.h"
 
 #include <array>
-#include <ctime>
+#include <cstdio>
 
 namespace tarn {
 
@@ -35,12 +36,10 @@ std::string marksOf(const OVNote& note)
 
 std::string displayDate(NSDate date)
 {
-    const auto seconds = std::chrono::floor<std::chrono::seconds>(date);
-    const std::time_t time = std::chrono::system_clock::to_time_t(seconds);
-    std::tm local{};
-    std::array<char, 32> text{};
-    if (!::localtime_r(&time, &local) || std::strftime(text.data(), text.size(), "%Y-%m-%d %H:%M", &local) == 0)
-        return "?";
+    const CalendarFields local = Calendar().fieldsOfDate(date);
+    std::array<char, 64> text{};
+    std::snprintf(text.data(), text.size(), "%04d-%02d-%02d %02d:%02d", local.year, local.month, local.day, local.hour,
+        local.minute);
     return text.data();
 }
 

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "platform/foundation/NSDate.h"
+
+#include <chrono>
+
+namespace tarn {
+
+/// What the clock on the wall shows: a date and a time of day without a zone, counted as though it were UTC.
+using WallTime = std::chrono::local_time<NSDate::duration>;
+
+/// By the rules of `Environment`.
+WallTime wallTimeOfDate(NSDate date);
+/// A time that the clock skips gives one as much later; of one that it shows twice the later is taken.
+NSDate dateOfWallTime(WallTime wall);
+/// The first moment of the day that this midnight begins, also when the clock skips it; of a midnight that it shows
+/// twice the earlier.
+NSDate beginOfWallDay(WallTime midnight);
+
+} // namespace tarn
