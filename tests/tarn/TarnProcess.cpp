@@ -7,6 +7,7 @@
 #include <fcntl.h>
 #include <poll.h>
 #include <stdexcept>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -85,6 +86,10 @@ void TarnProcess::runInChild(int input, int output, int errors) const
     for (std::string& argument : arguments)
         values.push_back(argument.data());
     values.push_back(nullptr);
+    ::alarm(seconds_);
+    const rlimit limit{addressSpace_, addressSpace_};
+    if (addressSpace_ > 0 && ::setrlimit(RLIMIT_AS, &limit) != 0)
+        ::_exit(126);
     ::execve(values[0], values.data(), environment.data());
     ::_exit(127);
 }

@@ -34,6 +34,12 @@ public:
     void useTerminalInput() { terminal_ = true; }
     /// Starts it without standard input, output and error.
     void closeStandardStreams() { closed_ = true; }
+    /// So many bytes of memory may be mapped, and it is ended by a signal when it runs for so many seconds.
+    void setLimits(std::size_t addressSpace, unsigned seconds)
+    {
+        addressSpace_ = addressSpace;
+        seconds_ = seconds;
+    }
     /// Standard output goes to this file instead.
     void setOutputFile(const std::filesystem::path& file) { outputFile_ = file; }
 
@@ -53,6 +59,8 @@ private:
     std::map<std::string, std::string> variables_;
     std::string input_;
     std::filesystem::path outputFile_;
+    std::size_t addressSpace_ = 0; ///< 0: no limit
+    unsigned seconds_ = 0;         ///< 0: no limit
     bool closed_ = false;
     bool terminal_ = false;
     pid_t pid_ = -1;
