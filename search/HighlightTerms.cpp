@@ -24,13 +24,13 @@ void addPhrase(HighlightTerms& result, std::u16string_view match)
 void addTag(HighlightTerms& result, std::u16string_view match)
 {
     if (match.starts_with(u'!')) {
-        result.terms.push_back({utf8FromUTF16(match.substr(1))});
+        result.terms.push_back({utf8FromUTF16(match.substr(1)), Kind::PartOfTag});
     } else if (match.starts_with(u"#*/")) {
         const std::string path = utf8FromUTF16(match.substr(2));
-        result.terms.push_back({path});
-        result.terms.push_back({path + "/"});
+        result.terms.push_back({path, Kind::PartOfTag});
+        result.terms.push_back({path + "/", Kind::PartOfTag});
     } else if (!match.starts_with(u'-')) {
-        result.terms.push_back({utf8FromUTF16(match)});
+        result.terms.push_back({utf8FromUTF16(match), Kind::Tag});
     }
 }
 

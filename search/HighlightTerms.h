@@ -9,8 +9,10 @@ namespace tarn {
 /// What a search highlights in a note.
 struct HighlightTerm {
     enum class Kind {
-        Text, ///< anywhere
-        Word, ///< between characters that belong to no word
+        Text,      ///< anywhere
+        Word,      ///< between characters that belong to no word
+        Tag,       ///< a hashtag of this path or of one below it
+        PartOfTag, ///< a hashtag whose path has it somewhere
     };
     std::string text;
     Kind kind = Kind::Text;

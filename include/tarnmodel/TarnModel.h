@@ -91,6 +91,7 @@
 #include "search/HighlightTerms.h"
 #include "search/OVNoteSearchManager.h"
 #include "search/OVNoteSearchToken.h"
+#include "search/TermFinder.h"
 
 // Devices and their clocks.
 #include "sync/HostUUID.h"

@@ -19,17 +19,6 @@ bool isASCIILetterOrDigit(char byte)
     return (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z') || (byte >= '0' && byte <= '9');
 }
 
-/// The pattern's `\w`.
-bool isWordCharacter(char32_t codePoint)
-{
-    if (codePoint < 0x80)
-        return isASCIILetterOrDigit(static_cast<char>(codePoint)) || codePoint == '_';
-    const auto character = static_cast<UChar32>(codePoint);
-    constexpr std::uint32_t kCategories = U_GC_M_MASK | U_GC_ND_MASK | U_GC_PC_MASK;
-    return u_hasBinaryProperty(character, UCHAR_ALPHABETIC) || (U_GET_GC_MASK(character) & kCategories) != 0
-        || codePoint == 0x200C || codePoint == 0x200D;
-}
-
 bool endsWithWordCharacter(std::string_view text)
 {
     if (text.empty())
@@ -62,6 +51,16 @@ std::optional<std::string> unescaped(std::string_view text)
 }
 
 } // namespace
+
+bool isWordCharacter(char32_t codePoint)
+{
+    if (codePoint < 0x80)
+        return isASCIILetterOrDigit(static_cast<char>(codePoint)) || codePoint == '_';
+    const auto character = static_cast<UChar32>(codePoint);
+    constexpr std::uint32_t kCategories = U_GC_M_MASK | U_GC_ND_MASK | U_GC_PC_MASK;
+    return u_hasBinaryProperty(character, UCHAR_ALPHABETIC) || (U_GET_GC_MASK(character) & kCategories) != 0
+        || codePoint == 0x200C || codePoint == 0x200D;
+}
 
 WholeWordPattern::WholeWordPattern(std::string literal) : literal_(std::move(literal)) { }
 

@@ -94,6 +94,34 @@ TEST_F(SearchCommands, ShowTheLineThatHoldsAPhraseOrATag)
     EXPECT_EQ(std::ranges::count(output({"search", "@done"}), '\n'), 1);
 }
 
+TEST_F(SearchCommands, ShowTheLineWhereTheTermStandsAndNotOneThatResemblesIt)
+{
+    note("# Notes\n\nthe pier and its tags: #piers #two-piers\nhot pie\n#pie/sweet and (#Pie)\n#two words#\na/pier/x");
+    const auto line = [&](const char* query) {
+        const std::string text = output({"search", query});
+        return text.substr(text.find('\n') + 1);
+    };
+    EXPECT_EQ(line("\"pie\""), "    hot pie\n");
+    EXPECT_EQ(line("pie"), "    the pier and its tags: #piers #two-piers\n");
+    EXPECT_EQ(line("#pie"), "    #pie/sweet and (#Pie)\n");
+    EXPECT_EQ(line("#pie/sweet"), "    #pie/sweet and (#Pie)\n");
+    EXPECT_EQ(line("#two words#"), "    #two words#\n");
+    EXPECT_EQ(line("#*/sw"), "    #pie/sweet and (#Pie)\n");
+    EXPECT_EQ(line("!#two-p"), "    the pier and its tags: #piers #two-piers\n");
+    EXPECT_EQ(line("\"pie hot\" or \"sweet\""), "    #pie/sweet and (#Pie)\n");
+}
+
+TEST_F(SearchCommands, TellInJSONWhichLineAndWhereInIt)
+{
+    note("# Notes\n\nthe pier\n  hot pie, Pie and pies\n");
+    const auto found = json({"search", "\"pie\" or hot"}).at("notes").at(0);
+    EXPECT_EQ(found.at("line"), "hot pie, Pie and pies");
+    EXPECT_EQ(found.at("matches").dump(), R"([{"length":3,"start":0},{"length":3,"start":4},{"length":3,"start":9}])");
+    const auto other = json({"search", "@today"}).at("notes").at(0);
+    EXPECT_TRUE(other.at("line").is_null());
+    EXPECT_TRUE(other.at("matches").empty());
+}
+
 TEST_F(SearchCommands, LookIntoAttachmentsWhereAsked)
 {
     writeNotes();

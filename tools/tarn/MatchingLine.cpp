@@ -1,10 +1,10 @@
 #include "tools/tarn/MatchingLine.h"
 
-#include "platform/foundation/Folding.h"
 #include "platform/foundation/UTF.h"
 #include "tools/tarn/DisplayText.h"
 
 #include <algorithm>
+#include <numeric>
 
 namespace tarn {
 
@@ -13,15 +13,12 @@ namespace {
 constexpr std::size_t kColumnsBefore = 30;
 constexpr std::size_t kBytesLookedAt = 4096; ///< of a line, on either side of the hit
 
-std::optional<FoldedRange> firstHit(std::string_view text, std::span<const std::string> foldedWords)
+using Pieces = std::vector<LinePiece>;
+
+std::size_t widthOf(const Pieces& pieces)
 {
-    std::optional<FoldedRange> first;
-    for (const std::string& word : foldedWords) {
-        const auto hit = rangeOfFolded(text, word);
-        if (hit && (!first || hit->location < first->location))
-            first = hit;
-    }
-    return first;
+    return std::accumulate(pieces.begin(), pieces.end(), std::size_t{0},
+        [](std::size_t sum, const LinePiece& piece) { return sum + displayWidth(piece.text); });
 }
 
 /// The last characters of a text that fit, "…" in front when something was cut.
@@ -35,67 +32,110 @@ std::string endFittedToWidth(const std::string& text, std::size_t width)
     return "…" + text.substr(offset);
 }
 
-/// The line in three parts, the middle one being the hit.
-struct CutLine {
-    std::string before;
-    std::string match;
-    std::string after;
+/// The last pieces that fit, the first of them cut where need be.
+Pieces endFittedToWidth(const Pieces& pieces, std::size_t width)
+{
+    if (widthOf(pieces) <= width)
+        return pieces;
+    if (width == 0)
+        return {};
+    auto first = pieces.end();
+    std::size_t left = width;
+    while (displayWidth(std::prev(first)->text) < left)
+        left -= displayWidth((--first)->text);
+    const LinePiece& cut = *std::prev(first);
+    // Room for the mark of what is missing.
+    const std::string shown = std::prev(first) == pieces.begin() ? cut.text : " " + cut.text;
+    Pieces fitted{{endFittedToWidth(shown, left), cut.isMatch}};
+    fitted.insert(fitted.end(), first, pieces.end());
+    return fitted;
+}
+
+/// The first pieces that fit, the last of them cut where need be.
+Pieces fittedToWidth(const Pieces& pieces, std::size_t width)
+{
+    Pieces fitted;
+    for (const LinePiece& piece : pieces) {
+        const bool isLast = &piece == &pieces.back();
+        const std::size_t columns = displayWidth(piece.text);
+        if (columns < width || (columns == width && isLast)) {
+            fitted.push_back(piece);
+            width -= columns;
+            continue;
+        }
+        // Room for the mark of what is missing.
+        const std::string shown = isLast || columns > width ? piece.text : piece.text + " ";
+        if (width > 0)
+            fitted.push_back({textFittedToWidth(shown, width), piece.isMatch});
+        break;
+    }
+    return fitted;
+}
+
+/// Part of a text as pieces by its places, safe to show.
+Pieces piecesOf(std::string_view text, std::size_t begin, std::size_t end, const std::vector<FoldedRange>& places)
+{
+    Pieces pieces;
+    const auto add = [&](std::size_t from, std::size_t to, bool isMatch) {
+        if (from < to)
+            pieces.push_back({displayText(text.substr(from, to - from)), isMatch});
+    };
+    std::size_t behind = begin;
+    for (const FoldedRange& place : places) {
+        const std::size_t placeEnd = place.location + place.length;
+        if (place.location < behind || placeEnd > end)
+            continue;
+        add(behind, place.location, false);
+        add(place.location, placeEnd, true);
+        behind = placeEnd;
+    }
+    add(behind, end, false);
+    return pieces;
+}
+
+/// The line around a hit, or what is looked at of a long one.
+struct Line {
+    std::size_t begin;
+    std::size_t end;
 };
 
-CutLine lineAround(std::string_view text, const FoldedRange& hit, std::size_t width)
+Line lineAround(std::string_view text, const FoldedRange& hit)
 {
     const std::size_t hitEnd = hit.location + hit.length;
     std::size_t begin = hit.location == 0 ? 0 : text.rfind('\n', hit.location - 1) + 1; // npos + 1 is 0
-    const std::size_t end = std::min({text.find('\n', hitEnd), text.size(), hitEnd + kBytesLookedAt});
     begin = std::max(begin, hit.location - std::min(hit.location, kBytesLookedAt));
-
-    CutLine line;
-    const std::string_view before = text.substr(begin, hit.location - begin);
-    line.before = displayText(before.substr(std::min(before.find_first_not_of(" \t"), before.size())));
-    line.match = textFittedToWidth(displayText(text.substr(hit.location, hit.length)), width);
-    line.after
-        = displayText(trimmed(text.substr(hitEnd, end - hitEnd)).empty() ? "" : text.substr(hitEnd, end - hitEnd));
-    if (displayWidth(line.before) + displayWidth(line.match) + displayWidth(line.after) > width)
-        line.before = endFittedToWidth(line.before, std::min(kColumnsBefore, width / 3));
-    const std::size_t used = displayWidth(line.before) + displayWidth(line.match);
-    line.after = textFittedToWidth(line.after, width > used ? width - used : 0);
-    return line;
-}
-
-/// Which bytes of the line stand out.
-std::vector<bool> marksOfLine(
-    const std::string& line, const FoldedRange& hit, const std::optional<RegularExpression>& expression)
-{
-    std::vector<bool> marks(line.size());
-    const auto mark = [&marks](std::size_t begin, std::size_t end) {
-        std::fill(
-            marks.begin() + static_cast<std::ptrdiff_t>(begin), marks.begin() + static_cast<std::ptrdiff_t>(end), true);
-    };
-    mark(hit.location, hit.location + hit.length);
-    if (!expression)
-        return marks;
-    for (const RegularExpressionMatch& match : expression->allMatches(line))
-        mark(byteOffsetForUTF16Offset(line, match.range.location), byteOffsetForUTF16Offset(line, match.range.end()));
-    return marks;
+    begin = std::min(text.find_first_not_of(" \t", begin), hit.location);
+    std::size_t end = std::min({text.find('\n', hitEnd), text.size(), hitEnd + kBytesLookedAt});
+    while (end > hitEnd && trimmed(text.substr(end - 1, 1)).empty())
+        --end;
+    return {begin, end};
 }
 
 } // namespace
 
-std::vector<LinePiece> firstMatchingLine(std::string_view text, std::span<const std::string> foldedWords,
-    const std::optional<RegularExpression>& expression, std::size_t width)
+std::vector<LinePiece> firstMatchingLine(std::string_view text, const TermFinder& terms, std::size_t width)
 {
-    const auto hit = firstHit(text, foldedWords);
+    const auto hit = terms.firstPlace(text);
     if (!hit)
         return {};
-    const CutLine cut = lineAround(text, *hit, width);
-    const std::string line = cut.before + cut.match + cut.after;
-    const std::vector<bool> marks = marksOfLine(line, {cut.before.size(), cut.match.size()}, expression);
-    std::vector<LinePiece> pieces;
-    for (std::size_t byte = 0; byte < line.size(); ++byte) {
-        if (pieces.empty() || pieces.back().isMatch != marks[byte])
-            pieces.push_back({.text = {}, .isMatch = marks[byte]});
-        pieces.back().text += line[byte];
-    }
+    const Line line = lineAround(text, *hit);
+    // A little more than the line: what stands behind its end decides whether a word ends there.
+    const std::size_t margin = std::min(text.size() - line.end, std::size_t{16});
+    std::vector<FoldedRange> places = terms.places(text.substr(line.begin, line.end + margin - line.begin));
+    for (FoldedRange& place : places)
+        place.location += line.begin;
+
+    const std::size_t hitEnd = hit->location + hit->length;
+    Pieces before = piecesOf(text, line.begin, hit->location, places);
+    const Pieces match{{textFittedToWidth(displayText(text.substr(hit->location, hit->length)), width), true}};
+    const Pieces after = piecesOf(text, hitEnd, line.end, places);
+    if (widthOf(before) + widthOf(match) + widthOf(after) > width)
+        before = endFittedToWidth(before, std::min({kColumnsBefore, width / 3, width - widthOf(match)}));
+    const std::size_t used = widthOf(before) + widthOf(match);
+    Pieces pieces = before;
+    pieces.insert(pieces.end(), match.begin(), match.end());
+    const Pieces rest = fittedToWidth(after, width > used ? width - used : 0);
+    pieces.insert(pieces.end(), rest.begin(), rest.end());
     return pieces;
 }
 

@@ -1,9 +1,7 @@
 #pragma once
 
-#include "platform/foundation/RegularExpression.h"
+#include "search/TermFinder.h"
 
-#include <optional>
-#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -17,9 +15,8 @@ struct LinePiece {
     friend bool operator==(const LinePiece&, const LinePiece&) = default;
 };
 
-/// The first line of the text that shows one of the folded words, safe to show, cut to `width` columns around that
-/// word; empty when no word shows. The word stands out, and whatever else in the line the expression matches.
-std::vector<LinePiece> firstMatchingLine(std::string_view text, std::span<const std::string> foldedWords,
-    const std::optional<RegularExpression>& expression, std::size_t width);
+/// The first line of the text where a term stands, safe to show, cut to `width` columns around that term; empty when
+/// there is none. Every place of a term in it stands out.
+std::vector<LinePiece> firstMatchingLine(std::string_view text, const TermFinder& terms, std::size_t width);
 
 } // namespace tarn

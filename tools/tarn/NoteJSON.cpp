@@ -88,12 +88,13 @@ JSON jsonOfNotes(std::span<OVNote* const> notes)
     return {{"notes", std::move(list)}};
 }
 
-void writeNoteList(Output& output, std::size_t count, std::span<OVNote* const> notes, const JSON& moreKeys)
+void writeNoteList(Output& output, std::size_t count, std::span<OVNote* const> notes, const JSON& moreKeys,
+    const std::function<JSON(const OVNote&)>& jsonOf)
 {
     output.write("{\n  \"count\": " + std::to_string(count) + ",\n  \"notes\": [");
     std::string_view separator = "\n    ";
     for (const OVNote* note : notes) {
-        std::string text = textOfJSON(jsonOfNote(*note));
+        std::string text = textOfJSON(jsonOf(*note));
         indentLines(text, "    ");
         output.write(separator);
         output.write(text);

@@ -3,6 +3,7 @@
 #include "model/OVNote.h"
 #include "tools/tarn/JSON.h"
 
+#include <functional>
 #include <span>
 
 namespace tarn {
@@ -16,7 +17,8 @@ JSON jsonOfNoteWithText(const OVNote& note);
 JSON jsonOfNotes(std::span<OVNote* const> notes);
 
 /// Writes `{"count": ..., "notes": [...]}` and more keys behind, note by note: a long list never stands in memory
-/// whole.
-void writeNoteList(Output& output, std::size_t count, std::span<OVNote* const> notes, const JSON& moreKeys);
+/// whole. A note is what `jsonOf` makes of it.
+void writeNoteList(Output& output, std::size_t count, std::span<OVNote* const> notes, const JSON& moreKeys,
+    const std::function<JSON(const OVNote&)>& jsonOf = jsonOfNote);
 
 } // namespace tarn

@@ -1,7 +1,7 @@
-#include "platform/foundation/Folding.h"
 #include "platform/foundation/UTF.h"
 #include "search/HighlightTerms.h"
 #include "search/OVNoteSearchManager.h"
+#include "search/TermFinder.h"
 #include "tools/tarn/CommandLine.h"
 #include "tools/tarn/Commands.h"
 #include "tools/tarn/MatchingLine.h"
@@ -32,8 +32,7 @@ struct SearchOptions {
 struct Highlight {
     std::string pattern;
     std::string editorTerm;
-    std::vector<std::string> foldedTerms;
-    std::optional<RegularExpression> expression; ///< none for an empty pattern, which matches nothing here
+    TermFinder terms;
 };
 
 /// A search that was carried out, and how.
@@ -48,13 +47,8 @@ struct SearchResult {
 
 Highlight highlightOf(const std::string& query)
 {
-    Highlight highlight{OVNoteSearchManager::likeOrPatternForSearchString(query),
-        OVNoteSearchManager::searchStringForNoteEditor(query), {}, std::nullopt};
-    for (const HighlightTerm& term : highlightTermsOfSearchString(query).terms)
-        highlight.foldedTerms.push_back(fold(term.text));
-    if (!highlight.pattern.empty())
-        highlight.expression = OVNoteSearchManager::likeOrRegexForSearchString(query);
-    return highlight;
+    return {OVNoteSearchManager::likeOrPatternForSearchString(query),
+        OVNoteSearchManager::searchStringForNoteEditor(query), TermFinder(highlightTermsOfSearchString(query).terms)};
 }
 
 double millisecondsSince(std::chrono::steady_clock::time_point start)
@@ -93,14 +87,19 @@ SearchResult searchNotes(StoreSession& session, const std::optional<NSPredicate>
     return result;
 }
 
+/// The line of a note that a search shows; none of a protected one.
+std::vector<LinePiece> lineOfHit(const OVNote& note, const Highlight& highlight, std::size_t width)
+{
+    if (highlight.terms.isEmpty() || note.encryptedValue())
+        return {};
+    return firstMatchingLine(note.text().value_or(""), highlight.terms, width);
+}
+
 void writeHit(Output& output, const OVNote& note, const Highlight& highlight)
 {
     writeNoteLine(output, note);
-    if (highlight.foldedTerms.empty() || note.encryptedValue())
-        return;
     const std::size_t width = output.width().value_or(kWidthWithoutTerminal);
-    const std::vector<LinePiece> line = firstMatchingLine(
-        note.text().value_or(""), highlight.foldedTerms, highlight.expression, width > 14 ? width - 4 : 10);
+    const std::vector<LinePiece> line = lineOfHit(note, highlight, width > 14 ? width - 4 : 10);
     if (line.empty())
         return;
     std::string text = "    ";
@@ -116,6 +115,23 @@ void writeExplanation(Output& output, const SearchResult& result)
     output.writeLine(output.styled("times      ", TextStyle::Faint) + "compile "
         + std::to_string(result.compileMilliseconds) + " ms, fetch " + std::to_string(result.fetchMilliseconds)
         + " ms");
+}
+
+/// The note with the line that shows a term, and the bytes of it that do.
+JSON jsonOfHit(const OVNote& note, const Highlight& highlight)
+{
+    JSON json = jsonOfNote(note);
+    const std::vector<LinePiece> pieces = lineOfHit(note, highlight, kWidthWithoutTerminal);
+    std::string line;
+    JSON matches = JSON::array();
+    for (const LinePiece& piece : pieces) {
+        if (piece.isMatch)
+            matches.push_back({{"start", line.size()}, {"length", piece.text.size()}});
+        line += piece.text;
+    }
+    json["line"] = pieces.empty() ? JSON() : JSON(line);
+    json["matches"] = std::move(matches);
+    return json;
 }
 
 JSON jsonOfExtras(const SearchResult& result, const Highlight& highlight, bool explain)
@@ -137,7 +153,8 @@ void writeResult(
 {
     Output& output = invocation.output;
     if (invocation.json) {
-        writeNoteList(output, result.count, result.notes, jsonOfExtras(result, highlight, options.explain));
+        writeNoteList(output, result.count, result.notes, jsonOfExtras(result, highlight, options.explain),
+            [&](const OVNote& note) { return jsonOfHit(note, highlight); });
         return;
     }
     if (options.explain)
