@@ -2,6 +2,7 @@
 
 #include "platform/coredata/NSManagedObjectContext.h"
 #include "platform/coredata/NSPersistentStoreCoordinator.h"
+#include "platform/coredata/QueueChecks.h"
 #include "platform/foundation/Queue.h"
 #include "platform/foundation/WeakReference.h"
 #include "store/OVCoreDataStackDelegate.h"
@@ -53,6 +54,8 @@ public:
     void setDelegate(OVCoreDataStackDelegate* delegate);
 
     // Contexts ------------------------------------------------------------------------------------------------------
+    /// Has the contexts of the process look out for uses on wrong queues, in any build; see `QueueChecks`.
+    static void setQueueChecks(QueueChecks checks) { tarn::setQueueChecks(checks); }
     /// Null before the store was opened.
     NSManagedObjectContext* managedObjectContext() const noexcept { return managedObjectContext_.get(); }
     /// Over a store in memory, for records that are never saved. Null before `setupStack`.

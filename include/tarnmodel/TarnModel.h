@@ -25,6 +25,7 @@
 #include "platform/coredata/NSManagedObjectSet.h"
 #include "platform/coredata/NSPersistentStore.h"
 #include "platform/coredata/NSPersistentStoreCoordinator.h"
+#include "platform/coredata/QueueChecks.h"
 #include "platform/predicate/NSPredicate.h"
 
 // What the server keeps of a record.

@@ -1,12 +1,10 @@
 #include "platform/coredata/ContextCore.h"
 
 #include "platform/coredata/RecordAccess.h"
-#include "platform/foundation/Log.h"
 #include "platform/foundation/NSException.h"
 #include "platform/foundation/NSNotificationCenter.h"
 
 #include <any>
-#include <cstdlib>
 #include <utility>
 
 namespace tarn {
@@ -68,18 +66,6 @@ void ContextCore::publish()
         link_->publish();
     else
         link_.reset();
-}
-
-void ContextCore::assertOnQueue() const
-{
-#ifndef NDEBUG
-    if (queue_->isCurrent())
-        return;
-    const Queue* caller = Queue::current();
-    logMessage("A context of the queue \"" + queue_->label() + "\" was used on \""
-        + (caller ? caller->label() : "a thread without a queue") + "\"");
-    std::abort();
-#endif
 }
 
 // Records -------------------------------------------------------------------------------------------------------------
@@ -175,7 +161,7 @@ void ContextCore::shedFromChildren()
 
 bool ContextCore::beginWrite(NSManagedObject& object)
 {
-    assertOnQueue();
+    assertOnQueue(&object);
     if (object.isDeleted())
         return false;
     if (object.isFault())
@@ -246,7 +232,7 @@ void ContextCore::noteRefreshed(NSManagedObject& object)
 
 void ContextCore::remove(NSManagedObject& object, Preparation preparation)
 {
-    assertOnQueue();
+    assertOnQueue(&object);
     if (object.isDeleted() || RecordAccess::isBeingDeleted(object))
         return;
     RecordAccess::markBeingDeleted(object);

@@ -7,6 +7,7 @@
 #include "platform/coredata/ObjectRegistry.h"
 #include "platform/coredata/ParentLink.h"
 #include "platform/coredata/PendingIndex.h"
+#include "platform/coredata/QueueChecks.h"
 #include "platform/coredata/RelationshipMaintenance.h"
 
 #include <functional>
@@ -53,8 +54,12 @@ public:
     /// Lets children, where there are any, see what is pending now.
     void publish();
     Queue& queue() const noexcept { return *queue_; }
-    /// Debug builds abort, naming both queues, when the caller is on another one.
-    void assertOnQueue() const;
+    /// Where queues are checked: reports a caller that is on another one, and the record that it wanted.
+    void assertOnQueue(const NSManagedObject* record = nullptr) const
+    {
+        if (queueChecks() != QueueChecks::Off && !queue_->isCurrent())
+            reportWrongQueue(*queue_, record);
+    }
 
     NSManagedObject& insert(const NSEntityDescription& entity);
     /// The identifier in terms of this context's store and model; empty for one of another store.

@@ -11,7 +11,7 @@ namespace tarn {
 
 void ContextCore::refresh(NSManagedObject& object, bool mergeChanges)
 {
-    assertOnQueue();
+    assertOnQueue(&object);
     if (object.isInserted() || object.isDeleted())
         return;
     if (!mergeChanges && object.hasChanges()) {

@@ -141,7 +141,7 @@ std::map<std::string, Value> NSManagedObject::committedValuesForKeys(const std::
 
 bool NSManagedObject::prepareRead(PropertyIndex index) const
 {
-    core().assertOnQueue();
+    core().assertOnQueue(this);
     if (flags_ & Fault)
         core().faulting.fire(*this);
     if (values_.isEmpty())
@@ -196,7 +196,7 @@ NSManagedObject* NSManagedObject::toOneAt(PropertyIndex index) const
 
 ToManySet& NSManagedObject::toManyAt(PropertyIndex index) const
 {
-    core().assertOnQueue();
+    core().assertOnQueue(this);
     return core().relationships.toMany(*this, static_cast<const NSRelationshipDescription&>(entity().property(index)));
 }
 
@@ -440,7 +440,7 @@ void KeyValueObservation::invalidate()
 
 KeyValueObservation NSManagedObject::addObserver(std::string_view key, Observer observer)
 {
-    core().assertOnQueue();
+    core().assertOnQueue(this);
     auto& observers = RecordAccess::details(*this).observers;
     std::erase_if(observers, [](const auto& registration) { return !registration->active; });
     observers.push_back(

@@ -80,6 +80,7 @@ void NSManagedObjectContext::deleteObject(NSManagedObject& object)
 
 NSManagedObject* NSManagedObjectContext::objectRegisteredForID(const NSManagedObjectID& objectID) const
 {
+    core_->assertOnQueue();
     const NSManagedObjectID id = core_->localID(objectID);
     NSManagedObject* known = id ? core_->registry.find(*id.root(), id.key()) : nullptr;
     return known && known->entity().isKindOfEntity(id.entity()) ? known : nullptr;
@@ -120,6 +121,7 @@ NSManagedObject* NSManagedObjectContext::objectWithID(const NSManagedObjectID& o
 
 std::vector<NSManagedObject*> NSManagedObjectContext::registeredObjects() const
 {
+    core_->assertOnQueue();
     return core_->registry.objects();
 }
 
@@ -159,18 +161,22 @@ std::optional<std::vector<DictionaryResult>> NSManagedObjectContext::executeDict
 
 bool NSManagedObjectContext::hasChanges() const
 {
+    core_->assertOnQueue();
     return core_->tracker.hasChanges();
 }
 std::vector<NSManagedObject*> NSManagedObjectContext::insertedObjects() const
 {
+    core_->assertOnQueue();
     return core_->tracker.insertedObjects();
 }
 std::vector<NSManagedObject*> NSManagedObjectContext::updatedObjects() const
 {
+    core_->assertOnQueue();
     return core_->tracker.updatedObjects();
 }
 std::vector<NSManagedObject*> NSManagedObjectContext::deletedObjects() const
 {
+    core_->assertOnQueue();
     return core_->tracker.deletedObjects();
 }
 

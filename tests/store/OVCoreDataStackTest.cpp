@@ -396,20 +396,19 @@ TEST_F(StoreStack, GivesBackgroundContextsToTheirCaller)
     EXPECT_TRUE(context().hasChanges()) << "only the main context writes to the store";
 }
 
-#ifndef NDEBUG
-TEST_F(StoreStack, StopsAContextThatIsUsedOnAWrongQueue)
+TEST_F(StoreStack, StopsAContextThatIsUsedOnAWrongQueueWhenAskedTo)
 {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     EXPECT_DEATH(
         {
             setLogSink({});
+            OVCoreDataStack::setQueueChecks(QueueChecks::Abort);
             setUp();
             stack_->performBackgroundTask([&](NSManagedObjectContext&) { titlesIn(context()); });
             MainQueue::main().runUntil([] { return false; });
         },
-        R"(A context of the queue "main" was used on "NSManagedObjectContext")");
+        R"(A context of the queue "main" was used on the queue "NSManagedObjectContext" \(thread 0x)");
 }
-#endif
 
 } // namespace
 } // namespace tarn
