@@ -65,6 +65,25 @@ TEST_P(NoteMerge, TrashesItsSourcesAndDerivesTheNoteAnew)
     EXPECT_FALSE(merger->isTrashed());
 }
 
+TEST_P(NoteMerge, IsPinnedForNoOrderOfItsSourcesUnlessAllWere)
+{
+    constexpr unsigned everyCombination = 16;
+    for (unsigned pinned = 0; pinned < everyCombination; ++pinned) {
+        std::vector<OVNote*> sources;
+        for (unsigned bit = 1; bit < everyCombination; bit *= 2) {
+            sources.push_back(&note("# A"));
+            if ((pinned & bit) != 0)
+                sources.back()->pin();
+        }
+        const bool areAllPinned = pinned == everyCombination - 1;
+        EXPECT_EQ(OVNote::mergeNotes(sources)->isPinned(), areAllPinned) << pinned;
+        const bool areFirstTwoPinned = (pinned & 3) == 3;
+        EXPECT_EQ(OVNote::mergeNotes({sources[0], sources[1]})->isPinned(), areFirstTwoPinned) << pinned;
+        for (std::size_t index = 0; index < sources.size(); ++index)
+            EXPECT_EQ(sources[index]->isPinned(), (pinned >> index & 1) != 0) << "sources keep their pins";
+    }
+}
+
 TEST_P(NoteMerge, IsPinnedWhenAllWere)
 {
     OVNote& pinned = note("# A");
