@@ -238,13 +238,14 @@ private:
         member.entity = &leaf.relationship->destinationEntity();
         SQLPlace place = builder_.paths_.placeOf(member);
         const std::string column = builder_.paths_.column(place, *leaf.attribute);
-        std::string condition(always);
+        // Names the column, so that a table of pairs is joined with the members' own.
+        std::string condition = column + " IS NOT NULL";
         if (!leaf.filter.empty()) {
             const auto said
                 = inner.condition(PredicateNode{CompoundPredicate{CompoundType::And, leaf.filter}}, member, false);
             if (!said || member.readsOuter)
                 return std::nullopt;
-            condition = *said;
+            condition = "(" + condition + " AND " + *said + ")";
         }
         source.select.sql
             = inner.memberSelect({leaf.relationship, owner, &member, condition}, column, SelectForm::OfOwner);

@@ -94,7 +94,7 @@ private:
     NSPredicate positiveLeaf()
     {
         const std::string wanted = below(4) ? words_[below(words_.size())] : word(random_) + word(random_);
-        switch (below(24)) {
+        switch (below(26)) {
         case 0:
             return NSPredicate::predicateWithFormat("ANY labels.name ==[cd] %@", wanted.substr(0, 1));
         case 1:
@@ -115,6 +115,12 @@ private:
             return NSPredicate::predicateWithFormat(
                 "SUBQUERY(attachments, $f, $f.caption CONTAINS[cd] %@ AND $f.caption CONTAINS[cd] 'a').@count == 0",
                 wanted);
+        case 10:
+            return NSPredicate::predicateWithFormat(
+                below(2) ? "ANY labels.name CONTAINS[cd] %@" : "NONE labels.name CONTAINS[cd] %@", wanted.substr(0, 1));
+        case 11:
+            return NSPredicate::predicateWithFormat(
+                "SUBQUERY(labels, $l, $l.weight > 1 AND $l.name CONTAINS[cd] %@).@count > 0", wanted.substr(0, 1));
         case 9:
             return NSPredicate::predicateWithFormat("body CONTAINS[cd] ''");
         default:
@@ -132,7 +138,7 @@ void fillWithManyWords(std::mt19937_64& random, const OpenStore& sql, const Open
         EXPECT_EQ(sql.insert(entity, values), memory.insert(entity, values));
     };
     for (const char* name : {"a", "B", "か", "x"})
-        insert("Label", {{"name", std::string(name)}});
+        insert("Label", {{"name", std::string(name)}, {"weight", static_cast<std::int64_t>(random() % 4)}});
     for (std::int64_t i = 0; i < kDocuments; ++i)
         insert("Document",
             {{"title", random() % 9 ? Value(text(random, 2)) : Value()}, {"flag", random() % 6 == 0},
