@@ -1,6 +1,7 @@
 #include "platform/coredata/PendingFetch.h"
 
 #include "platform/coredata/CappedSum.h"
+#include "platform/coredata/CompleteOrder.h"
 #include "platform/coredata/ContextCore.h"
 #include "platform/coredata/KeyPathWalk.h"
 #include "platform/coredata/RecordAccess.h"
@@ -49,7 +50,7 @@ void PendingFetch::collectRelevantProperties()
     if (request_.predicate)
         for (const auto& keys : keyPathsReadByPredicate(*request_.predicate))
             noteKeyPath(keys);
-    for (const NSSortDescriptor& descriptor : request_.sortDescriptors)
+    for (const NSSortDescriptor& descriptor : completeOrder(request_.sortDescriptors, *request_.entity).descriptors)
         noteKeyPath(keysOfPath(descriptor.key));
 }
 
@@ -125,7 +126,7 @@ std::vector<NSManagedObject*> PendingFetch::matchingInMemory()
         const PredicateEvaluator evaluator(*request_.predicate);
         std::erase_if(found, [&](const NSManagedObject* record) { return !evaluator.evaluate(*record); });
     }
-    const SortOrder order(request_.sortDescriptors);
+    const SortOrder order(request_.sortDescriptors, *request_.entity);
     std::sort(found.begin(), found.end(),
         [&](const NSManagedObject* left, const NSManagedObject* right) { return order.comesBefore(*left, *right); });
     return found;
@@ -154,7 +155,7 @@ std::vector<NSManagedObject*> PendingFetch::merged(
     if (pending.empty()) {
         all = std::move(stored);
     } else {
-        const SortOrder order(request_.sortDescriptors);
+        const SortOrder order(request_.sortDescriptors, *request_.entity);
         std::merge(stored.begin(), stored.end(), pending.begin(), pending.end(), std::back_inserter(all),
             [&](const NSManagedObject* left, const NSManagedObject* right) {
                 return order.comesBefore(*left, *right);

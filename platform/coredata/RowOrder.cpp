@@ -1,5 +1,6 @@
 #include "platform/coredata/RowOrder.h"
 
+#include "platform/coredata/CompleteOrder.h"
 #include "platform/foundation/Collation.h"
 #include "platform/foundation/NSException.h"
 
@@ -40,8 +41,10 @@ std::partial_ordering compareParts(NSAttributeType type, const Part& left, const
 
 RowOrder::RowOrder(std::span<const NSSortDescriptor> descriptors, const NSEntityDescription& entity)
 {
-    for (const NSSortDescriptor& descriptor : descriptors)
+    const CompleteOrder order = completeOrder(descriptors, entity);
+    for (const NSSortDescriptor& descriptor : order.descriptors)
         keys_.push_back(sortKey(descriptor, entity));
+    keysAscend_ = order.keysAscend;
 }
 
 RowOrder::SortKey RowOrder::sortKey(const NSSortDescriptor& descriptor, const NSEntityDescription& entity)
@@ -130,7 +133,7 @@ bool RowOrder::comesBefore(const Place& left, const Place& right) const
         if (order != 0)
             return keys_[at].isAscending ? order < 0 : order > 0;
     }
-    return left.key < right.key;
+    return keysAscend_ ? left.key < right.key : right.key < left.key;
 }
 
 } // namespace tarn

@@ -9,7 +9,7 @@
 
 namespace tarn {
 
-/// The order that sort descriptors ask for, over rows: nil first when ascending, ties by key.
+/// The order that sort descriptors ask for, over rows: nil first when ascending, ties as `completeOrder` settles them.
 class RowOrder {
 public:
     /// What one row is sorted by; made once for each row.
@@ -20,7 +20,7 @@ public:
             double floating = 0;
             std::string bytes; ///< a text, a sort key of the locale, or data
         };
-        std::vector<Part> parts; ///< one for each descriptor
+        std::vector<Part> parts; ///< one for each descriptor of the complete order
         std::int64_t key = 0;
     };
 
@@ -41,6 +41,7 @@ private:
     static Place::Part partOf(const SortKey& key, const StoreRow& row, const RowReader& reader);
 
     std::vector<SortKey> keys_;
+    bool keysAscend_;
 };
 
 } // namespace tarn

@@ -1,5 +1,6 @@
 #include "platform/coredata/SQLGenerator.h"
 
+#include "platform/coredata/CompleteOrder.h"
 #include "platform/coredata/PredicateKeys.h"
 #include "platform/coredata/RowLayout.h"
 #include "platform/foundation/NSException.h"
@@ -254,7 +255,8 @@ void SQLGenerator::addPredicate(const NSPredicate& predicate, Parts& parts, std:
 std::string SQLGenerator::orderBy(const StoreFetch& fetch, Parts& parts) const
 {
     std::vector<std::string> terms;
-    for (const NSSortDescriptor& descriptor : fetch.sortDescriptors) {
+    const CompleteOrder order = completeOrder(fetch.sortDescriptors, *fetch.entity);
+    for (const NSSortDescriptor& descriptor : order.descriptors) {
         const auto keys = splitKeyPath(descriptor.key);
         SQLPathEnd end = parts.paths.follow(parts.paths.placeOf(parts.scope), keys);
         if (!end.attribute)
@@ -266,7 +268,7 @@ std::string SQLGenerator::orderBy(const StoreFetch& fetch, Parts& parts) const
             term += " COLLATE localized_standard";
         terms.push_back(term + (descriptor.ascending ? "" : " DESC"));
     }
-    terms.push_back(parts.scope.alias + ".\"pk\"");
+    terms.push_back(parts.scope.alias + ".\"pk\"" + (order.keysAscend ? "" : " DESC"));
     std::string sql = " ORDER BY ";
     for (std::size_t i = 0; i < terms.size(); ++i)
         sql += (i == 0 ? "" : ", ") + terms[i];

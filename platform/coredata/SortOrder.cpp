@@ -1,5 +1,6 @@
 #include "platform/coredata/SortOrder.h"
 
+#include "platform/coredata/CompleteOrder.h"
 #include "platform/foundation/Collation.h"
 
 #include <algorithm>
@@ -66,9 +67,11 @@ std::weak_ordering compareForSort(const Value& left, const Value& right, SortCom
     }
 }
 
-SortOrder::SortOrder(std::span<const NSSortDescriptor> descriptors)
+SortOrder::SortOrder(std::span<const NSSortDescriptor> descriptors, const NSEntityDescription& entity)
 {
-    for (const NSSortDescriptor& descriptor : descriptors)
+    const CompleteOrder order = completeOrder(descriptors, entity);
+    keysAscend_ = order.keysAscend;
+    for (const NSSortDescriptor& descriptor : order.descriptors)
         keys_.push_back({keysOfPath(descriptor.key), descriptor.ascending, descriptor.comparison});
 }
 
@@ -80,6 +83,11 @@ bool SortOrder::comesBefore(const NSManagedObject& left, const NSManagedObject& 
         if (order != std::weak_ordering::equivalent)
             return key.ascending ? order == std::weak_ordering::less : order == std::weak_ordering::greater;
     }
+    return keysAscend_ ? hasLowerKey(left, right) : hasLowerKey(right, left);
+}
+
+bool SortOrder::hasLowerKey(const NSManagedObject& left, const NSManagedObject& right)
+{
     if (left.isInserted() != right.isInserted())
         return right.isInserted();
     if (left.isInserted())

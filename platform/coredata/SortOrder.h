@@ -11,11 +11,11 @@
 
 namespace tarn {
 
-/// The order that sort descriptors give to records, the same as the store's: nil first when ascending, ties by primary
-/// key, unsaved insertions behind in their order.
+/// The order that sort descriptors give to records, the same as the store's: nil first when ascending, ties as
+/// `completeOrder` settles them. Unsaved insertions count as if their keys were the next ones.
 class SortOrder {
 public:
-    explicit SortOrder(std::span<const NSSortDescriptor> descriptors);
+    SortOrder(std::span<const NSSortDescriptor> descriptors, const NSEntityDescription& entity);
     bool comesBefore(const NSManagedObject& left, const NSManagedObject& right) const;
 
 private:
@@ -24,7 +24,10 @@ private:
         bool ascending;
         SortComparison comparison;
     };
+    static bool hasLowerKey(const NSManagedObject& left, const NSManagedObject& right);
+
     std::vector<Key> keys_;
+    bool keysAscend_;
 };
 
 /// "a.b.c" as its keys.

@@ -2,6 +2,7 @@
 
 #include "platform/coredata/CandidateFinder.h"
 #include "platform/coredata/CappedSum.h"
+#include "platform/coredata/CompleteOrder.h"
 #include "platform/coredata/SQLiteConnection.h"
 
 #include <fmt/format.h>
@@ -63,35 +64,10 @@ bool searchesTextsIn(const StoreFetch& fetch, const StoreSchema& schema)
     return !searched.empty() && mayUseIndex(fetch.predicate->node(), searched);
 }
 
-/// Whether an index has the rows in this order, forwards or backwards.
-bool isOrderOfIndex(std::span<const NSSortDescriptor> order, const IndexDescription& index)
-{
-    if (order.size() > index.columns.size())
-        return false;
-    const bool isBackwards = order.front().ascending == index.columns.front().descending;
-    for (std::size_t i = 0; i < order.size(); ++i) {
-        const bool isSame = order[i].key == index.columns[i].property
-            && (order[i].ascending == index.columns[i].descending) == isBackwards
-            && order[i].comparison == SortComparison::Standard;
-        if (!isSame)
-            return false;
-    }
-    return true;
-}
-
-bool hasIndexedOrder(const StoreFetch& fetch)
-{
-    if (fetch.sortDescriptors.empty())
-        return true; // the order of keys
-    const auto& indexes = fetch.entity->rootEntity().indexes();
-    return std::any_of(indexes.begin(), indexes.end(),
-        [&](const IndexDescription& index) { return isOrderOfIndex(fetch.sortDescriptors, index); });
-}
-
 /// Whether it is cheaper to pass over the rows of an index until enough candidates were met than to sort them all.
 bool isWalkCheaper(const SearchPlan& plan, const StoreFetch& fetch)
 {
-    if (!hasIndexedOrder(fetch))
+    if (!completeOrder(fetch.sortDescriptors, *fetch.entity).isIndexed)
         return false;
     const std::size_t count = plan.candidates->size();
     const std::size_t wanted = std::min(count, cappedSum(fetch.offset, fetch.limit));

@@ -15,7 +15,7 @@ CREATE INDEX "Document_title_stale" ON "Document" ("title_folded") WHERE "title_
 CREATE TRIGGER "Document_title_stale" AFTER UPDATE OF "title" ON "Document" WHEN NEW."title" IS NOT OLD."title" AND NEW."title_folded" IS OLD."title_folded" BEGIN UPDATE "Document" SET "title_folded" = NULL WHERE "pk" = NEW."pk"; END;
 CREATE INDEX "Document_code" ON "Document" ("code");
 CREATE INDEX "Document_owner" ON "Document" ("owner");
-CREATE INDEX "Document_flag_modified" ON "Document" ("flag" DESC, "modified" DESC);
+CREATE INDEX "Document_flag_modified_order" ON "Document" ("flag" DESC, "modified" DESC, "order");
 CREATE INDEX "Label_name_folded" ON "Label" ("name_folded");
 CREATE INDEX "Label_name_stale" ON "Label" ("name_folded") WHERE "name_folded" IS NULL AND "name" IS NOT NULL;
 CREATE TRIGGER "Label_name_stale" AFTER UPDATE OF "name" ON "Label" WHEN NEW."name" IS NOT OLD."name" AND NEW."name_folded" IS OLD."name_folded" BEGIN UPDATE "Label" SET "name_folded" = NULL WHERE "pk" = NEW."pk"; END;

@@ -38,7 +38,7 @@ inline constexpr std::string_view libraryModel = R"({
        {"name": "chapters", "to": "Chapter", "many": true, "inverse": "book", "delete": "cascade"},
        {"name": "cover", "to": "Cover", "inverse": "book", "column": true, "delete": "cascade"},
        {"name": "items", "to": "Item", "many": true, "inverse": "book", "delete": "deny"}],
-     "indexes": [{"columns": ["lent desc", "printed desc"], "unique": false}]},
+     "indexes": [{"columns": ["lent desc", "printed desc", "pages"], "unique": false}]},
     {"name": "Shelf",
      "attributes": [
        {"name": "name", "type": "string", "index": ["folded"]},

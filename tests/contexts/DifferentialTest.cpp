@@ -17,7 +17,7 @@ std::vector<NSManagedObject*> judgedOneByOne(
     for (NSManagedObject* record : records)
         if (evaluator.evaluate(*record))
             found.push_back(record);
-    const SortOrder order(request.sortDescriptors);
+    const SortOrder order(request.sortDescriptors, *request.entity);
     std::sort(found.begin(), found.end(),
         [&](const NSManagedObject* left, const NSManagedObject* right) { return order.comesBefore(*left, *right); });
     const std::size_t begin = std::min(request.fetchOffset, found.size());

@@ -190,6 +190,10 @@ NSPredicate RandomLibrary::predicate()
 
 std::vector<NSSortDescriptor> RandomLibrary::order()
 {
+    // The order of the index, in which many are equal, forwards and backwards.
+    const bool ascending = chance(50);
+    if (chance(25))
+        return {{"lent", ascending}, {"printed", ascending}};
     std::vector<NSSortDescriptor> descriptors;
     for (std::size_t count = below(3); count > 0; --count)
         descriptors.push_back({pick({"title", "pages", "lent", "printed", "weight", "cover.color"}), chance(50)});

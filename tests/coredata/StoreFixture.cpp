@@ -29,7 +29,7 @@ constexpr std::string_view kModel = R"json({
        {"name": "owner", "to": "Person", "inverse": "documents"},
        {"name": "record", "to": "Record", "inverse": "document"}
      ],
-     "indexes": [{"columns": ["flag desc", "modified desc"]}]},
+     "indexes": [{"columns": ["flag desc", "modified desc", "order"]}]},
     {"name": "Label",
      "attributes": [
        {"name": "name", "type": "string", "index": ["folded"]},
