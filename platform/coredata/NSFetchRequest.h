@@ -16,7 +16,8 @@ enum class SortComparison : std::uint8_t {
     LocalizedStandard, ///< strings as people sort them: by locale, without case, digits by value
 };
 
-/// One key of an order. Ties of all keys go by primary key, then by order of insertion.
+/// One key of an order. Ties of all keys go as they lie in the index of that order, else by ascending primary key;
+/// unsaved records count as if their keys were the next ones.
 struct NSSortDescriptor {
     std::string key; ///< a key path over to-one relationships that ends in an attribute
     bool ascending = true;
