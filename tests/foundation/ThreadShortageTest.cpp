@@ -23,6 +23,7 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr auto kPatience = 10s; // never waited for when all is well
+constexpr auto kSooner = 4s;    // than the warning, at which who waits looks anyway
 
 /// Each case runs in a process of its own, whose pool has made no thread yet and gets this many.
 class ThreadShortage : public testing::TestWithParam<int> {
@@ -138,12 +139,17 @@ TEST_P(ThreadShortage, ServesForeignThreadsThatWait)
         std::atomic<int> running = 0;
         std::atomic<bool> overlapped = false;
         std::atomic<int> ended = 0;
+        const auto task = [&] {
+            overlapped = overlapped || ++running > 1;
+            std::this_thread::yield();
+            --running;
+        };
         std::vector<std::thread> threads;
         for (int thread = 0; thread < 4; ++thread) {
             threads.emplace_back([&] {
                 for (int round = 0; round < 200; ++round) {
-                    queue->async([&] { overlapped = overlapped || ++running > 1, --running; });
-                    queue->sync([&] { overlapped = overlapped || ++running > 1, --running; });
+                    queue->async(task);
+                    queue->sync(task);
                 }
                 ++ended;
             });
@@ -152,6 +158,33 @@ TEST_P(ThreadShortage, ServesForeignThreadsThatWait)
         for (std::thread& thread : threads)
             thread.join();
         return ok && !overlapped;
+    });
+}
+
+TEST_P(ThreadShortage, WakesWhoWaitedWhenThereWasAThread)
+{
+    EXPECT_HOLDS([] {
+        const auto first = SerialQueue::make("first");
+        const auto second = SerialQueue::make("second");
+        const auto third = SerialQueue::make("third");
+        std::atomic<bool> isWaiting = false;
+        std::promise<void> thirdRan;
+        std::atomic<bool> hasEnded = false;
+        bool ran = false;
+        first->async([&] {
+            while (!isWaiting)
+                std::this_thread::yield();
+            std::this_thread::sleep_for(50ms); // asleep by now; if not, the test sees less
+            // From here on the last thread waits, for something that waits for the third queue.
+            second->sync([&] { ran = thirdRan.get_future().wait_for(kSooner) == std::future_status::ready; });
+            hasEnded = true;
+        });
+        std::thread foreign([&] {
+            isWaiting = true;
+            third->sync([&] { thirdRan.set_value(); });
+        });
+        foreign.join(); // meanwhile nobody drains the main queue
+        return MainQueue::main().runUntil([&] { return hasEnded.load(); }, kPatience) && ran;
     });
 }
 
