@@ -17,7 +17,7 @@ void RemoteMerge::run(const RemoteChanges& changes)
         core_.holdsMergedRelationships = true;
     takeRows(keysOf(changes.inserted), true);
     takeRows(knownKeys(keysOf(changes.updated)), false);
-    for (const auto& [root, keys] : knownKeys(keysOf(changes.deleted)))
+    for (const auto& [root, keys] : keysOf(changes.deleted))
         for (const std::int64_t key : keys)
             remove(*root, key);
     if (!gone_.empty())
@@ -112,6 +112,7 @@ void RemoteMerge::take(NSManagedObject& record, StoreRow row)
 
 void RemoteMerge::remove(const NSEntityDescription& root, std::int64_t key)
 {
+    gone_[&root].insert(key); // a record may name it that was never read here
     NSManagedObject* record = core_.registry.find(root, key);
     if (!record)
         return;
@@ -120,7 +121,6 @@ void RemoteMerge::remove(const NSEntityDescription& root, std::int64_t key)
             "Another writer deleted " + record->objectID().URIRepresentation() + "; its unsaved changes were dropped");
     core_.tracker.forgetPending(*record);
     core_.noteGone(*record);
-    gone_[&root].insert(key);
 }
 
 } // namespace tarn
