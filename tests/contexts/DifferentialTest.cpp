@@ -48,8 +48,8 @@ protected:
 
     void expectAgreement(const NSFetchRequest& request, unsigned seed)
     {
+        const auto found = fetch(request); // first: judging reads everything
         const auto expected = judgedOneByOne(all("Book"), request);
-        const auto found = fetch(request);
         StoreFetch stored;
         stored.entity = request.entity;
         stored.predicate = &*request.predicate;

@@ -1,5 +1,7 @@
 #include "tests/contexts/RandomLibrary.h"
 
+#include <map>
+
 namespace tarn {
 
 namespace {
@@ -166,10 +168,35 @@ std::string RandomLibrary::leaf(std::vector<Value>& arguments)
     }
 }
 
+/// Of the entities around a book: what they say themselves, and what their book says.
+std::string RandomLibrary::leafOf(const std::string& entity, std::vector<Value>& arguments)
+{
+    if (entity == "Shelf") {
+        if (chance(40))
+            return pick({"floor > 0", "floor == -1", "books.@count > 1", "books.@count == 0",
+                "SUBQUERY(books, $b, $b.lent == YES AND $b.pages > 0).@count > 0", "ANY books.cover.color == 'a'"});
+        arguments.push_back(randomText());
+        return pick({"name ==[cd] %@", "ANY books.title == %@", "NONE books.body ==[cd] %@", "ANY books.code == %@"});
+    }
+    if (chance(50))
+        return bookLeaf("book.", arguments);
+    if (chance(30)) {
+        arguments.emplace_back(any("Book"));
+        return pick({"book == %@", "book != %@", "NOT (book == %@)"});
+    }
+    if (entity == "Chapter" && chance(50))
+        return pick({"number > 0", "number == nil", "book.items.@count > 0", "book.shelves.@count == 0"});
+    if (entity == "Map" && chance(50))
+        return pick({"scale > 0", "scale == nil", "scale < 2"});
+    arguments.push_back(randomText());
+    const std::string own = entity == "Chapter" ? "heading" : entity == "Cover" ? "color" : "label";
+    return pick({own.c_str(), "book.cover.color"}) + pick({" == %@", " !=[cd] %@"});
+}
+
 std::string RandomLibrary::term(int depth, std::vector<Value>& arguments)
 {
     if (depth == 0 || chance(35))
-        return leaf(arguments);
+        return entity_ == "Book" ? leaf(arguments) : leafOf(entity_, arguments);
     if (chance(25))
         return "NOT (" + term(depth - 1, arguments) + ")";
     const std::string joint = pick({" AND ", " OR "});
@@ -198,6 +225,31 @@ std::vector<NSSortDescriptor> RandomLibrary::order()
     for (std::size_t count = below(3); count > 0; --count)
         descriptors.push_back({pick({"title", "pages", "lent", "printed", "weight", "cover.color"}), chance(50)});
     return descriptors;
+}
+
+NSFetchRequest RandomLibrary::request()
+{
+    static const std::map<std::string, std::vector<const char*>> keys = {
+        {"Book", {"title", "pages", "lent", "weight", "cover.color"}},
+        {"Shelf", {"name", "floor"}},
+        {"Chapter", {"heading", "number", "book.title", "book.pages", "book.cover.color"}},
+        {"Cover", {"color", "book.title", "book.printed"}},
+        {"Item", {"label", "book.title", "book.cover.color"}},
+        {"Map", {"scale", "book.pages"}},
+        {"Disc", {"label", "book.weight"}},
+    };
+    entity_ = pick({"Book", "Book", "Shelf", "Chapter", "Cover", "Item", "Map", "Disc"});
+    NSFetchRequest request(*context_->managedObjectModel().entityNamed(entity_));
+    std::vector<Value> arguments;
+    const std::string format = term(2, arguments);
+    request.predicate = NSPredicate::predicateWithFormatAndArguments(format, arguments);
+    for (std::size_t count = below(3); count > 0; --count)
+        request.sortDescriptors.push_back({pick(keys.at(entity_)), chance(50)});
+    request.includesSubentities = entity_ != "Item" || chance(80);
+    request.fetchLimit = chance(50) ? 1 + below(5) : 0;
+    request.fetchOffset = chance(50) ? below(4) : 0;
+    entity_ = "Book";
+    return request;
 }
 
 } // namespace tarn

@@ -22,6 +22,8 @@ public:
     /// A predicate over books as a format, with records as arguments.
     NSPredicate predicate();
     std::vector<NSSortDescriptor> order();
+    /// A fetch on any entity, with paths over the others in predicate and order, and with limit and offset.
+    NSFetchRequest request();
     std::size_t below(std::size_t bound) { return std::uniform_int_distribution<std::size_t>(0, bound - 1)(random_); }
 
 private:
@@ -32,10 +34,13 @@ private:
     Value randomText();
     std::string term(int depth, std::vector<Value>& arguments);
     std::string leaf(std::vector<Value>& arguments);
+    std::string leafOf(const std::string& entity, std::vector<Value>& arguments);
     std::string bookLeaf(const std::string& prefix, std::vector<Value>& arguments);
+    std::string pick(const std::vector<const char*>& choices) { return choices.at(below(choices.size())); }
     std::string pick(std::initializer_list<const char*> choices);
 
     NSManagedObjectContext* context_;
+    std::string entity_ = "Book"; ///< that predicates are made for
     std::mt19937 random_;
 };
 
