@@ -126,6 +126,8 @@ bool SavePlan::assignKeys(NSError* error)
             core_.readdress(*record, NSManagedObjectID(former.store(), former.entity(), key++));
         }
     }
+    // Somebody may have asked for a key before it was given, and deleted what was not there.
+    std::erase_if(deleted_, [](const NSManagedObject* record) { return RecordAccess::isGone(*record); });
     return true;
 }
 

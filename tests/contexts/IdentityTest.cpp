@@ -129,6 +129,20 @@ TEST_P(Identity, OfAKeyThatWasAskedForBeforeItWasGivenIsThatOfTheInsertedRecord)
     EXPECT_THAT(texts(all("Book"), "title"), ElementsAre("first", "edited"));
 }
 
+TEST_P(Identity, OfAKeyThatWasDeletedBeforeItWasGivenDeletesNothing)
+{
+    NSManagedObject& first = shelf("first");
+    save();
+    const NSManagedObjectID next(first.objectID().store(), first.entity(), first.objectID().key() + 1);
+    context_->deleteObject(*context_->objectWithID(next));
+    NSManagedObject& second = shelf("second");
+    save();
+    ASSERT_EQ(second.objectID(), next) << "keys are given one after another";
+    EXPECT_THAT(all("Shelf"), ElementsAre(&first, &second));
+    restart();
+    EXPECT_THAT(texts(all("Shelf"), "name"), ElementsAre("first", "second"));
+}
+
 // Of others ---------------------------------------------------------------------------------------------------------
 
 TEST_P(Identity, OfAnotherStoreIsNobodyHere)
