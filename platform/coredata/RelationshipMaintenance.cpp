@@ -115,9 +115,6 @@ void RelationshipMaintenance::attachInverse(
 void RelationshipMaintenance::detachInverse(
     NSManagedObject& target, const NSRelationshipDescription& inverse, NSManagedObject& record)
 {
-    // A deletion that is not saved yet is judged by who is still there.
-    if (target.isDeleted() && inverse.isToMany())
-        toMany(target, inverse).take(record);
     if (!core_.beginWrite(target))
         return;
     if (inverse.isToMany()) {

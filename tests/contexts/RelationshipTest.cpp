@@ -317,6 +317,37 @@ TEST_P(Relationship, DenyLooksAtWhatIsStoredNow)
     EXPECT_EQ(error.code(), StoreErrorDeleteDenied);
 }
 
+TEST_P(Relationship, ToADeletedRecordIsNone)
+{
+    for (const bool isInserted : {false, true}) {
+        NSManagedObject& one = book("One");
+        NSManagedObject& two = book("Two");
+        NSManagedObject& chapter = insert("Chapter");
+        NSManagedObject& cover = insert("Cover");
+        chapter.setValueForKey("book", Value(&two));
+        if (!isInserted)
+            save();
+        context_->deleteObject(one);
+        chapter.setValueForKey("book", Value(&one));
+        cover.setValueForKey("book", Value(&one));
+        EXPECT_TRUE(chapter.storedValueForKey("book").isNil());
+        EXPECT_THAT(set(two, "chapters").members(), IsEmpty());
+        EXPECT_THAT(find("Chapter", "book == nil"), ElementsAre(&chapter));
+        context_->rollback();
+        if (isInserted)
+            continue;
+        EXPECT_EQ(chapter.storedValueForKey("book"), Value(&two));
+        context_->deleteObject(one);
+        chapter.setValueForKey("book", Value(&one));
+        save();
+        EXPECT_TRUE(chapter.storedValueForKey("book").isNil());
+        for (const std::string_view entity : {"Chapter", "Cover", "Book"})
+            for (NSManagedObject* record : all(entity))
+                context_->deleteObject(*record);
+        save();
+    }
+}
+
 TEST_P(Relationship, IsSetToNothingWhoeverItNamed)
 {
     // A target may be deleted, saved or not, before the relationship that names it is set.
