@@ -331,8 +331,12 @@ void ContextCore::rollback()
     const auto deleted = tracker.deletedObjects();
     for (NSManagedObject* object : updated)
         discardChanges(*object);
-    for (NSManagedObject* object : deleted)
+    for (NSManagedObject* object : deleted) {
         discardChanges(*object);
+        // What others changed of it was left alone while it waited for its deletion.
+        if (holdsMergedRelationships)
+            readAgain(*object);
+    }
     for (NSManagedObject* object : inserted)
         cancelInsertion(*object);
     tracker.clearPending();

@@ -92,7 +92,9 @@ void RemoteMerge::take(NSManagedObject& record, StoreRow row)
     if (!isEdited) {
         if (RecordDetails* details = RecordAccess::detailsIfAny(record); details && details->changed)
             details->committed = row.values;
+        const PropertyValues before = std::move(RecordAccess::values(record));
         RecordAccess::fill(record, std::move(row.values), row.version);
+        core_.relationships.followRow(record, before);
         core_.noteRefreshed(record);
         return;
     }
@@ -106,8 +108,11 @@ void RemoteMerge::take(NSManagedObject& record, StoreRow row)
         logMessage("Error while merging\n" + error.localizedDescription());
         return;
     }
-    if (!whole.empty())
-        mergeRowIntoRecord(core_, record, std::move(whole.front()), MergeWinner::Context);
+    if (whole.empty())
+        return;
+    const PropertyValues before = RecordAccess::values(record);
+    mergeRowIntoRecord(core_, record, std::move(whole.front()), MergeWinner::Context);
+    core_.relationships.followRow(record, before);
 }
 
 void RemoteMerge::remove(const NSEntityDescription& root, std::int64_t key)

@@ -173,7 +173,7 @@ INSTANTIATE_TEST_SUITE_P(Stores, RefreshWalk, testing::Values(StoreType::SQLite,
 
 TEST_P(RefreshWalk, ShowsAtEachStepWhatItsLedgerSays)
 {
-    const unsigned walks = numberOfWalks(GetParam() == StoreType::SQLite ? 6 : 60);
+    const unsigned walks = numberOfWalks(GetParam() == StoreType::SQLite ? 6 : 250);
     for (unsigned seed = 1; seed <= walks && !HasFailure(); ++seed) {
         SCOPED_TRACE(testing::Message() << "seed " << seed);
         begin(seed);
