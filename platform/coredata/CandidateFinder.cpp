@@ -3,6 +3,7 @@
 #include "platform/coredata/SQLiteConnection.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace tarn {
 
@@ -108,16 +109,16 @@ KeySetPtr CandidateFinder::ofCompound(const CompoundPredicate& predicate, const 
 
 KeySetPtr CandidateFinder::ofAll(const CompoundPredicate& predicate, const Rows& rows, bool negated)
 {
+    const NSAttributeDescription* flag = negated || !rows.variable.empty() ? nullptr : flagAmong(predicate, rows);
+    const bool wasFlagged = std::exchange(isFlagged_, isFlagged_ || flag);
     KeySetPtr found;
     for (const PredicateNodePtr& member : predicate.members) {
         found = intersection(found, of(*member, rows, negated));
         if (found && found->size() <= kFewEnough)
-            return found;
+            break;
     }
-    if (found || negated || !rows.variable.empty())
-        return found;
-    const NSAttributeDescription* flag = flagAmong(predicate, rows);
-    return flag && mayAsk() ? flagged(predicate, *flag, rows) : nullptr;
+    isFlagged_ = wasFlagged;
+    return !found && flag && mayAsk() ? flagged(predicate, *flag, rows) : found;
 }
 
 bool CandidateFinder::mayAsk()
@@ -172,10 +173,28 @@ KeySetPtr CandidateFinder::ofAttribute(
     const bool isStringTest = predicate.operation == ComparisonOperator::EqualTo
         || predicate.operation == ComparisonOperator::Contains || predicate.operation == ComparisonOperator::BeginsWith
         || predicate.operation == ComparisonOperator::EndsWith || predicate.operation == ComparisonOperator::Matches;
-    if (negated || !isStringTest || !mayAsk() || !hasSignature(attribute) || !constant
-        || constant->kind() != Value::Kind::String)
+    const bool isKnown = hasSignature(attribute) || hasShadowColumn(attribute);
+    if (negated || !isStringTest || !isKnown || !mayAsk() || !constant || constant->kind() != Value::Kind::String)
         return nullptr;
-    return look_.rowsThatMayMatch(attribute, StringTest(predicate.operation, predicate.options, constant->asString()));
+    const StringTest test(predicate.operation, predicate.options, constant->asString());
+    return hasSignature(attribute) ? look_.rowsThatMayMatch(attribute, test) : ofFolded(attribute, test);
+}
+
+/// The index of folded values is much smaller than the rows: it is looked through instead of them. Those whose folded
+/// value has to be made again are candidates.
+KeySetPtr CandidateFinder::ofFolded(const NSAttributeDescription& attribute, const StringTest& test)
+{
+    if (isFlagged_ || !options_.usesShadows || !test.comparesFolded() || ++scans_ > kMostScans)
+        return nullptr;
+    const std::string table = quotedIdentifier(schema_.table(attribute.declaringEntity()).name);
+    const std::string shadow = quotedIdentifier(shadowColumnName(attribute));
+    SQLText hits;
+    hits.sql = "SELECT \"pk\" FROM " + table + " WHERE folded_test("
+        + hits.bind(SQLStringTest{std::make_shared<const StringTest>(test), {}}) + ", " + shadow + ")";
+    const SQLText stale{"SELECT \"pk\" FROM " + table + " WHERE " + shadow + " IS NULL AND "
+            + quotedIdentifier(attribute.name()) + " IS NOT NULL",
+        {}};
+    return unionOf(keysOf(hits), keysOf(stale));
 }
 
 // Collections ---------------------------------------------------------------------------------------------------------
@@ -267,6 +286,7 @@ KeySetPtr CandidateFinder::keysOf(const SQLText& select)
     bindAll(statement, select.bindings);
     while (statement.step())
         keys.push_back(statement.integer(0));
+    std::ranges::sort(keys);
     return std::make_shared<const KeySet>(std::move(keys));
 }
 

@@ -40,6 +40,7 @@ private:
     KeySetPtr ofAny(const CompoundPredicate& predicate, const Rows& rows, bool negated);
     KeySetPtr ofComparison(const ComparisonPredicate& predicate, const Rows& rows, bool negated);
     KeySetPtr ofAttribute(const NSAttributeDescription& attribute, const ComparisonPredicate& predicate, bool negated);
+    KeySetPtr ofFolded(const NSAttributeDescription& attribute, const StringTest& test);
     KeySetPtr ofMembers(const NSRelationshipDescription& relationship,
         const std::function<KeySetPtr(const Rows&)>& members, const std::string& variable);
     KeySetPtr ofCount(const CountExpression& count, const ComparisonPredicate& predicate, const Rows& rows);
@@ -52,12 +53,15 @@ private:
 
     /// Each question costs a walk; a predicate of very many words asks for the first of them only.
     static constexpr int kMostQuestions = 64;
+    static constexpr int kMostScans = 4;
 
     const StoreSchema& schema_;
     SearchLook& look_;
     SQLiteConnection& connection_;
     SQLConditionOptions options_;
     int questions_ = 0;
+    int scans_ = 0;          ///< of indexes of folded values
+    bool isFlagged_ = false; ///< within an AND whose flag has an index: its rows are few enough
 };
 
 } // namespace tarn

@@ -62,7 +62,7 @@ std::vector<StoreRow> CandidateWalk::rows()
         found.insert(found.end(), std::make_move_iterator(hits.begin()), std::make_move_iterator(hits.end()));
         tried += block.size();
         if (!isAtEnd && isHardlyEverAHit(tried, found.size()))
-            if (auto all = checkedOnTwoThreads())
+            if (auto all = checkedByKey())
                 return std::move(*all);
     }
     found.resize(std::min(found.size(), wanted_));
@@ -88,23 +88,40 @@ std::vector<StoreRow> CandidateWalk::read(const SQLText& select) const
 }
 
 /// Whether the walk is likely to take longer than to check all candidates at once.
-bool CandidateWalk::isHardlyEverAHit(std::size_t tried, std::size_t hits) const noexcept
+bool CandidateWalk::isHardlyEverAHit(std::size_t tried, std::size_t hits) const
 {
-    const std::size_t count = generator_.plan().candidates->size();
+    if (hits >= wanted_ || (hits + 1) * kFewHits > tried)
+        return false;
+    const std::size_t count = candidateCount();
     const std::size_t left = count - std::min(tried, count);
-    if (hits >= wanted_ || left < kEnoughForTwoThreads || (hits + 1) * kFewHits > tried)
+    if (left < kEnoughForTwoThreads)
         return false;
     const double expected
         = static_cast<double>(wanted_ - hits) * static_cast<double>(tried) / static_cast<double>(hits + 1);
     return kGainOfTwoThreads * expected > static_cast<double>(left);
 }
 
-std::optional<std::vector<StoreRow>> CandidateWalk::checkedOnTwoThreads()
+std::size_t CandidateWalk::candidateCount() const
 {
-    const SQLGenerator scan = generator_.withPlan(SearchPlan::Kind::Scan, generator_.plan().candidates);
+    if (generator_.plan().candidates)
+        return generator_.plan().candidates->size();
+    if (!rowCount_)
+        rowCount_ = static_cast<std::size_t>(
+            connection_.integerOf("SELECT count(*) FROM " + quotedIdentifier(fetch_.entity->rootEntity().name())));
+    return *rowCount_;
+}
+
+std::optional<std::vector<StoreRow>> CandidateWalk::checkedByKey()
+{
+    const KeySetPtr& candidates = generator_.plan().candidates;
+    const SQLGenerator scan
+        = generator_.withPlan(candidates ? SearchPlan::Kind::Scan : SearchPlan::Kind::NoIndex, candidates);
     auto keys = keysOnTwoThreads(pool_, connection_, scan, fetch_);
-    if (!keys)
+    if (!keys && candidates)
         return std::nullopt;
+    // Reading all texts in their order is faster than some of them in another, also for one thread.
+    if (!keys)
+        keys = keysOnOneThread(connection_, scan, fetch_);
     const auto hits = std::make_shared<const KeySet>(std::move(*keys));
     RowContents contents = fetch_.contents;
     return read(generator_.withPlan(SearchPlan::Kind::CheckCandidates, hits).rows(fetch_, contents).text);

@@ -16,7 +16,8 @@ class RowLayout;
 class SQLiteConnection;
 
 /// The first rows of a search, from candidates in the order asked for: a block of them is checked, then the next one,
-/// until there are enough. When hardly any candidate is a hit, two threads check all of them instead.
+/// until there are enough. When hardly any candidate is a hit, all of them are checked by key instead, on two threads
+/// where there are two. Where nothing is known about the predicate all rows are candidates.
 ///
 /// One thread asks it, on a connection that stands in a read transaction.
 class CandidateWalk {
@@ -35,9 +36,10 @@ public:
 
 private:
     std::vector<StoreRow> checked(std::span<const std::int64_t> keys);
-    std::optional<std::vector<StoreRow>> checkedOnTwoThreads();
+    std::optional<std::vector<StoreRow>> checkedByKey();
+    std::size_t candidateCount() const;
     std::vector<StoreRow> read(const SQLText& select) const;
-    bool isHardlyEverAHit(std::size_t tried, std::size_t hits) const noexcept;
+    bool isHardlyEverAHit(std::size_t tried, std::size_t hits) const;
 
     const StoreFetch& fetch_;
     const SQLGenerator& generator_;
@@ -47,6 +49,7 @@ private:
     GeneratedSelect block_;
     SQLBinding* blockKeys_; ///< among the arguments of `block_`
     const RowLayout* layout_;
+    mutable std::optional<std::size_t> rowCount_; ///< counted when it is first asked for
 };
 
 } // namespace tarn

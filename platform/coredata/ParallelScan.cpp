@@ -133,4 +133,11 @@ std::optional<std::vector<std::int64_t>> keysOnTwoThreads(
     return std::move(halves->lower);
 }
 
+std::vector<std::int64_t> keysOnOneThread(
+    SQLiteConnection& connection, const SQLGenerator& generator, const StoreFetch& fetch)
+{
+    constexpr KeyRange kAll{std::numeric_limits<std::int64_t>::min(), std::numeric_limits<std::int64_t>::max()};
+    return columnOf(connection, generator.keysInRange(fetch, kAll).text);
+}
+
 } // namespace tarn

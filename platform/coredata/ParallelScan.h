@@ -25,4 +25,8 @@ std::optional<std::size_t> countOnTwoThreads(
 std::optional<std::vector<std::int64_t>> keysOnTwoThreads(
     ConnectionPool& pool, SQLiteConnection& first, const SQLGenerator& generator, const StoreFetch& fetch);
 
+/// The same by the thread that asks.
+std::vector<std::int64_t> keysOnOneThread(
+    SQLiteConnection& connection, const SQLGenerator& generator, const StoreFetch& fetch);
+
 } // namespace tarn

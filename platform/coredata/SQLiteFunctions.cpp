@@ -89,6 +89,17 @@ void stringTestFunction(sqlite3_context* context, int, sqlite3_value** arguments
     }
 }
 
+void foldedTestFunction(sqlite3_context* context, int, sqlite3_value** arguments)
+{
+    const auto* test = static_cast<const StringTest*>(sqlite3_value_pointer(arguments[0], stringTestPointerType));
+    const bool isText = test && sqlite3_value_type(arguments[1]) != SQLITE_NULL;
+    try {
+        sqlite3_result_int(context, isText && test->matchesFolded(textOf(arguments[1])) ? 1 : 0);
+    } catch (const std::exception& failure) {
+        sqlite3_result_error(context, failure.what(), -1);
+    }
+}
+
 /// What a statement within the function failed by is what the statement around it fails by.
 void textsHoldFunction(sqlite3_context* context, int count, sqlite3_value** arguments)
 {
@@ -145,6 +156,9 @@ void registerSQLiteFunctions(SQLiteConnection& connection)
     if (result == SQLITE_OK)
         result = sqlite3_create_function_v2(handle, "string_test", 2, kFlags, new LastFoldedText, stringTestFunction,
             nullptr, nullptr, [](void* last) { delete static_cast<LastFoldedText*>(last); });
+    if (result == SQLITE_OK)
+        result = sqlite3_create_function_v2(
+            handle, "folded_test", 2, kFlags, nullptr, foldedTestFunction, nullptr, nullptr, nullptr);
     if (result == SQLITE_OK)
         result = sqlite3_create_function_v2(handle, "texts_hold", -1, SQLITE_UTF8 | SQLITE_DIRECTONLY, &connection,
             textsHoldFunction, nullptr, nullptr, nullptr);

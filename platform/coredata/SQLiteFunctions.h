@@ -12,6 +12,7 @@ class SQLiteConnection;
 ///
 /// - `fold(text)`: the folded text; NULL for NULL.
 /// - `string_test(test, text)`: 1 when the `StringTest` bound to `test` matches, else 0; 0 for NULL.
+/// - `folded_test(test, folded)`: the same for a text that is folded already.
 /// - `texts_hold(tests, key, condition..., value...)`: 1 when the `RowTextTests` bound to `tests` hold for the row with
 ///   that key, else 0. They say which conditions and values they want to be told, and read the row's other texts.
 /// - `key_in(keys, key)`: 1 when the `KeySet` bound to `keys` has the key, else 0; 0 for NULL.

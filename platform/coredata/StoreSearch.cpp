@@ -121,6 +121,7 @@ StoreSearch::StoreSearch(const SearchIndex* index, const StoreSelects& selects, 
         return;
     }
     pass_.emplace(connection);
+    wantsFirstRows_ = purpose == FetchPurpose::Rows && fetch.limit > 0;
     look_.emplace(*index, connection);
     options.rowsThatMayMatch = [look = &*look_](const NSAttributeDescription& attribute, const StringTest& test) {
         return look->rowsThatMayMatch(attribute, test);
@@ -138,6 +139,10 @@ SearchPlan StoreSearch::plan(const StoreSchema& schema, SQLiteConnection& connec
     plan.candidates = CandidateFinder(schema, *look_, connection, options).candidates(*fetch.predicate, *fetch.entity);
     for (const auto& signature : schema.table(*fetch.entity).signatures)
         plan.rowCount = std::max(plan.rowCount, look_->rowCount(*signature->attribute));
+    // Signatures that were not asked for may not be in memory.
+    if (plan.candidates && plan.rowCount == 0)
+        plan.rowCount = static_cast<std::size_t>(
+            connection.integerOf("SELECT count(*) FROM " + quotedIdentifier(schema.table(*fetch.entity).name)));
     if (plan.candidates)
         plan.kind = chosenKind(plan, fetch, purpose);
     return plan;
@@ -146,7 +151,8 @@ SearchPlan StoreSearch::plan(const StoreSchema& schema, SQLiteConnection& connec
 bool StoreSearch::goesByOrder() const noexcept
 {
     const SearchPlan::Kind kind = generator_->plan().kind;
-    return kind == SearchPlan::Kind::SortCandidates || kind == SearchPlan::Kind::WalkOrder;
+    return kind == SearchPlan::Kind::SortCandidates || kind == SearchPlan::Kind::WalkOrder
+        || (kind == SearchPlan::Kind::NoIndex && wantsFirstRows_);
 }
 
 std::string StoreSearch::description() const

@@ -37,7 +37,7 @@ public:
 
     /// Whether the fetch looks for something in texts.
     bool searchesTexts() const noexcept { return pass_.has_value(); }
-    /// Whether its plan takes candidates in the order asked for.
+    /// Whether rows are checked in the order asked for until there are enough.
     bool goesByOrder() const noexcept;
     const SQLGenerator& generator() const noexcept { return *generator_; }
     /// One line for people: plan, candidates, time.
@@ -51,6 +51,7 @@ private:
     std::optional<SearchLook> look_;
     std::optional<SQLGenerator> generator_;
     std::chrono::steady_clock::duration probeTime_{};
+    bool wantsFirstRows_ = false;
 };
 
 } // namespace tarn

@@ -408,9 +408,17 @@ INSTANTIATE_TEST_SUITE_P(Searches, FirstOfManyDocuments,
         FirstRows{"body CONTAINS[cd] 'pears'", 1000, "walk the order"},
         FirstRows{"body CONTAINS[cd] 'number'", 3000, "walk the order"},
         // Many candidates, hardly any of them a hit.
-        FirstRows{"body CONTAINS[cd] 'number' AND title ENDSWITH[cd] '77'", 30, "walk the order"},
+        FirstRows{"body CONTAINS[cd] 'number' AND title LIKE[cd] '*77'", 30, "walk the order"},
+        FirstRows{"body CONTAINS[cd] 'number' AND title ENDSWITH[cd] '77'", 30, "check candidates"},
         FirstRows{"body CONTAINS[cd] 'number' AND title == 'Title 2999'", 1, "walk the order"},
         FirstRows{"body CONTAINS[cd] 'number' AND title == 'nothing'", 0, "walk the order"},
+        // No gram to look for: all rows are candidates.
+        FirstRows{"body CONTAINS[cd] 'zz'", 0, "no index"}, FirstRows{"body CONTAINS[cd] 'st'", 1, "no index"},
+        FirstRows{"body CONTAINS[cd] '77'", 57, "no index"}, FirstRows{"body CONTAINS[cd] 'e'", 3000, "no index"},
+        // Titles are found by the index of their folded values.
+        FirstRows{"(flag == YES AND title CONTAINS[cd] 'E 77') OR (flag == NO AND (title CONTAINS[cd] 'E 77' OR (1 == "
+                  "0 AND body CONTAINS[cd] 'x')))",
+            11, "check candidates"},
         // Half of it is beyond SQL.
         FirstRows{"body CONTAINS[cd] 'pears' AND title IN[c] {'TITLE 3', 'Title 6', 'title 7'}", 2, "walk the order"}));
 
