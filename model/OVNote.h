@@ -241,7 +241,8 @@ public:
     std::string conflictedRootUUID() const;
     /// A stamp for a member of this group. Each is later than the one before.
     std::string conflictedUUIDFromRootUUID(std::string_view rootUUID) const;
-    /// Joins the group of `note`, which is made when there is none, as its latest member.
+    /// Joins the group of `note`, which is made when there is none, as its latest member, and leaves the one that it was
+    /// in. Nothing happens for the note itself.
     void markAsConflictedFromNote(OVNote& note);
     /// Leaves its group: one that is left alone is no group any more, of several the latest stamped becomes the root.
     void unmarkAsConflicted();

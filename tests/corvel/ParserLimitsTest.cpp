@@ -104,6 +104,10 @@ TEST(ParserLimits, LabelsHave999Characters)
     expectLimit(syntaxes, times("\\]", 499) + "x", times("\\]", 499) + "xx");
     expectLimit(syntaxes, times("a ", 499) + "a", times("a ", 499) + "aa");
     expectLimit(syntaxes, " " + times("a", 997) + " ", " " + times("a", 998) + " ");
+    // Where a label is used its own length counts, not that of the one that defines it.
+    const std::vector<Syntax> uses{{"[%]\n\n[a b]: u", hasLink}, {"[%][]\n\n[a b]: u", hasLink},
+        {"![%]\n\n[a b]: u", hasLink}, {"[text][%]\n\n[a b]: u", hasLink}};
+    expectLimit(uses, "a" + times(" ", 997) + "b", "a" + times(" ", 998) + "b");
 }
 
 TEST(ParserLimits, TextsOfLinksHaveNone)

@@ -42,6 +42,22 @@ TEST_F(LinkCommands, ShowLinksWithoutATarget)
     EXPECT_EQ(nlohmann::json::parse(none.output).at("links").size(), 0U);
 }
 
+TEST_F(LinkCommands, ListALinkThatARenameCouldNotReach)
+{
+    note("# Old");
+    const std::string source = note("#tag\n# See [[Old]]");
+    EXPECT_EQ(run({"unresolved"}).exitCode, 1);
+    output({"replace", "Old", "New"});
+    output({"prepend", "--", "New", "# New"});
+    const auto links = json({"unresolved"}).at("links");
+    ASSERT_EQ(links.size(), 1U);
+    EXPECT_EQ(links.at(0).at("title"), "Old");
+    EXPECT_EQ(links.at(0).at("note"), source);
+    EXPECT_EQ(run({"doctor"}).exitCode, 0);
+    const std::string heir = note("# Old");
+    EXPECT_EQ(json({"links", source}).at("links").at(0).at("note"), heir);
+}
+
 TEST_F(LinkCommands, ListNotesWithoutAnyLink)
 {
     note("# A\n\n[[B]]");
