@@ -2,7 +2,9 @@
 
 #include "platform/coredata/NSPersistentStore.h"
 
+#include <chrono>
 #include <filesystem>
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -19,6 +21,10 @@ struct StoreOptions {
     bool inferMappingModelAutomatically = true;
     bool readOnly = false; ///< refuses writes; the file is still opened for recovery of an unfinished journal
     bool createIfMissing = true;
+    /// Called again and again while a lock of another process is waited for, with the time that the wait has taken so
+    /// far; NO ends it, and what waits fails with `StoreErrorBusy`. May be empty. On the thread that waits; it must
+    /// neither throw nor use the store.
+    std::function<bool(std::chrono::milliseconds)> whileWaiting{};
 };
 
 /// Joins a model and a store. Contexts hang on it. Any thread.

@@ -241,7 +241,10 @@ int SQLiteConnection::waitForLock(void* connection, int attempt)
     const auto now = std::chrono::steady_clock::now();
     if (attempt == 0)
         self.waitingSince_ = now;
-    if (now - self.waitingSince_ >= self.options_.patience)
+    const auto waited = std::chrono::duration_cast<std::chrono::milliseconds>(now - self.waitingSince_);
+    if (waited >= self.options_.patience)
+        return 0;
+    if (self.options_.whileWaiting && !self.options_.whileWaiting(waited))
         return 0;
     self.jitter_ ^= self.jitter_ << 13; // xorshift: waiting connections must not move in step
     self.jitter_ ^= self.jitter_ >> 17;

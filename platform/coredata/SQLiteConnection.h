@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <list>
 #include <map>
 #include <optional>
@@ -78,7 +79,8 @@ struct SQLiteConnectionOptions {
     bool create = false;                        ///< makes an empty file where there is none
     bool queryOnly = false;                     ///< refuses writes, but may bring back an unfinished journal
     std::chrono::milliseconds patience{30'000}; ///< how long it waits for locks of others
-    std::map<std::string, std::string> pragmas; ///< set last; names and values are words
+    std::map<std::string, std::string> pragmas{}; ///< set last; names and values are words
+    std::function<bool(std::chrono::milliseconds)> whileWaiting{}; ///< see `StoreOptions`
 };
 
 /// One connection to a store file, set up as every connection of a store is. One thread at a time.

@@ -30,6 +30,7 @@ SQLiteConnectionOptions connectionOptions(const StoreOptions& options)
     made.create = options.createIfMissing && !options.readOnly;
     made.queryOnly = options.readOnly;
     made.pragmas = options.pragmas;
+    made.whileWaiting = options.whileWaiting;
     const auto patience = made.pragmas.find(std::string(kPatiencePragma));
     if (patience != made.pragmas.end()) {
         long milliseconds = 0;

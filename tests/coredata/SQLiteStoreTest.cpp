@@ -19,9 +19,16 @@
 namespace tarn {
 namespace {
 
+using testing::AllOf;
 using testing::ElementsAre;
+using testing::ElementsAreArray;
+using testing::Ge;
+using testing::Gt;
 using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::Lt;
+using testing::SizeIs;
+using testing::WhenSorted;
 
 class SQLiteStoreFile : public testing::Test {
 protected:
@@ -390,6 +397,30 @@ TEST_F(SQLiteStoreFile, ReportsALockThatIsHeldForTooLong)
     EXPECT_FALSE(store->beginTransaction(&error));
     EXPECT_EQ(error.code(), StoreErrorBusy);
     EXPECT_THAT(store.keys("Label"), IsEmpty()) << "reading goes on";
+    held.reset();
+    EXPECT_TRUE(store->beginTransaction(&error)) << error;
+}
+
+TEST_F(SQLiteStoreFile, TellsItsHostOfTheWaitAndLetsItGiveUp)
+{
+    const OpenStore holder = open();
+    std::vector<std::chrono::milliseconds> waits;
+    StoreOptions options;
+    options.whileWaiting = [&waits](std::chrono::milliseconds waited) {
+        waits.push_back(waited);
+        return waited < std::chrono::milliseconds(30);
+    };
+    const OpenStore store = open(options);
+    ASSERT_TRUE(store) << store.error();
+    ASSERT_TRUE(store->beginTransaction(nullptr));
+    EXPECT_THAT(waits, IsEmpty()) << "nobody was in the way";
+    auto held = holder->beginTransaction(nullptr);
+    NSError error;
+    EXPECT_FALSE(store->beginTransaction(&error));
+    EXPECT_EQ(error.code(), StoreErrorBusy);
+    ASSERT_THAT(waits, SizeIs(Gt(1U)));
+    EXPECT_THAT(waits, WhenSorted(ElementsAreArray(waits)));
+    EXPECT_THAT(waits.back(), AllOf(Ge(std::chrono::milliseconds(30)), Lt(std::chrono::seconds(10))));
     held.reset();
     EXPECT_TRUE(store->beginTransaction(&error)) << error;
 }
