@@ -76,9 +76,9 @@ private:
 
 /// How a connection is opened.
 struct SQLiteConnectionOptions {
-    bool create = false;                        ///< makes an empty file where there is none
-    bool queryOnly = false;                     ///< refuses writes, but may bring back an unfinished journal
-    std::chrono::milliseconds patience{30'000}; ///< how long it waits for locks of others
+    bool create = false;                          ///< makes an empty file where there is none
+    bool queryOnly = false;                       ///< refuses writes, but may bring back an unfinished journal
+    std::chrono::milliseconds patience{30'000};   ///< how long it waits for locks of others
     std::map<std::string, std::string> pragmas{}; ///< set last; names and values are words
     std::function<bool(std::chrono::milliseconds)> whileWaiting{}; ///< see `StoreOptions`
 };

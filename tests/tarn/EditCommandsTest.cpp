@@ -1,8 +1,11 @@
+#include "tests/tarn/ForeignWriter.h"
 #include "tests/tarn/TarnCommandTest.h"
 
+#include <chrono>
+#include <csignal>
 #include <fstream>
-#include <sstream>
-#include <sys/stat.h>
+#include <iterator>
+#include <thread>
 
 namespace tarn::test {
 
@@ -11,20 +14,29 @@ namespace fs = std::filesystem;
 /// The commands that change texts and make notes of others.
 class EditCommands : public TarnCommandTest {
 protected:
-    TarnResult runWithEditor(const std::string& editor, std::vector<std::string> given) const
+    fs::path temporary() const { return folder() / "tmp"; }
+    /// Feeds a text that cannot be saved, and finds it in the file that the error names.
+    TarnResult runWithTemporaryFolder(std::vector<std::string> given, std::string input) const
     {
+        fs::remove_all(temporary());
+        fs::create_directories(temporary());
         TarnProcess process(arguments(std::move(given)));
-        process.setVariable("EDITOR", editor);
-        process.setVariable("PATH", "/usr/bin:/bin");
-        process.setVariable("TMPDIR", folder().string());
+        process.setVariable("TMPDIR", temporary().string());
+        process.setVariable("TARN_LOCK_WAIT", "0");
+        process.setInput(std::move(input));
         return process.finish();
     }
-    std::size_t leftFolders() const
+    /// The text of the one file in the folder for temporary files, if the errors name it.
+    std::string keptText(const std::string& errors) const
     {
-        std::size_t count = 0;
-        for (const auto& entry : fs::directory_iterator(folder()))
-            count += entry.path().filename().string().starts_with("tarn-edit-") ? 1 : 0;
-        return count;
+        std::string text;
+        for (const auto& entry : fs::recursive_directory_iterator(temporary())) {
+            if (!entry.is_regular_file() || errors.find(entry.path().string()) == std::string::npos)
+                continue;
+            std::ifstream stream(entry.path(), std::ios::binary);
+            text.append(std::istreambuf_iterator<char>(stream), {});
+        }
+        return text;
     }
 };
 
@@ -85,61 +97,96 @@ TEST_F(EditCommands, RewriteLinksToAChangedTitle)
     note("# A\nbody");
     const std::string source = note("# S\n\n[[A]]");
     output({"replace", "A", "x"});
-    EXPECT_EQ(runWithEditor("sed -i 's/# A/# B/'", {"edit", "A"}).exitCode, 0);
+    TarnProcess edit(arguments({"edit", "A"}));
+    edit.setVariable("EDITOR", "sed -i 's/# A/# B/'");
+    edit.setVariable("PATH", "/usr/bin:/bin");
+    EXPECT_EQ(edit.finish().exitCode, 0);
     EXPECT_EQ(output({"show", source}), "# S\n\n[[B]]");
 }
 
-TEST_F(EditCommands, OpenANoteInTheEditorAndSaveWhatComesBack)
+TEST_F(EditCommands, BuildUponWhatAnApplicationWroteMeanwhile)
 {
-    const std::string identifier = note("# T\nold\r\n\n");
-    const TarnResult result = runWithEditor("sed -i -e s/old/new/", {"--json", "edit", identifier});
-    EXPECT_EQ(result.exitCode, 0) << result.errors;
-    EXPECT_EQ(nlohmann::json::parse(result.output).at("subtitle"), "new");
-    EXPECT_EQ(output({"show", identifier}), "# T\nnew\r\n\n");
-    EXPECT_EQ(leftFolders(), 0U);
+    const std::string identifier = note("# T\n\nbody");
+    for (const std::string command : {"append", "prepend", "replace", "pin"}) {
+        ForeignWriter application(database());
+        std::vector<std::string> given{command, identifier};
+        if (command != "pin")
+            given.push_back("ours");
+        TarnProcess process(arguments(given));
+        application.changeTextWhileLocked(identifier, "# T\n\ntheirs", [&] {
+            process.start();
+            // Long enough for the program to have read what it would read before it asks for the lock.
+            std::this_thread::sleep_for(std::chrono::milliseconds(500));
+        });
+        const TarnResult result = process.finish();
+        EXPECT_EQ(result.exitCode, 0) << command << ": " << result.errors;
+        const std::string text = output({"show", identifier});
+        EXPECT_EQ(text.find("body"), std::string::npos) << command << ": " << text;
+        EXPECT_EQ(text.find("theirs") != std::string::npos, command != "replace") << command << ": " << text;
+        EXPECT_EQ(text.find("ours") != std::string::npos, command != "pin") << command << ": " << text;
+    }
 }
 
-TEST_F(EditCommands, LeaveANoteAloneThatTheEditorDidNotChange)
+TEST_F(EditCommands, MakeOneTagOfANameThatAnApplicationMakesAtTheSameTime)
 {
     const std::string identifier = note("# T");
-    const auto before = json({"show", identifier});
-    EXPECT_EQ(runWithEditor("true", {"edit", identifier}).exitCode, 0);
-    EXPECT_EQ(json({"show", identifier}), before);
+    ForeignWriter application(database());
+    TarnProcess process(arguments({"new", "# N #fresh"}));
+    application.changeTextWhileLocked(identifier, "# T #fresh", [&] {
+        process.start();
+        std::this_thread::sleep_for(std::chrono::milliseconds(500));
+    });
+    EXPECT_EQ(process.finish().exitCode, 0);
+    EXPECT_EQ(json({"tags"}).at("tags").size(), 1U) << json({"tags"});
+    EXPECT_EQ(run({"doctor"}).exitCode, 0);
 }
 
-TEST_F(EditCommands, SaveNothingWhenTheEditorFails)
+TEST_F(EditCommands, KeepAPipedTextThatCouldNotBeSaved)
 {
     const std::string identifier = note("# T");
-    const TarnResult failed = runWithEditor("sh -c 'echo x > \"$1\"; exit 1' sh", {"edit", identifier});
-    EXPECT_EQ(failed.exitCode, 1);
-    EXPECT_NE(failed.errors.find("nothing was saved"), std::string::npos) << failed.errors;
-    EXPECT_EQ(runWithEditor("no-such-editor", {"edit", identifier}).exitCode, 1);
-    EXPECT_EQ(runWithEditor("", {"edit", identifier}).exitCode, 2);
-    EXPECT_EQ(output({"show", identifier}), "# T");
-    EXPECT_EQ(leftFolders(), 0U);
+    output({"trash", note("# Thrown")});
+    note("# Two");
+    note("# Two");
+    const std::vector<std::vector<std::string>> commands{{"append", "None"}, {"append", "Thrown", "-"},
+        {"prepend", "Two"}, {"replace", ""}, {"append", "None", "--latest"}};
+    for (const std::vector<std::string>& command : commands) {
+        SCOPED_TRACE(testing::PrintToString(command));
+        const TarnResult result = runWithTemporaryFolder(command, "precious\n");
+        EXPECT_NE(result.exitCode, 0);
+        EXPECT_EQ(keptText(result.errors), "precious\n") << result.errors;
+    }
+    {
+        const HeldLock lock(database().parent_path() / "tarn.lock");
+        const TarnResult result = runWithTemporaryFolder({"new"}, "precious");
+        EXPECT_EQ(result.exitCode, 3);
+        EXPECT_EQ(keptText(result.errors), "precious") << result.errors;
+    }
+    const TarnResult invalid = runWithTemporaryFolder({"new"}, "precious \xE4");
+    EXPECT_EQ(keptText(invalid.errors), "precious \xE4") << invalid.errors;
+    EXPECT_EQ(runWithTemporaryFolder({"append", identifier}, "more").exitCode, 0);
+    EXPECT_TRUE(fs::is_empty(temporary())) << "what was saved is not kept";
+    EXPECT_EQ(runWithTemporaryFolder({"append", "None", "an argument"}, "").exitCode, 1);
+    EXPECT_TRUE(fs::is_empty(temporary())) << "an argument can be typed again";
 }
 
-TEST_F(EditCommands, KeepAnEditedTextThatCannotBeSaved)
+TEST_F(EditCommands, KeepAPipedTextWhenTheWaitForTheStoreIsInterrupted)
 {
-    const std::string identifier = note("# T");
-    const TarnResult result = runWithEditor("printf '\\344' >", {"edit", identifier});
-    EXPECT_EQ(result.exitCode, 6);
-    EXPECT_NE(result.errors.find("not UTF-8"), std::string::npos) << result.errors;
-    EXPECT_EQ(leftFolders(), 1U);
-    EXPECT_EQ(output({"show", identifier}), "# T");
-}
-
-TEST_F(EditCommands, EditAFileThatNobodyElseCanRead)
-{
-    const std::string identifier = note("# T");
-    const fs::path modes = folder() / "modes";
-    const TarnResult result = runWithEditor(
-        "sh -c 'stat -c %a \"$(dirname \"$1\")\" > \"" + modes.string() + "\"' sh", {"edit", identifier});
-    EXPECT_EQ(result.exitCode, 0) << result.errors;
-    std::ifstream stream(modes);
-    std::string mode;
-    stream >> mode;
-    EXPECT_EQ(mode, "700");
+    note("# T");
+    fs::create_directories(temporary());
+    for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
+        const HeldLock lock(database().parent_path() / "tarn.lock");
+        TarnProcess process(arguments({"append", "T"}));
+        process.setVariable("TMPDIR", temporary().string());
+        process.setInput("precious");
+        std::thread killer([&] {
+            std::this_thread::sleep_for(std::chrono::milliseconds(600));
+            process.sendSignal(signal);
+        });
+        const TarnResult result = process.finish();
+        killer.join();
+        EXPECT_EQ(result.signal, signal) << result.exitCode << result.errors;
+        EXPECT_EQ(keptText(result.errors), "precious") << result.errors;
+    }
 }
 
 TEST_F(EditCommands, DuplicateANote)

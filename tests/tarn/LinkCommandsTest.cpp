@@ -73,7 +73,7 @@ TEST_F(LinkCommands, FindNothingPolitely)
     const std::vector<std::pair<std::vector<std::string>, std::string>> commands{
         {{"links", "A"}, "there is no link in " + name}, {{"backlinks", "A"}, "no note links to " + name},
         {{"unresolved"}, "every link leads to a note"}, {{"conflicts"}, "no note is in conflict"},
-        {{"conflicts", "A"}, "there is one version of the note"},
+        {{"conflicts", "A"}, name + " is in no conflict"},
         {{"tags"}, "no active note has a tag; --all shows every tag"},
         {{"highlight", "@todo"}, "there is nothing to highlight: QUERY holds no word, phrase or tag that is wanted"}};
     for (const auto& [command, message] : commands) {

@@ -76,7 +76,9 @@ TEST_F(NoteCommands, RefuseATextThatIsNoUTF8)
 {
     const TarnResult result = run({"new"}, "ab\xE4");
     EXPECT_EQ(result.exitCode, 6);
-    EXPECT_EQ(result.errors, "tarn: standard input: not UTF-8 (byte 3); nothing was saved, convert it first\n");
+    EXPECT_TRUE(result.errors.starts_with(
+        "tarn: standard input: not UTF-8 (byte 3); nothing was saved, convert it first; the text is in "))
+        << result.errors;
     EXPECT_EQ(run({"list"}).exitCode, 1);
 }
 
@@ -136,7 +138,7 @@ TEST_F(NoteCommands, PreferAnUntrashedNoteOfTheSameTitle)
     output({"pin", trashed});
     EXPECT_EQ(output({"show", "Same"}), "# Same\n\nkept");
     output({"trash", "Same"});
-    EXPECT_EQ(output({"show", "Same"}), "# Same\n\nthrown away");
+    EXPECT_EQ(run({"show", "Same"}).output, "# Same\n\nthrown away");
 }
 
 TEST_F(NoteCommands, ListAllMatchesOfABeginningThatIsNotUnique)

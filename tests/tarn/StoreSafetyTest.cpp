@@ -1,39 +1,18 @@
+#include "tests/tarn/ForeignWriter.h"
 #include "tests/tarn/TarnCommandTest.h"
 
 #include <chrono>
 #include <csignal>
-#include <fcntl.h>
 #include <fstream>
 #include <memory>
-#include <sys/file.h>
 #include <sys/stat.h>
 #include <thread>
-#include <unistd.h>
 
 namespace tarn::test {
 
 using StoreSafety = TarnCommandTest;
 
 namespace fs = std::filesystem;
-
-namespace {
-
-/// The lock of a store, held by the test.
-class HeldLock {
-public:
-    explicit HeldLock(const fs::path& file) : descriptor_(::open(file.c_str(), O_RDWR | O_CLOEXEC))
-    {
-        EXPECT_EQ(::flock(descriptor_, LOCK_EX | LOCK_NB), 0);
-    }
-    ~HeldLock() { ::close(descriptor_); }
-    HeldLock(const HeldLock&) = delete;
-    HeldLock& operator=(const HeldLock&) = delete;
-
-private:
-    int descriptor_;
-};
-
-} // namespace
 
 TEST_F(StoreSafety, TwentyFourWritersAtOnceKeepAllNotes)
 {
@@ -107,6 +86,38 @@ TEST_F(StoreSafety, AWriterWaitsForAnother)
     EXPECT_EQ(json({"list"}).at("count"), 2);
 }
 
+TEST_F(StoreSafety, AWriterSaysForWhomItWaits)
+{
+    note("# A");
+    TarnProcess quick(arguments({"new", "# B"}));
+    TarnProcess patient(arguments({"new", "# C"}));
+    {
+        const HeldLock lock(database().parent_path() / "tarn.lock");
+        std::ofstream(database().parent_path() / "tarn.lock") << "4711\n";
+        patient.start();
+        std::this_thread::sleep_for(std::chrono::milliseconds(1'500));
+        quick.start();
+        std::this_thread::sleep_for(std::chrono::milliseconds(300));
+    }
+    EXPECT_EQ(quick.finish().errors, "");
+    EXPECT_EQ(patient.finish().errors, "tarn: waiting for another tarn (process 4711), which is writing the store\n");
+    EXPECT_EQ(fs::file_size(database().parent_path() / "tarn.lock"), 0U) << "nobody holds it";
+}
+
+TEST_F(StoreSafety, AProgramSaysThatItWaitsForAnApplication)
+{
+    const std::string identifier = note("# A");
+    TarnProcess writer(arguments({"append", identifier, "ours"}));
+    ForeignWriter(database()).changeTextWhileLocked(identifier, "theirs", [&] {
+        writer.start();
+        std::this_thread::sleep_for(std::chrono::milliseconds(1'500));
+    });
+    const TarnResult result = writer.finish();
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_EQ(result.errors, "tarn: waiting for another program, which is using " + database().string() + "\n");
+    EXPECT_EQ(output({"show", identifier}), "theirs\nours");
+}
+
 TEST_F(StoreSafety, AKilledImportLeavesASoundStore)
 {
     for (int index = 0; index < 2'000; ++index)
@@ -117,7 +128,7 @@ TEST_F(StoreSafety, AKilledImportLeavesASoundStore)
         TarnProcess import(arguments({"import", folder() / "in"}));
         import.start();
         std::this_thread::sleep_for(std::chrono::milliseconds(delay));
-        ::kill(import.pid(), SIGKILL);
+        import.sendSignal(SIGKILL);
         import.finish();
         const TarnResult doctor = run({"doctor"});
         EXPECT_EQ(doctor.exitCode, 0) << doctor.output << doctor.errors;

@@ -31,6 +31,7 @@ std::vector<std::string> TarnCommandTest::arguments(std::vector<std::string> arg
 TarnResult TarnCommandTest::run(std::vector<std::string> given, std::string input) const
 {
     TarnProcess process(arguments(std::move(given)));
+    process.setVariable("TMPDIR", folder_.string());
     process.setInput(std::move(input));
     return process.finish();
 }

@@ -94,8 +94,30 @@ void TarnProcess::runInChild(int input, int output, int errors) const
     ::_exit(127);
 }
 
+void TarnProcess::startOnTerminal()
+{
+    const int terminal = ::posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC);
+    if (terminal < 0 || ::grantpt(terminal) != 0 || ::unlockpt(terminal) != 0)
+        throw std::runtime_error("no terminal");
+    const std::string name = ::ptsname(terminal);
+    pid_ = ::fork();
+    if (pid_ == 0) {
+        ::setsid(); // the first terminal that it opens is its own then
+        const int other = ::open(name.c_str(), O_RDWR);
+        runInChild(other, other, other);
+    }
+    if (pid_ < 0)
+        throw std::runtime_error("no process");
+    outputPipe_ = terminal;
+    inputPipe_ = ::fcntl(terminal, F_DUPFD_CLOEXEC, 0);
+}
+
 void TarnProcess::start()
 {
+    if (onTerminal_) {
+        startOnTerminal();
+        return;
+    }
     std::array<std::array<int, 2>, 3> pipes{};
     for (auto& pipe : pipes) {
         if (::pipe2(pipe.data(), O_CLOEXEC) != 0)
@@ -164,6 +186,13 @@ TarnResult TarnProcess::finishAfterReading(std::size_t bytes)
     closeDescriptor(errorPipe_);
     waitForEnd(result);
     return result;
+}
+
+void TarnProcess::sendSignal(int signal) const
+{
+    // A number that is not positive means many processes.
+    if (const pid_t process = pid_; process > 0)
+        ::kill(process, signal);
 }
 
 bool TarnProcess::isRunning() const

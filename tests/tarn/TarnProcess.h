@@ -1,5 +1,6 @@
 #pragma once
 
+#include <atomic>
 #include <filesystem>
 #include <map>
 #include <string>
@@ -40,6 +41,8 @@ public:
         addressSpace_ = addressSpace;
         seconds_ = seconds;
     }
+    /// Starts it on a terminal of its own: what is fed is typed, and what it prints, errors as well, is its output.
+    void useTerminal() { onTerminal_ = true; }
     /// Standard output goes to this file instead.
     void setOutputFile(const std::filesystem::path& file) { outputFile_ = file; }
 
@@ -49,10 +52,13 @@ public:
     /// Reads this much of the output, then closes the pipe; waits.
     TarnResult finishAfterReading(std::size_t bytes);
     pid_t pid() const noexcept { return pid_; }
+    /// Sends a signal; nothing when it is not running. Any thread.
+    void sendSignal(int signal) const;
     bool isRunning() const;
 
 private:
     [[noreturn]] void runInChild(int input, int output, int errors) const;
+    void startOnTerminal();
     void waitForEnd(TarnResult& result);
 
     std::vector<std::string> arguments_;
@@ -63,7 +69,8 @@ private:
     unsigned seconds_ = 0;         ///< 0: no limit
     bool closed_ = false;
     bool terminal_ = false;
-    pid_t pid_ = -1;
+    bool onTerminal_ = false;
+    std::atomic<pid_t> pid_ = -1;
     int inputPipe_ = -1;
     int outputPipe_ = -1;
     int errorPipe_ = -1;

@@ -1,10 +1,12 @@
 #include "tools/tarn/CommandFailure.h"
 
 #include "platform/coredata/NSPersistentStore.h"
+#include "platform/foundation/NSException.h"
 #include "tools/tarn/DisplayText.h"
 
 #include <algorithm>
 #include <array>
+#include <new>
 #include <string_view>
 #include <system_error>
 
@@ -61,6 +63,21 @@ CommandFailure failureForStoreError(const std::string& what, const NSError& erro
 CommandFailure failureForSystemError(const std::string& what, int number)
 {
     return {ExitCode::InputOutput, what + ": " + std::generic_category().message(number)};
+}
+
+CommandFailure failureOfCurrentException()
+{
+    try {
+        throw;
+    } catch (const CommandFailure& failure) {
+        return failure;
+    } catch (const NSException& exception) {
+        return {ExitCode::Failed, exception.reason()};
+    } catch (const std::bad_alloc&) {
+        return {ExitCode::Failed, "out of memory"};
+    } catch (const std::exception& exception) {
+        return {ExitCode::Failed, exception.what()};
+    }
 }
 
 } // namespace tarn

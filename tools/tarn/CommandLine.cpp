@@ -1,6 +1,5 @@
 #include "tools/tarn/CommandLine.h"
 
-#include "platform/foundation/NSException.h"
 #include "tools/tarn/CommandFailure.h"
 #include "tools/tarn/DisplayText.h"
 #include "tools/tarn/MemoryShortage.h"
@@ -11,7 +10,6 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <new>
 #include <utility>
 
 namespace tarn {
@@ -77,6 +75,16 @@ std::string problemOfOption(const CLI::ParseError& error)
     return text;
 }
 
+void writeOnStandardError(std::string_view beginning, std::string_view message)
+{
+    try {
+        const std::string line = std::string(beginning) + displayText(message) + "\n";
+        std::fwrite(line.data(), 1, line.size(), stderr);
+    } catch (const std::bad_alloc&) { // a failure without a word would be worse than one in plain bytes
+        tellOfMemoryShortage();
+    }
+}
+
 /// What is wrong with the arguments, and what to do.
 std::string problemOf(
     const CLI::ParseError& error, const CLI::App& application, const std::vector<std::string>& arguments)
@@ -102,12 +110,7 @@ std::string problemOf(
 
 void tellOnStandardError(std::string_view message)
 {
-    try {
-        const std::string line = "tarn: " + displayText(message) + "\n";
-        std::fwrite(line.data(), 1, line.size(), stderr);
-    } catch (const std::bad_alloc&) { // a failure without a word would be worse than one in plain bytes
-        tellOfMemoryShortage();
-    }
+    writeOnStandardError("tarn: ", message);
 }
 
 CommandLine::CommandLine(Output& output)
@@ -130,7 +133,8 @@ CommandLine::CommandLine(Output& output)
         "  tarn new '# Groceries'\n"
         "  tarn search '#home garden'\n"
         "  tarn COMMAND --help\n\n"
-        "NOTE is an identifier, the first 8 or more characters of one, or a title.\n"
+        "NOTE is an identifier, the first 8 or more characters of one, or a title. Where several notes have the\n"
+        "title, commands that read take the latest modified; those that write take none, or it with --latest.\n"
         "Exit codes: 0 done, 1 nothing found or failed, 2 usage, 3 locked, 4 needs migration, 5 corrupt,\n"
         "6 input or output.");
 }
@@ -166,18 +170,12 @@ ExitCode CommandLine::run(const std::vector<std::string>& arguments)
         return code;
     } catch (const OutputClosed&) {
         return ExitCode::InputOutput;
-    } catch (const CommandFailure& failure) {
+    } catch (const std::exception&) {
+        const CommandFailure failure = failureOfCurrentException();
         tellOnStandardError(failure.what());
+        for (const std::string& choice : failure.choices())
+            writeOnStandardError("  ", choice);
         return failure.code();
-    } catch (const NSException& exception) {
-        tellOnStandardError(exception.reason());
-        return ExitCode::Failed;
-    } catch (const std::bad_alloc&) {
-        tellOnStandardError("out of memory");
-        return ExitCode::Failed;
-    } catch (const std::exception& exception) {
-        tellOnStandardError(exception.what());
-        return ExitCode::Failed;
     }
 }
 

@@ -1,9 +1,9 @@
 #include "tools/tarn/CommandFailure.h"
 #include "tools/tarn/CommandLine.h"
 #include "tools/tarn/Commands.h"
-#include "tools/tarn/NoteArgument.h"
 #include "tools/tarn/NoteJSON.h"
 #include "tools/tarn/NoteList.h"
+#include "tools/tarn/NotesToChange.h"
 
 #include <algorithm>
 #include <memory>
@@ -67,22 +67,22 @@ ExitCode showConflicts(const Invocation& invocation, const std::optional<std::st
 {
     StoreSession session(invocation, StoreSession::Access::Read);
     std::vector<ConflictGroup> groups;
+    std::string nothing = "no note is in conflict";
     if (!argument)
         groups = allGroups(session);
     else if (const OVNote& note = noteForArgument(*argument, session); note.hasConflictedNotes())
         groups.push_back(groupOf(note));
+    else
+        nothing = nameOfNote(note) + " is in no conflict";
     show(invocation, groups);
-    return session.exitCodeOfSearch(
-        !groups.empty(), argument ? "there is one version of the note" : "no note is in conflict");
+    return session.exitCodeOfSearch(!groups.empty(), nothing);
 }
 
-ExitCode resolveConflict(const Invocation& invocation, const std::string& argument)
+ConflictGroup resolved(OVNote& kept)
 {
-    StoreSession session(invocation, StoreSession::Access::Write);
-    OVNote& kept = noteForArgument(argument, session);
     if (!kept.hasConflictedNotes())
-        throw CommandFailure(ExitCode::Failed, "\"" + kept.title().value_or("") + "\" is in no conflict");
-    const ConflictGroup group = groupOf(kept);
+        throw CommandFailure(ExitCode::Failed, nameOfNote(kept) + " is in no conflict");
+    ConflictGroup group = groupOf(kept);
     for (OVNote* note : group.notes) {
         if (note != &kept)
             note->trash();
@@ -90,7 +90,14 @@ ExitCode resolveConflict(const Invocation& invocation, const std::string& argume
     // Where it was the only one left, nobody's leaving has ended the conflict.
     if (kept.hasConflictedNotes())
         kept.unmarkAsConflicted();
-    session.save();
+    return group;
+}
+
+ExitCode resolveConflict(const Invocation& invocation, const NotesToChange& argument)
+{
+    StoreSession session(invocation, StoreSession::Access::Write);
+    ConflictGroup group;
+    session.write([&] { group = resolved(argument.one(session)); });
     show(invocation, {group});
     return ExitCode::Done;
 }
@@ -115,14 +122,14 @@ void addConflictCommand(CommandLine& commandLine)
         .summary = "Resolve a conflict",
         .explanation = "",
         .examples = {"tarn conflict resolve 3F2504E0"}});
-    const auto note = std::make_shared<std::optional<std::string>>();
+    const auto note = std::make_shared<NotesToChange>();
     const Command command = commandLine.addCommand(group,
         {.name = "resolve",
             .summary = "Keep one version of a note and move the others to the trash",
             .explanation = "",
             .examples = {"tarn conflict resolve 3F2504E0"}},
-        [note](const Invocation& invocation) { return resolveConflict(invocation, **note); });
-    command.addArgument("NOTE", *note, "The version to keep: an identifier, or the beginning of one").required();
+        [note](const Invocation& invocation) { return resolveConflict(invocation, *note); });
+    note->addOneTo(command, "The version to keep: an identifier, or the beginning of one");
 }
 
 } // namespace tarn

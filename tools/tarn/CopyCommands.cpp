@@ -2,6 +2,7 @@
 #include "tools/tarn/CommandLine.h"
 #include "tools/tarn/Commands.h"
 #include "tools/tarn/EditableNote.h"
+#include "tools/tarn/NotesToChange.h"
 
 #include <memory>
 
@@ -9,25 +10,27 @@ namespace tarn {
 
 namespace {
 
-ExitCode duplicateNote(const Invocation& invocation, const std::string& argument)
+ExitCode duplicateNote(const Invocation& invocation, const NotesToChange& argument)
 {
     StoreSession session(invocation, StoreSession::Access::Write);
-    const OVNote& copy = *noteForArgument(argument, session).duplicate();
-    session.save();
-    writeNote(invocation, copy);
+    const OVNote* copy = nullptr;
+    session.write([&] { copy = argument.one(session).duplicate(); });
+    writeNote(invocation, *copy);
     return ExitCode::Done;
 }
 
-ExitCode mergeNotes(const Invocation& invocation, const std::vector<std::string>& arguments)
+ExitCode mergeNotes(const Invocation& invocation, const NotesToChange& arguments)
 {
     StoreSession session(invocation, StoreSession::Access::Write);
-    const std::vector<OVNote*> notes = notesForArguments(arguments, session);
-    if (notes.size() < 2)
-        throw CommandFailure(ExitCode::Usage, "merge needs two different notes");
-    requireUnlocked(notes);
-    const OVNote& merger = *OVNote::mergeNotes(notes);
-    session.save();
-    writeNote(invocation, merger);
+    const OVNote* merger = nullptr;
+    session.write([&] {
+        const std::vector<OVNote*> notes = arguments.all(session);
+        if (notes.size() < 2)
+            throw CommandFailure(ExitCode::Usage, "merge needs two different notes");
+        requireUnlocked(notes);
+        merger = OVNote::mergeNotes(notes);
+    });
+    writeNote(invocation, *merger);
     return ExitCode::Done;
 }
 
@@ -35,7 +38,7 @@ ExitCode mergeNotes(const Invocation& invocation, const std::vector<std::string>
 
 void addDuplicateCommand(CommandLine& commandLine)
 {
-    const auto note = std::make_shared<std::optional<std::string>>();
+    const auto note = std::make_shared<NotesToChange>();
     const Command command = commandLine.addCommand(
         {.name = "duplicate",
             .summary = "Make a copy of a note",
@@ -43,13 +46,13 @@ void addDuplicateCommand(CommandLine& commandLine)
             = "The copy has an identifier of its own; where the text names the note's identifier, it names "
               "the copy's.",
             .examples = {"tarn duplicate 'Packing list'"}},
-        [note](const Invocation& invocation) { return duplicateNote(invocation, **note); });
-    command.addArgument("NOTE", *note, "An identifier, the beginning of one, or a title").required();
+        [note](const Invocation& invocation) { return duplicateNote(invocation, *note); });
+    note->addOneTo(command, "An identifier, the beginning of one, or a title");
 }
 
 void addMergeCommand(CommandLine& commandLine)
 {
-    const auto notes = std::make_shared<std::vector<std::string>>();
+    const auto notes = std::make_shared<NotesToChange>();
     const Command command = commandLine.addCommand(
         {.name = "merge",
             .summary = "Make one note of several, which go to the trash",
@@ -58,7 +61,7 @@ void addMergeCommand(CommandLine& commandLine)
               "pinned when all were.",
             .examples = {"tarn merge 'Paris 1' 'Paris 2'"}},
         [notes](const Invocation& invocation) { return mergeNotes(invocation, *notes); });
-    command.addArguments("NOTE", *notes, "Two or more identifiers, beginnings of them, or titles").required();
+    notes->addAllTo(command, "Two or more identifiers, beginnings of them, or titles");
 }
 
 } // namespace tarn

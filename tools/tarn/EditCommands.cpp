@@ -1,6 +1,7 @@
 #include "tools/tarn/CommandLine.h"
 #include "tools/tarn/Commands.h"
 #include "tools/tarn/EditableNote.h"
+#include "tools/tarn/NotesToChange.h"
 #include "tools/tarn/TextArgument.h"
 
 #include <array>
@@ -33,19 +34,25 @@ constexpr std::array kEditCommands{
 };
 
 struct EditArguments {
-    std::optional<std::string> note;
+    NotesToChange note;
     std::optional<std::string> text;
 };
 
 ExitCode editNote(const Invocation& invocation, const EditArguments& arguments, const EditCommand& edit)
 {
     // Read before the store is locked: whoever writes into the pipe may take their time.
-    const std::string text = textOfArgument(arguments.text);
-    StoreSession session(invocation, StoreSession::Access::Write);
-    OVNote& note = editableNoteForArgument(*arguments.note, session);
-    (note.*edit.edit)(text);
-    session.save();
-    writeNote(invocation, note);
+    const TextArgument text(arguments.text);
+    std::optional<StoreSession> session;
+    OVNote* note = nullptr;
+    text.saveBy([&] {
+        session.emplace(invocation, StoreSession::Access::Write);
+        session->write([&] {
+            note = &arguments.note.one(*session);
+            requireEditable(*note);
+            (note->*edit.edit)(text.text());
+        });
+    });
+    writeNote(invocation, *note);
     return ExitCode::Done;
 }
 
@@ -60,7 +67,7 @@ void addEditCommands(CommandLine& commandLine)
                                                            .explanation = edit.explanation,
                                                            .examples = {edit.examples.begin(), edit.examples.end()}},
             [arguments, &edit](const Invocation& invocation) { return editNote(invocation, *arguments, edit); });
-        command.addArgument("NOTE", arguments->note, "An identifier, the beginning of one, or a title").required();
+        arguments->note.addOneTo(command, "An identifier, the beginning of one, or a title");
         command.addArgument("TEXT", arguments->text, "The text; standard input when there is none, or \"-\"");
     }
 }

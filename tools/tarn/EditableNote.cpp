@@ -15,25 +15,27 @@ CommandFailure refusal(ExitCode code, const OVNote& note, const std::string& rea
 
 } // namespace
 
-void requireUnlocked(const std::vector<OVNote*>& notes)
+void requireUnlocked(const OVNote& note)
 {
-    for (const OVNote* note : notes) {
-        if (note->encryptedValue() && note->hasEncryptionAndIsLocked())
-            throw refusal(ExitCode::Locked, *note, "is protected by a password; nothing was changed");
-    }
+    if (note.encryptedValue() && note.hasEncryptionAndIsLocked())
+        throw refusal(ExitCode::Locked, note, "is protected by a password; nothing was changed");
 }
 
-OVNote& editableNoteForArgument(std::string_view argument, StoreSession& session)
+void requireUnlocked(const std::vector<OVNote*>& notes)
 {
-    OVNote& note = noteForArgument(argument, session);
-    requireUnlocked({&note});
+    for (const OVNote* note : notes)
+        requireUnlocked(*note);
+}
+
+void requireEditable(const OVNote& note)
+{
+    requireUnlocked(note);
     if (note.isTrashed())
         throw refusal(ExitCode::Failed, note, "is in the trash; take it out with 'tarn restore'");
     if (note.isArchived())
         throw refusal(ExitCode::Failed, note, "is in the archive; take it out with 'tarn unarchive'");
     if (!note.isEditable())
         throw refusal(ExitCode::Failed, note, "is read-only; let it be edited with 'tarn editable'");
-    return note;
 }
 
 void writeNote(const Invocation& invocation, const OVNote& note)

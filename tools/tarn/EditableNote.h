@@ -1,18 +1,18 @@
 #pragma once
 
 #include "tools/tarn/CommandLine.h"
-#include "tools/tarn/NoteArgument.h"
+#include "tools/tarn/StoreSession.h"
 
-#include <string_view>
 #include <vector>
 
 namespace tarn {
 
-/// The note that an argument names, for a command that changes its text. Raises `CommandFailure` when there is none,
-/// when it is protected, trashed, archived or read-only.
-OVNote& editableNoteForArgument(std::string_view argument, StoreSession& session);
+/// Raises `CommandFailure` when the text of the note is not to be changed: it is protected, trashed, archived or
+/// read-only.
+void requireEditable(const OVNote& note);
 
-/// Raises `CommandFailure` when one of the notes is protected, so that its text cannot be read.
+/// Raises `CommandFailure` when the note, or one of them, is protected, so that its text cannot be read.
+void requireUnlocked(const OVNote& note);
 void requireUnlocked(const std::vector<OVNote*>& notes);
 
 /// Prints a note that was made or changed: a line, or with --json the record.

@@ -4,42 +4,124 @@
 #include "tools/tarn/Commands.h"
 #include "tools/tarn/EditableNote.h"
 #include "tools/tarn/EditorRun.h"
+#include "tools/tarn/Interruption.h"
+#include "tools/tarn/NoteList.h"
+#include "tools/tarn/NotesToChange.h"
 
 #include <memory>
+#include <optional>
 
 namespace tarn {
 
 namespace {
 
+struct EditorArguments {
+    NotesToChange note;
+    bool allowEmpty = false;
+};
+
+/// A note as it was when the editor began with it.
+struct NoteBefore {
+    std::string identifier;
+    std::string name;
+    std::string text;
+};
+
 std::string commandOfEditor()
 {
-    const auto editor = Environment::current().variable("EDITOR");
-    if (!editor || editor->empty())
-        throw CommandFailure(ExitCode::Usage, "there is no editor; set EDITOR, for example to \"nano\"");
-    return *editor;
+    for (const char* name : {"VISUAL", "EDITOR"}) {
+        if (auto editor = Environment::current().variable(name); editor && !editor->empty())
+            return std::move(*editor);
+    }
+    throw CommandFailure(ExitCode::Usage, "there is no editor; set VISUAL or EDITOR, for example to \"nano\"");
 }
 
-ExitCode edit(const Invocation& invocation, const std::string& argument)
+NoteBefore readNote(const Invocation& invocation, const NotesToChange& argument)
+{
+    StoreSession session(invocation, StoreSession::Access::Write);
+    const OVNote& note = argument.one(session);
+    requireEditable(note);
+    return {note.uniqueIdentifier().value_or(""), nameOfNote(note), note.text().value_or("")};
+}
+
+OVNote& noteAsItIsNow(const NoteBefore& before, StoreSession& session)
+{
+    OVNote* note = noteWithIdentifier(before.identifier, session);
+    if (!note)
+        throw CommandFailure(ExitCode::Failed, before.name + " was deleted while the editor was open");
+    return *note;
+}
+
+/// Whether a text that somebody else saved meanwhile is neither the one that the editor began with nor the edited one.
+bool isOutdated(const NoteBefore& before, const std::string& edited, const OVNote& note)
+{
+    const std::string text = note.text().value_or("");
+    return text != before.text && text != edited;
+}
+
+/// A note of its own for the edited text, in a conflict with the one that somebody else has changed.
+OVNote& conflictedCopyWithText(const std::string& edited, OVNote& note)
+{
+    OVNote& copy = *note.duplicate();
+    copy.updateNoteWithText(edited);
+    copy.markAsConflictedFromNote(note);
+    return copy;
+}
+
+/// The note that holds the edited text.
+OVNote& save(const NoteBefore& before, const std::string& edited, StoreSession& session)
+{
+    OVNote* note = nullptr;
+    OVNote* copy = nullptr;
+    session.write([&] {
+        note = &noteAsItIsNow(before, session);
+        requireEditable(*note);
+        if (isOutdated(before, edited, *note))
+            copy = &conflictedCopyWithText(edited, *note);
+        else if (note->text() != edited)
+            note->updateNoteWithText(edited);
+    });
+    if (!copy)
+        return *note;
+    tellOnStandardError(nameOfNote(*note)
+        + " was changed while the editor was open; the edited text is kept beside it, in " + nameOfNote(*copy)
+        + "; 'tarn conflict resolve' keeps one of them");
+    return *copy;
+}
+
+bool isBlank(const std::string& text)
+{
+    return text.find_first_not_of(" \t\r\n") == std::string::npos;
+}
+
+ExitCode leaveUnchanged(const Invocation& invocation, const NoteBefore& before, const EditorRun& run)
+{
+    const std::string place = run.placeOfUnsaved();
+    tellOnStandardError("nothing was changed" + (place.empty() ? "" : "; what the editor left is in " + place));
+    StoreSession session(invocation, StoreSession::Access::Read);
+    writeNote(invocation, noteAsItIsNow(before, session));
+    return ExitCode::Done;
+}
+
+ExitCode edit(const Invocation& invocation, const EditorArguments& arguments)
 {
     const std::string editor = commandOfEditor();
-    StoreSession session(invocation, StoreSession::Access::Write);
-    OVNote& note = editableNoteForArgument(argument, session);
-    const std::string text = note.text().value_or("");
-    EditorRun run(text);
-    run.start(editor);
-    const std::string edited = run.result();
-    if (edited != text) {
-        run.keepFile(); // until the edit is safe in the store
-        note.updateNoteWithText(edited);
-        try {
-            session.save();
-        } catch (const CommandFailure& failure) {
+    const NoteBefore before = readNote(invocation, arguments.note);
+    const Interruption interruption;
+    EditorRun run(before.text);
+    const std::string edited = run.textFromEditor(editor);
+    if (edited == before.text)
+        return leaveUnchanged(invocation, before, run);
+    std::optional<StoreSession> session;
+    const OVNote* note = nullptr;
+    run.saveBy([&] {
+        if (isBlank(edited) && !isBlank(before.text) && !arguments.allowEmpty)
             throw CommandFailure(
-                failure.code(), std::string(failure.what()) + "; the edited text is in " + run.file().string());
-        }
-        run.dropFile();
-    }
-    writeNote(invocation, note);
+                ExitCode::Failed, "the text came back empty, and was not saved; --allow-empty saves it");
+        session.emplace(invocation, StoreSession::Access::Write);
+        note = &save(before, edited, *session);
+    });
+    writeNote(invocation, *note);
     return ExitCode::Done;
 }
 
@@ -47,15 +129,18 @@ ExitCode edit(const Invocation& invocation, const std::string& argument)
 
 void addEditorCommand(CommandLine& commandLine)
 {
-    const auto note = std::make_shared<std::optional<std::string>>();
+    const auto arguments = std::make_shared<EditorArguments>();
     const Command command = commandLine.addCommand(
         {.name = "edit",
-            .summary = "Open a note in $EDITOR and save what comes back",
-            .explanation = "The shell runs $EDITOR with a file as its last argument. When the editor fails, nothing is "
-                           "saved. The store\nis locked for other commands that write until the editor ends.",
+            .summary = "Open a note in an editor and save what comes back",
+            .explanation = "The shell runs $VISUAL, or else $EDITOR, with a file as its last argument. The store is "
+                           "locked only to read\nand to save. Where somebody else has changed the text meanwhile, both "
+                           "texts are kept, as versions of one\nnote (see 'tarn conflicts'). When the editor fails, "
+                           "nothing is saved. A file that was changed and could not\nbe saved stays, and is named.",
             .examples = {"tarn edit Groceries", "EDITOR=nano tarn edit Groceries"}},
-        [note](const Invocation& invocation) { return edit(invocation, **note); });
-    command.addArgument("NOTE", *note, "An identifier, the beginning of one, or a title").required();
+        [arguments](const Invocation& invocation) { return edit(invocation, *arguments); });
+    command.addFlag("--allow-empty", arguments->allowEmpty, "Save also a text that came back empty");
+    arguments->note.addOneTo(command, "An identifier, the beginning of one, or a title");
 }
 
 } // namespace tarn

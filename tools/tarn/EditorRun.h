@@ -1,38 +1,46 @@
 #pragma once
 
+#include "tools/tarn/PrivateTextFile.h"
+
 #include <filesystem>
+#include <functional>
 #include <string>
 
 namespace tarn {
 
 /// A text in a file of its own, opened in a person's editor.
 ///
-/// The file lies in a folder that nobody else can look into, and goes with the object unless it is kept. Everything
-/// that fails raises `CommandFailure`; an edited text that cannot be taken keeps its file, and the message names it.
+/// What the editor has made of it is nowhere else until it is saved: as long as the file, or what the editor put beside
+/// it, is not as it was, it stays, and every failure names it. Everything that fails raises `CommandFailure`. Needs an
+/// `Interruption`.
 ///
 ///     EditorRun run(text);
-///     run.start("vim");
-///     std::string edited = run.result();
+///     std::string edited = run.textFromEditor("vim");
+///     run.saveBy([&] { ... });
 class EditorRun {
 public:
     explicit EditorRun(const std::string& text);
+    /// Removes a file that is as it was, and one whose text was saved.
     ~EditorRun();
     EditorRun(const EditorRun&) = delete;
     EditorRun& operator=(const EditorRun&) = delete;
 
-    /// Runs the editor by the shell, with the file as its last argument, and waits for its end.
-    void start(const std::string& editor);
-    /// What the file holds now.
-    std::string result();
-
-    void keepFile() noexcept { isKept_ = true; }
-    void dropFile() noexcept { isKept_ = false; }
-    const std::filesystem::path& file() const noexcept { return file_; }
+    /// Runs the editor by the shell, with the file as its last argument, and waits for its end; what the file holds
+    /// then.
+    std::string textFromEditor(const std::string& editor);
+    /// Runs what saves the text.
+    void saveBy(const std::function<void()>& work);
+    /// Where something is that was not saved; empty when there is nothing.
+    std::string placeOfUnsaved() const;
 
 private:
-    std::filesystem::path folder_;
-    std::filesystem::path file_;
-    bool isKept_ = false;
+    std::string contents() const;
+    void namePlaceOnFailure(const std::function<void()>& work);
+
+    std::string original_;
+    PrivateTextFile file_;
+    bool isSaved_ = false;
+    bool mayStillChange_ = false; ///< the editor was not seen to end by itself
 };
 
 } // namespace tarn

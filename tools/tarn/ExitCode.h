@@ -11,6 +11,7 @@ enum class ExitCode : int {
     NeedsMigration = 4,
     Corrupt = 5,
     InputOutput = 6,
+    Interrupted = 128, ///< by a signal, whose number is added
 };
 
 } // namespace tarn

@@ -1,7 +1,6 @@
 #include "tools/tarn/CommandLine.h"
 #include "tools/tarn/Commands.h"
-#include "tools/tarn/NoteJSON.h"
-#include "tools/tarn/NoteList.h"
+#include "tools/tarn/EditableNote.h"
 #include "tools/tarn/StoreSession.h"
 #include "tools/tarn/TextArgument.h"
 
@@ -14,14 +13,14 @@ void addNewCommand(CommandLine& commandLine)
     const auto text = std::make_shared<std::optional<std::string>>();
     const auto action = [text](const Invocation& invocation) {
         // Read before the store is locked: whoever writes into the pipe may take their time.
-        const std::string markdown = textOfArgument(*text);
-        StoreSession session(invocation, StoreSession::Access::Write);
-        const OVNote& note = *OVNote::noteWithText(markdown, session.context());
-        session.save();
-        if (invocation.json)
-            writeJSON(invocation.output, jsonOfNote(note));
-        else
-            writeNoteLine(invocation.output, note);
+        const TextArgument markdown(*text);
+        std::optional<StoreSession> session;
+        const OVNote* note = nullptr;
+        markdown.saveBy([&] {
+            session.emplace(invocation, StoreSession::Access::Write);
+            session->write([&] { note = OVNote::noteWithText(markdown.text(), session->context()); });
+        });
+        writeNote(invocation, *note);
         return ExitCode::Done;
     };
     const Command command = commandLine.addCommand(

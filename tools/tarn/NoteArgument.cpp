@@ -2,8 +2,13 @@
 
 #include "platform/foundation/Folding.h"
 #include "tools/tarn/CommandFailure.h"
+#include "tools/tarn/NoteList.h"
 
 #include <algorithm>
+#include <span>
+#include <string>
+#include <utility>
+#include <vector>
 
 namespace tarn {
 
@@ -30,7 +35,7 @@ std::string identifierBeginningOf(std::string_view argument)
     return result;
 }
 
-CommandFailure ambiguous(std::string_view argument, const std::vector<OVNote*>& matches)
+CommandFailure ambiguousBeginning(std::string_view argument, const std::vector<OVNote*>& matches)
 {
     std::string message = "several notes begin with " + std::string(argument) + ":";
     for (std::size_t index = 0; index < std::min(matches.size(), kShownMatches); ++index) {
@@ -53,42 +58,76 @@ OVNote* noteWithIdentifierBeginning(std::string_view argument, StoreSession& ses
         : NSPredicate::predicateWithFormat("uniqueIdentifier BEGINSWITH %@", beginning);
     const std::vector<OVNote*> matches = session.notes(predicate);
     if (matches.size() > 1 && beginning.size() < kIdentifierLength)
-        throw ambiguous(argument, matches);
+        throw ambiguousBeginning(argument, matches);
     return matches.empty() ? nullptr : matches.front();
 }
 
-OVNote* noteWithTitle(std::string_view title, StoreSession& session)
+/// "3F2504E0-4F89-11D3-9A0C-0305E82C3301  2025-03-04 10:15  Groceries  pears and plums"
+std::string lineOf(const OVNote& note)
 {
-    auto matches = session.notes(NSPredicate::predicateWithFormat("title ==[cd] %@ AND trashed == NO", title), 1);
-    if (matches.empty())
-        matches = session.notes(NSPredicate::predicateWithFormat("title ==[cd] %@", title), 1);
-    return matches.empty() ? nullptr : matches.front();
+    const auto date = note.modificationDate();
+    std::string line = note.uniqueIdentifier().value_or("") + "  " + (date ? displayDate(*date) : std::string(16, ' '))
+        + "  " + note.title().value_or("");
+    if (const std::string subtitle = note.subtitle().value_or(""); !subtitle.empty())
+        line += "  " + subtitle;
+    return line;
+}
+
+std::string numberOfNotesCalled(std::size_t count, std::string_view title)
+{
+    return std::to_string(count) + " notes are called \"" + std::string(title) + "\"";
+}
+
+CommandFailure ambiguousTitle(std::string_view title, std::size_t count, std::span<OVNote* const> latest)
+{
+    std::vector<std::string> choices;
+    for (const OVNote* note : latest.first(std::min(latest.size(), kShownMatches)))
+        choices.push_back(lineOf(*note));
+    if (count > choices.size())
+        choices.push_back("and " + std::to_string(count - choices.size()) + " more");
+    return {ExitCode::Usage,
+        numberOfNotesCalled(count, title) + "; name one by its identifier, or take the latest modified with --latest",
+        std::move(choices)};
+}
+
+OVNote* noteWithTitle(std::string_view title, StoreSession& session, SharedTitle sharedTitle)
+{
+    for (const char* format : {"title ==[cd] %@ AND trashed == NO", "title ==[cd] %@"}) {
+        const auto predicate = NSPredicate::predicateWithFormat(format, title);
+        const std::vector<OVNote*> latest = session.latestNotes(predicate, kShownMatches);
+        if (latest.empty())
+            continue;
+        OVNote& note = *latest.front();
+        if (latest.size() == 1 || sharedTitle == SharedTitle::LatestToChange)
+            return &note;
+        const std::size_t count = session.countNotes(predicate);
+        if (sharedTitle == SharedTitle::Refused)
+            throw ambiguousTitle(title, count, latest);
+        tellOnStandardError(numberOfNotesCalled(count, title) + "; this is the latest modified, " + nameOfNote(note));
+        return &note;
+    }
+    return nullptr;
 }
 
 } // namespace
 
-OVNote& noteForArgument(std::string_view argument, StoreSession& session)
+OVNote* noteWithIdentifier(std::string_view identifier, StoreSession& session)
+{
+    const auto matches = session.notes(NSPredicate::predicateWithFormat("uniqueIdentifier == %@", identifier), 1);
+    return matches.empty() ? nullptr : matches.front();
+}
+
+OVNote& noteForArgument(std::string_view argument, StoreSession& session, SharedTitle sharedTitle)
 {
     // A script with an unset variable means no note; a note without a title would be found by it.
     if (fold(argument).empty())
         throw CommandFailure(ExitCode::Failed, "NOTE is empty; give an identifier, the beginning of one, or a title");
     if (OVNote* note = noteWithIdentifierBeginning(argument, session))
         return *note;
-    if (OVNote* note = noteWithTitle(argument, session))
+    if (OVNote* note = noteWithTitle(argument, session, sharedTitle))
         return *note;
     throw CommandFailure(ExitCode::Failed,
         "there is no note \"" + std::string(argument) + "\"; 'tarn list --filter all' shows identifiers and titles");
-}
-
-std::vector<OVNote*> notesForArguments(const std::vector<std::string>& arguments, StoreSession& session)
-{
-    std::vector<OVNote*> notes;
-    for (const std::string& argument : arguments) {
-        OVNote& note = noteForArgument(argument, session);
-        if (std::ranges::find(notes, &note) == notes.end())
-            notes.push_back(&note);
-    }
-    return notes;
 }
 
 } // namespace tarn

@@ -2,19 +2,25 @@
 
 #include "tools/tarn/StoreSession.h"
 
-#include <string>
 #include <string_view>
-#include <vector>
 
 namespace tarn {
 
-/// The note that an argument names: by its identifier, by the first 8 or more characters of one (in any case), or by
-/// its title (compared without case and diacritics; an untrashed note first, then a pinned one, then the latest
-/// modified). Raises `CommandFailure` when there is none, when a beginning of an identifier fits several, and for an
-/// empty argument, which is no title.
-OVNote& noteForArgument(std::string_view argument, StoreSession& session);
+/// What a title stands for that several notes have.
+enum class SharedTitle {
+    LatestToRead,   ///< the latest modified; standard error says that there are more
+    LatestToChange, ///< the latest modified, as was asked for
+    Refused,        ///< none: the command ends with its arguments being wrong, and lists the notes
+};
 
-/// All of them, each once, before anything is done to any: one that is not found ends the command.
-std::vector<OVNote*> notesForArguments(const std::vector<std::string>& arguments, StoreSession& session);
+/// The note that an argument names: by its identifier, by the first 8 or more characters of one (in any case), or by
+/// its title (compared without case and diacritics; notes in the trash count where no other has it). Raises
+/// `CommandFailure` when there is none, when a beginning of an identifier fits several, and for an empty argument,
+/// which is no title.
+OVNote& noteForArgument(
+    std::string_view argument, StoreSession& session, SharedTitle sharedTitle = SharedTitle::LatestToRead);
+
+/// The note with exactly this identifier; null when there is none.
+OVNote* noteWithIdentifier(std::string_view identifier, StoreSession& session);
 
 } // namespace tarn

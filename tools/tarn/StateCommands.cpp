@@ -3,11 +3,12 @@
 #include "tools/tarn/Commands.h"
 #include "tools/tarn/Confirmation.h"
 #include "tools/tarn/DisplayText.h"
-#include "tools/tarn/NoteArgument.h"
 #include "tools/tarn/NoteJSON.h"
 #include "tools/tarn/NoteList.h"
+#include "tools/tarn/NotesToChange.h"
 
 #include <array>
+#include <cstdio>
 #include <memory>
 
 namespace tarn {
@@ -21,6 +22,8 @@ struct StateCommand {
     void (OVNote::*change)();
 };
 
+constexpr const char* kDescription = "Identifiers, beginnings of them, or titles";
+
 constexpr std::array kStateCommands{
     StateCommand{"trash", "Move notes to the trash", "tarn trash 'Old list' 3F2504E0", &OVNote::trash},
     StateCommand{"restore", "Take notes out of the trash", "tarn restore 3F2504E0", &OVNote::restoreFromTrash},
@@ -32,22 +35,15 @@ constexpr std::array kStateCommands{
     StateCommand{"editable", "Let notes be edited again", "tarn editable 'House manual'", &OVNote::makeEditable},
 };
 
-using Arguments = std::shared_ptr<std::vector<std::string>>;
-
-Arguments addNoteArguments(const Command& command)
-{
-    auto arguments = std::make_shared<std::vector<std::string>>();
-    command.addArguments("NOTE", *arguments, "Identifiers, beginnings of them, or titles").required();
-    return arguments;
-}
-
-ExitCode changeState(const Invocation& invocation, const std::vector<std::string>& arguments, const StateCommand& state)
+ExitCode changeState(const Invocation& invocation, const NotesToChange& arguments, const StateCommand& state)
 {
     StoreSession session(invocation, StoreSession::Access::Write);
-    const std::vector<OVNote*> notes = notesForArguments(arguments, session);
-    for (OVNote* note : notes)
-        (note->*state.change)();
-    session.save();
+    std::vector<OVNote*> notes;
+    session.write([&] {
+        notes = arguments.all(session);
+        for (OVNote* note : notes)
+            (note->*state.change)();
+    });
     if (invocation.json) {
         writeJSON(invocation.output, jsonOfNotes(notes));
         return ExitCode::Done;
@@ -59,27 +55,69 @@ ExitCode changeState(const Invocation& invocation, const std::vector<std::string
 
 bool confirmsDeletion(const std::vector<OVNote*>& notes)
 {
-    const std::string what = notes.size() == 1 ? "\"" + displayText(notes.front()->title().value_or("")) + "\""
-                                               : numbered(notes.size(), "note");
+    if (notes.size() > 1) {
+        for (const OVNote* note : notes)
+            std::fprintf(stderr, "  %s\n", displayText(nameOfNote(*note)).c_str());
+    }
+    const std::string what
+        = notes.size() == 1 ? displayText(nameOfNote(*notes.front())) : "these " + numbered(notes.size(), "note");
     return confirmedOnTerminal("Delete " + what + " for good?", "delete asks before it deletes");
 }
 
-ExitCode deleteNotes(const Invocation& invocation, const std::vector<std::string>& arguments, bool confirmed)
+/// Shows the notes to who has to confirm. The store is nobody's while somebody thinks.
+std::vector<std::string> confirmedIdentifiers(const Invocation& invocation, const NotesToChange& arguments)
 {
-    StoreSession session(invocation, StoreSession::Access::Write);
-    const std::vector<OVNote*> notes = notesForArguments(arguments, session);
-    if (!confirmed && !confirmsDeletion(notes)) {
-        tellOnStandardError("nothing was deleted");
-        return ExitCode::Failed;
+    StoreSession session(invocation, StoreSession::Access::Read);
+    const std::vector<OVNote*> notes = arguments.all(session);
+    std::vector<std::string> identifiers;
+    if (confirmsDeletion(notes)) {
+        for (const OVNote* note : notes)
+            identifiers.push_back(note->uniqueIdentifier().value_or(""));
     }
-    const JSON document = jsonOfNotes(notes); // as they were
-    for (OVNote* note : notes)
-        note->permanentlyDelete();
-    session.save();
+    return identifiers;
+}
+
+std::vector<OVNote*> notesWithIdentifiers(const std::vector<std::string>& identifiers, StoreSession& session)
+{
+    std::vector<OVNote*> notes;
+    for (const std::string& identifier : identifiers) {
+        OVNote* note = noteWithIdentifier(identifier, session);
+        if (!note)
+            throw CommandFailure(
+                ExitCode::Failed, "the note " + identifier + " is gone meanwhile; nothing was deleted");
+        notes.push_back(note);
+    }
+    return notes;
+}
+
+ExitCode deleteNotes(const Invocation& invocation, const NotesToChange& arguments, bool confirmed)
+{
+    std::vector<std::string> identifiers;
+    if (!confirmed) {
+        identifiers = confirmedIdentifiers(invocation, arguments);
+        if (identifiers.empty()) {
+            tellOnStandardError("nothing was deleted");
+            return ExitCode::Failed;
+        }
+    }
+    StoreSession session(invocation, StoreSession::Access::Write);
+    JSON document;
+    std::vector<std::string> names;
+    session.write([&] {
+        const std::vector<OVNote*> notes
+            = confirmed ? arguments.all(session) : notesWithIdentifiers(identifiers, session);
+        document = jsonOfNotes(notes); // as they were
+        for (OVNote* note : notes) {
+            names.push_back(nameOfNote(*note));
+            note->permanentlyDelete();
+        }
+    });
     if (invocation.json)
         writeJSON(invocation.output, document);
-    else
-        invocation.output.writeLine("deleted " + numbered(notes.size(), "note"));
+    for (const std::string& name : names) {
+        if (!invocation.json)
+            invocation.output.writeLine("deleted " + displayText(name));
+    }
     return ExitCode::Done;
 }
 
@@ -88,30 +126,29 @@ ExitCode deleteNotes(const Invocation& invocation, const std::vector<std::string
 void addStateCommands(CommandLine& commandLine)
 {
     for (const StateCommand& state : kStateCommands) {
-        const auto arguments = std::make_shared<Arguments>();
-        const Command command = commandLine.addCommand(
-            {.name = state.name,
-                .summary = state.summary,
-                .explanation = "When one of the notes is not found, nothing is changed.",
-                .examples = {state.example}},
-            [arguments, &state](const Invocation& invocation) { return changeState(invocation, **arguments, state); });
-        *arguments = addNoteArguments(command);
+        const auto notes = std::make_shared<NotesToChange>();
+        const Command command
+            = commandLine.addCommand({.name = state.name,
+                                         .summary = state.summary,
+                                         .explanation = "When one of the notes is not found, nothing is changed.",
+                                         .examples = {state.example}},
+                [notes, &state](const Invocation& invocation) { return changeState(invocation, *notes, state); });
+        notes->addAllTo(command, kDescription);
     }
 }
 
 void addDeleteCommand(CommandLine& commandLine)
 {
-    const auto arguments = std::make_shared<Arguments>();
+    const auto notes = std::make_shared<NotesToChange>();
     const auto confirmed = std::make_shared<bool>(false);
     const Command command = commandLine.addCommand(
         {.name = "delete",
             .summary = "Delete notes for good, trashed or not",
             .explanation = "Asks before it does. Nobody can bring them back; 'tarn trash' is the gentler way.",
             .examples = {"tarn delete 3F2504E0", "tarn delete --yes 'Old list'"}},
-        [arguments, confirmed](
-            const Invocation& invocation) { return deleteNotes(invocation, **arguments, *confirmed); });
+        [notes, confirmed](const Invocation& invocation) { return deleteNotes(invocation, *notes, *confirmed); });
     command.addFlag("--yes", *confirmed, "Do not ask");
-    *arguments = addNoteArguments(command);
+    notes->addAllTo(command, kDescription);
 }
 
 } // namespace tarn

@@ -6,7 +6,7 @@
 #include "model/OVChange.h"
 #include "platform/foundation/Environment.h"
 #include "platform/foundation/Queue.h"
-#include "tools/tarn/CommandFailure.h"
+#include "tools/tarn/Interruption.h"
 
 #include <system_error>
 
@@ -15,20 +15,6 @@ namespace tarn {
 namespace {
 
 namespace fs = std::filesystem;
-
-template <typename Record>
-std::vector<Record*> recordsOf(NSManagedObjectContext& context, const NSFetchRequest& request)
-{
-    NSError error;
-    const auto fetched = context.fetch(request, &error);
-    if (!fetched)
-        throw failureForStoreError("cannot read the store", error);
-    std::vector<Record*> records;
-    records.reserve(fetched->size());
-    for (NSManagedObject* record : *fetched)
-        records.push_back(static_cast<Record*>(record));
-    return records;
-}
 
 } // namespace
 
@@ -89,16 +75,44 @@ void StoreSession::open(Access access)
             "cannot read the model of the store: " + error.localizedDescription()
                 + "; set TARN_RESOURCES to the folder of the resources");
     coordinator_ = std::make_shared<NSPersistentStoreCoordinator>(model);
-    const StoreOptions options{.createIfMissing = access == Access::Write};
+    const StoreOptions options{.createIfMissing = access == Access::Write,
+        .whileWaiting = [this](std::chrono::milliseconds waited) { return goesOnWaiting(waited); }};
     store_ = coordinator_->addPersistentStoreWithType(
         exists_ ? StoreType::SQLite : StoreType::InMemory, database_, options, &error);
     if (!store_)
-        throw failureForStoreError(database_.string(), error);
+        throw failure(database_.string(), error);
     MainQueue::main(); // this thread is its owner
     context_ = std::make_unique<NSManagedObjectContext>(NSManagedObjectContext::ConcurrencyType::MainQueue);
     context_->setPersistentStoreCoordinator(coordinator_);
     changeLog_ = NSNotificationCenter::defaultCenter().addObserver(NSManagedObjectContextWillSaveNotification,
         context_.get(), [this](const NSNotification&) { OVChange::updateChangesInInManagedObjectContext(*context_); });
+}
+
+bool StoreSession::goesOnWaiting(std::chrono::milliseconds waited)
+{
+    if (waited >= kSilentWait && !toldOfWait_.exchange(true))
+        tellOnStandardError("waiting for another program, which is using " + database_.string());
+    return !Interruption::requested();
+}
+
+CommandFailure StoreSession::failure(const std::string& what, const NSError& error) const
+{
+    if (Interruption::requested() && exitCodeForStoreError(error) == ExitCode::Locked)
+        return {ExitCode::Interrupted, what + ": interrupted while another program was using the store"};
+    return failureForStoreError(what, error);
+}
+
+template <typename Record> std::vector<Record*> StoreSession::records(const NSFetchRequest& request)
+{
+    NSError error;
+    const auto fetched = context_->fetch(request, &error);
+    if (!fetched)
+        throw failure("cannot read the store", error);
+    std::vector<Record*> records;
+    records.reserve(fetched->size());
+    for (NSManagedObject* record : *fetched)
+        records.push_back(static_cast<Record*>(record));
+    return records;
 }
 
 ExitCode StoreSession::exitCodeOfSearch(bool found, std::string_view nothing) const
@@ -114,7 +128,16 @@ std::vector<OVNote*> StoreSession::notes(const std::optional<NSPredicate>& predi
     request.predicate = predicate;
     request.sortDescriptors = standardNoteOrder();
     request.fetchLimit = limit;
-    return recordsOf<OVNote>(*context_, request);
+    return records<OVNote>(request);
+}
+
+std::vector<OVNote*> StoreSession::latestNotes(const std::optional<NSPredicate>& predicate, std::size_t limit)
+{
+    NSFetchRequest request(OVNote::entityInManagedObjectContext(*context_));
+    request.predicate = predicate;
+    request.sortDescriptors = {{.key = "modificationDate", .ascending = false}};
+    request.fetchLimit = limit;
+    return records<OVNote>(request);
 }
 
 std::vector<OVNote*> StoreSession::notesPage(std::size_t offset, std::size_t limit)
@@ -122,7 +145,7 @@ std::vector<OVNote*> StoreSession::notesPage(std::size_t offset, std::size_t lim
     NSFetchRequest request(OVNote::entityInManagedObjectContext(*context_));
     request.fetchOffset = offset;
     request.fetchLimit = limit;
-    return recordsOf<OVNote>(*context_, request);
+    return records<OVNote>(request);
 }
 
 std::size_t StoreSession::countNotes(const std::optional<NSPredicate>& predicate)
@@ -134,14 +157,14 @@ std::vector<OVNoteTag*> StoreSession::tags(const std::optional<NSPredicate>& pre
 {
     NSFetchRequest request(OVNoteTag::entityInManagedObjectContext(*context_));
     request.predicate = predicate;
-    return recordsOf<OVNoteTag>(*context_, request);
+    return records<OVNoteTag>(request);
 }
 
 std::vector<OVNoteBackLink*> StoreSession::links(const std::optional<NSPredicate>& predicate)
 {
     NSFetchRequest request(OVNoteBackLink::entityInManagedObjectContext(*context_));
     request.predicate = predicate;
-    return recordsOf<OVNoteBackLink>(*context_, request);
+    return records<OVNoteBackLink>(request);
 }
 
 std::size_t StoreSession::countOfEntity(const NSEntityDescription& entity, const std::optional<NSPredicate>& predicate)
@@ -151,8 +174,17 @@ std::size_t StoreSession::countOfEntity(const NSEntityDescription& entity, const
     NSError error;
     const std::optional<std::size_t> count = context_->count(request, &error);
     if (!count)
-        throw failureForStoreError("cannot read the store", error);
+        throw failure("cannot read the store", error);
     return *count;
+}
+
+void StoreSession::write(const std::function<void()>& work)
+{
+    NSError error;
+    if (context_->performExclusive(work, &error))
+        return;
+    context_->rollback();
+    throw failure("nothing was saved to " + database_.string(), error);
 }
 
 void StoreSession::save()
@@ -161,7 +193,7 @@ void StoreSession::save()
     if (context_->save(&error))
         return;
     context_->rollback();
-    throw failureForStoreError("nothing was saved to " + database_.string(), error);
+    throw failure("nothing was saved to " + database_.string(), error);
 }
 
 } // namespace tarn

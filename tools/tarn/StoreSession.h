@@ -6,11 +6,15 @@
 #include "platform/coredata/NSManagedObjectContext.h"
 #include "platform/coredata/NSPersistentStoreCoordinator.h"
 #include "platform/foundation/NSNotificationCenter.h"
+#include "tools/tarn/CommandFailure.h"
 #include "tools/tarn/CommandLine.h"
 #include "tools/tarn/StoreLock.h"
 
+#include <atomic>
+#include <chrono>
 #include <cstddef>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string_view>
@@ -28,11 +32,10 @@ std::filesystem::path databaseInStoreFolder(const std::filesystem::path& folder)
 ///
 /// A reading command of a store that is not there yet finds no notes, and makes nothing. A writing one holds the
 /// store's lock as long as the session lives. Everything that fails raises `CommandFailure`, so that an empty answer is
-/// an answer. Main thread.
+/// an answer. Who waits longer than a second for another program says so on standard error. Main thread.
 ///
 ///     StoreSession session(invocation, StoreSession::Access::Write);
-///     OVNote::noteWithText(text, session.context());
-///     session.save();
+///     session.write([&] { OVNote::noteWithText(text, session.context()); });
 class StoreSession {
 public:
     enum class Access { Read, Write };
@@ -53,6 +56,8 @@ public:
 
     /// Notes in the standard order: pinned first, then the latest modified. `limit` 0: all.
     std::vector<OVNote*> notes(const std::optional<NSPredicate>& predicate, std::size_t limit = 0);
+    /// The latest modified first.
+    std::vector<OVNote*> latestNotes(const std::optional<NSPredicate>& predicate, std::size_t limit);
     /// A page of all notes in the order of their keys, for walks over everything.
     std::vector<OVNote*> notesPage(std::size_t offset, std::size_t limit);
     std::size_t countNotes(const std::optional<NSPredicate>& predicate);
@@ -62,15 +67,23 @@ public:
     std::vector<OVNoteBackLink*> links(const std::optional<NSPredicate>& predicate);
     std::size_t countOfEntity(const NSEntityDescription& entity, const std::optional<NSPredicate>& predicate);
 
+    /// Runs what reads records and changes them, and saves. The database is locked from before its first read to the
+    /// end of the save, so that it builds upon what programs wrote that know nothing of the lock file. When it raises
+    /// an exception, or what it did cannot be saved, nothing has changed.
+    void write(const std::function<void()>& work);
     /// Writes all changes of the context. What cannot be written is rolled back.
     void save();
 
 private:
     void open(Access access);
+    bool goesOnWaiting(std::chrono::milliseconds waited);
+    CommandFailure failure(const std::string& what, const NSError& error) const;
+    template <typename Record> std::vector<Record*> records(const NSFetchRequest& request);
 
     std::filesystem::path folder_;
     std::filesystem::path database_;
     bool exists_ = true;
+    std::atomic<bool> toldOfWait_ = false;
     std::unique_ptr<StoreLock> lock_; ///< declared before the store: given back after it was closed
     std::shared_ptr<NSPersistentStoreCoordinator> coordinator_;
     NSPersistentStore* store_ = nullptr;

@@ -6,6 +6,8 @@
 #include "tools/tarn/DisplayText.h"
 #include "tools/tarn/EditableNote.h"
 #include "tools/tarn/JSON.h"
+#include "tools/tarn/NoteList.h"
+#include "tools/tarn/NotesToChange.h"
 #include "tools/tarn/TagArgument.h"
 
 #include <array>
@@ -18,7 +20,7 @@ namespace {
 struct TagArguments {
     std::optional<std::string> name;
     std::optional<std::string> newName;
-    std::vector<std::string> notes;
+    NotesToChange notes;
     bool top = false;
     bool confirmed = false;
 };
@@ -33,26 +35,38 @@ void report(const Invocation& invocation, const std::string& tag, std::size_t no
             invocation.output.styled(displayText(tag), TextStyle::Strong) + "  " + numbered(notes, "note") + more);
 }
 
+/// Adds the tag to those of the notes that do not carry it; how many took it.
+std::size_t addTagTo(OVNoteTag& tag, std::vector<OVNote*>& notes, bool top)
+{
+    std::erase_if(notes, [&tag](const OVNote* note) { return note->tagsSet().containsObject(tag); });
+    requireUnlocked(notes);
+    tag.addTagToNotes(notes, !top);
+    std::size_t added = 0;
+    for (const OVNote* note : notes) {
+        if (note->tagsSet().containsObject(tag))
+            ++added;
+        else
+            tellOnStandardError("there is no place for the tag in " + nameOfNote(*note));
+    }
+    return added;
+}
+
 ExitCode addTag(const Invocation& invocation, const TagArguments& arguments)
 {
     const std::string name = tagNameForArgument(*arguments.name);
     StoreSession session(invocation, StoreSession::Access::Write);
-    std::vector<OVNote*> untagged = notesForArguments(arguments.notes, session);
-    OVNoteTag* tag = OVNoteTag::getOrCreateTagWithName(name, session.context());
-    if (!tag)
-        throw CommandFailure(ExitCode::Failed, "the tag \"" + name + "\" could not be looked up; nothing was changed");
-    std::erase_if(untagged, [tag](const OVNote* note) { return note->tagsSet().containsObject(*tag); });
-    requireUnlocked(untagged);
-    tag->addTagToNotes(untagged, !arguments.top);
-
+    const OVNoteTag* tag = nullptr;
+    std::vector<OVNote*> untagged;
     std::size_t added = 0;
-    for (const OVNote* note : untagged) {
-        if (note->tagsSet().containsObject(*tag))
-            ++added;
-        else
-            tellOnStandardError("there is no place for the tag in \"" + note->title().value_or("") + "\"");
-    }
-    session.save();
+    session.write([&] {
+        untagged = arguments.notes.all(session);
+        OVNoteTag* found = OVNoteTag::getOrCreateTagWithName(name, session.context());
+        if (!found)
+            throw CommandFailure(
+                ExitCode::Failed, "the tag \"" + name + "\" could not be looked up; nothing was changed");
+        added = addTagTo(*found, untagged, arguments.top);
+        tag = found;
+    });
     report(invocation, tag->title().value_or(""), added);
     return added == untagged.size() ? ExitCode::Done : ExitCode::Failed;
 }
@@ -60,13 +74,17 @@ ExitCode addTag(const Invocation& invocation, const TagArguments& arguments)
 ExitCode removeTag(const Invocation& invocation, const TagArguments& arguments)
 {
     StoreSession session(invocation, StoreSession::Access::Write);
-    OVNoteTag& tag = tagForArgument(*arguments.name, session);
-    std::vector<OVNote*> tagged = notesForArguments(arguments.notes, session);
-    std::erase_if(tagged, [&tag](const OVNote* note) { return !note->tagsSet().containsObject(tag); });
-    requireUnlocked(tagged);
-    tag.deleteTagInNotes(tagged);
-    session.save();
-    report(invocation, tag.title().value_or(""), tagged.size());
+    const OVNoteTag* tag = nullptr;
+    std::vector<OVNote*> tagged;
+    session.write([&] {
+        OVNoteTag& found = tagForArgument(*arguments.name, session);
+        tagged = arguments.notes.all(session);
+        std::erase_if(tagged, [&found](const OVNote* note) { return !note->tagsSet().containsObject(found); });
+        requireUnlocked(tagged);
+        found.deleteTagInNotes(tagged);
+        tag = &found;
+    });
+    report(invocation, tag->title().value_or(""), tagged.size());
     return ExitCode::Done;
 }
 
@@ -81,11 +99,15 @@ bool allFollowed(const OVNoteTag& old, const OVNoteTag& renamed)
     return false;
 }
 
-ExitCode renameTag(const Invocation& invocation, const TagArguments& arguments)
+/// What a tag became, and the number of its notes.
+struct Renaming {
+    const OVNoteTag* old = nullptr;
+    const OVNoteTag* renamed = nullptr;
+    std::size_t notes = 0;
+};
+
+Renaming renamingOf(OVNoteTag& tag, const std::string& newName)
 {
-    const std::string newName = tagNameForArgument(*arguments.newName);
-    StoreSession session(invocation, StoreSession::Access::Write);
-    OVNoteTag& tag = tagForArgument(*arguments.name, session);
     if (tag.title() == newName)
         throw CommandFailure(ExitCode::Failed, "the tag is called \"" + newName + "\" already");
     const std::vector<OVNote*> notes = tag.notesSet().allObjects();
@@ -95,9 +117,17 @@ ExitCode renameTag(const Invocation& invocation, const TagArguments& arguments)
         throw CommandFailure(ExitCode::Failed,
             "the tag \"" + tag.title().value_or("") + "\" was not renamed: no text can take the name \"" + newName
                 + "\"");
-    session.save();
-    report(invocation, renamed->title().value_or(""), notes.size());
-    return allFollowed(tag, *renamed) ? ExitCode::Done : ExitCode::Failed;
+    return {&tag, renamed, notes.size()};
+}
+
+ExitCode renameTag(const Invocation& invocation, const TagArguments& arguments)
+{
+    const std::string newName = tagNameForArgument(*arguments.newName);
+    StoreSession session(invocation, StoreSession::Access::Write);
+    Renaming renaming;
+    session.write([&] { renaming = renamingOf(tagForArgument(*arguments.name, session), newName); });
+    report(invocation, renaming.renamed->title().value_or(""), renaming.notes);
+    return allFollowed(*renaming.old, *renaming.renamed) ? ExitCode::Done : ExitCode::Failed;
 }
 
 /// How many tags below one have notes; they go with it.
@@ -108,34 +138,53 @@ std::size_t countTagsBelow(const OVNoteTag& tag, StoreSession& session)
     return session.countOfEntity(OVNoteTag::entityInManagedObjectContext(session.context()), below);
 }
 
-ExitCode deleteTag(const Invocation& invocation, const TagArguments& arguments)
+/// Asks who would take out more than what was named. The store is nobody's while somebody thinks.
+bool confirmsDeletion(const Invocation& invocation, const TagArguments& arguments)
 {
-    StoreSession session(invocation, StoreSession::Access::Write);
-    OVNoteTag& tag = tagForArgument(*arguments.name, session);
+    StoreSession session(invocation, StoreSession::Access::Read);
+    const OVNoteTag& tag = tagForArgument(*arguments.name, session);
     const std::vector<OVNote*> notes = tag.notesSet().allObjects();
     requireUnlocked(notes);
     const std::size_t below = countTagsBelow(tag, session);
     const std::string tagsBelow = numbered(below, "tag") + " below";
-    if (below > 0 && !arguments.confirmed
-        && !confirmedOnTerminal("Take \"" + displayText(tag.title().value_or("")) + "\" and " + tagsBelow
-                + " it out of " + numbered(notes.size(), "note") + "?",
-            "tag delete asks before it takes out " + tagsBelow + " as well")) {
+    return below == 0
+        || confirmedOnTerminal("Take \"" + displayText(tag.title().value_or("")) + "\" and " + tagsBelow + " it out of "
+                + numbered(notes.size(), "note") + "?",
+            "tag delete asks before it takes out " + tagsBelow + " as well");
+}
+
+ExitCode deleteTag(const Invocation& invocation, const TagArguments& arguments)
+{
+    if (!arguments.confirmed && !confirmsDeletion(invocation, arguments)) {
         tellOnStandardError("nothing was changed");
         return ExitCode::Failed;
     }
-    tag.deleteTagInNotes(notes);
-    session.save();
-    report(invocation, tag.title().value_or(""), notes.size(), below > 0 ? ", " + tagsBelow : "");
+    StoreSession session(invocation, StoreSession::Access::Write);
+    const OVNoteTag* tag = nullptr;
+    std::size_t notes = 0;
+    std::size_t below = 0;
+    session.write([&] {
+        OVNoteTag& found = tagForArgument(*arguments.name, session);
+        const std::vector<OVNote*> tagged = found.notesSet().allObjects();
+        requireUnlocked(tagged);
+        below = countTagsBelow(found, session);
+        found.deleteTagInNotes(tagged);
+        notes = tagged.size();
+        tag = &found;
+    });
+    report(invocation, tag->title().value_or(""), notes, below > 0 ? ", " + numbered(below, "tag") + " below" : "");
     return ExitCode::Done;
 }
 
 template <void (OVNoteTag::*Change)()> ExitCode changeTag(const Invocation& invocation, const TagArguments& arguments)
 {
     StoreSession session(invocation, StoreSession::Access::Write);
-    OVNoteTag& tag = tagForArgument(*arguments.name, session);
-    (tag.*Change)();
-    session.save();
-    report(invocation, tag.title().value_or(""), 0);
+    OVNoteTag* tag = nullptr;
+    session.write([&] {
+        tag = &tagForArgument(*arguments.name, session);
+        (tag->*Change)();
+    });
+    report(invocation, tag->title().value_or(""), 0);
     return ExitCode::Done;
 }
 
@@ -143,10 +192,11 @@ ExitCode pruneTags(const Invocation& invocation, const TagArguments&)
 {
     StoreSession session(invocation, StoreSession::Access::Write);
     std::vector<std::string> titles;
-    for (const OVNoteTag* tag : session.tags(NSPredicate::predicateWithFormat("notes.@count == 0")))
-        titles.push_back(tag->title().value_or(""));
-    OVNoteTag::deleteAllUnusedTagsInManagedObjectContext(session.context());
-    session.save();
+    session.write([&] {
+        for (const OVNoteTag* tag : session.tags(NSPredicate::predicateWithFormat("notes.@count == 0")))
+            titles.push_back(tag->title().value_or(""));
+        OVNoteTag::deleteAllUnusedTagsInManagedObjectContext(session.context());
+    });
     if (invocation.json)
         writeJSON(invocation.output, {{"tag", nullptr}, {"notes", 0}, {"deleted", titles}});
     else
@@ -195,7 +245,7 @@ void addArguments(const Command& command, TagArguments& arguments, Takes takes)
     if (isRename)
         command.addArgument("NEW", arguments.newName, "Its new path").required();
     if (takes == Takes::NameAndNotes)
-        command.addArguments("NOTE", arguments.notes, "Identifiers, beginnings of them, or titles").required();
+        arguments.notes.addAllTo(command, "Identifiers, beginnings of them, or titles");
 }
 
 } // namespace

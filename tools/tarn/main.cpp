@@ -1,6 +1,7 @@
 #include "platform/foundation/Log.h"
 #include "tools/tarn/CommandLine.h"
 #include "tools/tarn/Commands.h"
+#include "tools/tarn/Interruption.h"
 #include "tools/tarn/MemoryShortage.h"
 #include "tools/tarn/StandardStreams.h"
 
@@ -26,7 +27,8 @@ int main(int count, char** values)
     tarn::reserveStandardStreams();
     tarn::endInWordsWhenMemoryIsShort();
     try {
-        return static_cast<int>(run(count, values));
+        const tarn::ExitCode code = run(count, values);
+        return code == tarn::ExitCode::Interrupted ? tarn::Interruption::endProgram() : static_cast<int>(code);
     } catch (const std::bad_alloc&) { // before there was a command line to say so
         tarn::tellOfMemoryShortage();
         return static_cast<int>(tarn::ExitCode::Failed);

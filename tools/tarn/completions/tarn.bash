@@ -34,9 +34,12 @@ _tarn()
         search) options="--limit --count --explain --all --ocr" ;;
         predicate) options="--ocr" ;;
         tags) options="--all" ;;
-        tag) options="--top --yes" ;;
+        tag) options="--top --yes --latest" ;;
+        edit) options="--allow-empty --latest" ;;
+        append | prepend | replace | duplicate | merge | conflict | trash | restore | archive | unarchive | pin | unpin | readonly | editable)
+            options="--latest" ;;
         url) options="--title --new-window --header --tag" ;;
-        delete) options="--yes" ;;
+        delete) options="--yes --latest" ;;
         changes) options="--since" ;;
         doctor) options="--repair" ;;
     esac

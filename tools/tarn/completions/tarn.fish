@@ -65,5 +65,7 @@ complete -c tarn -n '__fish_seen_subcommand_from url' -l title -d 'Name the note
 complete -c tarn -n '__fish_seen_subcommand_from url' -l new-window -d 'Open it in a window of its own'
 complete -c tarn -n '__fish_seen_subcommand_from url' -l header -x -d 'Open it at this heading'
 complete -c tarn -n '__fish_seen_subcommand_from url' -l tag -x -d 'Open this tag'
+complete -c tarn -n '__fish_seen_subcommand_from append prepend replace edit duplicate merge tag conflict trash restore archive unarchive pin unpin readonly editable delete' -l latest -d 'Of several notes with one title take the latest modified'
+complete -c tarn -n '__fish_seen_subcommand_from edit' -l allow-empty -d 'Save also a text that came back empty'
 complete -c tarn -n '__fish_seen_subcommand_from delete' -l yes -d 'Do not ask'
 complete -c tarn -n '__fish_seen_subcommand_from doctor' -l repair -d 'Derive wrong fields anew'
