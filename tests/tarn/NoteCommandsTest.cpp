@@ -213,6 +213,19 @@ TEST_F(NoteCommands, ListByFilterTagAndLimitInTheStandardOrder)
     EXPECT_EQ(titles({"list", "--tag", "none"}), Titles{});
 }
 
+TEST_F(NoteCommands, ListTellsHowManyThereAreWithoutTheLimit)
+{
+    for (const char* text : {"# A #t", "# B", "# C #t"})
+        note(text);
+    const auto document = nlohmann::ordered_json::parse(run({"--json", "list", "--limit", "1"}).output);
+    EXPECT_EQ(keysOf(document), (std::vector<std::string>{"count", "notes", "total"}));
+    EXPECT_EQ(document.at("count"), 1);
+    EXPECT_EQ(document.at("total"), 3);
+    EXPECT_EQ(json({"list", "--tag", "t", "--limit", "1"}).at("total"), 2);
+    EXPECT_EQ(json({"list", "--tag", "t"}).at("total"), 2);
+    EXPECT_EQ(json({"list", "--filter", "trashed"}).at("total"), 0);
+}
+
 TEST_F(NoteCommands, PrintTheWholeDocumentAlsoWhenNothingIsFound)
 {
     note("# One");

@@ -31,10 +31,12 @@ ExitCode list(const Invocation& invocation, const ListOptions& options)
 {
     const auto tagPredicate = options.tag ? std::optional(predicateOfTag(*options.tag)) : std::nullopt;
     StoreSession session(invocation, StoreSession::Access::Read);
-    const auto notes
-        = session.notes(conjunction(tagPredicate, predicateOfFilter(options.filter.value_or("active"))), options.limit);
+    const auto predicate = conjunction(tagPredicate, predicateOfFilter(options.filter.value_or("active")));
+    const auto notes = session.notes(predicate, options.limit);
     if (invocation.json) {
-        writeNoteList(invocation.output, notes.size(), notes, JSON::object());
+        const bool isWhole = options.limit == 0 || notes.size() < options.limit;
+        writeNoteList(invocation.output, notes.size(), notes,
+            {{"total", isWhole ? notes.size() : session.countNotes(predicate)}});
     } else {
         for (const OVNote* note : notes)
             writeNoteLine(invocation.output, *note);
