@@ -1,9 +1,15 @@
+#include "tests/tarn/ForeignWriter.h"
 #include "tests/tarn/TarnCommandTest.h"
 
 #include <algorithm>
 #include <array>
+#include <chrono>
+#include <csignal>
+#include <cstdlib>
 #include <fcntl.h>
+#include <sqlite3.h>
 #include <sys/stat.h>
+#include <thread>
 #include <unistd.h>
 
 namespace tarn::test {
@@ -16,7 +22,7 @@ TEST_F(ImportCommand, MakesNotesOfFilesWithTheirDates)
     const std::array<timespec, 2> times{timespec{1'000'000'000, 0}, timespec{1'000'000'000, 123'456'789}};
     ASSERT_EQ(::utimensat(AT_FDCWD, path.c_str(), times.data(), 0), 0);
     const auto document = nlohmann::ordered_json::parse(run({"--json", "import", folder() / "in"}).output);
-    EXPECT_EQ(keysOf(document), (std::vector<std::string>{"imported", "skipped", "failed", "seconds"}));
+    EXPECT_EQ(keysOf(document), (std::vector<std::string>{"imported", "skipped", "skippedFiles", "failed", "seconds"}));
     EXPECT_EQ(document.at("imported"), 1);
     EXPECT_EQ(document.at("skipped"), 0);
     EXPECT_TRUE(document.at("failed").empty());
@@ -86,6 +92,125 @@ TEST_F(ImportCommand, SkipsWhatIsNamedTwice)
     const nlohmann::json document = json({"import", path, path, folder() / "in"});
     EXPECT_EQ(document.at("imported"), 1);
     EXPECT_EQ(document.at("skipped"), 2);
+}
+
+TEST_F(ImportCommand, NamesWhatItSkips)
+{
+    const auto path = file("in/a.md", "# A ![](p.png)");
+    for (const char* name : {"in/.b.md", "in/.git/c.md", "in/p.png", "in/q.JPEG", "in/other.pdf"})
+        file(name, "");
+    const nlohmann::json document = json({"import", path, folder() / "in"});
+    EXPECT_EQ(document.at("skipped"), 5);
+    std::vector<std::string> skipped;
+    for (const auto& skip : document.at("skippedFiles"))
+        skipped.push_back(std::filesystem::path(std::string(skip.at("path"))).filename().string() + ": "
+            + std::string(skip.at("reason")));
+    EXPECT_EQ(skipped,
+        (std::vector<std::string>{
+            ".b.md: hidden", ".git: a hidden folder", "a.md: seen before", "p.png: a picture", "q.JPEG: a picture"}));
+    const TarnResult quiet = run({"import", path, folder() / "in"});
+    EXPECT_EQ(quiet.errors, "");
+    EXPECT_TRUE(quiet.output.starts_with("imported 1 note, skipped 5 files (2 pictures) in ")) << quiet.output;
+    const TarnResult told = run({"import", "--verbose", path, folder() / "in"});
+    EXPECT_EQ(std::ranges::count(told.errors, '\n'), 5) << told.errors;
+    EXPECT_NE(told.errors.find("tarn: skipped: " + (folder() / "in" / ".git").string() + ": a hidden folder\n"),
+        std::string::npos)
+        << told.errors;
+}
+
+/// An import of three batches.
+class InterruptedImport : public TarnCommandTest {
+protected:
+    static constexpr std::size_t kFiles = 6'000;
+
+    InterruptedImport()
+    {
+        for (std::size_t index = 0; index < kFiles; ++index) {
+            std::string number = std::to_string(index);
+            number.insert(0, 4 - number.size(), '0');
+            file("in/" + number + ".md", "# Note " + number + "\n\n#shared/" + std::to_string(index % 10) + "\n");
+        }
+    }
+    /// Waits until the first batch is saved, and sends the signal.
+    void interruptWhenABatchIsSaved(const TarnProcess& import, int signal) const
+    {
+        sqlite3* connection = nullptr;
+        std::size_t count = 0;
+        while (count == 0 && import.isRunning()) {
+            std::this_thread::sleep_for(std::chrono::milliseconds(2));
+            if (!connection
+                && sqlite3_open_v2(database().c_str(), &connection, SQLITE_OPEN_READONLY, nullptr) != SQLITE_OK) {
+                sqlite3_close(connection);
+                connection = nullptr;
+                continue;
+            }
+            const auto take = [](void* result, int, char** values, char**) {
+                *static_cast<std::size_t*>(result) = std::strtoul(values[0], nullptr, 10);
+                return 0;
+            };
+            sqlite3_exec(connection, "SELECT count(*) FROM OVNote", take, &count, nullptr);
+        }
+        sqlite3_close(connection);
+        import.sendSignal(signal);
+    }
+    TarnResult importUntil(int signal, std::vector<std::string> given) const
+    {
+        given.insert(given.end(), {"import", (folder() / "in").string()});
+        TarnProcess import(arguments(std::move(given)));
+        import.start();
+        std::thread killer([&] { interruptWhenABatchIsSaved(import, signal); });
+        const TarnResult result = import.finish();
+        killer.join();
+        return result;
+    }
+};
+
+TEST_F(InterruptedImport, SaysWhatIsInTheStoreAndWhatIsNot)
+{
+    const TarnResult result = importUntil(SIGINT, {});
+    EXPECT_EQ(result.signal, SIGINT) << result.exitCode;
+    const std::size_t count = json({"list"}).at("count");
+    ASSERT_TRUE(count == 2'500 || count == 5'000) << count;
+    const auto nameOf
+        = [this](std::size_t index) { return (folder() / "in" / (std::to_string(index) + ".md")).string(); };
+    EXPECT_EQ(result.errors,
+        "tarn: interrupted: the " + std::to_string(count) + " notes up to " + nameOf(count - 1) + " are in the store; "
+            + std::to_string(kFiles - count) + " files, from " + nameOf(count) + " on, are not\n");
+    EXPECT_TRUE(result.output.starts_with(
+        "imported " + std::to_string(count) + " notes, left out " + std::to_string(kFiles - count) + " files in "))
+        << result.output;
+    EXPECT_EQ(run({"show", "Note " + std::to_string(count - 1)}).exitCode, 0);
+    EXPECT_EQ(run({"show", "Note " + std::to_string(count)}).exitCode, 1);
+    EXPECT_EQ(run({"doctor"}).exitCode, 0);
+}
+
+TEST_F(InterruptedImport, NamesEachFileThatIsNotInTheStoreToPrograms)
+{
+    const TarnResult result = importUntil(SIGTERM, {"--json"});
+    EXPECT_EQ(result.signal, SIGTERM);
+    const nlohmann::json document = nlohmann::json::parse(result.output);
+    const std::size_t count = json({"list"}).at("count");
+    EXPECT_EQ(document.at("imported"), count);
+    ASSERT_EQ(document.at("failed").size(), kFiles - count);
+    EXPECT_EQ(document.at("failed").at(0).at("path"), (folder() / "in" / (std::to_string(count) + ".md")).string());
+    EXPECT_EQ(document.at("failed").at(0).at("error"), "interrupted");
+}
+
+TEST_F(InterruptedImport, SaysThatNothingIsInTheStore)
+{
+    const std::string before = note("# Before");
+    TarnProcess import(arguments({"import", folder() / "in"}));
+    import.useTerminal();
+    ForeignWriter(database()).changeTextWhileLocked(before, "x", [&] {
+        import.start();
+        std::this_thread::sleep_for(std::chrono::milliseconds(1'500)); // until it wants to save its first batch
+        import.setInput("\x03");
+        const TarnResult result = import.finish();
+        EXPECT_EQ(result.signal, SIGINT) << result.exitCode;
+        EXPECT_NE(result.output.find("nothing of it is in the store; 6000 files, from "), std::string::npos)
+            << result.output;
+    });
+    EXPECT_EQ(json({"list"}).at("count"), 1);
 }
 
 TEST_F(ImportCommand, TakesHostileNames)

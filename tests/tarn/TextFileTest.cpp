@@ -38,6 +38,14 @@ protected:
             names.push_back(path.lexically_relative(folder_).string());
         return names;
     }
+    std::vector<std::string> skippedIn(const MarkdownFiles& found) const
+    {
+        std::vector<std::string> skipped;
+        for (const SkippedPath& file : found.skipped)
+            skipped.push_back(
+                file.path.lexically_relative(folder_).string() + ": " + std::string(textOfReason(file.reason)));
+        return skipped;
+    }
 
     fs::path folder_;
 };
@@ -108,17 +116,17 @@ TEST_F(MarkdownFilesOnDisk, StandInTheOrderOfNamesFolderByFolder)
         file(name);
     const MarkdownFiles found = markdownFilesAtPaths({folder_});
     EXPECT_EQ(namesIn(found), (std::vector<std::string>{"a/c.markdown", "a/z.MD", "a.md", "b.md", "d.txt", "ä.md"}));
-    EXPECT_EQ(found.skipped, 0U);
+    EXPECT_EQ(skippedIn(found), std::vector<std::string>{"e.png: a picture"});
     EXPECT_TRUE(found.failures.empty());
 }
 
 TEST_F(MarkdownFilesOnDisk, PassOverWhatIsHidden)
 {
-    for (const char* name : {".hidden.md", ".trash/a.md", "seen.md"})
+    for (const char* name : {".hidden.md", ".hidden.pdf", ".trash/a.md", "seen.md"})
         file(name);
     const MarkdownFiles found = markdownFilesAtPaths({folder_});
     EXPECT_EQ(namesIn(found), std::vector<std::string>{"seen.md"});
-    EXPECT_EQ(found.skipped, 1U);
+    EXPECT_EQ(skippedIn(found), (std::vector<std::string>{".hidden.md: hidden", ".trash: a hidden folder"}));
     EXPECT_EQ(markdownFilesAtPaths({folder_ / ".hidden.md"}).files.size(), 1U);
 }
 
@@ -128,7 +136,8 @@ TEST_F(MarkdownFilesOnDisk, CountWhatIsNamedTwiceOnce)
     fs::create_symlink(path, folder_ / "b.md");
     const MarkdownFiles found = markdownFilesAtPaths({path, folder_, folder_ / "." / "a.md"});
     EXPECT_EQ(namesIn(found), std::vector<std::string>{"a.md"});
-    EXPECT_EQ(found.skipped, 3U);
+    EXPECT_EQ(
+        skippedIn(found), (std::vector<std::string>{"a.md: seen before", "b.md: seen before", "./a.md: seen before"}));
 }
 
 TEST_F(MarkdownFilesOnDisk, FollowLinksToFoldersWithoutGoingInCircles)
@@ -136,7 +145,9 @@ TEST_F(MarkdownFilesOnDisk, FollowLinksToFoldersWithoutGoingInCircles)
     file("in/a.md");
     fs::create_directory_symlink(folder_, folder_ / "in" / "circle");
     fs::create_directory_symlink(folder_ / "in", folder_ / "other");
-    EXPECT_EQ(namesIn(markdownFilesAtPaths({folder_})), std::vector<std::string>{"in/a.md"});
+    const MarkdownFiles found = markdownFilesAtPaths({folder_});
+    EXPECT_EQ(namesIn(found), std::vector<std::string>{"in/a.md"});
+    EXPECT_EQ(skippedIn(found), (std::vector<std::string>{"in/circle: seen before", "other: seen before"}));
 }
 
 TEST_F(MarkdownFilesOnDisk, ReportWhatIsNotThere)

@@ -72,10 +72,12 @@ ExitCode makeBaseline(const Invocation& invocation)
 {
     StoreSession session(invocation, StoreSession::Access::Write);
     NSManagedObjectContext& context = session.context();
-    const OVChange* baseline = OVChange::baselineChangesInManagedObjectContext(context, true);
-    if (!baseline)
-        throw CommandFailure(ExitCode::Failed, "the change log cannot be read; it stays as it is");
-    session.save();
+    const OVChange* baseline = nullptr;
+    session.write([&] {
+        baseline = OVChange::baselineChangesInManagedObjectContext(context, true);
+        if (!baseline)
+            throw CommandFailure(ExitCode::Failed, "the change log cannot be read; it stays as it is");
+    });
     Changes changes;
     changes.token = baseline->token();
     changes.updated = OVChange::objectsUpdatedForChange(*baseline, &changes.deleted, context);

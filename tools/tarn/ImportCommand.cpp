@@ -5,9 +5,11 @@
 #include "tools/tarn/Commands.h"
 #include "tools/tarn/DisplayText.h"
 #include "tools/tarn/Importer.h"
+#include "tools/tarn/Interruption.h"
 #include "tools/tarn/JSON.h"
 #include "tools/tarn/Progress.h"
 
+#include <algorithm>
 #include <array>
 #include <chrono>
 #include <cstdio>
@@ -21,36 +23,75 @@ struct ImportOptions {
     std::vector<std::string> paths;
     std::vector<std::string> tags;
     bool dryRun = false;
+    bool verbose = false;
 };
 
-JSON jsonOf(const ImportResult& result, std::size_t skipped, double seconds)
+std::string textOfPath(const std::filesystem::path& path)
 {
+    return validUTF8(path.native());
+}
+
+JSON jsonOf(const ImportResult& result, const std::vector<SkippedPath>& skipped, double seconds)
+{
+    JSON skippedFiles = JSON::array();
+    for (const SkippedPath& file : skipped)
+        skippedFiles.push_back({{"path", textOfPath(file.path)}, {"reason", textOfReason(file.reason)}});
     JSON failed = JSON::array();
     for (const PathFailure& failure : result.failures)
-        failed.push_back({{"path", validUTF8(failure.path.native())}, {"error", failure.error}});
+        failed.push_back({{"path", textOfPath(failure.path)}, {"error", failure.error}});
+    for (const std::filesystem::path& path : result.left)
+        failed.push_back({{"path", textOfPath(path)}, {"error", result.reasonLeft}});
     JSON document;
     document["imported"] = result.imported;
-    document["skipped"] = skipped;
+    document["skipped"] = skipped.size();
+    document["skippedFiles"] = std::move(skippedFiles);
     document["failed"] = std::move(failed);
     document["seconds"] = seconds;
     return document;
 }
 
-std::string plural(std::size_t count, const std::string& noun)
-{
-    return std::to_string(count) + " " + noun + (count == 1 ? "" : "s");
-}
-
-std::string summaryOf(const ImportResult& result, std::size_t skipped, double seconds, bool dryRun)
+std::string summaryOf(const ImportResult& result, const std::vector<SkippedPath>& skipped, double seconds, bool dryRun)
 {
     std::array<char, 32> time{};
     std::snprintf(time.data(), time.size(), "%.2f s", seconds);
-    std::string line = (dryRun ? "would import " : "imported ") + plural(result.imported, "note");
-    if (skipped > 0)
-        line += ", skipped " + plural(skipped, "file");
+    std::string line = (dryRun ? "would import " : "imported ") + numbered(result.imported, "note");
+    if (!skipped.empty())
+        line += ", skipped " + numbered(skipped.size(), "file");
+    if (const auto pictures = std::ranges::count(skipped, SkipReason::Picture, &SkippedPath::reason); pictures > 0)
+        line += " (" + numbered(static_cast<std::size_t>(pictures), "picture") + ")";
     if (!result.failures.empty())
-        line += ", failed on " + plural(result.failures.size(), "file");
+        line += ", failed on " + numbered(result.failures.size(), "file");
+    if (!result.left.empty())
+        line += ", left out " + numbered(result.left.size(), "file");
     return line + " in " + time.data();
+}
+
+/// Where an import ended before its time: what is in the store, and what is not.
+void tellOfEnd(const ImportResult& result, bool dryRun)
+{
+    if (result.reasonLeft.empty())
+        return;
+    std::string left;
+    if (!result.left.empty())
+        left = "; " + numbered(result.left.size(), "file") + ", from " + textOfPath(result.left.front())
+            + (result.left.size() == 1 ? " on, is" : " on, are") + (dryRun ? " not looked at" : " not");
+    const std::string taken = dryRun ? "nothing was written"
+        : result.imported == 0       ? "nothing of it is in the store"
+                                     : "the " + numbered(result.imported, "note") + " up to "
+            + textOfPath(result.lastImported) + " are in the store";
+    tellOnStandardError(result.reasonLeft + ": " + taken + left);
+}
+
+void tellOfPaths(const ImportResult& result, const std::vector<SkippedPath>& skipped, bool verbose)
+{
+    for (const PathFailure& failure : result.failures)
+        tellOnStandardError("not imported: " + failure.path.native() + ": " + failure.error);
+    if (!verbose)
+        return;
+    for (const SkippedPath& file : skipped)
+        tellOnStandardError("skipped: " + file.path.native() + ": " + std::string(textOfReason(file.reason)));
+    for (const std::filesystem::path& path : result.left)
+        tellOnStandardError("not imported: " + path.native() + ": " + result.reasonLeft);
 }
 
 void requireUsableTags(const std::vector<std::string>& tags)
@@ -63,9 +104,9 @@ void requireUsableTags(const std::vector<std::string>& tags)
 
 ImportResult importFiles(const Invocation& invocation, const ImportOptions& options, const MarkdownFiles& found)
 {
-    // An import that finds nothing makes no store.
+    // An import that finds nothing, or was ended before it began, makes no store.
     std::optional<StoreSession> session;
-    if (!options.dryRun && !found.files.empty())
+    if (!options.dryRun && !found.files.empty() && !Interruption::requested())
         session.emplace(invocation, StoreSession::Access::Write);
     Progress progress(options.dryRun ? "Reading" : "Importing", found.files.size());
     Importer importer(session ? &*session : nullptr, options.tags);
@@ -87,13 +128,14 @@ ImportResult importFiles(const Invocation& invocation, const ImportOptions& opti
 ExitCode import(const Invocation& invocation, const ImportOptions& options)
 {
     requireUsableTags(options.tags);
+    const Interruption interruption;
     const auto start = std::chrono::steady_clock::now();
     const MarkdownFiles found = markdownFilesAtPaths(options.paths);
     const ImportResult result = importFiles(invocation, options, found);
     const double seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 
-    for (const PathFailure& failure : result.failures)
-        tellOnStandardError("not imported: " + failure.path.native() + ": " + failure.error);
+    tellOfPaths(result, found.skipped, options.verbose);
+    tellOfEnd(result, options.dryRun);
     if (invocation.json)
         writeJSON(invocation.output, jsonOf(result, found.skipped, seconds));
     else
@@ -118,6 +160,9 @@ void addImportCommand(CommandLine& commandLine)
               "folders\n"
               "(.name) are passed over. A file that is named is taken whatever its ending, one that is named twice "
               "once.\n"
+              "Pictures are counted, and stay where they are. Notes are saved 2,500 at a time: where Control-C ends "
+              "an\n"
+              "import, it says up to which file.\n"
               "Every import makes new notes: importing a file again makes a second one.\n"
               "YAML front matter is taken off: its title becomes the heading of a text that begins with none, its "
               "tags\n"
@@ -126,6 +171,7 @@ void addImportCommand(CommandLine& commandLine)
         [options](const Invocation& invocation) { return import(invocation, *options); });
     command.addArguments("PATH", options->paths, "Files and folders").required();
     command.addOptionList("--tag", options->tags, "Add this tag to every note, at the bottom").called("NAME");
+    command.addFlag("--verbose", options->verbose, "Name each file that was skipped or left out");
     command.addFlag("--dry-run", options->dryRun, "Read everything, write nothing, tell what would be imported");
 }
 

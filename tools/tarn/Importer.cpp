@@ -4,8 +4,9 @@
 #include "notes/OVNoteCacheLoan.h"
 #include "tools/tarn/CommandFailure.h"
 #include "tools/tarn/ImportedText.h"
+#include "tools/tarn/Interruption.h"
 
-#include <algorithm>
+#include <utility>
 
 namespace tarn {
 
@@ -15,6 +16,7 @@ namespace {
 /// more of them share a page that is written anyway.
 constexpr std::size_t kBatchNotes = 2500;
 constexpr std::size_t kBatchBytes = std::size_t{32} << 20;
+constexpr const char* kInterrupted = "interrupted";
 
 struct NoteDates {
     NSDate creation;
@@ -42,26 +44,38 @@ Importer::Importer(StoreSession* session, std::vector<std::string> tags) : sessi
 ImportResult Importer::importFiles(const std::vector<std::filesystem::path>& files, const FileHandler& handler)
 {
     result_ = {};
+    handler_ = &handler;
     std::size_t next = 0;
     try {
-        for (; next < files.size(); ++next) {
-            importFile(files[next], handler);
+        Interruption::endIfRequested(kInterrupted); // while the files were looked for
+        while (next < files.size()) {
+            Interruption::endIfRequested(kInterrupted);
+            readFile(files[next]);
+            ++next; // what is in the batch is not untried any more
             if (batch_.size() >= kBatchNotes || batchBytes_ >= kBatchBytes)
                 saveBatch();
         }
         saveBatch();
-    } catch (const CommandFailure& failure) {
-        // The store cannot be written: neither will the files that are left.
-        for (const std::filesystem::path& path : batch_)
-            fail(path, failure.what(), failure.code());
-        for (std::size_t left = std::min(next + 1, files.size()); left < files.size(); ++left)
-            fail(files[left], "not tried, since the store cannot be written", failure.code());
-        result_.code = failure.code();
+    } catch (const OutputClosed&) {
+        throw;
+    } catch (const std::exception&) {
+        leave(std::span(files).subspan(next));
     }
     return std::move(result_);
 }
 
-void Importer::importFile(const std::filesystem::path& path, const FileHandler& handler)
+void Importer::leave(std::span<const std::filesystem::path> untried)
+{
+    const CommandFailure failure = failureOfCurrentException();
+    for (UnsavedNote& note : batch_)
+        result_.left.push_back(std::move(note.path));
+    batch_.clear();
+    result_.left.insert(result_.left.end(), untried.begin(), untried.end());
+    result_.reasonLeft = failure.what();
+    result_.code = failure.code();
+}
+
+void Importer::readFile(const std::filesystem::path& path)
 {
     try {
         const TextFile file = readTextFile(path);
@@ -69,39 +83,52 @@ void Importer::importFile(const std::filesystem::path& path, const FileHandler& 
         imported.text = textWithTags(std::move(imported.text), tags_);
         if (imported.text.size() > kMaximumTextLength)
             throw TextFileError(TextFileError::Kind::NoText, "larger than 512 MiB, the longest text of a note");
-        if (!session_) {
-            handler({path, CVKAST::fromMarkdown(imported.text).textSummary().title});
-            ++result_.imported;
-            return;
-        }
-        OVNote& note = *OVNote::insertInManagedObjectContext(session_->context());
-        {
-            const OVNoteCacheLoan loan(note, tagsOfBatch_, notesOfBatch_);
-            note.updateNoteWithText(imported.text);
-        }
         const NoteDates dates = datesOf(file, imported);
-        note.setCreationDate(dates.creation);
-        note.setModificationDate(dates.modification);
-        batch_.push_back(path);
-        batchBytes_ += imported.text.size();
-        handler({path, note.title().value_or("")});
+        takeNote({path, std::move(imported.text), dates.creation, dates.modification});
     } catch (const TextFileError& error) {
         const bool unreadable = error.kind() == TextFileError::Kind::CannotRead;
         fail(path, error.what(), unreadable ? ExitCode::InputOutput : ExitCode::Failed);
     }
 }
 
+void Importer::takeNote(UnsavedNote note)
+{
+    if (!session_) {
+        (*handler_)({note.path, CVKAST::fromMarkdown(note.text).textSummary().title});
+        ++result_.imported;
+        return;
+    }
+    batchBytes_ += note.text.size();
+    batch_.push_back(std::move(note));
+}
+
 void Importer::saveBatch()
 {
     if (batch_.empty())
         return;
-    session_->save();
     tagsOfBatch_.clear();
     notesOfBatch_.clear();
+    session_->write([this] { insertBatch(); });
     session_->context().reset();
     result_.imported += batch_.size();
+    result_.lastImported = batch_.back().path;
     batch_.clear();
     batchBytes_ = 0;
+}
+
+void Importer::insertBatch()
+{
+    for (UnsavedNote& unsaved : batch_) {
+        Interruption::endIfRequested(kInterrupted);
+        OVNote& note = *OVNote::insertInManagedObjectContext(session_->context());
+        {
+            const OVNoteCacheLoan loan(note, tagsOfBatch_, notesOfBatch_);
+            note.updateNoteWithText(std::exchange(unsaved.text, {})); // one of the two is enough
+        }
+        note.setCreationDate(unsaved.creation);
+        note.setModificationDate(unsaved.modification);
+        (*handler_)({unsaved.path, note.title().value_or("")});
+    }
 }
 
 void Importer::fail(const std::filesystem::path& path, const std::string& error, ExitCode code)

@@ -1,9 +1,12 @@
 #include "tools/tarn/MarkdownFiles.h"
 
+#include "tools/tarn/Interruption.h"
+
 #include <algorithm>
 #include <array>
 #include <cctype>
 #include <set>
+#include <span>
 #include <string_view>
 #include <system_error>
 
@@ -13,14 +16,18 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::array<std::string_view, 3> kExtensions{".md", ".markdown", ".txt"};
+constexpr std::array<std::string_view, 3> kNoteExtensions{".md", ".markdown", ".txt"};
+constexpr std::array<std::string_view, 13> kPictureExtensions{
+    ".avif", ".bmp", ".gif", ".heic", ".heif", ".ico", ".jpeg", ".jpg", ".png", ".svg", ".tif", ".tiff", ".webp"};
+// In the order of `SkipReason`.
+constexpr std::array<std::string_view, 4> kReasons{"hidden", "a hidden folder", "seen before", "a picture"};
 
-bool hasNoteExtension(const fs::path& path)
+bool hasExtension(const fs::path& path, std::span<const std::string_view> extensions)
 {
     std::string extension = path.extension().string();
     std::ranges::transform(
         extension, extension.begin(), [](unsigned char byte) { return static_cast<char>(std::tolower(byte)); });
-    return std::ranges::find(kExtensions, extension) != kExtensions.end();
+    return std::ranges::find(extensions, extension) != extensions.end();
 }
 
 bool isHidden(const fs::path& path)
@@ -31,11 +38,14 @@ bool isHidden(const fs::path& path)
 /// One walk over all paths; remembers what it has seen.
 class Walk {
 public:
-    void visit(const fs::path& path, bool givenByName);
+    /// A path that was given, or found and wanted.
+    void visit(const fs::path& path);
     MarkdownFiles takeResult() { return std::move(result_); }
 
 private:
     void visitFolder(const fs::path& folder);
+    void visitEntry(const fs::path& entry);
+    void skip(const fs::path& path, SkipReason reason) { result_.skipped.push_back({path, reason}); }
     void fail(const fs::path& path, const std::error_code& error)
     {
         result_.failures.push_back({path, error.message()});
@@ -52,25 +62,21 @@ private:
     std::set<std::string> seen_;
 };
 
-void Walk::visit(const fs::path& path, bool givenByName)
+void Walk::visit(const fs::path& path)
 {
     std::error_code error;
     const fs::file_status status = fs::status(path, error);
-    if (status.type() == fs::file_type::directory) {
-        if (isNew(path))
-            visitFolder(path);
-        return;
-    }
-    if (!givenByName && !hasNoteExtension(path))
-        return;
+    const bool isFolder = status.type() == fs::file_type::directory;
     if (status.type() == fs::file_type::not_found && !error)
         error = std::make_error_code(std::errc::no_such_file_or_directory);
     if (error)
         fail(path, error);
-    else if (isNew(path))
-        result_.files.push_back(path);
+    else if (!isNew(path))
+        skip(path, SkipReason::SeenBefore);
+    else if (isFolder)
+        visitFolder(path);
     else
-        ++result_.skipped;
+        result_.files.push_back(path);
 }
 
 void Walk::visitFolder(const fs::path& folder)
@@ -83,20 +89,39 @@ void Walk::visitFolder(const fs::path& folder)
         fail(folder, error);
     std::ranges::sort(entries, {}, [](const fs::path& path) { return path.native(); });
     for (const fs::path& entry : entries) {
-        if (!isHidden(entry))
-            visit(entry, false);
-        else if (hasNoteExtension(entry))
-            ++result_.skipped;
+        if (Interruption::requested())
+            return;
+        visitEntry(entry);
+    }
+}
+
+void Walk::visitEntry(const fs::path& entry)
+{
+    std::error_code error;
+    const bool isFolder = fs::is_directory(entry, error);
+    const bool isNote = hasExtension(entry, kNoteExtensions);
+    if (isHidden(entry)) {
+        if (isFolder || isNote)
+            skip(entry, isFolder ? SkipReason::HiddenFolder : SkipReason::Hidden);
+    } else if (isFolder || isNote) {
+        visit(entry);
+    } else if (hasExtension(entry, kPictureExtensions)) {
+        skip(entry, SkipReason::Picture);
     }
 }
 
 } // namespace
 
+std::string_view textOfReason(SkipReason reason) noexcept
+{
+    return kReasons[static_cast<std::size_t>(reason)];
+}
+
 MarkdownFiles markdownFilesAtPaths(const std::vector<std::string>& paths)
 {
     Walk walk;
     for (const std::string& path : paths)
-        walk.visit(fs::path(path), true);
+        walk.visit(fs::path(path));
     return walk.takeResult();
 }
 

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace tarn {
@@ -12,16 +13,28 @@ struct PathFailure {
     std::string error;
 };
 
+/// Why a path was passed over.
+enum class SkipReason { Hidden, HiddenFolder, SeenBefore, Picture };
+
+struct SkippedPath {
+    std::filesystem::path path;
+    SkipReason reason;
+};
+
 /// What an import finds below the paths that it is given.
 struct MarkdownFiles {
     std::vector<std::filesystem::path> files; ///< in the order of the paths, each folder's in the order of names
-    std::size_t skipped = 0;                  ///< files that were named twice or are hidden
+    std::vector<SkippedPath> skipped;
     std::vector<PathFailure> failures;
 };
 
 /// Files as they are given, and below folders every `.md`, `.markdown` and `.txt` (in any case). Names are ordered by
 /// their bytes. Hidden files and folders (".name") are passed over; so is a folder or file that was already seen, by
-/// whatever path or symbolic link it is reached.
+/// whatever path or symbolic link it is reached. Pictures count as passed over, files of other kinds do not. Stops
+/// early when an `Interruption` is requested.
 MarkdownFiles markdownFilesAtPaths(const std::vector<std::string>& paths);
+
+/// "hidden", "a picture" and so on.
+std::string_view textOfReason(SkipReason reason) noexcept;
 
 } // namespace tarn

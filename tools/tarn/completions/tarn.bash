@@ -29,7 +29,7 @@ _tarn()
     local options=""
     case $command in
         "") options="$commands $global" ;;
-        import) options="--tag --dry-run" ;;
+        import) options="--tag --verbose --dry-run" ;;
         list) options="--filter --tag --limit" ;;
         search) options="--limit --count --explain --all --ocr" ;;
         predicate) options="--ocr" ;;

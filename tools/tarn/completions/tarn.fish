@@ -47,6 +47,7 @@ complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a parse -d 'Sho
 
 complete -c tarn -n '__fish_seen_subcommand_from import parse' -F
 complete -c tarn -n '__fish_seen_subcommand_from import' -l tag -x -d 'Add this tag to every note'
+complete -c tarn -n '__fish_seen_subcommand_from import' -l verbose -d 'Name each file that was skipped'
 complete -c tarn -n '__fish_seen_subcommand_from import' -l dry-run -d 'Write nothing'
 complete -c tarn -n '__fish_seen_subcommand_from list' -l filter -x -a 'active trashed archived pinned conflicted encrypted all' -d 'Which notes'
 complete -c tarn -n '__fish_seen_subcommand_from list' -l tag -x -d 'Only notes with this tag'
