@@ -129,8 +129,9 @@ bool ChangeTracker::hasChanges() const
             return true;
         const auto isPending
             = [](const NSManagedObject* object) { return object->hasChanges() && !object->isDeleted(); };
-        if (std::any_of(records.inserted.begin(), records.inserted.end(), isPending)
-            || std::any_of(records.updated.begin(), records.updated.end(), isPending))
+        // From the latest on: where many were inserted and deleted again, the first ones are all gone.
+        if (std::any_of(records.inserted.rbegin(), records.inserted.rend(), isPending)
+            || std::any_of(records.updated.rbegin(), records.updated.rend(), isPending))
             return true;
     }
     return false;

@@ -1,10 +1,12 @@
 #include "platform/coredata/InMemoryFetch.h"
 
+#include "platform/coredata/EqualityProbes.h"
 #include "platform/coredata/PredicateKeys.h"
 #include "platform/coredata/RowOrder.h"
 #include "platform/predicate/PredicateEvaluator.h"
 
 #include <algorithm>
+#include <set>
 #include <utility>
 
 namespace tarn {
@@ -18,16 +20,35 @@ bool isOfEntity(const StoreRow& row, const StoreFetch& fetch)
     return fetch.includesSubentities ? row.entity->isKindOfEntity(*fetch.entity) : row.entity == fetch.entity;
 }
 
+std::vector<RowPointer> rowsToJudge(const StoreFetch& fetch, const InMemoryState& state)
+{
+    const auto probes
+        = fetch.predicate ? equalityProbes(*fetch.entity, *fetch.predicate, InMemoryState::hasIndex) : std::nullopt;
+    const NSEntityDescription& root = fetch.entity->rootEntity();
+    if (!probes)
+        return state.rowsOfRoot(root);
+    std::set<std::int64_t> keys;
+    for (const EqualityProbe& probe : *probes)
+        for (const std::int64_t key : state.keysWithValue(probe))
+            keys.insert(key);
+    std::vector<RowPointer> rows;
+    for (const std::int64_t key : keys)
+        if (const RowPointer& row = state.rowPointer(root, key))
+            rows.push_back(row);
+    return rows;
+}
+
 std::vector<RowPointer> matchingRows(const StoreFetch& fetch, const InMemoryState& state, const StoreIdentity& identity)
 {
-    std::vector<RowPointer> rows = state.rowsOfRoot(fetch.entity->rootEntity());
+    if (fetch.predicate)
+        checkKeysOfPredicate(*fetch.predicate, *fetch.entity);
+    std::vector<RowPointer> rows = rowsToJudge(fetch, state);
     std::erase_if(rows, [&](const RowPointer& row) {
         return !isOfEntity(*row, fetch)
             || std::binary_search(fetch.excludedKeys.begin(), fetch.excludedKeys.end(), row->key);
     });
     if (!fetch.predicate)
         return rows;
-    checkKeysOfPredicate(*fetch.predicate, *fetch.entity);
     const PredicateEvaluator evaluator(*fetch.predicate);
     const InMemoryRowReader reader(identity, state);
     RowGraph graph(reader);
@@ -58,6 +79,15 @@ std::vector<StoreRow> rowsOfFetch(const StoreFetch& fetch, const InMemoryState& 
     for (std::size_t i = first; i < first + count; ++i)
         given.push_back(rowWithContents(*rows[i].second, fetch.contents));
     return given;
+}
+
+std::string explanationOfFetch(const StoreFetch& fetch, const InMemoryState& state)
+{
+    const std::string& name = fetch.entity->rootEntity().name();
+    const bool isLookUp
+        = fetch.predicate && equalityProbes(*fetch.entity, *fetch.predicate, InMemoryState::hasIndex).has_value();
+    const std::string count = std::to_string(rowsToJudge(fetch, state).size());
+    return (isLookUp ? "looks up " : "walks all ") + count + " rows of " + name + "\n";
 }
 
 } // namespace tarn

@@ -1,7 +1,10 @@
 #include "platform/coredata/InMemoryState.h"
 
+#include "platform/foundation/Folding.h"
+
 #include <algorithm>
 #include <cmath>
+#include <functional>
 
 namespace tarn {
 
@@ -11,6 +14,20 @@ bool isColumn(const NSPropertyDescription& property)
 {
     return property.isRelationship()
         && static_cast<const NSRelationshipDescription&>(property).storage() == RelationshipStorage::Column;
+}
+
+/// So many numbers that rows with different texts seldom share one, and so few that copying a state stays cheap.
+constexpr std::size_t kTextHashes = std::size_t{1} << 16U;
+
+std::int64_t hashOfText(std::string_view text)
+{
+    return static_cast<std::int64_t>(std::hash<std::string_view>()(text) % kTextHashes);
+}
+
+/// Whether both rows say the same of a property; a row that is not there says nothing.
+bool saysTheSame(const StoreRow* old, const StoreRow* row, PropertyIndex index)
+{
+    return old && row && old->values.equals(index, row->values);
 }
 
 /// The store knows no number that is none: SQLite keeps it as nil, and so do we.
@@ -27,11 +44,17 @@ void clearNotANumbers(PropertyValues& values)
 
 // Reading -------------------------------------------------------------------------------------------------------------
 
-const StoreRow* InMemoryState::row(const NSEntityDescription& entity, std::int64_t key) const
+const InMemoryState::RowPointer& InMemoryState::rowPointer(const NSEntityDescription& entity, std::int64_t key) const
 {
+    static const RowPointer none;
     const auto rows = rows_.find(&entity.rootEntity());
     const RowPointer* found = rows == rows_.end() ? nullptr : rows->second.find(key);
-    return found ? found->get() : nullptr;
+    return found ? *found : none;
+}
+
+const StoreRow* InMemoryState::row(const NSEntityDescription& entity, std::int64_t key) const
+{
+    return rowPointer(entity, key).get();
 }
 
 std::vector<InMemoryState::RowPointer> InMemoryState::rowsOfRoot(const NSEntityDescription& root) const
@@ -61,12 +84,31 @@ std::size_t InMemoryState::countRelated(const NSRelationshipDescription& relatio
     return found ? found->size() : 0;
 }
 
+bool InMemoryState::hasIndex(const NSPropertyDescription& property, bool folded)
+{
+    if (property.isRelationship())
+        return isColumn(property);
+    const auto& attribute = static_cast<const NSAttributeDescription&>(property);
+    return folded ? attribute.isFolded() : attribute.isIndexed();
+}
+
+std::vector<std::int64_t> InMemoryState::keysWithValue(const EqualityProbe& probe) const
+{
+    const NSPropertyDescription& property = *probe.property;
+    if (property.isRelationship())
+        return relatedKeys(static_cast<const NSRelationshipDescription&>(property).inverseRelationship(), probe.key);
+    std::vector<std::int64_t> keys;
+    const auto index = texts_.find({&property.declaringEntity(), property.index(), probe.folded});
+    const KeySet* found = index == texts_.end() ? nullptr : index->second.find(hashOfText(probe.text));
+    if (found)
+        found->forEach([&](std::int64_t key, bool) { keys.push_back(key); });
+    return keys;
+}
+
 // Writing -------------------------------------------------------------------------------------------------------------
 
-void InMemoryState::setIndexed(
-    const NSRelationshipDescription& from, std::int64_t key, std::int64_t other, bool present)
+void InMemoryState::setMember(KeysByKey& keys, std::int64_t key, std::int64_t other, bool present)
 {
-    KeysByKey& keys = related_[&from];
     if (present) {
         keys[key][other] = true;
         return;
@@ -79,22 +121,48 @@ void InMemoryState::setIndexed(
         keys.erase(key);
 }
 
-/// Enters the to-ones of a row, seen from their targets, or takes them out.
-void InMemoryState::index(const StoreRow& row, bool present)
+void InMemoryState::setIndexed(
+    const NSRelationshipDescription& from, std::int64_t key, std::int64_t other, bool present)
 {
-    for (const NSRelationshipDescription* relationship : row.entity->relationships()) {
-        const PropertyIndex index = relationship->index();
-        if (isColumn(*relationship) && !row.values.isNil(index))
-            setIndexed(relationship->inverseRelationship(), row.values.integer(index), row.key, present);
+    setMember(related_[&from], key, other, present);
+}
+
+void InMemoryState::indexText(const NSAttributeDescription& attribute, bool folded, const StoreRow& row, bool present)
+{
+    if (attribute.type() != NSAttributeType::String || !hasIndex(attribute, folded)
+        || row.values.isNil(attribute.index()))
+        return;
+    const std::string_view text = row.values.bytes(attribute.index());
+    const std::int64_t hash = folded ? hashOfText(fold(text)) : hashOfText(text);
+    setMember(texts_[{&attribute.declaringEntity(), attribute.index(), folded}], hash, row.key, present);
+}
+
+/// Takes what the old row says out of the indexes and enters what the row says in its place; either may be null.
+void InMemoryState::index(const StoreRow* old, const StoreRow* row)
+{
+    const NSEntityDescription& entity = *(old ? old : row)->entity;
+    for (const NSPropertyDescription* property : entity.properties()) {
+        if (saysTheSame(old, row, property->index()))
+            continue;
+        for (const StoreRow* one : {old, row}) {
+            if (!one)
+                continue;
+            const bool present = one == row;
+            if (!property->isRelationship()) {
+                for (const bool folded : {false, true})
+                    indexText(static_cast<const NSAttributeDescription&>(*property), folded, *one, present);
+            } else if (isColumn(*property) && !one->values.isNil(property->index())) {
+                setIndexed(static_cast<const NSRelationshipDescription*>(property)->inverseRelationship(),
+                    one->values.integer(property->index()), one->key, present);
+            }
+        }
     }
 }
 
 void InMemoryState::setRow(StoreRow row)
 {
-    if (const StoreRow* old = this->row(*row.entity, row.key))
-        index(*old, false);
     clearNotANumbers(row.values);
-    index(row, true);
+    index(this->row(*row.entity, row.key), &row);
     auto& rows = rows_[&row.entity->rootEntity()];
     const std::int64_t key = row.key;
     rows[key] = std::make_shared<const StoreRow>(std::move(row));
@@ -133,7 +201,7 @@ void InMemoryState::removeRow(const NSEntityDescription& entity, std::int64_t ke
         return;
     removeFromRelationships(*found->entity, key);
     if (const StoreRow* still = row(entity, key))
-        index(*still, false);
+        index(still, nullptr);
     rows_[&entity.rootEntity()].erase(key);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/coredata/EqualityProbes.h"
 #include "platform/coredata/NSPersistentStore.h"
 #include "platform/coredata/RowObject.h"
 #include "platform/coredata/SnapshotMap.h"
@@ -8,6 +9,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <tuple>
 #include <unordered_map>
 #include <vector>
 
@@ -22,11 +24,16 @@ public:
 
     /// Null when there is no such row.
     const StoreRow* row(const NSEntityDescription& entity, std::int64_t key) const;
+    const RowPointer& rowPointer(const NSEntityDescription& entity, std::int64_t key) const;
     /// Rows of the inheritance chain in order of keys.
     std::vector<RowPointer> rowsOfRoot(const NSEntityDescription& root) const;
     /// Keys at the other end of a relationship that is not a column of its own, ascending.
     std::vector<std::int64_t> relatedKeys(const NSRelationshipDescription& relationship, std::int64_t key) const;
     std::size_t countRelated(const NSRelationshipDescription& relationship, std::int64_t key) const;
+    /// Whether `keysWithValue` knows this property: an indexed text, or a to-one.
+    static bool hasIndex(const NSPropertyDescription& property, bool folded);
+    /// Keys of the rows that have this value, and of few others, ascending.
+    std::vector<std::int64_t> keysWithValue(const EqualityProbe& probe) const;
 
     /// Puts the row in the place of one with its key.
     void setRow(StoreRow row);
@@ -43,13 +50,20 @@ private:
     using KeySet = SnapshotMap<bool>;
     using KeysByKey = SnapshotMap<KeySet>;
 
-    void index(const StoreRow& row, bool present);
+    /// What one index is over: an attribute, by the entity that declares it, its text folded or as it is.
+    using IndexSubject = std::tuple<const NSEntityDescription*, PropertyIndex, bool>;
+
+    void index(const StoreRow* old, const StoreRow* row);
+    void indexText(const NSAttributeDescription& attribute, bool folded, const StoreRow& row, bool present);
+    static void setMember(KeysByKey& keys, std::int64_t key, std::int64_t other, bool present);
     void setIndexed(const NSRelationshipDescription& from, std::int64_t key, std::int64_t other, bool present);
     void removeFromRelationships(const NSEntityDescription& entity, std::int64_t key);
 
     std::unordered_map<const NSEntityDescription*, SnapshotMap<RowPointer>> rows_; ///< by root entity
     /// For relationships that are not columns: keys at the other end.
     std::unordered_map<const NSRelationshipDescription*, KeysByKey> related_;
+    /// Keys by a short hash of the text.
+    std::map<IndexSubject, KeysByKey> texts_;
 };
 
 /// A state, row by row, for row objects.

@@ -159,7 +159,7 @@ bool InMemoryStore::checkIntegrity(std::vector<std::string>& problems, NSError*)
 
 std::string InMemoryStore::explain(const StoreFetch& fetch)
 {
-    return "walks all rows of " + fetch.entity->rootEntity().name() + "\n";
+    return explanationOfFetch(fetch, *state());
 }
 
 } // namespace tarn

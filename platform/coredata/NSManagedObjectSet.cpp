@@ -4,27 +4,16 @@
 #include "platform/coredata/RecordAccess.h"
 
 #include <algorithm>
+#include <unordered_set>
 #include <utility>
 
 namespace tarn {
 
 namespace {
 
-/// From here on a hash of the members beats walking them.
-constexpr std::size_t indexThreshold = 16;
-
 RelationshipMaintenance& maintenance(const NSManagedObject& owner)
 {
     return owner.managedObjectContext().core().relationships;
-}
-
-bool eraseFrom(std::vector<NSManagedObject*>& objects, const NSManagedObject& object)
-{
-    const auto found = std::find(objects.begin(), objects.end(), &object);
-    if (found == objects.end())
-        return false;
-    objects.erase(found);
-    return true;
 }
 
 bool keyOrder(const NSManagedObject* left, const NSManagedObject* right)
@@ -45,7 +34,8 @@ ToManySet::ToManySet(NSManagedObject& owner, const NSRelationshipDescription& re
 const std::vector<NSManagedObject*>& ToManySet::members()
 {
     maintenance(*owner_).loadMembers(*this);
-    return members_;
+    putInOrder();
+    return members_.values();
 }
 
 bool ToManySet::contains(const NSManagedObject& member)
@@ -54,9 +44,11 @@ bool ToManySet::contains(const NSManagedObject& member)
         return false;
     if (loaded_)
         return holds(member);
-    if (std::find(added_.begin(), added_.end(), &member) != added_.end())
+    // The sets look for a pointer and change nothing through it.
+    auto* const wanted = const_cast<NSManagedObject*>(&member);
+    if (added_.contains(wanted))
         return true;
-    if (std::find(removed_.begin(), removed_.end(), &member) != removed_.end())
+    if (removed_.contains(wanted))
         return false;
     const NSRelationshipDescription& inverse = relationship_->inverseRelationship();
     if (!inverse.isToMany())
@@ -97,13 +89,7 @@ void ToManySet::set(std::span<NSManagedObject* const> wanted)
 
 bool ToManySet::holds(const NSManagedObject& member) const
 {
-    if (members_.size() < indexThreshold)
-        return std::find(members_.begin(), members_.end(), &member) != members_.end();
-    if (index_.size() != members_.size()) {
-        index_.clear();
-        index_.insert(members_.begin(), members_.end());
-    }
-    return index_.contains(&member);
+    return members_.contains(const_cast<NSManagedObject*>(&member));
 }
 
 /// Notes a new member; one that was only taken out since the last save is back where it stood.
@@ -112,40 +98,44 @@ void ToManySet::put(NSManagedObject& member)
 {
     if (loaded_ && holds(member))
         return;
-    const bool wasStored = eraseFrom(removed_, member) && loaded_;
-    if (!wasStored && std::find(added_.begin(), added_.end(), &member) == added_.end())
-        added_.push_back(&member);
+    const bool wasStored = removed_.erase(&member) && loaded_;
+    if (!wasStored)
+        added_.add(&member);
     if (!loaded_)
         return;
-    if (wasStored) {
-        const auto storedEnd = members_.end() - static_cast<std::ptrdiff_t>(std::min(added_.size(), members_.size()));
-        members_.insert(std::lower_bound(members_.begin(), storedEnd, &member, keyOrder), &member);
-    } else {
-        members_.push_back(&member);
-    }
-    if (!index_.empty())
-        index_.insert(&member);
+    members_.add(&member);
+    if (wasStored)
+        isInOrder_ = false;
 }
 
 void ToManySet::take(NSManagedObject& member)
 {
     if (loaded_ && !holds(member))
         return;
-    const bool wasAdded = eraseFrom(added_, member) && loaded_;
-    if (!wasAdded && std::find(removed_.begin(), removed_.end(), &member) == removed_.end())
-        removed_.push_back(&member);
-    if (loaded_) {
-        eraseFrom(members_, member);
-        index_.erase(&member);
-    }
+    const bool wasAdded = added_.erase(&member) && loaded_;
+    if (!wasAdded)
+        removed_.add(&member);
+    if (loaded_)
+        members_.erase(&member);
+}
+
+/// Stored members by key, then what was added, as it came.
+void ToManySet::putInOrder()
+{
+    if (std::exchange(isInOrder_, true))
+        return;
+    std::vector<NSManagedObject*> members = members_.values();
+    const auto isStored = [this](NSManagedObject* member) { return !added_.contains(member); };
+    const auto firstAdded = std::stable_partition(members.begin(), members.end(), isStored);
+    std::stable_sort(members.begin(), firstAdded, keyOrder);
+    members_ = OrderedSet(std::move(members));
 }
 
 void ToManySet::settle()
 {
     added_.clear();
     removed_.clear();
-    if (loaded_)
-        std::stable_sort(members_.begin(), members_.end(), keyOrder);
+    isInOrder_ = !loaded_;
 }
 
 void ToManySet::unload()
@@ -157,7 +147,6 @@ void ToManySet::unload()
 
 void ToManySet::forgetStored()
 {
-    index_.clear();
     if (std::exchange(loaded_, false))
         maintenance(*owner_).noteForgotten(*this);
 }

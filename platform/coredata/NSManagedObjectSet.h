@@ -1,10 +1,10 @@
 #pragma once
 
 #include "platform/coredata/NSManagedObject.h"
+#include "platform/coredata/OrderedSet.h"
 
 #include <cstddef>
 #include <span>
-#include <unordered_set>
 #include <vector>
 
 namespace tarn {
@@ -30,28 +30,29 @@ public:
     bool isLoaded() const noexcept { return loaded_; }
     const NSRelationshipDescription& relationship() const noexcept { return *relationship_; }
     /// Since the last save.
-    const std::vector<NSManagedObject*>& added() const noexcept { return added_; }
-    const std::vector<NSManagedObject*>& removed() const noexcept { return removed_; }
+    const std::vector<NSManagedObject*>& added() const { return added_.values(); }
+    const std::vector<NSManagedObject*>& removed() const { return removed_.values(); }
 
 private:
     friend class RelationshipMaintenance;
     bool holds(const NSManagedObject& member) const;
     void put(NSManagedObject& member);
     void take(NSManagedObject& member);
-    void load();
     void settle();
     void unload();
     /// Reads the stored members again at next use; unsaved additions and removals stay.
     void forgetStored();
 
+    void putInOrder();
+
     NSManagedObject* owner_;
     const NSRelationshipDescription* relationship_;
     bool loaded_ = false;
-    std::size_t place_ = 0;                                    ///< among the loaded sets of the context
-    std::vector<NSManagedObject*> members_;                    ///< while not loaded those that were, if any
-    mutable std::unordered_set<const NSManagedObject*> index_; ///< of members_, once there are many
-    std::vector<NSManagedObject*> added_;
-    std::vector<NSManagedObject*> removed_;
+    bool isInOrder_ = true;
+    std::size_t place_ = 0;                ///< among the loaded sets of the context
+    OrderedSet<NSManagedObject*> members_; ///< while not loaded those that were, if any
+    OrderedSet<NSManagedObject*> added_;
+    OrderedSet<NSManagedObject*> removed_;
 };
 
 /// The live, typed set that a record's `xSet()` gives. A light handle: copy it freely, keep it no longer than the

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "platform/coredata/EqualityProbes.h"
 #include "platform/coredata/NSManagedObject.h"
-#include "platform/predicate/NSPredicate.h"
+#include "platform/coredata/OrderedSet.h"
 
 #include <map>
 #include <optional>
@@ -15,7 +16,8 @@ namespace tarn {
 /// Finds pending records by the value of one property, so that a look-up among 10,000 unsaved records does not walk
 /// them all.
 ///
-/// Indexes are made when a predicate first asks for one and follow a journal of changed records.
+/// Indexes are made when a predicate first asks for one and follow a journal of changed records. What a change costs
+/// does not depend on how many records have the same value.
 class PendingIndex {
 public:
     /// A pending record came or changed.
@@ -27,12 +29,14 @@ public:
     void clear();
 
 private:
-    /// What one index is over: a property of an inheritance chain, its text folded or as it is.
+    /// What one index is over: a property, by the entity that declares it, its text folded or as it is.
     using Subject = std::tuple<const NSEntityDescription*, PropertyIndex, bool>;
     struct Index {
         std::size_t journalPosition = 0;
-        std::unordered_multimap<std::string, NSManagedObject*> records;
+        std::unordered_map<std::string, OrderedSet<NSManagedObject*>> records;
         std::unordered_map<NSManagedObject*, std::string> keys;
+        void take(NSManagedObject& object);
+        void put(NSManagedObject& object, std::string key);
     };
     struct Touch {
         NSManagedObject* object;

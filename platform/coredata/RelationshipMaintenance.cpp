@@ -191,23 +191,21 @@ void RelationshipMaintenance::loadMembers(ToManySet& set)
         return !inverse.isToMany() && (RecordAccess::changed(member) & propertyBit(inverse.index()))
             && named(member, inverse) != &owner;
     };
-    const std::unordered_set<const NSManagedObject*> removed(set.removed_.begin(), set.removed_.end());
     std::unordered_set<const NSManagedObject*> stored;
     std::vector<NSManagedObject*> members;
     members.reserve(keys.size() + set.added_.size());
     for (const RelatedKey& key : keys) {
         NSManagedObject& member = core_.recordOrFault(*key.entity, key.key);
         stored.insert(&member);
-        if (!member.isDeleted() && !removed.contains(&member) && !isElsewhere(member))
+        if (!member.isDeleted() && !set.removed_.contains(&member) && !isElsewhere(member))
             members.push_back(&member);
     }
     // From here on the deltas say exactly what differs from the store; noted unread, they may say too much.
-    std::erase_if(
-        set.added_, [&](const NSManagedObject* member) { return member->isDeleted() || stored.contains(member); });
-    std::erase_if(set.removed_, [&](const NSManagedObject* member) { return !stored.contains(member); });
-    members.insert(members.end(), set.added_.begin(), set.added_.end());
-    set.members_ = std::move(members);
-    set.index_.clear();
+    set.added_.eraseIf([&](const NSManagedObject* member) { return member->isDeleted() || stored.contains(member); });
+    set.removed_.eraseIf([&](const NSManagedObject* member) { return !stored.contains(member); });
+    members.insert(members.end(), set.added().begin(), set.added().end());
+    set.members_ = OrderedSet(std::move(members));
+    set.isInOrder_ = true;
     set.loaded_ = true;
     noteLoaded(set);
     forgetSetsWithoutOwner(set);
@@ -227,7 +225,7 @@ std::vector<RelatedKey> RelationshipMaintenance::storedKeys(
 std::size_t RelationshipMaintenance::countMembers(ToManySet& set)
 {
     const NSManagedObject& owner = *set.owner_;
-    if (set.loaded_ || !set.added_.empty() || !set.removed_.empty() || owner.objectID().isTemporaryID()
+    if (set.loaded_ || !set.added_.isEmpty() || !set.removed_.isEmpty() || owner.objectID().isTemporaryID()
         || owner.isInserted() || core_.tracker.pending(set.relationship().destinationEntity().rootEntity())) {
         loadMembers(set);
         return set.members_.size();
@@ -294,10 +292,11 @@ void RelationshipMaintenance::forgetGone(NSManagedObject& record)
     const auto isGone = [](const NSManagedObject* member) { return RecordAccess::isGone(*member); };
     if (RecordDetails* details = RecordAccess::detailsIfAny(record)) {
         for (const auto& set : details->toManySets) {
-            if (std::any_of(set->members_.begin(), set->members_.end(), isGone))
+            const auto& members = set->members_.values();
+            if (std::any_of(members.begin(), members.end(), isGone))
                 set->forgetStored();
-            std::erase_if(set->added_, isGone);
-            std::erase_if(set->removed_, isGone);
+            set->added_.eraseIf(isGone);
+            set->removed_.eraseIf(isGone);
         }
     }
 }
@@ -363,7 +362,7 @@ void RelationshipMaintenance::followKey(const NSManagedObject& record, std::int6
             if (NSManagedObject* holder = named(record, *relationship))
                 follow(*holder);
         } else if (const ToManySet* set = details ? details->toManySet(relationship->index()) : nullptr) {
-            for (NSManagedObject* holder : set->added_)
+            for (NSManagedObject* holder : set->added())
                 follow(*holder);
         }
     }

@@ -124,7 +124,7 @@ void RelationshipMaintenance::readMovedMembers(const ToManySet& set, const std::
         if (member && showsTheStore(*member, column) && keyIn(RecordAccess::values(*member), column) != owner)
             moved.push_back(member);
     }
-    for (NSManagedObject* member : set.members_)
+    for (NSManagedObject* member : set.members_.values())
         if (showsTheStore(*member, column) && keyIn(RecordAccess::values(*member), column) == owner
             && !keys.contains(member->objectID().key()))
             moved.push_back(member);
@@ -137,7 +137,7 @@ void RelationshipMaintenance::forgetSetsWithoutOwner(const ToManySet& set)
     const NSRelationshipDescription& inverse = set.relationship().inverseRelationship();
     if (!inverse.isToMany())
         return;
-    for (const NSManagedObject* member : set.members_) {
+    for (const NSManagedObject* member : set.members_.values()) {
         const RecordDetails* details = RecordAccess::detailsIfAny(*member);
         ToManySet* other = details ? details->toManySet(inverse.index()) : nullptr;
         if (other && other->isLoaded() && !other->holds(*set.owner_))
@@ -211,8 +211,8 @@ std::vector<NSManagedObject*> RelationshipMaintenance::changedHolders(
     std::vector<NSManagedObject*> holders;
     if (relationship.isToMany()) {
         const ToManySet& set = toMany(record, relationship);
-        holders = set.added_;
-        holders.insert(holders.end(), set.removed_.begin(), set.removed_.end());
+        holders = set.added();
+        holders.insert(holders.end(), set.removed().begin(), set.removed().end());
     } else {
         if (NSManagedObject* holder = named(record, relationship))
             holders.push_back(holder);
@@ -256,9 +256,9 @@ void RelationshipMaintenance::forgetChange(
     bool isAsStored = isAsSaved(record, relationship.index());
     if (relationship.isToMany()) {
         ToManySet& set = toMany(record, relationship);
-        std::erase(set.added_, &member);
-        std::erase(set.removed_, &member);
-        isAsStored = set.added_.empty() && set.removed_.empty() && !record.isInserted();
+        set.added_.erase(&member);
+        set.removed_.erase(&member);
+        isAsStored = set.added_.isEmpty() && set.removed_.isEmpty() && !record.isInserted();
     }
     if (isAsStored && !record.isDeleted())
         clearChange(record, relationship.index());
@@ -267,8 +267,8 @@ void RelationshipMaintenance::forgetChange(
 void RelationshipMaintenance::takeBackJoins(NSManagedObject& record, const NSRelationshipDescription& relationship)
 {
     ToManySet& set = toMany(record, relationship);
-    std::vector<NSManagedObject*> members = set.added_;
-    members.insert(members.end(), set.removed_.begin(), set.removed_.end());
+    std::vector<NSManagedObject*> members = set.added();
+    members.insert(members.end(), set.removed().begin(), set.removed().end());
     for (NSManagedObject* member : members) {
         toMany(*member, relationship.inverseRelationship()).forgetStored();
         forgetChange(*member, relationship.inverseRelationship(), record);
