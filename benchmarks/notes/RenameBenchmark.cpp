@@ -17,6 +17,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <functional>
+#include <memory>
 #include <string>
 
 namespace {
@@ -36,7 +37,9 @@ struct Cost {
 /// A case: how a note's text is made, how the rename is done, how a text alone is rewritten.
 struct Case {
     const char* name;
-    std::size_t notes;
+    StoreType store;
+    std::size_t few;
+    std::size_t many;
     std::function<std::string(std::size_t)> text;
     std::function<std::vector<OVNote*>(NSManagedObjectContext&)> notesToRewrite;
     std::function<void(NSManagedObjectContext&)> rename;
@@ -52,17 +55,24 @@ std::string paragraph(std::size_t number)
     return text;
 }
 
+void fill(BenchmarkStore& store, const Case& tried, std::size_t count)
+{
+    OVNote::noteWithText("# Target", store.context);
+    for (std::size_t number = 0; number < count; ++number)
+        OVNote::noteWithText(tried.text(number), store.context);
+    store.save();
+}
+
 Cost measure(const fs::path& folder, const Case& tried, std::size_t count)
 {
     const fs::path file = folder / (newUUIDString() + ".sqlite");
-    {
-        BenchmarkStore store(file);
-        OVNote::noteWithText("# Target", store.context);
-        for (std::size_t number = 0; number < count; ++number)
-            OVNote::noteWithText(tried.text(number), store.context);
-        store.save();
-    }
-    BenchmarkStore store(file);
+    auto opened = std::make_unique<BenchmarkStore>(file, tried.store);
+    fill(*opened, tried, count);
+    // What rests in memory goes with its store, but its records are read again all the same.
+    if (tried.store == StoreType::SQLite)
+        opened = std::make_unique<BenchmarkStore>(file);
+    opened->context.reset();
+    BenchmarkStore& store = *opened;
     Cost cost;
     std::vector<std::string> texts;
     cost.reading = secondsOf([&] {
@@ -91,32 +101,38 @@ void renameTag(NSManagedObjectContext& context)
     OVNoteTag::tagWithName("work", context)->renameTagWithTagNamed("day job");
 }
 
+/// Every note links to the one that gets another title; in its own title, too, where that begins with the link.
+Case newTitle(const char* name, StoreType store, bool isInTitles = false)
+{
+    return {name, store, 1000, 32000,
+        [isInTitles](std::size_t number) {
+            const std::string title = isInTitles ? "" : "# Note " + std::to_string(number) + "\n\n";
+            return title + "See [[Target]].\n" + paragraph(number);
+        },
+        [](NSManagedObjectContext& context) { return OVNote::noteWithTitle("Target", context)->linkedByNotes(); },
+        [](NSManagedObjectContext& context) { OVNote::noteWithTitle("Target", context)->updateNoteWithText("# Goal"); },
+        [](const std::string& text) { return CVKWikiLink::updateWikiLinkWithTitle("Target", "Goal", false, text); }};
+}
+
 std::vector<Case> cases()
 {
     const auto rewriteTag = [](const std::string& text) { return CVKHashtag::renameTagName("work", "day job", text); };
     return {
-        {"rename of a tag", 2000,
+        {"rename of a tag", StoreType::SQLite, 500, 2000,
             [](std::size_t number) {
                 return "# Note " + std::to_string(number) + "\n\n" + paragraph(number) + "\n#work\n";
             },
             notesOfTag, renameTag, rewriteTag},
-        {"rename of a tag with 500 below it", 10000,
+        {"rename of a tag with 500 below it", StoreType::SQLite, 2500, 10000,
             [](std::size_t number) {
                 return "# Note " + std::to_string(number) + "\n\n" + paragraph(number) + "\n#work/project "
                     + std::to_string(number % 500) + "#\n";
             },
             notesOfTag, renameTag, rewriteTag},
-        {"new title of a linked note", 1000,
-            [](std::size_t number) {
-                return "# Note " + std::to_string(number) + "\n\nSee [[Target]].\n" + paragraph(number);
-            },
-            [](NSManagedObjectContext& context) { return OVNote::noteWithTitle("Target", context)->linkedByNotes(); },
-            [](NSManagedObjectContext& context) {
-                OVNote::noteWithTitle("Target", context)->updateNoteWithText("# Goal");
-            },
-            [](const std::string& text) {
-                return CVKWikiLink::updateWikiLinkWithTitle("Target", "Goal", false, text);
-            }},
+        newTitle("new title of a linked note", StoreType::SQLite),
+        newTitle("new title of one, in memory", StoreType::InMemory),
+        newTitle("new title that all titles hold", StoreType::SQLite, true),
+        newTitle("the same, in memory", StoreType::InMemory, true),
     };
 }
 
@@ -135,11 +151,10 @@ int main(int argc, char** argv)
 {
     // Whoever runs all benchmarks hands them options of Google Benchmark, which read as 0.
     const std::size_t given = argc > 1 ? std::strtoul(argv[1], nullptr, 10) : 0;
-    const std::size_t most = given ? given : 10000;
     const BenchmarkFolder folder;
     for (const Case& tried : cases()) {
-        const std::size_t many = std::min(tried.notes, most);
-        const std::size_t few = std::max<std::size_t>(many / 4, 1);
+        const std::size_t many = given ? std::min(tried.many, given) : tried.many;
+        const std::size_t few = std::min(tried.few, std::max<std::size_t>(many / 4, 1));
         const Cost costOfFew = measure(folder.path(), tried, few);
         const Cost costOfMany = measure(folder.path(), tried, many);
         report(tried, few, costOfFew);

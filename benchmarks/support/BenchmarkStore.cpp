@@ -20,12 +20,12 @@ namespace {
 
 } // namespace
 
-BenchmarkStore::BenchmarkStore(const std::filesystem::path& file)
+BenchmarkStore::BenchmarkStore(const std::filesystem::path& file, StoreType type)
     : coordinator(std::make_shared<NSPersistentStoreCoordinator>(OVManagedObjectModel::current())),
       context(NSManagedObjectContext::ConcurrencyType::MainQueue)
 {
     NSError error;
-    if (!coordinator->addPersistentStoreWithType(StoreType::SQLite, file, {}, &error))
+    if (!coordinator->addPersistentStoreWithType(type, file, {}, &error))
         stop(error);
     context.setPersistentStoreCoordinator(coordinator);
 }

@@ -9,9 +9,9 @@
 
 namespace tarn {
 
-/// A store file of the current model, opened with one context on the main queue. What fails ends the program.
+/// A store of the current model, opened with one context on the main queue. What fails ends the program.
 struct BenchmarkStore {
-    explicit BenchmarkStore(const std::filesystem::path& file);
+    explicit BenchmarkStore(const std::filesystem::path& file, StoreType type = StoreType::SQLite);
     void save();
     void exclusively(const std::function<void()>& block);
 
