@@ -262,10 +262,11 @@ void SQLiteStore::beginWriting()
         throw StoreFailure(
             StoreErrorBusy, pool_->turn().isMine() ? "This thread has a transaction already." : "The store is in use.");
     try {
-        reservedInTransaction_.clear();
         pool_->writer().execute("BEGIN IMMEDIATE");
+        pool_->writer().execute("SAVEPOINT \"all\"");
         // Another process may have swapped the file while this one waited for the lock.
         pool_->checkFileIsTheSame();
+        raiseNextKeys(pool_->writer());
         followDerivedValues(pool_->writer());
     } catch (...) {
         pool_->writer().rollBack();
@@ -279,6 +280,8 @@ void SQLiteStore::endWriting(WritingEnd end) noexcept
     // What followed the derived values was taken back with the rest.
     if (end == WritingEnd::RolledBack)
         writerVersion_ = -1;
+    else
+        reservedKeys_.clear();
     pool_->turn().giveBack();
 }
 
@@ -348,31 +351,43 @@ bool SQLiteStore::reserveKeys(const NSEntityDescription& root, std::size_t count
         const bool joinsTransaction = pool_->turn().isMine();
         write([&](SQLiteConnection& connection) { first = takeKeys(connection, top, count); });
         if (joinsTransaction)
-            reservedInTransaction_[&top] = first + static_cast<std::int64_t>(count);
+            reservedKeys_[&top] = first + static_cast<std::int64_t>(count);
     });
 }
 
-/// Keys that a transaction reserved are out in the world, in identifiers of records, also when it fails.
-void SQLiteStore::keepReservedKeys() noexcept
+/// No key below those that were reserved is given out from here on.
+void SQLiteStore::raiseNextKeys(SQLiteConnection& connection)
 {
-    if (reservedInTransaction_.empty())
-        return;
+    for (const auto& [root, next] : reservedKeys_) {
+        SQLiteStatement statement
+            = connection.prepare("INSERT INTO \"store_keys\" (\"entity\", \"nextKey\") VALUES (?1, ?2) "
+                                 "ON CONFLICT (\"entity\") DO UPDATE SET \"nextKey\" = max(\"nextKey\", ?2)");
+        statement.bindText(1, root->name());
+        statement.bindInteger(2, next);
+        statement.run();
+    }
+}
+
+/// Takes back all that the transaction wrote but the keys that it reserved: these are out in the world, in identifiers
+/// of records. The lock is held until they are safe, or another process could take them in between. Where they cannot
+/// be written, the next transaction tries again.
+void SQLiteStore::rollBack() noexcept
+{
     SQLiteConnection& connection = pool_->writer();
-    const bool kept = reportingFailure(nullptr, [&] {
-        connection.execute("BEGIN IMMEDIATE");
-        for (const auto& [root, next] : reservedInTransaction_) {
-            SQLiteStatement statement
-                = connection.prepare("INSERT INTO \"store_keys\" (\"entity\", \"nextKey\") VALUES (?1, ?2) "
-                                     "ON CONFLICT (\"entity\") DO UPDATE SET \"nextKey\" = max(\"nextKey\", ?2)");
-            statement.bindText(1, root->name());
-            statement.bindInteger(2, next);
-            statement.run();
-        }
-        connection.execute("COMMIT");
-    });
-    if (!kept)
+    const auto keepKeys = [&](const std::string& begin) {
+        return reportingFailure(nullptr, [&] {
+            connection.execute(begin);
+            raiseNextKeys(connection);
+            connection.execute("COMMIT");
+            reservedKeys_.clear();
+        });
+    };
+    if (!reservedKeys_.empty() && connection.isInTransaction() && keepKeys("ROLLBACK TO \"all\""))
+        return;
+    connection.rollBack();
+    // After some failures SQLite has given up the lock by itself.
+    if (!reservedKeys_.empty() && !keepKeys("BEGIN IMMEDIATE"))
         connection.rollBack();
-    reservedInTransaction_.clear();
 }
 
 // Upkeep --------------------------------------------------------------------------------------------------------------

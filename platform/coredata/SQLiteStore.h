@@ -71,7 +71,8 @@ private:
     /// Runs `work` in the transaction of this thread, or in a short one of its own.
     void write(const std::function<void(SQLiteConnection&)>& work);
     std::int64_t takeKeys(SQLiteConnection& connection, const NSEntityDescription& root, std::size_t count);
-    void keepReservedKeys() noexcept;
+    void raiseNextKeys(SQLiteConnection& connection);
+    void rollBack() noexcept;
 
     std::shared_ptr<const NSManagedObjectModel> model_;
     std::filesystem::path file_;
@@ -88,8 +89,9 @@ private:
     DerivedValues derivedValues_ = DerivedValues::Written;
     std::int64_t writerVersion_ = -1; ///< the writing connection's data version when it last looked at the folding's
     std::atomic<std::uint64_t> dataVersion_ = 0;
-    /// Next free key by root entity, as far as the open transaction has reserved any. Belongs to the turn's holder.
-    std::unordered_map<const NSEntityDescription*, std::int64_t> reservedInTransaction_;
+    /// Next free key by root entity, as far as a transaction reserved any that did not reach the file. Belongs to the
+    /// turn's holder.
+    std::unordered_map<const NSEntityDescription*, std::int64_t> reservedKeys_;
 };
 
 } // namespace tarn

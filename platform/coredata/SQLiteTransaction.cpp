@@ -17,15 +17,13 @@ SQLiteTransaction::~SQLiteTransaction()
 {
     if (finished_)
         return;
-    connection_.rollBack();
+    store_.rollBack();
     finish(WritingEnd::RolledBack);
 }
 
 void SQLiteTransaction::finish(WritingEnd end) noexcept
 {
     finished_ = true;
-    if (end == WritingEnd::RolledBack)
-        store_.keepReservedKeys();
     store_.endWriting(end);
 }
 
@@ -92,7 +90,7 @@ bool SQLiteTransaction::commit(NSError* error)
         connection_.execute("COMMIT"); // waits for readers by the busy handler
     });
     if (!committed) {
-        connection_.rollBack();
+        store_.rollBack();
         committed = wasCommittedAllTheSame(failure);
     }
     if (!committed)
