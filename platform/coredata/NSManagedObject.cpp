@@ -234,19 +234,12 @@ void NSManagedObject::putInteger(PropertyIndex index, bool tell, std::optional<s
 
 void NSManagedObject::putBytes(PropertyIndex index, bool tell, std::optional<std::string_view> value)
 {
-    constexpr std::size_t longest = std::size_t{512} << 20;
-    if (value && value->size() > longest)
-        throw NSException(NSInvalidArgumentException,
-            "A value of \"" + entity().property(index).name() + "\" may have at most 512 MiB");
     write(index, tell, [&](PropertyValues& values) {
-        const bool isSame
-            = values.isLoaded(index) && values.isNil(index) == !value && (!value || values.bytes(index) == *value);
-        if (isSame)
-            return false;
         if (value)
-            values.setBytes(index, *value);
-        else
-            values.setNil(index);
+            return values.putBytes(index, *value);
+        if (values.isLoaded(index) && values.isNil(index))
+            return false;
+        values.setNil(index);
         return true;
     });
 }
@@ -258,8 +251,7 @@ std::optional<std::int64_t> fitted(
 {
     const auto& attribute = static_cast<const NSAttributeDescription&>(entity.property(index));
     if (value && attribute.type() == NSAttributeType::Integer16)
-        return std::clamp<std::int64_t>(
-            *value, std::numeric_limits<std::int16_t>::min(), std::numeric_limits<std::int16_t>::max());
+        return PropertyValues::fittedTo16Bits(*value);
     return value;
 }
 

@@ -1,6 +1,7 @@
 #include "platform/coredata/PropertyValues.h"
 
 #include "platform/foundation/NSException.h"
+#include "platform/foundation/UTF.h"
 
 #include <algorithm>
 #include <cassert>
@@ -156,6 +157,24 @@ void PropertyValues::setBytes(PropertyIndex index, std::string_view bytes, const
     return isSame ? assign(index, *model) : setBytes(index, bytes);
 }
 
+bool PropertyValues::putBytes(PropertyIndex index, std::string_view bytes)
+{
+    constexpr std::size_t kLongest = std::size_t{512} << 20U;
+    const auto& attribute = static_cast<const NSAttributeDescription&>(entity_->property(index));
+    std::string replaced;
+    if (bytes.size() <= kLongest && attribute.type() == NSAttributeType::String && !isValidUTF8(bytes)) {
+        replaced = validUTF8(bytes);
+        bytes = replaced;
+    }
+    if (bytes.size() > kLongest)
+        throw NSException(
+            NSInvalidArgumentException, "A value of \"" + attribute.name() + "\" may have at most 512 MiB");
+    if (isLoaded(index) && !isNil(index) && this->bytes(index) == bytes)
+        return false;
+    setBytes(index, bytes);
+    return true;
+}
+
 void PropertyValues::assign(PropertyIndex index, const PropertyValues& other)
 {
     if (&other == this)
@@ -268,6 +287,12 @@ bool isAccepted(NSAttributeType type, const Value& value) noexcept
 
 } // namespace
 
+std::int64_t PropertyValues::fittedTo16Bits(std::int64_t value) noexcept
+{
+    return std::clamp<std::int64_t>(
+        value, std::numeric_limits<std::int16_t>::min(), std::numeric_limits<std::int16_t>::max());
+}
+
 void PropertyValues::setAttributeValue(PropertyIndex index, const Value& value)
 {
     const auto& attribute = static_cast<const NSAttributeDescription&>(entity_->property(index));
@@ -281,7 +306,7 @@ void PropertyValues::setAttributeValue(PropertyIndex index, const Value& value)
     case NSAttributeType::Boolean:
         return setInteger(index, isTruthful(value) ? 1 : 0);
     case NSAttributeType::Integer16:
-        return setInteger(index, static_cast<std::int16_t>(integerOfNumber(value)));
+        return setInteger(index, fittedTo16Bits(integerOfNumber(value)));
     case NSAttributeType::Integer64:
         return setInteger(index, integerOfNumber(value));
     case NSAttributeType::Double:
@@ -289,9 +314,11 @@ void PropertyValues::setAttributeValue(PropertyIndex index, const Value& value)
     case NSAttributeType::Date:
         return setInteger(index, microsecondsSince1970(value.asDate()));
     case NSAttributeType::String:
-        return setBytes(index, value.asString());
+        putBytes(index, value.asString());
+        return;
     case NSAttributeType::Data:
-        return setBytes(index, value.asData().text());
+        putBytes(index, value.asData().text());
+        return;
     }
 }
 

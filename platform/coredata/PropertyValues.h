@@ -62,6 +62,9 @@ public:
     void setBytes(PropertyIndex index, std::string_view bytes);
     /// The same, sharing the bytes of `model` where those are equal: rows in a row often hold the same.
     void setBytes(PropertyIndex index, std::string_view bytes, const PropertyValues* model);
+    /// Bytes that somebody gives, as the attribute holds them: what is no UTF-8 in a text becomes U+FFFD. False when it
+    /// held just these. Raises `NSInvalidArgumentException` for more than 512 MiB.
+    bool putBytes(PropertyIndex index, std::string_view bytes);
     /// Valid until the property is set again.
     std::string_view bytes(PropertyIndex index) const noexcept { return slot(index).bytes->view(); }
 
@@ -71,12 +74,15 @@ public:
 
     /// An attribute as a boxed value. Not for relationships.
     Value attributeValue(PropertyIndex index) const;
-    /// Sets an attribute from a boxed value: numbers are cut to the attribute's width, nil clears. Raises
-    /// `NSInvalidArgumentException` for a value of another kind.
+    /// Sets an attribute from a boxed value: what does not fit its width becomes the nearest number that does, bytes go
+    /// the way of `putBytes`, nil clears. Raises `NSInvalidArgumentException` for a value of another kind.
     void setAttributeValue(PropertyIndex index, const Value& value);
 
     /// Bytes of heap that this value takes, shared ones counted whole.
     std::size_t heapSize() const noexcept;
+
+    /// The number that an attribute of 16 bits holds for this one: the nearest.
+    static std::int64_t fittedTo16Bits(std::int64_t value) noexcept;
 
 private:
     union Slot {

@@ -82,10 +82,12 @@ TEST_F(PropertyValuesOfADocument, EqualByContent)
     EXPECT_FALSE(values.equals(title, other));
 }
 
-TEST_F(PropertyValuesOfADocument, CutNumbersToTheWidthOfTheAttribute)
+TEST_F(PropertyValuesOfADocument, TakeTheNearestNumberThatFitsTheAttribute)
 {
     values.setAttributeValue(order, 65'537);
-    EXPECT_EQ(values.attributeValue(order), Value(1));
+    EXPECT_EQ(values.attributeValue(order), Value(32'767));
+    values.setAttributeValue(order, -1e300);
+    EXPECT_EQ(values.attributeValue(order), Value(-32'768));
     values.setAttributeValue(size, 1e300);
     EXPECT_EQ(values.attributeValue(size), Value(std::numeric_limits<std::int64_t>::max()));
     values.setAttributeValue(size, -2.9);
