@@ -22,13 +22,13 @@ namespace {
 
 struct RecordClass {
     std::string_view entity;
-    std::string_view versionHash; ///< of the model that its accessors were made from
+    std::string_view accessorHash; ///< of the model that its accessors were made from
     RecordConstructor constructor;
 };
 
 template <typename Record> constexpr RecordClass recordClass()
 {
-    return {Record::entityName(), Record::generatedVersionHash(),
+    return {Record::entityName(), Record::generatedAccessorHash(),
         [](const NSManagedObjectSeed& seed) -> std::unique_ptr<NSManagedObject> {
             return std::make_unique<Record>(seed);
         }};
@@ -63,7 +63,7 @@ std::optional<std::string> entityOfOtherVersion(const NSManagedObjectModel& mode
 {
     for (const RecordClass& recordClass : kRecordClasses) {
         const NSEntityDescription* entity = model.entityNamed(recordClass.entity);
-        if (!entity || entity->versionHash() != recordClass.versionHash)
+        if (!entity || entity->accessorHash() != recordClass.accessorHash)
             return std::string(recordClass.entity);
     }
     return std::nullopt;

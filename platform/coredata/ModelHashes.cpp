@@ -31,13 +31,19 @@ std::string canonicalText(const NSRelationshipDescription& relationship)
         relationship.ownsJoinTable());
 }
 
-/// What decides how rows look. Documentation, delete rules, defaults and index hints do not; nor does the order of
-/// properties, since rows are read by column name. The numbers of types and storages are written: they are pinned.
-std::string canonicalText(const NSEntityDescription& entity)
+std::vector<const NSPropertyDescription*> propertiesByName(const NSEntityDescription& entity)
 {
     std::vector<const NSPropertyDescription*> properties = entity.properties();
     std::sort(properties.begin(), properties.end(),
         [](const auto* left, const auto* right) { return left->name() < right->name(); });
+    return properties;
+}
+
+/// What decides how rows look. Documentation, delete rules, defaults and index hints do not; nor does the order of
+/// properties, since rows are read by column name. The numbers of types and storages are written: they are pinned.
+std::string canonicalText(
+    const NSEntityDescription& entity, const std::vector<const NSPropertyDescription*>& properties)
+{
     const NSEntityDescription* parent = entity.superentity();
     std::string text = fmt::format(
         "entity {} parent {} abstract {}\n", entity.name(), parent ? parent->name() : "", entity.isAbstract());
@@ -54,8 +60,11 @@ std::string canonicalText(const NSEntityDescription& entity)
 
 void ModelReader::setVersionHashes()
 {
-    for (const auto& owned : model_->ownedEntities_)
-        owned->versionHash_ = fmt::format("{:016x}", fnv1a(canonicalText(*owned)));
+    const auto hash = [](const std::string& text) { return fmt::format("{:016x}", fnv1a(text)); };
+    for (const auto& owned : model_->ownedEntities_) {
+        owned->versionHash_ = hash(canonicalText(*owned, propertiesByName(*owned)));
+        owned->accessorHash_ = hash(canonicalText(*owned, owned->properties()));
+    }
 }
 
 } // namespace tarn

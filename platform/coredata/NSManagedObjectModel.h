@@ -171,6 +171,8 @@ public:
 
     /// Equal for two versions of a model exactly when rows of one can be read as rows of the other; 16 hex digits.
     const std::string& versionHash() const noexcept { return versionHash_; }
+    /// Equal only when the properties have the same places too, which generated accessors go by; 16 hex digits.
+    const std::string& accessorHash() const noexcept { return accessorHash_; }
 
     RecordConstructor recordConstructor() const noexcept { return constructor_; }
 
@@ -196,6 +198,7 @@ private:
     std::array<std::uint8_t, maximumPropertyCount> slots_{};
     std::uint8_t slotCount_ = 0;
     std::string versionHash_;
+    std::string accessorHash_;
     RecordConstructor constructor_ = nullptr;
 };
 

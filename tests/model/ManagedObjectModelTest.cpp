@@ -10,6 +10,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 
 namespace tarn {
 namespace {
@@ -113,6 +114,35 @@ TEST_F(ManagedObjectModel, IsRefusedWhenItIsNotTheOneTheClassesWereMadeFor)
     EXPECT_EQ(error.domain(), TarnStoreErrorDomain);
     EXPECT_THAT(
         error.localizedDescription(), HasSubstr("Model 2.json: \"OVNote\" is not what this library was built for"));
+}
+
+TEST_F(ManagedObjectModel, IsRefusedWhenItsPropertiesHaveOtherPlaces)
+{
+    std::ifstream stream(*OVManagedObjectModel::modelURLForVersion("Model 3"), std::ios::binary);
+    std::string text{std::istreambuf_iterator<char>(stream), {}};
+    const auto place = [&](std::string_view name) {
+        const std::size_t begin = text.find("{\"name\": \"" + std::string(name) + "\"");
+        return std::pair(begin, text.find('\n', begin) - begin);
+    };
+    const auto [title, titleLength] = place("title");
+    const auto [subtitle, subtitleLength] = place("subtitle");
+    ASSERT_LT(title, subtitle);
+    const std::string titleLine = text.substr(title, titleLength);
+    const std::string subtitleLine = text.substr(subtitle, subtitleLength);
+    text.replace(subtitle, subtitleLength, titleLine);
+    text.replace(title, titleLength, subtitleLine);
+    write("Model 3.json", text);
+    write("VersionInfo.json", R"({"current": "Model 3"})");
+
+    NSError error;
+    const auto reordered = NSManagedObjectModel::modelWithContentsOfFile(folder_ / "Model.momd/Model 3.json", &error);
+    ASSERT_TRUE(reordered) << error;
+    EXPECT_EQ(reordered->entityNamed("OVNote")->versionHash(),
+        OVManagedObjectModel::current()->entityNamed("OVNote")->versionHash())
+        << "its rows are the same";
+    useFolder();
+    EXPECT_FALSE(OVManagedObjectModel::current(&error)) << "setTitle would write the subtitle";
+    EXPECT_THAT(error.localizedDescription(), HasSubstr("\"OVNote\" is not what this library was built for"));
 }
 
 TEST_F(ManagedObjectModel, MissesItsFilesWithAWord)

@@ -44,7 +44,7 @@ public:
     /// The keys of which an observer of `key` hears too: "x" for "xValue".
     static std::set<std::string> keyPathsForValuesAffectingValueForKey(std::string_view key);
     /// Of the model that these accessors were made from.
-    static constexpr std::string_view generatedVersionHash() noexcept {{ return "{hash}"; }}
+    static constexpr std::string_view generatedAccessorHash() noexcept {{ return "{hash}"; }}
 
     {entity}ID objectID() const {{ return {entity}ID(identifyingObjectID()); }}
 
@@ -147,7 +147,7 @@ GeneratedFile baseClassHeader(const NSEntityDescription& entity)
         fmt::format(kHeader, fmt::arg("entity", entity.name()), fmt::arg("base", baseClassName(entity)),
             fmt::arg("baseInclude", baseInclude), fmt::arg("documentation", entity.documentation()),
             fmt::arg("forwardDeclarations", forwardDeclarations(entity)), fmt::arg("indexBase", indexBase),
-            fmt::arg("indexes", indexes(entity)), fmt::arg("hash", entity.versionHash()),
+            fmt::arg("indexes", indexes(entity)), fmt::arg("hash", entity.accessorHash()),
             fmt::arg("keyValueCoding", ownAttributes(entity).empty() ? "" : kKeyValueCoding),
             fmt::arg("accessors", accessors(entity)))};
 }
