@@ -10,6 +10,8 @@
 #include "platform/predicate/PredicateEvaluator.h"
 
 #include <algorithm>
+#include <functional>
+#include <unordered_map>
 
 namespace tarn {
 
@@ -24,6 +26,41 @@ template <typename Result, typename Work> std::optional<Result> guarded(NSError*
         assignError(error, NSError(TarnStoreErrorDomain, StoreErrorGeneric, exception.reason()));
         return std::nullopt;
     }
+}
+
+std::size_t hashOf(const Value& value)
+{
+    switch (value.kind()) {
+    case Value::Kind::Bool:
+        return value.asBool() ? 1 : 0;
+    case Value::Kind::Integer:
+        return std::hash<std::int64_t>()(value.asInteger());
+    case Value::Kind::Double:
+        return std::hash<double>()(value.asDouble());
+    case Value::Kind::Date:
+        return std::hash<std::int64_t>()(microsecondsSince1970(value.asDate()));
+    case Value::Kind::String:
+        return std::hash<std::string>()(value.asString());
+    default:
+        return 0;
+    }
+}
+
+std::size_t hashOf(const DictionaryResult& result)
+{
+    std::size_t hash = 0;
+    for (const auto& [name, value] : result)
+        hash = hash * 31 + hashOf(value);
+    return hash;
+}
+
+/// Leaves `limit` from `offset` on; a limit of 0 leaves all from there.
+template <typename T> void cut(std::vector<T>& values, std::size_t offset, std::size_t limit)
+{
+    const std::size_t begin = std::min(offset, values.size());
+    const std::size_t end = limit ? std::min(cappedSum(begin, limit), values.size()) : values.size();
+    values.erase(values.begin() + static_cast<std::ptrdiff_t>(end), values.end());
+    values.erase(values.begin(), values.begin() + static_cast<std::ptrdiff_t>(begin));
 }
 
 } // namespace
@@ -161,10 +198,8 @@ std::vector<NSManagedObject*> PendingFetch::merged(
                 return order.comesBefore(*left, *right);
             });
     }
-    const std::size_t begin = std::min(request_.fetchOffset, all.size());
-    const std::size_t end
-        = request_.fetchLimit ? std::min(cappedSum(begin, request_.fetchLimit), all.size()) : all.size();
-    return {all.begin() + static_cast<std::ptrdiff_t>(begin), all.begin() + static_cast<std::ptrdiff_t>(end)};
+    cut(all, request_.fetchOffset, request_.fetchLimit);
+    return all;
 }
 
 std::optional<std::vector<NSManagedObject*>> PendingFetch::mergedObjects(RowContents contents, NSError* error)
@@ -224,11 +259,16 @@ std::optional<std::vector<DictionaryResult>> PendingFetch::dictionaries(NSError*
     if (names.empty())
         for (const NSAttributeDescription* attribute : request_.entity->attributes())
             names.push_back(attribute->name());
-    const auto found = objects(error);
+    // Offset and limit count distinct results, which only their values tell.
+    NSFetchRequest request = request_;
+    if (request.returnsDistinctResults)
+        request.fetchLimit = request.fetchOffset = 0;
+    const auto found = PendingFetch(core_, request).objects(error);
     if (!found)
         return std::nullopt;
     return guarded<std::vector<DictionaryResult>>(error, [&]() -> std::optional<std::vector<DictionaryResult>> {
         std::vector<DictionaryResult> results;
+        std::unordered_multimap<std::size_t, std::size_t> places;
         for (const NSManagedObject* record : *found) {
             DictionaryResult result;
             for (const std::string& name : names) {
@@ -237,11 +277,17 @@ std::optional<std::vector<DictionaryResult>> PendingFetch::dictionaries(NSError*
                     value = Value(static_cast<const NSManagedObject&>(value.asObject()).objectID().URIRepresentation());
                 result.emplace(name, std::move(value));
             }
-            const bool isRepeated
-                = request_.returnsDistinctResults && std::find(results.begin(), results.end(), result) != results.end();
-            if (!isRepeated)
-                results.push_back(std::move(result));
+            if (request_.returnsDistinctResults) {
+                const std::size_t hash = hashOf(result);
+                const auto [begin, end] = places.equal_range(hash);
+                if (std::any_of(begin, end, [&](const auto& place) { return results[place.second] == result; }))
+                    continue;
+                places.emplace(hash, results.size());
+            }
+            results.push_back(std::move(result));
         }
+        if (request_.returnsDistinctResults)
+            cut(results, request_.fetchOffset, request_.fetchLimit);
         return results;
     });
 }

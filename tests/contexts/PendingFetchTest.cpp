@@ -222,6 +222,36 @@ TEST_P(FetchWithPendingChanges, GivesDictionaries)
     EXPECT_EQ(context_->executeDictionaryFetchRequest(wanted)->size(), 1U);
 }
 
+TEST_P(FetchWithPendingChanges, MakesResultsDistinctBeforeTheLimit)
+{
+    for (const int pages : {1, 1, 2, 2, 3})
+        book("stored", pages);
+    NSFetchRequest wanted = request("Book");
+    wanted.propertiesToFetch = {"pages"};
+    wanted.returnsDistinctResults = true;
+    wanted.sortDescriptors = {{"pages", true}};
+    const auto pages = [&] {
+        std::vector<std::int64_t> found;
+        const auto rows = context_->executeDictionaryFetchRequest(wanted);
+        for (const DictionaryResult& row : *rows)
+            found.push_back(row.at("pages").asInteger());
+        return found;
+    };
+    for (const bool saved : {false, true}) {
+        if (saved)
+            save();
+        wanted.fetchLimit = 2;
+        wanted.fetchOffset = 0;
+        EXPECT_THAT(pages(), ElementsAre(1, 2));
+        wanted.fetchOffset = 1;
+        EXPECT_THAT(pages(), ElementsAre(2, 3));
+        wanted.fetchLimit = 0;
+        EXPECT_THAT(pages(), ElementsAre(2, 3));
+        wanted.fetchOffset = 4;
+        EXPECT_THAT(pages(), testing::IsEmpty());
+    }
+}
+
 TEST_P(FetchWithPendingChanges, OfAnUnknownKeyFailsWithAnError)
 {
     book("One");
