@@ -31,9 +31,9 @@ ReadAccess::~ReadAccess()
 
 // Pool ----------------------------------------------------------------------------------------------------------------
 
-ConnectionPool::ConnectionPool(std::filesystem::path file, const SQLiteConnectionOptions& options)
-    : file_(std::move(file)), options_(options), writer_(std::make_unique<SQLiteConnection>(file_, options)),
-      identity_(identityOfFile())
+ConnectionPool::ConnectionPool(const std::filesystem::path& file, const SQLiteConnectionOptions& options)
+    : file_(file.empty() ? file : std::filesystem::absolute(file)), options_(options),
+      writer_(std::make_unique<SQLiteConnection>(file_, options)), identity_(identityOfFile())
 { }
 
 std::optional<ConnectionPool::FileIdentity> ConnectionPool::identityOfFile() const

@@ -37,7 +37,7 @@ private:
 /// plain file calls while the pool lives.
 class ConnectionPool {
 public:
-    ConnectionPool(std::filesystem::path file, const SQLiteConnectionOptions& options);
+    ConnectionPool(const std::filesystem::path& file, const SQLiteConnectionOptions& options);
 
     /// For the holder of the turn.
     SQLiteConnection& writer() noexcept { return *writer_; }

@@ -191,7 +191,10 @@ SQLiteConnection::SQLiteConnection(const std::filesystem::path& file, const SQLi
     prepareLibrary();
     const int flags = SQLITE_OPEN_READWRITE | (options.create ? SQLITE_OPEN_CREATE : 0) | SQLITE_OPEN_NOMUTEX
         | SQLITE_OPEN_EXRESCODE;
-    const int result = sqlite3_open_v2(file.c_str(), &handle_, flags, nullptr);
+    if (file.empty())
+        throw StoreFailure(StoreErrorCannotOpen, "A store needs the name of a file.");
+    // SQLite would take ":memory:" for a store in memory and "file:" for the beginning of a URI, but no absolute path.
+    const int result = sqlite3_open_v2(std::filesystem::absolute(file).c_str(), &handle_, flags, nullptr);
     try {
         if (result != SQLITE_OK)
             fail(result, "open");

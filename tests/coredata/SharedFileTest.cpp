@@ -1,5 +1,6 @@
 // One store file under several hands at once: threads, processes, programs that replace it.
 
+#include "platform/coredata/ConnectionPool.h"
 #include "tests/coredata/OtherProgram.h"
 #include "tests/coredata/StoreFixture.h"
 
@@ -10,6 +11,8 @@
 #include <future>
 #include <gmock/gmock.h>
 #include <iterator>
+#include <optional>
+#include <set>
 #include <sqlite3.h>
 #include <thread>
 #include <utility>
@@ -146,7 +149,40 @@ TEST_F(SharedFile, ServesMoreThreadsThanItHasConnections)
         reader.join();
     EXPECT_EQ(answers, threads * 30);
     EXPECT_LE(most, 5U) << "one connection that writes, four that read";
-    EXPECT_GE(most, 3U) << "readers wait for each other";
+}
+
+TEST_F(SharedFile, LetsReadersWaitForAConnectionUntilOneIsGivenBack)
+{
+    open();
+    ConnectionPool pool(folder.file(), {});
+    std::vector<ReadAccess> held;
+    std::set<const SQLiteConnection*> different{&pool.writer()};
+    for (int number = 0; number < 4; ++number) {
+        held.push_back(pool.read());
+        different.insert(&held.back().connection());
+    }
+    EXPECT_EQ(different.size(), 5U);
+    EXPECT_FALSE(pool.readAtOnce());
+    std::atomic<int> served = 0;
+    std::vector<std::future<void>> readers;
+    for (int thread = 0; thread < 12; ++thread) {
+        readers.push_back(std::async(std::launch::async, [&] {
+            const ReadAccess access = pool.read();
+            access.connection().integerOf("SELECT count(*) FROM \"store_keys\"");
+            ++served;
+        }));
+    }
+    std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    EXPECT_EQ(served, 0) << "a connection in two hands";
+    while (!held.empty()) {
+        held.pop_back();
+        // One connection serves all of them, one after the other.
+        for (auto& reader : readers)
+            ASSERT_EQ(reader.wait_for(std::chrono::seconds(60)), std::future_status::ready);
+        EXPECT_EQ(served, 12);
+    }
+    EXPECT_TRUE(pool.readAtOnce());
+    EXPECT_EQ(openings(fs::canonical(folder.file())), 5U);
 }
 
 // Deleted text --------------------------------------------------------------------------------------------------------
@@ -182,6 +218,48 @@ TEST_F(SharedFile, HoldsNothingOfWhatWasDeleted)
     EXPECT_THAT(kept, HasSubstr("stays"));
     EXPECT_THAT(kept, Not(HasSubstr("buried treasure")));
     EXPECT_THAT(kept, Not(HasSubstr("silver spoon")));
+}
+
+// Names ---------------------------------------------------------------------------------------------------------------
+
+/// Another working folder, until its end.
+class WorkingFolder {
+public:
+    explicit WorkingFolder(const fs::path& folder) : former_(fs::current_path()) { fs::current_path(folder); }
+    ~WorkingFolder() { fs::current_path(former_); }
+    WorkingFolder(const WorkingFolder&) = delete;
+    WorkingFolder& operator=(const WorkingFolder&) = delete;
+
+private:
+    fs::path former_;
+};
+
+TEST_F(SharedFile, MayHaveAnyNameOfAFile)
+{
+    const WorkingFolder here(folder.path());
+    for (const char* name : {":memory:", "file:notes", "file:notes?mode=memory", "a#b?c%20d", "-x", "notes"}) {
+        {
+            const OpenStore store(StoreType::SQLite, name);
+            ASSERT_TRUE(store) << name << ": " << store.error();
+            store.insert("Person", {{"name", "Ada"}});
+            EXPECT_EQ(store.keysWhere("Person", "TRUEPREDICATE").size(), 1U) << name;
+        }
+        EXPECT_TRUE(fs::is_regular_file(folder.path() / name)) << name;
+        const OpenStore again(StoreType::SQLite, folder.path() / name);
+        EXPECT_EQ(again.keysWhere("Person", "name == 'Ada'").size(), 1U) << name;
+    }
+    const OpenStore nameless(StoreType::SQLite, "");
+    EXPECT_FALSE(nameless);
+    EXPECT_EQ(nameless.error().code(), StoreErrorCannotOpen);
+}
+
+TEST_F(SharedFile, StaysTheSameWhenTheProgramGoesToAnotherFolder)
+{
+    std::optional<WorkingFolder> here(folder.path());
+    const OpenStore store(StoreType::SQLite, "relative.sqlite");
+    here.reset();
+    store.insert("Person", {{"name", "Ada"}});
+    EXPECT_EQ(store.keysWhere("Person", "TRUEPREDICATE").size(), 1U);
 }
 
 // Another file in its place -------------------------------------------------------------------------------------------
