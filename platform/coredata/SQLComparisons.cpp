@@ -207,12 +207,13 @@ Condition SQLConditionBuilder::equality(
 }
 
 /// Half of the rows have a flag, or nearly all: an index that begins with it would collect and sort them. The plus
-/// keeps SQLite from that.
+/// keeps SQLite from that. Where an attribute that settles ties is given, SQLite leaves it out of the order and no
+/// longer knows the index by it.
 std::string SQLConditionBuilder::flagPrefix(
     const Operand& left, std::string_view operation, const SQLBinding& wanted) const
 {
     if (left.flagSelect.empty())
-        return {};
+        return left.settlesTies ? "+" : "";
     return options_.isCommonFlag({left.flagSelect + std::string(operation) + "?1", {wanted}}) ? "+" : "";
 }
 

@@ -201,6 +201,8 @@ SQLConditionBuilder::Operand SQLConditionBuilder::operandAt(SQLPathEnd& end)
     }
     operand.indexed = end.attribute->isIndexed();
     operand.flagSelect = flagSelect(end);
+    operand.settlesTies = options_.walksOrder && end.place.path.empty() && end.place.scope->outer == nullptr
+        && std::ranges::find(options_.tieKeys, end.attribute->name()) != options_.tieKeys.end();
     if (options_.rowsThatMayMatch && hasSignature(*end.attribute)) {
         operand.searched = end.attribute;
         operand.key = end.place.key;

@@ -28,6 +28,8 @@ struct SQLConditionOptions {
     bool walksOrder = false;
     /// The attribute that the order begins with: its own index gives the rows in that order.
     std::string firstSortKey;
+    /// Attributes by which only its ties go.
+    std::vector<std::string> tieKeys;
 };
 
 /// Turns predicates into SQL conditions that pick exactly the same rows as the evaluator, or says that it cannot.
@@ -65,6 +67,7 @@ private:
         bool indexed = false;
         const NSAttributeDescription* searched = nullptr; ///< an attribute with signatures
         std::string key;                                  ///< its row's primary key
+        bool settlesTies = false;                         ///< of the order that is walked
         std::string flagSelect; ///< of a flag that leads an index of the walked table: "SELECT 1 FROM ... WHERE <flag>"
     };
     /// Members of a collection, for `member IN (...)` or EXISTS.

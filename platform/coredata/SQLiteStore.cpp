@@ -1,6 +1,7 @@
 #include "platform/coredata/SQLiteStore.h"
 
 #include "platform/coredata/CandidateWalk.h"
+#include "platform/coredata/CompleteOrder.h"
 #include "platform/coredata/ParallelScan.h"
 #include "platform/coredata/SQLiteFetch.h"
 #include "platform/coredata/SQLiteStoreFile.h"
@@ -129,8 +130,12 @@ SQLConditionOptions SQLiteStore::conditionOptions(const StoreFetch& fetch, SQLit
     options.isCommonFlag
         = [this, &connection](const SQLText& select) { return commonFlags_.contains(connection, select); };
     options.walksOrder = fetch.limit > 0 && !fetch.sortDescriptors.empty();
-    if (options.walksOrder)
-        options.firstSortKey = fetch.sortDescriptors.front().key;
+    if (!options.walksOrder)
+        return options;
+    options.firstSortKey = fetch.sortDescriptors.front().key;
+    const CompleteOrder order = completeOrder(fetch.sortDescriptors, *fetch.entity);
+    for (std::size_t i = fetch.sortDescriptors.size(); i < order.descriptors.size(); ++i)
+        options.tieKeys.push_back(order.descriptors[i].key);
     return options;
 }
 

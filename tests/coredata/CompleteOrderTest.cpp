@@ -58,12 +58,14 @@ protected:
         }
     }
 
-    std::string explained(const Order& order, std::size_t limit) const
+    std::string explained(
+        const Order& order, std::size_t limit, const std::optional<NSPredicate>& predicate = std::nullopt) const
     {
         StoreFetch fetch;
         fetch.entity = &sql_.entity("Document");
         fetch.sortDescriptors = order;
         fetch.limit = limit;
+        fetch.predicate = predicate ? &*predicate : nullptr;
         return sql_->explain(fetch);
     }
 
@@ -77,6 +79,14 @@ TEST_F(OrderOfEqualRows, IsReadFromTheIndexForwardsAndBackwards)
     for (const Order& order : {Order{{"flag", false}, {"modified", false}}, Order{{"flag", true}, {"modified", true}},
              Order{{"flag", false}}, Order{{"flag", true}}, Order{{"code", true}}, Order{{"code", false}}}) {
         const std::string text = explained(order, 50);
+        EXPECT_EQ(text.find("TEMP B-TREE"), std::string::npos) << text;
+    }
+}
+
+TEST_F(OrderOfEqualRows, IsReadFromTheIndexWhereWhatSettlesTiesIsGiven)
+{
+    for (const Order& order : {Order{{"flag", false}, {"modified", false}}, Order{{"flag", true}}}) {
+        const std::string text = explained(order, 50, NSPredicate::predicateWithFormat("order == 1"));
         EXPECT_EQ(text.find("TEMP B-TREE"), std::string::npos) << text;
     }
 }
