@@ -286,14 +286,21 @@ void ContextCore::processPendingChanges()
         bool& flag;
     };
     const ObjectChanges changes = tracker.takeEvent();
+    // A record that came and went in one pass was never there.
+    if (changes.inserted.empty() && changes.updated.empty() && changes.deleted.empty() && changes.refreshed.empty())
+        return;
     const auto endEvent = [this](const std::vector<NSManagedObject*>& objects) {
         for (NSManagedObject* object : objects)
             if (RecordDetails* details = RecordAccess::detailsIfAny(*object); details && !tracker.isInEvent(*object))
                 details->changedInEvent = 0;
     };
     const Posting posting(isPosting_);
+    const RecordsInHand inHand(*this);
+    const std::uint64_t resets = resetCount_;
     NSNotificationCenter::defaultCenter().postNotification(
         NSManagedObjectContextObjectsDidChangeNotification, &context, std::any(changes));
+    if (resets != resetCount_)
+        return;
     for (const auto* objects : {&changes.inserted, &changes.updated, &changes.deleted, &changes.refreshed})
         endEvent(*objects);
     if (tracker.hasEvent())
@@ -357,7 +364,14 @@ void ContextCore::reset()
     publish();
     faulting.clear();
     relationships.clear();
-    registry.clear();
+    ++resetCount_;
+    if (inHand_ == 0) {
+        registry.clear();
+        return;
+    }
+    for (NSManagedObject* object : registry.objects())
+        RecordAccess::markGone(*object);
+    dropped_.push_back(std::exchange(registry, ObjectRegistry()));
 }
 
 // Identifiers ---------------------------------------------------------------------------------------------------------

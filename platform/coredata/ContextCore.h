@@ -98,6 +98,23 @@ public:
     /// Reads one record's row and sets again, at next use; at once where unsaved changes stay on top.
     void readAgain(NSManagedObject& object);
     void reset();
+    /// How often `reset` was called: who walks records while observers run asks whether they are still there.
+    std::uint64_t resetCount() const noexcept { return resetCount_; }
+    /// While one lives, records that `reset` drops stay in memory, for somebody has them in hand.
+    class RecordsInHand {
+    public:
+        explicit RecordsInHand(ContextCore& core) : core_(core) { ++core_.inHand_; }
+        ~RecordsInHand()
+        {
+            if (--core_.inHand_ == 0)
+                core_.dropped_.clear();
+        }
+        RecordsInHand(const RecordsInHand&) = delete;
+        RecordsInHand& operator=(const RecordsInHand&) = delete;
+
+    private:
+        ContextCore& core_;
+    };
     bool obtainPermanentIDs(std::span<NSManagedObject* const> objects, NSError* error);
     /// Gives a record another identifier, also where others name it; it still answers to the one that it had.
     void readdress(NSManagedObject& object, const NSManagedObjectID& objectID);
@@ -122,6 +139,9 @@ private:
     std::vector<NSManagedObject*> fromChildren_;
     std::shared_ptr<Queue> privateQueue_;
     Queue* queue_;
+    std::vector<ObjectRegistry> dropped_;
+    std::uint64_t resetCount_ = 0;
+    int inHand_ = 0;
     std::uint32_t nextOrder_ = 1;
     bool isPosting_ = false;
     bool isScheduled_ = false;

@@ -34,8 +34,13 @@ void Faulting::noteFault(NSManagedObject& object)
 
 void Faulting::fire(const NSManagedObject& object)
 {
-    if (!object.isFault())
-        return;
+    NSError error;
+    if (object.isFault() && !fill(object, &error))
+        raiseUnreadable(object, error);
+}
+
+bool Faulting::fill(const NSManagedObject& object, NSError* error)
+{
     const NSEntityDescription& root = object.entity().rootEntity();
     std::vector<std::int64_t> keys{object.objectID().key()};
     const auto& faults = faults_[&root];
@@ -44,14 +49,14 @@ void Faulting::fire(const NSManagedObject& object)
             keys.push_back(faults[at]->objectID().key());
 
     std::vector<StoreRow> rows;
-    NSError error;
-    if (!core_.store().rowsForKeys(root, keys, RowContents::Row, rows, &error))
-        raiseUnreadable(object, error);
+    if (!core_.store().rowsForKeys(root, keys, RowContents::Row, rows, error))
+        return false;
     for (StoreRow& row : rows)
         if (NSManagedObject* record = core_.registry.find(root, row.key); record && record->isFault())
             takeRow(*record, std::move(row));
     if (object.isFault())
         core_.noteGone(const_cast<NSManagedObject&>(object));
+    return true;
 }
 
 void Faulting::loadLarge(const NSManagedObject& object)

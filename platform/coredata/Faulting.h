@@ -23,6 +23,8 @@ public:
     void noteFault(NSManagedObject& object);
     /// Reads the record's row, and those of faults near it.
     void fire(const NSManagedObject& object);
+    /// The same for a caller who has an answer to what cannot be read: false and an error.
+    bool fill(const NSManagedObject& object, NSError* error);
     /// Reads the large attributes of a record.
     void loadLarge(const NSManagedObject& object);
     /// Reads a to-one whose column is the inverse's.

@@ -75,6 +75,8 @@ NSManagedObject& NSManagedObjectContext::insertObject(std::string_view entityNam
 
 void NSManagedObjectContext::deleteObject(NSManagedObject& object)
 {
+    if (&object.managedObjectContext() != this)
+        throw NSException(NSInvalidArgumentException, "A context deletes only records of its own");
     core_->remove(object);
 }
 
@@ -90,8 +92,8 @@ NSManagedObject* NSManagedObjectContext::existingObjectWithID(const NSManagedObj
 {
     core_->assertOnQueue();
     if (NSManagedObject* known = objectRegisteredForID(objectID)) {
-        if (known->isFault())
-            core_->faulting.fire(*known);
+        if (known->isFault() && !core_->faulting.fill(*known, error))
+            return nullptr;
         return known->isDeleted() ? nullptr : known;
     }
     const NSManagedObjectID id = core_->localID(objectID);
@@ -201,6 +203,10 @@ void NSManagedObjectContext::rollback()
 bool NSManagedObjectContext::performExclusive(const std::function<void()>& block, NSError* error)
 {
     core_->assertOnQueue();
+    if (core_->exclusiveTransaction) {
+        block();
+        return true;
+    }
     core_->exclusiveTransaction = core_->store().beginTransaction(error);
     if (!core_->exclusiveTransaction)
         return false;

@@ -104,7 +104,8 @@ public:
     /// Inserts by name, as the class that is registered. Raises `NSInvalidArgumentException` for an unknown entity.
     NSManagedObject& insertObject(std::string_view entityName);
     /// Runs `prepareForDeletion`, then takes the record out of all relationships (by their delete rules) and fetches.
-    /// The rows go at the next save. Deleting twice is no error.
+    /// The rows go at the next save. Deleting twice is no error; a record of another context raises
+    /// `NSInvalidArgumentException`.
     void deleteObject(NSManagedObject& object);
     // An identifier of another store, and one that names an entity which the record is not of, have no record.
     /// The record with this identifier, read when it is not here yet; null when the store does not know it (or cannot
@@ -144,6 +145,8 @@ public:
     /// Takes the store's write lock before the block's first read and saves after it: find-or-create across processes.
     /// A `save` inside the block does nothing, since the end of the block saves.
     /// An exception of the block rolls back and is raised again.
+    /// Inside the block of another one it joins that: the outer end saves, and an exception takes back all of it where
+    /// it leaves the outer block.
     bool performExclusive(const std::function<void()>& block, NSError* error = nullptr);
     /// Posts objects-did-change for what changed since the last time. Runs by itself at the end of the queue's pass.
     void processPendingChanges();
@@ -162,7 +165,8 @@ public:
     void refreshObject(NSManagedObject& object, bool mergeChanges);
     /// The same for all records; unsaved changes stay on top.
     void refreshAllObjects();
-    /// Forgets everything; all records of this context are gone.
+    /// Forgets everything; all records of this context are gone. In an observer of this context's changes or saves
+    /// they read as deleted until these are through.
     void reset();
 
     // Work on its queue ---------------------------------------------------------------------------------------------

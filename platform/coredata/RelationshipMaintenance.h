@@ -68,7 +68,7 @@ public:
     void noteLoaded(ToManySet& set);
     void noteForgotten(ToManySet& set);
     /// Before all records go.
-    void clear() { loaded_.clear(); }
+    void clear();
 
 private:
     std::vector<RelatedKey> storedKeys(const NSManagedObject& owner, const NSRelationshipDescription& relationship);

@@ -10,6 +10,9 @@ namespace tarn {
 
 namespace {
 
+/// Of a set that is not among the loaded ones of its context.
+constexpr auto noPlace = static_cast<std::size_t>(-1);
+
 /// 0 for none, and for what is not read.
 std::int64_t keyIn(const PropertyValues& values, PropertyIndex index)
 {
@@ -174,17 +177,28 @@ std::vector<NSManagedObject*> RelationshipMaintenance::holdersOf(const NSManaged
     return holders;
 }
 
+/// What a record that is gone loads may be gone itself by the next walk over the loaded sets.
 void RelationshipMaintenance::noteLoaded(ToManySet& set)
 {
-    set.place_ = loaded_.size();
-    loaded_.push_back(&set);
+    set.place_ = RecordAccess::isGone(*set.owner_) ? noPlace : loaded_.size();
+    if (set.place_ != noPlace)
+        loaded_.push_back(&set);
 }
 
 void RelationshipMaintenance::noteForgotten(ToManySet& set)
 {
+    if (set.place_ == noPlace)
+        return;
     loaded_.back()->place_ = set.place_;
     loaded_[set.place_] = loaded_.back();
     loaded_.pop_back();
+}
+
+void RelationshipMaintenance::clear()
+{
+    for (ToManySet* set : loaded_)
+        set->place_ = noPlace;
+    loaded_.clear();
 }
 
 // Taking back ---------------------------------------------------------------------------------------------------------

@@ -61,6 +61,7 @@ bool SavePlan::run(std::unique_ptr<StoreTransaction> transaction, NSError* error
     core_.assertOnQueue();
     if (core_.isSaving)
         return fail(error, StoreErrorGeneric, "A save is under way");
+    const ContextCore::RecordsInHand inHand(core_);
     core_.processPendingChanges();
     if (!core_.tracker.hasChanges()) {
         core_.settleMergedRelationships({});
@@ -263,7 +264,10 @@ void SavePlan::finish()
 {
     for (const auto& [record, version] : newVersions_)
         RecordAccess::markSaved(*record, version);
+    const std::uint64_t resets = core_.resetCount();
     core_.processPendingChanges();
+    if (core_.resetCount() != resets)
+        return;
     for (const auto* records : {&inserted_, &updated_})
         for (NSManagedObject* record : *records) {
             RecordDetails& details = RecordAccess::details(*record);
@@ -277,6 +281,8 @@ void SavePlan::finish()
     core_.publish();
     NSNotificationCenter::defaultCenter().postNotification(NSManagedObjectContextDidSaveNotification, &core_.context,
         std::any(ObjectChanges{inserted_, updated_, deleted_, {}}));
+    if (core_.resetCount() != resets)
+        return;
     for (NSManagedObject* record : deleted_) {
         RecordAccess::markGone(*record);
         core_.relationships.unload(*record);
