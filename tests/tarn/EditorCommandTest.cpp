@@ -301,12 +301,12 @@ TEST_F(EditorCommand, DoesNotWaitForAnEditorThatWillNotEnd)
 {
     const std::string identifier = note("# T");
     const std::string lines = "trap '' TERM; touch '" + (folder() / "open").string()
-        + "'; for i in 1 2 3 4 5 6 7 8; do sleep 0.5; done > /dev/null 2>&1; echo late > \"$1\"";
+        + "'; for i in 1 2 3 4 5 6 7 8 9 10 11 12; do sleep 0.5; done > /dev/null 2>&1; echo late > \"$1\"";
     auto process = processWithEditor("'" + script("editor.sh", lines).string() + "'", {"edit", identifier});
     process->start();
     waitFor(folder() / "open");
     process->sendSignal(SIGTERM);
-    for (int attempt = 0; attempt < 350 && process->isRunning(); ++attempt)
+    for (int attempt = 0; attempt < 500 && process->isRunning(); ++attempt)
         std::this_thread::sleep_for(std::chrono::milliseconds(10));
     EXPECT_FALSE(process->isRunning());
     const TarnResult result = process->finish(); // once the editor has let go of the pipes

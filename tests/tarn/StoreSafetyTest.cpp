@@ -95,7 +95,7 @@ TEST_F(StoreSafety, AWriterSaysForWhomItWaits)
         const HeldLock lock(database().parent_path() / "tarn.lock");
         std::ofstream(database().parent_path() / "tarn.lock") << "4711\n";
         patient.start();
-        std::this_thread::sleep_for(std::chrono::milliseconds(1'500));
+        std::this_thread::sleep_for(std::chrono::milliseconds(2'500));
         quick.start();
         std::this_thread::sleep_for(std::chrono::milliseconds(300));
     }
@@ -110,7 +110,7 @@ TEST_F(StoreSafety, AProgramSaysThatItWaitsForAnApplication)
     TarnProcess writer(arguments({"append", identifier, "ours"}));
     ForeignWriter(database()).changeTextWhileLocked(identifier, "theirs", [&] {
         writer.start();
-        std::this_thread::sleep_for(std::chrono::milliseconds(1'500));
+        std::this_thread::sleep_for(std::chrono::milliseconds(2'500));
     });
     const TarnResult result = writer.finish();
     EXPECT_EQ(result.exitCode, 0);
