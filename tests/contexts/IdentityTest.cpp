@@ -131,16 +131,26 @@ TEST_P(Identity, OfAKeyThatWasAskedForBeforeItWasGivenIsThatOfTheInsertedRecord)
 
 TEST_P(Identity, OfAKeyThatWasDeletedBeforeItWasGivenDeletesNothing)
 {
-    NSManagedObject& first = shelf("first");
-    save();
-    const NSManagedObjectID next(first.objectID().store(), first.entity(), first.objectID().key() + 1);
-    context_->deleteObject(*context_->objectWithID(next));
-    NSManagedObject& second = shelf("second");
-    save();
-    ASSERT_EQ(second.objectID(), next) << "keys are given one after another";
-    EXPECT_THAT(all("Shelf"), ElementsAre(&first, &second));
-    restart();
-    EXPECT_THAT(texts(all("Shelf"), "name"), ElementsAre("first", "second"));
+    for (const bool isGivenBeforeTheSave : {false, true}) {
+        SCOPED_TRACE(isGivenBeforeTheSave);
+        NSManagedObject& first = shelf("first");
+        save();
+        const NSManagedObjectID next(first.objectID().store(), first.entity(), first.objectID().key() + 1);
+        context_->deleteObject(*context_->objectWithID(next));
+        NSManagedObject& second = shelf("second");
+        if (isGivenBeforeTheSave) {
+            permanentIDOf(second);
+            EXPECT_THAT(context_->deletedObjects(), IsEmpty());
+        }
+        save();
+        ASSERT_EQ(second.objectID(), next) << "keys are given one after another";
+        EXPECT_THAT(all("Shelf"), ElementsAre(&first, &second));
+        restart();
+        EXPECT_THAT(texts(all("Shelf"), "name"), ElementsAre("first", "second"));
+        for (NSManagedObject* record : all("Shelf"))
+            context_->deleteObject(*record);
+        save();
+    }
 }
 
 // Of others ---------------------------------------------------------------------------------------------------------

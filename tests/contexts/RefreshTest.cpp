@@ -75,6 +75,41 @@ TEST_P(Refresh, KeepsAnUnreadEndThatWasSetHere)
     EXPECT_EQ(two.storedValueForKey("pages"), Value(7));
 }
 
+TEST_P(Refresh, ReadsTheOtherEndsOfAnEditedRecordAgain)
+{
+    NSManagedObject& one = book("one");
+    NSManagedObject& two = book("two");
+    NSManagedObject& place = shelf("place");
+    NSManagedObject& cover = insert("Cover");
+    cover.setValueForKey("book", Value(&one));
+    save();
+    ASSERT_THAT(set(one, "shelves").members(), IsEmpty());
+    ASSERT_EQ(cover.storedValueForKey("book"), Value(&one));
+    const auto other = contextOn(coordinator_);
+    NSManagedObject& there = *other->existingObjectWithID(cover.objectID());
+    there.setValueForKey("book", Value(other->existingObjectWithID(two.objectID())));
+    set(*other->existingObjectWithID(one.objectID()), "shelves").add(*other->existingObjectWithID(place.objectID()));
+    ASSERT_TRUE(other->save());
+    cover.setValueForKey("color", Value("red"));
+    place.setValueForKey("floor", Value(7));
+
+    context_->refreshObject(cover, true);
+    context_->refreshObject(place, true);
+
+    EXPECT_EQ(cover.storedValueForKey("book"), Value(&two));
+    EXPECT_THAT(set(place, "books").members(), ElementsAre(&one));
+    EXPECT_THAT(set(one, "shelves").members(), ElementsAre(&place));
+    EXPECT_EQ(text(cover, "color"), "red");
+    one.setValueForKey("pages", Value(7));
+    ASSERT_TRUE(set(one, "shelves").isLoaded());
+    NSManagedObject& thereAgain = *other->existingObjectWithID(one.objectID());
+    set(thereAgain, "shelves").set({});
+    ASSERT_TRUE(other->save());
+    context_->refreshObject(one, true);
+    EXPECT_THAT(set(one, "shelves").members(), IsEmpty());
+    EXPECT_EQ(one.storedValueForKey("pages"), Value(7));
+}
+
 TEST_P(Refresh, KeepsATextAndWhatDerivesFromItTogether)
 {
     NSManagedObject& one = book("before");
