@@ -86,6 +86,16 @@ void MainQueue::cancelCoalesced(const void* key)
     state_->removeCoalesced(key);
 }
 
+void MainQueue::runInEachPass(const void* key, Task task)
+{
+    state_->setInEachPass(key, std::move(task));
+}
+
+void MainQueue::cancelInEachPass(const void* key)
+{
+    state_->removeInEachPass(key);
+}
+
 std::size_t MainQueue::drain()
 {
     requireOwner(*this, "drain");

@@ -4,6 +4,7 @@
 #include "platform/foundation/WakeDescriptorInternal.h"
 
 #include <deque>
+#include <utility>
 
 namespace tarn {
 
@@ -29,6 +30,8 @@ public:
     void removeCoalesced(const void* key);
     void setAtEndOfPass(const void* key, Task task);
     void removeAtEndOfPass(const void* key);
+    void setInEachPass(const void* key, Task task);
+    void removeInEachPass(const void* key);
     Timer scheduleTimer(Task task);
     static void invalidate(Timer& timer);
     static bool isPending(const Timer& timer);
@@ -57,6 +60,7 @@ private:
     std::size_t runTimers(MainQueue& queue);
     std::size_t runQueued(MainQueue& queue);
     std::size_t runKeyed(MainQueue& queue, KeyedTasks& tasks);
+    void runTasksOfEachPass(MainQueue& queue);
 
     const std::shared_ptr<ThreadParking> parking_ = ThreadParking::ofThisThread();
     mutable std::mutex mutex_;
@@ -65,6 +69,7 @@ private:
     std::uint64_t lastNumber_ = 0;
     KeyedTasks coalesced_;
     KeyedTasks endOfPass_;
+    std::vector<std::pair<const void*, std::shared_ptr<const Task>>> inEachPass_;
     std::vector<std::shared_ptr<Timer::State>> timers_;
     Task wake_;
     WakeDescriptor descriptor_;

@@ -112,6 +112,21 @@ void MainQueueState::removeAtEndOfPass(const void* key)
     endOfPass_.remove(key);
 }
 
+void MainQueueState::setInEachPass(const void* key, Task task)
+{
+    auto shared = std::make_shared<const Task>(std::move(task));
+    const std::lock_guard lock(mutex_);
+    std::erase_if(inEachPass_, [key](const auto& entry) { return entry.first == key; });
+    if (queue_)
+        inEachPass_.emplace_back(key, std::move(shared));
+}
+
+void MainQueueState::removeInEachPass(const void* key)
+{
+    const std::lock_guard lock(mutex_);
+    std::erase_if(inEachPass_, [key](const auto& entry) { return entry.first == key; });
+}
+
 Timer MainQueueState::scheduleTimer(Task task)
 {
     Timer timer;
@@ -168,6 +183,7 @@ void MainQueueState::close()
     std::deque<Item> items;
     KeyedTasks coalesced;
     KeyedTasks endOfPass;
+    decltype(inEachPass_) inEachPass;
     std::vector<std::shared_ptr<Timer::State>> timers;
     const std::lock_guard lock(mutex_);
     queue_ = nullptr;
@@ -177,6 +193,7 @@ void MainQueueState::close()
     timers.swap(timers_);
     std::swap(coalesced, coalesced_);
     std::swap(endOfPass, endOfPass_);
+    inEachPass.swap(inEachPass_);
     wake_ = nullptr;
 }
 
@@ -187,6 +204,7 @@ std::size_t MainQueueState::runPass(MainQueue& queue)
     std::size_t count = runTimers(queue);
     count += runQueued(queue);
     count += runKeyed(queue, coalesced_);
+    runTasksOfEachPass(queue);
     count += runKeyed(queue, endOfPass_);
     return count;
 }
@@ -242,6 +260,21 @@ std::size_t MainQueueState::runKeyed(MainQueue& queue, KeyedTasks& tasks)
         lock.lock();
     }
     return count;
+}
+
+void MainQueueState::runTasksOfEachPass(MainQueue& queue)
+{
+    std::unique_lock lock(mutex_);
+    const auto tasks = inEachPass_;
+    for (const auto& [key, task] : tasks) {
+        const bool isWanted = std::any_of(
+            inEachPass_.begin(), inEachPass_.end(), [&](const auto& entry) { return entry.second == task; });
+        if (!isWanted)
+            continue; // an earlier one has taken it back
+        lock.unlock();
+        runTask(queue, *task);
+        lock.lock();
+    }
 }
 
 bool MainQueueState::runAwaited()

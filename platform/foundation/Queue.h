@@ -86,8 +86,14 @@ public:
     bool postCoalesced(const void* key, Task task);
     void cancelCoalesced(const void* key);
 
-    /// One pass: due timers, the tasks that were queued at entry, coalesced tasks, tasks for the end of the pass. What
-    /// these queue waits for the next pass. Returns how many ran. On the owning thread.
+    /// Runs the task in every pass from now on, before the tasks for its end, until it is taken back; one for each key.
+    /// It is no work of its own: an idle queue is not woken for it. On the owning thread.
+    void runInEachPass(const void* key, Task task);
+    void cancelInEachPass(const void* key);
+
+    /// One pass: due timers, the tasks that were queued at entry, coalesced tasks, the tasks of each pass, those for
+    /// the end of this one. What these queue waits for the next pass. Returns how many ran, the tasks of each pass left
+    /// out. On the owning thread.
     std::size_t drain();
     /// Whether a pass would have something to run.
     bool hasWork() const;

@@ -142,6 +142,35 @@ TEST(MainQueue, RunsWhatIsAskedForAtTheEndOfAPassAtTheEndOfTheNext)
     EXPECT_FALSE(queue.hasWork());
 }
 
+TEST(MainQueue, RunsATaskInEachPassWithoutBeingKeptAwakeByIt)
+{
+    MainQueue queue;
+    std::vector<std::string> order;
+    queue.runInEachPass(&order, [&] { order.emplace_back("each"); });
+    EXPECT_FALSE(queue.hasWork());
+    EXPECT_FALSE(isReadable(queue.fileDescriptor()));
+    queue.async([&] {
+        queue.runAtEndOfPass(&queue, [&] { order.emplace_back("end"); });
+        order.emplace_back("task");
+    });
+    EXPECT_EQ(queue.drain(), 2U);
+    EXPECT_EQ(queue.drain(), 0U);
+    EXPECT_THAT(order, ElementsAre("task", "each", "end", "each"));
+    EXPECT_FALSE(queue.hasWork());
+
+    queue.runInEachPass(&queue, [&] { order.emplace_back("never"); });
+    queue.runInEachPass(&order, [&] {
+        order.emplace_back("last");
+        queue.cancelInEachPass(&queue);
+        queue.cancelInEachPass(&order);
+    });
+    order.clear();
+    queue.async([&] { queue.cancelInEachPass(&queue); });
+    queue.drain();
+    queue.drain();
+    EXPECT_THAT(order, ElementsAre("last"));
+}
+
 TEST(MainQueue, ForgetsTheEndOfAPassThatIsCancelled)
 {
     MainQueue queue;
