@@ -90,6 +90,8 @@ ReadAccess ConnectionPool::lend()
 
 void ConnectionPool::takeBack(std::unique_ptr<SQLiteConnection> connection) noexcept
 {
+    if (connection->hasMetCommit())
+        ++commitsMet_;
     {
         std::scoped_lock lock(mutex_);
         idle_.push_back(std::move(connection));

@@ -3,7 +3,9 @@
 #include "platform/coredata/SQLiteConnection.h"
 #include "platform/coredata/WriterTurn.h"
 
+#include <atomic>
 #include <condition_variable>
+#include <cstdint>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -48,6 +50,8 @@ public:
     std::optional<ReadAccess> readAtOnce();
     void checkFileIsTheSame() const;
     std::chrono::milliseconds patience() const noexcept { return options_.patience; }
+    /// Grows when a reading connection comes back that has met a commit.
+    std::uint64_t commitsMet() const noexcept { return commitsMet_; }
 
 private:
     friend class ReadAccess;
@@ -69,6 +73,7 @@ private:
     std::condition_variable returned_;
     std::vector<std::unique_ptr<SQLiteConnection>> idle_;
     int readerCount_ = 0;
+    std::atomic<std::uint64_t> commitsMet_ = 0;
 };
 
 } // namespace tarn

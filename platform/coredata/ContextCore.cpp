@@ -17,7 +17,7 @@ constexpr std::int64_t keyBlockSize = 64;
 } // namespace
 
 ContextCore::ContextCore(NSManagedObjectContext& owner, NSManagedObjectContext::ConcurrencyType type)
-    : context(owner), faulting(*this), relationships(*this),
+    : context(owner), faulting(*this), relationships(*this), otherWriters(*this),
       privateQueue_(type == NSManagedObjectContext::ConcurrencyType::PrivateQueue
               ? SerialQueue::make("NSManagedObjectContext")
               : nullptr),
@@ -32,6 +32,16 @@ ContextCore::~ContextCore()
     else if (link_)
         link_->close();
     queue_->cancelAtEndOfPass(this);
+    queue_->cancelAtEndOfPass(&otherWriters);
+    if (!privateQueue_)
+        MainQueue::main().cancelInEachPass(this);
+}
+
+void ContextCore::followStore()
+{
+    otherWriters.begin();
+    if (!privateQueue_)
+        MainQueue::main().runInEachPass(this, [this] { otherWriters.lookAtEndOfPass(); });
 }
 
 NSPersistentStore& ContextCore::store() const
@@ -277,7 +287,10 @@ void ContextCore::processPendingChanges()
 {
     assertOnQueue();
     isScheduled_ = false;
-    if (isPosting_ || !tracker.hasEvent())
+    if (isPosting_)
+        return;
+    otherWriters.tell();
+    if (!tracker.hasEvent())
         return;
     publish();
     struct Posting {
@@ -362,6 +375,7 @@ void ContextCore::reset()
     pendingIndex.clear();
     fromChildren_.clear();
     publish();
+    otherWriters.reset();
     faulting.clear();
     relationships.clear();
     ++resetCount_;

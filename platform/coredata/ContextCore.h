@@ -5,6 +5,7 @@
 #include "platform/coredata/NSManagedObjectContext.h"
 #include "platform/coredata/NSPersistentStoreCoordinator.h"
 #include "platform/coredata/ObjectRegistry.h"
+#include "platform/coredata/OtherWriters.h"
 #include "platform/coredata/ParentLink.h"
 #include "platform/coredata/PendingIndex.h"
 #include "platform/coredata/QueueChecks.h"
@@ -29,6 +30,8 @@ public:
     PendingIndex pendingIndex;
     Faulting faulting;
     RelationshipMaintenance relationships;
+    /// At rest in a child: its parent looks.
+    OtherWriters otherWriters;
 
     std::shared_ptr<NSPersistentStoreCoordinator> coordinator;
     NSMergePolicy mergePolicy = NSMergePolicy::Error;
@@ -47,6 +50,8 @@ public:
 
     /// The parent's view for a child. Raises `NSInternalInconsistencyException` when the context has no store.
     NSPersistentStore& store() const;
+    /// Begins to look for what others write to the coordinator's store: from now on, at each pass of a main queue.
+    void followStore();
     /// The same, kept alive.
     std::shared_ptr<NSPersistentStore> sharedStore() const;
     /// What children hold of this context; made when the first one asks. On the queue.

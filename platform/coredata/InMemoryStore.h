@@ -30,7 +30,7 @@ public:
     bool countRelated(
         const NSRelationshipDescription& relationship, std::int64_t key, std::size_t& count, NSError* error) override;
     /// Always the same: nobody else has this store open.
-    std::uint64_t dataVersion() override { return 0; }
+    std::optional<std::uint64_t> dataVersion() override { return 0; }
 
     std::unique_ptr<StoreTransaction> beginTransaction(NSError* error) override;
     bool reserveKeys(const NSEntityDescription& root, std::size_t count, std::int64_t& first, NSError* error) override;

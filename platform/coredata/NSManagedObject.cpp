@@ -146,8 +146,11 @@ bool NSManagedObject::prepareRead(PropertyIndex index) const
         core().faulting.fire(*this);
     if (values_.isEmpty())
         return false;
-    if (!values_.isLoaded(index) && (entity().largeMask() & propertyBit(index)))
-        core().faulting.loadLarge(*this);
+    if (entity().largeMask() & propertyBit(index)) {
+        if (!values_.isLoaded(index))
+            core().faulting.loadLarge(*this);
+        core().otherWriters.noteTextRead(*this);
+    }
     return !values_.isNil(index);
 }
 

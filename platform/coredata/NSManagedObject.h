@@ -153,7 +153,7 @@ private:
     void putBytes(PropertyIndex index, bool tell, std::optional<std::string_view> value);
     std::map<std::string, Value> valuesOf(PropertyMask mask) const;
     std::set<std::string> namesOf(PropertyMask mask) const;
-    enum Flag : std::uint32_t { Inserted = 1, Deleted = 2, Fault = 4, Gone = 8, BeingDeleted = 16 };
+    enum Flag : std::uint32_t { Inserted = 1, Deleted = 2, Fault = 4, Gone = 8, BeingDeleted = 16, HandedOut = 32 };
 
     NSManagedObjectContext* context_;
     NSManagedObjectID objectID_;

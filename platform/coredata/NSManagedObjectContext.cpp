@@ -18,6 +18,7 @@ NSManagedObjectContext::~NSManagedObjectContext() = default;
 void NSManagedObjectContext::setPersistentStoreCoordinator(std::shared_ptr<NSPersistentStoreCoordinator> coordinator)
 {
     core_->coordinator = std::move(coordinator);
+    core_->followStore();
 }
 
 void NSManagedObjectContext::setParentContext(NSManagedObjectContext& parent)
@@ -133,7 +134,9 @@ std::optional<std::vector<NSManagedObject*>> NSManagedObjectContext::fetch(
     const NSFetchRequest& request, NSError* error)
 {
     core_->assertOnQueue();
-    return PendingFetch(*core_, request).objects(error);
+    auto found = PendingFetch(*core_, request).objects(error);
+    core_->otherWriters.lookAfterFetch();
+    return found;
 }
 
 std::vector<NSManagedObject*> NSManagedObjectContext::executeFetchRequest(const NSFetchRequest& request, NSError* error)
@@ -144,7 +147,9 @@ std::vector<NSManagedObject*> NSManagedObjectContext::executeFetchRequest(const 
 std::optional<std::size_t> NSManagedObjectContext::count(const NSFetchRequest& request, NSError* error)
 {
     core_->assertOnQueue();
-    return PendingFetch(*core_, request).count(error);
+    const auto counted = PendingFetch(*core_, request).count(error);
+    core_->otherWriters.lookAfterFetch();
+    return counted;
 }
 
 std::size_t NSManagedObjectContext::countForFetchRequest(const NSFetchRequest& request, NSError* error)
@@ -156,7 +161,9 @@ std::optional<std::vector<DictionaryResult>> NSManagedObjectContext::executeDict
     const NSFetchRequest& request, NSError* error)
 {
     core_->assertOnQueue();
-    return PendingFetch(*core_, request).dictionaries(error);
+    auto found = PendingFetch(*core_, request).dictionaries(error);
+    core_->otherWriters.lookAfterFetch();
+    return found;
 }
 
 // Changes -------------------------------------------------------------------------------------------------------------
@@ -211,6 +218,7 @@ bool NSManagedObjectContext::performExclusive(const std::function<void()>& block
     if (!core_->exclusiveTransaction)
         return false;
     try {
+        core_->otherWriters.lookUnderLock();
         block();
     } catch (...) {
         core_->exclusiveTransaction.reset();

@@ -42,7 +42,9 @@ inline constexpr std::string_view NSManagedObjectContextWillSaveNotification
     = "NSManagedObjectContextWillSaveNotification";
 inline constexpr std::string_view NSManagedObjectContextDidSaveNotification
     = "NSManagedObjectContextDidSaveNotification";
-/// Another connection or process has changed the store since this context last read.
+/// Another process, or another coordinator of this one, has changed the store; of contexts on a store. Noticed at a
+/// fetch or a pass of the main queue, posted once when changes are processed next, before the objects-did-change of the
+/// records that were brought up to date. What was inserted is found by fetching.
 inline constexpr std::string_view NSManagedObjectContextStoreDidChangeElsewhereNotification
     = "NSManagedObjectContextStoreDidChangeElsewhereNotification";
 
@@ -68,6 +70,11 @@ using DictionaryResult = std::map<std::string, Value>;
 ///
 /// Confined to its queue: call it, and use its records, only there; debug builds abort elsewhere. It owns its records;
 /// their addresses hold until `reset()` or destruction.
+///
+/// A context on a store notices by itself what other processes saved. At the next fetch its clean records take the new
+/// values, at the next pass of the main queue (or the end of the pass of its own) all do, under unsaved changes as in a
+/// merge, and deleted ones go; observers hear of it as objects-did-change. A text that was read in a pass is not
+/// exchanged by a fetch of that pass. Children follow what they read.
 ///
 ///     OVNote* note = OVNote::insertInManagedObjectContext(context);
 ///     if (NSError error; !context.save(&error)) report(error);
@@ -143,6 +150,7 @@ public:
     /// Drops all changes since the last save; inserted records read as deleted.
     void rollback();
     /// Takes the store's write lock before the block's first read and saves after it: find-or-create across processes.
+    /// Records without unsaved changes are brought up to date before the block.
     /// A `save` inside the block does nothing, since the end of the block saves.
     /// An exception of the block rolls back and is raised again.
     /// Inside the block of another one it joins that: the outer end saves, and an exception takes back all of it where

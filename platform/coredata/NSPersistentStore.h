@@ -139,8 +139,12 @@ public:
     virtual bool countRelated(
         const NSRelationshipDescription& relationship, std::int64_t key, std::size_t& count, NSError* error)
         = 0;
-    /// Moves whenever another connection or process has committed.
-    virtual std::uint64_t dataVersion() = 0;
+    /// Moves whenever another process, or another store object of this one, has committed. Never waits: none while
+    /// another thread writes or another process commits.
+    virtual std::optional<std::uint64_t> dataVersion() = 0;
+    /// Grows when a read met a commit, of anyone, this store's own ones included. Costs nothing to ask: only when it
+    /// has grown can `dataVersion` have moved under what was read.
+    virtual std::uint64_t commitsMet() const noexcept { return 0; }
 
     // Writing ---------------------------------------------------------------------------------------------------------
     /// Takes the write lock, waiting for other processes. Null and an error when it cannot be had.

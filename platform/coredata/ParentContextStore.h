@@ -27,7 +27,8 @@ public:
         NSError* error) override;
     bool countRelated(
         const NSRelationshipDescription& relationship, std::int64_t key, std::size_t& count, NSError* error) override;
-    std::uint64_t dataVersion() override { return base_.dataVersion(); }
+    std::optional<std::uint64_t> dataVersion() override { return base_.dataVersion(); }
+    std::uint64_t commitsMet() const noexcept override { return base_.commitsMet(); }
 
     std::unique_ptr<StoreTransaction> beginTransaction(NSError* error) override;
     bool reserveKeys(const NSEntityDescription& root, std::size_t count, std::int64_t& first, NSError* error) override

@@ -27,6 +27,19 @@ public:
 
     static bool isGone(const NSManagedObject& object) { return object.flags_ & NSManagedObject::Gone; }
     static bool isBeingDeleted(const NSManagedObject& object) { return object.flags_ & NSManagedObject::BeingDeleted; }
+    /// Whether a text of it was read in this pass of the queue.
+    static bool isHandedOut(const NSManagedObject& object) { return object.flags_ & NSManagedObject::HandedOut; }
+    /// Whether it is news.
+    static bool markHandedOut(const NSManagedObject& object)
+    {
+        const bool isNew = !isHandedOut(object);
+        object.flags_ |= NSManagedObject::HandedOut;
+        return isNew;
+    }
+    static void unmarkHandedOut(const NSManagedObject& object)
+    {
+        object.flags_ &= ~std::uint32_t{NSManagedObject::HandedOut};
+    }
     static void markInserted(NSManagedObject& object, std::uint32_t order)
     {
         object.flags_ |= NSManagedObject::Inserted;

@@ -12,6 +12,12 @@ namespace tarn {
 void RemoteMerge::run(const RemoteChanges& changes)
 {
     core_.assertOnQueue();
+    take(changes);
+    core_.processPendingChanges();
+}
+
+void RemoteMerge::take(const RemoteChanges& changes)
+{
     const bool hasNews = !changes.inserted.empty() || !changes.updated.empty() || !changes.deleted.empty();
     if (hasNews && core_.tracker.hasChanges())
         core_.holdsMergedRelationships = true;
@@ -22,7 +28,6 @@ void RemoteMerge::run(const RemoteChanges& changes)
             remove(*root, key);
     if (!gone_.empty())
         core_.relationships.dropReferences(gone_);
-    core_.processPendingChanges();
 }
 
 RemoteMerge::KeysByRoot RemoteMerge::keysOf(const std::vector<NSManagedObjectID>& objectIDs) const

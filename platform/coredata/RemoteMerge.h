@@ -16,7 +16,10 @@ class RemoteMerge {
 public:
     explicit RemoteMerge(ContextCore& core) : core_(core) { }
 
+    /// Observers hear of it before this returns.
     void run(const RemoteChanges& changes);
+    /// The same, and observers hear of it when changes are processed next.
+    void take(const RemoteChanges& changes);
 
 private:
     using Keys = std::vector<std::int64_t>;

@@ -337,6 +337,25 @@ bool SQLiteConnection::isWriting() const noexcept
     return sqlite3_txn_state(handle_, "main") == SQLITE_TXN_WRITE;
 }
 
+std::optional<std::int64_t> SQLiteConnection::dataVersionAtOnce()
+{
+    std::optional<std::int64_t> version;
+    waits_ = false;
+    try {
+        version = integerOf("PRAGMA data_version");
+    } catch (const StoreFailure&) { // it is asked again
+    }
+    waits_ = true;
+    return version;
+}
+
+bool SQLiteConnection::hasMetCommit() noexcept
+{
+    unsigned data = 0;
+    sqlite3_file_control(handle_, "main", SQLITE_FCNTL_DATA_VERSION, &data);
+    return std::exchange(seenData_, data) != data;
+}
+
 bool SQLiteConnection::beginReadingAtOnce()
 {
     waits_ = false;

@@ -107,6 +107,10 @@ public:
     bool isWriting() const noexcept;
     /// Whether the system lets this process only read the file. SQLite would begin a "write" transaction all the same.
     bool isReadOnly() const noexcept;
+    /// "PRAGMA data_version", which moves for commits of others; none where that would mean to wait.
+    std::optional<std::int64_t> dataVersionAtOnce();
+    /// Whether a commit came in below what this connection has read since it was last asked.
+    bool hasMetCommit() noexcept;
     /// Begins to read: until the transaction ends nobody commits. False when that would mean to wait for another one.
     bool beginReadingAtOnce();
     /// Ends a transaction without keeping anything of it; never fails.
@@ -136,6 +140,7 @@ private:
     std::uint32_t jitter_ = 0;
     std::size_t inUse_ = 0;
     bool waits_ = true;
+    unsigned seenData_ = 0;
     std::optional<NSError> failureOutsideOfTransaction_; ///< since the last transaction began
     Cache cache_;                                        ///< the latest used first
     std::unordered_map<std::string_view, Cache::iterator> cachedByText_;

@@ -105,14 +105,35 @@ void SQLiteRowWriter::clearMissingTargets()
     for (const AwaitedTarget& awaited : awaited_) {
         if (exists(*awaited.column->target, awaited.target))
             continue;
-        const std::string column = quotedIdentifier(awaited.column->name);
-        SQLiteStatement statement = connection_.prepare("UPDATE " + quotedIdentifier(awaited.table->name) + " SET "
-            + column + " = NULL WHERE \"pk\" = ?1 AND " + column + " = ?2");
-        statement.bindInteger(1, awaited.key);
-        statement.bindInteger(2, awaited.target);
-        statement.run();
+        clearColumn(*awaited.table, awaited.column->name, awaited.target, awaited.key);
     }
     awaited_.clear();
+}
+
+/// No change of the row's own: its version stays, which the trigger would count for a program that leaves it alone.
+void SQLiteRowWriter::clearColumn(
+    const StoreTable& table, const std::string& name, std::int64_t target, std::optional<std::int64_t> only)
+{
+    const std::string column = quotedIdentifier(name);
+    std::vector<std::pair<std::int64_t, std::int64_t>> versions;
+    {
+        SQLiteStatement statement = connection_.prepare("SELECT \"pk\", \"rowVersion\" FROM "
+            + quotedIdentifier(table.name) + " WHERE " + column + " = ?1" + (only ? " AND \"pk\" = ?2" : ""));
+        statement.bindInteger(1, target);
+        if (only)
+            statement.bindInteger(2, *only);
+        while (statement.step())
+            versions.emplace_back(statement.integer(0), statement.integer(1));
+    }
+    for (const auto& [key, version] : versions) {
+        {
+            SQLiteStatement statement = connection_.prepare(
+                "UPDATE " + quotedIdentifier(table.name) + " SET " + column + " = NULL WHERE \"pk\" = ?1");
+            statement.bindInteger(1, key);
+            statement.run();
+        }
+        setVersion(table, key, version);
+    }
 }
 
 // Insert --------------------------------------------------------------------------------------------------------------
@@ -254,9 +275,20 @@ RowWriteResult SQLiteRowWriter::update(const StoreRow& row, PropertyMask changed
     writeSignatures(table, columns, row);
     if (!largeColumns.empty()) {
         writeLarge(table, largeColumns, row);
+        setVersion(table, row.key, row.version + 1);
         writeSignatures(table, largeColumns, row);
     }
     return RowWriteResult::Written;
+}
+
+/// The trigger on the large part has counted once more, as it does for programs that leave the version alone.
+void SQLiteRowWriter::setVersion(const StoreTable& table, std::int64_t key, std::int64_t version)
+{
+    SQLiteStatement statement = connection_.prepare("UPDATE " + quotedIdentifier(table.name)
+        + " SET \"rowVersion\" = ?2 WHERE \"pk\" = ?1 AND \"rowVersion\" <> ?2");
+    statement.bindInteger(1, key);
+    statement.bindInteger(2, version);
+    statement.run();
 }
 
 /// A change that leaves the folded value as it was (of case only, say) looks to the trigger like one of a program that
@@ -302,11 +334,8 @@ RowWriteResult SQLiteRowWriter::remove(const NSEntityDescription& entity, std::i
         if (join->member == &table)
             runWithKey("DELETE FROM " + quotedIdentifier(join->name) + " WHERE \"member\" = ?1");
     }
-    for (const ReferringColumn& referring : table.referringColumns) {
-        const std::string column = quotedIdentifier(referring.column);
-        runWithKey("UPDATE " + quotedIdentifier(referring.table->name) + " SET " + column + " = NULL WHERE " + column
-            + " = ?1");
-    }
+    for (const ReferringColumn& referring : table.referringColumns)
+        clearColumn(*referring.table, referring.column, key, std::nullopt);
     if (!table.largeColumns.empty())
         runWithKey("DELETE FROM " + quotedIdentifier(table.largeName) + " WHERE \"pk\" = ?1");
     runWithKey("DELETE FROM " + quotedIdentifier(table.name) + " WHERE \"pk\" = ?1");

@@ -4,6 +4,7 @@
 #include "platform/coredata/StoreSchema.h"
 
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <unordered_map>
@@ -61,6 +62,10 @@ private:
     void bindShadow(SQLiteStatement& statement, int parameter, const StoreColumn& column, const StoreRow& row);
     void awaitTargets(const StoreTable& table, const std::vector<const StoreColumn*>& columns, const StoreRow& row);
     void writeLarge(const StoreTable& table, const std::vector<const StoreColumn*>& columns, const StoreRow& row);
+    /// Writes nil where the column names the target: in every row, or in one.
+    void clearColumn(
+        const StoreTable& table, const std::string& name, std::int64_t target, std::optional<std::int64_t> only);
+    void setVersion(const StoreTable& table, std::int64_t key, std::int64_t version);
     void rewriteShadows(const StoreTable& table, const std::vector<const StoreColumn*>& columns, const StoreRow& row);
     void writeSignatures(const StoreTable& table, const std::vector<const StoreColumn*>& columns, const StoreRow& row);
     bool exists(const StoreTable& table, std::int64_t key);

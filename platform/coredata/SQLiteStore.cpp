@@ -91,7 +91,8 @@ void SQLiteStore::refreshDerivedValues(const StoreMetadata& metadata)
     if (readOnly_) {
         usesShadows_ = isCurrent;
         hasSearchIndex_ = hasSearchTables(connection, schema_);
-    } else if (!isCurrent || !hasSearchTables(connection, schema_) || hasStaleShadows(connection, schema_)) {
+    } else if (!isCurrent || !hasSearchTables(connection, schema_) || !hasVersionTriggers(connection, schema_)
+        || hasStaleShadows(connection, schema_)) {
         write([&](SQLiteConnection& writer) {
             if (derivedValues_ == DerivedValues::Written)
                 foldStale(writer, schema_);
@@ -104,8 +105,11 @@ void SQLiteStore::refreshDerivedValues(const StoreMetadata& metadata)
 void SQLiteStore::followDerivedValues(SQLiteConnection& connection)
 {
     const std::int64_t version = connection.integerOf("PRAGMA data_version");
+    dataVersion_ = static_cast<std::uint64_t>(version);
     if (version == writerVersion_)
         return;
+    if (!hasVersionTriggers(connection, schema_))
+        addVersionTriggers(connection, schema_);
     if (!hasSearchTables(connection, schema_))
         addSearchTables(connection, schema_);
     const int stored = foldingVersionOf(readStoreMetadata(connection));
@@ -224,16 +228,19 @@ bool SQLiteStore::countRelated(
     });
 }
 
-std::uint64_t SQLiteStore::dataVersion()
+std::optional<std::uint64_t> SQLiteStore::dataVersion()
 {
-    // The writing connection's version moves for the commits of others only. While a transaction is open nobody else
-    // can commit, so the last answer still holds.
-    if (!pool_->turn().takeAtOnce())
+    // The writing connection's version moves for the commits of others only. While this thread's transaction is open
+    // nobody else can commit, so what it found at its beginning still holds.
+    if (pool_->turn().isMine())
         return dataVersion_;
-    reportingFailure(
-        nullptr, [&] { dataVersion_ = static_cast<std::uint64_t>(pool_->writer().integerOf("PRAGMA data_version")); });
+    if (!pool_->turn().takeAtOnce())
+        return std::nullopt;
+    const auto version = pool_->writer().dataVersionAtOnce();
+    if (version)
+        dataVersion_ = static_cast<std::uint64_t>(*version);
     pool_->turn().giveBack();
-    return dataVersion_;
+    return version ? std::optional<std::uint64_t>(dataVersion_) : std::nullopt;
 }
 
 std::string SQLiteStore::explain(const StoreFetch& fetch)

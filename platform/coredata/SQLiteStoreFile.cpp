@@ -4,6 +4,7 @@
 #include "platform/foundation/Folding.h"
 
 #include <functional>
+#include <utility>
 
 namespace tarn {
 
@@ -110,6 +111,30 @@ void foldStale(SQLiteConnection& connection, const StoreSchema& schema)
         connection.execute("UPDATE " + table + " SET " + shadow + " = fold(" + column + ") WHERE " + shadow
             + " IS NULL AND " + column + " IS NOT NULL");
     });
+}
+
+// Versions ------------------------------------------------------------------------------------------------------------
+
+bool hasVersionTriggers(SQLiteConnection& connection, const StoreSchema& schema)
+{
+    std::int64_t wanted = 0;
+    std::string names;
+    for (const auto& table : schema.tables())
+        for (const auto& [name, columns] :
+            {std::pair(table->name, &table->columns), std::pair(table->largeName, &table->largeColumns)})
+            if (!columns->empty()) {
+                names += (names.empty() ? "'" : ", '") + versionTriggerName(name) + "'";
+                ++wanted;
+            }
+    return wanted
+        == connection.integerOf(
+            "SELECT count(*) FROM sqlite_schema WHERE type = 'trigger' AND name IN (" + names + ")");
+}
+
+void addVersionTriggers(SQLiteConnection& connection, const StoreSchema& schema)
+{
+    for (const std::string& statement : schema.versionStatements())
+        connection.execute(statement);
 }
 
 // Checks --------------------------------------------------------------------------------------------------------------

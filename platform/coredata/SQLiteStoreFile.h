@@ -33,6 +33,11 @@ void foldAgain(SQLiteConnection& connection, const StoreSchema& schema);
 void foldStale(SQLiteConnection& connection, const StoreSchema& schema);
 bool hasStaleShadows(SQLiteConnection& connection, const StoreSchema& schema);
 
+/// Whether the triggers are there that count versions for programs that do not.
+bool hasVersionTriggers(SQLiteConnection& connection, const StoreSchema& schema);
+/// Makes those that are missing. Inside a transaction.
+void addVersionTriggers(SQLiteConnection& connection, const StoreSchema& schema);
+
 /// What is wrong with the file; nothing when it is sound.
 std::vector<std::string> problemsOfStoreFile(SQLiteConnection& connection, const StoreSchema& schema);
 

@@ -27,6 +27,11 @@ std::string shadowColumnName(const NSAttributeDescription& attribute)
     return attribute.name() + "_folded";
 }
 
+std::string versionTriggerName(const std::string& table)
+{
+    return table + "_version";
+}
+
 const std::string& SignatureTable::columnTable() const noexcept
 {
     return attribute->isLarge() ? table->largeName : table->name;
@@ -279,6 +284,24 @@ void addSignatureStatements(const SignatureTable& signature, std::vector<std::st
         "INSERT INTO " + signatures + " (\"pk\") VALUES (OLD.\"pk\"); " + note("OLD.\"pk\""));
 }
 
+/// Another program that changes a row knows nothing of its version; whoever holds the record would not notice. Nor
+/// would a writer of ours that changes the large part alone: it sets the version after that.
+void addVersionStatements(const StoreTable& table, std::vector<std::string>& all)
+{
+    const auto trigger = [&](const std::string& on, const std::vector<StoreColumn>& columns, const char* condition) {
+        std::string names;
+        for (const StoreColumn& column : columns)
+            names += (names.empty() ? "" : ", ") + quotedIdentifier(column.name);
+        if (!names.empty())
+            all.push_back("CREATE TRIGGER IF NOT EXISTS " + quotedIdentifier(versionTriggerName(on))
+                + " AFTER UPDATE OF " + names + " ON " + quotedIdentifier(on) + condition + " BEGIN UPDATE "
+                + quotedIdentifier(table.name)
+                + " SET \"rowVersion\" = \"rowVersion\" + 1 WHERE \"pk\" = NEW.\"pk\"; END");
+    };
+    trigger(table.name, table.columns, " WHEN NEW.\"rowVersion\" IS OLD.\"rowVersion\"");
+    trigger(table.largeName, table.largeColumns, "");
+}
+
 void addColumnIndexes(const StoreTable& table, std::vector<std::string>& all)
 {
     for (const StoreColumn& column : table.columns) {
@@ -336,8 +359,16 @@ std::vector<std::string> StoreSchema::creationStatements() const
         addColumnIndexes(*table, all);
         addCompositeIndexes(*table, *table->root, all);
     }
-    const std::vector<std::string> search = searchStatements();
-    all.insert(all.end(), search.begin(), search.end());
+    for (const auto& more : {versionStatements(), searchStatements()})
+        all.insert(all.end(), more.begin(), more.end());
+    return all;
+}
+
+std::vector<std::string> StoreSchema::versionStatements() const
+{
+    std::vector<std::string> all;
+    for (const auto& table : tables_)
+        addVersionStatements(*table, all);
     return all;
 }
 

@@ -83,6 +83,8 @@ inline bool hasShadowColumn(const NSAttributeDescription& attribute) noexcept
     return attribute.isFolded() && attribute.type() == NSAttributeType::String && !attribute.isLarge();
 }
 std::string shadowColumnName(const NSAttributeDescription& attribute);
+/// Of the trigger on this table that counts versions for programs that do not.
+std::string versionTriggerName(const std::string& table);
 /// Whether an attribute has a signature.
 inline bool hasSignature(const NSAttributeDescription& attribute) noexcept
 {
@@ -113,6 +115,9 @@ public:
     /// Those that a store of an earlier version of this library may lack: signatures and indexes of flags. Each does
     /// nothing where the thing exists already; they also make a stale signature for every row.
     std::vector<std::string> searchStatements() const;
+    /// The triggers that count the version of a row for programs that do not. Each does nothing where it exists
+    /// already.
+    std::vector<std::string> versionStatements() const;
 
 private:
     void addTable(const NSEntityDescription& root);

@@ -148,7 +148,7 @@ protected:
         library.populate(30);
         save();
         restart();
-        other_ = contextOn(coordinator_);
+        other_ = contextOn(theirs_ ? theirs_ : coordinator_);
         context_->setMergePolicy(NSMergePolicy::MergeByPropertyStoreTrump);
         other_->setMergePolicy(NSMergePolicy::MergeByPropertyStoreTrump);
         saved_ = NSNotificationCenter::defaultCenter().addObserver(
@@ -230,6 +230,7 @@ protected:
     }
 
     std::unique_ptr<NSManagedObjectContext> other_;
+    std::shared_ptr<NSPersistentStoreCoordinator> theirs_; ///< of the other context; null: the same one
 
 private:
     LogSink former_;
@@ -368,6 +369,78 @@ TEST_P(RemoteMergeDifferential, ARefreshedRecordAgreesWithTheOtherEnds)
             context_->refreshAllObjects();
             ASSERT_EQ(differences(snapshotOf(*context_), snapshotOfStore()), "") << "round " << round;
             other_->reset();
+        }
+    }
+}
+
+/// The same with two processes, as far as the store can tell: nobody says what was saved, the context notices.
+class OtherWritersDifferential : public RemoteMergeDifferential {
+protected:
+    void SetUp() override
+    {
+        RemoteMergeDifferential::SetUp();
+        theirs_ = open();
+    }
+    void TearDown() override
+    {
+        theirs_.reset();
+        RemoteMergeDifferential::TearDown();
+    }
+};
+INSTANTIATE_TEST_SUITE_P(Stores, OtherWritersDifferential, testing::Values(StoreType::SQLite), storeTypeName);
+
+TEST_P(OtherWritersDifferential, ACleanContextShowsTheStoreAfterAPass)
+{
+    for (unsigned seed = 201; seed <= 225; ++seed) {
+        SCOPED_TRACE(testing::Message() << "seed " << seed);
+        RandomLibrary library(*context_, seed);
+        begin(library);
+        for (int round = 0; round < 6; ++round) {
+            snapshotOf(*context_);
+            saveThere(library, 1 + library.below(6));
+            MainQueue::main().drain();
+
+            ASSERT_FALSE(context_->hasChanges()) << "round " << round;
+            // Before any fetch, which would bring rows by itself.
+            const Snapshot expected = snapshotOfStore();
+            for (const NSManagedObject* record : context_->registeredObjects()) {
+                const auto stored = expected.find(record->objectID().URIRepresentation());
+                ASSERT_EQ(record->isDeleted(), stored == expected.end()) << "round " << round;
+                if (!record->isDeleted()) {
+                    ASSERT_EQ(textOfRecord(*record), stored->second) << "round " << round;
+                }
+            }
+            ASSERT_EQ(differences(snapshotOf(*context_), expected), "") << "round " << round;
+        }
+    }
+}
+
+TEST_P(OtherWritersDifferential, AnEditedContextShowsTheStoreOnceItIsSavedOrRolledBack)
+{
+    for (unsigned seed = 301; seed <= 330; ++seed) {
+        SCOPED_TRACE(testing::Message() << "seed " << seed);
+        RandomLibrary library(*context_, seed);
+        begin(library);
+        for (int round = 0; round < 6; ++round) {
+            snapshotOf(*context_);
+            library.setContext(*context_);
+            library.change(library.below(6));
+            saveThere(library, 1 + library.below(6));
+            // At a fetch in the middle, at the pass, at both, or not before the save.
+            const std::size_t looks = library.below(4);
+            if (looks & 1U)
+                all("Shelf");
+            if (looks & 2U)
+                MainQueue::main().drain();
+            const bool isSaved = library.below(3) != 0;
+            if (isSaved)
+                save();
+            else
+                context_->rollback();
+            MainQueue::main().drain();
+
+            ASSERT_EQ(differences(snapshotOf(*context_), snapshotOfStore()), "")
+                << (isSaved ? "saved" : "rolled back") << " in round " << round << ", looks " << looks;
         }
     }
 }

@@ -1,0 +1,274 @@
+#include "platform/coredata/OtherWriters.h"
+
+#include "platform/coredata/ContextCore.h"
+#include "platform/coredata/RecordAccess.h"
+#include "platform/coredata/RemoteMerge.h"
+#include "platform/foundation/Log.h"
+#include "platform/foundation/NSNotificationCenter.h"
+
+#include <algorithm>
+#include <bit>
+#include <utility>
+
+namespace tarn {
+
+namespace {
+
+/// Ends of relationships that are compared with the store one by one; records with further ones are read again.
+constexpr std::size_t kMostComparedEnds = 1000;
+
+/// More rows than these are not looked up one by one where most of the table is wanted.
+constexpr std::size_t kMostLookedUp = 1000;
+
+using Keys = std::vector<std::int64_t>;
+
+/// To-ones without a column of their own that were read and are as they were read.
+PropertyMask readInverseToOnes(const NSManagedObject& record)
+{
+    const NSEntityDescription& entity = record.entity();
+    return entity.inverseColumnMask() & ~entity.toManyMask() & RecordAccess::values(record).loadedMask()
+        & ~RecordAccess::changed(record);
+}
+
+bool holdsEndsWithoutColumn(const NSManagedObject& record)
+{
+    const RecordDetails* details = RecordAccess::detailsIfAny(record);
+    const auto isLoaded = [](const auto& set) { return set->isLoaded(); };
+    return readInverseToOnes(record) != 0
+        || (details && std::any_of(details->toManySets.begin(), details->toManySets.end(), isLoaded));
+}
+
+/// The members that the store had when the set was read.
+Keys storedMembers(ToManySet& set)
+{
+    std::unordered_set<const NSManagedObject*> added(set.added().begin(), set.added().end());
+    Keys keys;
+    for (const NSManagedObject* member : set.members())
+        if (!added.contains(member))
+            keys.push_back(member->objectID().key());
+    for (const NSManagedObject* member : set.removed())
+        keys.push_back(member->objectID().key());
+    std::sort(keys.begin(), keys.end());
+    return keys;
+}
+
+Keys keysOf(const std::vector<RelatedKey>& related)
+{
+    Keys keys;
+    for (const RelatedKey& one : related)
+        keys.push_back(one.key);
+    return keys;
+}
+
+} // namespace
+
+void OtherWriters::begin()
+{
+    const NSPersistentStoreCoordinator* coordinator = core_.coordinator.get();
+    const bool hasStore = coordinator && coordinator->persistentStore();
+    seenVersion_ = hasStore ? coordinator->persistentStore()->dataVersion().value_or(0) : 0;
+}
+
+// When to look --------------------------------------------------------------------------------------------------------
+
+bool OtherWriters::hasMoved()
+{
+    const std::uint64_t commits = core_.store().commitsMet();
+    const auto version = core_.store().dataVersion();
+    if (!version)
+        return false; // somebody writes at this moment: the next look asks again
+    seenCommits_ = commits;
+    if (version == seenVersion_)
+        return false;
+    seenVersion_ = version;
+    hasNotice_ = true;
+    return true;
+}
+
+void OtherWriters::lookAfterFetch()
+{
+    if (!seenVersion_ || isLooking_ || core_.isSaving || core_.store().commitsMet() == seenCommits_)
+        return;
+    if (hasMoved())
+        catchUp({.unsaved = true, .handedOut = true});
+}
+
+void OtherWriters::lookUnderLock()
+{
+    if (seenVersion_ && !core_.isSaving && (hasMoved() || isBehind_))
+        catchUp({.unsaved = true});
+}
+
+void OtherWriters::lookAtEndOfPass()
+{
+    forgetTextsRead();
+    const bool isFree = seenVersion_ && !isLooking_ && !core_.isSaving && !core_.exclusiveTransaction
+        && core_.coordinator && core_.coordinator->persistentStore();
+    if (isFree && (hasMoved() || isBehind_))
+        catchUp({});
+}
+
+void OtherWriters::noteTextRead(const NSManagedObject& record)
+{
+    if (seenVersion_ && RecordAccess::markHandedOut(record))
+        handedOut_.push_back(&record);
+}
+
+void OtherWriters::forgetTextsRead()
+{
+    for (const NSManagedObject* record : std::exchange(handedOut_, {}))
+        RecordAccess::unmarkHandedOut(*record);
+}
+
+void OtherWriters::tell()
+{
+    if (std::exchange(hasNotice_, false))
+        NSNotificationCenter::defaultCenter().postNotification(
+            NSManagedObjectContextStoreDidChangeElsewhereNotification, &core_.context);
+}
+
+// What is new ---------------------------------------------------------------------------------------------------------
+
+void OtherWriters::catchUp(Reserve reserve)
+{
+    isLooking_ = true;
+    isBehind_ = false;
+    core_.scheduleProcessing();
+    RemoteChanges changes;
+    if (const auto found = news(reserve)) {
+        for (const NSManagedObject* record : found->moved)
+            changes.updated.push_back(record->objectID());
+        for (const NSManagedObject* record : found->gone)
+            changes.deleted.push_back(record->objectID());
+        RemoteMerge(core_).take(changes);
+    }
+    isLooking_ = false;
+    if (isBehind_)
+        core_.queue().runAtEndOfPass(this, [this] {
+            lookAtEndOfPass();
+            core_.processPendingChanges();
+        });
+}
+
+std::optional<OtherWriters::News> OtherWriters::news(Reserve reserve)
+{
+    std::unordered_map<const NSEntityDescription*, std::vector<NSManagedObject*>> held;
+    for (NSManagedObject* record : core_.registry.objects())
+        if (!record->isFault() && !record->isDeleted() && !record->isInserted())
+            held[&record->entity().rootEntity()].push_back(record);
+    News found;
+    for (auto& [root, records] : held)
+        if (!compareVersions(*root, records, found) || !compareRelationships(records, found))
+            return std::nullopt;
+    const auto waits = [&](const NSManagedObject* record) {
+        const bool isReserved
+            = (reserve.unsaved && record->hasChanges()) || (reserve.handedOut && RecordAccess::isHandedOut(*record));
+        isBehind_ = isBehind_ || isReserved;
+        return isReserved;
+    };
+    std::erase_if(found.moved, waits);
+    // What an edit is about to name must not vanish under it.
+    const bool areAllReserved = reserve.unsaved && !found.gone.empty() && core_.tracker.hasChanges();
+    isBehind_ = isBehind_ || areAllReserved;
+    if (areAllReserved)
+        found.gone.clear();
+    std::erase_if(found.gone, waits);
+    return found;
+}
+
+bool OtherWriters::compareVersions(
+    const NSEntityDescription& root, const std::vector<NSManagedObject*>& records, News& news)
+{
+    std::vector<std::pair<std::int64_t, NSManagedObject*>> held;
+    held.reserve(records.size());
+    for (NSManagedObject* record : records)
+        held.emplace_back(record->objectID().key(), record);
+    std::sort(held.begin(), held.end());
+    std::vector<StoreRow> rows;
+    NSError error;
+    if (!readVersions(root, held, rows, &error)) {
+        logMessage("Error while looking for what others saved\n" + error.localizedDescription());
+        return false;
+    }
+    auto row = rows.begin();
+    for (const auto& [key, record] : held) {
+        while (row != rows.end() && row->key < key)
+            ++row;
+        if (row == rows.end() || row->key != key)
+            news.gone.push_back(record);
+        else if (row->version != record->rowVersion())
+            news.moved.push_back(record);
+    }
+    return true;
+}
+
+/// By key, ascending. Where most rows are held, walking through the table takes half the time of looking each one up.
+bool OtherWriters::readVersions(const NSEntityDescription& root,
+    const std::vector<std::pair<std::int64_t, NSManagedObject*>>& held, std::vector<StoreRow>& rows,
+    NSError* error) const
+{
+    const auto highest = static_cast<std::size_t>(held.back().first);
+    if (held.size() > kMostLookedUp && held.size() > highest / 2) {
+        StoreFetch all;
+        all.entity = &root;
+        all.contents = RowContents::Keys;
+        return core_.store().fetch(all, rows, error); // an unsorted fetch answers by key
+    }
+    Keys keys;
+    keys.reserve(held.size());
+    for (const auto& [key, record] : held)
+        keys.push_back(key);
+    return core_.store().rowsForKeys(root, keys, RowContents::Keys, rows, error);
+}
+
+/// What changed through joins, or through columns of other rows, leaves the version of a row as it was.
+bool OtherWriters::compareRelationships(const std::vector<NSManagedObject*>& records, News& news)
+{
+    std::unordered_set<const NSManagedObject*> known(news.moved.begin(), news.moved.end());
+    known.insert(news.gone.begin(), news.gone.end());
+    std::size_t compared = 0;
+    for (NSManagedObject* record : records) {
+        if (!holdsEndsWithoutColumn(*record) || known.contains(record))
+            continue;
+        const auto differs = ++compared > kMostComparedEnds ? true : hasOtherMembers(*record);
+        if (!differs)
+            return false;
+        if (*differs)
+            news.moved.push_back(record);
+    }
+    return true;
+}
+
+/// None, and a line in the log, when the store cannot be read.
+std::optional<bool> OtherWriters::hasOtherMembers(NSManagedObject& record)
+{
+    std::vector<RelatedKey> related;
+    NSError error;
+    const auto read = [&](const NSRelationshipDescription& relationship) {
+        if (core_.store().relatedKeys(relationship, record.objectID().key(), related, &error))
+            return true;
+        logMessage("Error while looking for what others saved\n" + error.localizedDescription());
+        return false;
+    };
+    if (const RecordDetails* details = RecordAccess::detailsIfAny(record)) {
+        for (const auto& set : details->toManySets) {
+            if (!set->isLoaded())
+                continue;
+            if (!read(set->relationship()))
+                return std::nullopt;
+            if (keysOf(related) != storedMembers(*set))
+                return true;
+        }
+    }
+    for (PropertyMask rest = readInverseToOnes(record); rest != 0; rest &= rest - 1) {
+        const auto index = static_cast<PropertyIndex>(std::countr_zero(rest));
+        if (!read(static_cast<const NSRelationshipDescription&>(record.entity().property(index))))
+            return std::nullopt;
+        const PropertyValues& values = RecordAccess::values(record);
+        if (keysOf(related) != (values.isNil(index) ? Keys{} : Keys{values.integer(index)}))
+            return true;
+    }
+    return false;
+}
+
+} // namespace tarn
