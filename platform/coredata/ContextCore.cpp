@@ -17,7 +17,7 @@ constexpr std::int64_t keyBlockSize = 64;
 } // namespace
 
 ContextCore::ContextCore(NSManagedObjectContext& owner, NSManagedObjectContext::ConcurrencyType type)
-    : context(owner), faulting(*this), relationships(*this), otherWriters(*this),
+    : context(owner), faulting(*this), relationships(*this), otherWriters(*this), observedValues(*this),
       privateQueue_(type == NSManagedObjectContext::ConcurrencyType::PrivateQueue
               ? SerialQueue::make("NSManagedObjectContext")
               : nullptr),
@@ -290,6 +290,7 @@ void ContextCore::processPendingChanges()
     if (isPosting_)
         return;
     otherWriters.tell();
+    observedValues.tell();
     if (!tracker.hasEvent())
         return;
     publish();
@@ -376,6 +377,7 @@ void ContextCore::reset()
     fromChildren_.clear();
     publish();
     otherWriters.reset();
+    observedValues.reset();
     faulting.clear();
     relationships.clear();
     ++resetCount_;

@@ -5,6 +5,7 @@
 #include "platform/coredata/NSManagedObjectContext.h"
 #include "platform/coredata/NSPersistentStoreCoordinator.h"
 #include "platform/coredata/ObjectRegistry.h"
+#include "platform/coredata/ObservedValues.h"
 #include "platform/coredata/OtherWriters.h"
 #include "platform/coredata/ParentLink.h"
 #include "platform/coredata/PendingIndex.h"
@@ -32,6 +33,7 @@ public:
     RelationshipMaintenance relationships;
     /// At rest in a child: its parent looks.
     OtherWriters otherWriters;
+    ObservedValues observedValues;
 
     std::shared_ptr<NSPersistentStoreCoordinator> coordinator;
     NSMergePolicy mergePolicy = NSMergePolicy::Error;

@@ -140,7 +140,7 @@ NSManagedObject& Faulting::adopt(StoreRow row)
 
 void Faulting::takeRow(NSManagedObject& object, StoreRow row)
 {
-    const PropertyValues before = std::move(RecordAccess::values(object));
+    const PropertyValues before = RecordAccess::takeValues(object);
     RecordAccess::fill(object, std::move(row.values), row.version);
     core_.relationships.followRow(object, before);
 }

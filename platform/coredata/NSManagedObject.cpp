@@ -453,6 +453,21 @@ std::set<std::string> NSManagedObject::keysAffectingValueForKey(std::string_view
     return attribute && attribute->isScalar() ? std::set<std::string>{std::string(base)} : std::set<std::string>();
 }
 
+void RecordAccess::keepObserved(const NSManagedObject& object)
+{
+    object.core().observedValues.keep(object);
+}
+
+bool RecordAccess::isObserved(const NSManagedObject& object, const std::string& key)
+{
+    const auto hears = [&](const auto& registration) {
+        return registration->active
+            && (registration->key == key || object.keysAffectingValueForKey(registration->key).contains(key));
+    };
+    const RecordDetails* details = detailsIfAny(object);
+    return details && std::any_of(details->observers.begin(), details->observers.end(), hears);
+}
+
 void NSManagedObject::tellObservers(std::string_view key)
 {
     if (!details_ || details_->observers.empty())

@@ -99,6 +99,8 @@ public:
     // Key-value observation -------------------------------------------------------------------------------------------
     using Observer = std::function<void(NSManagedObject& record, std::string_view key)>;
     /// Calls `observer` after every write of the key, also when the value stays the same; "xValue" hears of "x".
+    /// Also after a merge, a refresh or a rollback that brought another value (of a to-many: that may have brought
+    /// other members), once all values are there; what a fetch brings is told when changes are processed next.
     [[nodiscard]] KeyValueObservation addObserver(std::string_view key, Observer observer);
     /// The keys whose change means that `key` changed too.
     virtual std::set<std::string> keysAffectingValueForKey(std::string_view key) const;

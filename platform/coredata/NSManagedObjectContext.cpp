@@ -205,6 +205,7 @@ bool NSManagedObjectContext::save(NSError* error)
 void NSManagedObjectContext::rollback()
 {
     core_->rollback();
+    core_->observedValues.tell();
 }
 
 bool NSManagedObjectContext::performExclusive(const std::function<void()>& block, NSError* error)
@@ -243,11 +244,13 @@ void NSManagedObjectContext::mergeChangesFromRemoteContextSave(
 void NSManagedObjectContext::refreshObject(NSManagedObject& object, bool mergeChanges)
 {
     core_->refresh(object, mergeChanges);
+    core_->observedValues.tell();
 }
 
 void NSManagedObjectContext::refreshAllObjects()
 {
     core_->refreshAll();
+    core_->observedValues.tell();
 }
 
 void NSManagedObjectContext::reset()

@@ -64,16 +64,32 @@ public:
     static void markGone(NSManagedObject& object);
     static void markFault(const NSManagedObject& object)
     {
+        keepForObservers(object);
         object.flags_ |= NSManagedObject::Fault;
         object.values_ = PropertyValues();
     }
     static void fill(const NSManagedObject& object, PropertyValues values, std::int64_t version)
     {
+        keepForObservers(object);
         auto& record = const_cast<NSManagedObject&>(object);
         record.values_ = std::move(values);
         record.rowVersion_ = version;
         record.flags_ &= ~std::uint32_t{NSManagedObject::Fault};
     }
+    /// Before values are replaced other than by a setter: observers hear when changes are processed next.
+    static void keepForObservers(const NSManagedObject& object)
+    {
+        if (object.details_ && !object.details_->observers.empty())
+            keepObserved(object);
+    }
+    /// What a record held, before it is filled anew.
+    static PropertyValues takeValues(const NSManagedObject& object)
+    {
+        keepForObservers(object);
+        return std::move(object.values_);
+    }
+    /// Whether somebody observes the key, or one that depends on it.
+    static bool isObserved(const NSManagedObject& object, const std::string& key);
     static void tellObservers(NSManagedObject& object, std::string_view key) { object.tellObservers(key); }
     static void setRowVersion(NSManagedObject& object, std::int64_t version) { object.rowVersion_ = version; }
     static void setObjectID(NSManagedObject& object, const NSManagedObjectID& objectID) { object.objectID_ = objectID; }
@@ -82,6 +98,9 @@ public:
     {
         const_cast<NSManagedObject&>(object).order_ = order;
     }
+
+private:
+    static void keepObserved(const NSManagedObject& object);
 };
 
 } // namespace tarn

@@ -293,8 +293,10 @@ void RelationshipMaintenance::forgetGone(NSManagedObject& record)
     if (RecordDetails* details = RecordAccess::detailsIfAny(record)) {
         for (const auto& set : details->toManySets) {
             const auto& members = set->members_.values();
-            if (std::any_of(members.begin(), members.end(), isGone))
+            if (std::any_of(members.begin(), members.end(), isGone)) {
+                RecordAccess::keepForObservers(record);
                 set->forgetStored();
+            }
             set->added_.eraseIf(isGone);
             set->removed_.eraseIf(isGone);
         }
@@ -320,6 +322,7 @@ void RelationshipMaintenance::dropReferences(const KeysOfEntities& gone)
             if (relationship->isToMany())
                 continue;
             if (namesGone(RecordAccess::values(*record), *relationship)) {
+                RecordAccess::keepForObservers(*record);
                 RecordAccess::values(*record).setNil(relationship->index());
                 isRefreshed = true;
             }

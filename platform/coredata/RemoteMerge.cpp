@@ -97,7 +97,7 @@ void RemoteMerge::take(NSManagedObject& record, StoreRow row)
     if (!isEdited) {
         if (RecordDetails* details = RecordAccess::detailsIfAny(record); details && details->changed)
             details->committed = row.values;
-        const PropertyValues before = std::move(RecordAccess::values(record));
+        const PropertyValues before = RecordAccess::takeValues(record);
         RecordAccess::fill(record, std::move(row.values), row.version);
         core_.relationships.followRow(record, before);
         core_.noteRefreshed(record);
