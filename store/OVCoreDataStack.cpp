@@ -2,6 +2,7 @@
 
 #include "files/OVLocalFileManager.h"
 #include "model/ManagedObjectModel.h"
+#include "platform/coredata/NSPersistentStore.h"
 #include "platform/foundation/Log.h"
 #include "platform/foundation/NSException.h"
 
@@ -13,6 +14,7 @@ namespace {
 
 constexpr std::string_view kStoreFileName = "database.sqlite";
 constexpr long kNeedsMigrationCode = 1;
+constexpr int kMostSavesBeforeAWrite = 3;
 constexpr std::string_view kNeedsMigration = "The database need migration, open the main application";
 
 } // namespace
@@ -184,16 +186,54 @@ void OVCoreDataStack::save()
     if (!managedObjectContext_)
         return;
     NSError error;
-    bool saved = true;
-    managedObjectContext_->performBlockAndWait([&] {
-        if (managedObjectContext_->hasChanges())
-            saved = managedObjectContext_->save(&error);
-    });
-    if (saved)
-        return;
+    managedObjectContext_->performBlockAndWait([&] { saveChanges(error); });
+}
+
+/// A failure goes to the log and the delegate.
+bool OVCoreDataStack::saveChanges(NSError& error)
+{
+    if (!managedObjectContext_->hasChanges() || managedObjectContext_->save(&error))
+        return true;
     logMessage("Error while saving\n" + error.localizedDescription());
     if (OVCoreDataStackDelegate* const listener = delegate())
         listener->coreDataStackDidFailToSave(*this, error);
+    return false;
+}
+
+bool OVCoreDataStack::write(const std::function<void(NSManagedObjectContext&)>& block, NSError* error)
+{
+    if (!managedObjectContext_) {
+        assignError(error, NSError(TarnStoreErrorDomain, StoreErrorCannotOpen, "The store is not open."));
+        return false;
+    }
+    bool isWritten = false;
+    NSError failure;
+    managedObjectContext_->performBlockAndWait([&] { isWritten = writeUnderLock(block, failure); });
+    if (!isWritten)
+        assignError(error, failure);
+    return isWritten;
+}
+
+bool OVCoreDataStack::writeUnderLock(const std::function<void(NSManagedObjectContext&)>& block, NSError& error)
+{
+    NSManagedObjectContext& context = *managedObjectContext_;
+    if (isWriting_) {
+        block(context);
+        return true;
+    }
+    // Before the lock: what meets changes of others is merged as in any save, so the block starts from what the store
+    // has, and whatever becomes of it takes nothing else along. Observers of the save may leave changes again.
+    for (int round = 0; round < kMostSavesBeforeAWrite && context.hasChanges(); ++round)
+        if (!saveChanges(error))
+            return false;
+    isWriting_ = true;
+    const auto end = [this](void*) { isWriting_ = false; };
+    const std::unique_ptr<void, decltype(end)> ending(this, end);
+    if (context.performExclusive([&] { block(context); }, &error))
+        return true;
+    logMessage("Error while writing\n" + error.localizedDescription());
+    context.rollback();
+    return false;
 }
 
 // The store -----------------------------------------------------------------------------------------------------------

@@ -75,6 +75,15 @@ public:
     /// however often it is asked for in this one. A failure goes to the log and the delegate; the changes stay.
     void saveUsingCoalescence(bool coalescence);
     void coalescenceSaveTimerFired();
+    /// Reads, changes and saves in one piece, which no other process or thread can come between: the way for small
+    /// changes to what others change too, such as a line for a note.
+    ///
+    /// Saves what the main context has unsaved; takes the store's lock; brings the context's records up to date; calls
+    /// `block` with the context and saves what it did. False and an error when one of these fails; then nothing of the
+    /// block is left, and what was unsaved before is saved, or still there. An exception of the block takes back what
+    /// it did and is raised again. A call, or a save, inside the block joins it. Waits up to 30 seconds for other
+    /// writers.
+    bool write(const std::function<void(NSManagedObjectContext&)>& block, NSError* error = nullptr);
     /// The pending save, or none.
     const std::optional<Timer>& coalescenceSaveTimer() const noexcept { return coalescenceSaveTimer_; }
 
@@ -117,6 +126,8 @@ private:
     void waitForMigration();
     void runInBackground(std::function<void(NSManagedObjectContext&)> block);
     void save();
+    bool saveChanges(NSError& error);
+    bool writeUnderLock(const std::function<void(NSManagedObjectContext&)>& block, NSError& error);
     void tellOfConflict(const MergeConflict& conflict);
 
     WeakReference<OVCoreDataStackDelegate> delegate_;
@@ -124,6 +135,7 @@ private:
     std::shared_ptr<NSManagedObjectContext> managedObjectContext_; ///< shared with tasks in the background alone
     std::unique_ptr<NSManagedObjectContext> inMemoryManagedObjectContext_;
     std::optional<Timer> coalescenceSaveTimer_;
+    bool isWriting_ = false;                      ///< in the block of a `write`
     std::shared_ptr<SerialQueue> migrationQueue_; ///< while a migration is under way
 };
 

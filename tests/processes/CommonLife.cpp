@@ -153,7 +153,6 @@ private:
                 [&] {
                     OVNote* note = OVNote::noteWithTitle(title, life_.context());
                     require(note != nullptr, NSError("", 0, "a shared note is gone"));
-                    life_.context().refreshObject(*note, false);
                     note->appendNoteWithText(line);
                 },
                 &error);

@@ -176,5 +176,40 @@ TEST_F(CommonStore, LosesNothingOfAnApplicationAndAnExtensionThatWriteWhileOther
     EXPECT_THAT(folder_.otherFiles(), IsEmpty());
 }
 
+TEST(ManyPrograms, ThatAppendToOneNoteThroughTheirStacksKeepEachLine)
+{
+    const StoreFolder folder;
+    {
+        SharedStore store(folder.file(), StoreRole::Application);
+        ASSERT_TRUE(store) << store.error();
+        OVNote::noteWithText("# Groceries", store.context());
+        NSError error;
+        ASSERT_TRUE(store.context().save(&error)) << error;
+    }
+    constexpr int kPrograms = 30;
+    std::vector<WorkerProcess> programs;
+    std::set<std::string> expected;
+    for (int number = 1; number <= kPrograms; ++number) {
+        const std::string line = "- item " + std::to_string(number);
+        expected.insert(line);
+        programs.emplace_back(std::vector<std::string>{"append", folder.file().parent_path().string(), line});
+    }
+    for (WorkerProcess& program : programs) {
+        const WorkerResult result = program.finish();
+        EXPECT_EQ(result.exitCode, 0) << result.output;
+        EXPECT_EQ(result.output, "") << "no conflict is logged";
+    }
+
+    SharedStore store(folder.file(), StoreRole::Application);
+    ASSERT_TRUE(store) << store.error();
+    std::istringstream text(OVNote::noteWithTitle("Groceries", store.context())->text().value_or(""));
+    std::set<std::string> found;
+    for (std::string line; std::getline(text, line);)
+        if (line.starts_with("- ")) {
+            EXPECT_TRUE(found.insert(line).second) << line;
+        }
+    EXPECT_EQ(found, expected);
+}
+
 } // namespace
 } // namespace tarn

@@ -1,5 +1,7 @@
 #include "tests/processes/Worker.h"
 
+#include "files/OVLocalFileManager.h"
+#include "store/OVCoreDataStackForExtensions.h"
 #include "tests/processes/CommonLife.h"
 #include "tests/processes/KnownWorld.h"
 #include "tests/processes/SharedStore.h"
@@ -44,6 +46,24 @@ void open(Arguments arguments)
     std::cout << disk.operations();
 }
 
+/// append FOLDER LINE: a program that adds one line to the note "Groceries", as an extension.
+void append(Arguments arguments)
+{
+    OVLocalFileManager::setApplicationPersistentDataTestURL(std::filesystem::path(arguments[0]));
+    MainQueue::main();
+    NSError error;
+    const auto stack = OVCoreDataStackForExtensions::initStackOutputError(&error);
+    require(stack != nullptr, error);
+    const bool isWritten = stack->write(
+        [&](NSManagedObjectContext& context) {
+            OVNote* note = OVNote::noteWithTitle("Groceries", context);
+            require(note != nullptr, NSError("", 0, "the note is gone"));
+            note->appendNoteWithText(arguments[1]);
+        },
+        &error);
+    require(isWritten, error);
+}
+
 struct Part {
     std::string_view name;
     std::size_t arguments;
@@ -55,6 +75,7 @@ constexpr std::array kParts{
     Part{"application", 3, liveAsApplication},
     Part{"extension", 3, liveAsExtension},
     Part{"reader", 3, liveAsReader},
+    Part{"append", 2, append},
 };
 
 } // namespace
