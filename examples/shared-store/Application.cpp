@@ -10,21 +10,28 @@ namespace {
 
 class Application : public OVCoreDataStackDelegate {
 public:
-    void coreDataStackDidInitializeManagedObjectContext(OVCoreDataStack&, NSManagedObjectContext& context) override
+    void coreDataStackDidInitializeManagedObjectContext(
+        OVCoreDataStack& stack, NSManagedObjectContext& context) override
     {
         context_ = &context;
-        OVNote* note = OVNote::noteWithTitle("Groceries", context);
-        if (!note)
-            note = OVNote::noteWithText("# Groceries\n\n- [x] pears", context);
+        OVNote* note = nullptr;
+        NSError error;
+        // Looking and making in one piece: two applications that start at once make one note.
+        const auto findOrMake = [&](NSManagedObjectContext&) {
+            note = OVNote::noteWithTitle("Groceries", context);
+            if (!note)
+                note = OVNote::noteWithText("# Groceries\n\n- [x] pears", context);
+        };
+        if (!stack.write(findOrMake, &error)) {
+            coreDataStackDidFailToInitializeManagedObjectContext(stack, error);
+            return;
+        }
         // As an editor or a list would, which shows the note.
         observer_ = OVManagedObjectObserver::observerForManagedObject(
             *note, {{"text"}}, {}, [this, note](const auto&, const auto&, bool refreshed) {
                 if (refreshed)
                     noteWasChangedElsewhere(*note);
             });
-        NSError error;
-        if (!context.save(&error))
-            coreDataStackDidFailToInitializeManagedObjectContext(OVCoreDataStack::sharedStack(), error);
     }
 
     void coreDataStackDidFailToInitializeManagedObjectContext(OVCoreDataStack&, const NSError& error) override
@@ -33,8 +40,9 @@ public:
         end_ = NoStore;
     }
 
-    /// What others have saved. When to look is up to the application: here at each turn of its loop; a real one does it
-    /// when it comes to the front, or when something tells it that there are news.
+    /// What extensions have saved. That the store was changed the context notices by itself; the queue says what was
+    /// inserted as well, and somebody has to empty it. When is up to the application: here at each turn of its loop; a
+    /// real one does it when it comes to the front, or when something tells it that there are news.
     void lookForNews()
     {
         if (!context_ || !OVExternalChanges::mergeExternalChangesInManagedObjectContext(*context_))

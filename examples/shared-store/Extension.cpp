@@ -22,9 +22,10 @@ ExitCode runExtension()
     if (!MainQueue::main().runUntil(isThere, std::chrono::seconds(10)))
         return NothingHeard;
 
-    note->appendNoteWithText("- [ ] plums");
-    // One transaction: the note, the news for the application, and the entry in the change log.
-    if (!context.save(&error)) {
+    // Under the store's lock from the reading of the text to its saving, so no line of another program gets lost. One
+    // transaction: the note, the news for the application, and the entry in the change log.
+    const auto addPlums = [&](NSManagedObjectContext&) { note->appendNoteWithText("- [ ] plums"); };
+    if (!stack->write(addPlums, &error)) {
         std::cerr << error << '\n';
         return NoStore;
     }

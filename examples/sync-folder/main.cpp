@@ -13,6 +13,7 @@
 #include "examples/sync-folder/SyncEngine.h"
 
 #include <cstdint>
+#include <functional>
 #include <iostream>
 #include <span>
 
@@ -53,30 +54,41 @@ void list(NSManagedObjectContext& context)
     }
 }
 
+void synchroniseWith(const FolderServer& server, SyncEngine& engine)
+{
+    if (!synchronise(engine, [&](const Request& request) { return server.answer(request); }))
+        throw std::runtime_error("the server and this device do not come to an end");
+    const SyncCounts& counts = engine.counts();
+    std::cout << "sent " << counts.sent << ", received " << counts.received << ", conflicts " << counts.conflicts
+              << '\n';
+}
+
 /// False for a command that there is not.
 bool run(const FolderServer& server, NSManagedObjectContext& context, std::span<char* const> words)
 {
     SyncEngine engine(context);
     const std::string_view command = words[0];
+    // Under the store's lock from the first look to the save, so that nothing of another program is written over.
+    const auto edit = [&](const std::function<void()>& change) {
+        NSError error;
+        if (!context.performExclusive(change, &error))
+            throw std::runtime_error(error.localizedDescription());
+    };
     if (command == "sync" && words.size() == 1) {
-        if (!synchronise(engine, [&](const Request& request) { return server.answer(request); }))
-            throw std::runtime_error("the server and this device do not come to an end");
-        const SyncCounts& counts = engine.counts();
-        std::cout << "sent " << counts.sent << ", received " << counts.received << ", conflicts " << counts.conflicts
-                  << '\n';
+        synchroniseWith(server, engine);
+        NSError error;
+        if (!context.save(&error))
+            throw std::runtime_error(error.localizedDescription());
     } else if (command == "new" && words.size() == 2)
-        OVNote::noteWithText(words[1], context);
+        edit([&] { OVNote::noteWithText(words[1], context); });
     else if (command == "append" && words.size() == 3)
-        noteNamed(words[1], context).appendNoteWithText(words[2]);
+        edit([&] { noteNamed(words[1], context).appendNoteWithText(words[2]); });
     else if (command == "delete" && words.size() == 2)
-        engine.deleteNote(noteNamed(words[1], context));
+        edit([&] { engine.deleteNote(noteNamed(words[1], context)); });
     else if (command == "list" && words.size() == 1)
         list(context);
     else
         return false;
-    NSError error;
-    if (!context.save(&error))
-        throw std::runtime_error(error.localizedDescription());
     return true;
 }
 
