@@ -1,6 +1,7 @@
 #include "platform/coredata/ContextCore.h"
 
 #include "platform/coredata/RecordAccess.h"
+#include "platform/coredata/StoreCatchUp.h"
 #include "platform/foundation/NSException.h"
 #include "platform/foundation/NSNotificationCenter.h"
 
@@ -76,6 +77,16 @@ void ContextCore::publish()
         link_->publish();
     else
         link_.reset();
+}
+
+bool ContextCore::catchUp(const StoreTransaction& transaction, NSError* error)
+{
+    if (knownState == transaction.stateNumber())
+        return true;
+    if (!StoreCatchUp(*this).run(error))
+        return false;
+    knownState = transaction.stateNumber();
+    return true;
 }
 
 // Records -------------------------------------------------------------------------------------------------------------

@@ -46,10 +46,15 @@ public:
     /// save or rollback.
     bool holdsMergedRelationships = false;
 
+    /// The state of the store up to which this context has caught up; none when it has yet to.
+    std::optional<std::uint64_t> knownState;
+
     /// Set for a child: the parent, as a store.
     std::shared_ptr<NSPersistentStore> parentStore;
     NSManagedObjectContext* parentContext = nullptr;
 
+    /// Brings this context in step with what others have saved since it last did, if anything. Under the lock.
+    bool catchUp(const StoreTransaction& transaction, NSError* error);
     /// The parent's view for a child. Raises `NSInternalInconsistencyException` when the context has no store.
     NSPersistentStore& store() const;
     /// Begins to look for what others write to the coordinator's store: from now on, at each pass of a main queue.
@@ -134,7 +139,6 @@ private:
     };
     void discardChanges(NSManagedObject& object);
     void readBelowChanges(NSManagedObject& object);
-    void mergeBelowChanges(NSManagedObject& object, StoreRow row);
     void cancelInsertion(NSManagedObject& object);
     const PropertyValues& defaultValues(const NSEntityDescription& entity);
     bool takeKey(const NSEntityDescription& root, std::int64_t& key, NSError* error);

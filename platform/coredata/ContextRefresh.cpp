@@ -67,36 +67,24 @@ void ContextCore::readBelowChanges(NSManagedObject& object)
     std::vector<StoreRow> rows;
     if (!read(RowContents::Row, rows))
         return;
+    MergeConflicts conflicts(*this, MergeSide::Context);
     const bool hasMoved = !rows.empty() && rows.front().version != object.rowVersion();
     if (hasMoved && !read(RowContents::WholeRow, rows))
         return;
     if (rows.empty()) {
-        logMessage(
-            "Another writer deleted " + object.objectID().URIRepresentation() + "; its unsaved changes were dropped");
+        conflicts.noteDeletedElsewhere(object);
         noteGone(object);
         relationships.dropReferences({{&object.entity().rootEntity(), {object.objectID().key()}}});
+        conflicts.tell();
         return;
     }
     relationships.forgetOtherEnds(object);
     if (hasMoved)
-        mergeBelowChanges(object, std::move(rows.front()));
+        conflicts.mergeRow(object, std::move(rows.front()));
     relationships.forgetEndsWithoutColumn(object);
     noteRefreshed(object);
-}
-
-void ContextCore::mergeBelowChanges(NSManagedObject& object, StoreRow row)
-{
-    const PropertyValues before = RecordAccess::values(object);
-    RecordDetails& details = RecordAccess::details(object);
-    const NSEntityDescription& entity = object.entity();
-    // What was set at an end whose column is the other one's says nothing of this row.
-    const PropertyMask ends = details.changed & entity.inverseColumnMask() & ~entity.toManyMask();
-    mergeRowIntoRecord(*this, object, std::move(row), MergeWinner::Context);
-    for (PropertyMask rest = ends; rest != 0; rest &= rest - 1)
-        RecordAccess::values(object).assign(static_cast<PropertyIndex>(std::countr_zero(rest)), before);
-    details.changed |= ends;
-    pendingIndex.touch(object, ~PropertyMask{0});
-    relationships.followRow(object, before);
+    conflicts.awakeRecords();
+    conflicts.tell();
 }
 
 } // namespace tarn

@@ -4,6 +4,7 @@
 #include "platform/coredata/NSPersistentStore.h"
 #include "platform/coredata/WriterTurn.h"
 
+#include <atomic>
 #include <functional>
 #include <memory>
 #include <mutex>
@@ -29,6 +30,7 @@ public:
         NSError* error) override;
     bool countRelated(
         const NSRelationshipDescription& relationship, std::int64_t key, std::size_t& count, NSError* error) override;
+    std::uint64_t stateNumber() override { return commits_; }
     /// Always the same: nobody else has this store open.
     std::optional<std::uint64_t> dataVersion() override { return 0; }
 
@@ -55,6 +57,7 @@ private:
     mutable std::mutex mutex_;
     StatePointer committed_;
     WriterTurn turn_;
+    std::atomic<std::uint64_t> commits_ = 0;
     std::shared_ptr<InMemoryState> working_; ///< of the open transaction; belongs to the turn's holder
 };
 

@@ -49,6 +49,11 @@ void InMemoryTransaction::finish()
     store_.turn_.giveBack();
 }
 
+std::uint64_t InMemoryTransaction::stateNumber() const
+{
+    return store_.commits_;
+}
+
 bool InMemoryTransaction::insertRow(const StoreRow& row, NSError* error)
 {
     return reportingFailure(error, [&] {
@@ -134,6 +139,7 @@ bool InMemoryTransaction::commit(NSError* error)
     }
     state().clearMissingTargets(written_);
     store_.setState(store_.working_);
+    ++store_.commits_;
     finish();
     return true;
 }

@@ -14,6 +14,7 @@ public:
     InMemoryTransaction(const InMemoryTransaction&) = delete;
     InMemoryTransaction& operator=(const InMemoryTransaction&) = delete;
 
+    std::uint64_t stateNumber() const override;
     bool insertRow(const StoreRow& row, NSError* error) override;
     RowWriteResult updateRow(const StoreRow& row, PropertyMask changed, NSError* error) override;
     RowWriteResult deleteRow(

@@ -2,20 +2,47 @@
 
 #include "platform/coredata/NSManagedObjectContext.h"
 #include "platform/coredata/NSPersistentStore.h"
+#include "platform/coredata/RecordMerge.h"
+
+#include <vector>
 
 namespace tarn {
 
 class ContextCore;
 
-/// Whose value stays where both sides changed a property.
-enum class MergeWinner : std::uint8_t { Store, Context };
-
-/// Joins a record's unsaved changes with a row that another writer has moved, property by property.
+/// One merge of what others saved into a context: joins rows with unsaved changes, property by property, and tells of
+/// what gave way.
 ///
-/// A property that one side changed goes to that side; one that both changed goes to the winner, and the other
-/// value is told to the conflict handler and the log. What derives from a note's text goes as one group
-/// with the text. Afterwards the record holds the merged values over the row's version, and only what differs from the
-/// row counts as changed.
-void mergeRowIntoRecord(ContextCore& core, NSManagedObject& record, StoreRow row, MergeWinner winner);
+/// A property that one side changed goes to that side; one that both changed to the preferred side, and properties of a
+/// group together. Records hear of what was decided about them, and may derive anew, only when all rows are in; who
+/// lost what is told after that.
+class MergeConflicts {
+public:
+    MergeConflicts(ContextCore& core, MergeSide preferred) : core_(core), preferred_(preferred) { }
+
+    /// Afterwards the record holds the merged values over the row's version, and only what differs from the row counts
+    /// as changed. The row is whole.
+    void mergeRow(NSManagedObject& record, StoreRow row);
+    /// Another writer deleted a record that has unsaved changes; before these are let go.
+    void noteDeletedElsewhere(NSManagedObject& record);
+    /// Another writer changed a record that is deleted here. The row is whole.
+    void noteDeletedHere(NSManagedObject& record, const StoreRow& row);
+
+    /// Lets records derive anew what follows from values that were decided.
+    void awakeRecords();
+    /// Tells the log and the conflict handler what was lost. The handler may change records.
+    void tell();
+
+private:
+    void decide(RecordMerge& merge, PropertyMask ours, PropertyMask theirs) const;
+    void forgetGivenWay(const RecordMerge& merge);
+    void note(MergeConflict::Cause cause, NSManagedObject& record, MergeSide loser, PropertyMask lost,
+        const PropertyValues& losing, const PropertyValues& former);
+
+    ContextCore& core_;
+    MergeSide preferred_;
+    std::vector<RecordMerge> merges_;
+    std::vector<MergeConflict> conflicts_;
+};
 
 } // namespace tarn

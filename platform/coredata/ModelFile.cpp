@@ -36,7 +36,8 @@ constexpr std::array kDeleteRules{
 };
 
 constexpr std::array kStorages{Word<bool>{"row", false}, Word<bool>{"large", true}};
-constexpr std::array kGroups{Word<bool>{"text", true}};
+constexpr std::array kGroups{
+    Word<PropertyGroup>{"text", PropertyGroup::Text}, Word<PropertyGroup>{"encryption", PropertyGroup::Encryption}};
 
 constexpr std::array kIndexHints{
     Word<bool ModelFile::Attribute::*>{"value", &ModelFile::Attribute::indexed},
@@ -218,11 +219,14 @@ ModelFile::Attribute readAttribute(const Json& json, const std::string& place)
     attribute.documentation = declaration.string("documentation");
     attribute.optional = declaration.boolean("optional", true);
     attribute.large = declaration.word<bool>("storage", kStorages, false);
-    attribute.inTextGroup = declaration.word<bool>("group", kGroups, false);
+    attribute.group = declaration.word<PropertyGroup>("group", kGroups, PropertyGroup::None);
+    attribute.leadsGroup = declaration.boolean("leads", false);
     attribute.companion = declaration.string("companion");
     attribute.defaultValue = defaultValueOf(declaration, attribute.type);
     if (attribute.large && attribute.type != NSAttributeType::String && attribute.type != NSAttributeType::Data)
         declaration.fail("only a string or data can be large");
+    if (attribute.leadsGroup && attribute.group == PropertyGroup::None)
+        declaration.fail("only a member of a group can lead it");
     readIndexHints(declaration, attribute);
     declaration.refuseOtherKeys();
     return attribute;
@@ -240,7 +244,7 @@ ModelFile::Relationship readRelationship(const Json& json, const std::string& pl
     relationship.toMany = declaration.boolean("many", false);
     relationship.optional = declaration.boolean("optional", true);
     relationship.deleteRule = declaration.word<NSDeleteRule>("delete", kDeleteRules, NSDeleteRule::Nullify);
-    relationship.inTextGroup = declaration.word<bool>("group", kGroups, false);
+    relationship.group = declaration.word<PropertyGroup>("group", kGroups, PropertyGroup::None);
     relationship.column = declaration.boolean("column", false);
     relationship.owner = declaration.boolean("owner", false);
     declaration.refuseOtherKeys();

@@ -29,7 +29,8 @@ struct ModelFile {
         bool folded = false;
         bool substringIndexed = false;
         bool flagIndexed = false;
-        bool inTextGroup = false;
+        bool leadsGroup = false;
+        PropertyGroup group = PropertyGroup::None;
         std::string companion;
     };
     struct Relationship {
@@ -40,7 +41,7 @@ struct ModelFile {
         NSDeleteRule deleteRule = NSDeleteRule::Nullify;
         bool toMany = false;
         bool optional = true;
-        bool inTextGroup = false;
+        PropertyGroup group = PropertyGroup::None;
         bool column = false; ///< of a one-to-one pair: this end has the foreign key
         bool owner = false;  ///< of a many-to-many pair: this end writes the join rows
     };

@@ -100,7 +100,8 @@ NSAttributeDescription& ModelReader::makeAttribute(
     made->name_ = declared.name;
     made->documentation_ = declared.documentation;
     made->optional_ = declared.optional;
-    made->inTextGroup_ = declared.inTextGroup;
+    made->group_ = declared.group;
+    made->leadsGroup_ = declared.leadsGroup;
     made->declaringEntity_ = &declaring;
     made->type_ = declared.type;
     made->defaultValue_ = declared.defaultValue;
@@ -122,7 +123,7 @@ NSRelationshipDescription& ModelReader::makeRelationship(
     made->name_ = declared.name;
     made->documentation_ = declared.documentation;
     made->optional_ = declared.optional;
-    made->inTextGroup_ = declared.inTextGroup;
+    made->group_ = declared.group;
     made->declaringEntity_ = &declaring;
     made->toMany_ = declared.toMany;
     made->deleteRule_ = declared.deleteRule;
@@ -219,12 +220,39 @@ void ModelReader::setMasks()
             else
                 noteAttribute(*owned, static_cast<const NSAttributeDescription&>(*property));
             const PropertyMask bit = propertyBit(property->index_);
-            if (property->inTextGroup_)
+            if (property->group_ == PropertyGroup::Text)
                 owned->textGroupMask_ |= bit;
+            if (property->group_ != PropertyGroup::None)
+                owned->groupedMask_ |= bit;
             if (!(owned->slotlessMask_ & bit))
                 owned->slots_[property->index_] = owned->slotCount_++;
         }
+        setMergeGroups(*owned);
     }
+}
+
+/// A companion date belongs to the group of its attribute, or makes a pair with it.
+void ModelReader::setMergeGroups(NSEntityDescription& entity) const
+{
+    std::map<PropertyGroup, MergeGroup> named;
+    for (const NSPropertyDescription* property : entity.properties_) {
+        const auto* attribute = dynamic_cast<const NSAttributeDescription*>(property);
+        const PropertyMask bit = propertyBit(property->index_);
+        const PropertyMask companion = attribute && !attribute->companion_.empty()
+            ? propertyBit(entity.propertyNamed(attribute->companion_)->index_)
+            : 0;
+        if (property->group_ == PropertyGroup::None) {
+            if (companion != 0)
+                entity.mergeGroups_.push_back({bit | companion, bit});
+            continue;
+        }
+        MergeGroup& group = named[property->group_];
+        group.members |= bit | companion;
+        if (property->leadsGroup_)
+            group.leads |= bit;
+    }
+    for (const auto& [name, group] : named)
+        entity.mergeGroups_.push_back(group);
 }
 
 void ModelReader::noteAttribute(NSEntityDescription& entity, const NSAttributeDescription& attribute)

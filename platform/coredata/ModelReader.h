@@ -29,6 +29,7 @@ private:
     void checkCompanions() const;
     void addIndexes();
     void setMasks();
+    void setMergeGroups(NSEntityDescription& entity) const;
     static void noteAttribute(NSEntityDescription& entity, const NSAttributeDescription& attribute);
     static void noteRelationship(NSEntityDescription& entity, const NSRelationshipDescription& relationship);
     NSAttributeDescription& makeAttribute(const ModelFile::Attribute& declared, const NSEntityDescription& entity);

@@ -42,6 +42,8 @@ NSManagedObject::NSManagedObject(const NSManagedObjectSeed& seed) : context_(see
 
 NSManagedObject::~NSManagedObject() = default;
 
+void NSManagedObject::awakeFromMerge(RecordMerge&) { }
+
 std::unique_ptr<NSManagedObject> RecordAccess::make(NSManagedObjectContext& context, const NSManagedObjectID& objectID)
 {
     const NSManagedObjectSeed seed(context, objectID);
@@ -210,7 +212,7 @@ template <typename Assign> void NSManagedObject::write(PropertyIndex index, bool
     // A merge asks whether the other writer changed the text: that needs the text from which this change started.
     if (!core().beginWrite(*this))
         return;
-    if (!isInserted() && (entity().textGroupMask() & propertyBit(index)))
+    if (!isInserted() && (entity().groupedMask() & propertyBit(index)))
         core().faulting.loadLarge(*this);
     if (isDeleted() && !RecordAccess::isBeingDeleted(*this))
         return;

@@ -19,6 +19,7 @@ namespace tarn {
 
 class ContextCore;
 class NSManagedObjectContext;
+class RecordMerge;
 class ToManySet;
 struct RecordDetails;
 
@@ -115,6 +116,12 @@ public:
     virtual void awakeFromInsert() { }
     virtual void prepareForDeletion() { }
     virtual void willSave() { }
+    /// Called when a merge had to choose between values of this record, once all that others saved is here: what
+    /// follows from those values may have to be derived again. In a save, before will-save; changes made here join it.
+    virtual void awakeFromMerge(RecordMerge& merge);
+    /// Called on each record with unsaved changes, in a save before which others saved: what was derived from other
+    /// records may not hold any more. After `awakeFromMerge`; changes made here join the save.
+    virtual void deriveFromOthers() { }
 
     // By property index: what generated accessors rest on -----------------------------------------------------------
     // Getters read the stored value (firing the fault). Setters tell observers; primitive ones do not.

@@ -18,6 +18,9 @@ NSManagedObjectContext::~NSManagedObjectContext() = default;
 void NSManagedObjectContext::setPersistentStoreCoordinator(std::shared_ptr<NSPersistentStoreCoordinator> coordinator)
 {
     core_->coordinator = std::move(coordinator);
+    // Empty, it knows what is stored.
+    if (core_->coordinator && core_->coordinator->persistentStore())
+        core_->knownState = core_->store().stateNumber();
     core_->followStore();
 }
 
@@ -27,6 +30,7 @@ void NSManagedObjectContext::setParentContext(NSManagedObjectContext& parent)
     core_->parentContext = &parent;
     core_->parentStore = std::make_shared<ParentContextStore>(parent.core_->sharedStore(), parent.core_->link());
     core_->mergePolicy = NSMergePolicy::MergeByPropertyObjectTrump;
+    core_->knownState = core_->parentStore->stateNumber();
 }
 
 NSManagedObjectContext* NSManagedObjectContext::parentContext() const noexcept
@@ -219,6 +223,10 @@ bool NSManagedObjectContext::performExclusive(const std::function<void()>& block
     if (!core_->exclusiveTransaction)
         return false;
     try {
+        if (!core_->catchUp(*core_->exclusiveTransaction, error)) {
+            core_->exclusiveTransaction.reset();
+            return false;
+        }
         core_->otherWriters.lookUnderLock();
         block();
     } catch (...) {

@@ -3,6 +3,7 @@
 #include "platform/coredata/NSFetchRequest.h"
 #include "platform/coredata/NSManagedObject.h"
 #include "platform/coredata/NSManagedObjectID.h"
+#include "platform/coredata/RecordMerge.h"
 #include "platform/foundation/NSError.h"
 #include "platform/foundation/Queue.h"
 
@@ -28,11 +29,21 @@ enum class NSMergePolicy : std::uint8_t {
     MergeByPropertyObjectTrump, ///< property by property, this context's where both changed
 };
 
-/// A record that two writers changed: what `NSManagedObjectContext` tells of a merge that dropped a value.
+/// A record that two writers changed: what `NSManagedObjectContext` tells of a merge that dropped values.
+///
+/// Values of attributes are as they are stored: of protected fields never the clear text.
 struct MergeConflict {
+    enum class Cause : std::uint8_t {
+        ChangedByBoth,
+        DeletedElsewhere, ///< the unsaved changes went with the record, which reads as deleted
+        DeletedHere,      ///< a change of another writer goes with the record, whose deletion is unsaved
+    };
+    Cause cause = Cause::ChangedByBoth;
+    MergeSide loser = MergeSide::Context; ///< whose values were dropped
     NSManagedObject* record = nullptr;
-    std::vector<std::string> properties; ///< whose values of the losing side were dropped
+    std::vector<std::string> properties; ///< that the loser had changed; their values were dropped
     std::map<std::string, Value> lostValues;
+    std::map<std::string, Value> formerValues; ///< before either side changed them, as far as they were read
 };
 
 // Notifications; `object` is the context. The payload is one of the structures below, valid during the call.
@@ -101,7 +112,8 @@ public:
     const NSManagedObjectModel& managedObjectModel() const;
     void setMergePolicy(NSMergePolicy policy) noexcept;
     NSMergePolicy mergePolicy() const noexcept;
-    /// Hears of values that a merge dropped.
+    /// Hears of values that a merge dropped, when the merge is done; may change records, which then belong to the same
+    /// save.
     void setMergeConflictHandler(std::function<void(const MergeConflict&)> handler);
 
     // Records -------------------------------------------------------------------------------------------------------

@@ -40,6 +40,19 @@ enum class RelationshipStorage : std::uint8_t {
     JoinTable,     ///< many-to-many
 };
 
+/// Properties that a merge takes from one side as a whole, besides pairs of an attribute and its companion date.
+enum class PropertyGroup : std::uint8_t {
+    None,
+    Text,       ///< a note's text and what derives from it
+    Encryption, ///< what is encrypted, and what it can be read with
+};
+
+/// Properties of one entity that a merge takes from one side together.
+struct MergeGroup {
+    PropertyMask members = 0;
+    PropertyMask leads = 0; ///< what the group is about: where one side alone changed one of these, that side has it
+};
+
 /// An attribute or a relationship of an entity. Owned by its model; immutable.
 class NSPropertyDescription {
 public:
@@ -49,8 +62,9 @@ public:
     /// The entity that declares it (a super-entity for an inherited one).
     const NSEntityDescription& declaringEntity() const noexcept { return *declaringEntity_; }
     bool isOptional() const noexcept { return optional_; }
-    /// Belongs to what derives from a note's text: in a merge the whole group goes to the side that wins the text.
-    bool isInTextGroup() const noexcept { return inTextGroup_; }
+    PropertyGroup group() const noexcept { return group_; }
+    /// What its group is about; the other members follow from it.
+    bool leadsGroup() const noexcept { return leadsGroup_; }
     const std::string& documentation() const noexcept { return documentation_; }
     virtual bool isRelationship() const noexcept = 0;
 
@@ -60,7 +74,8 @@ private:
     std::string documentation_;
     PropertyIndex index_ = 0;
     bool optional_ = true;
-    bool inTextGroup_ = false;
+    PropertyGroup group_ = PropertyGroup::None;
+    bool leadsGroup_ = false;
     const NSEntityDescription* declaringEntity_ = nullptr;
 };
 
@@ -159,6 +174,10 @@ public:
     PropertyMask toManyMask() const noexcept { return toManyMask_; }
     PropertyMask largeMask() const noexcept { return largeMask_; }
     PropertyMask textGroupMask() const noexcept { return textGroupMask_; }
+    /// Properties of all groups that have a name.
+    PropertyMask groupedMask() const noexcept { return groupedMask_; }
+    /// What goes together in a merge: named groups, and attributes with their companion dates. Disjoint.
+    const std::vector<MergeGroup>& mergeGroups() const noexcept { return mergeGroups_; }
     /// Relationships that the row of a record says nothing about.
     PropertyMask inverseColumnMask() const noexcept { return inverseColumnMask_; }
 
@@ -193,6 +212,8 @@ private:
     PropertyMask toManyMask_ = 0;
     PropertyMask largeMask_ = 0;
     PropertyMask textGroupMask_ = 0;
+    PropertyMask groupedMask_ = 0;
+    std::vector<MergeGroup> mergeGroups_;
     PropertyMask inverseColumnMask_ = 0;
     PropertyMask slotlessMask_ = 0;
     std::array<std::uint8_t, maximumPropertyCount> slots_{};

@@ -94,6 +94,8 @@ enum class RowWriteResult : std::uint8_t {
 class StoreTransaction {
 public:
     virtual ~StoreTransaction() = default;
+    /// The store's state number: of the state from which the transaction started, after a commit of the one it made.
+    virtual std::uint64_t stateNumber() const = 0;
     /// Inserts a row with its key; version becomes 1. To-one keys must be permanent.
     virtual bool insertRow(const StoreRow& row, NSError* error) = 0;
     /// Writes the properties of `changed` (attributes and column to-ones) where the row still has `row.version`; the
@@ -107,6 +109,15 @@ public:
     /// Adds or removes join rows; one that is there (or gone) already is no error. Members whose rows vanished are left
     /// out.
     virtual bool changeJoins(std::span<const JoinChange> changes, NSError* error) = 0;
+    /// The version that a row has which this transaction wrote as `written`, once it is committed.
+    virtual std::int64_t versionAfterCommit(
+        const NSEntityDescription&, std::int64_t /*key*/, std::int64_t written) const
+    {
+        return written;
+    }
+    /// Whether nobody else can commit while the transaction lives. Else a commit may fail with
+    /// `StoreErrorMergeConflict`, because a row has moved since it was read here, and be tried again in another one.
+    virtual bool isExclusive() const { return true; }
     /// A busy commit is retried. After a failure nothing was written and the transaction is over.
     virtual bool commit(NSError* error) = 0;
 };
@@ -139,6 +150,9 @@ public:
     virtual bool countRelated(
         const NSRelationshipDescription& relationship, std::int64_t key, std::size_t& count, NSError* error)
         = 0;
+    /// Names what is stored now: any commit, of this process or another, leads to another number. Without a transaction
+    /// of this thread it may lag behind.
+    virtual std::uint64_t stateNumber() = 0;
     /// Moves whenever another process, or another store object of this one, has committed. Never waits: none while
     /// another thread writes or another process commits.
     virtual std::optional<std::uint64_t> dataVersion() = 0;

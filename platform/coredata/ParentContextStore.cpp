@@ -59,6 +59,12 @@ bool ParentContextStore::countRelated(
         error, [&] { count = OverlaidRows(base_, *snapshot).readRelatedKeys(relationship, key).size(); });
 }
 
+std::uint64_t ParentContextStore::stateNumber()
+{
+    constexpr std::uint64_t kSpread = 0x9E3779B97F4A7C15; // keeps the two counters apart
+    return base_.stateNumber() * kSpread + parent_->snapshot()->generation();
+}
+
 std::unique_ptr<StoreTransaction> ParentContextStore::beginTransaction(NSError*)
 {
     return std::make_unique<ParentTransaction>(*this, parent_);

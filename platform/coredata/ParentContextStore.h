@@ -27,6 +27,7 @@ public:
         NSError* error) override;
     bool countRelated(
         const NSRelationshipDescription& relationship, std::int64_t key, std::size_t& count, NSError* error) override;
+    std::uint64_t stateNumber() override;
     std::optional<std::uint64_t> dataVersion() override { return base_.dataVersion(); }
     std::uint64_t commitsMet() const noexcept override { return base_.commitsMet(); }
 

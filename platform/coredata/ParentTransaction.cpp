@@ -4,7 +4,7 @@
 #include "platform/coredata/RecordAccess.h"
 #include "platform/foundation/Log.h"
 
-#include <map>
+#include <algorithm>
 #include <set>
 
 namespace tarn {
@@ -89,9 +89,11 @@ bool ParentTransaction::commit(NSError* error)
     bool isApplied = false;
     NSError failure;
     const auto work = [&](ContextCore& parent) {
-        if (!readRecords(parent, &failure))
+        if (!rowsAreAsRead(parent, &failure) || !readRecords(parent, &failure))
             return;
         apply(parent);
+        stateNumber_ = store_.stateNumber();
+        noteVersions();
         isApplied = true;
     };
     if (!parent_->perform(work, error))
@@ -99,6 +101,55 @@ bool ParentTransaction::commit(NSError* error)
     if (!isApplied)
         assignError(error, std::move(failure));
     return isApplied;
+}
+
+/// The parent may have changed a record after the child had caught up with it, and not published that yet.
+bool ParentTransaction::rowsAreAsRead(ContextCore& parent, NSError* error) const
+{
+    parent.processPendingChanges();
+    if (parent.tracker.hasEvent()) // it is being told of what came before
+        parent.publish();
+    std::map<const NSEntityDescription*, std::map<std::int64_t, std::int64_t>> expected;
+    for (const Update& update : updates_)
+        expected[&update.row.entity->rootEntity()].emplace(update.row.key, update.row.version);
+    for (const auto& [root, versions] : expected) {
+        std::vector<std::int64_t> keys;
+        for (const auto& [key, version] : versions)
+            keys.push_back(key);
+        std::vector<StoreRow> rows;
+        if (!store_.rowsForKeys(*root, keys, RowContents::Keys, rows, error))
+            return false;
+        const auto isAsRead = [&, known = &versions](const StoreRow& row) { return known->at(row.key) == row.version; };
+        if (rows.size() == keys.size() && std::all_of(rows.begin(), rows.end(), isAsRead))
+            continue;
+        assignError(error,
+            NSError(TarnStoreErrorDomain, StoreErrorMergeConflict, "The parent context changed what is saved into it"));
+        return false;
+    }
+    return true;
+}
+
+/// A row that is pending in the parent has the parent's version of it.
+void ParentTransaction::noteVersions()
+{
+    std::map<const NSEntityDescription*, std::vector<std::int64_t>> keys;
+    for (const StoreRow& row : insertions_)
+        keys[&row.entity->rootEntity()].push_back(row.key);
+    for (const Update& update : updates_)
+        keys[&update.row.entity->rootEntity()].push_back(update.row.key);
+    for (const auto& [root, wanted] : keys) {
+        std::vector<StoreRow> rows;
+        if (store_.rowsForKeys(*root, wanted, RowContents::Keys, rows, nullptr))
+            for (const StoreRow& row : rows)
+                versions_.insert_or_assign({root, row.key}, row.version);
+    }
+}
+
+std::int64_t ParentTransaction::versionAfterCommit(
+    const NSEntityDescription& entity, std::int64_t key, std::int64_t written) const
+{
+    const auto found = versions_.find({&entity.rootEntity(), key});
+    return found == versions_.end() ? written : found->second;
 }
 
 /// A record that cannot be read must not look like one that was deleted, and a save must not stop half-way: everything

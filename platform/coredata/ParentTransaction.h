@@ -4,6 +4,8 @@
 #include "platform/coredata/ParentLink.h"
 #include "platform/coredata/RelationshipMaintenance.h"
 
+#include <map>
+#include <utility>
 #include <vector>
 
 namespace tarn {
@@ -12,14 +14,18 @@ namespace tarn {
 class ParentTransaction final : public StoreTransaction {
 public:
     ParentTransaction(NSPersistentStore& store, std::shared_ptr<ParentLink> parent)
-        : store_(store), parent_(std::move(parent))
+        : store_(store), parent_(std::move(parent)), stateNumber_(store_.stateNumber())
     { }
 
+    std::uint64_t stateNumber() const override { return stateNumber_; }
     bool insertRow(const StoreRow& row, NSError* error) override;
     RowWriteResult updateRow(const StoreRow& row, PropertyMask changed, NSError* error) override;
     RowWriteResult deleteRow(
         const NSEntityDescription& entity, std::int64_t key, std::int64_t version, NSError* error) override;
     bool changeJoins(std::span<const JoinChange> changes, NSError* error) override;
+    std::int64_t versionAfterCommit(
+        const NSEntityDescription& entity, std::int64_t key, std::int64_t written) const override;
+    bool isExclusive() const override { return false; }
     bool commit(NSError* error) override;
 
 private:
@@ -34,6 +40,8 @@ private:
     /// The row as it is now; Gone or Failed when there is none.
     RowWriteResult readVersion(
         const NSEntityDescription& entity, std::int64_t key, std::int64_t& version, NSError* error);
+    bool rowsAreAsRead(ContextCore& parent, NSError* error) const;
+    void noteVersions();
     bool readRecords(ContextCore& parent, NSError* error) const;
     void readOtherEnds(ContextCore& parent) const;
     bool isInserted(const NSEntityDescription& entity, std::int64_t key) const;
@@ -53,6 +61,8 @@ private:
     std::vector<Update> updates_;
     std::vector<JoinChange> joins_;
     std::vector<Deletion> deletions_;
+    std::uint64_t stateNumber_;
+    std::map<std::pair<const NSEntityDescription*, std::int64_t>, std::int64_t> versions_; ///< by root entity and key
 };
 
 } // namespace tarn

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <unordered_set>
+#include <utility>
 
 namespace tarn {
 
@@ -337,12 +338,80 @@ void RelationshipMaintenance::dropReferences(const KeysOfEntities& gone)
 void RelationshipMaintenance::forgetEndsWithoutColumn(NSManagedObject& record)
 {
     forgetStoredMembers(record);
-    if (record.isFault() || record.isDeleted())
+    if (record.isFault() || record.isDeleted() || record.isInserted())
         return;
     const NSEntityDescription& entity = record.entity();
+    // What is unsaved at the other end only this end knows.
     PropertyMask rest = entity.inverseColumnMask() & ~entity.toManyMask() & ~RecordAccess::changed(record);
     for (; rest != 0; rest &= rest - 1)
         RecordAccess::values(record).setUnloaded(static_cast<PropertyIndex>(std::countr_zero(rest)));
+}
+
+void RelationshipMaintenance::forgetChangedMember(
+    NSManagedObject& owner, const NSRelationshipDescription& relationship, NSManagedObject& member)
+{
+    RecordDetails* details = RecordAccess::detailsIfAny(owner);
+    if (!details)
+        return;
+    bool isChanged = false;
+    if (relationship.isToMany()) {
+        ToManySet* set = details->toManySet(relationship.index());
+        if (!set)
+            return;
+        std::erase(set->added_, &member);
+        std::erase(set->removed_, &member);
+        set->forgetStored();
+        isChanged = !set->added_.empty() || !set->removed_.empty();
+    } else if (!owner.isFault() && !RecordAccess::isGone(owner)) {
+        PropertyValues& values = RecordAccess::values(owner);
+        const PropertyIndex index = relationship.index();
+        // Another unsaved record may have taken the place.
+        if (values.isLoaded(index) && !values.isNil(index) && values.integer(index) != member.objectID().key())
+            return;
+        values.setUnloaded(index);
+    }
+    if (!isChanged)
+        details->changed &= ~propertyBit(relationship.index());
+}
+
+void RelationshipMaintenance::forgetTarget(NSManagedObject& record, const NSRelationshipDescription& relationship,
+    const PropertyValues& own, const PropertyValues& former)
+{
+    const PropertyIndex index = relationship.index();
+    const NSEntityDescription& root = relationship.destinationEntity().rootEntity();
+    for (const PropertyValues* values : {&own, &former}) {
+        if (values->isEmpty() || !values->isLoaded(index) || values->isNil(index))
+            continue;
+        if (NSManagedObject* target = core_.registry.find(root, values->integer(index)))
+            forgetChangedMember(*target, relationship.inverseRelationship(), record);
+    }
+}
+
+void RelationshipMaintenance::forgetChangedMembers(
+    NSManagedObject& record, const NSRelationshipDescription& relationship)
+{
+    RecordDetails* details = RecordAccess::detailsIfAny(record);
+    ToManySet* set = details ? details->toManySet(relationship.index()) : nullptr;
+    if (!set)
+        return;
+    for (const auto* members : {&set->added_, &set->removed_})
+        for (NSManagedObject* member : *members)
+            forgetChangedMember(*member, relationship.inverseRelationship(), record);
+    set->unload();
+    details->changed &= ~propertyBit(relationship.index());
+}
+
+void RelationshipMaintenance::detachFromDeleted(
+    NSManagedObject& record, const NSRelationshipDescription& relationship, NSManagedObject& deleted)
+{
+    if (!core_.beginWrite(record))
+        return;
+    if (!relationship.isToMany()) {
+        store(record, relationship, nullptr);
+        return;
+    }
+    toMany(record, relationship).take(deleted);
+    core_.noteChange(record, relationship.index(), false);
 }
 
 void RelationshipMaintenance::followKey(const NSManagedObject& record, std::int64_t former)

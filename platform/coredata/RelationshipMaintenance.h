@@ -51,6 +51,15 @@ public:
     void forgetEndsWithoutColumn(NSManagedObject& record);
     /// An unsaved record has another key than `former` now: who names it names it by that one.
     void followKey(const NSManagedObject& record, std::int64_t former);
+    /// A merge gave a to-one of the record another target than this context: the ends that this context had moved say
+    /// what is stored. `own` and `former`: the record's values before the merge, and before its unsaved changes.
+    void forgetTarget(NSManagedObject& record, const NSRelationshipDescription& relationship, const PropertyValues& own,
+        const PropertyValues& former);
+    /// Drops the unsaved members of a many-to-many relationship, more and less, at both ends.
+    void forgetChangedMembers(NSManagedObject& record, const NSRelationshipDescription& relationship);
+    /// Others tied the record to one that is deleted here: takes it out, at this end.
+    void detachFromDeleted(
+        NSManagedObject& record, const NSRelationshipDescription& relationship, NSManagedObject& deleted);
 
     // When records are read again (RelationshipRefresh.cpp) ---------------------------------------------------------
     /// The record's row was read; `before` are the values that it had, empty for a fault. Where it names another record
@@ -83,6 +92,8 @@ private:
     void takeBackToOne(NSManagedObject& holder, const NSRelationshipDescription& relationship);
     void takeBackJoins(NSManagedObject& record, const NSRelationshipDescription& relationship);
     void forgetChange(NSManagedObject& record, const NSRelationshipDescription& relationship, NSManagedObject& member);
+    void forgetChangedMember(
+        NSManagedObject& owner, const NSRelationshipDescription& relationship, NSManagedObject& member);
     void forgetGone(NSManagedObject& record);
     void store(NSManagedObject& record, const NSRelationshipDescription& relationship, NSManagedObject* target);
     void attachInverse(NSManagedObject& target, const NSRelationshipDescription& inverse, NSManagedObject& record);

@@ -1,7 +1,6 @@
 #include "platform/coredata/RemoteMerge.h"
 
 #include "platform/coredata/ContextCore.h"
-#include "platform/coredata/MergeConflicts.h"
 #include "platform/coredata/RecordAccess.h"
 #include "platform/foundation/Log.h"
 
@@ -28,6 +27,8 @@ void RemoteMerge::take(const RemoteChanges& changes)
             remove(*root, key);
     if (!gone_.empty())
         core_.relationships.dropReferences(gone_);
+    conflicts_.awakeRecords();
+    conflicts_.tell();
 }
 
 RemoteMerge::KeysByRoot RemoteMerge::keysOf(const std::vector<NSManagedObjectID>& objectIDs) const
@@ -113,11 +114,8 @@ void RemoteMerge::take(NSManagedObject& record, StoreRow row)
         logMessage("Error while merging\n" + error.localizedDescription());
         return;
     }
-    if (whole.empty())
-        return;
-    const PropertyValues before = RecordAccess::values(record);
-    mergeRowIntoRecord(core_, record, std::move(whole.front()), MergeWinner::Context);
-    core_.relationships.followRow(record, before);
+    if (!whole.empty())
+        conflicts_.mergeRow(record, std::move(whole.front()));
 }
 
 void RemoteMerge::remove(const NSEntityDescription& root, std::int64_t key)
@@ -126,9 +124,7 @@ void RemoteMerge::remove(const NSEntityDescription& root, std::int64_t key)
     NSManagedObject* record = core_.registry.find(root, key);
     if (!record)
         return;
-    if (record->isUpdated())
-        logMessage(
-            "Another writer deleted " + record->objectID().URIRepresentation() + "; its unsaved changes were dropped");
+    conflicts_.noteDeletedElsewhere(*record);
     core_.tracker.forgetPending(*record);
     core_.noteGone(*record);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/coredata/MergeConflicts.h"
 #include "platform/coredata/NSManagedObjectContext.h"
 #include "platform/coredata/NSPersistentStore.h"
 #include "platform/coredata/RelationshipMaintenance.h"
@@ -14,7 +15,7 @@ class ContextCore;
 /// Brings one context up to date with what another context or process has saved. On the context's queue.
 class RemoteMerge {
 public:
-    explicit RemoteMerge(ContextCore& core) : core_(core) { }
+    explicit RemoteMerge(ContextCore& core) : core_(core), conflicts_(core, MergeSide::Context) { }
 
     /// Observers hear of it before this returns.
     void run(const RemoteChanges& changes);
@@ -35,6 +36,7 @@ private:
     void remove(const NSEntityDescription& root, std::int64_t key);
 
     ContextCore& core_;
+    MergeConflicts conflicts_;
     KeysOfEntities gone_;
 };
 

@@ -228,6 +228,16 @@ bool SQLiteStore::countRelated(
     });
 }
 
+std::uint64_t SQLiteStore::stateNumber()
+{
+    constexpr int kVersionShift = 32;
+    if (pool_->turn().isMine())
+        dataVersion_ = static_cast<std::uint64_t>(pool_->writer().integerOf("PRAGMA data_version"));
+    else
+        dataVersion();
+    return (dataVersion_ << kVersionShift) + commits_;
+}
+
 std::optional<std::uint64_t> SQLiteStore::dataVersion()
 {
     // The writing connection's version moves for the commits of others only. While this thread's transaction is open

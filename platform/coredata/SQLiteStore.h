@@ -41,6 +41,7 @@ public:
         NSError* error) override;
     bool countRelated(
         const NSRelationshipDescription& relationship, std::int64_t key, std::size_t& count, NSError* error) override;
+    std::uint64_t stateNumber() override;
     std::optional<std::uint64_t> dataVersion() override;
     std::uint64_t commitsMet() const noexcept override { return pool_->commitsMet(); }
 
@@ -90,6 +91,7 @@ private:
     DerivedValues derivedValues_ = DerivedValues::Written;
     std::int64_t writerVersion_ = -1; ///< the writing connection's data version when it last looked at the folding's
     std::atomic<std::uint64_t> dataVersion_ = 0;
+    std::atomic<std::uint64_t> commits_ = 0; ///< of this store's own transactions
     /// Next free key by root entity, as far as a transaction reserved any that did not reach the file. Belongs to the
     /// turn's holder.
     std::unordered_map<const NSEntityDescription*, std::int64_t> reservedKeys_;

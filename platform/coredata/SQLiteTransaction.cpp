@@ -10,6 +10,7 @@ SQLiteTransaction::SQLiteTransaction(SQLiteStore& store)
     : store_(store), connection_(store.pool_->writer()), writer_(store.schema_, connection_)
 {
     store_.beginWriting();
+    stateNumber_ = store_.stateNumber();
     writer_.setDerivedValues(store_.derivedValues_);
 }
 
@@ -24,6 +25,8 @@ SQLiteTransaction::~SQLiteTransaction()
 void SQLiteTransaction::finish(WritingEnd end) noexcept
 {
     finished_ = true;
+    if (end == WritingEnd::Committed)
+        stateNumber_ = ++store_.commits_ + (stateNumber_ >> 32 << 32);
     store_.endWriting(end);
 }
 

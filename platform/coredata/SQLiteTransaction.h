@@ -18,6 +18,7 @@ public:
     SQLiteTransaction(const SQLiteTransaction&) = delete;
     SQLiteTransaction& operator=(const SQLiteTransaction&) = delete;
 
+    std::uint64_t stateNumber() const override { return stateNumber_; }
     bool insertRow(const StoreRow& row, NSError* error) override;
     RowWriteResult updateRow(const StoreRow& row, PropertyMask changed, NSError* error) override;
     RowWriteResult deleteRow(
@@ -33,6 +34,7 @@ private:
     SQLiteStore& store_;
     SQLiteConnection& connection_;
     SQLiteRowWriter writer_;
+    std::uint64_t stateNumber_;
     bool finished_ = false;
 };
 

@@ -1,9 +1,7 @@
 #include "platform/coredata/SavePlan.h"
 
 #include "platform/coredata/ContextCore.h"
-#include "platform/coredata/MergeConflicts.h"
 #include "platform/coredata/RecordAccess.h"
-#include "platform/foundation/Log.h"
 #include "platform/foundation/NSNotificationCenter.h"
 
 #include <algorithm>
@@ -14,6 +12,9 @@
 namespace tarn {
 
 namespace {
+
+/// How often a save into a parent that keeps changing is tried.
+constexpr int kMostTries = 8;
 
 /// What really differs from the row: a value that was changed and changed back is not written.
 PropertyMask changedInRow(const NSManagedObject& record)
@@ -74,7 +75,7 @@ bool SavePlan::run(std::unique_ptr<StoreTransaction> transaction, NSError* error
     {
         const SavingFlag saving(core_.isSaving);
         try {
-            if (!write(*transaction, error)) {
+            if (!write(transaction, error)) {
                 transaction.reset();
                 takeBack();
                 return false;
@@ -90,13 +91,37 @@ bool SavePlan::run(std::unique_ptr<StoreTransaction> transaction, NSError* error
     return true;
 }
 
-bool SavePlan::write(StoreTransaction& transaction, NSError* error)
+bool SavePlan::write(std::unique_ptr<StoreTransaction>& transaction, NSError* error)
 {
     announcedBefore_ = core_.tracker.insertedObjects();
+    if (!core_.catchUp(*transaction, error))
+        return false;
+    announcedBefore_ = core_.tracker.insertedObjects(); // what was derived anew stays, whatever comes of the save
     announce();
+    NSError failure;
+    for (int tries = 1; !writeRows(*transaction, &failure); ++tries) {
+        const bool isOvertaken = !transaction->isExclusive() && failure.domain() == TarnStoreErrorDomain
+            && failure.code() == StoreErrorMergeConflict && tries < kMostTries;
+        if (!isOvertaken) {
+            assignError(error, std::move(failure));
+            return false;
+        }
+        transaction = core_.store().beginTransaction(error);
+        if (!transaction || !core_.catchUp(*transaction, error))
+            return false;
+    }
+    core_.knownState = transaction->stateNumber();
+    for (auto& [record, version] : newVersions_)
+        version = transaction->versionAfterCommit(record->entity(), record->objectID().key(), version);
+    return true;
+}
+
+bool SavePlan::writeRows(StoreTransaction& transaction, NSError* error)
+{
     inserted_ = core_.tracker.insertedObjects();
     updated_ = core_.tracker.updatedObjects();
     deleted_ = core_.tracker.deletedObjects();
+    newVersions_.clear();
     return deletionsAllowed(error) && assignKeys(error) && validate(error) && insertRows(transaction, error)
         && updateRows(transaction, error) && changeJoins(transaction, error) && deleteRows(transaction, error)
         && transaction.commit(error);
@@ -183,38 +208,21 @@ bool SavePlan::updateRows(StoreTransaction& transaction, NSError* error)
 
 bool SavePlan::updateRow(StoreTransaction& transaction, NSManagedObject& record, NSError* error)
 {
-    while (const PropertyMask changed = changedInRow(record)) {
-        switch (transaction.updateRow(rowOf(record), changed, error)) {
-        case RowWriteResult::Written:
-            newVersions_.emplace_back(&record, record.rowVersion() + 1);
-            return true;
-        case RowWriteResult::Failed:
-            return false;
-        case RowWriteResult::Gone:
-            if (core_.mergePolicy == NSMergePolicy::Error)
-                return fail(
-                    error, StoreErrorMergeConflict, "Another writer deleted " + record.objectID().URIRepresentation());
-            logMessage("Another writer deleted " + record.objectID().URIRepresentation()
-                + "; its unsaved changes were dropped");
-            vanished_.push_back(&record);
-            return true;
-        case RowWriteResult::Conflict:
-            break;
-        }
-        if (core_.mergePolicy == NSMergePolicy::Error)
-            return fail(
-                error, StoreErrorMergeConflict, "Another writer changed " + record.objectID().URIRepresentation());
-        const std::int64_t key = record.objectID().key();
-        std::vector<StoreRow> rows;
-        if (!core_.store().rowsForKeys(
-                record.entity().rootEntity(), std::span(&key, 1), RowContents::WholeRow, rows, error))
-            return false;
-        if (!rows.empty())
-            mergeRowIntoRecord(core_, record, std::move(rows.front()),
-                core_.mergePolicy == NSMergePolicy::MergeByPropertyStoreTrump ? MergeWinner::Store
-                                                                              : MergeWinner::Context);
+    const PropertyMask changed = changedInRow(record);
+    if (changed == 0)
+        return true;
+    switch (transaction.updateRow(rowOf(record), changed, error)) {
+    case RowWriteResult::Written:
+        newVersions_.emplace_back(&record, record.rowVersion() + 1);
+        return true;
+    case RowWriteResult::Failed:
+        return false;
+    case RowWriteResult::Gone:
+    case RowWriteResult::Conflict:
+        break;
     }
-    return true;
+    return fail(error, StoreErrorMergeConflict,
+        record.objectID().URIRepresentation() + " was changed by another writer while it was saved");
 }
 
 bool SavePlan::changeJoins(StoreTransaction& transaction, NSError* error)
@@ -288,8 +296,6 @@ void SavePlan::finish()
         core_.relationships.unload(*record);
         core_.registry.forget(*record);
     }
-    for (NSManagedObject* record : vanished_)
-        core_.noteGone(*record);
     core_.shedFromChildren();
 }
 

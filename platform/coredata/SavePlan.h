@@ -13,8 +13,9 @@ class ContextCore;
 
 /// One save: everything that is pending in one transaction, or nothing.
 ///
-/// Takes the lock, lets will-save observers add to it, gives keys, writes inserted, updated and deleted rows in that
-/// order, commits, and only then calls the records saved. On any failure the context keeps its changes as they were.
+/// Takes the lock, catches up with what others have saved, lets will-save observers add to it, gives keys, writes
+/// inserted, updated and deleted rows in that order, commits, and only then calls the records saved. On any failure the
+/// context keeps its changes as they were.
 class SavePlan {
 public:
     explicit SavePlan(ContextCore& core);
@@ -22,7 +23,8 @@ public:
     bool run(std::unique_ptr<StoreTransaction> transaction, NSError* error);
 
 private:
-    bool write(StoreTransaction& transaction, NSError* error);
+    bool write(std::unique_ptr<StoreTransaction>& transaction, NSError* error);
+    bool writeRows(StoreTransaction& transaction, NSError* error);
     void announce();
     bool assignKeys(NSError* error);
     bool validate(NSError* error) const;
@@ -41,7 +43,6 @@ private:
     std::vector<NSManagedObject*> deleted_;
     std::vector<std::pair<NSManagedObject*, NSManagedObjectID>> formerIDs_; ///< of records that were given a key here
     std::vector<std::pair<NSManagedObject*, std::int64_t>> newVersions_;
-    std::vector<NSManagedObject*> vanished_;        ///< updated here, deleted by another writer
     std::vector<NSManagedObject*> announcedBefore_; ///< inserted before will-save observers ran
 };
 

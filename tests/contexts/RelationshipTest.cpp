@@ -389,19 +389,26 @@ TEST_P(Relationship, DeletingAnInsertedRecordLeavesNoTrace)
     EXPECT_THAT(all("Chapter"), IsEmpty());
 }
 
-TEST_P(Relationship, RowsAddedByAnotherWriterAreNullifiedToo)
+TEST_P(Relationship, RowsAddedByAnotherWriterFollowTheDeleteRuleToo)
 {
     NSManagedObject& one = book("One");
+    NSManagedObject& gone = shelf("Gone");
     save();
     const auto other = contextOn(coordinator_);
-    NSManagedObject& chapter = other->insertObject("Chapter");
-    chapter.setValueForKey("book", Value(other->objectWithID(one.objectID())));
-    context_->deleteObject(one); // knows of no chapter
+    other->insertObject("Chapter").setValueForKey("book", Value(other->objectWithID(one.objectID())));
+    NSManagedObject& shelved = other->insertObject("Book");
+    set(*other->existingObjectWithID(gone.objectID()), "books").add(shelved);
     ASSERT_TRUE(other->save());
+    context_->deleteObject(one);  // knows of no chapter
+    context_->deleteObject(gone); // knows of no book
     save();
-    restart();
 
-    EXPECT_TRUE(all("Chapter").at(0)->storedValueForKey("book").isNil());
+    EXPECT_THAT(all("Chapter"), IsEmpty()) << "cascades";
+    ASSERT_EQ(all("Book").size(), 1U) << "is nullified";
+    EXPECT_EQ(set(*all("Book").at(0), "shelves").count(), 0U);
+    restart();
+    EXPECT_THAT(all("Chapter"), IsEmpty());
+    EXPECT_EQ(set(*all("Book").at(0), "shelves").count(), 0U);
 }
 
 } // namespace

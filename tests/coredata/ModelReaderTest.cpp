@@ -115,7 +115,8 @@ TEST(ModelReader, ReadsAttributesWithTypesAndHints)
     const NSEntityDescription& book = *model->entityNamed("Book");
     const NSAttributeDescription& title = *book.attributeNamed("title");
     EXPECT_EQ(title.type(), NSAttributeType::String);
-    EXPECT_TRUE(title.isIndexed() && title.isFolded() && title.isSubstringIndexed() && title.isInTextGroup());
+    EXPECT_TRUE(
+        title.isIndexed() && title.isFolded() && title.isSubstringIndexed() && title.group() == PropertyGroup::Text);
     EXPECT_FALSE(title.isLarge());
     EXPECT_TRUE(title.isOptional());
     EXPECT_TRUE(book.attributeNamed("body")->isLarge());

@@ -366,7 +366,7 @@ TEST_F(RecordTypes, KeepWhatDerivesFromTheTextTogether)
     EXPECT_THAT(namesOf(note, note.textGroupMask()),
         testing::UnorderedElementsAre("text", "title", "subtitle", "todoCompleted", "todoIncompleted", "hasFiles",
             "hasImages", "hasSourceCode", "vectorClock", "lastEditingDevice", "modificationDate", "tags", "linkingTo",
-            "files", "encrypted", "encryptedData", "encryptionDate", "encryptionUniqueIdentifier"));
+            "files", "encrypted", "encryptedData", "encryptionDate", "encryptionUniqueIdentifier", "password"));
     EXPECT_THAT(namesOf(file, file.textGroupMask()), testing::UnorderedElementsAre("unused", "unusedDate", "index"));
 }
 

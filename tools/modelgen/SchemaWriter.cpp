@@ -17,6 +17,12 @@ constexpr std::array<std::string_view, 7> kTypeNames{
 constexpr std::array<std::string_view, 4> kDeleteRules{
     "nothing", "taken out of it", "deleted too", "refuses while there are any"};
 
+std::string groupNote(const NSPropertyDescription& property)
+{
+    return std::string(property.leadsGroup() ? "leads the " : "")
+        + (property.group() == PropertyGroup::Text ? "text group" : "encryption group");
+}
+
 std::string attributeNotes(const NSAttributeDescription& attribute)
 {
     std::string notes;
@@ -31,8 +37,8 @@ std::string attributeNotes(const NSAttributeDescription& attribute)
         add("signature");
     if (!attribute.companion().empty())
         add(fmt::format("dated by `{}`", attribute.companion()));
-    if (attribute.isInTextGroup())
-        add("text group");
+    if (attribute.group() != PropertyGroup::None)
+        add(groupNote(attribute));
     return notes;
 }
 
@@ -65,7 +71,7 @@ std::string relationshipKeeping(const NSRelationshipDescription& relationship)
         break;
     }
     }
-    return relationship.isInTextGroup() ? place + ", text group" : place;
+    return relationship.group() == PropertyGroup::None ? place : place + ", " + groupNote(relationship);
 }
 
 std::string relationshipTable(const NSEntityDescription& entity)
@@ -138,7 +144,9 @@ Written from the model "{}" by `schemagen`; do not edit, but build the target `s
 - *large*: kept apart from the row and read when first asked for.
 - *indexed*: for `==` and `IN`; *indexed folded*: for `==[cd]` and `BEGINSWITH[cd]`; *signature*: for `CONTAINS[cd]`.
 - *dated by*: that date says when the attribute was last set.
-- *text group*: belongs to a note's text; a merge takes the whole group from one side.
+- *text group*: belongs to a note's text; *encryption group*: what is encrypted, and what it can be read with. A merge takes a whole group
+  from one side: from the only one that changed what *leads* it, else from the one that the merge policy prefers. An attribute and the
+  date that dates it go together likewise.
 - Flags start as NO and numbers as 0; everything else starts empty, and everything may be empty.
 )",
         model.versionIdentifier());

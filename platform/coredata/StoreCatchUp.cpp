@@ -1,0 +1,200 @@
+#include "platform/coredata/StoreCatchUp.h"
+
+#include "platform/coredata/ContextCore.h"
+#include "platform/coredata/RecordAccess.h"
+
+#include <algorithm>
+
+namespace tarn {
+
+namespace {
+
+MergeSide preferredSide(NSMergePolicy policy)
+{
+    return policy == NSMergePolicy::MergeByPropertyStoreTrump ? MergeSide::Store : MergeSide::Context;
+}
+
+/// Of a record that has a row and was read from it.
+bool isOfRow(const NSManagedObject& record)
+{
+    return !record.isFault() && !record.isInserted() && !record.objectID().isTemporaryID()
+        && !RecordAccess::isGone(record);
+}
+
+bool failForConflict(NSError* error, std::string_view what, const NSManagedObject& record)
+{
+    assignError(error,
+        NSError(TarnStoreErrorDomain, StoreErrorMergeConflict,
+            "Another writer " + std::string(what) + record.objectID().URIRepresentation()));
+    return false;
+}
+
+} // namespace
+
+StoreCatchUp::StoreCatchUp(ContextCore& core) : core_(core), conflicts_(core, preferredSide(core.mergePolicy)) { }
+
+bool StoreCatchUp::run(NSError* error)
+{
+    if (!compareVersions(error) || !allowedByPolicy(error) || !readRows(error))
+        return false;
+    for (auto& [root, records] : records_)
+        takeRows(records, rows_[root]);
+    letGo(records_);
+    // Join rows come and go without a new version, and so does what other rows say of a record.
+    for (NSManagedObject* record : core_.registry.objects())
+        core_.relationships.forgetEndsWithoutColumn(*record);
+    if (!detachFromDeleted(error))
+        return false;
+    conflicts_.awakeRecords();
+    for (const auto& pending : {core_.tracker.insertedObjects(), core_.tracker.updatedObjects()})
+        for (NSManagedObject* record : pending)
+            if (!record->isDeleted())
+                record->deriveFromOthers();
+    conflicts_.tell();
+    return true;
+}
+
+bool StoreCatchUp::compareVersions(NSError* error)
+{
+    std::unordered_map<const NSEntityDescription*, std::vector<std::int64_t>> keys;
+    for (const NSManagedObject* record : core_.registry.objects())
+        if (isOfRow(*record))
+            keys[&record->entity().rootEntity()].push_back(record->objectID().key());
+    for (auto& [root, wanted] : keys) {
+        std::sort(wanted.begin(), wanted.end());
+        std::vector<StoreRow> rows;
+        if (!core_.store().rowsForKeys(*root, wanted, RowContents::Keys, rows, error))
+            return false;
+        std::unordered_map<std::int64_t, std::int64_t> versions;
+        versions.reserve(rows.size());
+        for (const StoreRow& row : rows)
+            versions.emplace(row.key, row.version);
+        Records& records = records_[root];
+        for (const std::int64_t key : wanted) {
+            NSManagedObject* record = core_.registry.find(*root, key);
+            const auto version = versions.find(key);
+            if (version == versions.end())
+                records.gone.push_back(record);
+            else if (version->second != record->rowVersion())
+                (record->isDeleted()           ? records.deleted
+                        : record->hasChanges() ? records.changed
+                                               : records.clean)
+                    .push_back(record);
+        }
+    }
+    return true;
+}
+
+bool StoreCatchUp::allowedByPolicy(NSError* error) const
+{
+    if (core_.mergePolicy != NSMergePolicy::Error)
+        return true;
+    for (const auto& [root, records] : records_) {
+        if (!records.changed.empty())
+            return failForConflict(error, "changed ", *records.changed.front());
+        if (!records.deleted.empty())
+            return failForConflict(error, "changed ", *records.deleted.front());
+        for (const NSManagedObject* record : records.gone)
+            if (record->isUpdated())
+                return failForConflict(error, "deleted ", *record);
+    }
+    return true;
+}
+
+/// All before the first change, so that a failing read leaves the context as it was.
+bool StoreCatchUp::readRows(NSError* error)
+{
+    return std::all_of(records_.begin(), records_.end(), [&](const auto& entry) {
+        const auto& [root, records] = entry;
+        Rows& rows = rows_[root];
+        return readInto(rows, *root, records.clean, RowContents::Row, error)
+            && readInto(rows, *root, records.changed, RowContents::WholeRow, error)
+            && readInto(rows, *root, records.deleted, RowContents::WholeRow, error);
+    });
+}
+
+bool StoreCatchUp::readInto(Rows& rows, const NSEntityDescription& root, const std::vector<NSManagedObject*>& records,
+    RowContents contents, NSError* error) const
+{
+    std::vector<std::int64_t> keys;
+    keys.reserve(records.size());
+    for (const NSManagedObject* record : records)
+        keys.push_back(record->objectID().key());
+    std::vector<StoreRow> read;
+    if (!keys.empty() && !core_.store().rowsForKeys(root, keys, contents, read, error))
+        return false;
+    for (StoreRow& row : read) {
+        const std::int64_t key = row.key;
+        rows.insert_or_assign(key, std::move(row));
+    }
+    return true;
+}
+
+void StoreCatchUp::takeRows(Records& records, Rows& rows)
+{
+    const auto takeEach = [&](std::vector<NSManagedObject*>& those, auto&& take) {
+        for (NSManagedObject* record : those) {
+            if (const auto row = rows.find(record->objectID().key()); row != rows.end())
+                take(*record, row->second);
+            else
+                records.gone.push_back(record); // between two reads of a store without a lock
+        }
+    };
+    takeEach(records.deleted, [&](NSManagedObject& record, StoreRow& row) { conflicts_.noteDeletedHere(record, row); });
+    takeEach(records.clean, [&](NSManagedObject& record, StoreRow& row) {
+        RecordAccess::fill(record, std::move(row.values), row.version);
+        core_.noteRefreshed(record);
+    });
+    takeEach(
+        records.changed, [&](NSManagedObject& record, StoreRow& row) { conflicts_.mergeRow(record, std::move(row)); });
+}
+
+void StoreCatchUp::letGo(const RecordsByRoot& records)
+{
+    KeysOfEntities gone;
+    for (const auto& [root, those] : records) {
+        for (NSManagedObject* record : those.gone) {
+            if (record->isDeleted())
+                continue; // both sides deleted it
+            conflicts_.noteDeletedElsewhere(*record);
+            gone[root].insert(record->objectID().key());
+            core_.tracker.forgetPending(*record);
+            core_.noteGone(*record);
+        }
+    }
+    if (!gone.empty())
+        core_.relationships.dropReferences(gone);
+}
+
+/// What others have tied to a record that is deleted here: it loses it in this save, and counts as changed.
+bool StoreCatchUp::detachFromDeleted(NSError* error)
+{
+    for (NSManagedObject* record : core_.tracker.deletedObjects()) {
+        for (const NSRelationshipDescription* relationship : record->entity().relationships()) {
+            if (relationship->storage() == RelationshipStorage::Column
+                || relationship->deleteRule() == NSDeleteRule::Deny)
+                continue;
+            std::vector<RelatedKey> stored;
+            if (!core_.store().relatedKeys(*relationship, record->objectID().key(), stored, error))
+                return false;
+            for (const RelatedKey& key : stored)
+                detach(*record, *relationship, key);
+        }
+    }
+    return true;
+}
+
+void StoreCatchUp::detach(
+    NSManagedObject& deleted, const NSRelationshipDescription& relationship, const RelatedKey& stored)
+{
+    NSManagedObject& other = core_.recordOrFault(*stored.entity, stored.key);
+    const PropertyIndex inverse = relationship.inverseRelationship().index();
+    if (other.isDeleted() || (RecordAccess::changed(other) & propertyBit(inverse)))
+        return;
+    if (relationship.deleteRule() == NSDeleteRule::Cascade)
+        core_.remove(other);
+    else
+        core_.relationships.detachFromDeleted(other, relationship.inverseRelationship(), deleted);
+}
+
+} // namespace tarn
