@@ -19,6 +19,7 @@ class CVKWikiLink;
 class OVNoteGenericFile;
 class OVNoteImage;
 class TolVectorClock;
+struct MergeConflict;
 struct CVKTextSummary;
 
 /// One note: a Markdown text and everything that is derived from it.
@@ -113,6 +114,18 @@ public:
     void updateNoteFromTextSummary(const CVKTextSummary& summary);
     /// Marks attachments used or unused by the links of the text, and numbers the used ones by their first link.
     void updateFilesFromTextSummary(const CVKTextSummary& summary);
+
+    // When others save too (notes/OVNote+Merging.cpp) ---------------------------------------------------------------
+    /// A merge decided what the text is: what follows from it follows from the text that won. The clock does not
+    /// advance. Where the losing side had only renamed, added or removed a tag or renamed a linked note, that is done
+    /// again to the text that won.
+    void awakeFromMerge(RecordMerge& merge) override;
+    /// Others saved notes and tags that this note's unsaved text, title or tags may have to do with.
+    void deriveFromOthers() override;
+    /// Keeps a text that a merge dropped as a conflicted copy of the note, or as a note of its own where the note is
+    /// gone; a protected one as it is stored. Null where no text was lost, or none that a person wrote. The copy is
+    /// unsaved.
+    static OVNote* keepLosingText(const MergeConflict& conflict);
 
     // Text editing (notes/OVNote+TextEditing.cpp) -------------------------------------------------------------------
     // They end in `updateNoteWithText`.
@@ -300,6 +313,9 @@ private:
     void setConflictUUID(std::optional<std::string_view> conflictUUID);
     std::string textAfterTakingAttachmentsOf(const OVNote& note, std::string text);
     void copyInto(OVNote& copy) const;
+    void deriveFromTextSummary(const CVKTextSummary& summary, const std::optional<std::string>& oldTitle);
+    void takeAttachmentsAsIn(const OVNote& note);
+    void takeProtectedValues(const MergeConflict& conflict);
 
     std::int64_t searchIndex_ = 0;
     TagsCache* tagsCache_ = nullptr;

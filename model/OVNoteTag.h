@@ -57,6 +57,9 @@ public:
     /// Deletes every tag without notes; trashed and archived notes count.
     static void deleteAllUnusedTagsInManagedObjectContext(NSManagedObjectContext& context);
 
+    /// Others may have saved a tag of this name meanwhile: a new one gives way to it, with its notes.
+    void deriveFromOthers() override;
+
     // Names and hierarchy (tags/OVNoteTag+Hierarchy.cpp) ------------------------------------------------------------
     /// The parts of the title between slashes; empty without a title.
     std::vector<std::string> tagComponents() const;
@@ -137,6 +140,7 @@ public:
 
 private:
     OVNoteTag* rename(std::string_view newName, const std::vector<OVNote*>* notes);
+    void giveWayTo(OVNoteTag& tag);
     void moveSettingsTo(OVNoteTag& tag) const;
     void movePinnedNotesTo(OVNoteTag& tag);
     void takeIconsOfSubTags(const std::vector<OVNoteTag*>& oldTags, std::string_view oldTitle);

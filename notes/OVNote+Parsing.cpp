@@ -105,7 +105,11 @@ void OVNote::updateNoteWithAST(const CVKAST& document, bool updateModificationDa
 
 void OVNote::updateNoteFromTextSummary(const CVKTextSummary& summary)
 {
-    const std::optional<std::string> oldTitle = title();
+    deriveFromTextSummary(summary, title());
+}
+
+void OVNote::deriveFromTextSummary(const CVKTextSummary& summary, const std::optional<std::string>& oldTitle)
+{
     setTitle(summary.title);
     // What is protected must not shine through a list of notes.
     setSubtitle(hasEncryption() ? std::nullopt : std::optional<std::string_view>(summary.subtitle));

@@ -2,6 +2,7 @@
 
 #include "files/OVLocalFileManager.h"
 #include "model/ManagedObjectModel.h"
+#include "model/OVNote.h"
 #include "platform/coredata/NSPersistentStore.h"
 #include "platform/foundation/Log.h"
 #include "platform/foundation/NSException.h"
@@ -87,7 +88,7 @@ bool OVCoreDataStack::openStore(NSManagedObjectContext::ConcurrencyType type, NS
     // A task in the background may hold the context when the stack has ended.
     context->setMergeConflictHandler([this, stack = lifeline()](const MergeConflict& conflict) {
         if (!stack.expired())
-            tellOfConflict(conflict);
+            settleConflict(conflict);
     });
     managedObjectContext_ = std::move(context);
     return true;
@@ -108,10 +109,37 @@ void OVCoreDataStack::initializeInMemoryContext()
     inMemoryManagedObjectContext_->setMergePolicy(NSMergePolicy::MergeByPropertyObjectTrump);
 }
 
-void OVCoreDataStack::tellOfConflict(const MergeConflict& conflict)
+// Conflicts -----------------------------------------------------------------------------------------------------------
+
+void OVCoreDataStack::settleConflict(const MergeConflict& conflict)
 {
-    if (OVCoreDataStackDelegate* const listener = delegate())
+    OVCoreDataStackDelegate* const listener = delegate();
+    if (!listener || listener->coreDataStackShouldKeepLosingText(*this, conflict))
+        if (OVNote* copy = OVNote::keepLosingText(conflict))
+            tellOfKeptText(*copy);
+    if (listener)
         listener->coreDataStackDidMergeConflict(*this, conflict);
+}
+
+/// On the child's queue, where the delegate cannot be asked; it hears of the copy once the child has been saved.
+void OVCoreDataStack::settleConflictOfChild(const MergeConflict& conflict)
+{
+    const OVNote* copy = OVNote::keepLosingText(conflict);
+    if (!copy)
+        return;
+    MainQueue::main().async([this, stack = lifeline(), identifier = copy->uniqueIdentifier().value_or("")] {
+        if (stack.expired() || !managedObjectContext_)
+            return;
+        if (OVNote* kept = OVNote::noteWithUniqueIdentifier(identifier, *managedObjectContext_))
+            tellOfKeptText(*kept);
+    });
+}
+
+void OVCoreDataStack::tellOfKeptText(OVNote& copy)
+{
+    logMessage("A text that gave way to another writer's is kept as the note " + copy.uniqueIdentifier().value_or(""));
+    if (OVCoreDataStackDelegate* const listener = delegate())
+        listener->coreDataStackDidKeepLosingText(*this, copy);
 }
 
 // Work in the background ----------------------------------------------------------------------------------------------
@@ -122,6 +150,10 @@ std::unique_ptr<NSManagedObjectContext> OVCoreDataStack::backgroundPrivateManage
         throw NSException(NSInternalInconsistencyException, "The store stack has no main context");
     auto context = std::make_unique<NSManagedObjectContext>(NSManagedObjectContext::ConcurrencyType::PrivateQueue);
     managedObjectContext_->performBlockAndWait([&] { context->setParentContext(*managedObjectContext_); });
+    context->setMergeConflictHandler([this, stack = lifeline()](const MergeConflict& conflict) {
+        if (!stack.expired())
+            settleConflictOfChild(conflict);
+    });
     return context;
 }
 

@@ -63,8 +63,9 @@ public:
     {
         return inMemoryManagedObjectContext_.get();
     }
-    /// A new child of the main context on a queue of its own, for work in the background. Let it end on that queue, or
-    /// when nothing runs on it any more. Raises `NSInternalInconsistencyException` without a main context.
+    /// A new child of the main context on a queue of its own, for work in the background. A text of the main context
+    /// that gives way to one of the child is kept as a conflicted copy, whatever the delegate says. Let it end on that
+    /// queue, or when nothing runs on it any more. Raises `NSInternalInconsistencyException` without a main context.
     std::unique_ptr<NSManagedObjectContext> backgroundPrivateManagedObjectContext();
     /// Calls `block` with such a child, on its queue; then the main context is saved. What the block wants to keep it
     /// saves into the main context by saving the child, which ends after the block. Returns at once.
@@ -126,9 +127,11 @@ private:
     void waitForMigration();
     void runInBackground(std::function<void(NSManagedObjectContext&)> block);
     void save();
+    void settleConflict(const MergeConflict& conflict);
+    void settleConflictOfChild(const MergeConflict& conflict);
+    void tellOfKeptText(OVNote& copy);
     bool saveChanges(NSError& error);
     bool writeUnderLock(const std::function<void(NSManagedObjectContext&)>& block, NSError& error);
-    void tellOfConflict(const MergeConflict& conflict);
 
     WeakReference<OVCoreDataStackDelegate> delegate_;
     MigrationManagerMaker makeMigrationManager_;

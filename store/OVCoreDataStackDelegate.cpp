@@ -15,6 +15,13 @@ void OVCoreDataStackDelegate::coreDataStackDidEndMigration(
 
 void OVCoreDataStackDelegate::coreDataStackDidFailToSave(OVCoreDataStack&, const NSError&) { }
 
+bool OVCoreDataStackDelegate::coreDataStackShouldKeepLosingText(OVCoreDataStack&, const MergeConflict&)
+{
+    return true;
+}
+
+void OVCoreDataStackDelegate::coreDataStackDidKeepLosingText(OVCoreDataStack&, OVNote&) { }
+
 void OVCoreDataStackDelegate::coreDataStackDidMergeConflict(OVCoreDataStack&, const MergeConflict&) { }
 
 } // namespace tarn

@@ -4,6 +4,7 @@
 #include "tags/TagLookupInternal.h"
 
 #include <algorithm>
+#include <unordered_set>
 
 namespace tarn {
 
@@ -45,9 +46,13 @@ std::vector<std::string> OVNote::tagsStrings() const
 void OVNote::setTagsFromStrings(std::span<const std::string> names)
 {
     NSManagedObjectContext& context = managedObjectContext();
-    const auto tags = tagsCache_ ? tagsThroughCache(names, *tagsCache_, context) : findOrCreateTags(names, context);
-    if (tags)
-        tagsSet().setObjects(*tags);
+    auto tags = tagsCache_ ? tagsThroughCache(names, *tagsCache_, context) : findOrCreateTags(names, context);
+    if (!tags)
+        return;
+    // Two processes may have made the same tag; the older one counts.
+    std::unordered_set<std::string> known;
+    std::erase_if(*tags, [&](const OVNoteTag* tag) { return !known.insert(tag->normalizedTitle()).second; });
+    tagsSet().setObjects(*tags);
 }
 
 OVNoteTag* OVNote::tagForName(std::string_view name) const

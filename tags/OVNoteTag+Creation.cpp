@@ -1,4 +1,5 @@
 #include "corvel/CVKHashtag.h"
+#include "model/OVNote.h"
 #include "model/OVNoteTag.h"
 #include "model/RecordFetch.h"
 #include "tags/TagLookupInternal.h"
@@ -31,6 +32,30 @@ void OVNoteTag::deleteAllUnusedTagsInManagedObjectContext(NSManagedObjectContext
 {
     for (OVNoteTag* tag : tagsMatching(NSPredicate::predicateWithFormat("notes.@count == 0"), {}, context))
         context.deleteObject(*tag);
+}
+
+// Made twice ----------------------------------------------------------------------------------------------------------
+
+void OVNoteTag::deriveFromOthers()
+{
+    const auto ownTitle = title();
+    if (!isInserted() || !ownTitle)
+        return;
+    const auto first = lookUpTag(*ownTitle, managedObjectContext());
+    if (first && *first && *first != this && !(*first)->isInserted())
+        giveWayTo(**first);
+}
+
+void OVNoteTag::giveWayTo(OVNoteTag& tag)
+{
+    for (OVNote* note : notesSet().allObjects())
+        tag.notesSet().addObject(*note);
+    const std::vector<OVNote*> pinnedHere = pinnedNotesSet().allObjects();
+    for (OVNote* note : pinnedHere)
+        tag.pinnedNotesSet().addObject(*note);
+    if (!pinnedHere.empty())
+        tag.setPinnedNotesDate(pinnedNotesDate());
+    managedObjectContext().deleteObject(*this);
 }
 
 } // namespace tarn

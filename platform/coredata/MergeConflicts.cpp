@@ -36,6 +36,16 @@ PropertyMask ownChanges(const NSManagedObject& record)
             | (entity.largeMask() & ~details.committed.loadedMask()));
 }
 
+/// Null for none, and for one that is not here.
+NSManagedObject* targetNamed(
+    const ContextCore& core, const NSPropertyDescription& property, const PropertyValues& values)
+{
+    if (!values.isLoaded(property.index()) || values.isNil(property.index()))
+        return nullptr;
+    const auto& relationship = static_cast<const NSRelationshipDescription&>(property);
+    return core.registry.find(relationship.destinationEntity().rootEntity(), values.integer(property.index()));
+}
+
 } // namespace
 
 /// Who keeps what both sides changed, groups as a whole.
@@ -125,8 +135,11 @@ void MergeConflicts::note(MergeConflict::Cause cause, NSManagedObject& record, M
         if (!(lost & propertyBit(index)))
             continue;
         conflict.properties.push_back(property->name());
-        if (property->isRelationship())
+        if (property->isRelationship()) {
+            if (NSManagedObject* target = targetNamed(core_, *property, losing))
+                conflict.lostValues.emplace(property->name(), Value(target));
             continue;
+        }
         conflict.lostValues.emplace(property->name(), losing.attributeValue(index));
         if (!former.isEmpty() && former.isLoaded(index))
             conflict.formerValues.emplace(property->name(), former.attributeValue(index));

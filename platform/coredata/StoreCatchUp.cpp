@@ -89,13 +89,18 @@ bool StoreCatchUp::allowedByPolicy(NSError* error) const
 {
     if (core_.mergePolicy != NSMergePolicy::Error)
         return true;
+    // Members that come and go change no row.
+    const auto changesItsRow = [](const NSManagedObject* record) {
+        const RecordDetails* details = RecordAccess::detailsIfAny(*record);
+        return details && details->rowChanged != 0;
+    };
     for (const auto& [root, records] : records_) {
-        if (!records.changed.empty())
-            return failForConflict(error, "changed ", *records.changed.front());
+        if (const auto found = std::ranges::find_if(records.changed, changesItsRow); found != records.changed.end())
+            return failForConflict(error, "changed ", **found);
         if (!records.deleted.empty())
             return failForConflict(error, "changed ", *records.deleted.front());
         for (const NSManagedObject* record : records.gone)
-            if (record->isUpdated())
+            if (record->isUpdated() && changesItsRow(record))
                 return failForConflict(error, "deleted ", *record);
     }
     return true;

@@ -26,7 +26,7 @@ inline constexpr std::string_view libraryModel = R"({
      "attributes": [
        {"name": "title", "type": "string", "index": ["folded"], "group": "text"},
        {"name": "code", "type": "string", "index": ["value"]},
-       {"name": "body", "type": "string", "storage": "large", "index": ["substring"], "group": "text"},
+       {"name": "body", "type": "string", "storage": "large", "index": ["substring"], "group": "text", "leads": true},
        {"name": "pages", "type": "int64", "default": 0},
        {"name": "copies", "type": "int16", "default": 0},
        {"name": "weight", "type": "double"},

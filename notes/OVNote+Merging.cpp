@@ -1,0 +1,166 @@
+#include "corvel/CVKAST.h"
+#include "encryption/OVEncryptionCoreManager.h"
+#include "model/OVNote.h"
+#include "model/OVNoteAttributes.h"
+#include "model/OVNoteFile.h"
+#include "model/OVNoteRelationships.h"
+#include "model/OVPassword.h"
+#include "notes/TextRewriting.h"
+#include "platform/coredata/NSManagedObjectContext.h"
+#include "platform/coredata/RecordMerge.h"
+#include "platform/foundation/Log.h"
+#include "platform/foundation/NSException.h"
+
+#include <algorithm>
+#include <array>
+#include <functional>
+
+namespace tarn {
+
+namespace {
+
+std::optional<std::string> textOf(const Value& value)
+{
+    return value.kind() == Value::Kind::String ? std::optional(value.asString()) : std::nullopt;
+}
+
+/// Only a person's edit changes the date; what else changed the text can be told from it.
+std::optional<TextRewriting> rewritingOf(const Value& former, const Value& rewritten)
+{
+    const auto before = textOf(former);
+    const auto after = textOf(rewritten);
+    return before && after ? TextRewriting::between(*before, *after) : std::nullopt;
+}
+
+/// The links and tags of a text do not wait for an attachment that is locked. NO when there is one.
+bool deriveWhatCanBeRead(const std::function<void()>& derive)
+{
+    try {
+        derive();
+        return true;
+    } catch (const NSException& exception) {
+        if (exception.name() != OVInvalidAccessorException)
+            throw;
+        logMessage("What follows from a text could not all be derived again: " + exception.reason());
+        return false;
+    }
+}
+
+} // namespace
+
+// After a merge -------------------------------------------------------------------------------------------------------
+
+void OVNote::awakeFromMerge(RecordMerge& merge)
+{
+    if (!merge.isDecided(OVNoteAttributes::text()) || encryptedValue())
+        return;
+    const Value losing = merge.losingValue(OVNoteAttributes::text());
+    const std::string kept = storedText().value_or("");
+    deriveWhatCanBeRead([&] {
+        deriveFromTextSummary(
+            CVKAST::fromMarkdown(kept).textSummary(), textOf(merge.valueOfContext(OVNoteAttributes::title())));
+    });
+    if (textOf(losing) == kept) {
+        merge.redoneInWinner(OVNoteAttributes::text());
+        return;
+    }
+    const bool wasEdited = merge.formerValue(OVNoteAttributes::modificationDate())
+        != merge.losingValue(OVNoteAttributes::modificationDate());
+    const auto rewriting = wasEdited ? std::nullopt : rewritingOf(merge.formerValue(OVNoteAttributes::text()), losing);
+    if (!rewriting)
+        return;
+    const std::string redone = rewriting->appliedTo(kept);
+    if (redone == kept
+        || deriveWhatCanBeRead([&] { updateNoteWithAST(CVKAST::fromMarkdown(std::string_view(redone)), false); }))
+        merge.redoneInWinner(OVNoteAttributes::text());
+}
+
+void OVNote::deriveFromOthers()
+{
+    const std::set<std::string> changed = changedKeys();
+    const bool isConcerned = isInserted()
+        || std::ranges::any_of(
+            std::array{OVNoteAttributes::text(), OVNoteAttributes::title(), OVNoteRelationships::tags()},
+            [&](std::string_view key) { return changed.contains(std::string(key)); });
+    if (!isConcerned || encryptedValue())
+        return;
+    const std::string title(OVNoteAttributes::title());
+    std::optional<std::string> formerTitle;
+    if (!isInserted())
+        formerTitle = textOf(committedValuesForKeys({title})[title]);
+    deriveWhatCanBeRead(
+        [&] { deriveFromTextSummary(CVKAST::fromMarkdown(storedText().value_or("")).textSummary(), formerTitle); });
+}
+
+// Conflicted copies of what gave way ----------------------------------------------------------------------------------
+
+namespace {
+
+Value lostValue(const MergeConflict& conflict, std::string_view key)
+{
+    const auto found = conflict.lostValues.find(std::string(key));
+    return found == conflict.lostValues.end() ? Value() : found->second;
+}
+
+/// Of a note that is gone nobody misses a text into which the system alone put another name.
+bool wasOnlyRewritten(const MergeConflict& conflict)
+{
+    if (conflict.cause == MergeConflict::Cause::ChangedByBoth
+        || conflict.lostValues.contains(std::string(OVNoteAttributes::modificationDate())))
+        return false;
+    const auto former = conflict.formerValues.find(std::string(OVNoteAttributes::text()));
+    return former != conflict.formerValues.end()
+        && rewritingOf(former->second, lostValue(conflict, OVNoteAttributes::text())).has_value();
+}
+
+} // namespace
+
+OVNote* OVNote::keepLosingText(const MergeConflict& conflict)
+{
+    auto* note = dynamic_cast<OVNote*>(conflict.record);
+    if (!note)
+        return nullptr;
+    const auto text = textOf(lostValue(conflict, OVNoteAttributes::text()));
+    const bool isProtected = lostValue(conflict, OVNoteAttributes::encryptedData()).kind() == Value::Kind::Data;
+    if ((!text || wasOnlyRewritten(conflict)) && !isProtected)
+        return nullptr;
+    OVNote* copy = insertInManagedObjectContext(note->managedObjectContext());
+    if (!note->isDeleted())
+        copy->takeAttachmentsAsIn(*note);
+    if (isProtected)
+        copy->takeProtectedValues(conflict);
+    else
+        copy->updateNoteWithText(*text, false);
+    if (const Value date = lostValue(conflict, OVNoteAttributes::modificationDate()); date.kind() == Value::Kind::Date)
+        copy->setModificationDate(date.asDate());
+    if (!note->isDeleted())
+        copy->markAsConflictedFromNote(*note);
+    return copy;
+}
+
+/// So that the links of the copy's text lead to files of its own.
+void OVNote::takeAttachmentsAsIn(const OVNote& note)
+{
+    for (OVNoteFile* file : note.filesSet().allObjects())
+        file->duplicate()->setNote(this);
+}
+
+/// As they are stored: whoever has the password reads the copy like the note.
+void OVNote::takeProtectedValues(const MergeConflict& conflict)
+{
+    for (const std::string_view key :
+        {OVNoteAttributes::title(), OVNoteAttributes::encrypted(), OVNoteAttributes::encryptedData(),
+            OVNoteAttributes::encryptionDate(), OVNoteAttributes::encryptionUniqueIdentifier()}) {
+        const auto lost = conflict.lostValues.find(std::string(key));
+        setPrimitiveValueForKey(
+            key, lost != conflict.lostValues.end() ? lost->second : conflict.record->storedValueForKey(key));
+    }
+    setEncryptedValue(true);
+    const Value password = lostValue(conflict, OVNoteRelationships::password());
+    if (password.kind() == Value::Kind::Object)
+        setPassword(const_cast<OVPassword*>(dynamic_cast<const OVPassword*>(&password.asObject())));
+    else if (auto* note = static_cast<OVNote*>(conflict.record); !note->isDeleted())
+        setPassword(note->password());
+}
+
+} // namespace tarn
