@@ -254,8 +254,8 @@ public:
     std::string conflictedRootUUID() const;
     /// A stamp for a member of this group. Each is later than the one before.
     std::string conflictedUUIDFromRootUUID(std::string_view rootUUID) const;
-    /// Joins the group of `note`, which is made when there is none, as its latest member, and leaves the one that it was
-    /// in. Nothing happens for the note itself.
+    /// Joins the group of `note`, which is made when there is none, as its latest member, and leaves the one that it
+    /// was in. Nothing happens for the note itself.
     void markAsConflictedFromNote(OVNote& note);
     /// Leaves its group: one that is left alone is no group any more, of several the latest stamped becomes the root.
     void unmarkAsConflicted();
@@ -314,6 +314,7 @@ private:
     std::string textAfterTakingAttachmentsOf(const OVNote& note, std::string text);
     void copyInto(OVNote& copy) const;
     void deriveFromTextSummary(const CVKTextSummary& summary, const std::optional<std::string>& oldTitle);
+    bool leadsWhereLinksSay(std::span<const CVKWikiLink> wikiLinks) const;
     void takeAttachmentsAsIn(const OVNote& note);
     void takeProtectedValues(const MergeConflict& conflict);
 

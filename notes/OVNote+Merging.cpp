@@ -52,10 +52,11 @@ bool deriveWhatCanBeRead(const std::function<void()>& derive)
 
 void OVNote::awakeFromMerge(RecordMerge& merge)
 {
-    if (!merge.isDecided(OVNoteAttributes::text()) || encryptedValue())
+    const auto text = storedText();
+    if (!merge.isDecided(OVNoteAttributes::text()) || !text || encryptedValue())
         return;
+    const std::string& kept = *text;
     const Value losing = merge.losingValue(OVNoteAttributes::text());
-    const std::string kept = storedText().value_or("");
     deriveWhatCanBeRead([&] {
         deriveFromTextSummary(
             CVKAST::fromMarkdown(kept).textSummary(), textOf(merge.valueOfContext(OVNoteAttributes::title())));
@@ -82,14 +83,19 @@ void OVNote::deriveFromOthers()
         || std::ranges::any_of(
             std::array{OVNoteAttributes::text(), OVNoteAttributes::title(), OVNoteRelationships::tags()},
             [&](std::string_view key) { return changed.contains(std::string(key)); });
-    if (!isConcerned || encryptedValue())
+    const auto text = storedText();
+    if (!isConcerned || !text || encryptedValue())
         return;
-    const std::string title(OVNoteAttributes::title());
-    std::optional<std::string> formerTitle;
-    if (!isInserted())
-        formerTitle = textOf(committedValuesForKeys({title})[title]);
-    deriveWhatCanBeRead(
-        [&] { deriveFromTextSummary(CVKAST::fromMarkdown(storedText().value_or("")).textSummary(), formerTitle); });
+    const std::string key(OVNoteAttributes::title());
+    const auto formerTitle = isInserted() ? std::nullopt : textOf(committedValuesForKeys({key})[key]);
+    deriveWhatCanBeRead([&] {
+        const CVKAST document = CVKAST::fromMarkdown(*text);
+        setTagsFromStrings(document.textSummary().tags);
+        if (!leadsWhereLinksSay(document.textSummary().wikiLinks))
+            setLinkedNotesFromWikiLinks(document.textSummary().wikiLinks);
+        updateLinkedByNoteForNewTitle(title(), formerTitle);
+        updateFilesFromTextSummary(document.textSummary());
+    });
 }
 
 // Conflicted copies of what gave way ----------------------------------------------------------------------------------

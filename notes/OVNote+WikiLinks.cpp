@@ -6,6 +6,7 @@
 #include "platform/coredata/NSManagedObjectContext.h"
 #include "platform/foundation/Folding.h"
 
+#include <algorithm>
 #include <unordered_map>
 
 namespace tarn {
@@ -80,6 +81,35 @@ void OVNote::setLinkedNotesFromWikiLinks(std::span<const CVKWikiLink> wikiLinks)
         record->setLinkedBy(this);
         forgetWalksOver(*record);
     }
+}
+
+/// Whether the records of the note's links are those of the text, and lead to the notes that there are now.
+bool OVNote::leadsWhereLinksSay(std::span<const CVKWikiLink> wikiLinks) const
+{
+    const std::vector<OVNoteBackLink*> records = linkingToSet().allObjects();
+    std::unordered_map<std::int64_t, const OVNoteBackLink*> byLocation;
+    for (const OVNoteBackLink* record : records)
+        byLocation.emplace(record->locationValue(), record);
+    std::size_t count = 0;
+    std::vector<CVKWikiLink> waiting;
+    for (const CVKWikiLink& link : wikiLinks) {
+        if (link.decodedTitle().empty())
+            continue;
+        ++count;
+        const auto found = byLocation.find(static_cast<std::int64_t>(link.offset()));
+        if (found == byLocation.end() || fold(found->second->title().value_or("")) != fold(link.decodedTitle()))
+            return false;
+        if (!found->second->linkingTo())
+            waiting.push_back(link);
+        else if (!isStillRight(*found->second, link))
+            return false;
+    }
+    if (count != records.size())
+        return false;
+    LinkTargets targets(managedObjectContext(), nullptr);
+    return !targets.lookUp(waiting) || std::ranges::none_of(waiting, [&](const CVKWikiLink& link) {
+        return targets.targetOf(link.decodedTitle()) != nullptr;
+    });
 }
 
 void OVNote::updateLinkedByNoteForNewTitle(

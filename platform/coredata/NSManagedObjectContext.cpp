@@ -139,7 +139,8 @@ std::optional<std::vector<NSManagedObject*>> NSManagedObjectContext::fetch(
 {
     core_->assertOnQueue();
     auto found = PendingFetch(*core_, request).objects(error);
-    core_->otherWriters.lookAfterFetch();
+    if (found)
+        core_->otherWriters.lookAfterFetch();
     return found;
 }
 
@@ -152,7 +153,8 @@ std::optional<std::size_t> NSManagedObjectContext::count(const NSFetchRequest& r
 {
     core_->assertOnQueue();
     const auto counted = PendingFetch(*core_, request).count(error);
-    core_->otherWriters.lookAfterFetch();
+    if (counted)
+        core_->otherWriters.lookAfterFetch();
     return counted;
 }
 
@@ -166,7 +168,8 @@ std::optional<std::vector<DictionaryResult>> NSManagedObjectContext::executeDict
 {
     core_->assertOnQueue();
     auto found = PendingFetch(*core_, request).dictionaries(error);
-    core_->otherWriters.lookAfterFetch();
+    if (found)
+        core_->otherWriters.lookAfterFetch();
     return found;
 }
 

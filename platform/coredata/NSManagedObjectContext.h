@@ -41,8 +41,8 @@ struct MergeConflict {
     Cause cause = Cause::ChangedByBoth;
     MergeSide loser = MergeSide::Context; ///< whose values were dropped
     NSManagedObject* record = nullptr;
-    std::vector<std::string> properties; ///< that the loser had changed; their values were dropped
-    std::map<std::string, Value> lostValues; ///< a to-one as the record, where that is here
+    std::vector<std::string> properties;       ///< that the loser had changed; their values were dropped
+    std::map<std::string, Value> lostValues;   ///< a to-one as the record, where that is here
     std::map<std::string, Value> formerValues; ///< before either side changed them, as far as they were read
 };
 

@@ -132,6 +132,7 @@ void OtherWriters::tell()
 void OtherWriters::catchUp(Reserve reserve)
 {
     isLooking_ = true;
+    isInFetch_ = reserve.handedOut;
     isBehind_ = false;
     core_.scheduleProcessing();
     RemoteChanges changes;
@@ -176,6 +177,15 @@ std::optional<OtherWriters::News> OtherWriters::news(Reserve reserve)
     return found;
 }
 
+/// Who fetches hears of a store that cannot be read from the fetch that needs it; the look comes again.
+void OtherWriters::noteFailure(const NSError& error)
+{
+    if (isInFetch_)
+        isBehind_ = true;
+    else
+        logMessage("Error while looking for what others saved\n" + error.localizedDescription());
+}
+
 bool OtherWriters::compareVersions(
     const NSEntityDescription& root, const std::vector<NSManagedObject*>& records, News& news)
 {
@@ -187,7 +197,7 @@ bool OtherWriters::compareVersions(
     std::vector<StoreRow> rows;
     NSError error;
     if (!readVersions(root, held, rows, &error)) {
-        logMessage("Error while looking for what others saved\n" + error.localizedDescription());
+        noteFailure(error);
         return false;
     }
     auto row = rows.begin();
@@ -247,7 +257,7 @@ std::optional<bool> OtherWriters::hasOtherMembers(NSManagedObject& record)
     const auto read = [&](const NSRelationshipDescription& relationship) {
         if (core_.store().relatedKeys(relationship, record.objectID().key(), related, &error))
             return true;
-        logMessage("Error while looking for what others saved\n" + error.localizedDescription());
+        noteFailure(error);
         return false;
     };
     if (const RecordDetails* details = RecordAccess::detailsIfAny(record)) {

@@ -62,6 +62,7 @@ private:
         const std::vector<std::pair<std::int64_t, NSManagedObject*>>& held, std::vector<StoreRow>& rows,
         NSError* error) const;
     bool compareRelationships(const std::vector<NSManagedObject*>& records, News& news);
+    void noteFailure(const NSError& error);
     std::optional<bool> hasOtherMembers(NSManagedObject& record);
     void forgetTextsRead();
 
@@ -70,6 +71,7 @@ private:
     std::uint64_t seenCommits_ = 0;
     bool isBehind_ = false;  ///< something was left for the end of the pass
     bool isLooking_ = false; ///< reading calls back
+    bool isInFetch_ = false;
     bool hasNotice_ = false; ///< for observers
     std::vector<const NSManagedObject*> handedOut_;
 };

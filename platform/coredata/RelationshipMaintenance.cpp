@@ -358,10 +358,10 @@ void RelationshipMaintenance::forgetChangedMember(
         ToManySet* set = details->toManySet(relationship.index());
         if (!set)
             return;
-        std::erase(set->added_, &member);
-        std::erase(set->removed_, &member);
+        set->added_.erase(&member);
+        set->removed_.erase(&member);
         set->forgetStored();
-        isChanged = !set->added_.empty() || !set->removed_.empty();
+        isChanged = !set->added_.isEmpty() || !set->removed_.isEmpty();
     } else if (!owner.isFault() && !RecordAccess::isGone(owner)) {
         PropertyValues& values = RecordAccess::values(owner);
         const PropertyIndex index = relationship.index();
@@ -395,7 +395,7 @@ void RelationshipMaintenance::forgetChangedMembers(
     if (!set)
         return;
     for (const auto* members : {&set->added_, &set->removed_})
-        for (NSManagedObject* member : *members)
+        for (NSManagedObject* member : members->values())
             forgetChangedMember(*member, relationship.inverseRelationship(), record);
     set->unload();
     details->changed &= ~propertyBit(relationship.index());

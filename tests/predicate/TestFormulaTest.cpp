@@ -67,7 +67,7 @@ TEST(TestFormula, ComesToWhatItsPartsComeTo)
 {
     std::mt19937 random(20261122);
     int settledEarly = 0;
-    for (int round = 0; round < 3000; ++round) {
+    for (int round = 0; round < 10000; ++round) {
         FormulaMaker maker(random);
         const Pair root = maker.part(4);
         maker.formula.setRoot(root.node);
