@@ -79,10 +79,11 @@ void OVNote::awakeFromMerge(RecordMerge& merge)
 void OVNote::deriveFromOthers()
 {
     const std::set<std::string> changed = changedKeys();
+    // The same text, parsed again, gives new links too.
+    constexpr std::array derived{OVNoteAttributes::text(), OVNoteAttributes::title(), OVNoteRelationships::tags(),
+        OVNoteRelationships::linkingTo(), OVNoteRelationships::files()};
     const bool isConcerned = isInserted()
-        || std::ranges::any_of(
-            std::array{OVNoteAttributes::text(), OVNoteAttributes::title(), OVNoteRelationships::tags()},
-            [&](std::string_view key) { return changed.contains(std::string(key)); });
+        || std::ranges::any_of(derived, [&](std::string_view key) { return changed.contains(std::string(key)); });
     const auto text = storedText();
     if (!isConcerned || !text || encryptedValue())
         return;

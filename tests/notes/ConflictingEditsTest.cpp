@@ -265,8 +265,10 @@ void ConflictingEdits::live(unsigned seed)
 TEST_P(ConflictingEdits, LeaveRecordsThatSayWhatTextsSayAndNoLineLost)
 {
     const char* lives = std::getenv("TARN_CONFLICTING_LIVES"); // NOLINT(concurrency-mt-unsafe)
-    const unsigned count = lives ? static_cast<unsigned>(std::atoi(lives)) : livesByDefault;
-    for (unsigned seed = 1; seed <= count && !HasFailure(); ++seed) {
+    unsigned count = lives ? static_cast<unsigned>(std::atoi(lives)) : livesByDefault;
+    const char* first = std::getenv("TARN_SEED"); // NOLINT(concurrency-mt-unsafe)
+    for (unsigned seed = first ? static_cast<unsigned>(std::atoi(first)) : 1; count != 0 && !HasFailure();
+         ++seed, --count) {
         StoreFixture::reopen();
         written_.clear();
         live(seed);
