@@ -58,7 +58,8 @@ std::chrono::seconds systemLocalTimeOffset(NSDate date)
     // localtime_r alone would keep to the zone of its first call; the system may have been set to another since.
     ::tzset();
     tellOfUnknownZone();
-    const std::time_t time = std::chrono::system_clock::to_time_t(std::chrono::floor<std::chrono::seconds>(date));
+    // The clock of the library counts nanoseconds, which end in 2262.
+    const std::time_t time = std::chrono::floor<std::chrono::seconds>(date).time_since_epoch().count();
     std::tm local{};
     return std::chrono::seconds(::localtime_r(&time, &local) ? local.tm_gmtoff : 0);
 }

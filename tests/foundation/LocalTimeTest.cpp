@@ -100,6 +100,8 @@ TEST_F(LocalTimeTest, KnowsWhatTheClockShows)
     EXPECT_EQ(fields.hour, 23); // half past five ahead until 1986
     EXPECT_EQ(fields.minute, 44);
     EXPECT_EQ(fields.second, 59);
+    EXPECT_EQ(Calendar().fieldsOfDate(at("3000-01-01T00:00:00Z")).hour, 5)
+        << "after the last nanosecond that 64 bits count";
     for (const NSDate date : {NSDate::min(), NSDate::max()})
         EXPECT_NE(Calendar().dayOfDate(date).year, 0);
 }
