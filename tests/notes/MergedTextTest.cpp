@@ -1,0 +1,103 @@
+// What becomes of a note whose text two writers changed: the text of the store wins, and the other is kept as a note.
+
+#include "tests/support/StoreFixture.h"
+
+#include "model/ManagedObjectModel.h"
+#include "platform/coredata/RecordMerge.h"
+
+namespace tarn {
+namespace {
+
+using testing::UnorderedElementsAre;
+
+class MergedText : public StoreFixture {
+protected:
+    void SetUp() override
+    {
+        StoreFixture::SetUp();
+        prepare(context());
+    }
+    void TearDown() override
+    {
+        takeLog(); // of what gave way
+        other_.reset();
+        StoreFixture::TearDown();
+    }
+
+    /// Saves, and opens the store a second time, as another process does.
+    NSManagedObjectContext& saveAndOpenElsewhere()
+    {
+        save();
+        auto coordinator = std::make_shared<NSPersistentStoreCoordinator>(OVManagedObjectModel::current());
+        NSError error;
+        EXPECT_TRUE(coordinator->addPersistentStoreWithType(StoreType::SQLite, storeFile(), {}, &error)) << error;
+        other_ = std::make_unique<NSManagedObjectContext>(NSManagedObjectContext::ConcurrencyType::MainQueue);
+        other_->setPersistentStoreCoordinator(std::move(coordinator));
+        prepare(*other_);
+        return *other_;
+    }
+    void saveElsewhere()
+    {
+        NSError error;
+        ASSERT_TRUE(other_->save(&error)) << error;
+    }
+    OVNote& elsewhere(const OVNote& note)
+    {
+        return *OVNote::noteWithUniqueIdentifier(note.uniqueIdentifier().value_or(""), *other_);
+    }
+    std::vector<std::string> texts()
+    {
+        std::vector<std::string> found;
+        for (const OVNote* note : all<OVNote>())
+            found.push_back(note->text().value_or("-"));
+        return found;
+    }
+
+private:
+    static void prepare(NSManagedObjectContext& context)
+    {
+        context.setMergePolicy(NSMergePolicy::MergeByPropertyStoreTrump);
+        context.setMergeConflictHandler([](const MergeConflict& conflict) { OVNote::keepLosingText(conflict); });
+    }
+
+    std::unique_ptr<NSManagedObjectContext> other_;
+};
+INSTANTIATE_TEST_SUITE_P(Files, MergedText, testing::Values(StoreType::SQLite), storeName);
+
+TEST_P(MergedText, IsKeptWhereAPersonWroteWhatARenamingWouldWrite)
+{
+    OVNote& links = note("# T\n\n[[A]]");
+    saveAndOpenElsewhere();
+    links.updateNoteWithText("# T\n\n[[B]]");
+    elsewhere(links).updateNoteWithText("# T\n\n[[A]] too");
+    saveElsewhere();
+    save();
+    EXPECT_THAT(texts(), UnorderedElementsAre("# T\n\n[[A]] too", "# T\n\n[[B]]"));
+}
+
+TEST_P(MergedText, OfANoteThatIsGoneIsKeptWhereAPersonWroteWhatARenamingWouldWrite)
+{
+    OVNote& links = note("# T\n\n[[A]]");
+    NSManagedObjectContext& other = saveAndOpenElsewhere();
+    links.updateNoteWithText("# T\n\n[[B]]");
+    other.deleteObject(elsewhere(links));
+    saveElsewhere();
+    save();
+    EXPECT_THAT(texts(), UnorderedElementsAre("# T\n\n[[B]]"));
+}
+
+TEST_P(MergedText, LeadsLinksToTheTitleThatGaveWayToTheOneThatWon)
+{
+    OVNote& target = note("# A");
+    saveAndOpenElsewhere();
+    target.updateNoteWithText("# Ours");
+    OVNote& links = note("# T\n\n[[Ours]]");
+    elsewhere(target).updateNoteWithText("# Theirs");
+    saveElsewhere();
+    save();
+    EXPECT_EQ(target.title(), "Theirs");
+    EXPECT_EQ(links.text(), "# T\n\n[[Theirs]]");
+}
+
+} // namespace
+} // namespace tarn
