@@ -222,6 +222,19 @@ TEST_P(FetchWithPendingChanges, GivesDictionaries)
     EXPECT_EQ(context_->executeDictionaryFetchRequest(wanted)->size(), 1U);
 }
 
+TEST_P(FetchWithPendingChanges, LeavesOutDistinctResultsOnce)
+{
+    for (const int pages : {1, 2, 3})
+        book("stored", pages);
+    NSFetchRequest wanted = request("Book");
+    wanted.propertiesToFetch = {"pages"};
+    wanted.returnsDistinctResults = true;
+    wanted.fetchOffset = 1;
+    EXPECT_EQ(context_->executeDictionaryFetchRequest(wanted)->size(), 2U);
+    save();
+    EXPECT_EQ(context_->executeDictionaryFetchRequest(wanted)->size(), 2U);
+}
+
 TEST_P(FetchWithPendingChanges, MakesResultsDistinctBeforeTheLimit)
 {
     for (const int pages : {1, 1, 2, 2, 3})
