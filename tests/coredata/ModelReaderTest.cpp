@@ -183,6 +183,38 @@ TEST(ModelReader, MarksPropertiesByMask)
     EXPECT_EQ(book.textGroupMask(), bit("title") | bit("body"));
 }
 
+TEST(ModelReader, SaysWhatGoesTogetherInAMerge)
+{
+    auto model = modelOf(R"({"version": "Groups", "entities": [{"name": "Note", "attributes": [
+      {"name": "text", "type": "string", "group": "text", "leads": true},
+      {"name": "title", "type": "string", "group": "text"},
+      {"name": "used", "type": "bool", "group": "text", "companion": "usedDate"},
+      {"name": "usedDate", "type": "date"},
+      {"name": "pinned", "type": "bool", "companion": "pinnedDate"},
+      {"name": "pinnedDate", "type": "date"},
+      {"name": "secret", "type": "data", "group": "encryption"},
+      {"name": "alone", "type": "int64"}]}]})");
+    const NSEntityDescription& note = *model->entityNamed("Note");
+    const auto bit = [&](const char* name) { return propertyBit(note.propertyNamed(name)->index()); };
+    std::vector<std::pair<PropertyMask, PropertyMask>> groups;
+    for (const MergeGroup& group : note.mergeGroups())
+        groups.emplace_back(group.members, group.leads);
+    EXPECT_THAT(groups,
+        testing::UnorderedElementsAre(
+            std::pair(bit("text") | bit("title") | bit("used") | bit("usedDate"), bit("text")),
+            std::pair(bit("pinned") | bit("pinnedDate"), bit("pinned")), std::pair(bit("secret"), PropertyMask{0})));
+    EXPECT_EQ(note.groupedMask(), bit("text") | bit("title") | bit("used") | bit("secret"));
+}
+
+TEST(ModelReader, RefusesALeaderWithoutAGroup)
+{
+    NSError error;
+    EXPECT_FALSE(NSManagedObjectModel::modelWithText(
+        R"({"version": "1", "entities": [{"name": "Note", "attributes": [{"name": "text", "type": "string", "leads": true}]}]})",
+        &error));
+    EXPECT_THAT(error.localizedDescription(), HasSubstr("only a member of a group can lead it"));
+}
+
 TEST(ModelReader, ReadsIndexes)
 {
     auto model = modelOf(kLibrary);

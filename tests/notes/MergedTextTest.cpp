@@ -3,6 +3,8 @@
 #include "tests/support/StoreFixture.h"
 
 #include "model/ManagedObjectModel.h"
+#include "model/OVNoteBackLink.h"
+#include "model/OVPassword.h"
 #include "platform/coredata/RecordMerge.h"
 
 namespace tarn {
@@ -97,6 +99,53 @@ TEST_P(MergedText, LeadsLinksToTheTitleThatGaveWayToTheOneThatWon)
     save();
     EXPECT_EQ(target.title(), "Theirs");
     EXPECT_EQ(links.text(), "# T\n\n[[Theirs]]");
+}
+
+TEST_P(MergedText, IsKeptWithThePasswordThatReadsItWhereItIsProtected)
+{
+    OVNote& secret = note("# T");
+    OVPassword* password = OVPassword::insertInManagedObjectContext(context());
+    secret.setPassword(password);
+    secret.updatePrimitiveText(std::nullopt);
+    secret.setEncryptedValue(true);
+    secret.setEncryptedData(NSData::fromText("before"));
+    saveAndOpenElsewhere();
+    secret.setEncryptedData(NSData::fromText("here"));
+    elsewhere(secret).setEncryptedData(NSData::fromText("there"));
+    saveElsewhere();
+    save();
+
+    EXPECT_EQ(secret.encryptedData(), NSData::fromText("there"));
+    const std::vector<OVNote*> notes = all<OVNote>();
+    ASSERT_EQ(notes.size(), 2U);
+    const OVNote& copy = *(notes.front() == &secret ? notes.back() : notes.front());
+    EXPECT_EQ(copy.encryptedData(), NSData::fromText("here"));
+    EXPECT_TRUE(copy.encryptedValue());
+    EXPECT_EQ(copy.password(), password);
+    EXPECT_FALSE(copy.storedText()) << "nothing in clear";
+}
+
+TEST_P(MergedText, LosesALinkThatNoTextHasWhenOthersHaveSaved)
+{
+    OVNote& links = note("# T\n\n[[A]]");
+    saveAndOpenElsewhere();
+    OVNoteBackLink* surplus = OVNoteBackLink::insertInManagedObjectContext(context());
+    surplus->setTitle("A");
+    surplus->setLocationValue(99);
+    surplus->setLinkedBy(&links);
+    OVNote::noteWithText("# elsewhere", elsewhere(links).managedObjectContext());
+    saveElsewhere();
+    save();
+    EXPECT_EQ(links.linkingToSet().count(), 1U);
+}
+
+TEST_P(MergedText, GetsOneTagWhereTheStoreHasTwoOfAName)
+{
+    OVNoteTag* first = OVNoteTag::addNewTagWithName("rome", context());
+    OVNoteTag::addNewTagWithName("Rome", context());
+    save();
+    OVNote& tagged = note("#rome");
+    EXPECT_THAT(tagged.tagsSet().allObjects(), testing::ElementsAre(first));
 }
 
 } // namespace
