@@ -229,5 +229,27 @@ TEST_F(StackWrite, IsNotNeededToSeeWhatOthersWrote)
     EXPECT_EQ(note.text(), "# Groceries\n\n- pears\n- figs");
 }
 
+TEST_F(StackWrite, StartsWithoutChangesAlsoWhereObserversOfASaveMakeMore)
+{
+    int saves = 0;
+    const auto observer = NSNotificationCenter::defaultCenter().addObserver(
+        NSManagedObjectContextDidSaveNotification, &context(), [&](const NSNotification&) {
+            if (++saves <= 2)
+                OVNote::noteWithText("# Seen " + std::to_string(saves), context());
+        });
+    groceries(context()).pin();
+    bool wasClean = false;
+    NSError error;
+    EXPECT_THROW(stack_.write(
+                     [&](NSManagedObjectContext& context) {
+                         wasClean = !context.hasChanges();
+                         throw std::runtime_error("given up");
+                     },
+                     &error),
+        std::runtime_error);
+    EXPECT_TRUE(wasClean);
+    EXPECT_THAT(titlesInStore(), testing::UnorderedElementsAre("Groceries", "Seen 1", "Seen 2"));
+}
+
 } // namespace
 } // namespace tarn
