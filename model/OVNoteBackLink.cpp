@@ -1,6 +1,8 @@
 #include "model/OVNoteBackLink.h"
 
 #include "model/InsertionValues.h"
+#include "model/OVNote.h"
+#include "platform/coredata/NSManagedObjectContext.h"
 
 namespace tarn {
 
@@ -11,6 +13,12 @@ OVNoteBackLink* OVNoteBackLink::insertInManagedObjectContext(NSManagedObjectCont
     link->setModificationDate(now());
     link->setVersionValue(currentRecordVersion);
     return link;
+}
+
+void OVNoteBackLink::deriveFromOthers()
+{
+    if (!isInserted() && changedKeys().contains("linkedBy") && !linkedBy())
+        managedObjectContext().deleteObject(*this);
 }
 
 } // namespace tarn

@@ -16,6 +16,8 @@ public:
 
     /// A new link with its identifier, version 3 and the date of now.
     static OVNoteBackLink* insertInManagedObjectContext(NSManagedObjectContext& context);
+    /// A link whose note was deleted while others made it stands in no text: it goes.
+    void deriveFromOthers() override;
 
     // Fetching (notes/OVNoteBackLink+Fetching.cpp) -------------------------------------------------------------------
     /// The links that the predicate finds; all without one. A failed fetch is logged and gives an empty list.

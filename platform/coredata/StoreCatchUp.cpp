@@ -171,7 +171,8 @@ void StoreCatchUp::letGo(const RecordsByRoot& records)
         core_.relationships.dropReferences(gone);
 }
 
-/// What others have tied to a record that is deleted here: it loses it in this save, and counts as changed.
+/// What others have tied to a record that is deleted here loses it in this save, and counts as changed. It does not go
+/// along: nobody who deleted knew of it.
 bool StoreCatchUp::detachFromDeleted(NSError* error)
 {
     for (NSManagedObject* record : core_.tracker.deletedObjects()) {
@@ -196,10 +197,7 @@ void StoreCatchUp::detach(
     const PropertyIndex inverse = relationship.inverseRelationship().index();
     if (other.isDeleted() || (RecordAccess::changed(other) & propertyBit(inverse)))
         return;
-    if (relationship.deleteRule() == NSDeleteRule::Cascade)
-        core_.remove(other);
-    else
-        core_.relationships.detachFromDeleted(other, relationship.inverseRelationship(), deleted);
+    core_.relationships.detachFromDeleted(other, relationship.inverseRelationship(), deleted);
 }
 
 } // namespace tarn

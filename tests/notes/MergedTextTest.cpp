@@ -148,5 +148,19 @@ TEST_P(MergedText, GetsOneTagWhereTheStoreHasTwoOfAName)
     EXPECT_THAT(tagged.tagsSet().allObjects(), testing::ElementsAre(first));
 }
 
+TEST_P(MergedText, TakesTheLinksAlongThatOthersMadeInANoteThatIsDeleted)
+{
+    OVNote& links = note("# T");
+    saveAndOpenElsewhere();
+    elsewhere(links).updateNoteWithText("# T\n\n[[A]]");
+    saveElsewhere();
+    context().deleteObject(links);
+    save();
+    EXPECT_EQ(all<OVNote>().size(), 1U) << "the text is kept";
+    const std::vector<OVNoteBackLink*> left = all<OVNoteBackLink>();
+    ASSERT_EQ(left.size(), 1U);
+    EXPECT_EQ(left.front()->linkedBy(), all<OVNote>().front());
+}
+
 } // namespace
 } // namespace tarn
