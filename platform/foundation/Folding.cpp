@@ -1,10 +1,10 @@
 #include "platform/foundation/Folding.h"
 
+#include "platform/foundation/ByteSearch.h"
 #include "platform/foundation/FoldingInternal.h"
 #include "platform/foundation/FoldingPassInternal.h"
 
 #include <array>
-#include <cstring>
 
 namespace tarn {
 
@@ -101,9 +101,7 @@ bool foldedContains(std::string_view text, std::string_view foldedNeedle)
     if (foldedNeedle.empty())
         return false;
     const FoldedText folded(text);
-    const std::string_view hay = folded.view();
-    return hay.size() >= foldedNeedle.size()
-        && ::memmem(hay.data(), hay.size(), foldedNeedle.data(), foldedNeedle.size()) != nullptr;
+    return containsBytes(folded.view(), foldedNeedle);
 }
 
 } // namespace tarn

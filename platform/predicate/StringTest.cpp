@@ -1,5 +1,6 @@
 #include "platform/predicate/StringTest.h"
 
+#include "platform/foundation/ByteSearch.h"
 #include "platform/foundation/Log.h"
 #include "platform/foundation/RegularExpression.h"
 #include "platform/predicate/FoldedPattern.h"
@@ -7,7 +8,6 @@
 #include "platform/predicate/WildcardPattern.h"
 
 #include <atomic>
-#include <cstring>
 #include <optional>
 #include <utility>
 
@@ -81,8 +81,7 @@ bool StringTest::State::holdsFor(std::string_view left) const
     case ComparisonOperator::GreaterThanOrEqualTo:
         return left >= needle;
     case ComparisonOperator::Contains:
-        return !needle.empty() && left.size() >= needle.size()
-            && ::memmem(left.data(), left.size(), needle.data(), needle.size()) != nullptr;
+        return !needle.empty() && containsBytes(left, needle);
     case ComparisonOperator::BeginsWith:
         return !needle.empty() && left.starts_with(needle);
     case ComparisonOperator::EndsWith:
