@@ -12,6 +12,9 @@ namespace tarn {
 
 namespace {
 
+/// Whatever fails ends the whole transaction: SQLite need not keep what it would take to undo one row and its triggers.
+constexpr std::string_view kUpdate = "UPDATE OR FAIL ";
+
 bool belongsTo(const StoreColumn& column, const NSEntityDescription& entity)
 {
     return entity.isKindOfEntity(column.property->declaringEntity());
@@ -192,7 +195,7 @@ void SQLiteRowWriter::insert(const StoreRow& row)
     writeSignatures(table, plan.columns, row);
     if (!std::any_of(plan.largeColumns.begin(), plan.largeColumns.end(), isSet))
         return;
-    writeLarge(table, plan.largeColumns, row);
+    insertLarge(table, plan.largeColumns, row);
     writeSignatures(table, plan.largeColumns, row);
 }
 
@@ -219,25 +222,42 @@ void SQLiteRowWriter::writeSignatures(
     }
 }
 
-void SQLiteRowWriter::writeLarge(
+void SQLiteRowWriter::insertLarge(
     const StoreTable& table, const std::vector<const StoreColumn*>& columns, const StoreRow& row)
 {
     std::string names = "\"pk\"";
     std::string parameters = "?";
-    std::string assignments;
     for (const StoreColumn* column : columns) {
-        const std::string name = quotedIdentifier(column->name);
-        names += ", " + name;
+        names += ", " + quotedIdentifier(column->name);
         parameters += ", ?";
-        assignments += (assignments.empty() ? "" : ", ") + name + " = excluded." + name;
     }
-    SQLiteStatement statement = connection_.prepare("INSERT INTO " + quotedIdentifier(table.largeName) + " (" + names
-        + ") VALUES (" + parameters + ") ON CONFLICT (\"pk\") DO UPDATE SET " + assignments);
+    SQLiteStatement statement = connection_.prepare(
+        "INSERT INTO " + quotedIdentifier(table.largeName) + " (" + names + ") VALUES (" + parameters + ")");
     statement.bindInteger(1, row.key);
     int parameter = 2;
     for (const StoreColumn* column : columns)
         bind(statement, parameter++, *column, row);
     statement.run();
+}
+
+/// The row of large attributes is made when the first of them gets a value.
+void SQLiteRowWriter::writeLarge(
+    const StoreTable& table, const std::vector<const StoreColumn*>& columns, const StoreRow& row)
+{
+    {
+        std::string assignments;
+        for (const StoreColumn* column : columns)
+            assignments += (assignments.empty() ? "" : ", ") + quotedIdentifier(column->name) + " = ?";
+        SQLiteStatement statement = connection_.prepare(
+            std::string(kUpdate) + quotedIdentifier(table.largeName) + " SET " + assignments + " WHERE \"pk\" = ?");
+        int parameter = 1;
+        for (const StoreColumn* column : columns)
+            bind(statement, parameter++, *column, row);
+        statement.bindInteger(parameter, row.key);
+        statement.run();
+    }
+    if (connection_.changedRowCount() == 0)
+        insertLarge(table, columns, row);
 }
 
 // Update --------------------------------------------------------------------------------------------------------------
@@ -256,8 +276,8 @@ RowWriteResult SQLiteRowWriter::update(const StoreRow& row, PropertyMask changed
             if (hasShadow(*column))
                 assignments += shadowName(*column) + " = ?, ";
         }
-        SQLiteStatement statement = connection_.prepare("UPDATE " + quotedIdentifier(table.name) + " SET " + assignments
-            + "\"rowVersion\" = \"rowVersion\" + 1 WHERE \"pk\" = ? AND \"rowVersion\" = ?");
+        SQLiteStatement statement = connection_.prepare(std::string(kUpdate) + quotedIdentifier(table.name) + " SET "
+            + assignments + "\"rowVersion\" = \"rowVersion\" + 1 WHERE \"pk\" = ? AND \"rowVersion\" = ?");
         int parameter = 1;
         for (const StoreColumn* column : columns) {
             bind(statement, parameter++, *column, row);

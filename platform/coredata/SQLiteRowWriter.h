@@ -61,6 +61,7 @@ private:
     void bind(SQLiteStatement& statement, int parameter, const StoreColumn& column, const StoreRow& row);
     void bindShadow(SQLiteStatement& statement, int parameter, const StoreColumn& column, const StoreRow& row);
     void awaitTargets(const StoreTable& table, const std::vector<const StoreColumn*>& columns, const StoreRow& row);
+    void insertLarge(const StoreTable& table, const std::vector<const StoreColumn*>& columns, const StoreRow& row);
     void writeLarge(const StoreTable& table, const std::vector<const StoreColumn*>& columns, const StoreRow& row);
     /// Writes nil where the column names the target: in every row, or in one.
     void clearColumn(

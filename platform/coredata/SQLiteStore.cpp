@@ -91,8 +91,7 @@ void SQLiteStore::refreshDerivedValues(const StoreMetadata& metadata)
     if (readOnly_) {
         usesShadows_ = isCurrent;
         hasSearchIndex_ = hasSearchTables(connection, schema_);
-    } else if (!isCurrent || !hasSearchTables(connection, schema_) || !hasVersionTriggers(connection, schema_)
-        || hasStaleShadows(connection, schema_)) {
+    } else if (!isCurrent || !holdsAll(connection, schema_.laterStatements()) || hasStaleShadows(connection, schema_)) {
         write([&](SQLiteConnection& writer) {
             if (derivedValues_ == DerivedValues::Written)
                 foldStale(writer, schema_);
@@ -108,10 +107,11 @@ void SQLiteStore::followDerivedValues(SQLiteConnection& connection)
     dataVersion_ = static_cast<std::uint64_t>(version);
     if (version == writerVersion_)
         return;
-    if (!hasVersionTriggers(connection, schema_))
+    if (!holdsAll(connection, schema_.laterStatements())) {
         addVersionTriggers(connection, schema_);
-    if (!hasSearchTables(connection, schema_))
-        addSearchTables(connection, schema_);
+        if (!hasSearchTables(connection, schema_))
+            addSearchTables(connection, schema_);
+    }
     const int stored = foldingVersionOf(readStoreMetadata(connection));
     if (stored < foldingVersion()) {
         foldAgain(connection, schema_);

@@ -25,6 +25,13 @@ void inTransaction(SQLiteConnection& connection, const std::string& begin, const
     }
 }
 
+/// The name of what a CREATE statement makes: the first quoted one.
+std::string madeName(const std::string& statement)
+{
+    const std::size_t start = statement.find('"') + 1;
+    return statement.substr(start, statement.find('"', start) - start);
+}
+
 using ShadowVisitor
     = std::function<void(const std::string& table, const std::string& column, const std::string& shadow)>;
 
@@ -113,22 +120,15 @@ void foldStale(SQLiteConnection& connection, const StoreSchema& schema)
     });
 }
 
-// Versions ------------------------------------------------------------------------------------------------------------
+// What came with later versions --------------------------------------------------------------------------------------
 
-bool hasVersionTriggers(SQLiteConnection& connection, const StoreSchema& schema)
+bool holdsAll(SQLiteConnection& connection, const std::vector<std::string>& statements)
 {
-    std::int64_t wanted = 0;
     std::string names;
-    for (const auto& table : schema.tables())
-        for (const auto& [name, columns] :
-            {std::pair(table->name, &table->columns), std::pair(table->largeName, &table->largeColumns)})
-            if (!columns->empty()) {
-                names += (names.empty() ? "'" : ", '") + versionTriggerName(name) + "'";
-                ++wanted;
-            }
-    return wanted
-        == connection.integerOf(
-            "SELECT count(*) FROM sqlite_schema WHERE type = 'trigger' AND name IN (" + names + ")");
+    for (const std::string& statement : statements)
+        names += (names.empty() ? "'" : ", '") + madeName(statement) + "'";
+    return connection.integerOf("SELECT count(*) FROM sqlite_schema WHERE name IN (" + names + ")")
+        == static_cast<std::int64_t>(statements.size());
 }
 
 void addVersionTriggers(SQLiteConnection& connection, const StoreSchema& schema)

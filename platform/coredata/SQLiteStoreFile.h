@@ -33,9 +33,9 @@ void foldAgain(SQLiteConnection& connection, const StoreSchema& schema);
 void foldStale(SQLiteConnection& connection, const StoreSchema& schema);
 bool hasStaleShadows(SQLiteConnection& connection, const StoreSchema& schema);
 
-/// Whether the triggers are there that count versions for programs that do not.
-bool hasVersionTriggers(SQLiteConnection& connection, const StoreSchema& schema);
-/// Makes those that are missing. Inside a transaction.
+/// Whether everything is there that these CREATE statements make.
+bool holdsAll(SQLiteConnection& connection, const std::vector<std::string>& statements);
+/// Makes the triggers that are missing of those that count versions for programs that do not. Inside a transaction.
 void addVersionTriggers(SQLiteConnection& connection, const StoreSchema& schema);
 
 /// What is wrong with the file; nothing when it is sound.

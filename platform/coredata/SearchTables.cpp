@@ -1,6 +1,7 @@
 #include "platform/coredata/SearchTables.h"
 
 #include "platform/coredata/SQLiteConnection.h"
+#include "platform/coredata/SQLiteStoreFile.h"
 #include "platform/coredata/SubstringSignature.h"
 
 #include <algorithm>
@@ -12,13 +13,6 @@ namespace {
 /// A mirror that is further behind loads everything again.
 constexpr std::int64_t kLongestList = 8192;
 constexpr std::int64_t kKeptChanges = 2048;
-
-/// The name of what a CREATE statement makes: the first quoted one.
-std::string madeName(const std::string& statement)
-{
-    const std::size_t start = statement.find('"') + 1;
-    return statement.substr(start, statement.find('"', start) - start);
-}
 
 void noteEveryRow(SQLiteConnection& connection, const SignatureTable& table)
 {
@@ -58,13 +52,7 @@ std::vector<std::pair<std::int64_t, std::string>> freshSignatures(
 
 bool hasSearchTables(SQLiteConnection& connection, const StoreSchema& schema)
 {
-    std::int64_t wanted = 0;
-    std::string names;
-    for (const std::string& statement : schema.searchStatements()) {
-        names += (names.empty() ? "'" : ", '") + madeName(statement) + "'";
-        ++wanted;
-    }
-    return wanted == connection.integerOf("SELECT count(*) FROM sqlite_schema WHERE name IN (" + names + ")");
+    return holdsAll(connection, schema.searchStatements());
 }
 
 void addSearchTables(SQLiteConnection& connection, const StoreSchema& schema)

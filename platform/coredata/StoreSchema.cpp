@@ -27,11 +27,6 @@ std::string shadowColumnName(const NSAttributeDescription& attribute)
     return attribute.name() + "_folded";
 }
 
-std::string versionTriggerName(const std::string& table)
-{
-    return table + "_version";
-}
-
 const std::string& SignatureTable::columnTable() const noexcept
 {
     return attribute->isLarge() ? table->largeName : table->name;
@@ -285,21 +280,23 @@ void addSignatureStatements(const SignatureTable& signature, std::vector<std::st
 }
 
 /// Another program that changes a row knows nothing of its version; whoever holds the record would not notice. Nor
-/// would a writer of ours that changes the large part alone: it sets the version after that.
+/// would a writer of ours that changes the large part alone: it sets the version after that. Folded values follow from
+/// others, and come without a version. No list of columns: each connection reads these statements when it is opened.
 void addVersionStatements(const StoreTable& table, std::vector<std::string>& all)
 {
-    const auto trigger = [&](const std::string& on, const std::vector<StoreColumn>& columns, const char* condition) {
-        std::string names;
-        for (const StoreColumn& column : columns)
-            names += (names.empty() ? "" : ", ") + quotedIdentifier(column.name);
-        if (!names.empty())
-            all.push_back("CREATE TRIGGER IF NOT EXISTS " + quotedIdentifier(versionTriggerName(on))
-                + " AFTER UPDATE OF " + names + " ON " + quotedIdentifier(on) + condition + " BEGIN UPDATE "
-                + quotedIdentifier(table.name)
-                + " SET \"rowVersion\" = \"rowVersion\" + 1 WHERE \"pk\" = NEW.\"pk\"; END");
+    const auto trigger = [&](const std::string& on, const std::string& condition) {
+        all.push_back("CREATE TRIGGER IF NOT EXISTS " + quotedIdentifier(on + "_version") + " AFTER UPDATE ON "
+            + quotedIdentifier(on) + condition + " BEGIN UPDATE " + quotedIdentifier(table.name)
+            + " SET \"rowVersion\" = \"rowVersion\" + 1 WHERE \"pk\" = NEW.\"pk\"; END");
     };
-    trigger(table.name, table.columns, " WHEN NEW.\"rowVersion\" IS OLD.\"rowVersion\"");
-    trigger(table.largeName, table.largeColumns, "");
+    const auto isUnchanged = [](const std::string& column) { return "NEW." + column + " IS OLD." + column; };
+    std::string condition = " WHEN " + isUnchanged("\"rowVersion\"");
+    for (const StoreColumn& column : table.columns)
+        if (column.attribute() && hasShadowColumn(*column.attribute()))
+            condition += " AND " + isUnchanged(quotedIdentifier(shadowColumnName(*column.attribute())));
+    trigger(table.name, condition);
+    if (!table.largeColumns.empty())
+        trigger(table.largeName, "");
 }
 
 void addColumnIndexes(const StoreTable& table, std::vector<std::string>& all)
@@ -359,8 +356,16 @@ std::vector<std::string> StoreSchema::creationStatements() const
         addColumnIndexes(*table, all);
         addCompositeIndexes(*table, *table->root, all);
     }
-    for (const auto& more : {versionStatements(), searchStatements()})
-        all.insert(all.end(), more.begin(), more.end());
+    const auto later = laterStatements();
+    all.insert(all.end(), later.begin(), later.end());
+    return all;
+}
+
+std::vector<std::string> StoreSchema::laterStatements() const
+{
+    std::vector<std::string> all = versionStatements();
+    const auto search = searchStatements();
+    all.insert(all.end(), search.begin(), search.end());
     return all;
 }
 

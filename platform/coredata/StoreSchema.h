@@ -83,8 +83,6 @@ inline bool hasShadowColumn(const NSAttributeDescription& attribute) noexcept
     return attribute.isFolded() && attribute.type() == NSAttributeType::String && !attribute.isLarge();
 }
 std::string shadowColumnName(const NSAttributeDescription& attribute);
-/// Of the trigger on this table that counts versions for programs that do not.
-std::string versionTriggerName(const std::string& table);
 /// Whether an attribute has a signature.
 inline bool hasSignature(const NSAttributeDescription& attribute) noexcept
 {
@@ -118,6 +116,8 @@ public:
     /// The triggers that count the version of a row for programs that do not. Each does nothing where it exists
     /// already.
     std::vector<std::string> versionStatements() const;
+    /// Both.
+    std::vector<std::string> laterStatements() const;
 
 private:
     void addTable(const NSEntityDescription& root);
