@@ -8,6 +8,16 @@
 
 namespace tarn {
 
+namespace {
+
+bool isEdited(const NSManagedObject& record)
+{
+    const RecordDetails* details = RecordAccess::detailsIfAny(record);
+    return !record.isFault() && details && details->rowChanged != 0;
+}
+
+} // namespace
+
 void RemoteMerge::run(const RemoteChanges& changes)
 {
     core_.assertOnQueue();
@@ -21,7 +31,7 @@ void RemoteMerge::take(const RemoteChanges& changes)
     if (hasNews && core_.tracker.hasChanges())
         core_.holdsMergedRelationships = true;
     takeRows(keysOf(changes.inserted), true);
-    takeRows(knownKeys(keysOf(changes.updated)), false);
+    takeRows(movedKeys(knownKeys(keysOf(changes.updated))), false);
     for (const auto& [root, keys] : keysOf(changes.deleted))
         for (const std::int64_t key : keys)
             remove(*root, key);
@@ -53,6 +63,29 @@ RemoteMerge::KeysByRoot RemoteMerge::knownKeys(KeysByRoot keys) const
 {
     for (auto& [root, some] : keys)
         std::erase_if(some, [&, entity = root](std::int64_t key) { return !core_.registry.find(*entity, key); });
+    return keys;
+}
+
+/// Whose rows are not as they were read. Who was brought up to date before is not read again.
+RemoteMerge::KeysByRoot RemoteMerge::movedKeys(KeysByRoot keys)
+{
+    for (auto& [root, some] : keys) {
+        std::vector<StoreRow> rows;
+        if (some.empty() || !core_.store().rowsForKeys(*root, some, RowContents::Keys, rows, nullptr))
+            continue; // reading the rows tells what is wrong
+        std::unordered_set<std::int64_t> unmoved;
+        for (const StoreRow& row : rows) {
+            NSManagedObject& record = *core_.registry.find(*root, row.key);
+            if (record.isFault() || record.rowVersion() != row.version)
+                continue;
+            unmoved.insert(row.key);
+            // Members come and go without a new version.
+            core_.relationships.forgetEndsWithoutColumn(record);
+            if (!record.isDeleted() && !isEdited(record))
+                core_.noteRefreshed(record);
+        }
+        std::erase_if(some, [&](std::int64_t key) { return unmoved.contains(key); });
+    }
     return keys;
 }
 
@@ -93,9 +126,7 @@ void RemoteMerge::take(NSManagedObject& record, StoreRow row)
     if (record.isDeleted())
         return; // its deletion waits for the save here
     core_.relationships.forgetStoredMembers(record);
-    const bool isEdited
-        = !record.isFault() && RecordAccess::detailsIfAny(record) && RecordAccess::details(record).rowChanged != 0;
-    if (!isEdited) {
+    if (!isEdited(record)) {
         if (RecordDetails* details = RecordAccess::detailsIfAny(record); details && details->changed)
             details->committed = row.values;
         const PropertyValues before = RecordAccess::takeValues(record);

@@ -30,6 +30,8 @@ private:
     KeysByRoot keysOf(const std::vector<NSManagedObjectID>& objectIDs) const;
     /// Without the keys that this context does not know.
     KeysByRoot knownKeys(KeysByRoot keys) const;
+    /// Without the keys of records that have the row's version; of these, members that were read are forgotten.
+    KeysByRoot movedKeys(KeysByRoot keys);
     void takeRows(const KeysByRoot& keys, bool areInserted);
     void takeRow(StoreRow row, bool isInserted);
     void take(NSManagedObject& record, StoreRow row);
