@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <any>
+#include <bit>
 #include <unordered_map>
 #include <unordered_set>
 
@@ -34,6 +35,16 @@ StoreRow rowOf(const NSManagedObject& record)
 {
     const NSManagedObjectID id = record.objectID();
     return {&id.entity(), id.key(), record.rowVersion(), RecordAccess::values(record)};
+}
+
+/// Only with the values of `changed`.
+StoreRow rowOf(const NSManagedObject& record, PropertyMask changed)
+{
+    const NSManagedObjectID id = record.objectID();
+    StoreRow row{&id.entity(), id.key(), record.rowVersion(), PropertyValues(id.entity(), ~PropertyMask{0})};
+    for (PropertyMask rest = changed & ~id.entity().toManyMask(); rest != 0; rest &= rest - 1)
+        row.values.assign(static_cast<PropertyIndex>(std::countr_zero(rest)), RecordAccess::values(record));
+    return row;
 }
 
 bool fail(NSError* error, StoreErrorCode code, const std::string& description)
@@ -211,7 +222,7 @@ bool SavePlan::updateRow(StoreTransaction& transaction, NSManagedObject& record,
     const PropertyMask changed = changedInRow(record);
     if (changed == 0)
         return true;
-    switch (transaction.updateRow(rowOf(record), changed, error)) {
+    switch (transaction.updateRow(rowOf(record, changed), changed, error)) {
     case RowWriteResult::Written:
         newVersions_.emplace_back(&record, record.rowVersion() + 1);
         return true;
@@ -272,10 +283,6 @@ void SavePlan::finish()
 {
     for (const auto& [record, version] : newVersions_)
         RecordAccess::markSaved(*record, version);
-    const std::uint64_t resets = core_.resetCount();
-    core_.processPendingChanges();
-    if (core_.resetCount() != resets)
-        return;
     for (const auto* records : {&inserted_, &updated_})
         for (NSManagedObject* record : *records) {
             RecordDetails& details = RecordAccess::details(*record);
@@ -287,6 +294,11 @@ void SavePlan::finish()
     core_.pendingIndex.clear();
     core_.settleMergedRelationships(deleted_);
     core_.publish();
+    // From here on nothing is pending but what observers change.
+    const std::uint64_t resets = core_.resetCount();
+    core_.processPendingChanges();
+    if (core_.resetCount() != resets)
+        return;
     NSNotificationCenter::defaultCenter().postNotification(NSManagedObjectContextDidSaveNotification, &core_.context,
         std::any(ObjectChanges{inserted_, updated_, deleted_, {}}));
     if (core_.resetCount() != resets)

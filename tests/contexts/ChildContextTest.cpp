@@ -207,6 +207,46 @@ TEST_P(ChildContext, KeepsWhatItsParentChangedMeanwhile)
     EXPECT_EQ(seen.storedValueForKey("pages"), Value(3));
 }
 
+/// The parent has not processed its change when the child has caught up and begins to write.
+TEST_P(ChildContext, MeetsWhatItsParentChangesDuringTheSave)
+{
+    struct Case {
+        NSMergePolicy policy;
+        int expected;
+        MergeSide loser;
+        int lost;
+    };
+    for (const auto& [policy, expected, loser, lost] :
+        {Case{NSMergePolicy::MergeByPropertyStoreTrump, 3, MergeSide::Context, 2},
+            Case{NSMergePolicy::MergeByPropertyObjectTrump, 2, MergeSide::Store, 3}}) {
+        SCOPED_TRACE(expected);
+        NSManagedObject& seen = book("before", 1);
+        save();
+        child_->setMergePolicy(policy);
+        std::vector<MergeConflict> conflicts;
+        child_->setMergeConflictHandler([&](const MergeConflict& conflict) { conflicts.push_back(conflict); });
+        NSManagedObject& same = there(seen);
+        same.setValueForKey("pages", Value(2));
+        const auto willSave = NSNotificationCenter::defaultCenter().addObserver(
+            NSManagedObjectContextWillSaveNotification, child_.get(), [&](const NSNotification&) {
+                seen.setValueForKey("pages", Value(3));
+                seen.setValueForKey("code", Value("parent's"));
+            });
+        const LogSink former = setLogSink([](std::string_view) {});
+        saveChild();
+        setLogSink(former);
+
+        EXPECT_EQ(seen.storedValueForKey("pages"), Value(expected));
+        EXPECT_EQ(same.storedValueForKey("pages"), Value(expected));
+        EXPECT_EQ(text(seen, "code"), "parent's");
+        EXPECT_EQ(text(same, "code"), "parent's");
+        ASSERT_EQ(conflicts.size(), 1U);
+        EXPECT_EQ(conflicts[0].loser, loser);
+        EXPECT_EQ(conflicts[0].lostValues.at("pages"), Value(lost));
+        EXPECT_FALSE(child_->hasChanges());
+    }
+}
+
 TEST_P(ChildContext, KeepsATextTogetherWithWhatDerivesFromIt)
 {
     NSManagedObject& seen = book("before");

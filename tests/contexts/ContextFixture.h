@@ -67,7 +67,7 @@ protected:
         folder_ = std::filesystem::temp_directory_path() / ("tarn contexts é " + newUUIDString());
         std::filesystem::create_directories(folder_);
         NSError error;
-        model_ = NSManagedObjectModel::modelWithText(libraryModel, &error);
+        model_ = NSManagedObjectModel::modelWithText(modelText(), &error);
         ASSERT_TRUE(model_) << error;
         coordinator_ = open();
         context_ = contextOn(coordinator_);
@@ -79,6 +79,8 @@ protected:
         coordinator_.reset();
         std::filesystem::remove_all(folder_);
     }
+
+    virtual std::string modelText() const { return std::string(libraryModel); }
 
     std::shared_ptr<NSPersistentStoreCoordinator> open()
     {

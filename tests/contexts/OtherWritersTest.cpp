@@ -280,6 +280,27 @@ TEST_P(OtherWritersTest, BringMembersOfSetsThatWereRead)
     EXPECT_THAT(told_.at(0).refreshed, UnorderedElementsAre(&first, &cover));
 }
 
+TEST_P(OtherWritersTest, BringMembersOfEverySetWhereMoreWereReadThanAreComparedOneByOne)
+{
+    constexpr std::size_t kShelves = 1002;
+    NSManagedObject& added = book("added");
+    for (std::size_t i = 0; i < kShelves; ++i)
+        shelf("shelf");
+    saveAndForget();
+    const std::vector<NSManagedObject*> shelves = all("Shelf");
+    ASSERT_EQ(shelves.size(), kShelves);
+    for (const NSManagedObject* one : shelves)
+        ASSERT_THAT(set(*one, "books").members(), IsEmpty());
+    for (const NSManagedObject* one : shelves)
+        set(there(*one), "books").add(there(added));
+    saveThere();
+
+    pass();
+
+    for (const NSManagedObject* one : shelves)
+        EXPECT_THAT(set(*one, "books").members(), ElementsAre(&added)) << one->objectID().URIRepresentation();
+}
+
 TEST_P(OtherWritersTest, AreSeenUnderTheLockBeforeItsBlock)
 {
     NSManagedObject& seen = book("before");

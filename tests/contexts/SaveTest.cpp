@@ -72,6 +72,34 @@ TEST_P(Save, LetsWillSaveObserversJoinOnce)
     EXPECT_THAT(texts(all("Shelf"), "name"), ElementsAre("made in will-save"));
 }
 
+TEST_P(Save, LeavesForTheNextOneWhatAnObserverChangesMeanwhile)
+{
+    NSManagedObject& one = book("A", 1);
+    save();
+    NSNotificationSubscription willSave = observe(NSManagedObjectContextWillSaveNotification,
+        [&](const ObjectChanges*) { one.setValueForKey("code", Value("by a will-save observer")); });
+    bool isSaving = false;
+    const auto didChange = observe(NSManagedObjectContextObjectsDidChangeNotification, [&](const ObjectChanges*) {
+        if (one.storedValueForKey("code").isNil() || std::exchange(isSaving, true))
+            return;
+        EXPECT_FALSE(one.hasChanges()) << "told of what is saved";
+        one.setValueForKey("pages", Value(7));
+    });
+    one.setValueForKey("title", Value("B"));
+    save();
+    willSave = NSNotificationSubscription();
+
+    ASSERT_TRUE(isSaving);
+    EXPECT_TRUE(context_->hasChanges());
+    EXPECT_THAT(one.changedKeys(), ElementsAre("pages"));
+    EXPECT_EQ(one.committedValuesForKeys({"pages"}).at("pages"), Value(1));
+    save();
+    restart();
+    const NSManagedObject& saved = *all("Book").at(0);
+    EXPECT_EQ(text(saved, "code"), "by a will-save observer");
+    EXPECT_EQ(saved.storedValueForKey("pages"), Value(7));
+}
+
 TEST_P(Save, ThatAnObserverStopsKeepsTheChangesAndTakesBackWhatItInserted)
 {
     NSManagedObject& one = book("A");

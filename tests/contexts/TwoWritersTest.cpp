@@ -1,6 +1,7 @@
 #include "tests/contexts/ContextFixture.h"
 
 #include "platform/foundation/Log.h"
+#include "platform/foundation/NSNotificationCenter.h"
 
 namespace tarn {
 namespace {
@@ -282,6 +283,31 @@ TEST_P(TwoWriters, AToOneToARecordThatAnotherDeletedIsWrittenAsNothing)
     }
 }
 
+TEST_P(TwoWriters, NothingNamesARecordThatAnotherDeletedWhenASaveIsAnnounced)
+{
+    context_->setMergePolicy(NSMergePolicy::MergeByPropertyObjectTrump);
+    NSManagedObject& gone = book("gone");
+    NSManagedObject& part = insert("Chapter");
+    NSManagedObject& place = shelf("place");
+    save();
+    ASSERT_THAT(set(place, "books").members(), IsEmpty());
+    deleteElsewhere(gone);
+    part.setValueForKey("book", Value(&gone));
+    set(place, "books").add(gone);
+    NSManagedObject& made = insert("Chapter");
+    made.setValueForKey("book", Value(&gone));
+    bool isAnnounced = false;
+    const auto willSave = NSNotificationCenter::defaultCenter().addObserver(
+        NSManagedObjectContextWillSaveNotification, context_.get(), [&](const NSNotification&) {
+            isAnnounced = true;
+            EXPECT_TRUE(part.storedValueForKey("book").isNil());
+            EXPECT_TRUE(made.storedValueForKey("book").isNil());
+            EXPECT_THAT(set(place, "books").members(), IsEmpty());
+        });
+    save();
+    EXPECT_TRUE(isAnnounced);
+}
+
 // Sets ----------------------------------------------------------------------------------------------------------------
 
 TEST_P(TwoWriters, RemovingWhatIsNoMemberChangesNothing)
@@ -316,6 +342,51 @@ TEST_P(TwoWriters, RemovingWhatIsNoMemberChangesNothing)
                         context_->deleteObject(*record);
                 save();
             }
+}
+
+/// A to-many that belongs to the text: its members follow from it.
+class SetOfATextGroup : public TwoWriters {
+protected:
+    std::string modelText() const override
+    {
+        const std::string plain = R"({"name": "shelves", )";
+        std::string text = ContextTest::modelText();
+        return text.replace(text.find(plain), plain.size(), plain + R"("group": "text", )");
+    }
+};
+INSTANTIATE_TEST_SUITE_P(
+    Stores, SetOfATextGroup, testing::Values(StoreType::SQLite, StoreType::InMemory), storeTypeName);
+
+TEST_P(SetOfATextGroup, HasTheMembersOfTheTextThatWon)
+{
+    for (const NSMergePolicy policy :
+        {NSMergePolicy::MergeByPropertyStoreTrump, NSMergePolicy::MergeByPropertyObjectTrump}) {
+        SCOPED_TRACE(static_cast<int>(policy));
+        context_->setMergePolicy(policy);
+        NSManagedObject& former = shelf("former");
+        NSManagedObject& mine = shelf("mine");
+        NSManagedObject& theirs = shelf("theirs");
+        NSManagedObject& record = book("book");
+        set(record, "shelves").add(former);
+        save();
+        elsewhere(record, [&](NSManagedObjectContext& other, NSManagedObject& there) {
+            there.setValueForKey("body", Value("theirs"));
+            set(there, "shelves").add(*other.existingObjectWithID(theirs.objectID()));
+        });
+        record.setValueForKey("body", Value("mine"));
+        set(record, "shelves").remove(former);
+        set(record, "shelves").add(mine);
+        save();
+
+        // Who saved first has written; what the other takes back is only its own.
+        const bool storeWins = policy == NSMergePolicy::MergeByPropertyStoreTrump;
+        EXPECT_EQ(text(record, "body"), storeWins ? "theirs" : "mine");
+        const auto expected = storeWins ? UnorderedElementsAre(&former, &theirs) : UnorderedElementsAre(&mine, &theirs);
+        EXPECT_THAT(set(record, "shelves").members(), expected);
+        context_->refreshAllObjects();
+        EXPECT_THAT(set(record, "shelves").members(), expected);
+        EXPECT_THAT(set(mine, "books").members(), testing::SizeIs(storeWins ? 0 : 1));
+    }
 }
 
 // Required values -----------------------------------------------------------------------------------------------------
