@@ -12,9 +12,6 @@ namespace tarn {
 
 namespace {
 
-/// Whatever fails ends the whole transaction: SQLite need not keep what it would take to undo one row and its triggers.
-constexpr std::string_view kUpdate = "UPDATE OR FAIL ";
-
 bool belongsTo(const StoreColumn& column, const NSEntityDescription& entity)
 {
     return entity.isKindOfEntity(column.property->declaringEntity());
@@ -113,30 +110,17 @@ void SQLiteRowWriter::clearMissingTargets()
     awaited_.clear();
 }
 
-/// No change of the row's own: its version stays, which the trigger would count for a program that leaves it alone.
+/// No change of the row's own: its version stays.
 void SQLiteRowWriter::clearColumn(
     const StoreTable& table, const std::string& name, std::int64_t target, std::optional<std::int64_t> only)
 {
     const std::string column = quotedIdentifier(name);
-    std::vector<std::pair<std::int64_t, std::int64_t>> versions;
-    {
-        SQLiteStatement statement = connection_.prepare("SELECT \"pk\", \"rowVersion\" FROM "
-            + quotedIdentifier(table.name) + " WHERE " + column + " = ?1" + (only ? " AND \"pk\" = ?2" : ""));
-        statement.bindInteger(1, target);
-        if (only)
-            statement.bindInteger(2, *only);
-        while (statement.step())
-            versions.emplace_back(statement.integer(0), statement.integer(1));
-    }
-    for (const auto& [key, version] : versions) {
-        {
-            SQLiteStatement statement = connection_.prepare(
-                "UPDATE " + quotedIdentifier(table.name) + " SET " + column + " = NULL WHERE \"pk\" = ?1");
-            statement.bindInteger(1, key);
-            statement.run();
-        }
-        setVersion(table, key, version);
-    }
+    SQLiteStatement statement = connection_.prepare("UPDATE " + quotedIdentifier(table.name) + " SET " + column
+        + " = NULL WHERE " + column + " = ?1" + (only ? " AND \"pk\" = ?2" : ""));
+    statement.bindInteger(1, target);
+    if (only)
+        statement.bindInteger(2, *only);
+    statement.run();
 }
 
 // Insert --------------------------------------------------------------------------------------------------------------
@@ -192,11 +176,9 @@ void SQLiteRowWriter::insert(const StoreRow& row)
     }
     awaitTargets(table, plan.columns, row);
     const auto isSet = [&](const StoreColumn* column) { return hasValue(*column, row); };
-    writeSignatures(table, plan.columns, row);
-    if (!std::any_of(plan.largeColumns.begin(), plan.largeColumns.end(), isSet))
-        return;
-    insertLarge(table, plan.largeColumns, row);
-    writeSignatures(table, plan.largeColumns, row);
+    writeSignatures(table, table.name, row);
+    if (std::any_of(plan.largeColumns.begin(), plan.largeColumns.end(), isSet))
+        insertLarge(table, plan.largeColumns, row);
 }
 
 bool SQLiteRowWriter::findsInsertedRows()
@@ -204,21 +186,44 @@ bool SQLiteRowWriter::findsInsertedRows()
     return firstInsertedTable_ && exists(*firstInsertedTable_, firstInsertedKey_);
 }
 
-/// After the columns: triggers have made the signatures stale, as they do whoever writes.
+void SQLiteRowWriter::writeSignatureOf(const SignatureTable& signature, const StoreRow& row)
+{
+    const NSAttributeDescription& attribute = *signature.attribute;
+    const PropertyIndex index = attribute.index();
+    const bool isSet = row.entity->isKindOfEntity(attribute.declaringEntity()) && row.values.isLoaded(index)
+        && !row.values.isNil(index);
+    hasWrittenSignatures_ = true;
+    if (derived_ == DerivedValues::LeftStale)
+        writeSignature(connection_, signature, row.key, std::nullopt);
+    else
+        writeSignature(
+            connection_, signature, row.key, isSet ? signatureOfText(row.values.bytes(index)) : signatureOfNothing());
+}
+
+/// Of a row that is new in this table: of all attributes that stand there.
+void SQLiteRowWriter::writeSignatures(const StoreTable& table, const std::string& columnTable, const StoreRow& row)
+{
+    for (const auto& signature : table.signatures)
+        if (signature->columnTable() == columnTable)
+            writeSignatureOf(*signature, row);
+}
+
 void SQLiteRowWriter::writeSignatures(
     const StoreTable& table, const std::vector<const StoreColumn*>& columns, const StoreRow& row)
 {
+    for (const auto& signature : table.signatures)
+        if (std::any_of(columns.begin(), columns.end(),
+                [&](const StoreColumn* column) { return column->attribute() == signature->attribute; }))
+            writeSignatureOf(*signature, row);
+}
+
+void SQLiteRowWriter::removeSignatures(const StoreTable& table, const std::string& columnTable, std::int64_t key)
+{
     for (const auto& signature : table.signatures) {
-        const auto holds = [&](const StoreColumn* column) { return column->attribute() == signature->attribute; };
-        const auto column = std::find_if(columns.begin(), columns.end(), holds);
-        if (column == columns.end())
+        if (signature->columnTable() != columnTable)
             continue;
         hasWrittenSignatures_ = true;
-        if (derived_ == DerivedValues::LeftStale)
-            continue;
-        const PropertyIndex index = signature->attribute->index();
-        writeSignature(connection_, *signature, row.key,
-            hasValue(**column, row) ? signatureOfText(row.values.bytes(index)) : signatureOfNothing());
+        removeSignature(connection_, *signature, key);
     }
 }
 
@@ -238,6 +243,7 @@ void SQLiteRowWriter::insertLarge(
     for (const StoreColumn* column : columns)
         bind(statement, parameter++, *column, row);
     statement.run();
+    writeSignatures(table, table.largeName, row);
 }
 
 /// The row of large attributes is made when the first of them gets a value.
@@ -249,7 +255,7 @@ void SQLiteRowWriter::writeLarge(
         for (const StoreColumn* column : columns)
             assignments += (assignments.empty() ? "" : ", ") + quotedIdentifier(column->name) + " = ?";
         SQLiteStatement statement = connection_.prepare(
-            std::string(kUpdate) + quotedIdentifier(table.largeName) + " SET " + assignments + " WHERE \"pk\" = ?");
+            "UPDATE " + quotedIdentifier(table.largeName) + " SET " + assignments + " WHERE \"pk\" = ?");
         int parameter = 1;
         for (const StoreColumn* column : columns)
             bind(statement, parameter++, *column, row);
@@ -258,6 +264,8 @@ void SQLiteRowWriter::writeLarge(
     }
     if (connection_.changedRowCount() == 0)
         insertLarge(table, columns, row);
+    else
+        writeSignatures(table, columns, row);
 }
 
 // Update --------------------------------------------------------------------------------------------------------------
@@ -276,8 +284,8 @@ RowWriteResult SQLiteRowWriter::update(const StoreRow& row, PropertyMask changed
             if (hasShadow(*column))
                 assignments += shadowName(*column) + " = ?, ";
         }
-        SQLiteStatement statement = connection_.prepare(std::string(kUpdate) + quotedIdentifier(table.name) + " SET "
-            + assignments + "\"rowVersion\" = \"rowVersion\" + 1 WHERE \"pk\" = ? AND \"rowVersion\" = ?");
+        SQLiteStatement statement = connection_.prepare("UPDATE " + quotedIdentifier(table.name) + " SET " + assignments
+            + "\"rowVersion\" = \"rowVersion\" + 1 WHERE \"pk\" = ? AND \"rowVersion\" = ?");
         int parameter = 1;
         for (const StoreColumn* column : columns) {
             bind(statement, parameter++, *column, row);
@@ -290,43 +298,11 @@ RowWriteResult SQLiteRowWriter::update(const StoreRow& row, PropertyMask changed
     }
     if (connection_.changedRowCount() == 0)
         return exists(table, row.key) ? RowWriteResult::Conflict : RowWriteResult::Gone;
-    rewriteShadows(table, columns, row);
     awaitTargets(table, columns, row);
     writeSignatures(table, columns, row);
-    if (!largeColumns.empty()) {
+    if (!largeColumns.empty())
         writeLarge(table, largeColumns, row);
-        setVersion(table, row.key, row.version + 1);
-        writeSignatures(table, largeColumns, row);
-    }
     return RowWriteResult::Written;
-}
-
-/// The trigger on the large part has counted once more, as it does for programs that leave the version alone.
-void SQLiteRowWriter::setVersion(const StoreTable& table, std::int64_t key, std::int64_t version)
-{
-    SQLiteStatement statement = connection_.prepare("UPDATE " + quotedIdentifier(table.name)
-        + " SET \"rowVersion\" = ?2 WHERE \"pk\" = ?1 AND \"rowVersion\" <> ?2");
-    statement.bindInteger(1, key);
-    statement.bindInteger(2, version);
-    statement.run();
-}
-
-/// A change that leaves the folded value as it was (of case only, say) looks to the trigger like one of a program that
-/// does not know of shadows.
-void SQLiteRowWriter::rewriteShadows(
-    const StoreTable& table, const std::vector<const StoreColumn*>& columns, const StoreRow& row)
-{
-    std::size_t next = 0;
-    for (const StoreColumn* column : columns) {
-        if (!hasShadow(*column) || !hasValue(*column, row) || derived_ == DerivedValues::LeftStale)
-            continue;
-        const std::string name = shadowName(*column);
-        SQLiteStatement statement = connection_.prepare("UPDATE " + quotedIdentifier(table.name) + " SET " + name
-            + " = ?1 WHERE \"pk\" = ?2 AND " + name + " IS NULL");
-        statement.bindText(1, foldedTexts_[next++]);
-        statement.bindInteger(2, row.key);
-        statement.run();
-    }
 }
 
 // Delete --------------------------------------------------------------------------------------------------------------
@@ -356,9 +332,12 @@ RowWriteResult SQLiteRowWriter::remove(const NSEntityDescription& entity, std::i
     }
     for (const ReferringColumn& referring : table.referringColumns)
         clearColumn(*referring.table, referring.column, key, std::nullopt);
-    if (!table.largeColumns.empty())
+    if (!table.largeColumns.empty()) {
         runWithKey("DELETE FROM " + quotedIdentifier(table.largeName) + " WHERE \"pk\" = ?1");
+        removeSignatures(table, table.largeName, key);
+    }
     runWithKey("DELETE FROM " + quotedIdentifier(table.name) + " WHERE \"pk\" = ?1");
+    removeSignatures(table, table.name, key);
     return RowWriteResult::Written;
 }
 

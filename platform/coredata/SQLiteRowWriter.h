@@ -23,6 +23,7 @@ enum class DerivedValues : std::uint8_t {
 
 /// Writes rows and join rows with one connection, inside a transaction that its user holds.
 ///
+/// Versions, folded values and signatures are written with them: the triggers that see to these are for other programs.
 /// What fails throws a `StoreFailure`.
 class SQLiteRowWriter {
 public:
@@ -66,9 +67,10 @@ private:
     /// Writes nil where the column names the target: in every row, or in one.
     void clearColumn(
         const StoreTable& table, const std::string& name, std::int64_t target, std::optional<std::int64_t> only);
-    void setVersion(const StoreTable& table, std::int64_t key, std::int64_t version);
-    void rewriteShadows(const StoreTable& table, const std::vector<const StoreColumn*>& columns, const StoreRow& row);
+    void writeSignatureOf(const SignatureTable& signature, const StoreRow& row);
+    void writeSignatures(const StoreTable& table, const std::string& columnTable, const StoreRow& row);
     void writeSignatures(const StoreTable& table, const std::vector<const StoreColumn*>& columns, const StoreRow& row);
+    void removeSignatures(const StoreTable& table, const std::string& columnTable, std::int64_t key);
     bool exists(const StoreTable& table, std::int64_t key);
 
     const StoreSchema& schema_;

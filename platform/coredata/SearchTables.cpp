@@ -14,9 +14,17 @@ namespace {
 constexpr std::int64_t kLongestList = 8192;
 constexpr std::int64_t kKeptChanges = 2048;
 
+void noteRow(SQLiteConnection& connection, const SignatureTable& table, std::int64_t key)
+{
+    SQLiteStatement statement
+        = connection.prepare("INSERT INTO " + quotedIdentifier(table.changesName) + " (\"pk\") VALUES (?1)");
+    statement.bindInteger(1, key);
+    statement.run();
+}
+
 void noteEveryRow(SQLiteConnection& connection, const SignatureTable& table)
 {
-    connection.execute("INSERT INTO " + quotedIdentifier(table.changesName) + " (\"pk\") VALUES (0)");
+    noteRow(connection, table, 0);
 }
 
 /// A row with its attribute, as the walks below read it: pk, attribute, signature.
@@ -74,14 +82,31 @@ void addSearchTables(SQLiteConnection& connection, const StoreSchema& schema)
 
 // Keeping in step -----------------------------------------------------------------------------------------------------
 
-void writeSignature(
-    SQLiteConnection& connection, const SignatureTable& table, std::int64_t key, std::string_view signature)
+void writeSignature(SQLiteConnection& connection, const SignatureTable& table, std::int64_t key,
+    const std::optional<std::string>& signature)
 {
-    SQLiteStatement statement
-        = connection.prepare("UPDATE " + quotedIdentifier(table.name) + " SET \"signature\" = ?1 WHERE \"pk\" = ?2");
-    statement.bindBlob(1, signature);
-    statement.bindInteger(2, key);
-    statement.run();
+    {
+        SQLiteStatement statement = connection.prepare("INSERT INTO " + quotedIdentifier(table.name)
+            + " (\"pk\", \"signature\") VALUES (?1, ?2) ON CONFLICT (\"pk\") DO UPDATE SET \"signature\" = ?2");
+        statement.bindInteger(1, key);
+        if (signature)
+            statement.bindBlob(2, *signature);
+        else
+            statement.bindNull(2);
+        statement.run();
+    }
+    noteRow(connection, table, key);
+}
+
+void removeSignature(SQLiteConnection& connection, const SignatureTable& table, std::int64_t key)
+{
+    {
+        SQLiteStatement statement
+            = connection.prepare("DELETE FROM " + quotedIdentifier(table.name) + " WHERE \"pk\" = ?1");
+        statement.bindInteger(1, key);
+        statement.run();
+    }
+    noteRow(connection, table, key);
 }
 
 void forgetSignatures(SQLiteConnection& connection, const StoreSchema& schema)
@@ -97,13 +122,8 @@ void forgetSignatures(SQLiteConnection& connection, const StoreSchema& schema)
 
 void rewriteSignatures(SQLiteConnection& connection, const SignatureTable& table, std::span<const std::int64_t> keys)
 {
-    for (const auto& [key, signature] : freshSignatures(connection, table, keys)) {
+    for (const auto& [key, signature] : freshSignatures(connection, table, keys))
         writeSignature(connection, table, key, signature);
-        SQLiteStatement note
-            = connection.prepare("INSERT INTO " + quotedIdentifier(table.changesName) + " (\"pk\") VALUES (?1)");
-        note.bindInteger(1, key);
-        note.run();
-    }
 }
 
 void trimChanges(SQLiteConnection& connection, const SignatureTable& table)

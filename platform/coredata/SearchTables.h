@@ -3,8 +3,9 @@
 #include "platform/coredata/StoreSchema.h"
 
 #include <cstdint>
+#include <optional>
 #include <span>
-#include <string_view>
+#include <string>
 #include <vector>
 
 namespace tarn {
@@ -18,9 +19,12 @@ bool hasSearchTables(SQLiteConnection& connection, const StoreSchema& schema);
 /// Makes what is missing, with a stale signature for every row. Inside a transaction.
 void addSearchTables(SQLiteConnection& connection, const StoreSchema& schema);
 
-/// Writes the signature of a row whose attribute was just written. Inside a transaction.
-void writeSignature(
-    SQLiteConnection& connection, const SignatureTable& table, std::int64_t key, std::string_view signature);
+/// Writes the signature of a row whose attribute was just written, or a stale one, and notes the change. Inside a
+/// transaction.
+void writeSignature(SQLiteConnection& connection, const SignatureTable& table, std::int64_t key,
+    const std::optional<std::string>& signature);
+/// Of a row that was just deleted; notes the change. Inside a transaction.
+void removeSignature(SQLiteConnection& connection, const SignatureTable& table, std::int64_t key);
 /// Makes all signatures stale. Inside a transaction.
 void forgetSignatures(SQLiteConnection& connection, const StoreSchema& schema);
 /// Cuts the list of changes when it has become long. Inside a transaction.

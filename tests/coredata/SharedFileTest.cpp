@@ -110,6 +110,28 @@ TEST_F(SharedFile, KeepsKeysForTheNextTransactionWhenTheyCannotBeWrittenAtOnce)
     EXPECT_GT(ours.insert("Person", {}), key);
 }
 
+// Triggers ------------------------------------------------------------------------------------------------------------
+
+TEST_F(SharedFile, RunsNoTriggers)
+{
+    const OpenStore store = open();
+    const OtherProgram other(folder.file());
+    other.run("CREATE TRIGGER refuse BEFORE INSERT ON Document BEGIN SELECT RAISE(ABORT, 'refused'); END");
+    const std::int64_t key = store.insert("Document", {{"title", "Before"}, {"body", "a text"}});
+    const auto signature = [&] {
+        return other.run("SELECT hex(signature) FROM Document_body_signature WHERE pk = " + std::to_string(key));
+    };
+    const auto first = signature();
+    EXPECT_NE(first, std::vector<std::string>{""});
+
+    EXPECT_TRUE(store.update("Document", key, "title", "After"));
+    EXPECT_TRUE(store.update("Document", key, "body", "another text"));
+    EXPECT_EQ(other.run("SELECT rowVersion, title_folded FROM Document"), std::vector<std::string>{"3|after"});
+    EXPECT_NE(signature(), first);
+    EXPECT_NE(signature(), std::vector<std::string>{""});
+    EXPECT_EQ(other.run("SELECT count(*) FROM Document_body_changes"), std::vector<std::string>{"2"});
+}
+
 // Readers -------------------------------------------------------------------------------------------------------------
 
 /// Descriptors of this process that name the file.

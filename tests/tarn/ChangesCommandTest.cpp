@@ -198,7 +198,8 @@ TEST_F(ChangesCommand, LeavesNoChangeBehindASaveThatFailed)
 {
     const std::string identifier = note("first");
     const std::string token = json({"changes"}).at("token");
-    damage("CREATE TRIGGER \"refuse\" BEFORE UPDATE ON \"OVNote\" BEGIN SELECT RAISE(ABORT, 'refused'); END");
+    // An index that overflows once the note is pinned.
+    damage("CREATE INDEX \"refuse\" ON \"OVNote\" (abs(-9223372036854775807 - \"pinned\"))");
     EXPECT_NE(run({"pin", identifier}).exitCode, 0);
     EXPECT_EQ(json({"changes"}).at("token"), token);
 }
