@@ -58,7 +58,7 @@ format-check: ## fail when a source is not laid out by .clang-format
 tidy: ## clang-tidy over all sources
 	@scripts/install-dependencies.sh build tests tidy
 	scripts/configure.sh tidy
-	cmake --build --preset tidy --target generated/model/_OVNote.h
+	cmake --build --preset tidy --target generated/tarnmodel/model/_OVNote.h
 	scripts/tidy.py --jobs $(JOBS) build/tidy
 
 bench: ## build the benchmarks, optimised, and run them (TARN_CORPUS=folder of Markdown, for the search)

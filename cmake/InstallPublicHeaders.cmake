@@ -2,7 +2,7 @@
 # tarn_source_folder, tarn_generated_folder and tarn_header_folder (relative to the prefix) set.
 cmake_minimum_required(VERSION 3.25)
 
-set(waiting "include/tarnmodel/TarnModel.h")
+set(waiting "tarnmodel/TarnModel.h")
 set(seen "")
 while(waiting)
   list(POP_FRONT waiting header)
@@ -22,8 +22,7 @@ while(waiting)
     message(FATAL_ERROR "A public header includes \"${header}\", which is not to be installed")
   endif()
 
-  string(REGEX REPLACE "^include/tarnmodel/" "" place "${header}")
-  get_filename_component(place "${place}" DIRECTORY)
+  get_filename_component(place "${header}" DIRECTORY)
   file(INSTALL DESTINATION "${CMAKE_INSTALL_PREFIX}/${tarn_header_folder}/${place}" TYPE FILE FILES "${file}")
 
   file(STRINGS "${file}" lines REGEX "^[ \t]*#[ \t]*include[ \t]*\"[^\"]+\"")

@@ -11,9 +11,7 @@ set(TARN_INSTALL_LIBRARIES TarnModel tarn_coredata tarn_cloudkit tarn_predicate 
 set(TARN_PACKAGE_FOLDER "${CMAKE_INSTALL_LIBDIR}/cmake/TarnModel")
 
 foreach(library IN LISTS TARN_INSTALL_LIBRARIES)
-  # Headers include each other from the root of the source tree, which is include/tarnmodel in an installed copy.
-  target_include_directories(${library} INTERFACE
-    $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/tarnmodel> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
+  target_include_directories(${library} INTERFACE $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
 endforeach()
 install(TARGETS ${TARN_INSTALL_LIBRARIES} EXPORT TarnModelTargets
   ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}" LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}")
@@ -41,5 +39,5 @@ endif()
 install(CODE "
   set(tarn_source_folder \"${PROJECT_SOURCE_DIR}\")
   set(tarn_generated_folder \"${PROJECT_BINARY_DIR}/generated\")
-  set(tarn_header_folder \"${CMAKE_INSTALL_INCLUDEDIR}/tarnmodel\")")
+  set(tarn_header_folder \"${CMAKE_INSTALL_INCLUDEDIR}\")")
 install(SCRIPT "${CMAKE_CURRENT_LIST_DIR}/InstallPublicHeaders.cmake")

@@ -7,7 +7,6 @@ add_library(TarnModel::TarnModel ALIAS TarnModel)
 set_target_properties(TarnModel PROPERTIES LINKER_LANGUAGE CXX)
 target_include_directories(TarnModel PUBLIC
   $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>
-  $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>
   $<BUILD_INTERFACE:${PROJECT_BINARY_DIR}/generated>)
 target_compile_features(TarnModel PUBLIC cxx_std_20)
 # What its rooms link privately is named again: objects do not bring it along.

@@ -61,10 +61,11 @@ tarn_precompile(tarn_precompiled HEADERS ${TARN_PRECOMPILED_STANDARD_HEADERS})
 
 # tarn_room(<target> [OBJECT] [PUBLIC <targets>] [PRIVATE <targets>])
 #
-# Makes a library of all sources of the current folder. An OBJECT room becomes part of the TarnModel library.
+# Makes a library of all sources of the current folder and of the rooms in it. An OBJECT room becomes part of the
+# TarnModel library.
 function(tarn_room target)
   cmake_parse_arguments(ROOM "OBJECT" "" "PUBLIC;PRIVATE" ${ARGN})
-  file(GLOB sources CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/*.cpp" "${CMAKE_CURRENT_SOURCE_DIR}/*.h")
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/*.cpp" "${CMAKE_CURRENT_SOURCE_DIR}/*.h")
   if(ROOM_OBJECT)
     add_library(${target} OBJECT ${sources})
   else()

@@ -3,11 +3,11 @@
 
 The names are those of HTML 5, as Python's standard library lists them; only the forms with a semicolon count.
 
-    scripts/make-entity-table.py > corvel/EntityTable.cpp
+    scripts/make-entity-table.py > tarnmodel/corvel/scanning/EntityTable.cpp
 """
 from html.entities import html5
 
-HEADER = '''#include "corvel/EntityTable.h"
+HEADER = '''#include "tarnmodel/corvel/scanning/EntityTable.h"
 
 // Written by scripts/make-entity-table.py; do not edit.
 // clang-format off

@@ -2,8 +2,8 @@
 //
 // The texts: all .md and .markdown files under the folder that TARN_CORPUS names; without it, notes made up here.
 
-#include "corvel/CVKAST.h"
-#include "corvel/CVKHashtag.h"
+#include "tarnmodel/corvel/CVKAST.h"
+#include "tarnmodel/corvel/CVKHashtag.h"
 
 #include <benchmark/benchmark.h>
 #include <cmark.h>

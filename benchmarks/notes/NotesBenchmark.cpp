@@ -3,8 +3,8 @@
 #include "benchmarks/support/BenchmarkStore.h"
 #include "benchmarks/support/Corpus.h"
 #include "benchmarks/support/Yardsticks.h"
-#include "model/OVNote.h"
-#include "notes/OVNoteCacheLoan.h"
+#include "tarnmodel/model/OVNote.h"
+#include "tarnmodel/notes/OVNoteCacheLoan.h"
 
 #include <fmt/core.h>
 

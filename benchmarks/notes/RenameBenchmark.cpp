@@ -5,12 +5,12 @@
 
 #include "benchmarks/support/BenchmarkStore.h"
 #include "benchmarks/support/Yardsticks.h"
-#include "corvel/CVKAST.h"
-#include "corvel/CVKHashtag.h"
-#include "corvel/CVKWikiLink.h"
-#include "model/OVNote.h"
-#include "model/OVNoteTag.h"
-#include "platform/foundation/NSUUID.h"
+#include "tarnmodel/corvel/CVKAST.h"
+#include "tarnmodel/corvel/CVKHashtag.h"
+#include "tarnmodel/corvel/CVKWikiLink.h"
+#include "tarnmodel/model/OVNote.h"
+#include "tarnmodel/model/OVNoteTag.h"
+#include "tarnmodel/platform/foundation/system/NSUUID.h"
 
 #include <fmt/core.h>
 

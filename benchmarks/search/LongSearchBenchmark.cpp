@@ -5,13 +5,13 @@
 #include "benchmarks/search/SearchCorpus.h"
 #include "benchmarks/support/Corpus.h"
 #include "benchmarks/support/Yardsticks.h"
-#include "model/ManagedObjectModel.h"
-#include "model/OVNote.h"
-#include "platform/coredata/NSManagedObjectContext.h"
-#include "platform/coredata/NSPersistentStore.h"
-#include "platform/coredata/NSPersistentStoreCoordinator.h"
-#include "platform/foundation/NSUUID.h"
-#include "search/OVNoteSearchManager.h"
+#include "tarnmodel/model/ManagedObjectModel.h"
+#include "tarnmodel/model/OVNote.h"
+#include "tarnmodel/platform/coredata/NSManagedObjectContext.h"
+#include "tarnmodel/platform/coredata/NSPersistentStoreCoordinator.h"
+#include "tarnmodel/platform/coredata/rows/RowStore.h"
+#include "tarnmodel/platform/foundation/system/NSUUID.h"
+#include "tarnmodel/search/OVNoteSearchManager.h"
 
 #include <fmt/core.h>
 
@@ -40,9 +40,9 @@ public:
         : coordinator_(std::make_shared<NSPersistentStoreCoordinator>(OVManagedObjectModel::current()))
     {
         NSError error;
-        store_ = coordinator_->addPersistentStoreWithType(StoreType::SQLite, file, {}, &error);
-        if (!store_)
+        if (!coordinator_->addPersistentStoreWithType(StoreType::SQLite, file, {}, &error))
             stop(error.localizedDescription());
+        store_ = coordinator_->rowStore();
     }
 
     void import(const std::vector<std::string>& texts, bool onOneDate)
@@ -89,7 +89,7 @@ public:
 
 private:
     std::shared_ptr<NSPersistentStoreCoordinator> coordinator_;
-    NSPersistentStore* store_ = nullptr;
+    RowStore* store_ = nullptr;
     std::vector<NSSortDescriptor> order_{{"pinned", false}, {"modificationDate", false}};
 };
 

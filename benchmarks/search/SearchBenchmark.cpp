@@ -3,13 +3,13 @@
 
 #include "benchmarks/search/SearchCorpus.h"
 #include "benchmarks/support/Yardsticks.h"
-#include "model/ManagedObjectModel.h"
-#include "model/OVNote.h"
-#include "platform/coredata/NSManagedObjectContext.h"
-#include "platform/coredata/NSPersistentStore.h"
-#include "platform/coredata/NSPersistentStoreCoordinator.h"
-#include "platform/foundation/NSUUID.h"
-#include "platform/foundation/RegularExpression.h"
+#include "tarnmodel/model/ManagedObjectModel.h"
+#include "tarnmodel/model/OVNote.h"
+#include "tarnmodel/platform/coredata/NSManagedObjectContext.h"
+#include "tarnmodel/platform/coredata/NSPersistentStoreCoordinator.h"
+#include "tarnmodel/platform/coredata/rows/RowStore.h"
+#include "tarnmodel/platform/foundation/system/NSUUID.h"
+#include "tarnmodel/platform/foundation/text/RegularExpression.h"
 
 #include <fmt/core.h>
 #include <sqlite3.h>
@@ -39,12 +39,12 @@ struct Store {
         : coordinator(std::make_shared<NSPersistentStoreCoordinator>(OVManagedObjectModel::current()))
     {
         NSError error;
-        store = coordinator->addPersistentStoreWithType(StoreType::SQLite, file, {}, &error);
-        if (!store)
+        if (!coordinator->addPersistentStoreWithType(StoreType::SQLite, file, {}, &error))
             stop(error.localizedDescription());
+        store = coordinator->rowStore();
     }
     std::shared_ptr<NSPersistentStoreCoordinator> coordinator;
-    NSPersistentStore* store = nullptr;
+    RowStore* store = nullptr;
 };
 
 double secondsSince(std::chrono::steady_clock::time_point begin)
@@ -115,10 +115,10 @@ public:
         const std::size_t start = text.find("search: ");
         return start == std::string::npos ? "" : text.substr(start + 8, text.find(';', start) - start - 8);
     }
-    NSPersistentStore& store() const { return store_; }
+    RowStore& store() const { return store_; }
 
 private:
-    NSPersistentStore& store_;
+    RowStore& store_;
     const NSEntityDescription& entity_;
     std::vector<NSSortDescriptor> order_{{"pinned", false}, {"modificationDate", false}};
 };

@@ -1,7 +1,7 @@
 #include "benchmarks/support/BenchmarkStore.h"
 
-#include "model/ManagedObjectModel.h"
-#include "platform/foundation/NSUUID.h"
+#include "tarnmodel/model/ManagedObjectModel.h"
+#include "tarnmodel/platform/foundation/system/NSUUID.h"
 
 #include <fmt/core.h>
 

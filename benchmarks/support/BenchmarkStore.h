@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/coredata/NSManagedObjectContext.h"
-#include "platform/coredata/NSPersistentStoreCoordinator.h"
+#include "tarnmodel/platform/coredata/NSManagedObjectContext.h"
+#include "tarnmodel/platform/coredata/NSPersistentStoreCoordinator.h"
 
 #include <filesystem>
 #include <functional>

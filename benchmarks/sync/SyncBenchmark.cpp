@@ -3,13 +3,13 @@
 
 #include "benchmarks/support/BenchmarkStore.h"
 #include "benchmarks/support/Yardsticks.h"
-#include "files/OVLocalFileManager.h"
-#include "model/OVChange.h"
-#include "model/OVExternalChanges.h"
-#include "model/OVNote.h"
-#include "platform/foundation/NSNotificationCenter.h"
-#include "platform/foundation/Queue.h"
-#include "store/OVCoreDataStack.h"
+#include "tarnmodel/files/OVLocalFileManager.h"
+#include "tarnmodel/model/OVChange.h"
+#include "tarnmodel/model/OVExternalChanges.h"
+#include "tarnmodel/model/OVNote.h"
+#include "tarnmodel/platform/foundation/events/NSNotificationCenter.h"
+#include "tarnmodel/platform/foundation/events/Queue.h"
+#include "tarnmodel/store/OVCoreDataStack.h"
 
 #include <fmt/core.h>
 

@@ -1,9 +1,9 @@
 // Rewriting of hashtags: names are clean, additions change nothing else, removals remove, renames keep the rest.
 
-#include "corvel/CVKAST.h"
-#include "corvel/CVKHashtag.h"
-#include "corvel/Document.h"
 #include "fuzz/corvel/FuzzInput.h"
+#include "tarnmodel/corvel/CVKAST.h"
+#include "tarnmodel/corvel/CVKHashtag.h"
+#include "tarnmodel/corvel/blocks/Document.h"
 
 #include <vector>
 

@@ -1,8 +1,8 @@
 // A new destination changes the links to the old one and nothing else.
 
-#include "corvel/CVKAST.h"
-#include "corvel/Document.h"
 #include "fuzz/corvel/FuzzInput.h"
+#include "tarnmodel/corvel/CVKAST.h"
+#include "tarnmodel/corvel/blocks/Document.h"
 
 using namespace tarn;
 

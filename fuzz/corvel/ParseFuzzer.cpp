@@ -1,9 +1,9 @@
 // Any bytes parse; every range lies in the text, in order, and means what the summary says.
 
-#include "corvel/CVKAST.h"
-#include "corvel/Document.h"
-#include "corvel/Unescape.h"
 #include "fuzz/corvel/FuzzInput.h"
+#include "tarnmodel/corvel/CVKAST.h"
+#include "tarnmodel/corvel/blocks/Document.h"
+#include "tarnmodel/corvel/scanning/Unescape.h"
 
 using namespace tarn;
 

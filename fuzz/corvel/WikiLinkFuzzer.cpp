@@ -1,10 +1,10 @@
 // A new title changes the links to the old one and nothing else.
 
-#include "corvel/CVKAST.h"
-#include "corvel/CVKWikiLink.h"
 #include "fuzz/corvel/FuzzInput.h"
+#include "tarnmodel/corvel/CVKAST.h"
+#include "tarnmodel/corvel/CVKWikiLink.h"
 
-#include "platform/foundation/Folding.h"
+#include "tarnmodel/platform/foundation/text/Folding.h"
 
 using namespace tarn;
 

@@ -1,9 +1,9 @@
 // Search strings of any bytes: a predicate whose canonical form stays, nothing, or the parser's exception.
 
 #include "fuzz/search/Require.h"
-#include "platform/foundation/NSException.h"
-#include "platform/foundation/UTF.h"
-#include "search/OVNoteSearchManager.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
+#include "tarnmodel/search/OVNoteSearchManager.h"
 
 #include <cstdint>
 

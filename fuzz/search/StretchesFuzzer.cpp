@@ -1,9 +1,9 @@
 // The scanners find what the two expressions match.
 
 #include "fuzz/search/Require.h"
-#include "platform/foundation/UTF.h"
-#include "search/OVNoteSearchManager.h"
-#include "search/Stretches.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
+#include "tarnmodel/search/OVNoteSearchManager.h"
+#include "tarnmodel/search/Stretches.h"
 
 #include <algorithm>
 #include <cstdint>

@@ -1,11 +1,11 @@
-#include "model/OVPassword.h"
+#include "tarnmodel/model/OVPassword.h"
 
-#include "model/OVNote.h"
-#include "model/OVNoteFile.h"
-#include "model/RecordFetch.h"
-#include "platform/foundation/NSDate.h"
-#include "platform/foundation/NSUUID.h"
-#include "sync/OVDeviceUUID.h"
+#include "tarnmodel/model/OVNote.h"
+#include "tarnmodel/model/OVNoteFile.h"
+#include "tarnmodel/model/RecordFetch.h"
+#include "tarnmodel/platform/foundation/system/NSUUID.h"
+#include "tarnmodel/platform/foundation/values/NSDate.h"
+#include "tarnmodel/sync/OVDeviceUUID.h"
 
 namespace tarn {
 

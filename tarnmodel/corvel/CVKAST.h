@@ -1,6 +1,6 @@
 #pragma once
 
-#include "corvel/CVKTextSummary.h"
+#include "tarnmodel/corvel/CVKTextSummary.h"
 
 #include <cstddef>
 #include <cstdint>

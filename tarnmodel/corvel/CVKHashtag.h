@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -25,6 +27,15 @@ public:
     /// The hashtag as a text writes it: `#name`, or `#name#` where the name needs the closed form; "" for an unusable
     /// name.
     static std::string hashtagStringForTagName(std::string_view name);
+
+    // Finding ---------------------------------------------------------------------------------------------------------
+    struct Found {
+        std::string_view path; ///< as written, a view of the text
+        std::size_t end = 0;   ///< the byte after the hashtag
+    };
+    /// The hashtag whose hash mark is the byte at `offset`, by the rules for characters alone: whether it stands in
+    /// code or in a link, a parse tells.
+    static std::optional<Found> hashtagAt(std::string_view text, std::size_t offset) noexcept;
 
     // Rewriting: each gives the parsed document of the new text, checked by a fresh parse. An unusable name gives the
     // text unchanged.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "corvel/CVKWikiLink.h"
+#include "tarnmodel/corvel/CVKWikiLink.h"
 
 #include <cstddef>
 #include <string>

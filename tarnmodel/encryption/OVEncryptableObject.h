@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/coredata/NSManagedObjectID.h"
-#include "platform/foundation/NSData.h"
-#include "platform/foundation/NSDate.h"
+#include "tarnmodel/platform/coredata/NSManagedObjectID.h"
+#include "tarnmodel/platform/foundation/values/NSData.h"
+#include "tarnmodel/platform/foundation/values/NSDate.h"
 
 #include <cstdint>
 #include <optional>

@@ -1,7 +1,7 @@
-#include "encryption/OVEncryptionCoreManager.h"
+#include "tarnmodel/encryption/OVEncryptionCoreManager.h"
 
-#include "platform/coredata/NSManagedObject.h"
-#include "platform/foundation/NSException.h"
+#include "tarnmodel/platform/coredata/NSManagedObject.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
 
 #include <atomic>
 #include <map>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "encryption/OVEncryptableObject.h"
-#include "platform/foundation/NSError.h"
+#include "tarnmodel/encryption/OVEncryptableObject.h"
+#include "tarnmodel/platform/foundation/values/NSError.h"
 
 #include <filesystem>
 

@@ -1,7 +1,7 @@
-#include "files/OVLocalFileManager.h"
+#include "tarnmodel/files/OVLocalFileManager.h"
 
-#include "files/PrivateFolder.h"
-#include "platform/foundation/Environment.h"
+#include "tarnmodel/files/PrivateFolder.h"
+#include "tarnmodel/platform/foundation/system/Environment.h"
 
 #include <mutex>
 #include <utility>

@@ -1,8 +1,8 @@
-#include "encryption/OVEncryptionCoreManager.h"
-#include "model/OVNote.h"
-#include "model/OVNoteFile.h"
-#include "model/OVNoteImage.h"
-#include "model/OVPassword.h"
+#include "tarnmodel/encryption/OVEncryptionCoreManager.h"
+#include "tarnmodel/model/OVNote.h"
+#include "tarnmodel/model/OVNoteFile.h"
+#include "tarnmodel/model/OVNoteImage.h"
+#include "tarnmodel/model/OVPassword.h"
 
 #include <algorithm>
 

@@ -1,10 +1,10 @@
-#include "encryption/OVEncryptionCoreManager.h"
-#include "model/OVNote.h"
-#include "model/OVNoteFile.h"
-#include "model/OVPassword.h"
-#include "model/RecordCopying.h"
-#include "platform/coredata/NSManagedObjectContext.h"
-#include "platform/foundation/NSUUID.h"
+#include "tarnmodel/encryption/OVEncryptionCoreManager.h"
+#include "tarnmodel/model/OVNote.h"
+#include "tarnmodel/model/OVNoteFile.h"
+#include "tarnmodel/model/OVPassword.h"
+#include "tarnmodel/model/RecordCopying.h"
+#include "tarnmodel/platform/coredata/NSManagedObjectContext.h"
+#include "tarnmodel/platform/foundation/system/NSUUID.h"
 
 namespace tarn {
 

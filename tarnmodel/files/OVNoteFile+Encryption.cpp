@@ -1,7 +1,7 @@
-#include "encryption/OVEncryptionCoreManager.h"
-#include "model/OVNoteFile.h"
-#include "model/OVPassword.h"
-#include "platform/coredata/NSManagedObjectContext.h"
+#include "tarnmodel/encryption/OVEncryptionCoreManager.h"
+#include "tarnmodel/model/OVNoteFile.h"
+#include "tarnmodel/model/OVPassword.h"
+#include "tarnmodel/platform/coredata/NSManagedObjectContext.h"
 
 namespace tarn {
 

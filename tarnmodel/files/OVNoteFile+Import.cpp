@@ -1,5 +1,5 @@
-#include "model/OVNoteFile.h"
-#include "platform/foundation/NSError.h"
+#include "tarnmodel/model/OVNoteFile.h"
+#include "tarnmodel/platform/foundation/values/NSError.h"
 
 namespace tarn {
 

@@ -1,9 +1,9 @@
-#include "model/OVNoteFile.h"
+#include "tarnmodel/model/OVNoteFile.h"
 
-#include "platform/coredata/NSManagedObjectContext.h"
-#include "platform/foundation/NSDate.h"
-#include "platform/foundation/Normalization.h"
-#include "platform/foundation/PercentEncoding.h"
+#include "tarnmodel/platform/coredata/NSManagedObjectContext.h"
+#include "tarnmodel/platform/foundation/text/Normalization.h"
+#include "tarnmodel/platform/foundation/text/PercentEncoding.h"
+#include "tarnmodel/platform/foundation/values/NSDate.h"
 
 namespace tarn {
 

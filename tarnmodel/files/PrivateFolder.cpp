@@ -1,4 +1,4 @@
-#include "files/PrivateFolder.h"
+#include "tarnmodel/files/PrivateFolder.h"
 
 #include <cerrno>
 #include <sys/stat.h>

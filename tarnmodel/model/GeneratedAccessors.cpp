@@ -1,4 +1,4 @@
-#include "model/GeneratedAccessors.h"
+#include "tarnmodel/model/GeneratedAccessors.h"
 
 #include <algorithm>
 #include <cmath>

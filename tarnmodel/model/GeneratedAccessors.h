@@ -1,10 +1,10 @@
 #pragma once
 
-#include "platform/coredata/NSManagedObject.h"
-#include "platform/foundation/NSData.h"
-#include "platform/foundation/NSDate.h"
-#include "platform/foundation/NSException.h"
-#include "platform/foundation/Value.h"
+#include "tarnmodel/platform/coredata/NSManagedObject.h"
+#include "tarnmodel/platform/foundation/values/NSData.h"
+#include "tarnmodel/platform/foundation/values/NSDate.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
+#include "tarnmodel/platform/foundation/values/Value.h"
 
 #include <concepts>
 #include <cstdint>

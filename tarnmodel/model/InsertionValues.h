@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/foundation/NSDate.h"
-#include "platform/foundation/NSUUID.h"
+#include "tarnmodel/platform/foundation/system/NSUUID.h"
+#include "tarnmodel/platform/foundation/values/NSDate.h"
 
 #include <cstdint>
 

@@ -1,8 +1,8 @@
-#include "model/ManagedObjectModel.h"
+#include "tarnmodel/model/ManagedObjectModel.h"
 
-#include "model/RecordClasses.h"
-#include "model/Resources.h"
-#include "platform/coredata/NSPersistentStore.h"
+#include "tarnmodel/model/RecordClasses.h"
+#include "tarnmodel/model/Resources.h"
+#include "tarnmodel/platform/coredata/StoreErrors.h"
 
 #include <nlohmann/json.hpp>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/_OVChangeItem.h"
+#include "tarnmodel/model/_OVChangeItem.h"
 
 namespace tarn {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/_OVExternalChanges.h"
+#include "tarnmodel/model/_OVExternalChanges.h"
 
 #include <cstdint>
 #include <optional>
@@ -24,7 +24,8 @@ public:
     static constexpr std::uint32_t updated = 1;
     static constexpr std::uint32_t deleted = 2;
 
-    // Recording (sync/OVExternalChanges.cpp) --------------------------------------------------------------------------
+    // Recording (tarnmodel/sync/OVExternalChanges.cpp)
+    // --------------------------------------------------------------------------
     /// News of this record, in the record's own context. It names the identifier that the record has now: a temporary
     /// one means nothing to other processes.
     static OVExternalChanges* newExternalChangeForModelObject(const NSManagedObject& record, std::uint32_t changeType);

@@ -1,6 +1,6 @@
-#include "model/OVNote.h"
+#include "tarnmodel/model/OVNote.h"
 
-#include "model/InsertionValues.h"
+#include "tarnmodel/model/InsertionValues.h"
 
 namespace tarn {
 

@@ -1,8 +1,8 @@
-#include "model/OVNoteBackLink.h"
+#include "tarnmodel/model/OVNoteBackLink.h"
 
-#include "model/InsertionValues.h"
-#include "model/OVNote.h"
-#include "platform/coredata/NSManagedObjectContext.h"
+#include "tarnmodel/model/InsertionValues.h"
+#include "tarnmodel/model/OVNote.h"
+#include "tarnmodel/platform/coredata/NSManagedObjectContext.h"
 
 namespace tarn {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "model/_OVNoteBackLink.h"
-#include "platform/predicate/NSPredicate.h"
+#include "tarnmodel/model/_OVNoteBackLink.h"
+#include "tarnmodel/platform/predicate/NSPredicate.h"
 
 #include <vector>
 
@@ -19,7 +19,8 @@ public:
     /// A link whose note was deleted while others made it stands in no text: it goes.
     void deriveFromOthers() override;
 
-    // Fetching (notes/OVNoteBackLink+Fetching.cpp) -------------------------------------------------------------------
+    // Fetching (tarnmodel/notes/OVNoteBackLink+Fetching.cpp)
+    // -------------------------------------------------------------------
     /// The links that the predicate finds; all without one. A failed fetch is logged and gives an empty list.
     static std::vector<OVNoteBackLink*> backlinksInManagedObjectContext(
         NSManagedObjectContext& context, const std::optional<NSPredicate>& predicate);

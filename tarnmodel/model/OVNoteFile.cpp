@@ -1,6 +1,6 @@
-#include "model/OVNoteFile.h"
+#include "tarnmodel/model/OVNoteFile.h"
 
-#include "model/InsertionValues.h"
+#include "tarnmodel/model/InsertionValues.h"
 
 namespace tarn {
 

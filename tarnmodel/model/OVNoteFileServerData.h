@@ -1,7 +1,7 @@
 #pragma once
 
-#include "model/_OVNoteFileServerData.h"
-#include "platform/cloudkit/CKRecord.h"
+#include "tarnmodel/model/_OVNoteFileServerData.h"
+#include "tarnmodel/platform/cloudkit/CKRecord.h"
 
 #include <optional>
 
@@ -14,7 +14,7 @@ class OVNoteFileServerData : public _OVNoteFileServerData {
 public:
     using _OVNoteFileServerData::_OVNoteFileServerData;
 
-    // All in sync/OVNoteFileServerData.cpp
+    // All in tarnmodel/sync/OVNoteFileServerData.cpp
     /// Deletes the bookkeeping of every attachment; they stay, and look as if they had never been uploaded. The caller
     /// saves. A failed fetch is logged and deletes nothing.
     static void deleteAllObjectsInManagedObjectContext(NSManagedObjectContext& context);

@@ -1,4 +1,4 @@
-#include "model/OVNoteGenericFile.h"
+#include "tarnmodel/model/OVNoteGenericFile.h"
 
 namespace tarn {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/_OVNoteGenericFile.h"
+#include "tarnmodel/model/_OVNoteGenericFile.h"
 
 namespace tarn {
 

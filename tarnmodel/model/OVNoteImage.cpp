@@ -1,4 +1,4 @@
-#include "model/OVNoteImage.h"
+#include "tarnmodel/model/OVNoteImage.h"
 
 namespace tarn {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/_OVNoteImage.h"
+#include "tarnmodel/model/_OVNoteImage.h"
 
 namespace tarn {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "model/_OVNoteServerData.h"
-#include "platform/cloudkit/CKRecord.h"
+#include "tarnmodel/model/_OVNoteServerData.h"
+#include "tarnmodel/platform/cloudkit/CKRecord.h"
 
 #include <optional>
 
@@ -14,7 +14,7 @@ class OVNoteServerData : public _OVNoteServerData {
 public:
     using _OVNoteServerData::_OVNoteServerData;
 
-    // All in sync/OVNoteServerData.cpp
+    // All in tarnmodel/sync/OVNoteServerData.cpp
     /// Deletes the bookkeeping of every note; they stay, and look as if they had never been uploaded. The caller saves.
     /// A failed fetch is logged and deletes nothing.
     static void deleteAllObjectsInManagedObjectContext(NSManagedObjectContext& context);

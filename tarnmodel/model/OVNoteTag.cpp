@@ -1,6 +1,6 @@
-#include "model/OVNoteTag.h"
+#include "tarnmodel/model/OVNoteTag.h"
 
-#include "model/InsertionValues.h"
+#include "tarnmodel/model/InsertionValues.h"
 
 namespace tarn {
 

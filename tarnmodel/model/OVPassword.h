@@ -1,8 +1,8 @@
 #pragma once
 
-#include "encryption/OVEncryptableObject.h"
-#include "model/_OVPassword.h"
-#include "platform/predicate/NSPredicate.h"
+#include "tarnmodel/encryption/OVEncryptableObject.h"
+#include "tarnmodel/model/_OVPassword.h"
+#include "tarnmodel/platform/predicate/NSPredicate.h"
 
 namespace tarn {
 
@@ -13,7 +13,8 @@ class OVPassword : public _OVPassword, public OVEncryptingPassword {
 public:
     using _OVPassword::_OVPassword;
 
-    // All in backup/OVPassword.cpp -----------------------------------------------------------------------------------
+    // All in tarnmodel/backup/OVPassword.cpp
+    // -----------------------------------------------------------------------------------
     /// A new record with its identifier, the date of now and the name of this device. Nothing else is set: the
     /// encryption manager fills it.
     static OVPassword* insertInManagedObjectContext(NSManagedObjectContext& context);

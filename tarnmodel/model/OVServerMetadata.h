@@ -1,8 +1,8 @@
 #pragma once
 
-#include "model/_OVServerMetadata.h"
-#include "platform/cloudkit/CKRecordZoneID.h"
-#include "platform/cloudkit/CKServerChangeToken.h"
+#include "tarnmodel/model/_OVServerMetadata.h"
+#include "tarnmodel/platform/cloudkit/CKRecordZoneID.h"
+#include "tarnmodel/platform/cloudkit/CKServerChangeToken.h"
 
 #include <optional>
 
@@ -19,7 +19,8 @@ class OVServerMetadata : public _OVServerMetadata {
 public:
     using _OVServerMetadata::_OVServerMetadata;
 
-    // All in sync/OVServerMetadata.cpp --------------------------------------------------------------------------------
+    // All in tarnmodel/sync/OVServerMetadata.cpp
+    // --------------------------------------------------------------------------------
     /// The record of the store, the last should there be several; inserted when there is none or the fetch fails.
     static OVServerMetadata* serverMetadataInManagedObjectContext(NSManagedObjectContext& context);
     /// Forgets the token: the next fetch of server changes starts from the beginning.

@@ -1,7 +1,7 @@
-#include "model/RecordCopying.h"
+#include "tarnmodel/model/RecordCopying.h"
 
-#include "platform/coredata/NSManagedObject.h"
-#include "platform/coredata/NSManagedObjectModel.h"
+#include "tarnmodel/platform/coredata/NSManagedObject.h"
+#include "tarnmodel/platform/coredata/NSManagedObjectModel.h"
 
 namespace tarn {
 

@@ -1,6 +1,6 @@
-#include "model/RecordFetch.h"
+#include "tarnmodel/model/RecordFetch.h"
 
-#include "platform/foundation/Log.h"
+#include "tarnmodel/platform/foundation/system/Log.h"
 
 #include <string>
 

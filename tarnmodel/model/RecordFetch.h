@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/coredata/NSFetchRequest.h"
-#include "platform/coredata/NSManagedObjectContext.h"
-#include "platform/foundation/NSError.h"
+#include "tarnmodel/platform/coredata/NSFetchRequest.h"
+#include "tarnmodel/platform/coredata/NSManagedObjectContext.h"
+#include "tarnmodel/platform/foundation/values/NSError.h"
 
 #include <optional>
 #include <vector>

@@ -1,6 +1,6 @@
-#include "model/Resources.h"
+#include "tarnmodel/model/Resources.h"
 
-#include "platform/foundation/Environment.h"
+#include "tarnmodel/platform/foundation/system/Environment.h"
 
 #include <dlfcn.h>
 

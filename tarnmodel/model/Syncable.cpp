@@ -1,4 +1,4 @@
-#include "model/Syncable.h"
+#include "tarnmodel/model/Syncable.h"
 
 #include <algorithm>
 

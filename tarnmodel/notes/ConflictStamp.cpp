@@ -1,4 +1,4 @@
-#include "notes/ConflictStamp.h"
+#include "tarnmodel/notes/ConflictStamp.h"
 
 #include <fmt/format.h>
 

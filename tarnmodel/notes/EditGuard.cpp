@@ -1,11 +1,11 @@
-#include "notes/EditGuard.h"
+#include "tarnmodel/notes/EditGuard.h"
 
-#include "corvel/CVKTextSummary.h"
-#include "encryption/OVEncryptionCoreManager.h"
-#include "model/OVNoteBackLink.h"
-#include "model/OVNoteFile.h"
-#include "notes/TitleLineGuard.h"
-#include "platform/foundation/NSException.h"
+#include "tarnmodel/corvel/CVKTextSummary.h"
+#include "tarnmodel/encryption/OVEncryptionCoreManager.h"
+#include "tarnmodel/model/OVNoteBackLink.h"
+#include "tarnmodel/model/OVNoteFile.h"
+#include "tarnmodel/notes/TitleLineGuard.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
 
 #include <unordered_set>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "corvel/CVKAST.h"
-#include "model/OVNote.h"
+#include "tarnmodel/corvel/CVKAST.h"
+#include "tarnmodel/model/OVNote.h"
 
 #include <functional>
 #include <optional>

@@ -1,8 +1,8 @@
-#include "notes/LinkTargets.h"
+#include "tarnmodel/notes/LinkTargets.h"
 
-#include "model/RecordFetch.h"
-#include "notes/NotePredicates.h"
-#include "platform/foundation/Folding.h"
+#include "tarnmodel/model/RecordFetch.h"
+#include "tarnmodel/notes/NotePredicates.h"
+#include "tarnmodel/platform/foundation/text/Folding.h"
 
 #include <unordered_set>
 

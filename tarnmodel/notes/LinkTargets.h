@@ -1,7 +1,7 @@
 #pragma once
 
-#include "corvel/CVKWikiLink.h"
-#include "model/OVNote.h"
+#include "tarnmodel/corvel/CVKWikiLink.h"
+#include "tarnmodel/model/OVNote.h"
 
 #include <span>
 #include <string>

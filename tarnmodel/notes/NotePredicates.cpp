@@ -1,4 +1,4 @@
-#include "notes/NotePredicates.h"
+#include "tarnmodel/notes/NotePredicates.h"
 
 namespace tarn {
 

@@ -1,6 +1,6 @@
-#include "model/OVNote.h"
-#include "model/RecordFetch.h"
-#include "notes/ConflictStamp.h"
+#include "tarnmodel/model/OVNote.h"
+#include "tarnmodel/model/RecordFetch.h"
+#include "tarnmodel/notes/ConflictStamp.h"
 
 namespace tarn {
 

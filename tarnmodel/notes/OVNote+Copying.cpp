@@ -1,13 +1,13 @@
-#include "corvel/CVKAST.h"
-#include "encryption/OVEncryptionCoreManager.h"
-#include "model/OVNote.h"
-#include "model/OVNoteBackLink.h"
-#include "model/OVNoteFile.h"
-#include "model/OVNoteTag.h"
-#include "model/OVPassword.h"
-#include "model/RecordCopying.h"
-#include "notes/EditGuard.h"
-#include "platform/coredata/NSManagedObjectContext.h"
+#include "tarnmodel/corvel/CVKAST.h"
+#include "tarnmodel/encryption/OVEncryptionCoreManager.h"
+#include "tarnmodel/model/OVNote.h"
+#include "tarnmodel/model/OVNoteBackLink.h"
+#include "tarnmodel/model/OVNoteFile.h"
+#include "tarnmodel/model/OVNoteTag.h"
+#include "tarnmodel/model/OVPassword.h"
+#include "tarnmodel/model/RecordCopying.h"
+#include "tarnmodel/notes/EditGuard.h"
+#include "tarnmodel/platform/coredata/NSManagedObjectContext.h"
 
 namespace tarn {
 

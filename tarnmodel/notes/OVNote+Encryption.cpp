@@ -1,9 +1,9 @@
-#include "encryption/OVEncryptionCoreManager.h"
-#include "model/OVNote.h"
-#include "model/OVNoteFile.h"
-#include "model/OVPassword.h"
-#include "model/RecordFetch.h"
-#include "platform/foundation/NSException.h"
+#include "tarnmodel/encryption/OVEncryptionCoreManager.h"
+#include "tarnmodel/model/OVNote.h"
+#include "tarnmodel/model/OVNoteFile.h"
+#include "tarnmodel/model/OVPassword.h"
+#include "tarnmodel/model/RecordFetch.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
 
 #include <algorithm>
 

@@ -1,11 +1,11 @@
-#include "model/OVNote.h"
+#include "tarnmodel/model/OVNote.h"
 
-#include "model/OVNoteBackLink.h"
-#include "model/OVNoteFile.h"
-#include "model/OVNoteTag.h"
-#include "platform/coredata/NSManagedObjectContext.h"
-#include "platform/foundation/NSDate.h"
-#include "platform/foundation/NSUUID.h"
+#include "tarnmodel/model/OVNoteBackLink.h"
+#include "tarnmodel/model/OVNoteFile.h"
+#include "tarnmodel/model/OVNoteTag.h"
+#include "tarnmodel/platform/coredata/NSManagedObjectContext.h"
+#include "tarnmodel/platform/foundation/system/NSUUID.h"
+#include "tarnmodel/platform/foundation/values/NSDate.h"
 
 #include <algorithm>
 #include <unordered_set>

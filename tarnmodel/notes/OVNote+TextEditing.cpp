@@ -1,5 +1,5 @@
-#include "model/OVNote.h"
-#include "notes/Paragraphs.h"
+#include "tarnmodel/model/OVNote.h"
+#include "tarnmodel/notes/Paragraphs.h"
 
 namespace tarn {
 

@@ -1,10 +1,10 @@
-#include "corvel/CVKWikiLink.h"
-#include "model/OVNote.h"
-#include "model/OVNoteBackLink.h"
-#include "notes/LinkTargets.h"
-#include "notes/TitlePropagation.h"
-#include "platform/coredata/NSManagedObjectContext.h"
-#include "platform/foundation/Folding.h"
+#include "tarnmodel/corvel/CVKWikiLink.h"
+#include "tarnmodel/model/OVNote.h"
+#include "tarnmodel/model/OVNoteBackLink.h"
+#include "tarnmodel/notes/LinkTargets.h"
+#include "tarnmodel/notes/TitlePropagation.h"
+#include "tarnmodel/platform/coredata/NSManagedObjectContext.h"
+#include "tarnmodel/platform/foundation/text/Folding.h"
 
 #include <algorithm>
 #include <unordered_map>

@@ -1,6 +1,6 @@
-#include "model/OVNote.h"
-#include "platform/foundation/PercentEncoding.h"
-#include "platform/foundation/UTF.h"
+#include "tarnmodel/model/OVNote.h"
+#include "tarnmodel/platform/foundation/text/PercentEncoding.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
 
 namespace tarn {
 

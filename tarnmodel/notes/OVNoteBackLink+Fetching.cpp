@@ -1,5 +1,5 @@
-#include "model/OVNoteBackLink.h"
-#include "model/RecordFetch.h"
+#include "tarnmodel/model/OVNoteBackLink.h"
+#include "tarnmodel/model/RecordFetch.h"
 
 namespace tarn {
 

@@ -1,6 +1,6 @@
-#include "notes/Paragraphs.h"
+#include "tarnmodel/notes/Paragraphs.h"
 
-#include "platform/foundation/UTF.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
-#include "notes/TextRewriting.h"
+#include "tarnmodel/notes/TextRewriting.h"
 
-#include "corvel/CVKAST.h"
-#include "corvel/CVKHashtag.h"
-#include "platform/foundation/Folding.h"
+#include "tarnmodel/corvel/CVKAST.h"
+#include "tarnmodel/corvel/CVKHashtag.h"
+#include "tarnmodel/platform/foundation/text/Folding.h"
 
 #include <algorithm>
 #include <map>

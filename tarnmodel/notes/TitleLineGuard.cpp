@@ -1,8 +1,8 @@
-#include "notes/TitleLineGuard.h"
+#include "tarnmodel/notes/TitleLineGuard.h"
 
-#include "corvel/CVKAST.h"
-#include "model/OVNoteBackLink.h"
-#include "platform/foundation/Folding.h"
+#include "tarnmodel/corvel/CVKAST.h"
+#include "tarnmodel/model/OVNoteBackLink.h"
+#include "tarnmodel/platform/foundation/text/Folding.h"
 
 #include <algorithm>
 

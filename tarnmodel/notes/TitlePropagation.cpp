@@ -1,9 +1,9 @@
-#include "notes/TitlePropagation.h"
+#include "tarnmodel/notes/TitlePropagation.h"
 
-#include "corvel/CVKAST.h"
-#include "corvel/CVKWikiLink.h"
-#include "model/OVNoteBackLink.h"
-#include "platform/foundation/Folding.h"
+#include "tarnmodel/corvel/CVKAST.h"
+#include "tarnmodel/corvel/CVKWikiLink.h"
+#include "tarnmodel/model/OVNoteBackLink.h"
+#include "tarnmodel/platform/foundation/text/Folding.h"
 
 #include <algorithm>
 #include <unordered_set>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "model/OVNote.h"
-#include "notes/TitleLineGuard.h"
+#include "tarnmodel/model/OVNote.h"
+#include "tarnmodel/notes/TitleLineGuard.h"
 
 #include <deque>
 #include <optional>

@@ -1,8 +1,8 @@
-#include "search/Clauses.h"
+#include "tarnmodel/search/Clauses.h"
 
-#include "platform/foundation/RegularExpression.h"
-#include "platform/predicate/ConstantText.h"
-#include "platform/predicate/NSPredicate.h"
+#include "tarnmodel/platform/foundation/text/RegularExpression.h"
+#include "tarnmodel/platform/predicate/ConstantText.h"
+#include "tarnmodel/platform/predicate/NSPredicate.h"
 
 #include <vector>
 

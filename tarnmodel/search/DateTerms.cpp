@@ -1,9 +1,9 @@
-#include "search/DateTerms.h"
+#include "tarnmodel/search/DateTerms.h"
 
-#include "platform/foundation/SpelledOutNumber.h"
-#include "platform/foundation/UTF.h"
-#include "platform/predicate/NSPredicate.h"
-#include "search/OVNoteSearchManager.h"
+#include "tarnmodel/platform/foundation/text/SpelledOutNumber.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
+#include "tarnmodel/platform/predicate/NSPredicate.h"
+#include "tarnmodel/search/OVNoteSearchManager.h"
 
 #include <algorithm>
 #include <limits>

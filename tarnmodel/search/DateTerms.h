@@ -1,6 +1,6 @@
 #pragma once
 
-#include "search/Vocabulary.h"
+#include "tarnmodel/search/Vocabulary.h"
 
 #include <optional>
 #include <string>

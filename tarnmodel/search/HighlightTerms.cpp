@@ -1,10 +1,10 @@
-#include "search/HighlightTerms.h"
+#include "tarnmodel/search/HighlightTerms.h"
 
-#include "platform/foundation/Characters.h"
-#include "platform/foundation/UTF.h"
-#include "search/OVNoteSearchManager.h"
-#include "search/Stretches.h"
-#include "search/Words.h"
+#include "tarnmodel/platform/foundation/text/Characters.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
+#include "tarnmodel/search/OVNoteSearchManager.h"
+#include "tarnmodel/search/Stretches.h"
+#include "tarnmodel/search/Words.h"
 
 namespace tarn {
 

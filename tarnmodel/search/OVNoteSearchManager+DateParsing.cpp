@@ -1,6 +1,6 @@
-#include "platform/foundation/Calendar.h"
-#include "platform/foundation/UTF.h"
-#include "search/OVNoteSearchManager.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
+#include "tarnmodel/platform/foundation/time/Calendar.h"
+#include "tarnmodel/search/OVNoteSearchManager.h"
 
 #include <array>
 #include <span>

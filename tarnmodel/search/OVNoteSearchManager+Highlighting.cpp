@@ -1,11 +1,11 @@
-#include "platform/foundation/Characters.h"
-#include "platform/foundation/NSException.h"
-#include "platform/foundation/UTF.h"
-#include "search/HighlightTerms.h"
-#include "search/OVNoteSearchManager.h"
-#include "search/SearchCompiler.h"
-#include "search/Stretches.h"
-#include "search/Words.h"
+#include "tarnmodel/platform/foundation/text/Characters.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
+#include "tarnmodel/search/HighlightTerms.h"
+#include "tarnmodel/search/OVNoteSearchManager.h"
+#include "tarnmodel/search/SearchCompiler.h"
+#include "tarnmodel/search/Stretches.h"
+#include "tarnmodel/search/Words.h"
 
 namespace tarn {
 

@@ -1,8 +1,8 @@
-#include "platform/foundation/Characters.h"
-#include "search/DateTerms.h"
-#include "search/OVNoteSearchManager.h"
-#include "search/Vocabulary.h"
-#include "search/Words.h"
+#include "tarnmodel/platform/foundation/text/Characters.h"
+#include "tarnmodel/search/DateTerms.h"
+#include "tarnmodel/search/OVNoteSearchManager.h"
+#include "tarnmodel/search/Vocabulary.h"
+#include "tarnmodel/search/Words.h"
 
 namespace tarn {
 

@@ -1,6 +1,6 @@
-#include "search/OVNoteSearchManager.h"
+#include "tarnmodel/search/OVNoteSearchManager.h"
 
-#include "search/SearchCompiler.h"
+#include "tarnmodel/search/SearchCompiler.h"
 
 #include <atomic>
 

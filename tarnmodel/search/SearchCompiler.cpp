@@ -1,11 +1,11 @@
-#include "search/SearchCompiler.h"
+#include "tarnmodel/search/SearchCompiler.h"
 
-#include "platform/foundation/Characters.h"
-#include "platform/foundation/UTF.h"
-#include "search/Clauses.h"
-#include "search/OVNoteSearchManager.h"
-#include "search/Stretches.h"
-#include "search/Words.h"
+#include "tarnmodel/platform/foundation/text/Characters.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
+#include "tarnmodel/search/Clauses.h"
+#include "tarnmodel/search/OVNoteSearchManager.h"
+#include "tarnmodel/search/Stretches.h"
+#include "tarnmodel/search/Words.h"
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "search/OVNoteSearchToken.h"
+#include "tarnmodel/search/OVNoteSearchToken.h"
 
 #include <string>
 #include <string_view>

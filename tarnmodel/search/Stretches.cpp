@@ -1,6 +1,6 @@
-#include "search/Stretches.h"
+#include "tarnmodel/search/Stretches.h"
 
-#include "platform/foundation/UTF.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
 
 #include <cstdint>
 

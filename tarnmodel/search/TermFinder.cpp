@@ -1,9 +1,8 @@
-#include "search/TermFinder.h"
+#include "tarnmodel/search/TermFinder.h"
 
-#include "corvel/CVKHashtag.h"
-#include "corvel/HashtagScanner.h"
-#include "platform/foundation/UTF.h"
-#include "platform/predicate/WholeWordPattern.h"
+#include "tarnmodel/corvel/CVKHashtag.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
+#include "tarnmodel/platform/predicate/WholeWordPattern.h"
 
 #include <algorithm>
 
@@ -86,12 +85,9 @@ bool isTagWanted(std::string_view path, const std::string& folded, Kind kind)
 std::optional<FoldedRange> placeOfTag(std::string_view text, const std::string& folded, Kind kind, std::size_t from)
 {
     for (std::size_t mark = text.find('#', from); mark != std::string_view::npos;) {
-        const auto hashtag = corvel::scanHashtag(text, mark);
-        if (hashtag) {
-            const std::string_view name = text.substr(hashtag->name.begin, hashtag->name.end - hashtag->name.begin);
-            if (isTagWanted(CVKHashtag::normalizeTagName(name), folded, kind))
-                return FoldedRange{mark, hashtag->end - mark};
-        }
+        const auto hashtag = CVKHashtag::hashtagAt(text, mark);
+        if (hashtag && isTagWanted(CVKHashtag::normalizeTagName(hashtag->path), folded, kind))
+            return FoldedRange{mark, hashtag->end - mark};
         mark = text.find('#', hashtag ? hashtag->end : mark + 1);
     }
     return std::nullopt;

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/foundation/Folding.h"
-#include "search/HighlightTerms.h"
+#include "tarnmodel/platform/foundation/text/Folding.h"
+#include "tarnmodel/search/HighlightTerms.h"
 
 #include <optional>
 #include <string>

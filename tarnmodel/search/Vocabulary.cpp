@@ -1,6 +1,6 @@
-#include "search/Vocabulary.h"
+#include "tarnmodel/search/Vocabulary.h"
 
-#include "platform/predicate/NSPredicate.h"
+#include "tarnmodel/platform/predicate/NSPredicate.h"
 
 #include <algorithm>
 #include <vector>

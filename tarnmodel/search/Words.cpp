@@ -1,7 +1,7 @@
-#include "search/Words.h"
+#include "tarnmodel/search/Words.h"
 
-#include "platform/foundation/Characters.h"
-#include "platform/foundation/UTF.h"
+#include "tarnmodel/platform/foundation/text/Characters.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
 
 namespace tarn {
 

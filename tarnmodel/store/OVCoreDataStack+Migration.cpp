@@ -1,9 +1,9 @@
-#include "platform/coredata/StoreFailure.h"
-#include "platform/coredata/StoreFileMove.h"
-#include "platform/foundation/Log.h"
-#include "platform/foundation/NSDate.h"
-#include "platform/foundation/NSProgress.h"
-#include "store/OVCoreDataStack.h"
+#include "tarnmodel/platform/coredata/StoreErrors.h"
+#include "tarnmodel/platform/coredata/StoreFileMove.h"
+#include "tarnmodel/platform/foundation/events/NSProgress.h"
+#include "tarnmodel/platform/foundation/system/Log.h"
+#include "tarnmodel/platform/foundation/values/NSDate.h"
+#include "tarnmodel/store/OVCoreDataStack.h"
 
 #include <algorithm>
 #include <chrono>

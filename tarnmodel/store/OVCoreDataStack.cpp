@@ -1,11 +1,11 @@
-#include "store/OVCoreDataStack.h"
+#include "tarnmodel/store/OVCoreDataStack.h"
 
-#include "files/OVLocalFileManager.h"
-#include "model/ManagedObjectModel.h"
-#include "model/OVNote.h"
-#include "platform/coredata/NSPersistentStore.h"
-#include "platform/foundation/Log.h"
-#include "platform/foundation/NSException.h"
+#include "tarnmodel/files/OVLocalFileManager.h"
+#include "tarnmodel/model/ManagedObjectModel.h"
+#include "tarnmodel/model/OVNote.h"
+#include "tarnmodel/platform/coredata/StoreErrors.h"
+#include "tarnmodel/platform/foundation/system/Log.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
 
 #include <utility>
 

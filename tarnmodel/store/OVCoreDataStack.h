@@ -1,12 +1,12 @@
 #pragma once
 
-#include "platform/coredata/NSManagedObjectContext.h"
-#include "platform/coredata/NSPersistentStoreCoordinator.h"
-#include "platform/coredata/QueueChecks.h"
-#include "platform/foundation/Queue.h"
-#include "platform/foundation/WeakReference.h"
-#include "store/OVCoreDataStackDelegate.h"
-#include "store/VexMigrationManager.h"
+#include "tarnmodel/platform/coredata/NSManagedObjectContext.h"
+#include "tarnmodel/platform/coredata/NSPersistentStoreCoordinator.h"
+#include "tarnmodel/platform/coredata/QueueChecks.h"
+#include "tarnmodel/platform/foundation/events/Queue.h"
+#include "tarnmodel/platform/foundation/values/WeakReference.h"
+#include "tarnmodel/store/OVCoreDataStackDelegate.h"
+#include "tarnmodel/store/VexMigrationManager.h"
 
 #include <filesystem>
 #include <functional>

@@ -1,4 +1,4 @@
-#include "store/OVCoreDataStackDelegate.h"
+#include "tarnmodel/store/OVCoreDataStackDelegate.h"
 
 namespace tarn {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/foundation/NSError.h"
-#include "platform/foundation/WeakReference.h"
+#include "tarnmodel/platform/foundation/values/NSError.h"
+#include "tarnmodel/platform/foundation/values/WeakReference.h"
 
 #include <memory>
 #include <optional>

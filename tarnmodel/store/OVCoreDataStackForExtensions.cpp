@@ -1,7 +1,7 @@
-#include "store/OVCoreDataStackForExtensions.h"
+#include "tarnmodel/store/OVCoreDataStackForExtensions.h"
 
-#include "model/OVChange.h"
-#include "model/OVExternalChanges.h"
+#include "tarnmodel/model/OVChange.h"
+#include "tarnmodel/model/OVExternalChanges.h"
 
 namespace tarn {
 

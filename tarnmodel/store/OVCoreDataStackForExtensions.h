@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/foundation/NSNotificationCenter.h"
-#include "store/OVCoreDataStack.h"
+#include "tarnmodel/platform/foundation/events/NSNotificationCenter.h"
+#include "tarnmodel/store/OVCoreDataStack.h"
 
 namespace tarn {
 

@@ -1,4 +1,4 @@
-#include "store/OVCoreDataStackForWidgets.h"
+#include "tarnmodel/store/OVCoreDataStackForWidgets.h"
 
 #include <system_error>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "store/OVCoreDataStack.h"
+#include "tarnmodel/store/OVCoreDataStack.h"
 
 namespace tarn {
 

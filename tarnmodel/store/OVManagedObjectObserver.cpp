@@ -1,7 +1,7 @@
-#include "store/OVManagedObjectObserver.h"
+#include "tarnmodel/store/OVManagedObjectObserver.h"
 
-#include "platform/coredata/NSManagedObjectContext.h"
-#include "platform/coredata/NSManagedObjectSet.h"
+#include "tarnmodel/platform/coredata/NSManagedObjectContext.h"
+#include "tarnmodel/platform/coredata/NSManagedObjectSet.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/coredata/NSManagedObject.h"
-#include "platform/foundation/NSNotificationCenter.h"
+#include "tarnmodel/platform/coredata/NSManagedObject.h"
+#include "tarnmodel/platform/foundation/events/NSNotificationCenter.h"
 
 #include <functional>
 #include <map>

@@ -1,7 +1,7 @@
-#include "store/VexMigrationManager.h"
+#include "tarnmodel/store/VexMigrationManager.h"
 
-#include "model/ManagedObjectModel.h"
-#include "platform/coredata/NSManagedObjectModel.h"
+#include "tarnmodel/model/ManagedObjectModel.h"
+#include "tarnmodel/platform/coredata/NSManagedObjectModel.h"
 
 #include <algorithm>
 #include <system_error>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/coredata/NSPersistentStoreCoordinator.h"
-#include "platform/foundation/NSError.h"
-#include "platform/foundation/WeakReference.h"
+#include "tarnmodel/platform/coredata/NSPersistentStoreCoordinator.h"
+#include "tarnmodel/platform/foundation/values/NSError.h"
+#include "tarnmodel/platform/foundation/values/WeakReference.h"
 
 #include <filesystem>
 #include <map>

@@ -1,7 +1,7 @@
-#include "model/OVChange.h"
-#include "model/OVChangeItem.h"
-#include "model/RecordFetch.h"
-#include "sync/ChangeLogFetchInternal.h"
+#include "tarnmodel/model/OVChange.h"
+#include "tarnmodel/model/OVChangeItem.h"
+#include "tarnmodel/model/RecordFetch.h"
+#include "tarnmodel/sync/ChangeLogFetchInternal.h"
 
 namespace tarn {
 

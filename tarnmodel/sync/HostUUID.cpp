@@ -1,7 +1,7 @@
-#include "sync/HostUUID.h"
+#include "tarnmodel/sync/HostUUID.h"
 
-#include "platform/foundation/Environment.h"
-#include "platform/foundation/NSUUID.h"
+#include "tarnmodel/platform/foundation/system/Environment.h"
+#include "tarnmodel/platform/foundation/system/NSUUID.h"
 
 #include <sodium/core.h>
 #include <sodium/crypto_auth_hmacsha256.h>

@@ -1,8 +1,8 @@
-#include "model/OVChange.h"
-#include "model/OVChangeItem.h"
-#include "model/RecordFetch.h"
-#include "model/Syncable.h"
-#include "sync/ChangeLogFetchInternal.h"
+#include "tarnmodel/model/OVChange.h"
+#include "tarnmodel/model/OVChangeItem.h"
+#include "tarnmodel/model/RecordFetch.h"
+#include "tarnmodel/model/Syncable.h"
+#include "tarnmodel/sync/ChangeLogFetchInternal.h"
 
 #include <map>
 #include <set>

@@ -1,10 +1,10 @@
-#include "model/OVChange.h"
+#include "tarnmodel/model/OVChange.h"
 
-#include "model/OVChangeItem.h"
-#include "model/RecordFetch.h"
-#include "model/Syncable.h"
-#include "platform/foundation/NSUUID.h"
-#include "sync/ChangeLogFetchInternal.h"
+#include "tarnmodel/model/OVChangeItem.h"
+#include "tarnmodel/model/RecordFetch.h"
+#include "tarnmodel/model/Syncable.h"
+#include "tarnmodel/platform/foundation/system/NSUUID.h"
+#include "tarnmodel/sync/ChangeLogFetchInternal.h"
 
 #include <algorithm>
 #include <set>

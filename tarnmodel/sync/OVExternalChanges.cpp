@@ -1,9 +1,9 @@
-#include "model/OVExternalChanges.h"
+#include "tarnmodel/model/OVExternalChanges.h"
 
-#include "model/RecordFetch.h"
-#include "platform/coredata/NSPersistentStoreCoordinator.h"
-#include "platform/foundation/Log.h"
-#include "sync/RecordDeletionInternal.h"
+#include "tarnmodel/model/RecordFetch.h"
+#include "tarnmodel/platform/coredata/NSPersistentStoreCoordinator.h"
+#include "tarnmodel/platform/foundation/system/Log.h"
+#include "tarnmodel/sync/RecordDeletionInternal.h"
 
 #include <sstream>
 

@@ -1,7 +1,7 @@
-#include "model/OVInternalChanges.h"
+#include "tarnmodel/model/OVInternalChanges.h"
 
-#include "model/RecordFetch.h"
-#include "platform/coredata/NSPersistentStoreCoordinator.h"
+#include "tarnmodel/model/RecordFetch.h"
+#include "tarnmodel/platform/coredata/NSPersistentStoreCoordinator.h"
 
 namespace tarn {
 

@@ -1,6 +1,6 @@
-#include "model/OVNote.h"
-#include "sync/OVDeviceUUID.h"
-#include "sync/TolVectorClock.h"
+#include "tarnmodel/model/OVNote.h"
+#include "tarnmodel/sync/OVDeviceUUID.h"
+#include "tarnmodel/sync/TolVectorClock.h"
 
 namespace tarn {
 

@@ -1,6 +1,6 @@
-#include "model/OVNoteFileServerData.h"
+#include "tarnmodel/model/OVNoteFileServerData.h"
 
-#include "sync/RecordDeletionInternal.h"
+#include "tarnmodel/sync/RecordDeletionInternal.h"
 
 namespace tarn {
 

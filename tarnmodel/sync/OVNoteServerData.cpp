@@ -1,6 +1,6 @@
-#include "model/OVNoteServerData.h"
+#include "tarnmodel/model/OVNoteServerData.h"
 
-#include "sync/RecordDeletionInternal.h"
+#include "tarnmodel/sync/RecordDeletionInternal.h"
 
 namespace tarn {
 

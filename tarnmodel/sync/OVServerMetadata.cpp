@@ -1,7 +1,7 @@
-#include "model/OVServerMetadata.h"
+#include "tarnmodel/model/OVServerMetadata.h"
 
-#include "platform/coredata/NSFetchRequest.h"
-#include "platform/coredata/NSManagedObjectContext.h"
+#include "tarnmodel/platform/coredata/NSFetchRequest.h"
+#include "tarnmodel/platform/coredata/NSManagedObjectContext.h"
 
 namespace tarn {
 

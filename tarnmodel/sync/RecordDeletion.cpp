@@ -1,5 +1,5 @@
-#include "model/RecordFetch.h"
-#include "sync/RecordDeletionInternal.h"
+#include "tarnmodel/model/RecordFetch.h"
+#include "tarnmodel/sync/RecordDeletionInternal.h"
 
 namespace tarn {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/foundation/NSData.h"
-#include "platform/foundation/PropertyList.h"
+#include "tarnmodel/platform/foundation/text/PropertyList.h"
+#include "tarnmodel/platform/foundation/values/NSData.h"
 
 #include <cstdint>
 #include <mutex>

@@ -1,7 +1,7 @@
-#include "model/OVNote.h"
-#include "model/OVNoteTag.h"
-#include "platform/foundation/Folding.h"
-#include "tags/TagLookupInternal.h"
+#include "tarnmodel/model/OVNote.h"
+#include "tarnmodel/model/OVNoteTag.h"
+#include "tarnmodel/platform/foundation/text/Folding.h"
+#include "tarnmodel/tags/TagLookupInternal.h"
 
 #include <algorithm>
 #include <unordered_set>

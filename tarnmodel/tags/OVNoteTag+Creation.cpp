@@ -1,8 +1,8 @@
-#include "corvel/CVKHashtag.h"
-#include "model/OVNote.h"
-#include "model/OVNoteTag.h"
-#include "model/RecordFetch.h"
-#include "tags/TagLookupInternal.h"
+#include "tarnmodel/corvel/CVKHashtag.h"
+#include "tarnmodel/model/OVNote.h"
+#include "tarnmodel/model/OVNoteTag.h"
+#include "tarnmodel/model/RecordFetch.h"
+#include "tarnmodel/tags/TagLookupInternal.h"
 
 namespace tarn {
 

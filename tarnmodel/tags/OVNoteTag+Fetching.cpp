@@ -1,7 +1,7 @@
-#include "model/OVNote.h"
-#include "model/OVNoteTag.h"
-#include "model/RecordFetch.h"
-#include "tags/TagLookupInternal.h"
+#include "tarnmodel/model/OVNote.h"
+#include "tarnmodel/model/OVNoteTag.h"
+#include "tarnmodel/model/RecordFetch.h"
+#include "tarnmodel/tags/TagLookupInternal.h"
 
 namespace tarn {
 

@@ -1,7 +1,7 @@
-#include "corvel/CVKHashtag.h"
-#include "model/OVNoteTag.h"
-#include "platform/foundation/Folding.h"
-#include "tags/TagLookupInternal.h"
+#include "tarnmodel/corvel/CVKHashtag.h"
+#include "tarnmodel/model/OVNoteTag.h"
+#include "tarnmodel/platform/foundation/text/Folding.h"
+#include "tarnmodel/tags/TagLookupInternal.h"
 
 #include <algorithm>
 

@@ -1,12 +1,12 @@
-#include "corvel/CVKAST.h"
-#include "corvel/CVKHashtag.h"
-#include "model/OVNote.h"
-#include "model/OVNoteTag.h"
-#include "notes/EditGuard.h"
-#include "notes/OVNoteCacheLoan.h"
-#include "platform/foundation/Folding.h"
-#include "platform/foundation/NSDate.h"
-#include "tags/TagLookupInternal.h"
+#include "tarnmodel/corvel/CVKAST.h"
+#include "tarnmodel/corvel/CVKHashtag.h"
+#include "tarnmodel/model/OVNote.h"
+#include "tarnmodel/model/OVNoteTag.h"
+#include "tarnmodel/notes/EditGuard.h"
+#include "tarnmodel/notes/OVNoteCacheLoan.h"
+#include "tarnmodel/platform/foundation/text/Folding.h"
+#include "tarnmodel/platform/foundation/values/NSDate.h"
+#include "tarnmodel/tags/TagLookupInternal.h"
 
 #include <map>
 

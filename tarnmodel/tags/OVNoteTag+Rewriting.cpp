@@ -1,8 +1,8 @@
-#include "corvel/CVKAST.h"
-#include "corvel/CVKHashtag.h"
-#include "model/OVNote.h"
-#include "model/OVNoteTag.h"
-#include "notes/EditGuard.h"
+#include "tarnmodel/corvel/CVKAST.h"
+#include "tarnmodel/corvel/CVKHashtag.h"
+#include "tarnmodel/model/OVNote.h"
+#include "tarnmodel/model/OVNoteTag.h"
+#include "tarnmodel/notes/EditGuard.h"
 
 namespace tarn {
 

@@ -1,6 +1,6 @@
-#include "model/OVNoteTag.h"
+#include "tarnmodel/model/OVNoteTag.h"
 
-#include "platform/foundation/NSDate.h"
+#include "tarnmodel/platform/foundation/values/NSDate.h"
 
 namespace tarn {
 

@@ -1,5 +1,5 @@
-#include "model/OVNoteTag.h"
-#include "platform/foundation/PercentEncoding.h"
+#include "tarnmodel/model/OVNoteTag.h"
+#include "tarnmodel/platform/foundation/text/PercentEncoding.h"
 
 namespace tarn {
 

@@ -1,9 +1,9 @@
-#include "tags/TagLookupInternal.h"
+#include "tarnmodel/tags/TagLookupInternal.h"
 
-#include "corvel/CVKHashtag.h"
-#include "model/OVNoteTag.h"
-#include "model/RecordFetch.h"
-#include "platform/foundation/Log.h"
+#include "tarnmodel/corvel/CVKHashtag.h"
+#include "tarnmodel/model/OVNoteTag.h"
+#include "tarnmodel/model/RecordFetch.h"
+#include "tarnmodel/platform/foundation/system/Log.h"
 
 #include <algorithm>
 #include <map>

@@ -1,7 +1,7 @@
-#include "corvel/CVKAST.h"
-#include "corvel/CVKWikiLink.h"
+#include "tarnmodel/corvel/CVKAST.h"
+#include "tarnmodel/corvel/CVKWikiLink.h"
 
-#include "platform/foundation/NSException.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
-#include "corvel/CVKAST.h"
-#include "corvel/Document.h"
-#include "corvel/HtmlRenderer.h"
+#include "tarnmodel/corvel/CVKAST.h"
+#include "tarnmodel/corvel/blocks/Document.h"
+#include "tarnmodel/corvel/output/HtmlRenderer.h"
 #include "tests/corvel/CommonMarkExamples.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
-#include "corvel/CVKAST.h"
-#include "corvel/CVKHashtag.h"
-#include "corvel/CVKWikiLink.h"
-#include "corvel/Document.h"
+#include "tarnmodel/corvel/CVKAST.h"
+#include "tarnmodel/corvel/CVKHashtag.h"
+#include "tarnmodel/corvel/CVKWikiLink.h"
+#include "tarnmodel/corvel/blocks/Document.h"
 #include "tests/corvel/CommonMarkExamples.h"
 #include "tests/corvel/RandomMarkdown.h"
 

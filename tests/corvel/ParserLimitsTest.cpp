@@ -1,9 +1,9 @@
-#include "corvel/CVKAST.h"
-#include "corvel/CVKHashtag.h"
-#include "corvel/CVKWikiLink.h"
-#include "corvel/Document.h"
+#include "tarnmodel/corvel/CVKAST.h"
+#include "tarnmodel/corvel/CVKHashtag.h"
+#include "tarnmodel/corvel/CVKWikiLink.h"
+#include "tarnmodel/corvel/blocks/Document.h"
 
-#include "platform/foundation/UTF.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

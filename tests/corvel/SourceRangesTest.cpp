@@ -1,7 +1,7 @@
-#include "corvel/CVKAST.h"
-#include "corvel/Document.h"
-#include "corvel/Unescape.h"
-#include "corvel/WikiLinkScanner.h"
+#include "tarnmodel/corvel/CVKAST.h"
+#include "tarnmodel/corvel/blocks/Document.h"
+#include "tarnmodel/corvel/scanning/Unescape.h"
+#include "tarnmodel/corvel/scanning/WikiLinkScanner.h"
 #include "tests/corvel/CommonMarkExamples.h"
 #include "tests/corvel/RandomMarkdown.h"
 

@@ -4,7 +4,7 @@
 #include "examples/sync-folder/FolderServer.h"
 #include "examples/sync-folder/NoteRecord.h"
 #include "examples/sync-folder/SyncEngine.h"
-#include "sync/HostUUID.h"
+#include "tarnmodel/sync/HostUUID.h"
 #include "tests/support/LogCapture.h"
 
 #include <algorithm>

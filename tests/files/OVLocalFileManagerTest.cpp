@@ -1,7 +1,7 @@
-#include "files/OVLocalFileManager.h"
+#include "tarnmodel/files/OVLocalFileManager.h"
 
-#include "platform/foundation/Environment.h"
-#include "platform/foundation/NSUUID.h"
+#include "tarnmodel/platform/foundation/system/Environment.h"
+#include "tarnmodel/platform/foundation/system/NSUUID.h"
 
 #include <gtest/gtest.h>
 

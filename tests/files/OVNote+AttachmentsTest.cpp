@@ -1,9 +1,9 @@
 #include "tests/support/StoreFixture.h"
 
-#include "encryption/OVEncryptionCoreManager.h"
-#include "model/OVNoteGenericFile.h"
-#include "model/OVNoteImage.h"
-#include "model/OVPassword.h"
+#include "tarnmodel/encryption/OVEncryptionCoreManager.h"
+#include "tarnmodel/model/OVNoteGenericFile.h"
+#include "tarnmodel/model/OVNoteImage.h"
+#include "tarnmodel/model/OVPassword.h"
 #include "tests/support/TextKeeper.h"
 
 namespace tarn {

@@ -1,6 +1,6 @@
-#include "files/PrivateFolder.h"
+#include "tarnmodel/files/PrivateFolder.h"
 
-#include "platform/foundation/NSUUID.h"
+#include "tarnmodel/platform/foundation/system/NSUUID.h"
 
 #include <gtest/gtest.h>
 

@@ -1,14 +1,8 @@
 # Every public header compiles when it is the first and only include: one source for each, in one object library that
 # only this case builds.
-set(rooms platform/foundation platform/predicate platform/coredata platform/imaging platform/cloudkit corvel encryption
-  model notes tags files sync search backup store)
-set(headers "")
-foreach(room IN LISTS rooms)
-  file(GLOB found CONFIGURE_DEPENDS RELATIVE "${PROJECT_SOURCE_DIR}" "${PROJECT_SOURCE_DIR}/${room}/*.h")
-  list(APPEND headers ${found})
-endforeach()
-file(GLOB found CONFIGURE_DEPENDS RELATIVE "${PROJECT_SOURCE_DIR}/include" "${PROJECT_SOURCE_DIR}/include/tarnmodel/*.h")
-list(APPEND headers ${found})
+# What lies below the face of the object store or of the parser is their own.
+file(GLOB_RECURSE headers CONFIGURE_DEPENDS RELATIVE "${PROJECT_SOURCE_DIR}" "${PROJECT_SOURCE_DIR}/tarnmodel/*.h")
+list(FILTER headers EXCLUDE REGEX "/(coredata|corvel)/[^/]+/")
 list(FILTER headers EXCLUDE REGEX "Internal\\.h$")
 
 set(sources "")
@@ -22,11 +16,11 @@ endforeach()
 add_library(house_public_headers OBJECT EXCLUDE_FROM_ALL ${sources})
 # Headers alone, without the include folders of the libraries that the sources use.
 target_include_directories(house_public_headers PRIVATE
-  "${PROJECT_SOURCE_DIR}" "${PROJECT_SOURCE_DIR}/include" "${PROJECT_BINARY_DIR}/generated")
+  "${PROJECT_SOURCE_DIR}" "${PROJECT_BINARY_DIR}/generated")
 target_link_libraries(house_public_headers PRIVATE tarn_build_flags)
 target_compile_options(house_public_headers PRIVATE -O0 -g0)
 # Some headers are generated: all by one command, so one stands for all.
-set_source_files_properties(${sources} PROPERTIES OBJECT_DEPENDS "${PROJECT_BINARY_DIR}/generated/model/_OVNote.h")
+set_source_files_properties(${sources} PROPERTIES OBJECT_DEPENDS "${PROJECT_BINARY_DIR}/generated/tarnmodel/model/_OVNote.h")
 
 house_case(EveryPublicHeaderCompilesAlone TIMEOUT 900 LABELS slow
   COMMAND "${CMAKE_COMMAND}" --build "${PROJECT_BINARY_DIR}" --target house_public_headers)

@@ -1,4 +1,4 @@
-#include "include/tarnmodel/TarnModel.h"
+#include "tarnmodel/TarnModel.h"
 
 #include <gtest/gtest.h>
 
@@ -6,9 +6,9 @@
 #include <vector>
 
 // Entities without relationships have no class for them.
-#if __has_include("model/OVInternalChangesRelationships.h")                                                            \
-    || __has_include(                                                                                                  \
-        "model/OVExternalChangesRelationships.h") || __has_include("model/OVServerMetadataRelationships.h")
+#if __has_include("tarnmodel/model/OVInternalChangesRelationships.h")                                                  \
+    || __has_include("tarnmodel/model/OVExternalChangesRelationships.h")                                               \
+        || __has_include("tarnmodel/model/OVServerMetadataRelationships.h")
 #error "a key-name class without keys"
 #endif
 

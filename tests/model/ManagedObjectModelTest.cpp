@@ -1,9 +1,9 @@
-#include "model/ManagedObjectModel.h"
-#include "model/RecordClasses.h"
-#include "model/Resources.h"
-#include "platform/coredata/NSPersistentStore.h"
-#include "platform/foundation/Environment.h"
-#include "platform/foundation/NSUUID.h"
+#include "tarnmodel/model/ManagedObjectModel.h"
+#include "tarnmodel/model/RecordClasses.h"
+#include "tarnmodel/model/Resources.h"
+#include "tarnmodel/platform/coredata/rows/RowStore.h"
+#include "tarnmodel/platform/foundation/system/Environment.h"
+#include "tarnmodel/platform/foundation/system/NSUUID.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

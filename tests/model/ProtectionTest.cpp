@@ -1,8 +1,8 @@
-#include "encryption/OVEncryptionCoreManager.h"
-#include "model/OVNote.h"
-#include "model/OVNoteGenericFile.h"
-#include "model/OVPassword.h"
-#include "platform/foundation/NSException.h"
+#include "tarnmodel/encryption/OVEncryptionCoreManager.h"
+#include "tarnmodel/model/OVNote.h"
+#include "tarnmodel/model/OVNoteGenericFile.h"
+#include "tarnmodel/model/OVPassword.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
 #include "tests/model/RecordFixture.h"
 
 #include <algorithm>

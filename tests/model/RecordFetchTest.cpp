@@ -1,6 +1,6 @@
-#include "model/RecordFetch.h"
+#include "tarnmodel/model/RecordFetch.h"
 
-#include "model/OVNote.h"
+#include "tarnmodel/model/OVNote.h"
 #include "tests/model/RecordFixture.h"
 #include "tests/support/LogCapture.h"
 

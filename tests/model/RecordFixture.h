@@ -1,10 +1,10 @@
 #pragma once
 
-#include "model/ManagedObjectModel.h"
-#include "platform/coredata/NSManagedObjectContext.h"
-#include "platform/coredata/NSPersistentStoreCoordinator.h"
-#include "platform/foundation/Environment.h"
-#include "platform/foundation/NSUUID.h"
+#include "tarnmodel/model/ManagedObjectModel.h"
+#include "tarnmodel/platform/coredata/NSManagedObjectContext.h"
+#include "tarnmodel/platform/coredata/NSPersistentStoreCoordinator.h"
+#include "tarnmodel/platform/foundation/system/Environment.h"
+#include "tarnmodel/platform/foundation/system/NSUUID.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

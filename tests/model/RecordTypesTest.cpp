@@ -1,4 +1,4 @@
-#include "model/ManagedObjectModel.h"
+#include "tarnmodel/model/ManagedObjectModel.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,14 +1,14 @@
 #include "tests/support/StoreFixture.h"
 
-#include "corvel/CVKAST.h"
-#include "corvel/CVKHashtag.h"
-#include "model/ManagedObjectModel.h"
-#include "model/OVNoteBackLink.h"
-#include "model/OVNoteGenericFile.h"
-#include "model/OVNoteImage.h"
-#include "notes/LinkTargets.h"
-#include "platform/foundation/Folding.h"
-#include "platform/foundation/Log.h"
+#include "tarnmodel/corvel/CVKAST.h"
+#include "tarnmodel/corvel/CVKHashtag.h"
+#include "tarnmodel/model/ManagedObjectModel.h"
+#include "tarnmodel/model/OVNoteBackLink.h"
+#include "tarnmodel/model/OVNoteGenericFile.h"
+#include "tarnmodel/model/OVNoteImage.h"
+#include "tarnmodel/notes/LinkTargets.h"
+#include "tarnmodel/platform/foundation/system/Log.h"
+#include "tarnmodel/platform/foundation/text/Folding.h"
 
 #include <array>
 #include <cstdlib>

@@ -1,10 +1,10 @@
 #include "tests/support/StoreFixture.h"
 
-#include "corvel/CVKTextSummary.h"
-#include "encryption/OVEncryptionCoreManager.h"
-#include "model/OVNoteGenericFile.h"
-#include "model/OVNoteImage.h"
-#include "platform/foundation/NSException.h"
+#include "tarnmodel/corvel/CVKTextSummary.h"
+#include "tarnmodel/encryption/OVEncryptionCoreManager.h"
+#include "tarnmodel/model/OVNoteGenericFile.h"
+#include "tarnmodel/model/OVNoteImage.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
 #include "tests/support/TextKeeper.h"
 
 #include <array>
@@ -203,7 +203,7 @@ TEST_P(LockedAttachments, StayInUseWhereNobodyCanReadTheirNames)
 
 constexpr std::array lines{"# A", "# B [[A]]", "# C #x", "# D [[C #x]]", "[[A]] #x", "[[B A]] #x/y", "#y", "[[D C #x]]",
     "[[C]]", "body", "[f](a.pdf)", "# A #y"};
-constexpr std::array tagNames{"x", "y", "x/y", "z"};
+constexpr std::array lockedTagNames{"x", "y", "x/y", "z"};
 
 class LockedNotebook : public LockedAttachments {
 protected:
@@ -237,7 +237,7 @@ void LockedNotebook::change(std::size_t choice)
     const std::vector<OVNoteTag*> tags = all<OVNoteTag>();
     OVNote& note = *notes[pick(notes.size())];
     const std::string text = randomText();
-    const std::string name = tagNames[pick(tagNames.size())];
+    const std::string name = lockedTagNames[pick(lockedTagNames.size())];
     if (choice == 0)
         note.updateNoteWithText(text);
     else if (choice == 1)

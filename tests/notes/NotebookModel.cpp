@@ -1,8 +1,8 @@
 #include "tests/notes/NotebookModel.h"
 
-#include "corvel/CVKAST.h"
-#include "corvel/CVKHashtag.h"
-#include "platform/foundation/Folding.h"
+#include "tarnmodel/corvel/CVKAST.h"
+#include "tarnmodel/corvel/CVKHashtag.h"
+#include "tarnmodel/platform/foundation/text/Folding.h"
 
 #include <algorithm>
 

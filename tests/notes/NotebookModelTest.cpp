@@ -1,11 +1,11 @@
 #include "tests/notes/NotebookModel.h"
 #include "tests/support/StoreFixture.h"
 
-#include "corvel/CVKAST.h"
-#include "corvel/CVKHashtag.h"
-#include "model/OVNoteBackLink.h"
-#include "notes/LinkTargets.h"
-#include "platform/foundation/Folding.h"
+#include "tarnmodel/corvel/CVKAST.h"
+#include "tarnmodel/corvel/CVKHashtag.h"
+#include "tarnmodel/model/OVNoteBackLink.h"
+#include "tarnmodel/notes/LinkTargets.h"
+#include "tarnmodel/platform/foundation/text/Folding.h"
 
 #include <array>
 #include <random>

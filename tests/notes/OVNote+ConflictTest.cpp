@@ -1,6 +1,6 @@
 #include "tests/support/StoreFixture.h"
 
-#include "notes/ConflictStamp.h"
+#include "tarnmodel/notes/ConflictStamp.h"
 
 namespace tarn {
 namespace {

@@ -1,11 +1,11 @@
 #include "tests/support/StoreFixture.h"
 
-#include "encryption/OVEncryptionCoreManager.h"
-#include "model/OVNoteBackLink.h"
-#include "model/OVNoteGenericFile.h"
-#include "model/OVNoteImage.h"
-#include "model/OVPassword.h"
-#include "platform/foundation/NSException.h"
+#include "tarnmodel/encryption/OVEncryptionCoreManager.h"
+#include "tarnmodel/model/OVNoteBackLink.h"
+#include "tarnmodel/model/OVNoteGenericFile.h"
+#include "tarnmodel/model/OVNoteImage.h"
+#include "tarnmodel/model/OVPassword.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
 #include "tests/support/TextKeeper.h"
 
 namespace tarn {

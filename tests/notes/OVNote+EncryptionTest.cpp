@@ -1,8 +1,8 @@
 #include "tests/support/StoreFixture.h"
 
-#include "encryption/OVEncryptionCoreManager.h"
-#include "model/OVNoteGenericFile.h"
-#include "platform/foundation/NSException.h"
+#include "tarnmodel/encryption/OVEncryptionCoreManager.h"
+#include "tarnmodel/model/OVNoteGenericFile.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
 #include "tests/support/TextKeeper.h"
 
 namespace tarn {

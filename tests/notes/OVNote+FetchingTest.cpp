@@ -1,7 +1,7 @@
 #include "tests/support/StoreFixture.h"
 
-#include "model/OVNoteGenericFile.h"
-#include "platform/foundation/NSUUID.h"
+#include "tarnmodel/model/OVNoteGenericFile.h"
+#include "tarnmodel/platform/foundation/system/NSUUID.h"
 
 namespace tarn {
 namespace {

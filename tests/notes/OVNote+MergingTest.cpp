@@ -2,10 +2,10 @@
 
 #include "tests/support/StoreFixture.h"
 
-#include "model/ManagedObjectModel.h"
-#include "model/OVNoteBackLink.h"
-#include "model/OVPassword.h"
-#include "platform/coredata/RecordMerge.h"
+#include "tarnmodel/model/ManagedObjectModel.h"
+#include "tarnmodel/model/OVNoteBackLink.h"
+#include "tarnmodel/model/OVPassword.h"
+#include "tarnmodel/platform/coredata/RecordMerge.h"
 
 namespace tarn {
 namespace {

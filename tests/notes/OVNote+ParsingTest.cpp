@@ -1,10 +1,10 @@
 #include "tests/support/StoreFixture.h"
 
-#include "corvel/CVKAST.h"
-#include "model/OVNoteGenericFile.h"
-#include "model/OVNoteImage.h"
-#include "platform/foundation/NSException.h"
-#include "sync/TolVectorClock.h"
+#include "tarnmodel/corvel/CVKAST.h"
+#include "tarnmodel/model/OVNoteGenericFile.h"
+#include "tarnmodel/model/OVNoteImage.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
+#include "tarnmodel/sync/TolVectorClock.h"
 
 #include <sys/mman.h>
 

@@ -1,8 +1,8 @@
 #include "tests/support/StoreFixture.h"
 
-#include "model/OVNoteBackLink.h"
-#include "model/OVNoteGenericFile.h"
-#include "platform/foundation/NSUUID.h"
+#include "tarnmodel/model/OVNoteBackLink.h"
+#include "tarnmodel/model/OVNoteGenericFile.h"
+#include "tarnmodel/platform/foundation/system/NSUUID.h"
 
 namespace tarn {
 namespace {

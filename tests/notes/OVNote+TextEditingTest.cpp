@@ -1,6 +1,6 @@
 #include "tests/support/StoreFixture.h"
 
-#include "notes/Paragraphs.h"
+#include "tarnmodel/notes/Paragraphs.h"
 
 namespace tarn {
 namespace {

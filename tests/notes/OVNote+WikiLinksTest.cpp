@@ -1,7 +1,7 @@
 #include "tests/support/StoreFixture.h"
 
-#include "corvel/CVKWikiLink.h"
-#include "model/OVNoteBackLink.h"
+#include "tarnmodel/corvel/CVKWikiLink.h"
+#include "tarnmodel/model/OVNoteBackLink.h"
 
 namespace tarn {
 namespace {

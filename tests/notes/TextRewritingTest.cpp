@@ -1,9 +1,9 @@
 // What a renaming did to one version of a text is done again to another.
 
-#include "notes/TextRewriting.h"
+#include "tarnmodel/notes/TextRewriting.h"
 
-#include "corvel/CVKAST.h"
-#include "corvel/CVKHashtag.h"
+#include "tarnmodel/corvel/CVKAST.h"
+#include "tarnmodel/corvel/CVKHashtag.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
 #include "tests/support/StoreFixture.h"
 
-#include "encryption/OVEncryptionCoreManager.h"
-#include "model/OVNoteBackLink.h"
-#include "notes/TitleLineGuard.h"
-#include "platform/foundation/Folding.h"
+#include "tarnmodel/encryption/OVEncryptionCoreManager.h"
+#include "tarnmodel/model/OVNoteBackLink.h"
+#include "tarnmodel/notes/TitleLineGuard.h"
+#include "tarnmodel/platform/foundation/text/Folding.h"
 #include "tests/support/TextKeeper.h"
 
 #include <ctime>

@@ -1,7 +1,7 @@
 #include "tests/processes/CommonLife.h"
 
-#include "model/OVChange.h"
-#include "model/OVExternalChanges.h"
+#include "tarnmodel/model/OVChange.h"
+#include "tarnmodel/model/OVExternalChanges.h"
 #include "tests/processes/SharedStore.h"
 #include "tests/processes/Worker.h"
 #include "tests/processes/Workload.h"

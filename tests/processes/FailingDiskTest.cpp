@@ -1,10 +1,10 @@
 // A save on a disk that refuses: the caller hears of it, the store stays as it was, the context keeps its changes, and
 // the next save writes what the first one should have written.
 
-#include "files/OVLocalFileManager.h"
-#include "platform/coredata/NSPersistentStore.h"
-#include "platform/foundation/Environment.h"
-#include "store/OVCoreDataStack.h"
+#include "tarnmodel/files/OVLocalFileManager.h"
+#include "tarnmodel/platform/coredata/rows/RowStore.h"
+#include "tarnmodel/platform/foundation/system/Environment.h"
+#include "tarnmodel/store/OVCoreDataStack.h"
 #include "tests/processes/KnownWorld.h"
 #include "tests/processes/SharedStore.h"
 #include "tests/processes/Workload.h"

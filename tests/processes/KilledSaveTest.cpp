@@ -1,9 +1,9 @@
 // A process may die at any moment of a save: what it leaves is the store from before or the one from after, whole, with
 // a change log that says the same, and nobody has to wait for the dead.
 
-#include "model/OVChange.h"
-#include "model/OVChangeItem.h"
-#include "platform/foundation/Environment.h"
+#include "tarnmodel/model/OVChange.h"
+#include "tarnmodel/model/OVChangeItem.h"
+#include "tarnmodel/platform/foundation/system/Environment.h"
 #include "tests/processes/KnownWorld.h"
 #include "tests/processes/SharedStore.h"
 #include "tests/processes/Worker.h"

@@ -1,6 +1,6 @@
 #include "tests/processes/KnownWorld.h"
 
-#include "platform/foundation/NSUUID.h"
+#include "tarnmodel/platform/foundation/system/NSUUID.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/foundation/Environment.h"
-#include "sync/HostUUID.h"
+#include "tarnmodel/platform/foundation/system/Environment.h"
+#include "tarnmodel/sync/HostUUID.h"
 
 #include <cstdint>
 #include <random>

@@ -1,12 +1,12 @@
 #include "tests/processes/SharedStore.h"
 
-#include "model/ManagedObjectModel.h"
-#include "model/OVChange.h"
-#include "model/OVChangeItem.h"
-#include "model/OVExternalChanges.h"
-#include "model/OVNoteBackLink.h"
-#include "model/OVNoteTag.h"
-#include "platform/coredata/NSPersistentStore.h"
+#include "tarnmodel/model/ManagedObjectModel.h"
+#include "tarnmodel/model/OVChange.h"
+#include "tarnmodel/model/OVChangeItem.h"
+#include "tarnmodel/model/OVExternalChanges.h"
+#include "tarnmodel/model/OVNoteBackLink.h"
+#include "tarnmodel/model/OVNoteTag.h"
+#include "tarnmodel/platform/coredata/rows/RowStore.h"
 
 #include <algorithm>
 #include <cstdlib>

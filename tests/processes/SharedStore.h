@@ -1,9 +1,9 @@
 #pragma once
 
-#include "model/OVNote.h"
-#include "platform/coredata/NSManagedObjectContext.h"
-#include "platform/coredata/NSPersistentStoreCoordinator.h"
-#include "platform/foundation/NSNotificationCenter.h"
+#include "tarnmodel/model/OVNote.h"
+#include "tarnmodel/platform/coredata/NSManagedObjectContext.h"
+#include "tarnmodel/platform/coredata/NSPersistentStoreCoordinator.h"
+#include "tarnmodel/platform/foundation/events/NSNotificationCenter.h"
 
 #include <filesystem>
 #include <memory>

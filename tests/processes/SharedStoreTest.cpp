@@ -1,10 +1,10 @@
 // An application, an extension and two readers share one store for some seconds, as processes.
 
 #include "tests/processes/SharedStore.h"
-#include "model/OVChange.h"
-#include "model/OVChangeItem.h"
-#include "model/OVExternalChanges.h"
-#include "platform/foundation/Environment.h"
+#include "tarnmodel/model/OVChange.h"
+#include "tarnmodel/model/OVChangeItem.h"
+#include "tarnmodel/model/OVExternalChanges.h"
+#include "tarnmodel/platform/foundation/system/Environment.h"
 #include "tests/processes/CommonLife.h"
 #include "tests/processes/Worker.h"
 

@@ -1,7 +1,7 @@
 #include "tests/processes/Worker.h"
 
-#include "files/OVLocalFileManager.h"
-#include "store/OVCoreDataStackForExtensions.h"
+#include "tarnmodel/files/OVLocalFileManager.h"
+#include "tarnmodel/store/OVCoreDataStackForExtensions.h"
 #include "tests/processes/CommonLife.h"
 #include "tests/processes/KnownWorld.h"
 #include "tests/processes/SharedStore.h"

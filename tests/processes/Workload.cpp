@@ -1,7 +1,7 @@
 #include "tests/processes/Workload.h"
 
-#include "model/OVNote.h"
-#include "model/OVNoteTag.h"
+#include "tarnmodel/model/OVNote.h"
+#include "tarnmodel/model/OVNoteTag.h"
 
 #include <algorithm>
 #include <array>

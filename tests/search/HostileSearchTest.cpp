@@ -1,11 +1,11 @@
 // Any bytes give a predicate, nothing, or the parser's exception, in a time that grows with their length.
 
-#include "platform/foundation/Environment.h"
-#include "platform/foundation/NSException.h"
-#include "platform/foundation/UTF.h"
-#include "search/OVNoteSearchManager.h"
-#include "search/SearchCompiler.h"
-#include "search/Stretches.h"
+#include "tarnmodel/platform/foundation/system/Environment.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
+#include "tarnmodel/search/OVNoteSearchManager.h"
+#include "tarnmodel/search/SearchCompiler.h"
+#include "tarnmodel/search/Stretches.h"
 
 #include <gtest/gtest.h>
 

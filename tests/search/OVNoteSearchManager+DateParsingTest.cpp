@@ -1,6 +1,6 @@
-#include "search/OVNoteSearchManager.h"
+#include "tarnmodel/search/OVNoteSearchManager.h"
 
-#include "platform/foundation/Environment.h"
+#include "tarnmodel/platform/foundation/system/Environment.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-#include "search/HighlightTerms.h"
-#include "search/OVNoteSearchManager.h"
+#include "tarnmodel/search/HighlightTerms.h"
+#include "tarnmodel/search/OVNoteSearchManager.h"
 
 #include <gtest/gtest.h>
 

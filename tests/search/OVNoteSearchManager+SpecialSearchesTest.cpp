@@ -1,9 +1,9 @@
 // The vocabulary, row by row and spelling by spelling: tests/cases/search-terms.cases.
 
-#include "platform/foundation/Characters.h"
-#include "platform/foundation/Environment.h"
-#include "search/OVNoteSearchManager.h"
-#include "search/SearchCompiler.h"
+#include "tarnmodel/platform/foundation/system/Environment.h"
+#include "tarnmodel/platform/foundation/text/Characters.h"
+#include "tarnmodel/search/OVNoteSearchManager.h"
+#include "tarnmodel/search/SearchCompiler.h"
 #include "tests/search/SearchCases.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "search/OVNoteSearchToken.h"
+#include "tarnmodel/search/OVNoteSearchToken.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 #include "tests/search/SearchCases.h"
 
-#include "platform/foundation/NSDate.h"
-#include "platform/foundation/UTF.h"
-#include "platform/predicate/ConstantText.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
+#include "tarnmodel/platform/foundation/values/NSDate.h"
+#include "tarnmodel/platform/predicate/ConstantText.h"
 
 #include <algorithm>
 #include <fstream>

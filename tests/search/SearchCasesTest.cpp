@@ -1,7 +1,7 @@
 // Every block of tests/cases/search.cases: text, predicate, hits, and what is highlighted.
 
-#include "platform/foundation/NSException.h"
-#include "search/SearchCompiler.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
+#include "tarnmodel/search/SearchCompiler.h"
 #include "tests/search/SearchFixture.h"
 
 #include <algorithm>

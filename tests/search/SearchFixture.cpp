@@ -1,7 +1,7 @@
 #include "tests/search/SearchFixture.h"
 
-#include "model/OVNoteBackLink.h"
-#include "model/OVNoteGenericFile.h"
+#include "tarnmodel/model/OVNoteBackLink.h"
+#include "tarnmodel/model/OVNoteGenericFile.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "search/OVNoteSearchManager.h"
+#include "tarnmodel/search/OVNoteSearchManager.h"
 #include "tests/search/SearchCases.h"
 #include "tests/support/StoreFixture.h"
 

@@ -1,6 +1,6 @@
-#include "search/Stretches.h"
-#include "platform/foundation/UTF.h"
-#include "search/OVNoteSearchManager.h"
+#include "tarnmodel/search/Stretches.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
+#include "tarnmodel/search/OVNoteSearchManager.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
-#include "search/TermFinder.h"
+#include "tarnmodel/search/TermFinder.h"
 
-#include "platform/predicate/StringTest.h"
-#include "search/OVNoteSearchManager.h"
+#include "tarnmodel/platform/predicate/StringTest.h"
+#include "tarnmodel/search/OVNoteSearchManager.h"
 
 #include <gtest/gtest.h>
 #include <random>

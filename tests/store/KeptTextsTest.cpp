@@ -1,9 +1,9 @@
 #include "tests/store/StackFixture.h"
 
-#include "model/OVNote.h"
-#include "model/OVNoteImage.h"
-#include "model/OVNoteTag.h"
-#include "platform/foundation/NSDate.h"
+#include "tarnmodel/model/OVNote.h"
+#include "tarnmodel/model/OVNoteImage.h"
+#include "tarnmodel/model/OVNoteTag.h"
+#include "tarnmodel/platform/foundation/values/NSDate.h"
 
 namespace tarn {
 namespace {

@@ -1,6 +1,6 @@
-#include "platform/foundation/NSNotificationCenter.h"
-#include "platform/foundation/NSProgress.h"
-#include "store/OVCoreDataStack.h"
+#include "tarnmodel/platform/foundation/events/NSNotificationCenter.h"
+#include "tarnmodel/platform/foundation/events/NSProgress.h"
+#include "tarnmodel/store/OVCoreDataStack.h"
 #include "tests/store/StackFixture.h"
 
 #include <atomic>

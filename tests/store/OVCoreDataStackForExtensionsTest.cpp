@@ -1,9 +1,9 @@
-#include "store/OVCoreDataStackForExtensions.h"
+#include "tarnmodel/store/OVCoreDataStackForExtensions.h"
 
-#include "model/OVChange.h"
-#include "model/OVChangeItem.h"
-#include "model/OVExternalChanges.h"
-#include "model/OVNote.h"
+#include "tarnmodel/model/OVChange.h"
+#include "tarnmodel/model/OVChangeItem.h"
+#include "tarnmodel/model/OVExternalChanges.h"
+#include "tarnmodel/model/OVNote.h"
 #include "tests/store/StackFixture.h"
 
 #include <fstream>

@@ -1,6 +1,6 @@
-#include "store/OVCoreDataStackForWidgets.h"
+#include "tarnmodel/store/OVCoreDataStackForWidgets.h"
 
-#include "model/OVNote.h"
+#include "tarnmodel/model/OVNote.h"
 #include "tests/store/StackFixture.h"
 
 #include <fstream>

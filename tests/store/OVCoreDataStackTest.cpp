@@ -1,8 +1,8 @@
-#include "store/OVCoreDataStack.h"
+#include "tarnmodel/store/OVCoreDataStack.h"
 
-#include "model/OVNote.h"
-#include "platform/foundation/NSException.h"
-#include "platform/foundation/NSNotificationCenter.h"
+#include "tarnmodel/model/OVNote.h"
+#include "tarnmodel/platform/foundation/events/NSNotificationCenter.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
 #include "tests/store/StackFixture.h"
 
 #include <atomic>

@@ -1,6 +1,6 @@
-#include "store/OVManagedObjectObserver.h"
+#include "tarnmodel/store/OVManagedObjectObserver.h"
 
-#include "model/OVNoteServerData.h"
+#include "tarnmodel/model/OVNoteServerData.h"
 #include "tests/support/StoreFixture.h"
 
 namespace tarn {

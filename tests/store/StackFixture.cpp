@@ -1,9 +1,9 @@
 #include "tests/store/StackFixture.h"
 
-#include "model/ManagedObjectModel.h"
-#include "model/OVNote.h"
-#include "platform/foundation/NSProgress.h"
-#include "platform/foundation/NSUUID.h"
+#include "tarnmodel/model/ManagedObjectModel.h"
+#include "tarnmodel/model/OVNote.h"
+#include "tarnmodel/platform/foundation/events/NSProgress.h"
+#include "tarnmodel/platform/foundation/system/NSUUID.h"
 
 #include <algorithm>
 #include <fstream>

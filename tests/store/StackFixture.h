@@ -1,9 +1,9 @@
 #pragma once
 
-#include "files/OVLocalFileManager.h"
-#include "platform/foundation/Environment.h"
-#include "store/OVCoreDataStack.h"
-#include "sync/HostUUID.h"
+#include "tarnmodel/files/OVLocalFileManager.h"
+#include "tarnmodel/platform/foundation/system/Environment.h"
+#include "tarnmodel/store/OVCoreDataStack.h"
+#include "tarnmodel/sync/HostUUID.h"
 #include "tests/support/LogCapture.h"
 
 #include <gmock/gmock.h>

@@ -1,10 +1,10 @@
 // The three kinds of stack with too few threads and too little memory: an error or success, no hang, nothing lost.
 
-#include "model/ManagedObjectModel.h"
-#include "model/OVNote.h"
-#include "platform/foundation/GlobalPoolInternal.h"
-#include "store/OVCoreDataStackForExtensions.h"
-#include "store/OVCoreDataStackForWidgets.h"
+#include "tarnmodel/model/ManagedObjectModel.h"
+#include "tarnmodel/model/OVNote.h"
+#include "tarnmodel/platform/foundation/events/GlobalPoolInternal.h"
+#include "tarnmodel/store/OVCoreDataStackForExtensions.h"
+#include "tarnmodel/store/OVCoreDataStackForWidgets.h"
 #include "tests/store/StackFixture.h"
 
 #include <sys/resource.h>

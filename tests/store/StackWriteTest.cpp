@@ -1,13 +1,13 @@
 // What `write` of a stack promises to who changes a little of what others change too.
 
-#include "model/OVExternalChanges.h"
-#include "model/OVNote.h"
-#include "platform/coredata/NSPersistentStore.h"
-#include "platform/foundation/NSException.h"
-#include "platform/foundation/NSNotificationCenter.h"
-#include "store/OVCoreDataStack.h"
-#include "store/OVCoreDataStackForExtensions.h"
-#include "store/OVCoreDataStackForWidgets.h"
+#include "tarnmodel/model/OVExternalChanges.h"
+#include "tarnmodel/model/OVNote.h"
+#include "tarnmodel/platform/coredata/rows/RowStore.h"
+#include "tarnmodel/platform/foundation/events/NSNotificationCenter.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
+#include "tarnmodel/store/OVCoreDataStack.h"
+#include "tarnmodel/store/OVCoreDataStackForExtensions.h"
+#include "tarnmodel/store/OVCoreDataStackForWidgets.h"
 #include "tests/store/StackFixture.h"
 
 #include <stdexcept>

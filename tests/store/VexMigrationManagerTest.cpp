@@ -1,6 +1,6 @@
-#include "store/VexMigrationManager.h"
+#include "tarnmodel/store/VexMigrationManager.h"
 
-#include "model/ManagedObjectModel.h"
+#include "tarnmodel/model/ManagedObjectModel.h"
 #include "tests/store/StackFixture.h"
 
 namespace tarn {

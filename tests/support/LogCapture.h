@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/foundation/Log.h"
+#include "tarnmodel/platform/foundation/system/Log.h"
 
 #include <mutex>
 #include <string>

@@ -1,9 +1,9 @@
 #include "tests/support/StoreFixture.h"
 
-#include "model/ManagedObjectModel.h"
-#include "model/OVNoteGenericFile.h"
-#include "model/OVNoteImage.h"
-#include "platform/foundation/NSUUID.h"
+#include "tarnmodel/model/ManagedObjectModel.h"
+#include "tarnmodel/model/OVNoteGenericFile.h"
+#include "tarnmodel/model/OVNoteImage.h"
+#include "tarnmodel/platform/foundation/system/NSUUID.h"
 
 #include <sqlite3.h>
 

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "model/OVNote.h"
-#include "model/OVNoteFile.h"
-#include "model/OVNoteTag.h"
-#include "platform/coredata/NSManagedObjectContext.h"
-#include "platform/coredata/NSPersistentStore.h"
-#include "platform/coredata/NSPersistentStoreCoordinator.h"
-#include "platform/foundation/Environment.h"
-#include "sync/HostUUID.h"
+#include "tarnmodel/model/OVNote.h"
+#include "tarnmodel/model/OVNoteFile.h"
+#include "tarnmodel/model/OVNoteTag.h"
+#include "tarnmodel/platform/coredata/NSManagedObjectContext.h"
+#include "tarnmodel/platform/coredata/NSPersistentStoreCoordinator.h"
+#include "tarnmodel/platform/coredata/rows/RowStore.h"
+#include "tarnmodel/platform/foundation/system/Environment.h"
+#include "tarnmodel/sync/HostUUID.h"
 #include "tests/support/LogCapture.h"
 
 #include <gmock/gmock.h>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "encryption/OVEncryptionCoreManagerProtocol.h"
+#include "tarnmodel/encryption/OVEncryptionCoreManagerProtocol.h"
 
 #include <map>
 #include <string>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "model/OVChange.h"
-#include "model/OVChangeItem.h"
-#include "platform/foundation/NSNotificationCenter.h"
+#include "tarnmodel/model/OVChange.h"
+#include "tarnmodel/model/OVChangeItem.h"
+#include "tarnmodel/platform/foundation/events/NSNotificationCenter.h"
 #include "tests/support/StoreFixture.h"
 
 namespace tarn {

@@ -1,9 +1,9 @@
 #include "tests/sync/ChangeLogFixture.h"
 
-#include "model/OVNoteBackLink.h"
-#include "model/OVNoteGenericFile.h"
-#include "model/OVNoteImage.h"
-#include "model/OVPassword.h"
+#include "tarnmodel/model/OVNoteBackLink.h"
+#include "tarnmodel/model/OVNoteGenericFile.h"
+#include "tarnmodel/model/OVNoteImage.h"
+#include "tarnmodel/model/OVPassword.h"
 
 namespace tarn {
 namespace {

@@ -1,7 +1,7 @@
 #include "tests/sync/ChangeLogFixture.h"
 
-#include "model/OVNoteGenericFile.h"
-#include "model/OVNoteImage.h"
+#include "tarnmodel/model/OVNoteGenericFile.h"
+#include "tarnmodel/model/OVNoteImage.h"
 
 namespace tarn {
 namespace {

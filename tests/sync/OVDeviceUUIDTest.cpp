@@ -1,9 +1,9 @@
-#include "sync/OVDeviceUUID.h"
+#include "tarnmodel/sync/OVDeviceUUID.h"
 
-#include "platform/foundation/Environment.h"
-#include "platform/foundation/Log.h"
-#include "platform/foundation/NSUUID.h"
-#include "sync/HostUUID.h"
+#include "tarnmodel/platform/foundation/system/Environment.h"
+#include "tarnmodel/platform/foundation/system/Log.h"
+#include "tarnmodel/platform/foundation/system/NSUUID.h"
+#include "tarnmodel/sync/HostUUID.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "tests/sync/ChangeLogFixture.h"
 
-#include "model/OVExternalChanges.h"
-#include "model/OVPassword.h"
+#include "tarnmodel/model/OVExternalChanges.h"
+#include "tarnmodel/model/OVPassword.h"
 
 namespace tarn {
 namespace {

@@ -1,4 +1,4 @@
-#include "model/OVInternalChanges.h"
+#include "tarnmodel/model/OVInternalChanges.h"
 #include "tests/support/StoreFixture.h"
 
 namespace tarn {

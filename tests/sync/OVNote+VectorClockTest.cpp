@@ -1,6 +1,6 @@
 #include "tests/support/StoreFixture.h"
 
-#include "sync/TolVectorClock.h"
+#include "tarnmodel/sync/TolVectorClock.h"
 
 namespace tarn {
 namespace {

@@ -1,7 +1,7 @@
-#include "model/OVServerMetadata.h"
-#include "model/OVNoteFileServerData.h"
-#include "model/OVNoteGenericFile.h"
-#include "model/OVNoteServerData.h"
+#include "tarnmodel/model/OVServerMetadata.h"
+#include "tarnmodel/model/OVNoteFileServerData.h"
+#include "tarnmodel/model/OVNoteGenericFile.h"
+#include "tarnmodel/model/OVNoteServerData.h"
 #include "tests/support/StoreFixture.h"
 
 namespace tarn {

@@ -1,4 +1,4 @@
-#include "sync/TolVectorClock.h"
+#include "tarnmodel/sync/TolVectorClock.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "tests/support/StoreFixture.h"
 
-#include "notes/OVNoteCacheLoan.h"
+#include "tarnmodel/notes/OVNoteCacheLoan.h"
 
 #include <stdexcept>
 

@@ -1,6 +1,6 @@
 #include "tests/support/StoreFixture.h"
 
-#include "platform/foundation/NSUUID.h"
+#include "tarnmodel/platform/foundation/system/NSUUID.h"
 
 namespace tarn {
 namespace {

@@ -1,6 +1,6 @@
 #include "tests/support/StoreFixture.h"
 
-#include "platform/foundation/Folding.h"
+#include "tarnmodel/platform/foundation/text/Folding.h"
 
 #include <array>
 #include <random>

@@ -1,7 +1,7 @@
 #include "tests/support/StoreFixture.h"
 
-#include "encryption/OVEncryptionCoreManager.h"
-#include "platform/foundation/NSException.h"
+#include "tarnmodel/encryption/OVEncryptionCoreManager.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
 #include "tests/support/TextKeeper.h"
 
 namespace tarn {

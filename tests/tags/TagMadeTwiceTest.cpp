@@ -2,7 +2,7 @@
 
 #include "tests/support/StoreFixture.h"
 
-#include "model/ManagedObjectModel.h"
+#include "tarnmodel/model/ManagedObjectModel.h"
 
 namespace tarn {
 namespace {

@@ -1,4 +1,4 @@
-#include "include/tarnmodel/TarnModel.h"
+#include "tarnmodel/TarnModel.h"
 #include "tests/tarn/TarnCommandTest.h"
 
 #include <algorithm>

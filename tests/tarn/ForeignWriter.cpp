@@ -1,6 +1,6 @@
 #include "tests/tarn/ForeignWriter.h"
 
-#include "include/tarnmodel/TarnModel.h"
+#include "tarnmodel/TarnModel.h"
 
 #include <fcntl.h>
 #include <gtest/gtest.h>

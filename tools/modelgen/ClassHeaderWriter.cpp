@@ -11,8 +11,8 @@ namespace {
 
 constexpr std::string_view kHeader = R"(#pragma once
 
-#include "model/{entity}ID.h"
-{baseInclude}#include "platform/coredata/NSManagedObjectSet.h"
+#include "tarnmodel/model/{entity}ID.h"
+{baseInclude}#include "tarnmodel/platform/coredata/NSManagedObjectSet.h"
 
 #include <cstdint>
 #include <optional>
@@ -141,7 +141,7 @@ std::string indexes(const NSEntityDescription& entity)
 GeneratedFile baseClassHeader(const NSEntityDescription& entity)
 {
     const NSEntityDescription* parent = entity.superentity();
-    std::string baseInclude = parent ? fmt::format("#include \"model/{}.h\"\n", parent->name()) : "";
+    std::string baseInclude = parent ? fmt::format("#include \"tarnmodel/model/{}.h\"\n", parent->name()) : "";
     std::string indexBase = parent ? fmt::format(" : {}::Index", parent->name()) : "";
     return {fmt::format("_{}.h", entity.name()),
         fmt::format(kHeader, fmt::arg("entity", entity.name()), fmt::arg("base", baseClassName(entity)),

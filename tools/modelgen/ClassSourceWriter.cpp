@@ -9,10 +9,10 @@
 namespace tarn::modelgen {
 namespace {
 
-constexpr std::string_view kSource = R"(#include "model/_{entity}.h"
+constexpr std::string_view kSource = R"(#include "tarnmodel/model/_{entity}.h"
 
-#include "model/GeneratedAccessors.h"
-{includes}#include "platform/coredata/NSManagedObjectContext.h"
+#include "tarnmodel/model/GeneratedAccessors.h"
+{includes}#include "tarnmodel/platform/coredata/NSManagedObjectContext.h"
 
 namespace tarn {{
 
@@ -158,7 +158,7 @@ std::string includes(const NSEntityDescription& entity)
         names.insert(relationship->destinationEntity().name());
     std::string text;
     for (const std::string& name : names)
-        text += fmt::format("#include \"model/{}.h\"\n", name);
+        text += fmt::format("#include \"tarnmodel/model/{}.h\"\n", name);
     return text;
 }
 

@@ -52,7 +52,7 @@ GeneratedFile keyNamesHeader(const NSEntityDescription& entity, std::string_view
     std::string includes;
     std::string base;
     if (const NSEntityDescription* parent = entity.superentity()) {
-        includes = fmt::format("#include \"model/{}{}.h\"\n\n", parent->name(), suffix);
+        includes = fmt::format("#include \"tarnmodel/model/{}{}.h\"\n\n", parent->name(), suffix);
         base = fmt::format(" : public {}{}", parent->name(), suffix);
     }
     std::string className = fmt::format("{}{}", entity.name(), suffix);
@@ -78,7 +78,7 @@ GeneratedFile objectIDHeader(const NSEntityDescription& entity)
 {
     const NSEntityDescription* parent = entity.superentity();
     std::string base = parent ? parent->name() + "ID" : "NSManagedObjectID";
-    std::string include = fmt::format("{}/{}.h", parent ? "model" : "platform/coredata", base);
+    std::string include = fmt::format("{}/{}.h", parent ? "tarnmodel/model" : "tarnmodel/platform/coredata", base);
     return {entity.name() + "ID.h",
         fmt::format(
             kObjectID, fmt::arg("entity", entity.name()), fmt::arg("base", base), fmt::arg("baseInclude", include))};

@@ -1,4 +1,4 @@
-#include "platform/coredata/NSManagedObjectModel.h"
+#include "tarnmodel/platform/coredata/NSManagedObjectModel.h"
 #include "tools/modelgen/GeneratedFile.h"
 #include "tools/modelgen/SchemaWriter.h"
 

@@ -1,6 +1,6 @@
 #include "tools/modelgen/SchemaWriter.h"
 
-#include "platform/coredata/StoreSchema.h"
+#include "tarnmodel/platform/coredata/sqlite/StoreSchema.h"
 #include "tools/modelgen/GeneratedNames.h"
 
 #include <fmt/format.h>

@@ -1,4 +1,4 @@
-#include "model/OVChange.h"
+#include "tarnmodel/model/OVChange.h"
 #include "tools/tarn/CommandFailure.h"
 #include "tools/tarn/CommandLine.h"
 #include "tools/tarn/Commands.h"

@@ -1,7 +1,7 @@
 #include "tools/tarn/CommandFailure.h"
 
-#include "platform/coredata/NSPersistentStore.h"
-#include "platform/foundation/NSException.h"
+#include "tarnmodel/platform/coredata/StoreErrors.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
 #include "tools/tarn/DisplayText.h"
 
 #include <algorithm>

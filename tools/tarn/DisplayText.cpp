@@ -1,6 +1,6 @@
 #include "tools/tarn/DisplayText.h"
 
-#include "platform/foundation/UTF.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
 
 #include <unicode/uchar.h>
 

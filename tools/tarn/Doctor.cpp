@@ -1,11 +1,11 @@
 #include "tools/tarn/Doctor.h"
 
-#include "corvel/CVKAST.h"
-#include "corvel/CVKHashtag.h"
-#include "model/OVNoteBackLink.h"
-#include "model/OVNoteFile.h"
-#include "model/OVNoteImage.h"
-#include "platform/foundation/Folding.h"
+#include "tarnmodel/corvel/CVKAST.h"
+#include "tarnmodel/corvel/CVKHashtag.h"
+#include "tarnmodel/model/OVNoteBackLink.h"
+#include "tarnmodel/model/OVNoteFile.h"
+#include "tarnmodel/model/OVNoteImage.h"
+#include "tarnmodel/platform/foundation/text/Folding.h"
 #include "tools/tarn/CommandFailure.h"
 #include "tools/tarn/TagRepair.h"
 

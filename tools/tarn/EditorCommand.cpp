@@ -1,4 +1,4 @@
-#include "platform/foundation/Environment.h"
+#include "tarnmodel/platform/foundation/system/Environment.h"
 #include "tools/tarn/CommandFailure.h"
 #include "tools/tarn/CommandLine.h"
 #include "tools/tarn/Commands.h"

@@ -1,6 +1,6 @@
 #include "tools/tarn/FrontMatter.h"
 
-#include "platform/foundation/UTF.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
 
 #include <algorithm>
 

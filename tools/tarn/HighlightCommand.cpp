@@ -1,4 +1,4 @@
-#include "search/OVNoteSearchManager.h"
+#include "tarnmodel/search/OVNoteSearchManager.h"
 #include "tools/tarn/Commands.h"
 #include "tools/tarn/DisplayText.h"
 #include "tools/tarn/JSON.h"

@@ -1,5 +1,5 @@
-#include "corvel/CVKHashtag.h"
-#include "platform/foundation/UTF.h"
+#include "tarnmodel/corvel/CVKHashtag.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
 #include "tools/tarn/CommandFailure.h"
 #include "tools/tarn/CommandLine.h"
 #include "tools/tarn/Commands.h"

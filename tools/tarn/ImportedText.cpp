@@ -1,8 +1,8 @@
 #include "tools/tarn/ImportedText.h"
 
-#include "corvel/CVKAST.h"
-#include "corvel/CVKHashtag.h"
-#include "platform/foundation/UTF.h"
+#include "tarnmodel/corvel/CVKAST.h"
+#include "tarnmodel/corvel/CVKHashtag.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
 #include "tools/tarn/FrontMatter.h"
 
 #include <algorithm>

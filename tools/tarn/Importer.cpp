@@ -1,7 +1,7 @@
 #include "tools/tarn/Importer.h"
 
-#include "corvel/CVKAST.h"
-#include "notes/OVNoteCacheLoan.h"
+#include "tarnmodel/corvel/CVKAST.h"
+#include "tarnmodel/notes/OVNoteCacheLoan.h"
 #include "tools/tarn/CommandFailure.h"
 #include "tools/tarn/ImportedText.h"
 #include "tools/tarn/Interruption.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/OVNote.h"
+#include "tarnmodel/model/OVNote.h"
 #include "tools/tarn/MarkdownFiles.h"
 #include "tools/tarn/StoreSession.h"
 #include "tools/tarn/TextFile.h"

@@ -1,4 +1,4 @@
-#include "model/OVNoteBackLink.h"
+#include "tarnmodel/model/OVNoteBackLink.h"
 #include "tools/tarn/CommandLine.h"
 #include "tools/tarn/Commands.h"
 #include "tools/tarn/DisplayText.h"

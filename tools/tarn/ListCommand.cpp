@@ -1,4 +1,4 @@
-#include "corvel/CVKHashtag.h"
+#include "tarnmodel/corvel/CVKHashtag.h"
 #include "tools/tarn/CommandFailure.h"
 #include "tools/tarn/CommandLine.h"
 #include "tools/tarn/Commands.h"

@@ -1,6 +1,6 @@
 #include "tools/tarn/MatchingLine.h"
 
-#include "platform/foundation/UTF.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
 #include "tools/tarn/DisplayText.h"
 
 #include <algorithm>

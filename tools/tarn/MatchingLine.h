@@ -1,6 +1,6 @@
 #pragma once
 
-#include "search/TermFinder.h"
+#include "tarnmodel/search/TermFinder.h"
 
 #include <string>
 #include <string_view>

@@ -1,6 +1,6 @@
 #include "tools/tarn/NoteArgument.h"
 
-#include "platform/foundation/Folding.h"
+#include "tarnmodel/platform/foundation/text/Folding.h"
 #include "tools/tarn/CommandFailure.h"
 #include "tools/tarn/NoteList.h"
 

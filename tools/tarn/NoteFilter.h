@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/predicate/NSPredicate.h"
+#include "tarnmodel/platform/predicate/NSPredicate.h"
 
 #include <optional>
 #include <string>

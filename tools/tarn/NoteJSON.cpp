@@ -1,7 +1,7 @@
 #include "tools/tarn/NoteJSON.h"
 
-#include "model/OVNoteTag.h"
-#include "sync/TolVectorClock.h"
+#include "tarnmodel/model/OVNoteTag.h"
+#include "tarnmodel/sync/TolVectorClock.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #include "tools/tarn/NoteList.h"
 
-#include "platform/foundation/Calendar.h"
+#include "tarnmodel/platform/foundation/time/Calendar.h"
 #include "tools/tarn/DisplayText.h"
 
 #include <array>

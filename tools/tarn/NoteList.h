@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/OVNote.h"
+#include "tarnmodel/model/OVNote.h"
 #include "tools/tarn/Output.h"
 
 #include <string>

@@ -1,6 +1,6 @@
 #include "tools/tarn/Output.h"
 
-#include "platform/foundation/Environment.h"
+#include "tarnmodel/platform/foundation/system/Environment.h"
 #include "tools/tarn/CommandFailure.h"
 #include "tools/tarn/DisplayText.h"
 

@@ -1,5 +1,5 @@
-#include "corvel/CVKAST.h"
-#include "platform/foundation/UTF.h"
+#include "tarnmodel/corvel/CVKAST.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
 #include "tools/tarn/CommandFailure.h"
 #include "tools/tarn/CommandLine.h"
 #include "tools/tarn/Commands.h"

@@ -1,7 +1,7 @@
 #include "tools/tarn/QueryArgument.h"
 
-#include "platform/foundation/NSException.h"
-#include "search/OVNoteSearchManager.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
+#include "tarnmodel/search/OVNoteSearchManager.h"
 #include "tools/tarn/CommandFailure.h"
 
 namespace tarn {

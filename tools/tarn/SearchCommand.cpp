@@ -1,7 +1,7 @@
-#include "platform/foundation/UTF.h"
-#include "search/HighlightTerms.h"
-#include "search/OVNoteSearchManager.h"
-#include "search/TermFinder.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
+#include "tarnmodel/search/HighlightTerms.h"
+#include "tarnmodel/search/OVNoteSearchManager.h"
+#include "tarnmodel/search/TermFinder.h"
 #include "tools/tarn/CommandLine.h"
 #include "tools/tarn/Commands.h"
 #include "tools/tarn/MatchingLine.h"
@@ -58,13 +58,11 @@ double millisecondsSince(std::chrono::steady_clock::time_point start)
 
 std::string planOf(StoreSession& session, const NSPredicate& predicate, std::size_t limit)
 {
-    const std::vector<NSSortDescriptor> order = standardNoteOrder();
-    StoreFetch fetch;
-    fetch.entity = &OVNote::entityInManagedObjectContext(session.context());
-    fetch.predicate = &predicate;
-    fetch.sortDescriptors = order;
-    fetch.limit = limit;
-    const std::string plan = session.store().explain(fetch);
+    NSFetchRequest request(OVNote::entityInManagedObjectContext(session.context()));
+    request.predicate = predicate;
+    request.sortDescriptors = standardNoteOrder();
+    request.fetchLimit = limit;
+    const std::string plan = session.context().explain(request);
     return std::string(trimmed(plan)); // its lines end with a line feed, also the last one
 }
 

@@ -1,4 +1,4 @@
-#include "model/OVNoteFile.h"
+#include "tarnmodel/model/OVNoteFile.h"
 #include "tools/tarn/CommandLine.h"
 #include "tools/tarn/Commands.h"
 #include "tools/tarn/DisplayText.h"

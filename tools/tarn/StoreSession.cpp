@@ -1,11 +1,11 @@
 #include "tools/tarn/StoreSession.h"
 
-#include "files/OVLocalFileManager.h"
-#include "files/PrivateFolder.h"
-#include "model/ManagedObjectModel.h"
-#include "model/OVChange.h"
-#include "platform/foundation/Environment.h"
-#include "platform/foundation/Queue.h"
+#include "tarnmodel/files/OVLocalFileManager.h"
+#include "tarnmodel/files/PrivateFolder.h"
+#include "tarnmodel/model/ManagedObjectModel.h"
+#include "tarnmodel/model/OVChange.h"
+#include "tarnmodel/platform/foundation/events/Queue.h"
+#include "tarnmodel/platform/foundation/system/Environment.h"
 #include "tools/tarn/Interruption.h"
 
 #include <system_error>

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "model/OVNote.h"
-#include "model/OVNoteBackLink.h"
-#include "model/OVNoteTag.h"
-#include "platform/coredata/NSManagedObjectContext.h"
-#include "platform/coredata/NSPersistentStoreCoordinator.h"
-#include "platform/foundation/NSNotificationCenter.h"
+#include "tarnmodel/model/OVNote.h"
+#include "tarnmodel/model/OVNoteBackLink.h"
+#include "tarnmodel/model/OVNoteTag.h"
+#include "tarnmodel/platform/coredata/NSManagedObjectContext.h"
+#include "tarnmodel/platform/coredata/NSPersistentStoreCoordinator.h"
+#include "tarnmodel/platform/foundation/events/NSNotificationCenter.h"
 #include "tools/tarn/CommandFailure.h"
 #include "tools/tarn/CommandLine.h"
 #include "tools/tarn/StoreLock.h"

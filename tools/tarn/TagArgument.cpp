@@ -1,6 +1,6 @@
 #include "tools/tarn/TagArgument.h"
 
-#include "corvel/CVKHashtag.h"
+#include "tarnmodel/corvel/CVKHashtag.h"
 #include "tools/tarn/CommandFailure.h"
 
 namespace tarn {

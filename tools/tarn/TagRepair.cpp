@@ -1,8 +1,8 @@
 #include "tools/tarn/TagRepair.h"
 
-#include "corvel/CVKHashtag.h"
-#include "platform/foundation/Folding.h"
-#include "platform/foundation/NSDate.h"
+#include "tarnmodel/corvel/CVKHashtag.h"
+#include "tarnmodel/platform/foundation/text/Folding.h"
+#include "tarnmodel/platform/foundation/values/NSDate.h"
 
 #include <algorithm>
 #include <set>

@@ -4,7 +4,7 @@
 #include "tools/tarn/JSON.h"
 #include "tools/tarn/StoreSession.h"
 
-#include "platform/foundation/Collation.h"
+#include "tarnmodel/platform/foundation/time/Collation.h"
 
 #include <algorithm>
 #include <memory>

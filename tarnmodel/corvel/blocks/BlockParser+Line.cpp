@@ -1,6 +1,6 @@
-#include "corvel/BlockParser.h"
+#include "tarnmodel/corvel/blocks/BlockParser.h"
 
-#include "corvel/Characters.h"
+#include "tarnmodel/corvel/scanning/CharacterClasses.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "corvel/BlockStarts.h"
-#include "corvel/Document.h"
-#include "corvel/LeafContent.h"
+#include "tarnmodel/corvel/blocks/BlockStarts.h"
+#include "tarnmodel/corvel/blocks/Document.h"
+#include "tarnmodel/corvel/blocks/LeafContent.h"
 
 #include <string_view>
 #include <vector>

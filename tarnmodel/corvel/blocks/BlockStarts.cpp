@@ -1,7 +1,7 @@
-#include "corvel/BlockStarts.h"
+#include "tarnmodel/corvel/blocks/BlockStarts.h"
 
-#include "corvel/Characters.h"
-#include "corvel/HtmlScanner.h"
+#include "tarnmodel/corvel/scanning/CharacterClasses.h"
+#include "tarnmodel/corvel/scanning/HtmlScanner.h"
 
 #include <algorithm>
 #include <array>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "corvel/CVKAST.h"
-#include "corvel/LinkReferences.h"
-#include "corvel/SourceRange.h"
+#include "tarnmodel/corvel/CVKAST.h"
+#include "tarnmodel/corvel/blocks/LinkReferences.h"
+#include "tarnmodel/corvel/scanning/SourceRange.h"
 
 #include <cstdint>
 #include <memory>

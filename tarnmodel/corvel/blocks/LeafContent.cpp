@@ -1,6 +1,6 @@
-#include "corvel/LeafContent.h"
+#include "tarnmodel/corvel/blocks/LeafContent.h"
 
-#include "corvel/Characters.h"
+#include "tarnmodel/corvel/scanning/CharacterClasses.h"
 
 #include <algorithm>
 

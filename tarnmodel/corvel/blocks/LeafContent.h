@@ -1,6 +1,6 @@
 #pragma once
 
-#include "corvel/Document.h"
+#include "tarnmodel/corvel/blocks/Document.h"
 
 #include <string>
 #include <string_view>

@@ -1,10 +1,10 @@
-#include "corvel/LinkReferences.h"
+#include "tarnmodel/corvel/blocks/LinkReferences.h"
 
-#include "corvel/Characters.h"
-#include "corvel/LeafContent.h"
-#include "corvel/LinkScanner.h"
+#include "tarnmodel/corvel/blocks/LeafContent.h"
+#include "tarnmodel/corvel/scanning/CharacterClasses.h"
+#include "tarnmodel/corvel/scanning/LinkScanner.h"
 
-#include "platform/foundation/Folding.h"
+#include "tarnmodel/platform/foundation/text/Folding.h"
 
 #include <optional>
 

@@ -1,8 +1,8 @@
-#include "corvel/BlockParser.h"
-#include "corvel/Document.h"
-#include "corvel/InlineParser.h"
+#include "tarnmodel/corvel/blocks/BlockParser.h"
+#include "tarnmodel/corvel/blocks/Document.h"
+#include "tarnmodel/corvel/inlines/InlineParser.h"
 
-#include "platform/foundation/NSException.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "corvel/Emphasis.h"
+#include "tarnmodel/corvel/inlines/Emphasis.h"
 
 #include <string_view>
 

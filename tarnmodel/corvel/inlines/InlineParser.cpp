@@ -1,11 +1,11 @@
-#include "corvel/InlineParser.h"
+#include "tarnmodel/corvel/inlines/InlineParser.h"
 
-#include "corvel/Characters.h"
-#include "corvel/HashtagScanner.h"
-#include "corvel/Unescape.h"
-#include "corvel/WikiLinkScanner.h"
+#include "tarnmodel/corvel/scanning/CharacterClasses.h"
+#include "tarnmodel/corvel/scanning/HashtagScanner.h"
+#include "tarnmodel/corvel/scanning/Unescape.h"
+#include "tarnmodel/corvel/scanning/WikiLinkScanner.h"
 
-#include "platform/foundation/UTF.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
 
 #include <algorithm>
 

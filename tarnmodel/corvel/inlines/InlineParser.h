@@ -1,10 +1,10 @@
 #pragma once
 
-#include "corvel/Document.h"
-#include "corvel/HtmlScanner.h"
-#include "corvel/InlineTokens.h"
-#include "corvel/LeafContent.h"
-#include "corvel/LinkScanner.h"
+#include "tarnmodel/corvel/blocks/Document.h"
+#include "tarnmodel/corvel/blocks/LeafContent.h"
+#include "tarnmodel/corvel/inlines/InlineTokens.h"
+#include "tarnmodel/corvel/scanning/HtmlScanner.h"
+#include "tarnmodel/corvel/scanning/LinkScanner.h"
 
 #include <array>
 #include <string_view>

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "corvel/Emphasis.h"
-#include "corvel/LinkReferences.h"
-#include "corvel/SourceRange.h"
-#include "corvel/WikiLinkScanner.h"
+#include "tarnmodel/corvel/blocks/LinkReferences.h"
+#include "tarnmodel/corvel/inlines/Emphasis.h"
+#include "tarnmodel/corvel/scanning/SourceRange.h"
+#include "tarnmodel/corvel/scanning/WikiLinkScanner.h"
 
 #include <cstdint>
 #include <vector>

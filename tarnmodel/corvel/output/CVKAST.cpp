@@ -1,8 +1,8 @@
-#include "corvel/CVKAST.h"
+#include "tarnmodel/corvel/CVKAST.h"
 
-#include "corvel/Document.h"
-#include "corvel/HtmlRenderer.h"
-#include "corvel/TextSummary.h"
+#include "tarnmodel/corvel/blocks/Document.h"
+#include "tarnmodel/corvel/output/HtmlRenderer.h"
+#include "tarnmodel/corvel/output/TextSummary.h"
 
 namespace tarn {
 

@@ -1,6 +1,6 @@
-#include "corvel/HtmlEscaping.h"
+#include "tarnmodel/corvel/output/HtmlEscaping.h"
 
-#include "corvel/Characters.h"
+#include "tarnmodel/corvel/scanning/CharacterClasses.h"
 
 namespace tarn::corvel {
 

@@ -1,8 +1,8 @@
-#include "corvel/HtmlRenderer.h"
+#include "tarnmodel/corvel/output/HtmlRenderer.h"
 
-#include "corvel/HtmlEscaping.h"
-#include "corvel/InlineHtml.h"
-#include "corvel/Unescape.h"
+#include "tarnmodel/corvel/output/HtmlEscaping.h"
+#include "tarnmodel/corvel/output/InlineHtml.h"
+#include "tarnmodel/corvel/scanning/Unescape.h"
 
 #include <array>
 #include <string_view>

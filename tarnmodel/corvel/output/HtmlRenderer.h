@@ -1,7 +1,7 @@
 #pragma once
 
-#include "corvel/Document.h"
-#include "corvel/InlineParser.h"
+#include "tarnmodel/corvel/blocks/Document.h"
+#include "tarnmodel/corvel/inlines/InlineParser.h"
 
 #include <string>
 

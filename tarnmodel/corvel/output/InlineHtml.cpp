@@ -1,9 +1,9 @@
-#include "corvel/InlineHtml.h"
+#include "tarnmodel/corvel/output/InlineHtml.h"
 
-#include "corvel/Characters.h"
-#include "corvel/HtmlEscaping.h"
-#include "corvel/Unescape.h"
-#include "corvel/WikiLinkScanner.h"
+#include "tarnmodel/corvel/output/HtmlEscaping.h"
+#include "tarnmodel/corvel/scanning/CharacterClasses.h"
+#include "tarnmodel/corvel/scanning/Unescape.h"
+#include "tarnmodel/corvel/scanning/WikiLinkScanner.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "corvel/InlineParser.h"
-#include "corvel/LeafContent.h"
+#include "tarnmodel/corvel/blocks/LeafContent.h"
+#include "tarnmodel/corvel/inlines/InlineParser.h"
 
 #include <string>
 #include <string_view>

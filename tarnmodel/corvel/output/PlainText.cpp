@@ -1,10 +1,10 @@
-#include "corvel/PlainText.h"
+#include "tarnmodel/corvel/output/PlainText.h"
 
-#include "corvel/Characters.h"
-#include "corvel/Unescape.h"
-#include "corvel/WikiLinkScanner.h"
+#include "tarnmodel/corvel/scanning/CharacterClasses.h"
+#include "tarnmodel/corvel/scanning/Unescape.h"
+#include "tarnmodel/corvel/scanning/WikiLinkScanner.h"
 
-#include "platform/foundation/UTF.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
 
 #include <algorithm>
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "corvel/Document.h"
-#include "corvel/InlineParser.h"
-#include "corvel/InlineTokens.h"
-#include "corvel/LeafContent.h"
+#include "tarnmodel/corvel/blocks/Document.h"
+#include "tarnmodel/corvel/blocks/LeafContent.h"
+#include "tarnmodel/corvel/inlines/InlineParser.h"
+#include "tarnmodel/corvel/inlines/InlineTokens.h"
 
 #include <cstdint>
 #include <string>

@@ -1,13 +1,13 @@
-#include "corvel/TextSummary.h"
+#include "tarnmodel/corvel/output/TextSummary.h"
 
-#include "corvel/PlainText.h"
-#include "corvel/SourceLines.h"
-#include "corvel/TagNames.h"
-#include "corvel/Unescape.h"
-#include "corvel/WikiLinkScanner.h"
+#include "tarnmodel/corvel/output/PlainText.h"
+#include "tarnmodel/corvel/scanning/SourceLines.h"
+#include "tarnmodel/corvel/scanning/TagNames.h"
+#include "tarnmodel/corvel/scanning/Unescape.h"
+#include "tarnmodel/corvel/scanning/WikiLinkScanner.h"
 
-#include "platform/foundation/Folding.h"
-#include "platform/foundation/UTF.h"
+#include "tarnmodel/platform/foundation/text/Folding.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
 
 #include <algorithm>
 #include <unordered_map>

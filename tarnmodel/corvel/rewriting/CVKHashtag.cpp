@@ -1,8 +1,9 @@
-#include "corvel/CVKHashtag.h"
+#include "tarnmodel/corvel/CVKHashtag.h"
 
-#include "corvel/CVKAST.h"
-#include "corvel/TagNames.h"
-#include "corvel/TagRewriting.h"
+#include "tarnmodel/corvel/CVKAST.h"
+#include "tarnmodel/corvel/rewriting/TagRewriting.h"
+#include "tarnmodel/corvel/scanning/HashtagScanner.h"
+#include "tarnmodel/corvel/scanning/TagNames.h"
 
 namespace tarn {
 
@@ -35,6 +36,14 @@ std::string CVKHashtag::tagNameFromComponents(const std::vector<std::string>& co
 std::string CVKHashtag::hashtagStringForTagName(std::string_view name)
 {
     return corvel::hashtagForName(name);
+}
+
+std::optional<CVKHashtag::Found> CVKHashtag::hashtagAt(std::string_view text, std::size_t offset) noexcept
+{
+    const auto hashtag = corvel::scanHashtag(text, offset);
+    if (!hashtag)
+        return std::nullopt;
+    return Found{text.substr(hashtag->name.begin, hashtag->name.end - hashtag->name.begin), hashtag->end};
 }
 
 CVKAST CVKHashtag::addTagNameToTheTopOfString(std::string_view name, std::string_view text)

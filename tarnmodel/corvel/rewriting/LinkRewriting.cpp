@@ -1,11 +1,11 @@
-#include "corvel/CVKAST.h"
-#include "corvel/Characters.h"
-#include "corvel/Document.h"
-#include "corvel/HtmlEscaping.h"
-#include "corvel/TextEdits.h"
-#include "corvel/TextSummary.h"
+#include "tarnmodel/corvel/CVKAST.h"
+#include "tarnmodel/corvel/blocks/Document.h"
+#include "tarnmodel/corvel/output/HtmlEscaping.h"
+#include "tarnmodel/corvel/output/TextSummary.h"
+#include "tarnmodel/corvel/rewriting/TextEdits.h"
+#include "tarnmodel/corvel/scanning/CharacterClasses.h"
 
-#include "platform/foundation/UTF.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
 
 #include <algorithm>
 

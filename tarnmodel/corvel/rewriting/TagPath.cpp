@@ -1,8 +1,8 @@
-#include "corvel/TagPath.h"
+#include "tarnmodel/corvel/rewriting/TagPath.h"
 
-#include "corvel/TagNames.h"
+#include "tarnmodel/corvel/scanning/TagNames.h"
 
-#include "platform/foundation/Folding.h"
+#include "tarnmodel/platform/foundation/text/Folding.h"
 
 #include <algorithm>
 

@@ -1,10 +1,10 @@
-#include "corvel/Document.h"
-#include "corvel/SourceLines.h"
-#include "corvel/TagNames.h"
-#include "corvel/TagPath.h"
-#include "corvel/TagRewriting.h"
-#include "corvel/TextEdits.h"
-#include "corvel/TextSummary.h"
+#include "tarnmodel/corvel/blocks/Document.h"
+#include "tarnmodel/corvel/output/TextSummary.h"
+#include "tarnmodel/corvel/rewriting/TagPath.h"
+#include "tarnmodel/corvel/rewriting/TagRewriting.h"
+#include "tarnmodel/corvel/rewriting/TextEdits.h"
+#include "tarnmodel/corvel/scanning/SourceLines.h"
+#include "tarnmodel/corvel/scanning/TagNames.h"
 
 #include <algorithm>
 #include <vector>

@@ -1,12 +1,12 @@
-#include "corvel/Characters.h"
-#include "corvel/Document.h"
-#include "corvel/HashtagScanner.h"
-#include "corvel/TagNames.h"
-#include "corvel/TagPath.h"
-#include "corvel/TagRewriting.h"
-#include "corvel/TextEdits.h"
+#include "tarnmodel/corvel/blocks/Document.h"
+#include "tarnmodel/corvel/rewriting/TagPath.h"
+#include "tarnmodel/corvel/rewriting/TagRewriting.h"
+#include "tarnmodel/corvel/rewriting/TextEdits.h"
+#include "tarnmodel/corvel/scanning/CharacterClasses.h"
+#include "tarnmodel/corvel/scanning/HashtagScanner.h"
+#include "tarnmodel/corvel/scanning/TagNames.h"
 
-#include "platform/foundation/UTF.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
 
 #include <vector>
 

@@ -1,7 +1,7 @@
-#include "corvel/TextEdits.h"
+#include "tarnmodel/corvel/rewriting/TextEdits.h"
 
-#include "platform/foundation/NSException.h"
-#include "platform/foundation/UTF.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
 
 #include <algorithm>
 

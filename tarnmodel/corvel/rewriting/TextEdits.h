@@ -1,6 +1,6 @@
 #pragma once
 
-#include "corvel/CVKAST.h"
+#include "tarnmodel/corvel/CVKAST.h"
 
 #include <functional>
 #include <span>

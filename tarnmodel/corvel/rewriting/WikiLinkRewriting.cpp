@@ -1,13 +1,13 @@
-#include "corvel/CVKAST.h"
-#include "corvel/CVKWikiLink.h"
-#include "corvel/Document.h"
-#include "corvel/SourceLines.h"
-#include "corvel/TextEdits.h"
-#include "corvel/TextSummary.h"
-#include "corvel/WikiLinkScanner.h"
+#include "tarnmodel/corvel/CVKAST.h"
+#include "tarnmodel/corvel/CVKWikiLink.h"
+#include "tarnmodel/corvel/blocks/Document.h"
+#include "tarnmodel/corvel/output/TextSummary.h"
+#include "tarnmodel/corvel/rewriting/TextEdits.h"
+#include "tarnmodel/corvel/scanning/SourceLines.h"
+#include "tarnmodel/corvel/scanning/WikiLinkScanner.h"
 
-#include "platform/foundation/Folding.h"
-#include "platform/foundation/UTF.h"
+#include "tarnmodel/platform/foundation/text/Folding.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
 
 #include <algorithm>
 

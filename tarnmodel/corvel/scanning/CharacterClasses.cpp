@@ -1,6 +1,6 @@
-#include "corvel/Characters.h"
+#include "tarnmodel/corvel/scanning/CharacterClasses.h"
 
-#include "platform/foundation/UTF.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
 
 #include <unicode/uchar.h>
 

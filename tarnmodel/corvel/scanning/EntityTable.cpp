@@ -1,4 +1,4 @@
-#include "corvel/EntityTable.h"
+#include "tarnmodel/corvel/scanning/EntityTable.h"
 
 // Written by scripts/make-entity-table.py; do not edit.
 // clang-format off

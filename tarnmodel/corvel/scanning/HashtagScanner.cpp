@@ -1,8 +1,8 @@
-#include "corvel/HashtagScanner.h"
+#include "tarnmodel/corvel/scanning/HashtagScanner.h"
 
-#include "corvel/Characters.h"
+#include "tarnmodel/corvel/scanning/CharacterClasses.h"
 
-#include "platform/foundation/UTF.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
-#include "corvel/HtmlScanner.h"
+#include "tarnmodel/corvel/scanning/HtmlScanner.h"
 
-#include "corvel/Characters.h"
+#include "tarnmodel/corvel/scanning/CharacterClasses.h"
 
 namespace tarn::corvel {
 

@@ -1,6 +1,6 @@
-#include "corvel/LinkScanner.h"
+#include "tarnmodel/corvel/scanning/LinkScanner.h"
 
-#include "corvel/Characters.h"
+#include "tarnmodel/corvel/scanning/CharacterClasses.h"
 
 namespace tarn::corvel {
 

@@ -1,8 +1,8 @@
-#include "corvel/SourceLines.h"
+#include "tarnmodel/corvel/scanning/SourceLines.h"
 
-#include "corvel/Characters.h"
+#include "tarnmodel/corvel/scanning/CharacterClasses.h"
 
-#include "platform/foundation/UTF.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
 
 #include <algorithm>
 

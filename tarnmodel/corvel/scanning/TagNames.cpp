@@ -1,10 +1,10 @@
-#include "corvel/TagNames.h"
+#include "tarnmodel/corvel/scanning/TagNames.h"
 
-#include "corvel/Characters.h"
-#include "corvel/HashtagScanner.h"
+#include "tarnmodel/corvel/scanning/CharacterClasses.h"
+#include "tarnmodel/corvel/scanning/HashtagScanner.h"
 
-#include "platform/foundation/Folding.h"
-#include "platform/foundation/UTF.h"
+#include "tarnmodel/platform/foundation/text/Folding.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
 
 #include <algorithm>
 

@@ -1,9 +1,9 @@
-#include "corvel/Unescape.h"
+#include "tarnmodel/corvel/scanning/Unescape.h"
 
-#include "corvel/Characters.h"
-#include "corvel/EntityTable.h"
+#include "tarnmodel/corvel/scanning/CharacterClasses.h"
+#include "tarnmodel/corvel/scanning/EntityTable.h"
 
-#include "platform/foundation/UTF.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
 
 #include <algorithm>
 

@@ -1,9 +1,9 @@
-#include "corvel/WikiLinkScanner.h"
+#include "tarnmodel/corvel/scanning/WikiLinkScanner.h"
 
-#include "corvel/Characters.h"
-#include "corvel/LinkScanner.h"
+#include "tarnmodel/corvel/scanning/CharacterClasses.h"
+#include "tarnmodel/corvel/scanning/LinkScanner.h"
 
-#include "platform/foundation/UTF.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
 
 namespace tarn::corvel {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "corvel/SourceRange.h"
+#include "tarnmodel/corvel/scanning/SourceRange.h"
 
 #include <cstddef>
 #include <optional>

@@ -1,4 +1,4 @@
-#include "platform/cloudkit/ArchiveFormatInternal.h"
+#include "tarnmodel/platform/cloudkit/ArchiveFormatInternal.h"
 
 #include <array>
 

@@ -1,6 +1,6 @@
-#include "platform/cloudkit/CKRecord.h"
+#include "tarnmodel/platform/cloudkit/CKRecord.h"
 
-#include "platform/foundation/NSException.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
 
 #include <algorithm>
 

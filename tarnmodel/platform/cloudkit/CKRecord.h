@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/cloudkit/CKRecordZoneID.h"
-#include "platform/foundation/Value.h"
+#include "tarnmodel/platform/cloudkit/CKRecordZoneID.h"
+#include "tarnmodel/platform/foundation/values/Value.h"
 
 #include <map>
 #include <vector>

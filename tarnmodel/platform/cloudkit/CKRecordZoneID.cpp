@@ -1,4 +1,4 @@
-#include "platform/cloudkit/CKRecordZoneID.h"
+#include "tarnmodel/platform/cloudkit/CKRecordZoneID.h"
 
 namespace tarn {
 namespace {

@@ -1,4 +1,4 @@
-#include "platform/cloudkit/CKServerChangeToken.h"
+#include "tarnmodel/platform/cloudkit/CKServerChangeToken.h"
 
 namespace tarn {
 namespace {

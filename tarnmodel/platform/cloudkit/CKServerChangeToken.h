@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/cloudkit/NSKeyedArchiver.h"
+#include "tarnmodel/platform/cloudkit/NSKeyedArchiver.h"
 
 namespace tarn {
 

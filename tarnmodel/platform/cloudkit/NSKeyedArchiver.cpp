@@ -1,6 +1,6 @@
-#include "platform/cloudkit/NSKeyedArchiver.h"
+#include "tarnmodel/platform/cloudkit/NSKeyedArchiver.h"
 
-#include "platform/cloudkit/ArchiveFormatInternal.h"
+#include "tarnmodel/platform/cloudkit/ArchiveFormatInternal.h"
 
 #include <limits>
 #include <vector>

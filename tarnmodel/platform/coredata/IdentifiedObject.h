@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/coredata/NSManagedObjectID.h"
-#include "platform/foundation/Value.h"
+#include "tarnmodel/platform/coredata/NSManagedObjectID.h"
+#include "tarnmodel/platform/foundation/values/Value.h"
 
 namespace tarn {
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "platform/coredata/IdentifiedObject.h"
-#include "platform/coredata/NSManagedObjectID.h"
-#include "platform/coredata/PropertyValues.h"
-#include "platform/foundation/Value.h"
+#include "tarnmodel/platform/coredata/IdentifiedObject.h"
+#include "tarnmodel/platform/coredata/NSManagedObjectID.h"
+#include "tarnmodel/platform/coredata/PropertyValues.h"
+#include "tarnmodel/platform/foundation/values/Value.h"
 
 #include <cstdint>
 #include <functional>

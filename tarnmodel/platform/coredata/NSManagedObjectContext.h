@@ -1,11 +1,11 @@
 #pragma once
 
-#include "platform/coredata/NSFetchRequest.h"
-#include "platform/coredata/NSManagedObject.h"
-#include "platform/coredata/NSManagedObjectID.h"
-#include "platform/coredata/RecordMerge.h"
-#include "platform/foundation/NSError.h"
-#include "platform/foundation/Queue.h"
+#include "tarnmodel/platform/coredata/NSFetchRequest.h"
+#include "tarnmodel/platform/coredata/NSManagedObject.h"
+#include "tarnmodel/platform/coredata/NSManagedObjectID.h"
+#include "tarnmodel/platform/coredata/RecordMerge.h"
+#include "tarnmodel/platform/foundation/events/Queue.h"
+#include "tarnmodel/platform/foundation/values/NSError.h"
 
 #include <cstddef>
 #include <functional>
@@ -141,6 +141,9 @@ public:
     // Queries see unsaved changes -----------------------------------------------------------------------------------
     /// None and an error on failure; for callers to whom failure is not emptiness.
     std::optional<std::vector<NSManagedObject*>> fetch(const NSFetchRequest& request, NSError* error = nullptr);
+    /// How the store answers a fetch, for people: its SQL with the arguments, how it is walked, and for a search in
+    /// texts what the index left of the rows. Its form may change.
+    std::string explain(const NSFetchRequest& request);
     /// The same; empty on failure.
     std::vector<NSManagedObject*> executeFetchRequest(const NSFetchRequest& request, NSError* error = nullptr);
     std::optional<std::size_t> count(const NSFetchRequest& request, NSError* error = nullptr);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/coredata/NSManagedObjectModel.h"
+#include "tarnmodel/platform/coredata/NSManagedObjectModel.h"
 
 #include <cstdint>
 #include <functional>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/foundation/NSError.h"
-#include "platform/foundation/Value.h"
+#include "tarnmodel/platform/foundation/values/NSError.h"
+#include "tarnmodel/platform/foundation/values/Value.h"
 
 #include <array>
 #include <cstdint>

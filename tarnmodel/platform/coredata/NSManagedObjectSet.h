@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/coredata/NSManagedObject.h"
-#include "platform/coredata/OrderedSet.h"
+#include "tarnmodel/platform/coredata/NSManagedObject.h"
+#include "tarnmodel/platform/coredata/OrderedSet.h"
 
 #include <cstddef>
 #include <span>

@@ -1,6 +1,8 @@
 #pragma once
 
-#include "platform/coredata/NSPersistentStore.h"
+#include "tarnmodel/platform/coredata/NSManagedObjectID.h"
+#include "tarnmodel/platform/coredata/NSPersistentStore.h"
+#include "tarnmodel/platform/coredata/StoreErrors.h"
 
 #include <chrono>
 #include <filesystem>
@@ -27,6 +29,8 @@ struct StoreOptions {
     std::function<bool(std::chrono::milliseconds)> whileWaiting{};
 };
 
+class RowStore;
+
 /// Joins a model and a store. Contexts hang on it. Any thread.
 class NSPersistentStoreCoordinator {
 public:
@@ -42,7 +46,9 @@ public:
     NSPersistentStore* addPersistentStoreWithType(
         StoreType type, const std::filesystem::path& file, const StoreOptions& options, NSError* error = nullptr);
     /// Null before `addPersistentStoreWithType`.
-    NSPersistentStore* persistentStore() const noexcept { return store_.get(); }
+    NSPersistentStore* persistentStore() const noexcept;
+    /// The same, for the contexts.
+    RowStore* rowStore() const noexcept { return store_.get(); }
 
     /// The identifier that a URI names; none for another store, an unknown entity or any other text.
     std::optional<NSManagedObjectID> managedObjectIDForURIRepresentation(std::string_view uri) const;
@@ -57,7 +63,7 @@ public:
 
 private:
     std::shared_ptr<const NSManagedObjectModel> model_;
-    std::unique_ptr<NSPersistentStore> store_;
+    std::unique_ptr<RowStore> store_;
 };
 
 } // namespace tarn

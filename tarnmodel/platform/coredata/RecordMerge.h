@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/coredata/PropertyValues.h"
+#include "tarnmodel/platform/coredata/PropertyValues.h"
 
 #include <string_view>
 

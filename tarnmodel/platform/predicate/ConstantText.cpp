@@ -1,6 +1,6 @@
-#include "platform/predicate/ConstantText.h"
+#include "tarnmodel/platform/predicate/ConstantText.h"
 
-#include "platform/foundation/UTF.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
 
 #include <fmt/format.h>
 

@@ -1,6 +1,6 @@
-#include "platform/predicate/FoldedPattern.h"
+#include "tarnmodel/platform/predicate/FoldedPattern.h"
 
-#include "platform/foundation/UTF.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
 
 #include <unicode/bytestream.h>
 #include <unicode/normalizer2.h>

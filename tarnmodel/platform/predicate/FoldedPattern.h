@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/foundation/Folding.h"
+#include "tarnmodel/platform/foundation/text/Folding.h"
 
 #include <string>
 #include <string_view>

@@ -1,5 +1,5 @@
-#include "platform/predicate/NSPredicate.h"
-#include "platform/predicate/PredicateNesting.h"
+#include "tarnmodel/platform/predicate/NSPredicate.h"
+#include "tarnmodel/platform/predicate/PredicateNesting.h"
 
 #include <algorithm>
 #include <optional>

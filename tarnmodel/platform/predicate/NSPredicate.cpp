@@ -1,10 +1,10 @@
-#include "platform/predicate/NSPredicate.h"
+#include "tarnmodel/platform/predicate/NSPredicate.h"
 
-#include "platform/predicate/PredicateEquality.h"
-#include "platform/predicate/PredicateEvaluator.h"
-#include "platform/predicate/PredicateNesting.h"
-#include "platform/predicate/PredicateParser.h"
-#include "platform/predicate/PredicatePrinter.h"
+#include "tarnmodel/platform/predicate/PredicateEquality.h"
+#include "tarnmodel/platform/predicate/PredicateEvaluator.h"
+#include "tarnmodel/platform/predicate/PredicateNesting.h"
+#include "tarnmodel/platform/predicate/PredicateParser.h"
+#include "tarnmodel/platform/predicate/PredicatePrinter.h"
 
 #include <utility>
 

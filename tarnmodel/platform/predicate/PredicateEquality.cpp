@@ -1,4 +1,4 @@
-#include "platform/predicate/PredicateEquality.h"
+#include "tarnmodel/platform/predicate/PredicateEquality.h"
 
 #include <algorithm>
 

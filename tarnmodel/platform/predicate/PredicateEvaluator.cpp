@@ -1,7 +1,7 @@
-#include "platform/predicate/PredicateEvaluator.h"
+#include "tarnmodel/platform/predicate/PredicateEvaluator.h"
 
-#include "platform/predicate/PredicateNesting.h"
-#include "platform/predicate/PreparedPredicate.h"
+#include "tarnmodel/platform/predicate/PredicateNesting.h"
+#include "tarnmodel/platform/predicate/PreparedPredicate.h"
 
 namespace tarn {
 

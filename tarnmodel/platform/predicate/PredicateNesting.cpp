@@ -1,6 +1,6 @@
-#include "platform/predicate/PredicateNesting.h"
+#include "tarnmodel/platform/predicate/PredicateNesting.h"
 
-#include "platform/foundation/NSException.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
 
 #include <fmt/format.h>
 

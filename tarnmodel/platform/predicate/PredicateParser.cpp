@@ -1,9 +1,9 @@
-#include "platform/predicate/PredicateParser.h"
+#include "tarnmodel/platform/predicate/PredicateParser.h"
 
-#include "platform/foundation/NSException.h"
-#include "platform/foundation/UTF.h"
-#include "platform/predicate/ConstantText.h"
-#include "platform/predicate/PredicateNesting.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
+#include "tarnmodel/platform/predicate/ConstantText.h"
+#include "tarnmodel/platform/predicate/PredicateNesting.h"
 
 #include <fmt/format.h>
 

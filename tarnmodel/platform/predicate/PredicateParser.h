@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/predicate/PredicateTokenizer.h"
+#include "tarnmodel/platform/predicate/PredicateTokenizer.h"
 
 #include <span>
 #include <string>

@@ -1,8 +1,8 @@
-#include "platform/predicate/PredicatePrinter.h"
+#include "tarnmodel/platform/predicate/PredicatePrinter.h"
 
-#include "platform/predicate/ConstantText.h"
-#include "platform/predicate/PredicateNesting.h"
-#include "platform/predicate/PredicateVocabulary.h"
+#include "tarnmodel/platform/predicate/ConstantText.h"
+#include "tarnmodel/platform/predicate/PredicateNesting.h"
+#include "tarnmodel/platform/predicate/PredicateVocabulary.h"
 
 namespace tarn {
 

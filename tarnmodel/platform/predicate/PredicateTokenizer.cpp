@@ -1,7 +1,7 @@
-#include "platform/predicate/PredicateTokenizer.h"
+#include "tarnmodel/platform/predicate/PredicateTokenizer.h"
 
-#include "platform/foundation/NSException.h"
-#include "platform/foundation/UTF.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
 
 #include <fmt/format.h>
 

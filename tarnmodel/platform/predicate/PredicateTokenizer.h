@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/predicate/PredicateVocabulary.h"
+#include "tarnmodel/platform/predicate/PredicateVocabulary.h"
 
 #include <string>
 #include <string_view>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/foundation/Folding.h"
-#include "platform/foundation/Value.h"
+#include "tarnmodel/platform/foundation/text/Folding.h"
+#include "tarnmodel/platform/foundation/values/Value.h"
 
 #include <memory>
 #include <string>

@@ -1,6 +1,6 @@
-#include "platform/predicate/PredicateVocabulary.h"
+#include "tarnmodel/platform/predicate/PredicateVocabulary.h"
 
-#include "platform/foundation/UTF.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
 
 #include <algorithm>
 #include <array>

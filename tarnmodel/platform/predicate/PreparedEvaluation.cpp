@@ -1,6 +1,6 @@
-#include "platform/foundation/NSException.h"
-#include "platform/predicate/PreparedPredicate.h"
-#include "platform/predicate/ValueComparison.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
+#include "tarnmodel/platform/predicate/PreparedPredicate.h"
+#include "tarnmodel/platform/predicate/ValueComparison.h"
 
 #include <algorithm>
 #include <span>

@@ -1,6 +1,6 @@
-#include "platform/predicate/PreparedPredicate.h"
+#include "tarnmodel/platform/predicate/PreparedPredicate.h"
 
-#include "platform/foundation/NSException.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/predicate/PredicateTree.h"
-#include "platform/predicate/StringTest.h"
+#include "tarnmodel/platform/predicate/PredicateTree.h"
+#include "tarnmodel/platform/predicate/StringTest.h"
 
 #include <memory>
 #include <optional>

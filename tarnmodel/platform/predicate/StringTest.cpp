@@ -1,11 +1,11 @@
-#include "platform/predicate/StringTest.h"
+#include "tarnmodel/platform/predicate/StringTest.h"
 
-#include "platform/foundation/ByteSearch.h"
-#include "platform/foundation/Log.h"
-#include "platform/foundation/RegularExpression.h"
-#include "platform/predicate/FoldedPattern.h"
-#include "platform/predicate/WholeWordPattern.h"
-#include "platform/predicate/WildcardPattern.h"
+#include "tarnmodel/platform/foundation/system/Log.h"
+#include "tarnmodel/platform/foundation/text/ByteSearch.h"
+#include "tarnmodel/platform/foundation/text/RegularExpression.h"
+#include "tarnmodel/platform/predicate/FoldedPattern.h"
+#include "tarnmodel/platform/predicate/WholeWordPattern.h"
+#include "tarnmodel/platform/predicate/WildcardPattern.h"
 
 #include <atomic>
 #include <optional>

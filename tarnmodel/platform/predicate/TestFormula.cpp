@@ -1,4 +1,4 @@
-#include "platform/predicate/TestFormula.h"
+#include "tarnmodel/platform/predicate/TestFormula.h"
 
 #include <algorithm>
 

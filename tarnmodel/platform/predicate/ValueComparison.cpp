@@ -1,4 +1,4 @@
-#include "platform/predicate/ValueComparison.h"
+#include "tarnmodel/platform/predicate/ValueComparison.h"
 
 #include <algorithm>
 #include <cmath>

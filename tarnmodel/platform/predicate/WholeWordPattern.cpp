@@ -1,6 +1,6 @@
-#include "platform/predicate/WholeWordPattern.h"
+#include "tarnmodel/platform/predicate/WholeWordPattern.h"
 
-#include "platform/foundation/UTF.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
 
 #include <unicode/uchar.h>
 

@@ -1,6 +1,6 @@
-#include "platform/predicate/WildcardPattern.h"
+#include "tarnmodel/platform/predicate/WildcardPattern.h"
 
-#include "platform/foundation/UTF.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
 
 namespace tarn {
 

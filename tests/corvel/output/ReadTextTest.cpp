@@ -1,4 +1,4 @@
-#include "corvel/CVKAST.h"
+#include "tarnmodel/corvel/CVKAST.h"
 #include "tests/corvel/CaseFile.h"
 
 #include <gmock/gmock.h>

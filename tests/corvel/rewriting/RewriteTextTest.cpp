@@ -1,6 +1,6 @@
-#include "corvel/CVKAST.h"
-#include "corvel/CVKHashtag.h"
-#include "corvel/CVKWikiLink.h"
+#include "tarnmodel/corvel/CVKAST.h"
+#include "tarnmodel/corvel/CVKHashtag.h"
+#include "tarnmodel/corvel/CVKWikiLink.h"
 #include "tests/corvel/CaseFile.h"
 
 #include <gtest/gtest.h>

@@ -1,10 +1,10 @@
-#include "corvel/CVKAST.h"
-#include "corvel/CVKHashtag.h"
-#include "corvel/CVKWikiLink.h"
-#include "corvel/Document.h"
+#include "tarnmodel/corvel/CVKAST.h"
+#include "tarnmodel/corvel/CVKHashtag.h"
+#include "tarnmodel/corvel/CVKWikiLink.h"
+#include "tarnmodel/corvel/blocks/Document.h"
 #include "tests/corvel/RandomMarkdown.h"
 
-#include "platform/foundation/Folding.h"
+#include "tarnmodel/platform/foundation/text/Folding.h"
 
 #include <gtest/gtest.h>
 

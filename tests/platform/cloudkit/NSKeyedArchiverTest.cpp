@@ -1,7 +1,7 @@
-#include "platform/cloudkit/CKRecord.h"
-#include "platform/cloudkit/CKServerChangeToken.h"
-#include "platform/cloudkit/NSKeyedArchiver.h"
-#include "platform/foundation/NSException.h"
+#include "tarnmodel/platform/cloudkit/NSKeyedArchiver.h"
+#include "tarnmodel/platform/cloudkit/CKRecord.h"
+#include "tarnmodel/platform/cloudkit/CKServerChangeToken.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

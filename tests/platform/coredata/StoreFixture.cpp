@@ -1,6 +1,6 @@
-#include "tests/coredata/StoreFixture.h"
+#include "tests/platform/coredata/StoreFixture.h"
 
-#include "platform/foundation/NSUUID.h"
+#include "tarnmodel/platform/foundation/system/NSUUID.h"
 
 namespace tarn {
 
@@ -116,9 +116,11 @@ StoreRow makeRow(
 // Store ---------------------------------------------------------------------------------------------------------------
 
 OpenStore::OpenStore(StoreType type, const std::filesystem::path& file, const StoreOptions& options)
-    : coordinator_(std::make_shared<NSPersistentStoreCoordinator>(storeTestModel())),
-      store_(coordinator_->addPersistentStoreWithType(type, file, options, &error_))
-{ }
+    : coordinator_(std::make_shared<NSPersistentStoreCoordinator>(storeTestModel()))
+{
+    coordinator_->addPersistentStoreWithType(type, file, options, &error_);
+    store_ = coordinator_->rowStore();
+}
 
 const NSEntityDescription& OpenStore::entity(std::string_view name) const
 {

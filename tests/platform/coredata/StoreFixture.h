@@ -1,9 +1,9 @@
 #pragma once
 
-#include "platform/coredata/IdentifiedObject.h"
-#include "platform/coredata/NSPersistentStore.h"
-#include "platform/coredata/NSPersistentStoreCoordinator.h"
-#include "platform/foundation/Environment.h"
+#include "tarnmodel/platform/coredata/IdentifiedObject.h"
+#include "tarnmodel/platform/coredata/NSPersistentStoreCoordinator.h"
+#include "tarnmodel/platform/coredata/rows/RowStore.h"
+#include "tarnmodel/platform/foundation/system/Environment.h"
 
 #include <filesystem>
 #include <functional>
@@ -36,8 +36,8 @@ class OpenStore {
 public:
     OpenStore(StoreType type, const std::filesystem::path& file, const StoreOptions& options = {});
 
-    NSPersistentStore& operator*() const { return *store_; }
-    NSPersistentStore* operator->() const { return store_; }
+    RowStore& operator*() const { return *store_; }
+    RowStore* operator->() const { return store_; }
     explicit operator bool() const { return store_ != nullptr; }
     const NSError& error() const { return error_; }
     const NSPersistentStoreCoordinator& coordinator() const { return *coordinator_; }
@@ -70,7 +70,7 @@ public:
 private:
     NSError error_;
     std::shared_ptr<NSPersistentStoreCoordinator> coordinator_;
-    NSPersistentStore* store_ = nullptr;
+    RowStore* store_ = nullptr;
 };
 
 /// A row ready to be inserted: attributes by value, to-ones by key (an integer).
@@ -80,7 +80,7 @@ StoreRow makeRow(
 /// A record given to a predicate as an argument.
 class RecordReference final : public IdentifiedObject {
 public:
-    RecordReference(const NSPersistentStore& store, const NSEntityDescription& entity, std::int64_t key)
+    RecordReference(const RowStore& store, const NSEntityDescription& entity, std::int64_t key)
         : id_(store.identity(), entity, key)
     { }
     NSManagedObjectID identifyingObjectID() const override { return id_; }

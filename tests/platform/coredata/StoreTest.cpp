@@ -1,6 +1,6 @@
 // What the store in memory and the SQLite store promise alike.
 
-#include "tests/coredata/StoreFixture.h"
+#include "tests/platform/coredata/StoreFixture.h"
 
 #include <cmath>
 #include <future>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/foundation/NSException.h"
-#include "platform/foundation/Value.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
+#include "tarnmodel/platform/foundation/values/Value.h"
 
 #include <functional>
 #include <map>

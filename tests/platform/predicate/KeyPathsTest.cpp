@@ -1,5 +1,5 @@
-#include "platform/foundation/NSException.h"
-#include "platform/predicate/NSPredicate.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
+#include "tarnmodel/platform/predicate/NSPredicate.h"
 
 #include <fmt/ranges.h>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "platform/predicate/LiteralFinder.h"
+#include "tarnmodel/platform/predicate/LiteralFinder.h"
 
 #include <fmt/format.h>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "tests/predicate/PredicateCases.h"
+#include "tests/platform/predicate/PredicateCases.h"
 
 #include <fstream>
 #include <string_view>

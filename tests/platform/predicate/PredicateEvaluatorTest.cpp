@@ -1,6 +1,6 @@
-#include "platform/predicate/PredicateEvaluator.h"
-#include "platform/foundation/NSException.h"
-#include "tests/predicate/DictionaryObject.h"
+#include "tarnmodel/platform/predicate/PredicateEvaluator.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
+#include "tests/platform/predicate/DictionaryObject.h"
 
 #include <gtest/gtest.h>
 

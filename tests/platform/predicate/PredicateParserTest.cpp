@@ -1,7 +1,7 @@
-#include "platform/foundation/NSException.h"
-#include "platform/predicate/NSPredicate.h"
-#include "tests/predicate/DictionaryObject.h"
-#include "tests/predicate/PredicateCases.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
+#include "tarnmodel/platform/predicate/NSPredicate.h"
+#include "tests/platform/predicate/DictionaryObject.h"
+#include "tests/platform/predicate/PredicateCases.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
-#include "platform/foundation/NSException.h"
-#include "platform/predicate/NSPredicate.h"
-#include "tests/predicate/DictionaryObject.h"
-#include "tests/predicate/RandomPredicate.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
+#include "tarnmodel/platform/predicate/NSPredicate.h"
+#include "tests/platform/predicate/DictionaryObject.h"
+#include "tests/platform/predicate/RandomPredicate.h"
 
 #include <gtest/gtest.h>
 

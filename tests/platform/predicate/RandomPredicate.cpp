@@ -1,6 +1,6 @@
-#include "tests/predicate/RandomPredicate.h"
+#include "tests/platform/predicate/RandomPredicate.h"
 
-#include "platform/foundation/UTF.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
 
 #include <array>
 #include <bit>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/predicate/PredicateTree.h"
+#include "tarnmodel/platform/predicate/PredicateTree.h"
 
 #include <cstdint>
 #include <random>

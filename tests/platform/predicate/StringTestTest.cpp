@@ -1,10 +1,10 @@
-#include "platform/predicate/StringTest.h"
-#include "platform/foundation/Log.h"
-#include "platform/foundation/NSException.h"
-#include "platform/foundation/RegularExpression.h"
-#include "platform/foundation/UTF.h"
-#include "platform/predicate/FoldedPattern.h"
-#include "platform/predicate/WholeWordPattern.h"
+#include "tarnmodel/platform/predicate/StringTest.h"
+#include "tarnmodel/platform/foundation/system/Log.h"
+#include "tarnmodel/platform/foundation/text/RegularExpression.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
+#include "tarnmodel/platform/predicate/FoldedPattern.h"
+#include "tarnmodel/platform/predicate/WholeWordPattern.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

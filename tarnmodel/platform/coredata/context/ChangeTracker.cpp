@@ -1,4 +1,4 @@
-#include "platform/coredata/ChangeTracker.h"
+#include "tarnmodel/platform/coredata/context/ChangeTracker.h"
 
 #include <algorithm>
 #include <tuple>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/coredata/NSManagedObjectContext.h"
+#include "tarnmodel/platform/coredata/NSManagedObjectContext.h"
 
 #include <unordered_map>
 #include <vector>

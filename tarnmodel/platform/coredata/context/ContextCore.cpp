@@ -1,9 +1,9 @@
-#include "platform/coredata/ContextCore.h"
+#include "tarnmodel/platform/coredata/context/ContextCore.h"
 
-#include "platform/coredata/RecordAccess.h"
-#include "platform/coredata/StoreCatchUp.h"
-#include "platform/foundation/NSException.h"
-#include "platform/foundation/NSNotificationCenter.h"
+#include "tarnmodel/platform/coredata/context/RecordAccess.h"
+#include "tarnmodel/platform/coredata/context/StoreCatchUp.h"
+#include "tarnmodel/platform/foundation/events/NSNotificationCenter.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
 
 #include <any>
 #include <utility>
@@ -28,10 +28,10 @@ ContextCore::ContextCore(NSManagedObjectContext& owner, NSManagedObjectContext::
 ContextCore::~ContextCore()
 {
     // A child's save may be under way on the queue.
-    if (link_ && privateQueue_)
-        privateQueue_->sync([this] { link_->close(); });
-    else if (link_)
-        link_->close();
+    if (children && privateQueue_)
+        privateQueue_->sync([this] { children->close(); });
+    else if (children)
+        children->close();
     queue_->cancelAtEndOfPass(this);
     queue_->cancelAtEndOfPass(&otherWriters);
     if (!privateQueue_)
@@ -45,38 +45,32 @@ void ContextCore::followStore()
         MainQueue::main().runInEachPass(this, [this] { otherWriters.lookAtEndOfPass(); });
 }
 
-NSPersistentStore& ContextCore::store() const
+RowStore& ContextCore::store() const
 {
     if (parentStore)
         return *parentStore;
-    if (!coordinator || !coordinator->persistentStore())
+    if (!coordinator || !coordinator->rowStore())
         throw NSException(NSInternalInconsistencyException, "The context has no persistent store");
-    return *coordinator->persistentStore();
+    return *coordinator->rowStore();
 }
 
-std::shared_ptr<NSPersistentStore> ContextCore::sharedStore() const
+std::shared_ptr<RowStore> ContextCore::sharedStore() const
 {
-    return parentStore ? parentStore : std::shared_ptr<NSPersistentStore>(coordinator, &store());
+    return parentStore ? parentStore : std::shared_ptr<RowStore>(coordinator, &store());
 }
 
-std::shared_ptr<ParentLink> ContextCore::link()
+std::shared_ptr<Queue> ContextCore::sharedQueue() const
 {
-    assertOnQueue();
-    if (!link_) {
-        // The main queue lives as long as the process.
-        auto queue = privateQueue_ ? privateQueue_ : std::shared_ptr<Queue>(std::shared_ptr<void>(), queue_);
-        link_ = std::make_shared<ParentLink>(*this, std::move(queue));
-    }
-    return link_;
+    return privateQueue_ ? privateQueue_ : std::shared_ptr<Queue>(std::shared_ptr<void>(), queue_);
 }
 
 void ContextCore::publish()
 {
     // Nobody else holds it once the last child is gone.
-    if (link_ && link_.use_count() > 1)
-        link_->publish();
+    if (children && children.use_count() > 1)
+        children->publish();
     else
-        link_.reset();
+        children.reset();
 }
 
 bool ContextCore::catchUp(const StoreTransaction& transaction, NSError* error)
@@ -117,7 +111,7 @@ NSManagedObject& ContextCore::insert(const NSEntityDescription& entity)
 
 NSManagedObjectID ContextCore::localID(const NSManagedObjectID& objectID) const
 {
-    const bool hasStore = parentStore || (coordinator && coordinator->persistentStore());
+    const bool hasStore = parentStore || (coordinator && coordinator->rowStore());
     if (!objectID || !hasStore || &objectID.store() != &store().identity())
         return {};
     const NSManagedObjectModel& model = coordinator->managedObjectModel();

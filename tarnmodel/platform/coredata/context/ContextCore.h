@@ -1,16 +1,16 @@
 #pragma once
 
-#include "platform/coredata/ChangeTracker.h"
-#include "platform/coredata/Faulting.h"
-#include "platform/coredata/NSManagedObjectContext.h"
-#include "platform/coredata/NSPersistentStoreCoordinator.h"
-#include "platform/coredata/ObjectRegistry.h"
-#include "platform/coredata/ObservedValues.h"
-#include "platform/coredata/OtherWriters.h"
-#include "platform/coredata/ParentLink.h"
-#include "platform/coredata/PendingIndex.h"
-#include "platform/coredata/QueueChecks.h"
-#include "platform/coredata/RelationshipMaintenance.h"
+#include "tarnmodel/platform/coredata/NSManagedObjectContext.h"
+#include "tarnmodel/platform/coredata/NSPersistentStoreCoordinator.h"
+#include "tarnmodel/platform/coredata/QueueChecks.h"
+#include "tarnmodel/platform/coredata/context/ChangeTracker.h"
+#include "tarnmodel/platform/coredata/context/ChildContexts.h"
+#include "tarnmodel/platform/coredata/context/Faulting.h"
+#include "tarnmodel/platform/coredata/context/ObjectRegistry.h"
+#include "tarnmodel/platform/coredata/context/ObservedValues.h"
+#include "tarnmodel/platform/coredata/context/OtherWriters.h"
+#include "tarnmodel/platform/coredata/context/PendingIndex.h"
+#include "tarnmodel/platform/coredata/context/RelationshipMaintenance.h"
 
 #include <functional>
 #include <memory>
@@ -50,22 +50,24 @@ public:
     std::optional<std::uint64_t> knownState;
 
     /// Set for a child: the parent, as a store.
-    std::shared_ptr<NSPersistentStore> parentStore;
+    std::shared_ptr<RowStore> parentStore;
     NSManagedObjectContext* parentContext = nullptr;
+    /// Null where no child was made, or none is left.
+    std::shared_ptr<ChildContexts> children;
 
     /// Brings this context in step with what others have saved since it last did, if anything. Under the lock.
     bool catchUp(const StoreTransaction& transaction, NSError* error);
     /// The parent's view for a child. Raises `NSInternalInconsistencyException` when the context has no store.
-    NSPersistentStore& store() const;
+    RowStore& store() const;
     /// Begins to look for what others write to the coordinator's store: from now on, at each pass of a main queue.
     void followStore();
     /// The same, kept alive.
-    std::shared_ptr<NSPersistentStore> sharedStore() const;
-    /// What children hold of this context; made when the first one asks. On the queue.
-    std::shared_ptr<ParentLink> link();
+    std::shared_ptr<RowStore> sharedStore() const;
     /// Lets children, where there are any, see what is pending now.
     void publish();
     Queue& queue() const noexcept { return *queue_; }
+    /// The same, kept alive. The main queue lives as long as the process.
+    std::shared_ptr<Queue> sharedQueue() const;
     /// Where queues are checked: reports a caller that is on another one, and the record that it wanted.
     void assertOnQueue(const NSManagedObject* record = nullptr) const
     {
@@ -146,7 +148,6 @@ private:
     std::unordered_map<const NSEntityDescription*, PropertyValues> defaults_;
     std::unordered_map<const NSEntityDescription*, KeyBlock> keyBlocks_;
 
-    std::shared_ptr<ParentLink> link_;
     std::vector<NSManagedObject*> fromChildren_;
     std::shared_ptr<Queue> privateQueue_;
     Queue* queue_;

@@ -1,8 +1,8 @@
-#include "platform/coredata/ContextCore.h"
+#include "tarnmodel/platform/coredata/context/ContextCore.h"
 
-#include "platform/coredata/MergeConflicts.h"
-#include "platform/coredata/RecordAccess.h"
-#include "platform/foundation/Log.h"
+#include "tarnmodel/platform/coredata/context/MergeConflicts.h"
+#include "tarnmodel/platform/coredata/context/RecordAccess.h"
+#include "tarnmodel/platform/foundation/system/Log.h"
 
 #include <bit>
 #include <utility>

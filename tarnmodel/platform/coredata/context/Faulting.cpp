@@ -1,8 +1,8 @@
-#include "platform/coredata/Faulting.h"
+#include "tarnmodel/platform/coredata/context/Faulting.h"
 
-#include "platform/coredata/ContextCore.h"
-#include "platform/coredata/RecordAccess.h"
-#include "platform/foundation/NSException.h"
+#include "tarnmodel/platform/coredata/context/ContextCore.h"
+#include "tarnmodel/platform/coredata/context/RecordAccess.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
 
 #include <algorithm>
 #include <string>

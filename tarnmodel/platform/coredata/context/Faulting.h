@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/coredata/NSManagedObject.h"
-#include "platform/coredata/NSPersistentStore.h"
+#include "tarnmodel/platform/coredata/NSManagedObject.h"
+#include "tarnmodel/platform/coredata/rows/RowStore.h"
 
 #include <unordered_map>
 #include <vector>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/coredata/NSManagedObjectContext.h"
-#include "platform/coredata/NSPersistentStore.h"
-#include "platform/coredata/RecordMerge.h"
+#include "tarnmodel/platform/coredata/NSManagedObjectContext.h"
+#include "tarnmodel/platform/coredata/RecordMerge.h"
+#include "tarnmodel/platform/coredata/rows/RowStore.h"
 
 #include <vector>
 

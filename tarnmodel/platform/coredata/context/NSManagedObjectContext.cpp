@@ -1,12 +1,11 @@
-#include "platform/coredata/NSManagedObjectContext.h"
+#include "tarnmodel/platform/coredata/NSManagedObjectContext.h"
 
-#include "platform/coredata/ContextCore.h"
-#include "platform/coredata/ParentContextStore.h"
-#include "platform/coredata/PendingFetch.h"
-#include "platform/coredata/RecordAccess.h"
-#include "platform/coredata/RemoteMerge.h"
-#include "platform/coredata/SavePlan.h"
-#include "platform/foundation/NSException.h"
+#include "tarnmodel/platform/coredata/context/ContextCore.h"
+#include "tarnmodel/platform/coredata/context/PendingFetch.h"
+#include "tarnmodel/platform/coredata/context/RecordAccess.h"
+#include "tarnmodel/platform/coredata/context/RemoteMerge.h"
+#include "tarnmodel/platform/coredata/context/SavePlan.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
 
 namespace tarn {
 
@@ -19,18 +18,9 @@ void NSManagedObjectContext::setPersistentStoreCoordinator(std::shared_ptr<NSPer
 {
     core_->coordinator = std::move(coordinator);
     // Empty, it knows what is stored.
-    if (core_->coordinator && core_->coordinator->persistentStore())
+    if (core_->coordinator && core_->coordinator->rowStore())
         core_->knownState = core_->store().stateNumber();
     core_->followStore();
-}
-
-void NSManagedObjectContext::setParentContext(NSManagedObjectContext& parent)
-{
-    core_->coordinator = parent.core_->coordinator;
-    core_->parentContext = &parent;
-    core_->parentStore = std::make_shared<ParentContextStore>(parent.core_->sharedStore(), parent.core_->link());
-    core_->mergePolicy = NSMergePolicy::MergeByPropertyObjectTrump;
-    core_->knownState = core_->parentStore->stateNumber();
 }
 
 NSManagedObjectContext* NSManagedObjectContext::parentContext() const noexcept
@@ -133,6 +123,12 @@ std::vector<NSManagedObject*> NSManagedObjectContext::registeredObjects() const
 }
 
 // Queries -------------------------------------------------------------------------------------------------------------
+
+std::string NSManagedObjectContext::explain(const NSFetchRequest& request)
+{
+    core_->assertOnQueue();
+    return PendingFetch(*core_, request).explain();
+}
 
 std::optional<std::vector<NSManagedObject*>> NSManagedObjectContext::fetch(
     const NSFetchRequest& request, NSError* error)

@@ -1,7 +1,7 @@
-#include "platform/coredata/NSManagedObjectSet.h"
+#include "tarnmodel/platform/coredata/NSManagedObjectSet.h"
 
-#include "platform/coredata/ContextCore.h"
-#include "platform/coredata/RecordAccess.h"
+#include "tarnmodel/platform/coredata/context/ContextCore.h"
+#include "tarnmodel/platform/coredata/context/RecordAccess.h"
 
 #include <algorithm>
 #include <unordered_set>

@@ -1,4 +1,4 @@
-#include "platform/coredata/ObjectRegistry.h"
+#include "tarnmodel/platform/coredata/context/ObjectRegistry.h"
 
 namespace tarn {
 

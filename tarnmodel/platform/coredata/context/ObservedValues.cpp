@@ -1,9 +1,9 @@
-#include "platform/coredata/ObservedValues.h"
+#include "tarnmodel/platform/coredata/context/ObservedValues.h"
 
-#include "platform/coredata/ContextCore.h"
-#include "platform/coredata/RecordAccess.h"
-#include "platform/foundation/Log.h"
-#include "platform/foundation/NSException.h"
+#include "tarnmodel/platform/coredata/context/ContextCore.h"
+#include "tarnmodel/platform/coredata/context/RecordAccess.h"
+#include "tarnmodel/platform/foundation/system/Log.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/coredata/NSManagedObject.h"
+#include "tarnmodel/platform/coredata/NSManagedObject.h"
 
 #include <unordered_set>
 #include <vector>

@@ -1,10 +1,10 @@
-#include "platform/coredata/OtherWriters.h"
+#include "tarnmodel/platform/coredata/context/OtherWriters.h"
 
-#include "platform/coredata/ContextCore.h"
-#include "platform/coredata/RecordAccess.h"
-#include "platform/coredata/RemoteMerge.h"
-#include "platform/foundation/Log.h"
-#include "platform/foundation/NSNotificationCenter.h"
+#include "tarnmodel/platform/coredata/context/ContextCore.h"
+#include "tarnmodel/platform/coredata/context/RecordAccess.h"
+#include "tarnmodel/platform/coredata/context/RemoteMerge.h"
+#include "tarnmodel/platform/foundation/events/NSNotificationCenter.h"
+#include "tarnmodel/platform/foundation/system/Log.h"
 
 #include <algorithm>
 #include <bit>
@@ -65,8 +65,8 @@ Keys keysOf(const std::vector<RelatedKey>& related)
 void OtherWriters::begin()
 {
     const NSPersistentStoreCoordinator* coordinator = core_.coordinator.get();
-    const bool hasStore = coordinator && coordinator->persistentStore();
-    seenVersion_ = hasStore ? coordinator->persistentStore()->dataVersion().value_or(0) : 0;
+    const bool hasStore = coordinator && coordinator->rowStore();
+    seenVersion_ = hasStore ? coordinator->rowStore()->dataVersion().value_or(0) : 0;
 }
 
 // When to look --------------------------------------------------------------------------------------------------------
@@ -103,7 +103,7 @@ void OtherWriters::lookAtEndOfPass()
 {
     forgetTextsRead();
     const bool isFree = seenVersion_ && !isLooking_ && !core_.isSaving && !core_.exclusiveTransaction
-        && core_.coordinator && core_.coordinator->persistentStore();
+        && core_.coordinator && core_.coordinator->rowStore();
     if (isFree && (hasMoved() || isBehind_))
         catchUp({});
 }

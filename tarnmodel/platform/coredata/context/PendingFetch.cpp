@@ -1,13 +1,13 @@
-#include "platform/coredata/PendingFetch.h"
+#include "tarnmodel/platform/coredata/context/PendingFetch.h"
 
-#include "platform/coredata/CappedSum.h"
-#include "platform/coredata/CompleteOrder.h"
-#include "platform/coredata/ContextCore.h"
-#include "platform/coredata/KeyPathWalk.h"
-#include "platform/coredata/RecordAccess.h"
-#include "platform/coredata/SortOrder.h"
-#include "platform/foundation/NSException.h"
-#include "platform/predicate/PredicateEvaluator.h"
+#include "tarnmodel/platform/coredata/context/ContextCore.h"
+#include "tarnmodel/platform/coredata/context/RecordAccess.h"
+#include "tarnmodel/platform/coredata/context/SortOrder.h"
+#include "tarnmodel/platform/coredata/description/CompleteOrder.h"
+#include "tarnmodel/platform/coredata/description/KeyPathWalk.h"
+#include "tarnmodel/platform/coredata/rows/CappedSum.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
+#include "tarnmodel/platform/predicate/PredicateEvaluator.h"
 
 #include <algorithm>
 #include <functional>
@@ -170,6 +170,11 @@ std::vector<NSManagedObject*> PendingFetch::matchingInMemory()
 }
 
 // Both together -----------------------------------------------------------------------------------------------------
+
+std::string PendingFetch::explain()
+{
+    return core_.store().explain(storeFetch(RowContents::Row));
+}
 
 StoreFetch PendingFetch::storeFetch(RowContents contents) const
 {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/coredata/NSManagedObjectContext.h"
-#include "platform/coredata/NSPersistentStore.h"
+#include "tarnmodel/platform/coredata/NSManagedObjectContext.h"
+#include "tarnmodel/platform/coredata/rows/RowStore.h"
 
 #include <optional>
 #include <span>
@@ -24,6 +24,8 @@ public:
     std::optional<std::vector<NSManagedObject*>> objects(NSError* error);
     std::optional<std::size_t> count(NSError* error);
     std::optional<std::vector<DictionaryResult>> dictionaries(NSError* error);
+    /// How the store answers its part.
+    std::string explain();
 
 private:
     void collectRelevantProperties();

@@ -1,7 +1,7 @@
-#include "platform/coredata/PendingIndex.h"
+#include "tarnmodel/platform/coredata/context/PendingIndex.h"
 
-#include "platform/coredata/RecordAccess.h"
-#include "platform/foundation/Folding.h"
+#include "tarnmodel/platform/coredata/context/RecordAccess.h"
+#include "tarnmodel/platform/foundation/text/Folding.h"
 
 #include <algorithm>
 

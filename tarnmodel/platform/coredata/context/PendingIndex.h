@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/coredata/EqualityProbes.h"
-#include "platform/coredata/NSManagedObject.h"
-#include "platform/coredata/OrderedSet.h"
+#include "tarnmodel/platform/coredata/NSManagedObject.h"
+#include "tarnmodel/platform/coredata/OrderedSet.h"
+#include "tarnmodel/platform/coredata/description/EqualityProbes.h"
 
 #include <map>
 #include <optional>

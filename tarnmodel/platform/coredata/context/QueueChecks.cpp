@@ -1,9 +1,9 @@
-#include "platform/coredata/QueueChecks.h"
+#include "tarnmodel/platform/coredata/QueueChecks.h"
 
-#include "platform/coredata/NSManagedObject.h"
-#include "platform/foundation/Environment.h"
-#include "platform/foundation/Log.h"
-#include "platform/foundation/Queue.h"
+#include "tarnmodel/platform/coredata/NSManagedObject.h"
+#include "tarnmodel/platform/foundation/events/Queue.h"
+#include "tarnmodel/platform/foundation/system/Environment.h"
+#include "tarnmodel/platform/foundation/system/Log.h"
 
 #include <fmt/format.h>
 

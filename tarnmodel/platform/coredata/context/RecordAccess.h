@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/coredata/RecordDetails.h"
+#include "tarnmodel/platform/coredata/context/RecordDetails.h"
 
 #include <memory>
 

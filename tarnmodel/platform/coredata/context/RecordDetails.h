@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/coredata/NSManagedObjectSet.h"
+#include "tarnmodel/platform/coredata/NSManagedObjectSet.h"
 
 #include <memory>
 #include <string>

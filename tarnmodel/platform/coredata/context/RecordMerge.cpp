@@ -1,7 +1,7 @@
-#include "platform/coredata/RecordMerge.h"
+#include "tarnmodel/platform/coredata/RecordMerge.h"
 
-#include "platform/coredata/NSManagedObject.h"
-#include "platform/foundation/NSException.h"
+#include "tarnmodel/platform/coredata/NSManagedObject.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
 
 namespace tarn {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/coredata/NSManagedObjectSet.h"
-#include "platform/coredata/NSPersistentStore.h"
+#include "tarnmodel/platform/coredata/NSManagedObjectSet.h"
+#include "tarnmodel/platform/coredata/rows/RowStore.h"
 
 #include <cstdint>
 #include <unordered_map>

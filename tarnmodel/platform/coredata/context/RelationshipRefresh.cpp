@@ -1,7 +1,7 @@
-#include "platform/coredata/RelationshipMaintenance.h"
+#include "tarnmodel/platform/coredata/context/RelationshipMaintenance.h"
 
-#include "platform/coredata/ContextCore.h"
-#include "platform/coredata/RecordAccess.h"
+#include "tarnmodel/platform/coredata/context/ContextCore.h"
+#include "tarnmodel/platform/coredata/context/RecordAccess.h"
 
 #include <algorithm>
 #include <unordered_set>

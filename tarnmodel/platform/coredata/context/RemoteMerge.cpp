@@ -1,8 +1,8 @@
-#include "platform/coredata/RemoteMerge.h"
+#include "tarnmodel/platform/coredata/context/RemoteMerge.h"
 
-#include "platform/coredata/ContextCore.h"
-#include "platform/coredata/RecordAccess.h"
-#include "platform/foundation/Log.h"
+#include "tarnmodel/platform/coredata/context/ContextCore.h"
+#include "tarnmodel/platform/coredata/context/RecordAccess.h"
+#include "tarnmodel/platform/foundation/system/Log.h"
 
 #include <algorithm>
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "platform/coredata/MergeConflicts.h"
-#include "platform/coredata/NSManagedObjectContext.h"
-#include "platform/coredata/NSPersistentStore.h"
-#include "platform/coredata/RelationshipMaintenance.h"
+#include "tarnmodel/platform/coredata/NSManagedObjectContext.h"
+#include "tarnmodel/platform/coredata/context/MergeConflicts.h"
+#include "tarnmodel/platform/coredata/context/RelationshipMaintenance.h"
+#include "tarnmodel/platform/coredata/rows/RowStore.h"
 
 #include <unordered_map>
 #include <vector>

@@ -1,8 +1,8 @@
-#include "platform/coredata/SavePlan.h"
+#include "tarnmodel/platform/coredata/context/SavePlan.h"
 
-#include "platform/coredata/ContextCore.h"
-#include "platform/coredata/RecordAccess.h"
-#include "platform/foundation/NSNotificationCenter.h"
+#include "tarnmodel/platform/coredata/context/ContextCore.h"
+#include "tarnmodel/platform/coredata/context/RecordAccess.h"
+#include "tarnmodel/platform/foundation/events/NSNotificationCenter.h"
 
 #include <algorithm>
 #include <any>

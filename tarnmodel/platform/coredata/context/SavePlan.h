@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/coredata/NSManagedObjectContext.h"
-#include "platform/coredata/NSPersistentStore.h"
+#include "tarnmodel/platform/coredata/NSManagedObjectContext.h"
+#include "tarnmodel/platform/coredata/rows/RowStore.h"
 
 #include <memory>
 #include <utility>

@@ -1,7 +1,7 @@
-#include "platform/coredata/SortOrder.h"
+#include "tarnmodel/platform/coredata/context/SortOrder.h"
 
-#include "platform/coredata/CompleteOrder.h"
-#include "platform/foundation/Collation.h"
+#include "tarnmodel/platform/coredata/description/CompleteOrder.h"
+#include "tarnmodel/platform/foundation/time/Collation.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/coredata/NSFetchRequest.h"
-#include "platform/coredata/NSManagedObject.h"
+#include "tarnmodel/platform/coredata/NSFetchRequest.h"
+#include "tarnmodel/platform/coredata/NSManagedObject.h"
 
 #include <compare>
 #include <span>

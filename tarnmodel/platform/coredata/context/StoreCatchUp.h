@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/coredata/MergeConflicts.h"
-#include "platform/coredata/RelationshipMaintenance.h"
+#include "tarnmodel/platform/coredata/context/MergeConflicts.h"
+#include "tarnmodel/platform/coredata/context/RelationshipMaintenance.h"
 
 #include <unordered_map>
 #include <vector>

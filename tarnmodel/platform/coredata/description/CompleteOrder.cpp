@@ -1,4 +1,4 @@
-#include "platform/coredata/CompleteOrder.h"
+#include "tarnmodel/platform/coredata/description/CompleteOrder.h"
 
 #include <algorithm>
 

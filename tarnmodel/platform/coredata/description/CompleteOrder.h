@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/coredata/NSFetchRequest.h"
+#include "tarnmodel/platform/coredata/NSFetchRequest.h"
 
 #include <span>
 #include <vector>

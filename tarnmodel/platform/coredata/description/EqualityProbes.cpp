@@ -1,7 +1,7 @@
-#include "platform/coredata/EqualityProbes.h"
+#include "tarnmodel/platform/coredata/description/EqualityProbes.h"
 
-#include "platform/coredata/IdentifiedObject.h"
-#include "platform/foundation/Folding.h"
+#include "tarnmodel/platform/coredata/IdentifiedObject.h"
+#include "tarnmodel/platform/foundation/text/Folding.h"
 
 #include <iterator>
 

@@ -1,4 +1,4 @@
-#include "platform/coredata/KeyPathWalk.h"
+#include "tarnmodel/platform/coredata/description/KeyPathWalk.h"
 
 namespace tarn {
 

@@ -1,4 +1,4 @@
-#include "platform/coredata/ModelFile.h"
+#include "tarnmodel/platform/coredata/description/ModelFile.h"
 
 #include <nlohmann/json.hpp>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/coredata/ModelFile.h"
-#include "platform/coredata/NSManagedObjectModel.h"
+#include "tarnmodel/platform/coredata/NSManagedObjectModel.h"
+#include "tarnmodel/platform/coredata/description/ModelFile.h"
 
 #include <memory>
 #include <string>

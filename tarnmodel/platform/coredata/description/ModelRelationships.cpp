@@ -1,4 +1,4 @@
-#include "platform/coredata/ModelReader.h"
+#include "tarnmodel/platform/coredata/description/ModelReader.h"
 
 #include <fmt/format.h>
 

@@ -1,7 +1,7 @@
-#include "platform/coredata/NSManagedObjectID.h"
+#include "tarnmodel/platform/coredata/NSManagedObjectID.h"
 
-#include "platform/foundation/Environment.h"
-#include "platform/foundation/NSUUID.h"
+#include "tarnmodel/platform/foundation/system/Environment.h"
+#include "tarnmodel/platform/foundation/system/NSUUID.h"
 
 #include <array>
 #include <atomic>

@@ -1,7 +1,7 @@
-#include "platform/coredata/NSManagedObjectModel.h"
+#include "tarnmodel/platform/coredata/NSManagedObjectModel.h"
 
-#include "platform/coredata/ModelReader.h"
-#include "platform/coredata/NSPersistentStore.h"
+#include "tarnmodel/platform/coredata/StoreErrors.h"
+#include "tarnmodel/platform/coredata/description/ModelReader.h"
 
 #include <fmt/format.h>
 

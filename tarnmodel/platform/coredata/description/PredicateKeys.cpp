@@ -1,6 +1,6 @@
-#include "platform/coredata/PredicateKeys.h"
+#include "tarnmodel/platform/coredata/description/PredicateKeys.h"
 
-#include "platform/foundation/NSException.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/coredata/NSManagedObjectModel.h"
-#include "platform/predicate/NSPredicate.h"
+#include "tarnmodel/platform/coredata/NSManagedObjectModel.h"
+#include "tarnmodel/platform/predicate/NSPredicate.h"
 
 namespace tarn {
 

@@ -1,7 +1,7 @@
-#include "platform/coredata/PropertyValues.h"
+#include "tarnmodel/platform/coredata/PropertyValues.h"
 
-#include "platform/foundation/NSException.h"
-#include "platform/foundation/UTF.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
 
 #include <algorithm>
 #include <cassert>

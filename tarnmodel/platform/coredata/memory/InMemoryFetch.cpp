@@ -1,9 +1,9 @@
-#include "platform/coredata/InMemoryFetch.h"
+#include "tarnmodel/platform/coredata/memory/InMemoryFetch.h"
 
-#include "platform/coredata/EqualityProbes.h"
-#include "platform/coredata/PredicateKeys.h"
-#include "platform/coredata/RowOrder.h"
-#include "platform/predicate/PredicateEvaluator.h"
+#include "tarnmodel/platform/coredata/description/EqualityProbes.h"
+#include "tarnmodel/platform/coredata/description/PredicateKeys.h"
+#include "tarnmodel/platform/coredata/rows/RowOrder.h"
+#include "tarnmodel/platform/predicate/PredicateEvaluator.h"
 
 #include <algorithm>
 #include <set>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/coredata/InMemoryState.h"
+#include "tarnmodel/platform/coredata/memory/InMemoryState.h"
 
 #include <string>
 #include <vector>

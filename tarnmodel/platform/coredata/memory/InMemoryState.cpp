@@ -1,6 +1,6 @@
-#include "platform/coredata/InMemoryState.h"
+#include "tarnmodel/platform/coredata/memory/InMemoryState.h"
 
-#include "platform/foundation/Folding.h"
+#include "tarnmodel/platform/foundation/text/Folding.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "platform/coredata/EqualityProbes.h"
-#include "platform/coredata/NSPersistentStore.h"
-#include "platform/coredata/RowObject.h"
-#include "platform/coredata/SnapshotMap.h"
+#include "tarnmodel/platform/coredata/description/EqualityProbes.h"
+#include "tarnmodel/platform/coredata/memory/SnapshotMap.h"
+#include "tarnmodel/platform/coredata/rows/RowObject.h"
+#include "tarnmodel/platform/coredata/rows/RowStore.h"
 
 #include <map>
 #include <memory>

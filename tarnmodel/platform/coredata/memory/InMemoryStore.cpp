@@ -1,9 +1,9 @@
-#include "platform/coredata/InMemoryStore.h"
+#include "tarnmodel/platform/coredata/memory/InMemoryStore.h"
 
-#include "platform/coredata/InMemoryFetch.h"
-#include "platform/coredata/InMemoryTransaction.h"
-#include "platform/coredata/StoreFailure.h"
-#include "platform/coredata/StoreMetadata.h"
+#include "tarnmodel/platform/coredata/memory/InMemoryFetch.h"
+#include "tarnmodel/platform/coredata/memory/InMemoryTransaction.h"
+#include "tarnmodel/platform/coredata/rows/StoreFailure.h"
+#include "tarnmodel/platform/coredata/rows/StoreMetadata.h"
 
 #include <algorithm>
 #include <functional>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/coredata/InMemoryState.h"
-#include "platform/coredata/NSPersistentStore.h"
-#include "platform/coredata/WriterTurn.h"
+#include "tarnmodel/platform/coredata/memory/InMemoryState.h"
+#include "tarnmodel/platform/coredata/rows/RowStore.h"
+#include "tarnmodel/platform/coredata/rows/WriterTurn.h"
 
 #include <atomic>
 #include <functional>
@@ -14,7 +14,7 @@ namespace tarn {
 /// Records in plain containers, gone with the store. Any thread.
 ///
 /// Readers take the last committed state and are never kept waiting; a transaction works on a copy.
-class InMemoryStore final : public NSPersistentStore {
+class InMemoryStore final : public RowStore {
 public:
     explicit InMemoryStore(std::shared_ptr<const NSManagedObjectModel> model);
 

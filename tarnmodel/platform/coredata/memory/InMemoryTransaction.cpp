@@ -1,6 +1,6 @@
-#include "platform/coredata/InMemoryTransaction.h"
+#include "tarnmodel/platform/coredata/memory/InMemoryTransaction.h"
 
-#include "platform/coredata/StoreFailure.h"
+#include "tarnmodel/platform/coredata/rows/StoreFailure.h"
 
 #include <algorithm>
 

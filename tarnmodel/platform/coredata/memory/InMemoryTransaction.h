@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/coredata/InMemoryStore.h"
+#include "tarnmodel/platform/coredata/memory/InMemoryStore.h"
 
 #include <vector>
 

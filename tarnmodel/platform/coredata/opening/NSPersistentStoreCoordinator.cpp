@@ -1,11 +1,11 @@
-#include "platform/coredata/NSPersistentStoreCoordinator.h"
+#include "tarnmodel/platform/coredata/NSPersistentStoreCoordinator.h"
 
-#include "platform/coredata/InMemoryStore.h"
-#include "platform/coredata/SQLiteConnection.h"
-#include "platform/coredata/SQLiteStore.h"
-#include "platform/coredata/SQLiteStoreFile.h"
-#include "platform/coredata/StoreFailure.h"
-#include "platform/coredata/StoreMetadata.h"
+#include "tarnmodel/platform/coredata/memory/InMemoryStore.h"
+#include "tarnmodel/platform/coredata/rows/StoreFailure.h"
+#include "tarnmodel/platform/coredata/rows/StoreMetadata.h"
+#include "tarnmodel/platform/coredata/sqlite/SQLiteConnection.h"
+#include "tarnmodel/platform/coredata/sqlite/SQLiteStoreFile.h"
+#include "tarnmodel/platform/coredata/sqlitestore/SQLiteStore.h"
 
 #include <charconv>
 
@@ -16,6 +16,11 @@ NSPersistentStoreCoordinator::NSPersistentStoreCoordinator(std::shared_ptr<const
 { }
 
 NSPersistentStoreCoordinator::~NSPersistentStoreCoordinator() = default;
+
+NSPersistentStore* NSPersistentStoreCoordinator::persistentStore() const noexcept
+{
+    return store_.get();
+}
 
 NSPersistentStore* NSPersistentStoreCoordinator::addPersistentStoreWithType(
     StoreType type, const std::filesystem::path& file, const StoreOptions& options, NSError* error)

@@ -1,4 +1,4 @@
-#include "platform/coredata/PredicateGrouping.h"
+#include "tarnmodel/platform/coredata/query/PredicateGrouping.h"
 
 #include <string>
 #include <unordered_map>

@@ -1,6 +1,6 @@
 // Conditions on collections: ANY, ALL, NONE, membership, counts and subqueries.
 
-#include "platform/coredata/SQLConditionBuilder.h"
+#include "tarnmodel/platform/coredata/query/SQLConditionBuilder.h"
 
 #include <array>
 

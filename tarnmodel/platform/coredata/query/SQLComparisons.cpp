@@ -1,9 +1,9 @@
 // Comparisons of single values: attributes and to-one relationships against constants and against each other.
 
-#include "platform/coredata/IdentifiedObject.h"
-#include "platform/coredata/SQLConditionBuilder.h"
-#include "platform/foundation/Folding.h"
-#include "platform/foundation/UTF.h"
+#include "tarnmodel/platform/coredata/IdentifiedObject.h"
+#include "tarnmodel/platform/coredata/query/SQLConditionBuilder.h"
+#include "tarnmodel/platform/foundation/text/Folding.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
 
 #include <array>
 #include <cmath>

@@ -1,8 +1,8 @@
-#include "platform/coredata/SQLConditionBuilder.h"
+#include "tarnmodel/platform/coredata/query/SQLConditionBuilder.h"
 
-#include "platform/coredata/PredicateGrouping.h"
-#include "platform/foundation/NSException.h"
-#include "platform/predicate/PredicateEvaluator.h"
+#include "tarnmodel/platform/coredata/query/PredicateGrouping.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
+#include "tarnmodel/platform/predicate/PredicateEvaluator.h"
 
 #include <algorithm>
 #include <span>

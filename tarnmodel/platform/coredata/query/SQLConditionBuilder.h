@@ -1,10 +1,10 @@
 #pragma once
 
-#include "platform/coredata/KeySet.h"
-#include "platform/coredata/NSManagedObjectID.h"
-#include "platform/coredata/SQLScope.h"
-#include "platform/coredata/SQLText.h"
-#include "platform/predicate/PredicateTree.h"
+#include "tarnmodel/platform/coredata/NSManagedObjectID.h"
+#include "tarnmodel/platform/coredata/query/SQLScope.h"
+#include "tarnmodel/platform/coredata/sqlite/KeySet.h"
+#include "tarnmodel/platform/coredata/sqlite/SQLText.h"
+#include "tarnmodel/platform/predicate/PredicateTree.h"
 
 #include <functional>
 #include <optional>

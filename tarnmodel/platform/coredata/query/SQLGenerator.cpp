@@ -1,9 +1,9 @@
-#include "platform/coredata/SQLGenerator.h"
+#include "tarnmodel/platform/coredata/query/SQLGenerator.h"
 
-#include "platform/coredata/CompleteOrder.h"
-#include "platform/coredata/PredicateKeys.h"
-#include "platform/coredata/RowLayout.h"
-#include "platform/foundation/NSException.h"
+#include "tarnmodel/platform/coredata/description/CompleteOrder.h"
+#include "tarnmodel/platform/coredata/description/PredicateKeys.h"
+#include "tarnmodel/platform/coredata/sqlite/RowLayout.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
 
 #include <algorithm>
 #include <array>
@@ -12,27 +12,6 @@
 namespace tarn {
 
 namespace {
-
-/// `text` as an SQL string.
-std::string quotedText(std::string_view text)
-{
-    std::string quoted = "'";
-    for (const char c : text) {
-        quoted += c;
-        if (c == '\'')
-            quoted += c;
-    }
-    return quoted += '\'';
-}
-
-void collectNames(const NSEntityDescription& entity, bool includesSubentities, std::string& names)
-{
-    names += (names.empty() ? "" : ", ") + quotedText(entity.name());
-    if (!includesSubentities)
-        return;
-    for (const NSEntityDescription* subentity : entity.subentities())
-        collectNames(*subentity, true, names);
-}
 
 std::vector<std::string> splitKeyPath(std::string_view keyPath)
 {
@@ -76,16 +55,6 @@ std::string_view nameOfPlan(SearchPlan::Kind kind)
     constexpr std::array<std::string_view, 5> kNames{
         "no index", "check candidates", "sort candidates", "walk the order", "scan"};
     return kNames[static_cast<std::size_t>(kind)];
-}
-
-std::string entityCondition(const NSEntityDescription& entity, bool includesSubentities, std::string_view alias)
-{
-    const bool isWholeTable = &entity.rootEntity() == &entity && includesSubentities;
-    if (isWholeTable || (entity.rootEntity().subentities().empty()))
-        return {};
-    std::string names;
-    collectNames(entity, includesSubentities, names);
-    return std::string(alias) + ".\"entity\" IN (" + names + ")";
 }
 
 struct SQLGenerator::Parts {

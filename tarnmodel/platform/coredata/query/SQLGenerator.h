@@ -1,9 +1,9 @@
 #pragma once
 
-#include "platform/coredata/NSPersistentStore.h"
-#include "platform/coredata/SQLConditionBuilder.h"
-#include "platform/coredata/SQLText.h"
-#include "platform/coredata/StoreSelects.h"
+#include "tarnmodel/platform/coredata/query/SQLConditionBuilder.h"
+#include "tarnmodel/platform/coredata/rows/RowStore.h"
+#include "tarnmodel/platform/coredata/sqlite/SQLText.h"
+#include "tarnmodel/platform/coredata/sqlite/StoreSelects.h"
 
 #include <optional>
 #include <string>
@@ -86,8 +86,5 @@ private:
     SQLConditionOptions options_;
     SearchPlan plan_;
 };
-
-/// `"entity" IN (...)` for the rows of an entity; empty when every row of the table is one.
-std::string entityCondition(const NSEntityDescription& entity, bool includesSubentities, std::string_view alias);
 
 } // namespace tarn

@@ -1,6 +1,6 @@
-#include "platform/coredata/SQLScope.h"
+#include "tarnmodel/platform/coredata/query/SQLScope.h"
 
-#include "platform/foundation/NSException.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
 
 namespace tarn {
 

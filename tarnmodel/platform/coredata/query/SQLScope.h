@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/coredata/StoreSchema.h"
+#include "tarnmodel/platform/coredata/sqlite/StoreSchema.h"
 
 #include <span>
 #include <string>

@@ -1,11 +1,11 @@
 // Conditions on the texts of a row: those of several words are one question, which reads each text once.
 
-#include "platform/coredata/PredicateGrouping.h"
-#include "platform/coredata/RowTextTests.h"
-#include "platform/coredata/SQLConditionBuilder.h"
-#include "platform/coredata/TextLeaf.h"
-#include "platform/foundation/Folding.h"
-#include "platform/predicate/PredicateEquality.h"
+#include "tarnmodel/platform/coredata/query/PredicateGrouping.h"
+#include "tarnmodel/platform/coredata/query/SQLConditionBuilder.h"
+#include "tarnmodel/platform/coredata/query/TextLeaf.h"
+#include "tarnmodel/platform/coredata/sqlite/RowTextTests.h"
+#include "tarnmodel/platform/foundation/text/Folding.h"
+#include "tarnmodel/platform/predicate/PredicateEquality.h"
 
 #include <algorithm>
 #include <map>

@@ -1,8 +1,8 @@
-#include "platform/coredata/SQLiteFetch.h"
+#include "tarnmodel/platform/coredata/query/SQLiteFetch.h"
 
-#include "platform/coredata/PredicateKeys.h"
-#include "platform/coredata/SQLiteConnection.h"
-#include "platform/predicate/PredicateEvaluator.h"
+#include "tarnmodel/platform/coredata/description/PredicateKeys.h"
+#include "tarnmodel/platform/coredata/sqlite/SQLiteConnection.h"
+#include "tarnmodel/platform/predicate/PredicateEvaluator.h"
 
 #include <algorithm>
 

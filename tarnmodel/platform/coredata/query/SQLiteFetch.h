@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/coredata/NSPersistentStore.h"
-#include "platform/coredata/SQLGenerator.h"
-#include "platform/coredata/StoreSelects.h"
+#include "tarnmodel/platform/coredata/query/SQLGenerator.h"
+#include "tarnmodel/platform/coredata/rows/RowStore.h"
+#include "tarnmodel/platform/coredata/sqlite/StoreSelects.h"
 
 #include <cstddef>
 #include <string>

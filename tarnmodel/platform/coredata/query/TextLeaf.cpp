@@ -1,4 +1,4 @@
-#include "platform/coredata/TextLeaf.h"
+#include "tarnmodel/platform/coredata/query/TextLeaf.h"
 
 namespace tarn {
 

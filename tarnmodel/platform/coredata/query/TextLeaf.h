@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/coredata/SQLScope.h"
-#include "platform/predicate/PredicateTree.h"
+#include "tarnmodel/platform/coredata/query/SQLScope.h"
+#include "tarnmodel/platform/predicate/PredicateTree.h"
 
 #include <map>
 #include <optional>

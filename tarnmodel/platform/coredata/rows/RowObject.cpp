@@ -1,7 +1,7 @@
-#include "platform/coredata/RowObject.h"
+#include "tarnmodel/platform/coredata/rows/RowObject.h"
 
-#include "platform/coredata/StoreFailure.h"
-#include "platform/foundation/NSException.h"
+#include "tarnmodel/platform/coredata/rows/StoreFailure.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
 
 namespace tarn {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/coredata/IdentifiedObject.h"
-#include "platform/coredata/NSPersistentStore.h"
+#include "tarnmodel/platform/coredata/IdentifiedObject.h"
+#include "tarnmodel/platform/coredata/rows/RowStore.h"
 
 #include <memory>
 #include <optional>
@@ -20,7 +20,7 @@ public:
     /// None when there is no such row.
     virtual std::optional<StoreRow> readRow(
         const NSEntityDescription& entity, std::int64_t key, RowContents contents) const = 0;
-    /// As `NSPersistentStore::relatedKeys` says.
+    /// As `RowStore::relatedKeys` says.
     virtual std::vector<RelatedKey> readRelatedKeys(
         const NSRelationshipDescription& relationship, std::int64_t key) const = 0;
 };

@@ -1,8 +1,8 @@
-#include "platform/coredata/RowOrder.h"
+#include "tarnmodel/platform/coredata/rows/RowOrder.h"
 
-#include "platform/coredata/CompleteOrder.h"
-#include "platform/foundation/Collation.h"
-#include "platform/foundation/NSException.h"
+#include "tarnmodel/platform/coredata/description/CompleteOrder.h"
+#include "tarnmodel/platform/foundation/time/Collation.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
 
 #include <algorithm>
 #include <compare>

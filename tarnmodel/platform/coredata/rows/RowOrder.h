@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/coredata/NSFetchRequest.h"
-#include "platform/coredata/RowObject.h"
+#include "tarnmodel/platform/coredata/NSFetchRequest.h"
+#include "tarnmodel/platform/coredata/rows/RowObject.h"
 
 #include <span>
 #include <string>

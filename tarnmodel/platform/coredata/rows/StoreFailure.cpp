@@ -1,6 +1,6 @@
-#include "platform/coredata/StoreFailure.h"
+#include "tarnmodel/platform/coredata/rows/StoreFailure.h"
 
-#include "platform/coredata/NSPersistentStore.h"
+#include "tarnmodel/platform/coredata/rows/RowStore.h"
 
 namespace tarn {
 

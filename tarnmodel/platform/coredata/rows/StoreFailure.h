@@ -1,7 +1,8 @@
 #pragma once
 
-#include "platform/foundation/NSError.h"
-#include "platform/foundation/NSException.h"
+#include "tarnmodel/platform/coredata/StoreErrors.h"
+#include "tarnmodel/platform/foundation/values/NSError.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
 
 #include <exception>
 #include <new>
@@ -21,9 +22,6 @@ public:
 private:
     NSError error_;
 };
-
-/// The error that an exception under way stands for. Call inside a catch block.
-NSError errorOfCurrentException();
 
 /// Runs an operation of a store's interface: what it throws becomes `error` and a false answer.
 template <typename Operation> bool reportingFailure(NSError* error, Operation&& operation)

@@ -1,7 +1,7 @@
-#include "platform/coredata/StoreMetadata.h"
+#include "tarnmodel/platform/coredata/rows/StoreMetadata.h"
 
-#include "platform/foundation/Folding.h"
-#include "platform/foundation/NSUUID.h"
+#include "tarnmodel/platform/foundation/system/NSUUID.h"
+#include "tarnmodel/platform/foundation/text/Folding.h"
 
 #include <charconv>
 

@@ -1,4 +1,4 @@
-#include "platform/coredata/WriterTurn.h"
+#include "tarnmodel/platform/coredata/rows/WriterTurn.h"
 
 namespace tarn {
 

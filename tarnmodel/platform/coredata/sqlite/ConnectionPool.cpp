@@ -1,7 +1,7 @@
-#include "platform/coredata/ConnectionPool.h"
+#include "tarnmodel/platform/coredata/sqlite/ConnectionPool.h"
 
-#include "platform/coredata/NSPersistentStore.h"
-#include "platform/coredata/StoreFailure.h"
+#include "tarnmodel/platform/coredata/rows/RowStore.h"
+#include "tarnmodel/platform/coredata/rows/StoreFailure.h"
 
 #include <sys/stat.h>
 

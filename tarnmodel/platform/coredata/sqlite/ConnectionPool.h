@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/coredata/SQLiteConnection.h"
-#include "platform/coredata/WriterTurn.h"
+#include "tarnmodel/platform/coredata/rows/WriterTurn.h"
+#include "tarnmodel/platform/coredata/sqlite/SQLiteConnection.h"
 
 #include <atomic>
 #include <condition_variable>

@@ -1,4 +1,4 @@
-#include "platform/coredata/KeySet.h"
+#include "tarnmodel/platform/coredata/sqlite/KeySet.h"
 
 #include <algorithm>
 #include <iterator>

@@ -1,7 +1,7 @@
-#include "platform/coredata/RowLayout.h"
+#include "tarnmodel/platform/coredata/sqlite/RowLayout.h"
 
-#include "platform/coredata/SQLiteConnection.h"
-#include "platform/coredata/StoreFailure.h"
+#include "tarnmodel/platform/coredata/rows/StoreFailure.h"
+#include "tarnmodel/platform/coredata/sqlite/SQLiteConnection.h"
 
 namespace tarn {
 

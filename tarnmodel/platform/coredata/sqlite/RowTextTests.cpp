@@ -1,7 +1,7 @@
-#include "platform/coredata/RowTextTests.h"
+#include "tarnmodel/platform/coredata/sqlite/RowTextTests.h"
 
-#include "platform/coredata/SQLiteConnection.h"
-#include "platform/foundation/Folding.h"
+#include "tarnmodel/platform/coredata/sqlite/SQLiteConnection.h"
+#include "tarnmodel/platform/foundation/text/Folding.h"
 
 #include <fmt/format.h>
 

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "platform/coredata/KeySet.h"
-#include "platform/coredata/SQLText.h"
-#include "platform/predicate/LiteralFinder.h"
-#include "platform/predicate/StringTest.h"
-#include "platform/predicate/TestFormula.h"
+#include "tarnmodel/platform/coredata/sqlite/KeySet.h"
+#include "tarnmodel/platform/coredata/sqlite/SQLText.h"
+#include "tarnmodel/platform/predicate/LiteralFinder.h"
+#include "tarnmodel/platform/predicate/StringTest.h"
+#include "tarnmodel/platform/predicate/TestFormula.h"
 
 #include <functional>
 #include <map>

@@ -1,9 +1,9 @@
-#include "platform/coredata/SQLText.h"
+#include "tarnmodel/platform/coredata/sqlite/SQLText.h"
 
-#include "platform/coredata/RowTextTests.h"
-#include "platform/coredata/SQLiteConnection.h"
-#include "platform/coredata/SQLiteFunctions.h"
-#include "platform/predicate/PredicateTree.h"
+#include "tarnmodel/platform/coredata/sqlite/RowTextTests.h"
+#include "tarnmodel/platform/coredata/sqlite/SQLiteConnection.h"
+#include "tarnmodel/platform/coredata/sqlite/SQLiteFunctions.h"
+#include "tarnmodel/platform/predicate/PredicateTree.h"
 
 #include <fmt/format.h>
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/coredata/KeySet.h"
-#include "platform/foundation/Value.h"
-#include "platform/predicate/StringTest.h"
+#include "tarnmodel/platform/coredata/sqlite/KeySet.h"
+#include "tarnmodel/platform/foundation/values/Value.h"
+#include "tarnmodel/platform/predicate/StringTest.h"
 
 #include <cstdint>
 #include <memory>

@@ -1,8 +1,8 @@
-#include "platform/coredata/SQLiteConnection.h"
+#include "tarnmodel/platform/coredata/sqlite/SQLiteConnection.h"
 
-#include "platform/coredata/NSPersistentStore.h"
-#include "platform/coredata/SQLiteFunctions.h"
-#include "platform/coredata/StoreFailure.h"
+#include "tarnmodel/platform/coredata/rows/RowStore.h"
+#include "tarnmodel/platform/coredata/rows/StoreFailure.h"
+#include "tarnmodel/platform/coredata/sqlite/SQLiteFunctions.h"
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/foundation/NSError.h"
+#include "tarnmodel/platform/foundation/values/NSError.h"
 
 #include <chrono>
 #include <cstddef>

@@ -1,13 +1,13 @@
-#include "platform/coredata/SQLiteFunctions.h"
+#include "tarnmodel/platform/coredata/sqlite/SQLiteFunctions.h"
 
-#include "platform/coredata/KeySet.h"
-#include "platform/coredata/RowTextTests.h"
-#include "platform/coredata/SQLiteConnection.h"
-#include "platform/coredata/SQLiteValueList.h"
-#include "platform/coredata/StoreFailure.h"
-#include "platform/foundation/Collation.h"
-#include "platform/foundation/Folding.h"
-#include "platform/predicate/StringTest.h"
+#include "tarnmodel/platform/coredata/rows/StoreFailure.h"
+#include "tarnmodel/platform/coredata/sqlite/KeySet.h"
+#include "tarnmodel/platform/coredata/sqlite/RowTextTests.h"
+#include "tarnmodel/platform/coredata/sqlite/SQLiteConnection.h"
+#include "tarnmodel/platform/coredata/sqlite/SQLiteValueList.h"
+#include "tarnmodel/platform/foundation/text/Folding.h"
+#include "tarnmodel/platform/foundation/time/Collation.h"
+#include "tarnmodel/platform/predicate/StringTest.h"
 
 #include <cstring>
 #include <exception>

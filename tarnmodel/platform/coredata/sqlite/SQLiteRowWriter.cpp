@@ -1,10 +1,10 @@
-#include "platform/coredata/SQLiteRowWriter.h"
+#include "tarnmodel/platform/coredata/sqlite/SQLiteRowWriter.h"
 
-#include "platform/coredata/SQLiteConnection.h"
-#include "platform/coredata/SearchTables.h"
-#include "platform/coredata/StoreFailure.h"
-#include "platform/coredata/SubstringSignature.h"
-#include "platform/foundation/Folding.h"
+#include "tarnmodel/platform/coredata/rows/StoreFailure.h"
+#include "tarnmodel/platform/coredata/sqlite/SQLiteConnection.h"
+#include "tarnmodel/platform/coredata/sqlite/SearchTables.h"
+#include "tarnmodel/platform/coredata/sqlite/SubstringSignature.h"
+#include "tarnmodel/platform/foundation/text/Folding.h"
 
 #include <algorithm>
 

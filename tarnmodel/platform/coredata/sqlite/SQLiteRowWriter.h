@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/coredata/NSPersistentStore.h"
-#include "platform/coredata/StoreSchema.h"
+#include "tarnmodel/platform/coredata/rows/RowStore.h"
+#include "tarnmodel/platform/coredata/sqlite/StoreSchema.h"
 
 #include <cstdint>
 #include <optional>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/coredata/StoreMetadata.h"
-#include "platform/coredata/StoreSchema.h"
+#include "tarnmodel/platform/coredata/rows/StoreMetadata.h"
+#include "tarnmodel/platform/coredata/sqlite/StoreSchema.h"
 
 #include <cstdint>
 #include <string>

@@ -1,8 +1,8 @@
-#include "platform/coredata/SQLiteValueList.h"
+#include "tarnmodel/platform/coredata/sqlite/SQLiteValueList.h"
 
-#include "platform/coredata/SQLiteConnection.h"
-#include "platform/coredata/SQLiteFunctions.h"
-#include "platform/foundation/Value.h"
+#include "tarnmodel/platform/coredata/sqlite/SQLiteConnection.h"
+#include "tarnmodel/platform/coredata/sqlite/SQLiteFunctions.h"
+#include "tarnmodel/platform/foundation/values/Value.h"
 
 #include <new>
 #include <sqlite3.h>

@@ -1,8 +1,8 @@
-#include "platform/coredata/SearchTables.h"
+#include "tarnmodel/platform/coredata/sqlite/SearchTables.h"
 
-#include "platform/coredata/SQLiteConnection.h"
-#include "platform/coredata/SQLiteStoreFile.h"
-#include "platform/coredata/SubstringSignature.h"
+#include "tarnmodel/platform/coredata/sqlite/SQLiteConnection.h"
+#include "tarnmodel/platform/coredata/sqlite/SQLiteStoreFile.h"
+#include "tarnmodel/platform/coredata/sqlite/SubstringSignature.h"
 
 #include <algorithm>
 

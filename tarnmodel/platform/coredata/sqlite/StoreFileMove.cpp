@@ -1,8 +1,8 @@
-#include "platform/coredata/StoreFileMove.h"
+#include "tarnmodel/platform/coredata/StoreFileMove.h"
 
-#include "platform/coredata/NSPersistentStore.h"
-#include "platform/coredata/SQLiteConnection.h"
-#include "platform/coredata/StoreFailure.h"
+#include "tarnmodel/platform/coredata/rows/RowStore.h"
+#include "tarnmodel/platform/coredata/rows/StoreFailure.h"
+#include "tarnmodel/platform/coredata/sqlite/SQLiteConnection.h"
 
 #include <system_error>
 

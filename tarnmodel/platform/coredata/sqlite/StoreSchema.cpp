@@ -1,4 +1,4 @@
-#include "platform/coredata/StoreSchema.h"
+#include "tarnmodel/platform/coredata/sqlite/StoreSchema.h"
 
 #include <algorithm>
 
@@ -337,7 +337,38 @@ void addJoinStatements(const JoinTable& join, std::vector<std::string>& all)
     all.push_back(indexStatement(join.name + "_member", join.name, "\"member\", \"owner\"", true));
 }
 
+/// `text` as an SQL string.
+std::string quotedText(std::string_view text)
+{
+    std::string quoted = "'";
+    for (const char c : text) {
+        quoted += c;
+        if (c == '\'')
+            quoted += c;
+    }
+    return quoted += '\'';
+}
+
+void collectNames(const NSEntityDescription& entity, bool includesSubentities, std::string& names)
+{
+    names += (names.empty() ? "" : ", ") + quotedText(entity.name());
+    if (!includesSubentities)
+        return;
+    for (const NSEntityDescription* subentity : entity.subentities())
+        collectNames(*subentity, true, names);
+}
+
 } // namespace
+
+std::string entityCondition(const NSEntityDescription& entity, bool includesSubentities, std::string_view alias)
+{
+    const bool isWholeTable = &entity.rootEntity() == &entity && includesSubentities;
+    if (isWholeTable || (entity.rootEntity().subentities().empty()))
+        return {};
+    std::string names;
+    collectNames(entity, includesSubentities, names);
+    return std::string(alias) + ".\"entity\" IN (" + names + ")";
+}
 
 std::vector<std::string> StoreSchema::creationStatements() const
 {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/coredata/NSManagedObjectModel.h"
+#include "tarnmodel/platform/coredata/NSManagedObjectModel.h"
 
 #include <memory>
 #include <string>
@@ -88,6 +88,9 @@ inline bool hasSignature(const NSAttributeDescription& attribute) noexcept
 {
     return attribute.isSubstringIndexed() && attribute.type() == NSAttributeType::String;
 }
+
+/// `"entity" IN (...)` for the rows of an entity; empty when every row of the table is one.
+std::string entityCondition(const NSEntityDescription& entity, bool includesSubentities, std::string_view alias);
 
 /// How a model lies in SQLite: tables, columns, join tables, and the statements that make them.
 ///

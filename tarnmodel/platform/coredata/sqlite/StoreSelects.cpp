@@ -1,9 +1,8 @@
-#include "platform/coredata/StoreSelects.h"
+#include "tarnmodel/platform/coredata/sqlite/StoreSelects.h"
 
-#include "platform/coredata/SQLGenerator.h"
-#include "platform/coredata/SQLiteConnection.h"
-#include "platform/coredata/SQLiteFunctions.h"
-#include "platform/coredata/StoreFailure.h"
+#include "tarnmodel/platform/coredata/rows/StoreFailure.h"
+#include "tarnmodel/platform/coredata/sqlite/SQLiteConnection.h"
+#include "tarnmodel/platform/coredata/sqlite/SQLiteFunctions.h"
 
 namespace tarn {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/coredata/RowLayout.h"
-#include "platform/coredata/RowObject.h"
-#include "platform/coredata/StoreSchema.h"
+#include "tarnmodel/platform/coredata/rows/RowObject.h"
+#include "tarnmodel/platform/coredata/sqlite/RowLayout.h"
+#include "tarnmodel/platform/coredata/sqlite/StoreSchema.h"
 
 #include <array>
 #include <map>

@@ -1,15 +1,15 @@
-#include "platform/coredata/SQLiteStore.h"
+#include "tarnmodel/platform/coredata/sqlitestore/SQLiteStore.h"
 
-#include "platform/coredata/CandidateWalk.h"
-#include "platform/coredata/CompleteOrder.h"
-#include "platform/coredata/ParallelScan.h"
-#include "platform/coredata/SQLiteFetch.h"
-#include "platform/coredata/SQLiteStoreFile.h"
-#include "platform/coredata/SQLiteTransaction.h"
-#include "platform/coredata/SearchTables.h"
-#include "platform/coredata/StoreFailure.h"
-#include "platform/coredata/StoreSearch.h"
-#include "platform/foundation/Folding.h"
+#include "tarnmodel/platform/coredata/description/CompleteOrder.h"
+#include "tarnmodel/platform/coredata/query/SQLiteFetch.h"
+#include "tarnmodel/platform/coredata/rows/StoreFailure.h"
+#include "tarnmodel/platform/coredata/sqlite/SQLiteStoreFile.h"
+#include "tarnmodel/platform/coredata/sqlite/SearchTables.h"
+#include "tarnmodel/platform/coredata/sqlitestore/SQLiteTransaction.h"
+#include "tarnmodel/platform/coredata/textsearch/CandidateWalk.h"
+#include "tarnmodel/platform/coredata/textsearch/ParallelScan.h"
+#include "tarnmodel/platform/coredata/textsearch/StoreSearch.h"
+#include "tarnmodel/platform/foundation/text/Folding.h"
 
 #include <fmt/format.h>
 

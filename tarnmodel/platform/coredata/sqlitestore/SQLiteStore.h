@@ -1,15 +1,15 @@
 #pragma once
 
-#include "platform/coredata/CommonFlags.h"
-#include "platform/coredata/ConnectionPool.h"
-#include "platform/coredata/NSPersistentStore.h"
-#include "platform/coredata/NSPersistentStoreCoordinator.h"
-#include "platform/coredata/SQLGenerator.h"
-#include "platform/coredata/SQLiteRowWriter.h"
-#include "platform/coredata/SearchIndex.h"
-#include "platform/coredata/StoreMetadata.h"
-#include "platform/coredata/StoreSchema.h"
-#include "platform/coredata/StoreSelects.h"
+#include "tarnmodel/platform/coredata/NSPersistentStoreCoordinator.h"
+#include "tarnmodel/platform/coredata/query/SQLGenerator.h"
+#include "tarnmodel/platform/coredata/rows/RowStore.h"
+#include "tarnmodel/platform/coredata/rows/StoreMetadata.h"
+#include "tarnmodel/platform/coredata/sqlite/CommonFlags.h"
+#include "tarnmodel/platform/coredata/sqlite/ConnectionPool.h"
+#include "tarnmodel/platform/coredata/sqlite/SQLiteRowWriter.h"
+#include "tarnmodel/platform/coredata/sqlite/StoreSchema.h"
+#include "tarnmodel/platform/coredata/sqlite/StoreSelects.h"
+#include "tarnmodel/platform/coredata/textsearch/SearchIndex.h"
 
 #include <atomic>
 #include <functional>
@@ -23,7 +23,7 @@ class StoreSearch;
 enum class WritingEnd : std::uint8_t;
 
 /// Records in one SQLite file, which several processes may have open at once. Any thread.
-class SQLiteStore final : public NSPersistentStore {
+class SQLiteStore final : public RowStore {
 public:
     /// Opens the file, and makes it where the options say so. Throws a `StoreFailure`.
     SQLiteStore(std::shared_ptr<const NSManagedObjectModel> model, const std::filesystem::path& file,

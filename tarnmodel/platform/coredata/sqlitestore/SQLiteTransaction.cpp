@@ -1,8 +1,8 @@
-#include "platform/coredata/SQLiteTransaction.h"
+#include "tarnmodel/platform/coredata/sqlitestore/SQLiteTransaction.h"
 
-#include "platform/coredata/SQLiteStore.h"
-#include "platform/coredata/StoreFailure.h"
-#include "platform/foundation/Log.h"
+#include "tarnmodel/platform/coredata/rows/StoreFailure.h"
+#include "tarnmodel/platform/coredata/sqlitestore/SQLiteStore.h"
+#include "tarnmodel/platform/foundation/system/Log.h"
 
 namespace tarn {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/coredata/NSPersistentStore.h"
-#include "platform/coredata/SQLiteRowWriter.h"
+#include "tarnmodel/platform/coredata/rows/RowStore.h"
+#include "tarnmodel/platform/coredata/sqlite/SQLiteRowWriter.h"
 
 namespace tarn {
 

@@ -1,6 +1,6 @@
-#include "platform/coredata/CandidateFinder.h"
+#include "tarnmodel/platform/coredata/textsearch/CandidateFinder.h"
 
-#include "platform/coredata/SQLiteConnection.h"
+#include "tarnmodel/platform/coredata/sqlite/SQLiteConnection.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/coredata/SQLConditionBuilder.h"
-#include "platform/coredata/SearchIndex.h"
-#include "platform/predicate/NSPredicate.h"
+#include "tarnmodel/platform/coredata/query/SQLConditionBuilder.h"
+#include "tarnmodel/platform/coredata/textsearch/SearchIndex.h"
+#include "tarnmodel/platform/predicate/NSPredicate.h"
 
 #include <functional>
 

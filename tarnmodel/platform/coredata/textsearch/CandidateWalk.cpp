@@ -1,9 +1,9 @@
-#include "platform/coredata/CandidateWalk.h"
+#include "tarnmodel/platform/coredata/textsearch/CandidateWalk.h"
 
-#include "platform/coredata/CappedSum.h"
-#include "platform/coredata/ParallelScan.h"
-#include "platform/coredata/RowLayout.h"
-#include "platform/coredata/SQLiteConnection.h"
+#include "tarnmodel/platform/coredata/rows/CappedSum.h"
+#include "tarnmodel/platform/coredata/sqlite/RowLayout.h"
+#include "tarnmodel/platform/coredata/sqlite/SQLiteConnection.h"
+#include "tarnmodel/platform/coredata/textsearch/ParallelScan.h"
 
 #include <algorithm>
 #include <iterator>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/coredata/NSPersistentStore.h"
-#include "platform/coredata/SQLGenerator.h"
+#include "tarnmodel/platform/coredata/query/SQLGenerator.h"
+#include "tarnmodel/platform/coredata/rows/RowStore.h"
 
 #include <cstdint>
 #include <optional>

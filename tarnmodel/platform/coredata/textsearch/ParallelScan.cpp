@@ -1,6 +1,6 @@
-#include "platform/coredata/ParallelScan.h"
+#include "tarnmodel/platform/coredata/textsearch/ParallelScan.h"
 
-#include "platform/coredata/ConnectionPool.h"
+#include "tarnmodel/platform/coredata/sqlite/ConnectionPool.h"
 
 #include <exception>
 #include <limits>

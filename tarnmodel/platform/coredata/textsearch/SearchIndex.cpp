@@ -1,7 +1,7 @@
-#include "platform/coredata/SearchIndex.h"
+#include "tarnmodel/platform/coredata/textsearch/SearchIndex.h"
 
-#include "platform/coredata/SubstringSignature.h"
-#include "platform/predicate/StringTest.h"
+#include "tarnmodel/platform/coredata/sqlite/SubstringSignature.h"
+#include "tarnmodel/platform/predicate/StringTest.h"
 
 namespace tarn {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/coredata/SignatureMirror.h"
+#include "tarnmodel/platform/coredata/textsearch/SignatureMirror.h"
 
 #include <cstddef>
 #include <map>

@@ -1,7 +1,7 @@
-#include "platform/coredata/SignatureMirror.h"
+#include "tarnmodel/platform/coredata/textsearch/SignatureMirror.h"
 
-#include "platform/coredata/SQLiteConnection.h"
-#include "platform/coredata/SubstringSignature.h"
+#include "tarnmodel/platform/coredata/sqlite/SQLiteConnection.h"
+#include "tarnmodel/platform/coredata/sqlite/SubstringSignature.h"
 
 #include <algorithm>
 #include <mutex>

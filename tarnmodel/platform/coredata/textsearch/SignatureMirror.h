@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/coredata/KeySet.h"
-#include "platform/coredata/StoreSchema.h"
+#include "tarnmodel/platform/coredata/sqlite/KeySet.h"
+#include "tarnmodel/platform/coredata/sqlite/StoreSchema.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,9 +1,9 @@
-#include "platform/coredata/StoreSearch.h"
+#include "tarnmodel/platform/coredata/textsearch/StoreSearch.h"
 
-#include "platform/coredata/CandidateFinder.h"
-#include "platform/coredata/CappedSum.h"
-#include "platform/coredata/CompleteOrder.h"
-#include "platform/coredata/SQLiteConnection.h"
+#include "tarnmodel/platform/coredata/description/CompleteOrder.h"
+#include "tarnmodel/platform/coredata/rows/CappedSum.h"
+#include "tarnmodel/platform/coredata/sqlite/SQLiteConnection.h"
+#include "tarnmodel/platform/coredata/textsearch/CandidateFinder.h"
 
 #include <fmt/format.h>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/coredata/SQLGenerator.h"
-#include "platform/coredata/SearchIndex.h"
+#include "tarnmodel/platform/coredata/query/SQLGenerator.h"
+#include "tarnmodel/platform/coredata/textsearch/SearchIndex.h"
 
 #include <chrono>
 #include <optional>

@@ -1,6 +1,6 @@
-#include "platform/foundation/GlobalPoolInternal.h"
+#include "tarnmodel/platform/foundation/events/GlobalPoolInternal.h"
 
-#include "platform/foundation/MainQueueInternal.h"
+#include "tarnmodel/platform/foundation/events/MainQueueInternal.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/foundation/QueueInternal.h"
+#include "tarnmodel/platform/foundation/events/QueueInternal.h"
 
 #include <condition_variable>
 #include <deque>

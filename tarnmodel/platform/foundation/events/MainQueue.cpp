@@ -1,7 +1,7 @@
-#include "platform/foundation/GlobalPoolInternal.h"
-#include "platform/foundation/MainQueueInternal.h"
-#include "platform/foundation/NSException.h"
-#include "platform/foundation/Queue.h"
+#include "tarnmodel/platform/foundation/events/GlobalPoolInternal.h"
+#include "tarnmodel/platform/foundation/events/MainQueueInternal.h"
+#include "tarnmodel/platform/foundation/events/Queue.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
 
 #include <fmt/format.h>
 

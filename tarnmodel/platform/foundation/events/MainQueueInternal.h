@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/foundation/QueueInternal.h"
-#include "platform/foundation/WakeDescriptorInternal.h"
+#include "tarnmodel/platform/foundation/events/QueueInternal.h"
+#include "tarnmodel/platform/foundation/events/WakeDescriptorInternal.h"
 
 #include <deque>
 #include <utility>

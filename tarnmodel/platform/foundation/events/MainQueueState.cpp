@@ -1,4 +1,4 @@
-#include "platform/foundation/MainQueueInternal.h"
+#include "tarnmodel/platform/foundation/events/MainQueueInternal.h"
 
 #include <algorithm>
 #include <utility>

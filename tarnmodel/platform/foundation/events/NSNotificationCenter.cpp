@@ -1,6 +1,6 @@
-#include "platform/foundation/NSNotificationCenter.h"
+#include "tarnmodel/platform/foundation/events/NSNotificationCenter.h"
 
-#include "platform/foundation/QueueInternal.h"
+#include "tarnmodel/platform/foundation/events/QueueInternal.h"
 
 #include <algorithm>
 #include <condition_variable>

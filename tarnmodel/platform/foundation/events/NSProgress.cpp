@@ -1,6 +1,6 @@
-#include "platform/foundation/NSProgress.h"
+#include "tarnmodel/platform/foundation/events/NSProgress.h"
 
-#include "platform/foundation/NSException.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
 
 #include <algorithm>
 #include <mutex>

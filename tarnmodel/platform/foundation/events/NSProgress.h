@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/foundation/NSNotificationCenter.h"
+#include "tarnmodel/platform/foundation/events/NSNotificationCenter.h"
 
 #include <cstdint>
 #include <functional>

@@ -1,10 +1,10 @@
-#include "platform/foundation/Queue.h"
+#include "tarnmodel/platform/foundation/events/Queue.h"
 
-#include "platform/foundation/GlobalPoolInternal.h"
-#include "platform/foundation/Log.h"
-#include "platform/foundation/MainQueueInternal.h"
-#include "platform/foundation/NSException.h"
-#include "platform/foundation/QueueInternal.h"
+#include "tarnmodel/platform/foundation/events/GlobalPoolInternal.h"
+#include "tarnmodel/platform/foundation/events/MainQueueInternal.h"
+#include "tarnmodel/platform/foundation/events/QueueInternal.h"
+#include "tarnmodel/platform/foundation/system/Log.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
 
 #include <fmt/format.h>
 

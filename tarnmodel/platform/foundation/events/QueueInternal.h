@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/foundation/Queue.h"
+#include "tarnmodel/platform/foundation/events/Queue.h"
 
 #include <chrono>
 #include <condition_variable>

@@ -1,6 +1,6 @@
-#include "platform/foundation/GlobalPoolInternal.h"
-#include "platform/foundation/Queue.h"
-#include "platform/foundation/QueueInternal.h"
+#include "tarnmodel/platform/foundation/events/GlobalPoolInternal.h"
+#include "tarnmodel/platform/foundation/events/Queue.h"
+#include "tarnmodel/platform/foundation/events/QueueInternal.h"
 
 #include <deque>
 #include <mutex>

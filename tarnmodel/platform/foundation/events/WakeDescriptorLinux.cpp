@@ -1,6 +1,6 @@
 // eventfd is Linux's own; another system gets a file like this one over a pipe.
 
-#include "platform/foundation/WakeDescriptorInternal.h"
+#include "tarnmodel/platform/foundation/events/WakeDescriptorInternal.h"
 
 #include <sys/eventfd.h>
 #include <unistd.h>

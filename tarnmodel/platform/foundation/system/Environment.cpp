@@ -1,7 +1,7 @@
-#include "platform/foundation/Environment.h"
+#include "tarnmodel/platform/foundation/system/Environment.h"
 
-#include "platform/foundation/EnvironmentInternal.h"
-#include "platform/foundation/UTF.h"
+#include "tarnmodel/platform/foundation/system/EnvironmentInternal.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
 
 #include <mutex>
 #include <utility>
@@ -158,6 +158,11 @@ void EnvironmentOverride::setHostName(std::string name)
 void EnvironmentOverride::setMachineIdentifier(std::optional<MachineIdentifier> identifier)
 {
     change([&](EnvironmentProviders& providers) { providers.machineIdentifier = [identifier] { return identifier; }; });
+}
+
+NSDate now()
+{
+    return Environment::current().now();
 }
 
 } // namespace tarn

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/foundation/Environment.h"
+#include "tarnmodel/platform/foundation/system/Environment.h"
 
 #include <optional>
 #include <string>

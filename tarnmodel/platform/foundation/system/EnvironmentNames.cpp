@@ -1,7 +1,7 @@
-#include "platform/foundation/EnvironmentInternal.h"
-#include "platform/foundation/NSUUID.h"
-#include "platform/foundation/RegularExpression.h"
-#include "platform/foundation/UTF.h"
+#include "tarnmodel/platform/foundation/system/EnvironmentInternal.h"
+#include "tarnmodel/platform/foundation/system/NSUUID.h"
+#include "tarnmodel/platform/foundation/text/RegularExpression.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
 
 #include <algorithm>
 

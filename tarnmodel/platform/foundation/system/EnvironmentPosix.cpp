@@ -1,7 +1,7 @@
 // This and LocalTimePosix.cpp are the only places that ask a POSIX system; another system gets files like these.
 
-#include "platform/foundation/EnvironmentInternal.h"
-#include "platform/foundation/NSException.h"
+#include "tarnmodel/platform/foundation/system/EnvironmentInternal.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
 
 #include <fcntl.h>
 #include <pwd.h>

@@ -1,6 +1,6 @@
-#include "platform/foundation/NSUUID.h"
+#include "tarnmodel/platform/foundation/system/NSUUID.h"
 
-#include "platform/foundation/Environment.h"
+#include "tarnmodel/platform/foundation/system/Environment.h"
 
 namespace tarn {
 

@@ -1,4 +1,4 @@
-#include "platform/foundation/AsciiCaseInternal.h"
+#include "tarnmodel/platform/foundation/text/AsciiCaseInternal.h"
 
 #include <bit>
 #include <cstdint>

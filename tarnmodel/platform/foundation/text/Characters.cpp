@@ -1,4 +1,4 @@
-#include "platform/foundation/Characters.h"
+#include "tarnmodel/platform/foundation/text/Characters.h"
 
 #include <unicode/locid.h>
 #include <unicode/uchar.h>

@@ -1,6 +1,6 @@
-#include "platform/foundation/Folding.h"
-#include "platform/foundation/FoldingTableInternal.h"
-#include "platform/foundation/UTF.h"
+#include "tarnmodel/platform/foundation/text/Folding.h"
+#include "tarnmodel/platform/foundation/text/FoldingTableInternal.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
 
 #include <algorithm>
 #include <vector>

@@ -1,8 +1,8 @@
-#include "platform/foundation/Folding.h"
+#include "tarnmodel/platform/foundation/text/Folding.h"
 
-#include "platform/foundation/ByteSearch.h"
-#include "platform/foundation/FoldingInternal.h"
-#include "platform/foundation/FoldingPassInternal.h"
+#include "tarnmodel/platform/foundation/text/ByteSearch.h"
+#include "tarnmodel/platform/foundation/text/FoldingInternal.h"
+#include "tarnmodel/platform/foundation/text/FoldingPassInternal.h"
 
 #include <array>
 

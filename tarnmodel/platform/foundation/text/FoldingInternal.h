@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/foundation/Folding.h"
+#include "tarnmodel/platform/foundation/text/Folding.h"
 
 #include <unicode/normalizer2.h>
 #include <unicode/uchar.h>

@@ -1,8 +1,8 @@
-#include "platform/foundation/FoldingPassInternal.h"
+#include "tarnmodel/platform/foundation/text/FoldingPassInternal.h"
 
-#include "platform/foundation/FoldingInternal.h"
-#include "platform/foundation/FoldingSegmentInternal.h"
-#include "platform/foundation/UTF.h"
+#include "tarnmodel/platform/foundation/text/FoldingInternal.h"
+#include "tarnmodel/platform/foundation/text/FoldingSegmentInternal.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
 
 #include <algorithm>
 #include <cstring>

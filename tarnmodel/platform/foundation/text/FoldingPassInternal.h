@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/foundation/AsciiCaseInternal.h"
-#include "platform/foundation/FoldingTableInternal.h"
+#include "tarnmodel/platform/foundation/text/AsciiCaseInternal.h"
+#include "tarnmodel/platform/foundation/text/FoldingTableInternal.h"
 
 #include <cstddef>
 #include <memory>

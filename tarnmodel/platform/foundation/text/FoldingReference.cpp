@@ -1,6 +1,6 @@
-#include "platform/foundation/FoldingInternal.h"
-#include "platform/foundation/NSException.h"
-#include "platform/foundation/UTF.h"
+#include "tarnmodel/platform/foundation/text/FoldingInternal.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
 
 #include <unicode/unistr.h>
 

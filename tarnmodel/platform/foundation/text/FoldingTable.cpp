@@ -1,7 +1,7 @@
-#include "platform/foundation/FoldingTableInternal.h"
+#include "tarnmodel/platform/foundation/text/FoldingTableInternal.h"
 
-#include "platform/foundation/FoldingInternal.h"
-#include "platform/foundation/UTF.h"
+#include "tarnmodel/platform/foundation/text/FoldingInternal.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
 
 #include <unicode/unistr.h>
 

@@ -1,6 +1,6 @@
-#include "platform/foundation/Normalization.h"
+#include "tarnmodel/platform/foundation/text/Normalization.h"
 
-#include "platform/foundation/FoldingInternal.h"
+#include "tarnmodel/platform/foundation/text/FoldingInternal.h"
 
 #include <unicode/bytestream.h>
 #include <unicode/normalizer2.h>

@@ -1,6 +1,6 @@
-#include "platform/foundation/PercentEncoding.h"
+#include "tarnmodel/platform/foundation/text/PercentEncoding.h"
 
-#include "platform/foundation/UTF.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
 
 #include <unicode/uchar.h>
 

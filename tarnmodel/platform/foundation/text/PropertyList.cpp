@@ -1,6 +1,6 @@
-#include "platform/foundation/PropertyList.h"
+#include "tarnmodel/platform/foundation/text/PropertyList.h"
 
-#include "platform/foundation/UTF.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/foundation/NSData.h"
+#include "tarnmodel/platform/foundation/values/NSData.h"
 
 #include <cstdint>
 #include <map>

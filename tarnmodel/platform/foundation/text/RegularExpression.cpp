@@ -1,7 +1,7 @@
-#include "platform/foundation/RegularExpression.h"
+#include "tarnmodel/platform/foundation/text/RegularExpression.h"
 
-#include "platform/foundation/NSException.h"
-#include "platform/foundation/UTF.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
 
 #include <unicode/regex.h>
 #include <unicode/unistr.h>

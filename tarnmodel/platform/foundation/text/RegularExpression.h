@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/foundation/NSRange.h"
+#include "tarnmodel/platform/foundation/values/NSRange.h"
 
 #include <cstdint>
 #include <memory>

@@ -1,6 +1,6 @@
-#include "platform/foundation/SpelledOutNumber.h"
+#include "tarnmodel/platform/foundation/text/SpelledOutNumber.h"
 
-#include "platform/foundation/RegularExpression.h"
+#include "tarnmodel/platform/foundation/text/RegularExpression.h"
 
 #include <unicode/fmtable.h>
 #include <unicode/parsepos.h>

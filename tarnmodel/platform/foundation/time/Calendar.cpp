@@ -1,6 +1,6 @@
-#include "platform/foundation/Calendar.h"
+#include "tarnmodel/platform/foundation/time/Calendar.h"
 
-#include "platform/foundation/CalendarInternal.h"
+#include "tarnmodel/platform/foundation/time/CalendarInternal.h"
 
 #include <cmath>
 #include <memory>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/foundation/LocalTimeInternal.h"
+#include "tarnmodel/platform/foundation/time/LocalTimeInternal.h"
 
 #include <unicode/gregocal.h>
 #include <unicode/timezone.h>

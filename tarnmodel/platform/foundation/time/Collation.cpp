@@ -1,6 +1,6 @@
-#include "platform/foundation/Collation.h"
+#include "tarnmodel/platform/foundation/time/Collation.h"
 
-#include "platform/foundation/Environment.h"
+#include "tarnmodel/platform/foundation/system/Environment.h"
 
 #include <unicode/coll.h>
 #include <unicode/locid.h>

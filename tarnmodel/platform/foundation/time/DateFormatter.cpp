@@ -1,9 +1,9 @@
-#include "platform/foundation/DateFormatter.h"
+#include "tarnmodel/platform/foundation/time/DateFormatter.h"
 
-#include "platform/foundation/Calendar.h"
-#include "platform/foundation/CalendarInternal.h"
-#include "platform/foundation/DatePattern.h"
-#include "platform/foundation/Environment.h"
+#include "tarnmodel/platform/foundation/system/Environment.h"
+#include "tarnmodel/platform/foundation/time/Calendar.h"
+#include "tarnmodel/platform/foundation/time/CalendarInternal.h"
+#include "tarnmodel/platform/foundation/time/DatePattern.h"
 
 #include <unicode/smpdtfmt.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/foundation/NSDate.h"
+#include "tarnmodel/platform/foundation/values/NSDate.h"
 
 #include <optional>
 #include <string>

@@ -1,7 +1,7 @@
-#include "platform/foundation/DatePattern.h"
+#include "tarnmodel/platform/foundation/time/DatePattern.h"
 
-#include "platform/foundation/Characters.h"
-#include "platform/foundation/UTF.h"
+#include "tarnmodel/platform/foundation/text/Characters.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
 
 #include <fmt/format.h>
 

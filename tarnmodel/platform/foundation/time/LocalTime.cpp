@@ -1,6 +1,6 @@
-#include "platform/foundation/LocalTimeInternal.h"
+#include "tarnmodel/platform/foundation/time/LocalTimeInternal.h"
 
-#include "platform/foundation/Environment.h"
+#include "tarnmodel/platform/foundation/system/Environment.h"
 
 #include <algorithm>
 #include <vector>

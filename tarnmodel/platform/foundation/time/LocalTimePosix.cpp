@@ -1,5 +1,5 @@
-#include "platform/foundation/EnvironmentInternal.h"
-#include "platform/foundation/Log.h"
+#include "tarnmodel/platform/foundation/system/EnvironmentInternal.h"
+#include "tarnmodel/platform/foundation/system/Log.h"
 
 #include <array>
 #include <cstdlib>

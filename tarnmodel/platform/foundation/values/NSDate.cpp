@@ -1,6 +1,4 @@
-#include "platform/foundation/NSDate.h"
-
-#include "platform/foundation/Environment.h"
+#include "tarnmodel/platform/foundation/values/NSDate.h"
 
 #include <fmt/format.h>
 
@@ -158,11 +156,6 @@ std::optional<std::chrono::minutes> takeZone(Reader& reader)
 }
 
 } // namespace
-
-NSDate now()
-{
-    return Environment::current().now();
-}
 
 std::int64_t microsecondsSinceReferenceDate(NSDate date) noexcept
 {

@@ -1,4 +1,4 @@
-#include "platform/foundation/NSError.h"
+#include "tarnmodel/platform/foundation/values/NSError.h"
 
 #include <ostream>
 #include <utility>

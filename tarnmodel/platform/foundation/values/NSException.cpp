@@ -1,4 +1,4 @@
-#include "platform/foundation/NSException.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
 
 namespace tarn {
 

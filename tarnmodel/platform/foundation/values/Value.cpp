@@ -1,4 +1,4 @@
-#include "platform/foundation/Value.h"
+#include "tarnmodel/platform/foundation/values/Value.h"
 
 namespace tarn {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/foundation/NSData.h"
-#include "platform/foundation/NSDate.h"
+#include "tarnmodel/platform/foundation/values/NSData.h"
+#include "tarnmodel/platform/foundation/values/NSDate.h"
 
 #include <concepts>
 #include <cstdint>

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "platform/coredata/NSManagedObjectContext.h"
-#include "platform/coredata/NSManagedObjectSet.h"
-#include "platform/coredata/NSPersistentStoreCoordinator.h"
-#include "platform/foundation/NSUUID.h"
+#include "tarnmodel/platform/coredata/NSManagedObjectContext.h"
+#include "tarnmodel/platform/coredata/NSManagedObjectSet.h"
+#include "tarnmodel/platform/coredata/NSPersistentStoreCoordinator.h"
+#include "tarnmodel/platform/foundation/system/NSUUID.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
-#include "tests/contexts/RecordLedger.h"
+#include "tests/platform/coredata/context/RecordLedger.h"
 
-#include "platform/foundation/Log.h"
+#include "tarnmodel/platform/foundation/system/Log.h"
 
 #include <malloc.h>
 

@@ -1,7 +1,7 @@
-#include "tests/contexts/RandomLibrary.h"
+#include "tests/platform/coredata/context/RandomLibrary.h"
 
-#include "platform/coredata/SortOrder.h"
-#include "platform/predicate/PredicateEvaluator.h"
+#include "tarnmodel/platform/coredata/context/SortOrder.h"
+#include "tarnmodel/platform/predicate/PredicateEvaluator.h"
 
 #include <algorithm>
 
@@ -54,7 +54,7 @@ protected:
         stored.entity = request.entity;
         stored.predicate = &*request.predicate;
         ASSERT_EQ(found, expected) << "seed " << seed << ": " << request.predicate->predicateFormat() << "\n"
-                                   << coordinator_->persistentStore()->explain(stored);
+                                   << coordinator_->rowStore()->explain(stored);
         ASSERT_EQ(context_->count(request), expected.size())
             << "seed " << seed << ": " << request.predicate->predicateFormat();
     }

@@ -1,6 +1,6 @@
-#include "tests/contexts/ContextFixture.h"
+#include "tests/platform/coredata/context/ContextFixture.h"
 
-#include "platform/foundation/Log.h"
+#include "tarnmodel/platform/foundation/system/Log.h"
 
 #include <array>
 #include <set>

@@ -1,10 +1,10 @@
 // What a context allows, refuses and outlives: nested locks, resets in the midst of things, records of others.
 
-#include "tests/contexts/ContextFixture.h"
+#include "tests/platform/coredata/context/ContextFixture.h"
 
-#include "platform/coredata/ContextCore.h"
-#include "platform/foundation/NSException.h"
-#include "platform/foundation/NSNotificationCenter.h"
+#include "tarnmodel/platform/coredata/context/ContextCore.h"
+#include "tarnmodel/platform/foundation/events/NSNotificationCenter.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
 
 #include <fstream>
 #include <limits>
@@ -31,7 +31,7 @@ protected:
     {
         bool isFree = false;
         std::thread([&] {
-            const auto transaction = coordinator_->persistentStore()->beginTransaction(nullptr);
+            const auto transaction = coordinator_->rowStore()->beginTransaction(nullptr);
             isFree = transaction != nullptr;
         }).join();
         return isFree;

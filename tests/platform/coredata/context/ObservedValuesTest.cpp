@@ -1,8 +1,8 @@
 // Observers of single keys hear of values that come whole: by a merge, a refresh, a rollback, or what others saved.
 
-#include "tests/contexts/ContextFixture.h"
+#include "tests/platform/coredata/context/ContextFixture.h"
 
-#include "platform/foundation/Log.h"
+#include "tarnmodel/platform/foundation/system/Log.h"
 
 #include <utility>
 

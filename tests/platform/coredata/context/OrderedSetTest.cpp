@@ -1,4 +1,4 @@
-#include "platform/coredata/OrderedSet.h"
+#include "tarnmodel/platform/coredata/OrderedSet.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

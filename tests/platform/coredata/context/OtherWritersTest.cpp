@@ -1,11 +1,11 @@
 // What a context notices of others that write to its file: contexts of another coordinator, as another process has
 // them, and programs that know nothing of row versions.
 
-#include "tests/contexts/ContextFixture.h"
-#include "tests/coredata/OtherProgram.h"
+#include "tests/platform/coredata/OtherProgram.h"
+#include "tests/platform/coredata/context/ContextFixture.h"
 
-#include "platform/foundation/Log.h"
-#include "platform/foundation/NSNotificationCenter.h"
+#include "tarnmodel/platform/foundation/events/NSNotificationCenter.h"
+#include "tarnmodel/platform/foundation/system/Log.h"
 
 namespace tarn {
 namespace {

@@ -1,4 +1,4 @@
-#include "tests/contexts/ContextFixture.h"
+#include "tests/platform/coredata/context/ContextFixture.h"
 
 #include <limits>
 

@@ -1,8 +1,8 @@
-#include "platform/coredata/QueueChecks.h"
+#include "tarnmodel/platform/coredata/QueueChecks.h"
 
-#include "platform/foundation/Environment.h"
-#include "platform/foundation/Log.h"
-#include "tests/contexts/ContextFixture.h"
+#include "tarnmodel/platform/foundation/system/Environment.h"
+#include "tarnmodel/platform/foundation/system/Log.h"
+#include "tests/platform/coredata/context/ContextFixture.h"
 
 #include <functional>
 #include <mutex>

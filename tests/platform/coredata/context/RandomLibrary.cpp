@@ -1,4 +1,4 @@
-#include "tests/contexts/RandomLibrary.h"
+#include "tests/platform/coredata/context/RandomLibrary.h"
 
 #include <map>
 

@@ -1,7 +1,7 @@
-#include "tests/contexts/RecordLedger.h"
+#include "tests/platform/coredata/context/RecordLedger.h"
 
-#include "platform/foundation/Environment.h"
-#include "platform/foundation/Log.h"
+#include "tarnmodel/platform/foundation/system/Environment.h"
+#include "tarnmodel/platform/foundation/system/Log.h"
 
 #include <algorithm>
 

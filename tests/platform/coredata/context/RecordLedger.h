@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/contexts/ContextFixture.h"
+#include "tests/platform/coredata/context/ContextFixture.h"
 
 #include <map>
 #include <random>

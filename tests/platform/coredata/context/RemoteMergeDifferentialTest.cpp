@@ -1,9 +1,9 @@
-#include "tests/contexts/RandomLibrary.h"
+#include "tests/platform/coredata/context/RandomLibrary.h"
 
-#include "platform/coredata/RecordAccess.h"
-#include "platform/foundation/Environment.h"
-#include "platform/foundation/Log.h"
-#include "platform/foundation/NSNotificationCenter.h"
+#include "tarnmodel/platform/coredata/context/RecordAccess.h"
+#include "tarnmodel/platform/foundation/events/NSNotificationCenter.h"
+#include "tarnmodel/platform/foundation/system/Environment.h"
+#include "tarnmodel/platform/foundation/system/Log.h"
 
 #include <algorithm>
 #include <map>

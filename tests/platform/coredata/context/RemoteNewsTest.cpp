@@ -1,8 +1,8 @@
 // What another writer saved meets ends of relationships that are unsaved here, and records that are gone by then.
 
-#include "tests/contexts/ContextFixture.h"
+#include "tests/platform/coredata/context/ContextFixture.h"
 
-#include "platform/foundation/Log.h"
+#include "tarnmodel/platform/foundation/system/Log.h"
 
 namespace tarn {
 namespace {

@@ -1,7 +1,7 @@
-#include "tests/contexts/ContextFixture.h"
+#include "tests/platform/coredata/context/ContextFixture.h"
 
-#include "platform/foundation/Log.h"
-#include "platform/foundation/NSNotificationCenter.h"
+#include "tarnmodel/platform/foundation/events/NSNotificationCenter.h"
+#include "tarnmodel/platform/foundation/system/Log.h"
 
 namespace tarn {
 namespace {

@@ -1,6 +1,6 @@
-#include "platform/coredata/CompleteOrder.h"
+#include "tarnmodel/platform/coredata/description/CompleteOrder.h"
 
-#include "tests/coredata/StoreFixture.h"
+#include "tests/platform/coredata/StoreFixture.h"
 
 #include <random>
 

@@ -1,5 +1,5 @@
-#include "platform/coredata/NSManagedObjectModel.h"
-#include "platform/coredata/NSPersistentStore.h"
+#include "tarnmodel/platform/coredata/NSManagedObjectModel.h"
+#include "tarnmodel/platform/coredata/rows/RowStore.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

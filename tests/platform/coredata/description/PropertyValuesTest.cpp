@@ -1,6 +1,6 @@
-#include "platform/coredata/PropertyValues.h"
-#include "platform/foundation/NSException.h"
-#include "tests/coredata/StoreFixture.h"
+#include "tarnmodel/platform/coredata/PropertyValues.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
+#include "tests/platform/coredata/StoreFixture.h"
 
 #include <cmath>
 #include <limits>

@@ -1,4 +1,4 @@
-#include "tests/coredata/StoreFixture.h"
+#include "tests/platform/coredata/StoreFixture.h"
 
 #include <gmock/gmock.h>
 

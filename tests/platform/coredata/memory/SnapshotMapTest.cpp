@@ -1,4 +1,4 @@
-#include "platform/coredata/SnapshotMap.h"
+#include "tarnmodel/platform/coredata/memory/SnapshotMap.h"
 
 #include <gtest/gtest.h>
 #include <map>

@@ -1,7 +1,7 @@
 // Searches of very many words: they pick what the evaluator picks, read each text once, and keep their limit.
 
-#include "platform/predicate/PredicateEvaluator.h"
-#include "tests/coredata/StoreFixture.h"
+#include "tarnmodel/platform/predicate/PredicateEvaluator.h"
+#include "tests/platform/coredata/StoreFixture.h"
 
 #include <algorithm>
 #include <chrono>

@@ -1,5 +1,5 @@
-#include "platform/coredata/PredicateGrouping.h"
-#include "platform/predicate/NSPredicate.h"
+#include "tarnmodel/platform/coredata/query/PredicateGrouping.h"
+#include "tarnmodel/platform/predicate/NSPredicate.h"
 
 #include <gtest/gtest.h>
 

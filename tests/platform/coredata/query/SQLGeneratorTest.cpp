@@ -1,9 +1,9 @@
 // The SQL of predicates, as text, and how SQLite walks it: tests/cases/sql.cases.
 
-#include "platform/coredata/SQLGenerator.h"
-#include "platform/coredata/SQLiteConnection.h"
-#include "platform/coredata/SQLiteFetch.h"
-#include "tests/coredata/StoreFixture.h"
+#include "tarnmodel/platform/coredata/query/SQLGenerator.h"
+#include "tarnmodel/platform/coredata/query/SQLiteFetch.h"
+#include "tarnmodel/platform/coredata/sqlite/SQLiteConnection.h"
+#include "tests/platform/coredata/StoreFixture.h"
 
 #include <fmt/format.h>
 #include <fstream>

@@ -1,7 +1,7 @@
-#include "platform/coredata/CommonFlags.h"
-#include "platform/coredata/SQLText.h"
-#include "platform/coredata/SQLiteConnection.h"
-#include "tests/coredata/StoreFixture.h"
+#include "tarnmodel/platform/coredata/sqlite/CommonFlags.h"
+#include "tarnmodel/platform/coredata/sqlite/SQLText.h"
+#include "tarnmodel/platform/coredata/sqlite/SQLiteConnection.h"
+#include "tests/platform/coredata/StoreFixture.h"
 
 namespace tarn {
 namespace {

@@ -1,7 +1,7 @@
-#include "platform/coredata/StoreFileMove.h"
+#include "tarnmodel/platform/coredata/StoreFileMove.h"
 
-#include "tests/coredata/OtherProgram.h"
-#include "tests/coredata/StoreFixture.h"
+#include "tests/platform/coredata/OtherProgram.h"
+#include "tests/platform/coredata/StoreFixture.h"
 
 #include <atomic>
 #include <fstream>

@@ -1,6 +1,6 @@
-#include "platform/coredata/SubstringSignature.h"
-#include "platform/foundation/Folding.h"
-#include "platform/foundation/UTF.h"
+#include "tarnmodel/platform/coredata/sqlite/SubstringSignature.h"
+#include "tarnmodel/platform/foundation/text/Folding.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
 
 #include <algorithm>
 #include <array>

@@ -1,10 +1,10 @@
 // What only the SQLite store does: its file, other programs, other processes, failures.
 
-#include "platform/coredata/SQLiteConnection.h"
-#include "platform/coredata/StoreSchema.h"
-#include "platform/foundation/Folding.h"
-#include "tests/coredata/OtherProgram.h"
-#include "tests/coredata/StoreFixture.h"
+#include "tarnmodel/platform/coredata/sqlite/SQLiteConnection.h"
+#include "tarnmodel/platform/coredata/sqlite/StoreSchema.h"
+#include "tarnmodel/platform/foundation/text/Folding.h"
+#include "tests/platform/coredata/OtherProgram.h"
+#include "tests/platform/coredata/StoreFixture.h"
 #include "tests/support/FaultyDisk.h"
 
 #include <fstream>

@@ -1,8 +1,8 @@
 // One store file under several hands at once: threads, processes, programs that replace it.
 
-#include "platform/coredata/ConnectionPool.h"
-#include "tests/coredata/OtherProgram.h"
-#include "tests/coredata/StoreFixture.h"
+#include "tarnmodel/platform/coredata/sqlite/ConnectionPool.h"
+#include "tests/platform/coredata/OtherProgram.h"
+#include "tests/platform/coredata/StoreFixture.h"
 
 #include <atomic>
 #include <barrier>

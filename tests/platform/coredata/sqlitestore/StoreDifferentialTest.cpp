@@ -1,9 +1,9 @@
 // Random predicates over random stores pick the same rows in SQL and by the evaluator.
 
-#include "platform/coredata/SQLGenerator.h"
-#include "platform/coredata/SQLiteConnection.h"
-#include "platform/coredata/SQLiteFetch.h"
-#include "tests/coredata/StoreFixture.h"
+#include "tarnmodel/platform/coredata/query/SQLGenerator.h"
+#include "tarnmodel/platform/coredata/query/SQLiteFetch.h"
+#include "tarnmodel/platform/coredata/sqlite/SQLiteConnection.h"
+#include "tests/platform/coredata/StoreFixture.h"
 
 #include <fmt/format.h>
 #include <map>

@@ -1,11 +1,11 @@
 // Searches in texts of many scripts: with the index, without it, and in memory they pick the same rows, whatever the
 // plan.
 
-#include "platform/coredata/CandidateFinder.h"
-#include "platform/coredata/SQLiteConnection.h"
-#include "platform/coredata/SQLiteFetch.h"
-#include "platform/coredata/StoreSearch.h"
-#include "tests/coredata/StoreFixture.h"
+#include "tarnmodel/platform/coredata/query/SQLiteFetch.h"
+#include "tarnmodel/platform/coredata/sqlite/SQLiteConnection.h"
+#include "tarnmodel/platform/coredata/textsearch/CandidateFinder.h"
+#include "tarnmodel/platform/coredata/textsearch/StoreSearch.h"
+#include "tests/platform/coredata/StoreFixture.h"
 
 #include <fmt/format.h>
 #include <limits>

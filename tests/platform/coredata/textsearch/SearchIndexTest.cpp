@@ -1,11 +1,11 @@
 // What the index of texts must never do: hide a row that a search should find.
 
-#include "platform/coredata/SearchIndex.h"
-#include "platform/coredata/SQLiteConnection.h"
-#include "platform/coredata/StoreSearch.h"
-#include "platform/foundation/Folding.h"
-#include "tests/coredata/OtherProgram.h"
-#include "tests/coredata/StoreFixture.h"
+#include "tarnmodel/platform/coredata/textsearch/SearchIndex.h"
+#include "tarnmodel/platform/coredata/sqlite/SQLiteConnection.h"
+#include "tarnmodel/platform/coredata/textsearch/StoreSearch.h"
+#include "tarnmodel/platform/foundation/text/Folding.h"
+#include "tests/platform/coredata/OtherProgram.h"
+#include "tests/platform/coredata/StoreFixture.h"
 
 #include <atomic>
 #include <fmt/format.h>

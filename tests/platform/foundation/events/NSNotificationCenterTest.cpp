@@ -1,5 +1,5 @@
-#include "platform/foundation/NSNotificationCenter.h"
-#include "platform/foundation/Queue.h"
+#include "tarnmodel/platform/foundation/events/NSNotificationCenter.h"
+#include "tarnmodel/platform/foundation/events/Queue.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

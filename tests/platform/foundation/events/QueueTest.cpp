@@ -1,6 +1,6 @@
-#include "platform/foundation/Queue.h"
-#include "platform/foundation/Log.h"
-#include "platform/foundation/NSException.h"
+#include "tarnmodel/platform/foundation/events/Queue.h"
+#include "tarnmodel/platform/foundation/system/Log.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

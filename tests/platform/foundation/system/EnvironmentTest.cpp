@@ -1,5 +1,5 @@
-#include "platform/foundation/Environment.h"
-#include "platform/foundation/EnvironmentInternal.h"
+#include "tarnmodel/platform/foundation/system/Environment.h"
+#include "tarnmodel/platform/foundation/system/EnvironmentInternal.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "platform/foundation/Log.h"
+#include "tarnmodel/platform/foundation/system/Log.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-#include "platform/foundation/NSUUID.h"
-#include "platform/foundation/Environment.h"
+#include "tarnmodel/platform/foundation/system/NSUUID.h"
+#include "tarnmodel/platform/foundation/system/Environment.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
-#include "platform/foundation/ByteSearch.h"
+#include "tarnmodel/platform/foundation/text/ByteSearch.h"
 
-#include "platform/foundation/AsciiCaseInternal.h"
-#include "platform/foundation/ByteSearchInternal.h"
+#include "tarnmodel/platform/foundation/text/AsciiCaseInternal.h"
+#include "tarnmodel/platform/foundation/text/ByteSearchInternal.h"
 
 #include <gtest/gtest.h>
 

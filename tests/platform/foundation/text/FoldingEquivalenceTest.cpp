@@ -1,8 +1,8 @@
 // The fast path against the plain chain: the same bytes for every text, however nasty.
 
-#include "platform/foundation/AsciiCaseInternal.h"
-#include "platform/foundation/Folding.h"
-#include "platform/foundation/UTF.h"
+#include "tarnmodel/platform/foundation/text/AsciiCaseInternal.h"
+#include "tarnmodel/platform/foundation/text/Folding.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
 
 #include <gtest/gtest.h>
 #include <unicode/locid.h>

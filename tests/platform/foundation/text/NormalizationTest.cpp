@@ -1,4 +1,4 @@
-#include "platform/foundation/Normalization.h"
+#include "tarnmodel/platform/foundation/text/Normalization.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "platform/foundation/PercentEncoding.h"
+#include "tarnmodel/platform/foundation/text/PercentEncoding.h"
 
 #include <gtest/gtest.h>
 

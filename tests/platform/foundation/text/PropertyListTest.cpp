@@ -1,4 +1,4 @@
-#include "platform/foundation/PropertyList.h"
+#include "tarnmodel/platform/foundation/text/PropertyList.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-#include "platform/foundation/RegularExpression.h"
-#include "platform/foundation/NSException.h"
+#include "tarnmodel/platform/foundation/text/RegularExpression.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "platform/foundation/SpelledOutNumber.h"
+#include "tarnmodel/platform/foundation/text/SpelledOutNumber.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
-#include "platform/foundation/Calendar.h"
+#include "tarnmodel/platform/foundation/time/Calendar.h"
 
-#include "platform/foundation/Environment.h"
+#include "tarnmodel/platform/foundation/system/Environment.h"
 
 #include <gtest/gtest.h>
 

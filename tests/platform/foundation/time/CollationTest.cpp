@@ -1,5 +1,5 @@
-#include "platform/foundation/Collation.h"
-#include "platform/foundation/Environment.h"
+#include "tarnmodel/platform/foundation/time/Collation.h"
+#include "tarnmodel/platform/foundation/system/Environment.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

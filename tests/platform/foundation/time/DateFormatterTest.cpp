@@ -1,6 +1,6 @@
-#include "platform/foundation/DateFormatter.h"
+#include "tarnmodel/platform/foundation/time/DateFormatter.h"
 
-#include "platform/foundation/Environment.h"
+#include "tarnmodel/platform/foundation/system/Environment.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
-#include "platform/foundation/LocalTimeInternal.h"
+#include "tarnmodel/platform/foundation/time/LocalTimeInternal.h"
 
-#include "platform/foundation/Calendar.h"
-#include "platform/foundation/DateFormatter.h"
-#include "platform/foundation/Environment.h"
-#include "platform/foundation/Log.h"
-#include "platform/foundation/NSUUID.h"
+#include "tarnmodel/platform/foundation/system/Environment.h"
+#include "tarnmodel/platform/foundation/system/Log.h"
+#include "tarnmodel/platform/foundation/system/NSUUID.h"
+#include "tarnmodel/platform/foundation/time/Calendar.h"
+#include "tarnmodel/platform/foundation/time/DateFormatter.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -150,7 +150,7 @@ TEST_F(LocalTimeTest, AgreesWithAnotherReaderOfZones)
     const int seed = numberOfVariable("TARN_SEED", 20);
     SCOPED_TRACE("seed " + std::to_string(seed));
     std::ostringstream command;
-    command << "python3 '" TARN_TEST_CASES "/../foundation/local_days.py' " << seed << " " << zones << " "
+    command << "python3 '" TARN_TEST_CASES "/../platform/foundation/time/local_days.py' " << seed << " " << zones << " "
             << kDaysOfAZone;
     FILE* const oracle = ::popen(command.str().c_str(), "r");
     ASSERT_TRUE(oracle);

@@ -1,4 +1,4 @@
-#include "platform/foundation/NSDate.h"
+#include "tarnmodel/platform/foundation/values/NSDate.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-#include "platform/foundation/NSError.h"
-#include "platform/foundation/NSException.h"
+#include "tarnmodel/platform/foundation/values/NSError.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
 
 #include <gtest/gtest.h>
 

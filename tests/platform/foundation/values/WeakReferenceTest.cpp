@@ -1,4 +1,4 @@
-#include "platform/foundation/WeakReference.h"
+#include "tarnmodel/platform/foundation/values/WeakReference.h"
 
 #include <gtest/gtest.h>
 

@@ -1,18 +1,18 @@
-#include "platform/coredata/OverlaidFetch.h"
+#include "tarnmodel/platform/coredata/context/child/OverlaidFetch.h"
 
-#include "platform/coredata/CappedSum.h"
-#include "platform/coredata/KeyPathWalk.h"
-#include "platform/coredata/PredicateKeys.h"
-#include "platform/coredata/RowOrder.h"
-#include "platform/coredata/SortOrder.h"
-#include "platform/coredata/StoreFailure.h"
-#include "platform/predicate/PredicateEvaluator.h"
+#include "tarnmodel/platform/coredata/context/SortOrder.h"
+#include "tarnmodel/platform/coredata/description/KeyPathWalk.h"
+#include "tarnmodel/platform/coredata/description/PredicateKeys.h"
+#include "tarnmodel/platform/coredata/rows/CappedSum.h"
+#include "tarnmodel/platform/coredata/rows/RowOrder.h"
+#include "tarnmodel/platform/coredata/rows/StoreFailure.h"
+#include "tarnmodel/platform/predicate/PredicateEvaluator.h"
 
 #include <algorithm>
 
 namespace tarn {
 
-OverlaidFetch::OverlaidFetch(NSPersistentStore& base, const PendingSnapshot& snapshot, const StoreFetch& fetch)
+OverlaidFetch::OverlaidFetch(RowStore& base, const PendingSnapshot& snapshot, const StoreFetch& fetch)
     : base_(base), snapshot_(snapshot), fetch_(fetch), overlaid_(base, snapshot)
 {
     for (const auto& [key, entry] : snapshot.entriesOfRoot(fetch.entity->rootEntity()))

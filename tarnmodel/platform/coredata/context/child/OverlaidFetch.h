@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/coredata/OverlaidRows.h"
+#include "tarnmodel/platform/coredata/context/child/OverlaidRows.h"
 
 #include <set>
 #include <span>
@@ -13,7 +13,7 @@ namespace tarn {
 /// The store answers for all rows whose answer cannot depend on what is pending; the others are judged in memory.
 class OverlaidFetch {
 public:
-    OverlaidFetch(NSPersistentStore& base, const PendingSnapshot& snapshot, const StoreFetch& fetch);
+    OverlaidFetch(RowStore& base, const PendingSnapshot& snapshot, const StoreFetch& fetch);
 
     /// Throws a `StoreFailure`.
     std::vector<StoreRow> rows();
@@ -27,7 +27,7 @@ private:
     std::vector<StoreRow> judgedRows();
     std::vector<StoreRow> merged(std::vector<StoreRow> stored, std::vector<StoreRow> judged) const;
 
-    NSPersistentStore& base_;
+    RowStore& base_;
     const PendingSnapshot& snapshot_;
     const StoreFetch& fetch_;
     OverlaidRows overlaid_;

@@ -1,6 +1,6 @@
-#include "platform/coredata/OverlaidRows.h"
+#include "tarnmodel/platform/coredata/context/child/OverlaidRows.h"
 
-#include "platform/coredata/StoreFailure.h"
+#include "tarnmodel/platform/coredata/rows/StoreFailure.h"
 
 #include <algorithm>
 
@@ -8,8 +8,8 @@ namespace tarn {
 
 namespace {
 
-std::vector<StoreRow> storedRows(NSPersistentStore& store, const NSEntityDescription& entity,
-    std::span<const std::int64_t> keys, RowContents contents)
+std::vector<StoreRow> storedRows(
+    RowStore& store, const NSEntityDescription& entity, std::span<const std::int64_t> keys, RowContents contents)
 {
     std::vector<StoreRow> rows;
     NSError error;

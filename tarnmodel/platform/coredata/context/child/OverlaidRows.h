@@ -1,14 +1,14 @@
 #pragma once
 
-#include "platform/coredata/PendingSnapshot.h"
-#include "platform/coredata/RowObject.h"
+#include "tarnmodel/platform/coredata/context/child/PendingSnapshot.h"
+#include "tarnmodel/platform/coredata/rows/RowObject.h"
 
 namespace tarn {
 
 /// A store's rows with what a context has pending laid over them. One moment of the context; one thread.
 class OverlaidRows final : public RowReader {
 public:
-    OverlaidRows(NSPersistentStore& base, const PendingSnapshot& snapshot) : base_(base), snapshot_(snapshot) { }
+    OverlaidRows(RowStore& base, const PendingSnapshot& snapshot) : base_(base), snapshot_(snapshot) { }
 
     const StoreIdentity& storeIdentity() const override { return base_.identity(); }
     std::optional<StoreRow> readRow(
@@ -25,7 +25,7 @@ private:
     std::vector<RelatedKey> storedRelatedKeys(const NSRelationshipDescription& relationship, std::int64_t key) const;
     bool isDeleted(const NSEntityDescription& root, std::int64_t key) const;
 
-    NSPersistentStore& base_;
+    RowStore& base_;
     const PendingSnapshot& snapshot_;
 };
 

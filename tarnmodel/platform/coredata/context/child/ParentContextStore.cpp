@@ -1,8 +1,8 @@
-#include "platform/coredata/ParentContextStore.h"
+#include "tarnmodel/platform/coredata/context/child/ParentContextStore.h"
 
-#include "platform/coredata/OverlaidFetch.h"
-#include "platform/coredata/ParentTransaction.h"
-#include "platform/coredata/StoreFailure.h"
+#include "tarnmodel/platform/coredata/context/child/OverlaidFetch.h"
+#include "tarnmodel/platform/coredata/context/child/ParentTransaction.h"
+#include "tarnmodel/platform/coredata/rows/StoreFailure.h"
 
 namespace tarn {
 

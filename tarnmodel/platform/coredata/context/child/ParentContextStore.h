@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/coredata/NSPersistentStore.h"
-#include "platform/coredata/ParentLink.h"
+#include "tarnmodel/platform/coredata/context/child/ParentLink.h"
+#include "tarnmodel/platform/coredata/rows/RowStore.h"
 
 namespace tarn {
 
@@ -9,9 +9,9 @@ namespace tarn {
 /// unsaved changes of the context. Any thread.
 ///
 /// Reads never wait for the context's queue; a commit does.
-class ParentContextStore final : public NSPersistentStore {
+class ParentContextStore final : public RowStore {
 public:
-    ParentContextStore(std::shared_ptr<NSPersistentStore> base, std::shared_ptr<ParentLink> parent)
+    ParentContextStore(std::shared_ptr<RowStore> base, std::shared_ptr<ParentLink> parent)
         : held_(std::move(base)), base_(*held_), parent_(std::move(parent))
     { }
 
@@ -49,8 +49,8 @@ public:
     std::string explain(const StoreFetch& fetch) override { return base_.explain(fetch); }
 
 private:
-    std::shared_ptr<NSPersistentStore> held_;
-    NSPersistentStore& base_;
+    std::shared_ptr<RowStore> held_;
+    RowStore& base_;
     std::shared_ptr<ParentLink> parent_;
 };
 

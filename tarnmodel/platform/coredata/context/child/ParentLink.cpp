@@ -1,13 +1,21 @@
-#include "platform/coredata/ParentLink.h"
+#include "tarnmodel/platform/coredata/context/child/ParentLink.h"
 
-#include "platform/coredata/ContextCore.h"
-#include "platform/foundation/NSException.h"
+#include "tarnmodel/platform/coredata/context/ContextCore.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
 
 namespace tarn {
 
-ParentLink::ParentLink(ContextCore& core, std::shared_ptr<Queue> queue) : queue_(std::move(queue)), core_(&core)
+ParentLink::ParentLink(ContextCore& core) : queue_(core.sharedQueue()), core_(&core)
 {
     publish();
+}
+
+std::shared_ptr<ParentLink> ParentLink::ofContext(ContextCore& core)
+{
+    core.assertOnQueue();
+    if (!core.children)
+        core.children = std::make_shared<ParentLink>(core);
+    return std::static_pointer_cast<ParentLink>(core.children); // nobody else makes them
 }
 
 std::shared_ptr<const PendingSnapshot> ParentLink::snapshot() const

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "platform/coredata/PendingSnapshot.h"
-#include "platform/foundation/Queue.h"
+#include "tarnmodel/platform/coredata/context/ChildContexts.h"
+#include "tarnmodel/platform/coredata/context/child/PendingSnapshot.h"
+#include "tarnmodel/platform/foundation/events/Queue.h"
 
 #include <functional>
 #include <memory>
@@ -12,18 +13,18 @@ namespace tarn {
 class ContextCore;
 
 /// What joins a context with its children, and outlives it: what it has pending, and the way to its queue.
-class ParentLink {
+class ParentLink : public ChildContexts {
 public:
-    ParentLink(ContextCore& core, std::shared_ptr<Queue> queue);
+    explicit ParentLink(ContextCore& core);
+    /// Of this context; made when its first child asks. On the queue.
+    static std::shared_ptr<ParentLink> ofContext(ContextCore& core);
 
     /// What the context published last. Any thread.
     std::shared_ptr<const PendingSnapshot> snapshot() const;
-    /// Lets children see what is pending now. On the context's queue.
-    void publish();
     /// Runs the work on the context's queue and waits for it; false and an error when the context is gone. Any thread.
     bool perform(const std::function<void(ContextCore&)>& work, NSError* error) const;
-    /// The context ends. On its queue.
-    void close();
+    void publish() override;
+    void close() override;
 
 private:
     mutable std::mutex mutex_;

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/coredata/NSPersistentStore.h"
-#include "platform/coredata/ParentLink.h"
-#include "platform/coredata/RelationshipMaintenance.h"
+#include "tarnmodel/platform/coredata/context/RelationshipMaintenance.h"
+#include "tarnmodel/platform/coredata/context/child/ParentLink.h"
+#include "tarnmodel/platform/coredata/rows/RowStore.h"
 
 #include <map>
 #include <utility>
@@ -13,7 +13,7 @@ namespace tarn {
 /// The save of a child context: gathers what is written, and makes it unsaved changes of the parent at the commit.
 class ParentTransaction final : public StoreTransaction {
 public:
-    ParentTransaction(NSPersistentStore& store, std::shared_ptr<ParentLink> parent)
+    ParentTransaction(RowStore& store, std::shared_ptr<ParentLink> parent)
         : store_(store), parent_(std::move(parent)), stateNumber_(store_.stateNumber())
     { }
 
@@ -54,7 +54,7 @@ private:
     static void join(ContextCore& parent, const JoinChange& change);
     static void remove(ContextCore& parent, const Deletion& deletion);
 
-    NSPersistentStore& store_;
+    RowStore& store_;
     std::shared_ptr<ParentLink> parent_;
     std::vector<StoreRow> insertions_;
     KeysOfEntities insertedKeys_;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/coredata/NSPersistentStore.h"
+#include "tarnmodel/platform/coredata/rows/RowStore.h"
 
 #include <map>
 #include <memory>

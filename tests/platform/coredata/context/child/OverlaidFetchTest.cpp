@@ -1,8 +1,8 @@
-#include "tests/contexts/RandomLibrary.h"
+#include "tests/platform/coredata/context/RandomLibrary.h"
 
-#include "platform/coredata/SortOrder.h"
-#include "platform/foundation/Environment.h"
-#include "platform/predicate/PredicateEvaluator.h"
+#include "tarnmodel/platform/coredata/context/SortOrder.h"
+#include "tarnmodel/platform/foundation/system/Environment.h"
+#include "tarnmodel/platform/predicate/PredicateEvaluator.h"
 
 #include <algorithm>
 

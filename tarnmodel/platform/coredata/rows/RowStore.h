@@ -1,9 +1,10 @@
 #pragma once
 
-#include "platform/coredata/NSFetchRequest.h"
-#include "platform/coredata/NSManagedObjectID.h"
-#include "platform/coredata/PropertyValues.h"
-#include "platform/foundation/NSError.h"
+#include "tarnmodel/platform/coredata/NSFetchRequest.h"
+#include "tarnmodel/platform/coredata/NSManagedObjectID.h"
+#include "tarnmodel/platform/coredata/NSPersistentStore.h"
+#include "tarnmodel/platform/coredata/PropertyValues.h"
+#include "tarnmodel/platform/foundation/values/NSError.h"
 
 #include <cstdint>
 #include <filesystem>
@@ -15,25 +16,6 @@
 #include <vector>
 
 namespace tarn {
-
-/// Errors of the object store.
-inline constexpr std::string_view TarnStoreErrorDomain = "TarnStore";
-enum StoreErrorCode : long {
-    StoreErrorGeneric = 1,
-    StoreErrorBusy = 5, ///< another process held the lock for too long
-    StoreErrorReadOnly = 8,
-    StoreErrorIO = 10,
-    StoreErrorCorrupt = 11,
-    StoreErrorFull = 13,
-    StoreErrorCannotOpen = 14,
-    StoreErrorNotAStore = 26,        ///< the file is no store at all
-    StoreErrorIncompatible = 134100, ///< the store was written with another version of the model
-    StoreErrorReplaced = 134101,     ///< "the store was replaced; open it again"
-    StoreErrorMergeConflict = 133020,
-    StoreErrorValidation = 1560,
-    StoreErrorDeleteDenied = 1600,
-    StoreErrorInvalidModel = 134020,
-};
 
 /// A row as a store hands it out: identity, row version, and values.
 ///
@@ -89,7 +71,7 @@ enum class RowWriteResult : std::uint8_t {
 
 /// A store's one write transaction: everything of it or nothing.
 ///
-/// Made by `NSPersistentStore::beginTransaction`, which holds the lock. Destroying it without `commit` rolls back.
+/// Made by `RowStore::beginTransaction`, which holds the lock. Destroying it without `commit` rolls back.
 /// While it lives, the store's reading operations called on the same thread see its writes.
 class StoreTransaction {
 public:
@@ -122,17 +104,14 @@ public:
     virtual bool commit(NSError* error) = 0;
 };
 
-/// Where records rest: the interface of the SQLite store and of the store in memory.
+/// A store as contexts read and write it: the interface of the SQLite store, of the store in memory, and of a parent
+/// context.
 ///
 /// Any thread; reads run side by side, one transaction at a time. Every failure gives false (or none) and an error.
-class NSPersistentStore {
+class RowStore : public NSPersistentStore {
 public:
-    virtual ~NSPersistentStore() = default;
-
     virtual const StoreIdentity& identity() const noexcept = 0;
     virtual const NSManagedObjectModel& model() const noexcept = 0;
-    /// The file; empty for a store in memory.
-    virtual const std::filesystem::path& file() const noexcept = 0;
 
     // Reading ---------------------------------------------------------------------------------------------------------
     virtual bool fetch(const StoreFetch& fetch, std::vector<StoreRow>& rows, NSError* error) = 0;
@@ -159,6 +138,9 @@ public:
     /// Grows when a read met a commit, of anyone, this store's own ones included. Costs nothing to ask: only when it
     /// has grown can `dataVersion` have moved under what was read.
     virtual std::uint64_t commitsMet() const noexcept { return 0; }
+    /// The plan of a fetch, for people and tests: generated SQL with its arguments, how it is walked, and for a search
+    /// in texts what the index left of the rows and how long it took.
+    virtual std::string explain(const StoreFetch& fetch) = 0;
 
     // Writing ---------------------------------------------------------------------------------------------------------
     /// Takes the write lock, waiting for other processes. Null and an error when it cannot be had.
@@ -168,20 +150,8 @@ public:
     virtual bool reserveKeys(const NSEntityDescription& root, std::size_t count, std::int64_t& first, NSError* error)
         = 0;
 
-    // Upkeep ----------------------------------------------------------------------------------------------------------
-    /// Named values kept with the store: hashes, UUID, folding version, and the host's own.
-    virtual std::map<std::string, std::string> metadata(NSError* error) = 0;
-    virtual bool setMetadataValue(std::string_view key, std::string_view value, NSError* error) = 0;
-    /// Problems that the store finds in itself; empty when it is sound. Reads everything.
-    virtual bool checkIntegrity(std::vector<std::string>& problems, NSError* error) = 0;
-    /// What is amiss with the index that narrows searches in texts. A row that it does not know costs time; a row that
-    /// it knows wrongly would be missed. Reads all texts; a store without such an index has nothing to report.
-    virtual bool checkSearchIndex(std::vector<std::string>& problems, NSError* error);
-    /// Makes good what `checkSearchIndex` finds; `repaired` becomes the number of rows.
-    virtual bool repairSearchIndex(std::size_t& repaired, NSError* error);
-    /// The plan of a fetch, for people and tests: generated SQL with its arguments, how it is walked, and for a search
-    /// in texts what the index left of the rows and how long it took.
-    virtual std::string explain(const StoreFetch& fetch) = 0;
+    bool checkSearchIndex(std::vector<std::string>& problems, NSError* error) override;
+    bool repairSearchIndex(std::size_t& repaired, NSError* error) override;
 };
 
 } // namespace tarn
