@@ -17,9 +17,6 @@ namespace {
 /// Ends of relationships that are compared with the store one by one; records with further ones are read again.
 constexpr std::size_t kMostComparedEnds = 1000;
 
-/// More rows than these are not looked up one by one where most of the table is wanted.
-constexpr std::size_t kMostLookedUp = 1000;
-
 using Keys = std::vector<std::int64_t>;
 
 /// To-ones without a column of their own that were read and are as they were read.
@@ -151,16 +148,22 @@ void OtherWriters::catchUp(Reserve reserve)
         });
 }
 
-std::optional<OtherWriters::News> OtherWriters::news(Reserve reserve)
+std::optional<VersionDifferences> OtherWriters::news(Reserve reserve)
 {
     std::unordered_map<const NSEntityDescription*, std::vector<NSManagedObject*>> held;
     for (NSManagedObject* record : core_.registry.objects())
         if (!record->isFault() && !record->isDeleted() && !record->isInserted())
             held[&record->entity().rootEntity()].push_back(record);
-    News found;
-    for (auto& [root, records] : held)
-        if (!compareVersions(*root, records, found) || !compareRelationships(records, found))
+    VersionDifferences found;
+    for (auto& [root, records] : held) {
+        NSError error;
+        if (!compareVersions(core_.store(), *root, records, found, &error)) {
+            noteFailure(error);
             return std::nullopt;
+        }
+        if (!compareRelationships(records, found))
+            return std::nullopt;
+    }
     const auto waits = [&](const NSManagedObject* record) {
         const bool isReserved
             = (reserve.unsaved && record->hasChanges()) || (reserve.handedOut && RecordAccess::isHandedOut(*record));
@@ -186,53 +189,8 @@ void OtherWriters::noteFailure(const NSError& error)
         logMessage("Error while looking for what others saved\n" + error.localizedDescription());
 }
 
-bool OtherWriters::compareVersions(
-    const NSEntityDescription& root, const std::vector<NSManagedObject*>& records, News& news)
-{
-    std::vector<std::pair<std::int64_t, NSManagedObject*>> held;
-    held.reserve(records.size());
-    for (NSManagedObject* record : records)
-        held.emplace_back(record->objectID().key(), record);
-    std::sort(held.begin(), held.end());
-    std::vector<StoreRow> rows;
-    NSError error;
-    if (!readVersions(root, held, rows, &error)) {
-        noteFailure(error);
-        return false;
-    }
-    auto row = rows.begin();
-    for (const auto& [key, record] : held) {
-        while (row != rows.end() && row->key < key)
-            ++row;
-        if (row == rows.end() || row->key != key)
-            news.gone.push_back(record);
-        else if (row->version != record->rowVersion())
-            news.moved.push_back(record);
-    }
-    return true;
-}
-
-/// By key, ascending. Where most rows are held, walking through the table takes half the time of looking each one up.
-bool OtherWriters::readVersions(const NSEntityDescription& root,
-    const std::vector<std::pair<std::int64_t, NSManagedObject*>>& held, std::vector<StoreRow>& rows,
-    NSError* error) const
-{
-    const auto highest = static_cast<std::size_t>(held.back().first);
-    if (held.size() > kMostLookedUp && held.size() > highest / 2) {
-        StoreFetch all;
-        all.entity = &root;
-        all.contents = RowContents::Keys;
-        return core_.store().fetch(all, rows, error); // an unsorted fetch answers by key
-    }
-    Keys keys;
-    keys.reserve(held.size());
-    for (const auto& [key, record] : held)
-        keys.push_back(key);
-    return core_.store().rowsForKeys(root, keys, RowContents::Keys, rows, error);
-}
-
 /// What changed through joins, or through columns of other rows, leaves the version of a row as it was.
-bool OtherWriters::compareRelationships(const std::vector<NSManagedObject*>& records, News& news)
+bool OtherWriters::compareRelationships(const std::vector<NSManagedObject*>& records, VersionDifferences& news)
 {
     std::unordered_set<const NSManagedObject*> known(news.moved.begin(), news.moved.end());
     known.insert(news.gone.begin(), news.gone.end());

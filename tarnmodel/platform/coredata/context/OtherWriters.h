@@ -1,7 +1,7 @@
 #pragma once
 
 #include "tarnmodel/platform/coredata/NSManagedObjectContext.h"
-#include "tarnmodel/platform/coredata/rows/RowStore.h"
+#include "tarnmodel/platform/coredata/context/VersionComparison.h"
 
 #include <cstdint>
 #include <optional>
@@ -46,22 +46,12 @@ private:
         bool unsaved = false;
         bool handedOut = false;
     };
-    /// What others did to the records that are held here.
-    struct News {
-        std::vector<NSManagedObject*> moved;
-        std::vector<NSManagedObject*> gone;
-    };
-
     /// Whether there is something to bring up to date.
     bool hasMoved();
     void catchUp(Reserve reserve);
-    std::optional<News> news(Reserve reserve);
-    /// NO, and a line in the log, when the store cannot be read; so below.
-    bool compareVersions(const NSEntityDescription& root, const std::vector<NSManagedObject*>& records, News& news);
-    bool readVersions(const NSEntityDescription& root,
-        const std::vector<std::pair<std::int64_t, NSManagedObject*>>& held, std::vector<StoreRow>& rows,
-        NSError* error) const;
-    bool compareRelationships(const std::vector<NSManagedObject*>& records, News& news);
+    std::optional<VersionDifferences> news(Reserve reserve);
+    /// False, and a line in the log, when the store cannot be read.
+    bool compareRelationships(const std::vector<NSManagedObject*>& records, VersionDifferences& news);
     void noteFailure(const NSError& error);
     std::optional<bool> hasOtherMembers(NSManagedObject& record);
     void forgetTextsRead();

@@ -2,6 +2,7 @@
 
 #include "tarnmodel/platform/coredata/context/ContextCore.h"
 #include "tarnmodel/platform/coredata/context/RecordAccess.h"
+#include "tarnmodel/platform/coredata/context/VersionComparison.h"
 #include "tarnmodel/platform/foundation/system/Log.h"
 
 #include <algorithm>
@@ -70,19 +71,24 @@ RemoteMerge::KeysByRoot RemoteMerge::knownKeys(KeysByRoot keys) const
 RemoteMerge::KeysByRoot RemoteMerge::movedKeys(KeysByRoot keys)
 {
     for (auto& [root, some] : keys) {
-        std::vector<StoreRow> rows;
-        if (some.empty() || !core_.store().rowsForKeys(*root, some, RowContents::Keys, rows, nullptr))
+        std::vector<NSManagedObject*> read;
+        for (const std::int64_t key : some)
+            if (NSManagedObject* record = core_.registry.find(*root, key); !record->isFault())
+                read.push_back(record);
+        VersionDifferences differences;
+        if (!compareVersions(core_.store(), *root, read, differences, nullptr))
             continue; // reading the rows tells what is wrong
+        std::unordered_set<const NSManagedObject*> differing(differences.moved.begin(), differences.moved.end());
+        differing.insert(differences.gone.begin(), differences.gone.end());
         std::unordered_set<std::int64_t> unmoved;
-        for (const StoreRow& row : rows) {
-            NSManagedObject& record = *core_.registry.find(*root, row.key);
-            if (record.isFault() || record.rowVersion() != row.version)
+        for (NSManagedObject* record : read) {
+            if (differing.contains(record))
                 continue;
-            unmoved.insert(row.key);
+            unmoved.insert(record->objectID().key());
             // Members come and go without a new version.
-            core_.relationships.forgetEndsWithoutColumn(record);
-            if (!record.isDeleted() && !isEdited(record))
-                core_.noteRefreshed(record);
+            core_.relationships.forgetEndsWithoutColumn(*record);
+            if (!record->isDeleted() && !isEdited(*record))
+                core_.noteRefreshed(*record);
         }
         std::erase_if(some, [&](std::int64_t key) { return unmoved.contains(key); });
     }

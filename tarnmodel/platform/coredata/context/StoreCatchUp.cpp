@@ -2,6 +2,7 @@
 
 #include "tarnmodel/platform/coredata/context/ContextCore.h"
 #include "tarnmodel/platform/coredata/context/RecordAccess.h"
+#include "tarnmodel/platform/coredata/context/VersionComparison.h"
 
 #include <algorithm>
 
@@ -35,7 +36,7 @@ StoreCatchUp::StoreCatchUp(ContextCore& core) : core_(core), conflicts_(core, pr
 
 bool StoreCatchUp::run(NSError* error)
 {
-    if (!compareVersions(error) || !allowedByPolicy(error) || !readRows(error))
+    if (!findWhatMoved(error) || !allowedByPolicy(error) || !readRows(error))
         return false;
     for (auto& [root, records] : records_)
         takeRows(records, rows_[root]);
@@ -54,33 +55,23 @@ bool StoreCatchUp::run(NSError* error)
     return true;
 }
 
-bool StoreCatchUp::compareVersions(NSError* error)
+bool StoreCatchUp::findWhatMoved(NSError* error)
 {
-    std::unordered_map<const NSEntityDescription*, std::vector<std::int64_t>> keys;
-    for (const NSManagedObject* record : core_.registry.objects())
+    std::unordered_map<const NSEntityDescription*, std::vector<NSManagedObject*>> held;
+    for (NSManagedObject* record : core_.registry.objects())
         if (isOfRow(*record))
-            keys[&record->entity().rootEntity()].push_back(record->objectID().key());
-    for (auto& [root, wanted] : keys) {
-        std::sort(wanted.begin(), wanted.end());
-        std::vector<StoreRow> rows;
-        if (!core_.store().rowsForKeys(*root, wanted, RowContents::Keys, rows, error))
+            held[&record->entity().rootEntity()].push_back(record);
+    for (const auto& [root, those] : held) {
+        VersionDifferences differences;
+        if (!compareVersions(core_.store(), *root, those, differences, error))
             return false;
-        std::unordered_map<std::int64_t, std::int64_t> versions;
-        versions.reserve(rows.size());
-        for (const StoreRow& row : rows)
-            versions.emplace(row.key, row.version);
         Records& records = records_[root];
-        for (const std::int64_t key : wanted) {
-            NSManagedObject* record = core_.registry.find(*root, key);
-            const auto version = versions.find(key);
-            if (version == versions.end())
-                records.gone.push_back(record);
-            else if (version->second != record->rowVersion())
-                (record->isDeleted()           ? records.deleted
-                        : record->hasChanges() ? records.changed
-                                               : records.clean)
-                    .push_back(record);
-        }
+        records.gone = std::move(differences.gone);
+        for (NSManagedObject* record : differences.moved)
+            (record->isDeleted()           ? records.deleted
+                    : record->hasChanges() ? records.changed
+                                           : records.clean)
+                .push_back(record);
     }
     return true;
 }

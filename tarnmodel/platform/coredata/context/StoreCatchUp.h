@@ -32,7 +32,7 @@ private:
     using RecordsByRoot = std::unordered_map<const NSEntityDescription*, Records>;
     using Rows = std::unordered_map<std::int64_t, StoreRow>;
 
-    bool compareVersions(NSError* error);
+    bool findWhatMoved(NSError* error);
     bool allowedByPolicy(NSError* error) const;
     bool readRows(NSError* error);
     bool readInto(Rows& rows, const NSEntityDescription& root, const std::vector<NSManagedObject*>& records,
