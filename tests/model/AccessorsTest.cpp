@@ -11,6 +11,7 @@
 #include "tests/model/RecordFixture.h"
 
 #include <limits>
+#include <ranges>
 
 namespace tarn {
 namespace {
@@ -165,6 +166,12 @@ TEST_P(Accessors, KeepToManySetsAndTheirInversesInStep)
     auto& tag = insert<OVNoteTag>();
     note.tagsSet().addObject(tag);
     EXPECT_THAT(tag.notesSet().allObjects(), ElementsAre(&note));
+    std::vector<OVNote*> walked;
+    for (OVNote* member : tag.notesSet())
+        walked.push_back(member);
+    EXPECT_THAT(walked, ElementsAre(&note));
+    EXPECT_EQ(std::ranges::distance(note.pinnedInTagsSet()), 0);
+    static_assert(std::ranges::forward_range<NSManagedObjectSet<OVNote>>);
     tag.pinnedNotesSet().addObject(note);
     EXPECT_THAT(note.pinnedInTagsSet().allObjects(), ElementsAre(&tag));
     tag.notesSet().removeObject(note);

@@ -4,6 +4,7 @@
 #include "tarnmodel/platform/coredata/OrderedSet.h"
 
 #include <cstddef>
+#include <iterator>
 #include <span>
 #include <vector>
 
@@ -57,16 +58,52 @@ private:
 
 /// The live, typed set that a record's `xSet()` gives. A light handle: copy it freely, keep it no longer than the
 /// record.
+///
+///     for (OVNote* note : tag.notesSet())
+///         titles.push_back(note->title());
 template <typename Record> class NSManagedObjectSet {
 public:
+    using Members = std::vector<NSManagedObject*>;
+    class Iterator {
+    public:
+        using iterator_category = std::forward_iterator_tag;
+        using difference_type = std::ptrdiff_t;
+        using value_type = Record*;
+        using pointer = Record* const*;
+        using reference = Record*;
+
+        Iterator() = default;
+        explicit Iterator(Members::const_iterator place) : place_(place) { }
+        Record* operator*() const { return static_cast<Record*>(*place_); }
+        Iterator& operator++()
+        {
+            ++place_;
+            return *this;
+        }
+        Iterator operator++(int)
+        {
+            Iterator before = *this;
+            ++place_;
+            return before;
+        }
+        friend bool operator==(const Iterator&, const Iterator&) = default;
+
+    private:
+        Members::const_iterator place_;
+    };
+
     explicit NSManagedObjectSet(ToManySet& set) : set_(&set) { }
+
+    /// The members themselves. Where the body fetches or changes members, walk `allObjects()`.
+    Iterator begin() const { return Iterator(set_->members().begin()); }
+    Iterator end() const { return Iterator(set_->members().end()); }
 
     void addObject(Record& record) { set_->add(record); }
     void removeObject(Record& record) { set_->remove(record); }
     bool containsObject(const Record& record) const { return set_->contains(record); }
     std::size_t count() const { return set_->count(); }
     bool empty() const { return count() == 0; }
-    /// A copy: safe to walk while members come and go.
+    /// A copy, which members that come and go do not touch.
     std::vector<Record*> allObjects() const
     {
         std::vector<Record*> records;
