@@ -2,8 +2,8 @@
 
 #include "fuzz/search/Require.h"
 #include "tarnmodel/platform/foundation/text/UTF.h"
+#include "tarnmodel/search/ExpressionMatches.h"
 #include "tarnmodel/search/OVNoteSearchManager.h"
-#include "tarnmodel/search/Stretches.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -24,7 +24,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     // The expressions take too long for more.
     const std::string text = validUTF8(std::string(data, data + std::min<std::size_t>(size, 1'000)));
     const std::u16string units = utf16FromUTF8(text);
-    require(isSame(quotedStretches(units), OVNoteSearchManager::quotedSearchRegularExpression(), text));
-    require(isSame(tagStretches(units), OVNoteSearchManager::tagSearchRegularExpression(), text));
+    require(isSame(quotedMatches(units), OVNoteSearchManager::quotedSearchRegularExpression(), text));
+    require(isSame(tagMatches(units), OVNoteSearchManager::tagSearchRegularExpression(), text));
     return 0;
 }

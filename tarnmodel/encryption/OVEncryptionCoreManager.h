@@ -40,7 +40,7 @@ public:
     static void performInManagedObjectContext(
         const NSManagedObjectContext& context, const std::function<void()>& withoutEncryptionCoreManager);
 
-    /// Whether attachments of protected notes can be protected. NO until a host says otherwise.
+    /// Whether attachments of protected notes can be protected. False until a host says otherwise.
     static bool isFileEncryptionEnabled() noexcept;
     static void setFileEncryptionEnabled(bool enabled) noexcept;
 

@@ -101,7 +101,7 @@ public:
     static OVNote* noteWithText(std::string_view text, NSManagedObjectContext& context);
     /// Replaces the text and derives title, subtitle, tags, to-do counts, flags, links and the use of attachments from
     /// it; a changed title is carried into the notes that link to it. Counts the edit in the vector clock and names
-    /// this device. The modification date becomes now unless `updateModificationDate` is NO.
+    /// this device. The modification date becomes now unless `updateModificationDate` is false.
     void updateNoteWithText(std::string_view text);
     void updateNoteWithText(std::string_view text, bool updateModificationDate);
     /// What both come to.
@@ -135,7 +135,7 @@ public:
     /// Puts the text below a first line that begins with "# ", else in front.
     void prependNoteWithText(std::string_view addition);
     /// Puts the text at the end, but above a last line of this note's tags. Nothing happens for an empty text. Unless
-    /// `newLine` is NO it stands on lines of its own, with a blank line before the tags.
+    /// `newLine` is false it stands on lines of its own, with a blank line before the tags.
     void appendNoteWithText(std::string_view addition);
     void appendNoteWithText(std::string_view addition, bool newLine);
     /// Replaces all but a heading of level 1 to 3 on the first of several lines; without one the new text begins with a
@@ -162,7 +162,7 @@ public:
     std::optional<std::string> storedText() const override;
     /// Stores the text as it is, unguarded, and tells observers.
     void updatePrimitiveText(std::optional<std::string_view> text) override;
-    /// Whether the note, or one of its attachments, is protected. NO when the attachments cannot be counted.
+    /// Whether the note, or one of its attachments, is protected. False when the attachments cannot be counted.
     bool hasEncryption() const override;
     bool hasEncryptionAndIsLocked() const override;
     OVEncryptionCoreManagerProtocol* encryptionCoreManager() const override;
@@ -171,7 +171,7 @@ public:
     OVEncryptionState encryptionState() const override;
     void setEncryptionState(const OVEncryptionState& state) override;
     static bool anyNoteHasEncryption(const std::vector<OVNote*>& notes);
-    /// NO for a protected note where attachments cannot be protected.
+    /// False for a protected note where attachments cannot be protected.
     bool allowsAttachments() const;
     /// What a note hands over when it is shared: its text. Raises "Invalid accessor" while the note is locked.
     std::vector<std::string> activityItems() const;
@@ -189,14 +189,14 @@ public:
     bool isPinned() const;
     void pinInTag(OVNoteTag& tag);
     void unpinInTag(OVNoteTag& tag);
-    /// NO for null.
+    /// False for null.
     bool isPinnedInTag(const OVNoteTag* tag) const;
     /// Takes it from the top of the note list and of every tag's list.
     void unpinEverywhere();
     void makeReadOnly();
     void makeEditable();
     bool isReadOnly() const;
-    /// Always NO: for kinds of notes that are never edited.
+    /// Always false: for kinds of notes that are never edited.
     virtual bool isStatic() const;
     /// Neither trashed, archived, static nor read-only.
     bool isEditable() const;
@@ -231,8 +231,8 @@ public:
     /// empty title stands for the identifier. Encrypted notes are never rewritten. None: had no title.
     void updateLinkedByNoteForNewTitle(
         std::optional<std::string_view> newTitle, std::optional<std::string_view> oldTitle);
-    /// Whether links to `title` in this note's first line may be rewritten: NO when following its own title from there
-    /// would come to a note twice. Adds the notes that it comes to to `parentLinkedBy`; null: none yet.
+    /// Whether links to `title` in this note's first line may be rewritten: false when following its own title from
+    /// there would come to a note twice. Adds the notes that it comes to to `parentLinkedBy`; null: none yet.
     bool canReplaceWikiLinkWithTitle(std::string_view title, VisitedNotes* parentLinkedBy = nullptr);
 
     // Links from outside (tarnmodel/notes/OVNote+XCallbackURL.cpp)

@@ -103,7 +103,7 @@ public:
     /// Finds this tag's notes that are neither trashed nor archived, those of the tags below it included. Names this
     /// record: use it while that lives.
     NSPredicate untrashedNotesPredicate() const;
-    /// The same; NO leaves out notes that also carry a tag below this one.
+    /// The same; false leaves out notes that also carry a tag below this one.
     NSPredicate untrashedNotesPredicateIncludingNotesFromChildTags(bool includesNotesFromChildTags) const;
     /// How many notes `untrashedNotesPredicate` finds, without loading them. None on failure, which is logged.
     std::optional<std::size_t> untrashedNotesCount() const;

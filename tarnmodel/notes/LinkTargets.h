@@ -24,7 +24,7 @@ public:
     LinkTargets(const LinkTargets&) = delete;
     LinkTargets& operator=(const LinkTargets&) = delete;
 
-    /// Fetches what the cache does not know, at once for all links. NO when the store could not be asked (which is
+    /// Fetches what the cache does not know, at once for all links. False when the store could not be asked (which is
     /// logged).
     bool lookUp(std::span<const CVKWikiLink> links);
     /// The note of this title; null when there is none, or when it was not looked up.

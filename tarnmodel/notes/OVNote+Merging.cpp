@@ -32,7 +32,7 @@ std::optional<TextRewriting> rewritingOf(const Value& former, const Value& rewri
     return before && after ? TextRewriting::between(*before, *after) : std::nullopt;
 }
 
-/// The links and tags of a text do not wait for an attachment that is locked. NO when there is one.
+/// The links and tags of a text do not wait for an attachment that is locked. False when there is one.
 bool deriveWhatCanBeRead(const std::function<void()>& derive)
 {
     try {

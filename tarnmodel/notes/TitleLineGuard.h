@@ -9,7 +9,7 @@
 
 namespace tarn {
 
-/// Whether the note's first line, where a title is, holds a link to this title. NO for a protected note.
+/// Whether the note's first line, where a title is, holds a link to this title. False for a protected note.
 bool titleLineLinksTo(const OVNote& note, std::string_view title);
 
 /// Says whether the title line of a note may follow the new title of a note that it links to.

@@ -1,4 +1,4 @@
-#include "tarnmodel/search/Stretches.h"
+#include "tarnmodel/search/ExpressionMatches.h"
 
 #include "tarnmodel/platform/foundation/text/UTF.h"
 
@@ -189,7 +189,7 @@ private:
 
 } // namespace
 
-std::vector<NSRange> quotedStretches(std::u16string_view text)
+std::vector<NSRange> quotedMatches(std::u16string_view text)
 {
     const NextPlace nextClosing(
         text.size(), [text](std::size_t place) { return isClosingQuote(text[place]) && endsWord(text, place + 1); });
@@ -203,13 +203,13 @@ std::vector<NSRange> quotedStretches(std::u16string_view text)
     });
 }
 
-std::vector<NSRange> tagStretches(std::u16string_view text)
+std::vector<NSRange> tagMatches(std::u16string_view text)
 {
     const TagScanner scanner(text);
     return stretches(text, [&scanner](std::size_t place) { return scanner.endOfTagAt(place); });
 }
 
-std::u16string textWithoutStretches(std::u16string_view text, const std::vector<NSRange>& stretches)
+std::u16string textWithoutRanges(std::u16string_view text, const std::vector<NSRange>& stretches)
 {
     std::u16string result;
     std::size_t place = 0;

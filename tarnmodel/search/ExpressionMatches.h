@@ -11,11 +11,11 @@ namespace tarn {
 // expressions themselves take minutes for some texts of 100 KB. Texts are valid UTF-16.
 
 /// The matches of `OVNoteSearchManager::quotedSearchRegularExpression()`.
-std::vector<NSRange> quotedStretches(std::u16string_view text);
+std::vector<NSRange> quotedMatches(std::u16string_view text);
 /// The matches of `OVNoteSearchManager::tagSearchRegularExpression()`.
-std::vector<NSRange> tagStretches(std::u16string_view text);
+std::vector<NSRange> tagMatches(std::u16string_view text);
 
 /// The text without the stretches, which are in order and do not overlap.
-std::u16string textWithoutStretches(std::u16string_view text, const std::vector<NSRange>& stretches);
+std::u16string textWithoutRanges(std::u16string_view text, const std::vector<NSRange>& stretches);
 
 } // namespace tarn

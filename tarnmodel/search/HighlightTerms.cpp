@@ -2,8 +2,8 @@
 
 #include "tarnmodel/platform/foundation/text/Characters.h"
 #include "tarnmodel/platform/foundation/text/UTF.h"
+#include "tarnmodel/search/ExpressionMatches.h"
 #include "tarnmodel/search/OVNoteSearchManager.h"
-#include "tarnmodel/search/Stretches.h"
 #include "tarnmodel/search/Words.h"
 
 namespace tarn {
@@ -56,16 +56,16 @@ HighlightTerms highlightTermsOfSearchString(std::string_view searchString)
         return std::u16string_view(text).substr(range.location, range.length);
     };
     const std::u16string all = utf16FromUTF8(searchString);
-    const std::vector<NSRange> phrases = quotedStretches(all);
+    const std::vector<NSRange> phrases = quotedMatches(all);
     for (const NSRange& range : phrases)
         addPhrase(result, cut(all, range));
 
-    const std::u16string withoutPhrases = textWithoutStretches(all, phrases);
-    const std::vector<NSRange> tags = tagStretches(withoutPhrases);
+    const std::u16string withoutPhrases = textWithoutRanges(all, phrases);
+    const std::vector<NSRange> tags = tagMatches(withoutPhrases);
     for (const NSRange& range : tags)
         addTag(result, cut(withoutPhrases, range));
 
-    const std::string rest = utf8FromUTF16(textWithoutStretches(withoutPhrases, tags));
+    const std::string rest = utf8FromUTF16(textWithoutRanges(withoutPhrases, tags));
     for (WordSplitter words(rest); const auto word = words.next();)
         addWord(result, *word);
     return result;

@@ -1,10 +1,10 @@
 #include "tarnmodel/platform/foundation/text/Characters.h"
 #include "tarnmodel/platform/foundation/text/UTF.h"
 #include "tarnmodel/platform/foundation/values/NSException.h"
+#include "tarnmodel/search/ExpressionMatches.h"
 #include "tarnmodel/search/HighlightTerms.h"
 #include "tarnmodel/search/OVNoteSearchManager.h"
 #include "tarnmodel/search/SearchCompiler.h"
-#include "tarnmodel/search/Stretches.h"
 #include "tarnmodel/search/Words.h"
 
 namespace tarn {
@@ -46,11 +46,11 @@ std::string editorTextOfTag(std::u16string_view match)
 std::vector<OVNoteSearchToken> editorTokens(std::u16string_view text)
 {
     std::vector<OVNoteSearchToken> tokens;
-    for (const NSRange& range : quotedStretches(text))
+    for (const NSRange& range : quotedMatches(text))
         tokens.emplace_back(range, editorTextOfPhrase(text.substr(range.location, range.length)));
     const std::size_t phrases = tokens.size();
     std::size_t phrase = 0;
-    for (const NSRange& range : tagStretches(text)) {
+    for (const NSRange& range : tagMatches(text)) {
         // Tags never overlap, so only a phrase can hold the place already.
         while (phrase < phrases && tokens[phrase].range().end() <= range.location)
             ++phrase;

@@ -40,7 +40,8 @@ public:
     /// which is why the compiler finds the same matches by other means.
     static const RegularExpression& quotedSearchRegularExpression();
     static const RegularExpression& tagSearchRegularExpression();
-    /// Whether searches also look into the recognised text of attachments; NO until set. Read once by each compilation.
+    /// Whether searches also look into the recognised text of attachments; false until set. Read once by each
+    /// compilation.
     static bool allowOCRSearch() noexcept;
     static void setAllowOCRSearch(bool allowOCRSearch) noexcept;
     /// "or", the word between alternatives.

@@ -3,8 +3,8 @@
 #include "tarnmodel/platform/foundation/text/Characters.h"
 #include "tarnmodel/platform/foundation/text/UTF.h"
 #include "tarnmodel/search/Clauses.h"
+#include "tarnmodel/search/ExpressionMatches.h"
 #include "tarnmodel/search/OVNoteSearchManager.h"
-#include "tarnmodel/search/Stretches.h"
 #include "tarnmodel/search/Words.h"
 
 #include <algorithm>
@@ -89,9 +89,9 @@ std::vector<OVNoteSearchToken> tokensOfSearchString(std::string_view cleaned, bo
     const std::u16string units = utf16FromUTF8(cleaned);
     const std::u16string_view text = units;
     std::vector<OVNoteSearchToken> tokens;
-    for (const NSRange& range : quotedStretches(text))
+    for (const NSRange& range : quotedMatches(text))
         tokens.push_back(phraseToken(text.substr(range.location, range.length), range, ocr));
-    for (const NSRange& range : tagStretches(text))
+    for (const NSRange& range : tagMatches(text))
         tokens.push_back(tagToken(text.substr(range.location, range.length), range));
     return tokens;
 }

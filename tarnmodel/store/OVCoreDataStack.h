@@ -89,7 +89,7 @@ public:
     const std::optional<Timer>& coalescenceSaveTimer() const noexcept { return coalescenceSaveTimer_; }
 
     // Migration -----------------------------------------------------------------------------------------------------
-    /// Whether there is a store that another version of the model wrote. NO without one, or when it is unreadable.
+    /// Whether there is a store that another version of the model wrote. False without one, or when it is unreadable.
     bool isMigrationNeeded() const;
     /// Migrates the store on a queue of its own, then sets up the stack. A store that cannot be migrated is kept beside
     /// the new one as "database_backup <time>.sqlite". Does nothing while a migration is under way.

@@ -39,8 +39,8 @@ public:
 
     /// The stack could not save the main context. Its changes are still there, and the next save tries again.
     virtual void coreDataStackDidFailToSave(OVCoreDataStack& stack, const NSError& error);
-    /// Whether the stack keeps a note's text that gave way to another writer's as a conflicted copy. NO takes it into
-    /// the delegate's own hands: nobody else keeps it.
+    /// Whether the stack keeps a note's text that gave way to another writer's as a conflicted copy. False takes it
+    /// into the delegate's own hands: nobody else keeps it.
     virtual bool coreDataStackShouldKeepLosingText(OVCoreDataStack& stack, const MergeConflict& conflict);
     /// A conflicted copy of a text that gave way was made, in the main context; it belongs to the save that is under
     /// way, or to the next one.

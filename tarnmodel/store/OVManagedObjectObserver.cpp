@@ -8,16 +8,16 @@
 namespace tarn {
 namespace {
 
-using KeySet = OVManagedObjectObserver::KeySet;
+using PrimaryKeySet = OVManagedObjectObserver::PrimaryKeySet;
 
-KeySet changedKeysOf(const NSManagedObject& record)
+PrimaryKeySet changedKeysOf(const NSManagedObject& record)
 {
-    KeySet keys = record.changedKeys();
+    PrimaryKeySet keys = record.changedKeys();
     keys.merge(record.changedKeysForCurrentEvent());
     return keys;
 }
 
-bool shareAName(const KeySet& left, const KeySet& right)
+bool shareAName(const PrimaryKeySet& left, const PrimaryKeySet& right)
 {
     return std::any_of(left.begin(), left.end(), [&right](const std::string& key) { return right.contains(key); });
 }
@@ -30,7 +30,7 @@ bool holds(const std::vector<NSManagedObject*>& records, const NSManagedObject* 
 } // namespace
 
 std::unique_ptr<OVManagedObjectObserver> OVManagedObjectObserver::observerForManagedObject(NSManagedObject& object,
-    std::optional<KeySet> keyPaths, const std::map<std::string, KeySet>& relationships, Block block)
+    std::optional<PrimaryKeySet> keyPaths, const std::map<std::string, PrimaryKeySet>& relationships, Block block)
 {
     std::unique_ptr<OVManagedObjectObserver> observer(
         new OVManagedObjectObserver(object, std::move(keyPaths), std::move(block)));
@@ -40,7 +40,8 @@ std::unique_ptr<OVManagedObjectObserver> OVManagedObjectObserver::observerForMan
     return observer;
 }
 
-OVManagedObjectObserver::OVManagedObjectObserver(NSManagedObject& object, std::optional<KeySet> keyPaths, Block block)
+OVManagedObjectObserver::OVManagedObjectObserver(
+    NSManagedObject& object, std::optional<PrimaryKeySet> keyPaths, Block block)
     : object_(&object), keyPathToObserve_(std::move(keyPaths)), block_(std::move(block))
 {
     // A record owns the blocks that observe its keys, and this block owns the lifeline: it ends when the record does.
@@ -51,7 +52,7 @@ OVManagedObjectObserver::OVManagedObjectObserver(NSManagedObject& object, std::o
 
 OVManagedObjectObserver::~OVManagedObjectObserver() = default;
 
-void OVManagedObjectObserver::observeObjectsInRelationshipName(std::string_view name, const KeySet& keyPaths)
+void OVManagedObjectObserver::observeObjectsInRelationshipName(std::string_view name, const PrimaryKeySet& keyPaths)
 {
     if (observedObject() && object_->entity().relationshipNamed(name))
         relationships_.insert_or_assign(std::string(name), keyPaths);
@@ -88,11 +89,11 @@ void OVManagedObjectObserver::managedObjectContextObjectsDidChange(const NSNotif
         block(changedKeys, changedRelated, false);
 }
 
-std::optional<KeySet> OVManagedObjectObserver::countingKeysOfObject(const ObjectChanges& changes) const
+std::optional<PrimaryKeySet> OVManagedObjectObserver::countingKeysOfObject(const ObjectChanges& changes) const
 {
     if (!holds(changes.updated, object_))
         return std::nullopt;
-    KeySet changedKeys = changedKeysOf(*object_);
+    PrimaryKeySet changedKeys = changedKeysOf(*object_);
     if (keyPathToObserve_ && !shareAName(*keyPathToObserve_, changedKeys))
         return std::nullopt;
     return changedKeys;

@@ -1,4 +1,4 @@
-#include "tarnmodel/search/Stretches.h"
+#include "tarnmodel/search/ExpressionMatches.h"
 #include "tarnmodel/platform/foundation/text/UTF.h"
 #include "tarnmodel/search/OVNoteSearchManager.h"
 
@@ -76,7 +76,7 @@ TEST(SearchExpressions, AreMadeOnceAndMatchAtEveryLine)
     EXPECT_EQ(shown(matchesOf(tags, lines)), "{13,2} {16,6} {42,3} ");
 }
 
-TEST(Stretches, AreWhatTheExpressionsMatch)
+TEST(ExpressionMatches, AreWhatTheExpressionsMatch)
 {
     constexpr std::uint32_t kSeed = 20211105;
     SCOPED_TRACE("seed " + std::to_string(kSeed));
@@ -88,8 +88,8 @@ TEST(Stretches, AreWhatTheExpressionsMatch)
         const std::u16string units = utf16FromUTF8(text);
         const auto expectedQuoted = matchesOf(OVNoteSearchManager::quotedSearchRegularExpression(), text);
         const auto expectedTags = matchesOf(OVNoteSearchManager::tagSearchRegularExpression(), text);
-        ASSERT_EQ(shown(quotedStretches(units)), shown(expectedQuoted)) << round << ": " << text;
-        ASSERT_EQ(shown(tagStretches(units)), shown(expectedTags)) << round << ": " << text;
+        ASSERT_EQ(shown(quotedMatches(units)), shown(expectedQuoted)) << round << ": " << text;
+        ASSERT_EQ(shown(tagMatches(units)), shown(expectedTags)) << round << ": " << text;
         quoted += expectedQuoted.size();
         tags += expectedTags.size();
     }

@@ -3,9 +3,9 @@
 #include "tarnmodel/platform/foundation/system/Environment.h"
 #include "tarnmodel/platform/foundation/text/UTF.h"
 #include "tarnmodel/platform/foundation/values/NSException.h"
+#include "tarnmodel/search/ExpressionMatches.h"
 #include "tarnmodel/search/OVNoteSearchManager.h"
 #include "tarnmodel/search/SearchCompiler.h"
-#include "tarnmodel/search/Stretches.h"
 
 #include <gtest/gtest.h>
 

@@ -48,7 +48,7 @@ public:
     NSManagedObjectContext& context() noexcept { return *context_; }
     NSPersistentStore& store() noexcept { return *store_; }
     const std::filesystem::path& folder() const noexcept { return folder_; }
-    /// Whether there is a database on disk; NO for a reading command on a folder without a store.
+    /// Whether there is a database on disk; false for a reading command on a folder without a store.
     bool exists() const noexcept { return exists_; }
 
     /// How a command ends that looked for something. Tells `nothing` where it found none in a store that is there.

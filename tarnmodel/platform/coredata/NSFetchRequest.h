@@ -35,9 +35,9 @@ struct NSFetchRequest {
     std::size_t fetchLimit = 0; ///< 0: no limit
     std::size_t fetchOffset = 0;
     bool includesSubentities = true;
-    /// NO leaves the records as faults: enough to delete or count them.
+    /// False leaves the records as faults: enough to delete or count them.
     bool includesPropertyValues = true;
-    /// NO answers from the store alone.
+    /// False answers from the store alone.
     bool includesPendingChanges = true;
     /// For `executeDictionaryFetchRequest`: names of attributes and to-one relationships (these give object
     /// identifiers); empty: all attributes.

@@ -24,7 +24,7 @@ struct StoreOptions {
     bool readOnly = false; ///< refuses writes; the file is still opened for recovery of an unfinished journal
     bool createIfMissing = true;
     /// Called again and again while a lock of another process is waited for, with the time that the wait has taken so
-    /// far; NO ends it, and what waits fails with `StoreErrorBusy`. May be empty. On the thread that waits; it must
+    /// far; false ends it, and what waits fails with `StoreErrorBusy`. May be empty. On the thread that waits; it must
     /// neither throw nor use the store.
     std::function<bool(std::chrono::milliseconds)> whileWaiting{};
 };

@@ -8,9 +8,9 @@ namespace tarn {
 
 /// Evaluates one predicate over many objects: constants are folded and patterns compiled once.
 ///
-/// Two-valued: a comparison with nil is YES or NO, never unknown. `nil == nil` is YES, `nil != 'x'` is YES, every other
-/// comparison with nil is NO. Values of different kinds are unequal and in no order; truth values and numbers compare
-/// as numbers, exactly. Strings are in order by code points, after folding where the options ask for it.
+/// Two-valued: a comparison with nil is true or false, never unknown. `nil == nil` is true, `nil != 'x'` is true, every
+/// other comparison with nil is false. Values of different kinds are unequal and in no order; truth values and numbers
+/// compare as numbers, exactly. Strings are in order by code points, after folding where the options ask for it.
 ///
 /// A key path gives nil beyond a nil, and over a to-many relationship one flat array, in which a member without a value
 /// counts as nil. Compared directly, an array equals another one with the same members in any order, however often, and

@@ -70,7 +70,7 @@ enum class ComparisonOperator : std::uint8_t {
     In,      ///< left is a member of the right collection, or a part of the right string
     Between, ///< right is a collection of two bounds, both included
 };
-/// How a to-many left side is looked at. ANY over nothing is NO, ALL and NONE are YES.
+/// How a to-many left side is looked at. ANY over nothing is false, ALL and NONE are true.
 enum class ComparisonModifier : std::uint8_t { Direct, Any, All, None };
 
 struct ComparisonPredicate {
@@ -81,7 +81,7 @@ struct ComparisonPredicate {
     ComparisonOptions options;
 };
 enum class CompoundType : std::uint8_t { And, Or };
-/// AND and OR are n-ary (nested ones of one kind are joined by the parser); no members: YES for AND, NO for OR.
+/// AND and OR are n-ary (nested ones of one kind are joined by the parser); no members: true for AND, false for OR.
 struct CompoundPredicate {
     CompoundType type = CompoundType::And;
     std::vector<PredicateNodePtr> members;

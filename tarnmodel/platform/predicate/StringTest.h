@@ -19,7 +19,7 @@ public:
     /// Raises `NSInvalidArgumentException` for a pattern that is no regular expression.
     StringTest(ComparisonOperator operation, ComparisonOptions options, std::string_view right);
 
-    /// Contains, BeginsWith and EndsWith of an empty needle are NO. A pattern that runs over its time or stack limit
+    /// Contains, BeginsWith and EndsWith of an empty needle are false. A pattern that runs over its time or stack limit
     /// does not match, and is logged once.
     bool matches(std::string_view left) const;
     /// Whether texts are compared in their folded form, so that several tests of one text can share it.

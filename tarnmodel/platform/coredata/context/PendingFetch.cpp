@@ -5,7 +5,7 @@
 #include "tarnmodel/platform/coredata/context/SortOrder.h"
 #include "tarnmodel/platform/coredata/description/CompleteOrder.h"
 #include "tarnmodel/platform/coredata/description/KeyPathWalk.h"
-#include "tarnmodel/platform/coredata/rows/CappedSum.h"
+#include "tarnmodel/platform/coredata/rows/SaturatingSum.h"
 #include "tarnmodel/platform/foundation/values/NSException.h"
 #include "tarnmodel/platform/predicate/PredicateEvaluator.h"
 
@@ -58,7 +58,7 @@ std::size_t hashOf(const DictionaryResult& result)
 template <typename T> void cut(std::vector<T>& values, std::size_t offset, std::size_t limit)
 {
     const std::size_t begin = std::min(offset, values.size());
-    const std::size_t end = limit ? std::min(cappedSum(begin, limit), values.size()) : values.size();
+    const std::size_t end = limit ? std::min(saturatingSum(begin, limit), values.size()) : values.size();
     values.erase(values.begin() + static_cast<std::ptrdiff_t>(end), values.end());
     values.erase(values.begin(), values.begin() + static_cast<std::ptrdiff_t>(begin));
 }
@@ -216,7 +216,7 @@ std::optional<std::vector<NSManagedObject*>> PendingFetch::mergedObjects(RowCont
         // Room for every stored record that may have to be dropped from the answer.
         const PendingRecords* pending = core_.tracker.pending(root_);
         const std::size_t unsure = reached_.size() + (pending ? pending->updated.size() + pending->deleted.size() : 0);
-        fetch.limit = cappedSum(cappedSum(request_.fetchOffset, request_.fetchLimit), unsure);
+        fetch.limit = saturatingSum(saturatingSum(request_.fetchOffset, request_.fetchLimit), unsure);
     }
     std::vector<StoreRow> rows;
     if (!core_.store().fetch(fetch, rows, error))

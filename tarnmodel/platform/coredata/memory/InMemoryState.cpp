@@ -71,7 +71,7 @@ std::vector<std::int64_t> InMemoryState::relatedKeys(
 {
     std::vector<std::int64_t> keys;
     const auto related = related_.find(&relationship);
-    const KeySet* found = related == related_.end() ? nullptr : related->second.find(key);
+    const RowKeys* found = related == related_.end() ? nullptr : related->second.find(key);
     if (found)
         found->forEach([&](std::int64_t other, bool) { keys.push_back(other); });
     return keys;
@@ -80,7 +80,7 @@ std::vector<std::int64_t> InMemoryState::relatedKeys(
 std::size_t InMemoryState::countRelated(const NSRelationshipDescription& relationship, std::int64_t key) const
 {
     const auto related = related_.find(&relationship);
-    const KeySet* found = related == related_.end() ? nullptr : related->second.find(key);
+    const RowKeys* found = related == related_.end() ? nullptr : related->second.find(key);
     return found ? found->size() : 0;
 }
 
@@ -99,7 +99,7 @@ std::vector<std::int64_t> InMemoryState::keysWithValue(const EqualityProbe& prob
         return relatedKeys(static_cast<const NSRelationshipDescription&>(property).inverseRelationship(), probe.key);
     std::vector<std::int64_t> keys;
     const auto index = texts_.find({&property.declaringEntity(), property.index(), probe.folded});
-    const KeySet* found = index == texts_.end() ? nullptr : index->second.find(hashOfText(probe.text));
+    const RowKeys* found = index == texts_.end() ? nullptr : index->second.find(hashOfText(probe.text));
     if (found)
         found->forEach([&](std::int64_t key, bool) { keys.push_back(key); });
     return keys;
@@ -115,7 +115,7 @@ void InMemoryState::setMember(KeysByKey& keys, std::int64_t key, std::int64_t ot
     }
     if (!keys.find(key))
         return;
-    KeySet& others = keys[key];
+    RowKeys& others = keys[key];
     others.erase(other);
     if (others.isEmpty())
         keys.erase(key);

@@ -47,8 +47,8 @@ public:
     std::map<std::string, std::int64_t> nextKeys; ///< by root entity
 
 private:
-    using KeySet = SnapshotMap<bool>;
-    using KeysByKey = SnapshotMap<KeySet>;
+    using RowKeys = SnapshotMap<bool>;
+    using KeysByKey = SnapshotMap<RowKeys>;
 
     /// What one index is over: an attribute, by the entity that declares it, its text folded or as it is.
     using IndexSubject = std::tuple<const NSEntityDescription*, PropertyIndex, bool>;

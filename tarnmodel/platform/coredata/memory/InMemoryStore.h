@@ -2,7 +2,7 @@
 
 #include "tarnmodel/platform/coredata/memory/InMemoryState.h"
 #include "tarnmodel/platform/coredata/rows/RowStore.h"
-#include "tarnmodel/platform/coredata/rows/WriterTurn.h"
+#include "tarnmodel/platform/coredata/rows/WriterLock.h"
 
 #include <atomic>
 #include <functional>
@@ -56,7 +56,7 @@ private:
     const StoreIdentity* identity_;
     mutable std::mutex mutex_;
     StatePointer committed_;
-    WriterTurn turn_;
+    WriterLock turn_;
     std::atomic<std::uint64_t> commits_ = 0;
     std::shared_ptr<InMemoryState> working_; ///< of the open transaction; belongs to the turn's holder
 };

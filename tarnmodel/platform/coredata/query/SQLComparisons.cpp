@@ -318,7 +318,7 @@ std::string SQLConditionBuilder::stringTest(
     }
     description += " \"" + right + '"';
     auto test = std::make_shared<const StringTest>(operation, options, right);
-    const KeySetPtr rows = left.searched ? options_.rowsThatMayMatch(*left.searched, *test) : nullptr;
+    const PrimaryKeySetPtr rows = left.searched ? options_.rowsThatMayMatch(*left.searched, *test) : nullptr;
     const std::string tested
         = "string_test(" + text_.bind(SQLStringTest{std::move(test), std::move(description)}) + ", " + left.sql + ")";
     return rows ? "(key_in(" + text_.bind(rows) + ", " + left.key + ") AND " + tested + ")" : tested;

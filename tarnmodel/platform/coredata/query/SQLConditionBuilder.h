@@ -2,7 +2,7 @@
 
 #include "tarnmodel/platform/coredata/NSManagedObjectID.h"
 #include "tarnmodel/platform/coredata/query/SQLScope.h"
-#include "tarnmodel/platform/coredata/sqlite/KeySet.h"
+#include "tarnmodel/platform/coredata/sqlite/PrimaryKeySet.h"
 #include "tarnmodel/platform/coredata/sqlite/SQLText.h"
 #include "tarnmodel/platform/predicate/PredicateTree.h"
 
@@ -16,14 +16,14 @@ namespace tarn {
 /// What conditions depend on besides the predicate.
 struct SQLConditionOptions {
     const StoreIdentity* store = nullptr; ///< records of other stores equal no row
-    /// NO while the shadow columns were made by another version of folding.
+    /// False while the shadow columns were made by another version of folding.
     bool usesShadows = true;
     /// Whether a SELECT gives so many rows that others should be looked at instead. Unset: never.
     std::function<bool(const SQLText& select)> isLargeSet;
     /// The same for the rows with a flag, which hardly change from one fetch to the next. Unset: never.
     std::function<bool(const SQLText& select)> isCommonFlag;
     /// The rows of an attribute's table that a test may hold for; null when nothing is known. Unset: never known.
-    std::function<KeySetPtr(const NSAttributeDescription& attribute, const StringTest& test)> rowsThatMayMatch;
+    std::function<PrimaryKeySetPtr(const NSAttributeDescription& attribute, const StringTest& test)> rowsThatMayMatch;
     /// An order is asked for, and only its first rows: an index may be walked until there are enough.
     bool walksOrder = false;
     /// The attribute that the order begins with: its own index gives the rows in that order.

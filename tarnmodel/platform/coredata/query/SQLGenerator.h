@@ -30,7 +30,7 @@ struct SearchPlan {
         Scan,            ///< the rows by key, candidates checked
     };
     Kind kind = Kind::NoIndex;
-    KeySetPtr candidates; ///< null with `NoIndex`
+    PrimaryKeySetPtr candidates; ///< null with `NoIndex`
     /// How many rows there are to search, as far as is known.
     std::size_t rowCount = 0;
 };
@@ -54,7 +54,7 @@ public:
 
     const SearchPlan& plan() const noexcept { return plan_; }
     /// One that walks the same fetches by another plan.
-    SQLGenerator withPlan(SearchPlan::Kind kind, KeySetPtr candidates) const
+    SQLGenerator withPlan(SearchPlan::Kind kind, PrimaryKeySetPtr candidates) const
     {
         return {selects_, options_, {kind, std::move(candidates), plan_.rowCount}};
     }

@@ -264,7 +264,7 @@ private:
             const NSAttributeDescription& attribute = *sourceKeys_[i].attribute;
             if (sourceKeys_[i].relationship || !hasSignature(attribute) || bySource[i].size() > kMostNarrowedWords)
                 continue;
-            KeySetPtr rows = noKeys();
+            PrimaryKeySetPtr rows = noKeys();
             for (const std::size_t test : bySource[i])
                 if (rows)
                     rows = unionOf(rows, builder_.options_.rowsThatMayMatch(attribute, tests_[test].test));

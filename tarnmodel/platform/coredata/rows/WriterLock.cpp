@@ -1,8 +1,8 @@
-#include "tarnmodel/platform/coredata/rows/WriterTurn.h"
+#include "tarnmodel/platform/coredata/rows/WriterLock.h"
 
 namespace tarn {
 
-bool WriterTurn::take(std::chrono::milliseconds patience)
+bool WriterLock::take(std::chrono::milliseconds patience)
 {
     std::unique_lock lock(mutex_);
     const auto self = std::this_thread::get_id();
@@ -14,12 +14,12 @@ bool WriterTurn::take(std::chrono::milliseconds patience)
     return true;
 }
 
-bool WriterTurn::takeAtOnce()
+bool WriterLock::takeAtOnce()
 {
     return take(std::chrono::milliseconds(0));
 }
 
-void WriterTurn::giveBack()
+void WriterLock::giveBack()
 {
     {
         std::scoped_lock lock(mutex_);
@@ -28,7 +28,7 @@ void WriterTurn::giveBack()
     free_.notify_one();
 }
 
-bool WriterTurn::isMine() const
+bool WriterLock::isMine() const
 {
     std::scoped_lock lock(mutex_);
     return owner_ == std::this_thread::get_id();

@@ -8,7 +8,7 @@
 namespace tarn {
 
 /// Whose turn it is to write: one thread of the process at a time. Any thread.
-class WriterTurn {
+class WriterLock {
 public:
     /// Waits for the turn; false when it did not come in time, or when this thread has it already.
     bool take(std::chrono::milliseconds patience);

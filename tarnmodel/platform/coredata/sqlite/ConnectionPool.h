@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tarnmodel/platform/coredata/rows/WriterTurn.h"
+#include "tarnmodel/platform/coredata/rows/WriterLock.h"
 #include "tarnmodel/platform/coredata/sqlite/SQLiteConnection.h"
 
 #include <atomic>
@@ -43,7 +43,7 @@ public:
 
     /// For the holder of the turn.
     SQLiteConnection& writer() noexcept { return *writer_; }
-    WriterTurn& turn() noexcept { return turn_; }
+    WriterLock& turn() noexcept { return turn_; }
     /// Throws `StoreErrorReplaced` when another file has taken the store's place.
     ReadAccess read();
     /// A reading connection, if one is to be had without waiting.
@@ -67,7 +67,7 @@ private:
     std::filesystem::path file_;
     SQLiteConnectionOptions options_;
     std::unique_ptr<SQLiteConnection> writer_;
-    WriterTurn turn_;
+    WriterLock turn_;
     std::optional<FileIdentity> identity_;
     std::mutex mutex_;
     std::condition_variable returned_;

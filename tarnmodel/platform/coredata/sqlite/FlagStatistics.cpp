@@ -1,4 +1,4 @@
-#include "tarnmodel/platform/coredata/sqlite/CommonFlags.h"
+#include "tarnmodel/platform/coredata/sqlite/FlagStatistics.h"
 
 #include "tarnmodel/platform/coredata/sqlite/SQLText.h"
 #include "tarnmodel/platform/coredata/sqlite/SQLiteConnection.h"
@@ -25,7 +25,7 @@ bool givesManyRows(SQLiteConnection& connection, const SQLText& select)
     return statement.step() && statement.integer(0) >= kMany;
 }
 
-bool CommonFlags::contains(SQLiteConnection& connection, const SQLText& select)
+bool FlagStatistics::contains(SQLiteConnection& connection, const SQLText& select)
 {
     std::string question = select.sql;
     for (const SQLBinding& binding : select.bindings)

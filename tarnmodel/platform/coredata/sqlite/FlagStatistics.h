@@ -15,7 +15,7 @@ bool givesManyRows(SQLiteConnection& connection, const SQLText& select);
 
 /// Remembers which flags many rows have: to count a few thousand entries of an index takes longer than many a fetch.
 /// An answer is used for some fetches, then asked for again; an old one costs time, never rows. Any thread.
-class CommonFlags {
+class FlagStatistics {
 public:
     /// `select` gives the rows; it has an argument at most, the value of the flag.
     bool contains(SQLiteConnection& connection, const SQLText& select);

@@ -1,4 +1,4 @@
-#include "tarnmodel/platform/coredata/sqlite/KeySet.h"
+#include "tarnmodel/platform/coredata/sqlite/PrimaryKeySet.h"
 
 #include <algorithm>
 #include <iterator>
@@ -13,7 +13,7 @@ constexpr std::uint64_t kFewBits = 1U << 16U;
 
 } // namespace
 
-KeySet::KeySet(std::vector<std::int64_t> ascendingKeys) : keys_(std::move(ascendingKeys)), view_(keys_)
+PrimaryKeySet::PrimaryKeySet(std::vector<std::int64_t> ascendingKeys) : keys_(std::move(ascendingKeys)), view_(keys_)
 {
     if (keys_.empty())
         return;
@@ -27,7 +27,7 @@ KeySet::KeySet(std::vector<std::int64_t> ascendingKeys) : keys_(std::move(ascend
     }
 }
 
-bool KeySet::contains(std::int64_t key) const noexcept
+bool PrimaryKeySet::contains(std::int64_t key) const noexcept
 {
     if (keys_.empty() || key < keys_.front() || key > keys_.back())
         return false;
@@ -37,23 +37,23 @@ bool KeySet::contains(std::int64_t key) const noexcept
     return ((bits_[place / 64] >> (place % 64)) & 1U) != 0;
 }
 
-const KeySetPtr& noKeys()
+const PrimaryKeySetPtr& noKeys()
 {
-    static const KeySetPtr none = std::make_shared<const KeySet>(std::vector<std::int64_t>());
+    static const PrimaryKeySetPtr none = std::make_shared<const PrimaryKeySet>(std::vector<std::int64_t>());
     return none;
 }
 
-KeySetPtr intersection(const KeySetPtr& left, const KeySetPtr& right)
+PrimaryKeySetPtr intersection(const PrimaryKeySetPtr& left, const PrimaryKeySetPtr& right)
 {
     if (!left || !right)
         return left ? left : right;
     std::vector<std::int64_t> both;
     std::set_intersection(
         left->keys().begin(), left->keys().end(), right->keys().begin(), right->keys().end(), std::back_inserter(both));
-    return std::make_shared<const KeySet>(std::move(both));
+    return std::make_shared<const PrimaryKeySet>(std::move(both));
 }
 
-KeySetPtr unionOf(const KeySetPtr& left, const KeySetPtr& right)
+PrimaryKeySetPtr unionOf(const PrimaryKeySetPtr& left, const PrimaryKeySetPtr& right)
 {
     if (!left || !right)
         return nullptr;
@@ -63,7 +63,7 @@ KeySetPtr unionOf(const KeySetPtr& left, const KeySetPtr& right)
     either.reserve(left->size() + right->size());
     std::set_union(left->keys().begin(), left->keys().end(), right->keys().begin(), right->keys().end(),
         std::back_inserter(either));
-    return std::make_shared<const KeySet>(std::move(either));
+    return std::make_shared<const PrimaryKeySet>(std::move(either));
 }
 
 } // namespace tarn

@@ -8,11 +8,11 @@
 namespace tarn {
 
 /// Primary keys of one table, ascending, each once. Immutable; any thread.
-class KeySet {
+class PrimaryKeySet {
 public:
-    explicit KeySet(std::vector<std::int64_t> ascendingKeys);
-    KeySet(const KeySet&) = delete;
-    KeySet& operator=(const KeySet&) = delete;
+    explicit PrimaryKeySet(std::vector<std::int64_t> ascendingKeys);
+    PrimaryKeySet(const PrimaryKeySet&) = delete;
+    PrimaryKeySet& operator=(const PrimaryKeySet&) = delete;
 
     std::size_t size() const noexcept { return keys_.size(); }
     /// As `value_list` takes them; stays in place.
@@ -26,11 +26,11 @@ private:
 };
 
 /// Null stands for all keys.
-using KeySetPtr = std::shared_ptr<const KeySet>;
+using PrimaryKeySetPtr = std::shared_ptr<const PrimaryKeySet>;
 
 /// The set without keys.
-const KeySetPtr& noKeys();
-KeySetPtr intersection(const KeySetPtr& left, const KeySetPtr& right);
-KeySetPtr unionOf(const KeySetPtr& left, const KeySetPtr& right);
+const PrimaryKeySetPtr& noKeys();
+PrimaryKeySetPtr intersection(const PrimaryKeySetPtr& left, const PrimaryKeySetPtr& right);
+PrimaryKeySetPtr unionOf(const PrimaryKeySetPtr& left, const PrimaryKeySetPtr& right);
 
 } // namespace tarn

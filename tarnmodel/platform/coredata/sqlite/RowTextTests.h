@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tarnmodel/platform/coredata/sqlite/KeySet.h"
+#include "tarnmodel/platform/coredata/sqlite/PrimaryKeySet.h"
 #include "tarnmodel/platform/coredata/sqlite/SQLText.h"
 #include "tarnmodel/platform/predicate/LiteralFinder.h"
 #include "tarnmodel/platform/predicate/StringTest.h"
@@ -27,7 +27,7 @@ public:
     struct Source {
         std::optional<std::size_t> value; ///< among the values handed over; none: read by the SELECT
         SQLText select;                   ///< texts, one a row; "?1" is the key
-        KeySetPtr rows;                   ///< rows for which some test may hold; null for all
+        PrimaryKeySetPtr rows;            ///< rows for which some test may hold; null for all
     };
     struct Test {
         std::size_t source;

@@ -45,7 +45,7 @@ void bindAll(SQLiteStatement& statement, const std::vector<SQLBinding>& bindings
                 [&](const std::span<const std::int64_t>& keys) {
                     statement.bindPointer(parameter, &keys, keyListPointerType);
                 },
-                [&](const KeySetPtr& keys) { statement.bindPointer(parameter, keys.get(), keySetPointerType); },
+                [&](const PrimaryKeySetPtr& keys) { statement.bindPointer(parameter, keys.get(), keySetPointerType); },
                 [&](const SQLKeyList& list) {
                     statement.bindPointer(parameter, &list.keys->keys(), keyListPointerType);
                 },
@@ -68,7 +68,7 @@ std::string describeBinding(const SQLBinding& binding)
             [](const SQLStringTest& test) { return test.description; },
             [](const std::shared_ptr<const Value::Array>& list) { return fmt::format("<{} values>", list->size()); },
             [](const std::span<const std::int64_t>& keys) { return fmt::format("<{} keys>", keys.size()); },
-            [](const KeySetPtr& keys) { return fmt::format("<{} keys>", keys->size()); },
+            [](const PrimaryKeySetPtr& keys) { return fmt::format("<{} keys>", keys->size()); },
             [](const SQLKeyList& list) { return fmt::format("<{} keys>", list.keys->size()); },
             [](const std::shared_ptr<RowTextTests>& tests) { return tests->description(); },
         },

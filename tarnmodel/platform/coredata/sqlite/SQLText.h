@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tarnmodel/platform/coredata/sqlite/KeySet.h"
+#include "tarnmodel/platform/coredata/sqlite/PrimaryKeySet.h"
 #include "tarnmodel/platform/foundation/values/Value.h"
 #include "tarnmodel/platform/predicate/StringTest.h"
 
@@ -25,14 +25,14 @@ struct SQLStringTest {
 
 /// Keys as an argument of `value_list`, where `SQLBinding` has them for `key_in`.
 struct SQLKeyList {
-    KeySetPtr keys;
+    PrimaryKeySetPtr keys;
 };
 
 /// One argument of a statement: a scalar, a string test, tests for `texts_hold`, keys for `key_in`, or a list for
 /// `value_list`.
 using SQLBinding
     = std::variant<std::int64_t, double, std::string, NSData, SQLStringTest, std::shared_ptr<const Value::Array>,
-        std::span<const std::int64_t>, KeySetPtr, SQLKeyList, std::shared_ptr<RowTextTests>>;
+        std::span<const std::int64_t>, PrimaryKeySetPtr, SQLKeyList, std::shared_ptr<RowTextTests>>;
 
 /// A statement and its arguments: `?1` is the first one.
 struct SQLText {

@@ -1,7 +1,7 @@
 #include "tarnmodel/platform/coredata/sqlite/SQLiteFunctions.h"
 
 #include "tarnmodel/platform/coredata/rows/StoreFailure.h"
-#include "tarnmodel/platform/coredata/sqlite/KeySet.h"
+#include "tarnmodel/platform/coredata/sqlite/PrimaryKeySet.h"
 #include "tarnmodel/platform/coredata/sqlite/RowTextTests.h"
 #include "tarnmodel/platform/coredata/sqlite/SQLiteConnection.h"
 #include "tarnmodel/platform/coredata/sqlite/SQLiteValueList.h"
@@ -128,7 +128,7 @@ void textsHoldFunction(sqlite3_context* context, int count, sqlite3_value** argu
 
 void keyInFunction(sqlite3_context* context, int, sqlite3_value** arguments)
 {
-    const auto* keys = static_cast<const KeySet*>(sqlite3_value_pointer(arguments[0], keySetPointerType));
+    const auto* keys = static_cast<const PrimaryKeySet*>(sqlite3_value_pointer(arguments[0], keySetPointerType));
     const bool isKey = sqlite3_value_type(arguments[1]) == SQLITE_INTEGER;
     sqlite3_result_int(context, keys && isKey && keys->contains(sqlite3_value_int64(arguments[1])) ? 1 : 0);
 }

@@ -15,7 +15,7 @@ class SQLiteConnection;
 /// - `folded_test(test, folded)`: the same for a text that is folded already.
 /// - `texts_hold(tests, key, condition..., value...)`: 1 when the `RowTextTests` bound to `tests` hold for the row with
 ///   that key, else 0. They say which conditions and values they want to be told, and read the row's other texts.
-/// - `key_in(keys, key)`: 1 when the `KeySet` bound to `keys` has the key, else 0; 0 for NULL.
+/// - `key_in(keys, key)`: 1 when the `PrimaryKeySet` bound to `keys` has the key, else 0; 0 for NULL.
 /// - `value_list(list)`: a table of one column, "value", over a bound `Value::Array` or span of keys.
 /// - collation `localized_standard`: the order of `localizedStandardCompare`.
 void registerSQLiteFunctions(SQLiteConnection& connection);
@@ -25,7 +25,7 @@ inline constexpr const char* stringTestPointerType = "tarn string test"; ///< co
 /// The same, of several in one statement: what they fold is kept for the next.
 inline constexpr const char* oneOfManyTestsPointerType = "tarn string test of many";
 inline constexpr const char* rowTextTestsPointerType = "tarn row text tests"; ///< RowTextTests*
-inline constexpr const char* keySetPointerType = "tarn key set";              ///< const KeySet*
+inline constexpr const char* keySetPointerType = "tarn key set";              ///< const PrimaryKeySet*
 inline constexpr const char* valueListPointerType = "tarn values";            ///< const Value::Array*
 inline constexpr const char* keyListPointerType = "tarn keys";                ///< const std::span<const std::int64_t>*
 

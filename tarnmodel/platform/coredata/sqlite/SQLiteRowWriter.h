@@ -41,7 +41,7 @@ public:
     /// Writes nil to the to-ones whose targets did not come. Before the commit.
     void clearMissingTargets();
     /// After a commit of which nobody knows how it ended: whether the rows that were inserted are there. Keys are given
-    /// out once, so nobody else can have made them. NO when nothing was inserted.
+    /// out once, so nobody else can have made them. False when nothing was inserted.
     bool findsInsertedRows();
 
 private:

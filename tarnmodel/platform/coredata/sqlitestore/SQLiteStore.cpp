@@ -132,7 +132,7 @@ SQLConditionOptions SQLiteStore::conditionOptions(const StoreFetch& fetch, SQLit
     options.usesShadows = usesShadows_;
     options.isLargeSet = [&connection](const SQLText& select) { return givesManyRows(connection, select); };
     options.isCommonFlag
-        = [this, &connection](const SQLText& select) { return commonFlags_.contains(connection, select); };
+        = [this, &connection](const SQLText& select) { return flagStatistics_.contains(connection, select); };
     options.walksOrder = fetch.limit > 0 && !fetch.sortDescriptors.empty();
     if (!options.walksOrder)
         return options;

@@ -4,8 +4,8 @@
 #include "tarnmodel/platform/coredata/query/SQLGenerator.h"
 #include "tarnmodel/platform/coredata/rows/RowStore.h"
 #include "tarnmodel/platform/coredata/rows/StoreMetadata.h"
-#include "tarnmodel/platform/coredata/sqlite/CommonFlags.h"
 #include "tarnmodel/platform/coredata/sqlite/ConnectionPool.h"
+#include "tarnmodel/platform/coredata/sqlite/FlagStatistics.h"
 #include "tarnmodel/platform/coredata/sqlite/SQLiteRowWriter.h"
 #include "tarnmodel/platform/coredata/sqlite/StoreSchema.h"
 #include "tarnmodel/platform/coredata/sqlite/StoreSelects.h"
@@ -83,8 +83,8 @@ private:
     StoreSelects selects_;
     std::unique_ptr<ConnectionPool> pool_;
     SearchIndex searchIndex_;
-    mutable CommonFlags commonFlags_;
-    bool hasSearchIndex_ = true; ///< NO for a file that lacks the tables and cannot be given them
+    mutable FlagStatistics flagStatistics_;
+    bool hasSearchIndex_ = true; ///< False for a file that lacks the tables and cannot be given them
     const StoreIdentity* identity_ = nullptr;
     std::atomic<bool> usesShadows_ = true;
     /// Both belong to the turn's holder.

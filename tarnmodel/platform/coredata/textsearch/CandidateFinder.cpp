@@ -82,14 +82,14 @@ bool meansAtLeastOne(const ComparisonPredicate& predicate)
 
 } // namespace
 
-KeySetPtr CandidateFinder::candidates(const NSPredicate& predicate, const NSEntityDescription& entity)
+PrimaryKeySetPtr CandidateFinder::candidates(const NSPredicate& predicate, const NSEntityDescription& entity)
 {
     return of(predicate.node(), {entity, {}}, false);
 }
 
 // The tree ------------------------------------------------------------------------------------------------------------
 
-KeySetPtr CandidateFinder::of(const PredicateNode& node, const Rows& rows, bool negated)
+PrimaryKeySetPtr CandidateFinder::of(const PredicateNode& node, const Rows& rows, bool negated)
 {
     return std::visit(
         Overloaded{
@@ -101,17 +101,17 @@ KeySetPtr CandidateFinder::of(const PredicateNode& node, const Rows& rows, bool 
         node.form);
 }
 
-KeySetPtr CandidateFinder::ofCompound(const CompoundPredicate& predicate, const Rows& rows, bool negated)
+PrimaryKeySetPtr CandidateFinder::ofCompound(const CompoundPredicate& predicate, const Rows& rows, bool negated)
 {
     return (predicate.type == CompoundType::And) != negated ? ofAll(predicate, rows, negated)
                                                             : ofAny(predicate, rows, negated);
 }
 
-KeySetPtr CandidateFinder::ofAll(const CompoundPredicate& predicate, const Rows& rows, bool negated)
+PrimaryKeySetPtr CandidateFinder::ofAll(const CompoundPredicate& predicate, const Rows& rows, bool negated)
 {
     const NSAttributeDescription* flag = negated || !rows.variable.empty() ? nullptr : flagAmong(predicate, rows);
     const bool wasFlagged = std::exchange(isFlagged_, isFlagged_ || flag);
-    KeySetPtr found;
+    PrimaryKeySetPtr found;
     for (const PredicateNodePtr& member : predicate.members) {
         found = intersection(found, of(*member, rows, negated));
         if (found && found->size() <= kFewEnough)
@@ -126,9 +126,9 @@ bool CandidateFinder::mayAsk()
     return ++questions_ <= kMostQuestions;
 }
 
-KeySetPtr CandidateFinder::ofAny(const CompoundPredicate& predicate, const Rows& rows, bool negated)
+PrimaryKeySetPtr CandidateFinder::ofAny(const CompoundPredicate& predicate, const Rows& rows, bool negated)
 {
-    KeySetPtr found = noKeys();
+    PrimaryKeySetPtr found = noKeys();
     for (const PredicateNodePtr& member : predicate.members) {
         found = unionOf(found, of(*member, rows, negated));
         if (!found)
@@ -139,7 +139,7 @@ KeySetPtr CandidateFinder::ofAny(const CompoundPredicate& predicate, const Rows&
 
 // Comparisons ---------------------------------------------------------------------------------------------------------
 
-KeySetPtr CandidateFinder::ofComparison(const ComparisonPredicate& predicate, const Rows& rows, bool negated)
+PrimaryKeySetPtr CandidateFinder::ofComparison(const ComparisonPredicate& predicate, const Rows& rows, bool negated)
 {
     if (const auto truth = truthOf(predicate))
         return *truth != negated ? nullptr : noKeys();
@@ -166,7 +166,7 @@ KeySetPtr CandidateFinder::ofComparison(const ComparisonPredicate& predicate, co
     return ofMembers(*relationship, members, {});
 }
 
-KeySetPtr CandidateFinder::ofAttribute(
+PrimaryKeySetPtr CandidateFinder::ofAttribute(
     const NSAttributeDescription& attribute, const ComparisonPredicate& predicate, bool negated)
 {
     const Value* constant = constantOf(*predicate.right);
@@ -182,7 +182,7 @@ KeySetPtr CandidateFinder::ofAttribute(
 
 /// The index of folded values is much smaller than the rows: it is looked through instead of them. Those whose folded
 /// value has to be made again are candidates.
-KeySetPtr CandidateFinder::ofFolded(const NSAttributeDescription& attribute, const StringTest& test)
+PrimaryKeySetPtr CandidateFinder::ofFolded(const NSAttributeDescription& attribute, const StringTest& test)
 {
     if (isFlagged_ || !options_.usesShadows || !test.comparesFolded() || ++scans_ > kMostScans)
         return nullptr;
@@ -199,7 +199,8 @@ KeySetPtr CandidateFinder::ofFolded(const NSAttributeDescription& attribute, con
 
 // Collections ---------------------------------------------------------------------------------------------------------
 
-KeySetPtr CandidateFinder::ofCount(const CountExpression& count, const ComparisonPredicate& predicate, const Rows& rows)
+PrimaryKeySetPtr CandidateFinder::ofCount(
+    const CountExpression& count, const ComparisonPredicate& predicate, const Rows& rows)
 {
     const auto* subquery = std::get_if<SubqueryExpression>(&count.collection->form);
     if (!subquery || !meansAtLeastOne(predicate))
@@ -213,14 +214,15 @@ KeySetPtr CandidateFinder::ofCount(const CountExpression& count, const Compariso
     return ofMembers(*relationship, members, subquery->variable);
 }
 
-KeySetPtr CandidateFinder::ofMembers(const NSRelationshipDescription& relationship,
-    const std::function<KeySetPtr(const Rows&)>& members, const std::string& variable)
+PrimaryKeySetPtr CandidateFinder::ofMembers(const NSRelationshipDescription& relationship,
+    const std::function<PrimaryKeySetPtr(const Rows&)>& members, const std::string& variable)
 {
-    const KeySetPtr found = members({relationship.destinationEntity(), variable});
+    const PrimaryKeySetPtr found = members({relationship.destinationEntity(), variable});
     return found && found->size() <= kMostMembers ? ownersOf(relationship, found) : nullptr;
 }
 
-KeySetPtr CandidateFinder::ownersOf(const NSRelationshipDescription& relationship, const KeySetPtr& members)
+PrimaryKeySetPtr CandidateFinder::ownersOf(
+    const NSRelationshipDescription& relationship, const PrimaryKeySetPtr& members)
 {
     if (members->size() == 0)
         return members;
@@ -260,7 +262,7 @@ const NSAttributeDescription* CandidateFinder::flagAmong(const CompoundPredicate
 }
 
 /// The index of the flag gives the rows; what else is asked of them is tested at once, since there may be many.
-KeySetPtr CandidateFinder::flagged(
+PrimaryKeySetPtr CandidateFinder::flagged(
     const CompoundPredicate& predicate, const NSAttributeDescription& flag, const Rows& rows)
 {
     SQLText select;
@@ -279,7 +281,7 @@ KeySetPtr CandidateFinder::flagged(
     return keysOf(select);
 }
 
-KeySetPtr CandidateFinder::keysOf(const SQLText& select)
+PrimaryKeySetPtr CandidateFinder::keysOf(const SQLText& select)
 {
     std::vector<std::int64_t> keys;
     SQLiteStatement statement = connection_.prepare(select.sql);
@@ -287,7 +289,7 @@ KeySetPtr CandidateFinder::keysOf(const SQLText& select)
     while (statement.step())
         keys.push_back(statement.integer(0));
     std::ranges::sort(keys);
-    return std::make_shared<const KeySet>(std::move(keys));
+    return std::make_shared<const PrimaryKeySet>(std::move(keys));
 }
 
 } // namespace tarn

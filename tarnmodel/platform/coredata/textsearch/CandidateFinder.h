@@ -20,12 +20,12 @@ class CandidateFinder {
 public:
     /// `options` are those with which the conditions of flagged rows are turned into SQL.
     CandidateFinder(
-        const StoreSchema& schema, SearchLook& look, SQLiteConnection& connection, SQLConditionOptions options)
+        const StoreSchema& schema, SearchIndexReader& look, SQLiteConnection& connection, SQLConditionOptions options)
         : schema_(schema), look_(look), connection_(connection), options_(std::move(options))
     { }
 
     /// Null when all rows are.
-    KeySetPtr candidates(const NSPredicate& predicate, const NSEntityDescription& entity);
+    PrimaryKeySetPtr candidates(const NSPredicate& predicate, const NSEntityDescription& entity);
 
 private:
     /// The rows that a (sub)predicate is about.
@@ -34,20 +34,21 @@ private:
         std::string variable; ///< of the SUBQUERY; empty for the fetched rows
     };
 
-    KeySetPtr of(const PredicateNode& node, const Rows& rows, bool negated);
-    KeySetPtr ofCompound(const CompoundPredicate& predicate, const Rows& rows, bool negated);
-    KeySetPtr ofAll(const CompoundPredicate& predicate, const Rows& rows, bool negated);
-    KeySetPtr ofAny(const CompoundPredicate& predicate, const Rows& rows, bool negated);
-    KeySetPtr ofComparison(const ComparisonPredicate& predicate, const Rows& rows, bool negated);
-    KeySetPtr ofAttribute(const NSAttributeDescription& attribute, const ComparisonPredicate& predicate, bool negated);
-    KeySetPtr ofFolded(const NSAttributeDescription& attribute, const StringTest& test);
-    KeySetPtr ofMembers(const NSRelationshipDescription& relationship,
-        const std::function<KeySetPtr(const Rows&)>& members, const std::string& variable);
-    KeySetPtr ofCount(const CountExpression& count, const ComparisonPredicate& predicate, const Rows& rows);
-    KeySetPtr flagged(const CompoundPredicate& predicate, const NSAttributeDescription& flag, const Rows& rows);
+    PrimaryKeySetPtr of(const PredicateNode& node, const Rows& rows, bool negated);
+    PrimaryKeySetPtr ofCompound(const CompoundPredicate& predicate, const Rows& rows, bool negated);
+    PrimaryKeySetPtr ofAll(const CompoundPredicate& predicate, const Rows& rows, bool negated);
+    PrimaryKeySetPtr ofAny(const CompoundPredicate& predicate, const Rows& rows, bool negated);
+    PrimaryKeySetPtr ofComparison(const ComparisonPredicate& predicate, const Rows& rows, bool negated);
+    PrimaryKeySetPtr ofAttribute(
+        const NSAttributeDescription& attribute, const ComparisonPredicate& predicate, bool negated);
+    PrimaryKeySetPtr ofFolded(const NSAttributeDescription& attribute, const StringTest& test);
+    PrimaryKeySetPtr ofMembers(const NSRelationshipDescription& relationship,
+        const std::function<PrimaryKeySetPtr(const Rows&)>& members, const std::string& variable);
+    PrimaryKeySetPtr ofCount(const CountExpression& count, const ComparisonPredicate& predicate, const Rows& rows);
+    PrimaryKeySetPtr flagged(const CompoundPredicate& predicate, const NSAttributeDescription& flag, const Rows& rows);
     const NSAttributeDescription* flagAmong(const CompoundPredicate& predicate, const Rows& rows) const;
-    KeySetPtr ownersOf(const NSRelationshipDescription& relationship, const KeySetPtr& members);
-    KeySetPtr keysOf(const SQLText& select);
+    PrimaryKeySetPtr ownersOf(const NSRelationshipDescription& relationship, const PrimaryKeySetPtr& members);
+    PrimaryKeySetPtr keysOf(const SQLText& select);
 
     bool mayAsk();
 
@@ -56,7 +57,7 @@ private:
     static constexpr int kMostScans = 4;
 
     const StoreSchema& schema_;
-    SearchLook& look_;
+    SearchIndexReader& look_;
     SQLiteConnection& connection_;
     SQLConditionOptions options_;
     int questions_ = 0;

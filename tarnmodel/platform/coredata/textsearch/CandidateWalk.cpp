@@ -1,6 +1,6 @@
 #include "tarnmodel/platform/coredata/textsearch/CandidateWalk.h"
 
-#include "tarnmodel/platform/coredata/rows/CappedSum.h"
+#include "tarnmodel/platform/coredata/rows/SaturatingSum.h"
 #include "tarnmodel/platform/coredata/sqlite/RowLayout.h"
 #include "tarnmodel/platform/coredata/sqlite/SQLiteConnection.h"
 #include "tarnmodel/platform/coredata/textsearch/ParallelScan.h"
@@ -34,7 +34,7 @@ StoreFetch withoutBounds(StoreFetch fetch)
 CandidateWalk::CandidateWalk(const StoreFetch& fetch, const StoreSelects& selects, const SQLGenerator& generator,
     SQLiteConnection& connection, ConnectionPool& pool)
     : fetch_(fetch), generator_(generator), connection_(connection), pool_(pool),
-      wanted_(cappedSum(fetch.offset, fetch.limit))
+      wanted_(saturatingSum(fetch.offset, fetch.limit))
 {
     RowContents contents = fetch.contents;
     block_ = generator.withPlan(SearchPlan::Kind::CheckCandidates, noKeys()).rows(withoutBounds(fetch), contents);
@@ -113,7 +113,7 @@ std::size_t CandidateWalk::candidateCount() const
 
 std::optional<std::vector<StoreRow>> CandidateWalk::checkedByKey()
 {
-    const KeySetPtr& candidates = generator_.plan().candidates;
+    const PrimaryKeySetPtr& candidates = generator_.plan().candidates;
     const SQLGenerator scan
         = generator_.withPlan(candidates ? SearchPlan::Kind::Scan : SearchPlan::Kind::NoIndex, candidates);
     auto keys = keysOnTwoThreads(pool_, connection_, scan, fetch_);
@@ -122,7 +122,7 @@ std::optional<std::vector<StoreRow>> CandidateWalk::checkedByKey()
     // Reading all texts in their order is faster than some of them in another, also for one thread.
     if (!keys)
         keys = keysOnOneThread(connection_, scan, fetch_);
-    const auto hits = std::make_shared<const KeySet>(std::move(*keys));
+    const auto hits = std::make_shared<const PrimaryKeySet>(std::move(*keys));
     RowContents contents = fetch_.contents;
     return read(generator_.withPlan(SearchPlan::Kind::CheckCandidates, hits).rows(fetch_, contents).text);
 }

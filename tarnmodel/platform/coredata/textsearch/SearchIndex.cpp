@@ -28,7 +28,7 @@ SignatureMirror* SearchIndex::mirror(const NSAttributeDescription& attribute) co
     return found == byAttribute_.end() ? nullptr : found->second;
 }
 
-KeySetPtr SearchLook::rowsThatMayMatch(const NSAttributeDescription& attribute, const StringTest& test)
+PrimaryKeySetPtr SearchIndexReader::rowsThatMayMatch(const NSAttributeDescription& attribute, const StringTest& test)
 {
     SignatureMirror* mirror = index_.mirror(attribute);
     const auto literal = test.foldedLiteral();
@@ -40,12 +40,12 @@ KeySetPtr SearchLook::rowsThatMayMatch(const NSAttributeDescription& attribute, 
         return known->second;
     if (answers_.size() >= kMostQuestions)
         return nullptr;
-    KeySetPtr answer = mirror->rowsWithGrams(connection_, gramHashesOfNeedle(*literal, kMostGrams));
+    PrimaryKeySetPtr answer = mirror->rowsWithGrams(connection_, gramHashesOfNeedle(*literal, kMostGrams));
     answers_.emplace(std::move(question), answer);
     return answer;
 }
 
-std::size_t SearchLook::rowCount(const NSAttributeDescription& attribute) const
+std::size_t SearchIndexReader::rowCount(const NSAttributeDescription& attribute) const
 {
     const SignatureMirror* mirror = index_.mirror(attribute);
     return mirror ? mirror->rowCount() : 0;

@@ -30,12 +30,13 @@ private:
 };
 
 /// What the index says during one transaction, each question asked once. One thread.
-class SearchLook {
+class SearchIndexReader {
 public:
-    SearchLook(const SearchIndex& index, SQLiteConnection& connection) : index_(index), connection_(connection) { }
+    SearchIndexReader(const SearchIndex& index, SQLiteConnection& connection) : index_(index), connection_(connection)
+    { }
 
     /// The rows of the attribute's table that the test may hold for; null when nothing is known.
-    KeySetPtr rowsThatMayMatch(const NSAttributeDescription& attribute, const StringTest& test);
+    PrimaryKeySetPtr rowsThatMayMatch(const NSAttributeDescription& attribute, const StringTest& test);
     /// Rows with that attribute; 0 when it has no signatures or was not asked for.
     std::size_t rowCount(const NSAttributeDescription& attribute) const;
     const SearchIndex& index() const noexcept { return index_; }
@@ -46,7 +47,7 @@ private:
 
     const SearchIndex& index_;
     SQLiteConnection& connection_;
-    std::map<std::pair<const NSAttributeDescription*, std::string>, KeySetPtr> answers_;
+    std::map<std::pair<const NSAttributeDescription*, std::string>, PrimaryKeySetPtr> answers_;
 };
 
 } // namespace tarn

@@ -61,7 +61,7 @@ std::size_t SignatureMirror::allocatedBytes() const
 
 // Asking --------------------------------------------------------------------------------------------------------------
 
-KeySetPtr SignatureMirror::rowsWithGrams(SQLiteConnection& connection, std::span<const std::uint32_t> hashes)
+PrimaryKeySetPtr SignatureMirror::rowsWithGrams(SQLiteConnection& connection, std::span<const std::uint32_t> hashes)
 {
     if (hashes.empty())
         return nullptr;
@@ -69,11 +69,11 @@ KeySetPtr SignatureMirror::rowsWithGrams(SQLiteConnection& connection, std::span
         const std::shared_lock lock(mutex_);
         if (!isLoaded_ || !isAnchored(connection))
             return nullptr;
-        return withUncommitted(connection, std::make_shared<const KeySet>(probe(hashes)));
+        return withUncommitted(connection, std::make_shared<const PrimaryKeySet>(probe(hashes)));
     }
     catchUp(connection);
     const std::shared_lock lock(mutex_);
-    return std::make_shared<const KeySet>(probe(hashes));
+    return std::make_shared<const PrimaryKeySet>(probe(hashes));
 }
 
 std::vector<std::int64_t> SignatureMirror::probe(std::span<const std::uint32_t> hashes) const
@@ -89,7 +89,7 @@ std::vector<std::int64_t> SignatureMirror::probe(std::span<const std::uint32_t> 
 }
 
 /// The writing connection sees what it has not committed; others must not, so it does not go into the mirror.
-KeySetPtr SignatureMirror::withUncommitted(SQLiteConnection& connection, KeySetPtr committed) const
+PrimaryKeySetPtr SignatureMirror::withUncommitted(SQLiteConnection& connection, PrimaryKeySetPtr committed) const
 {
     SQLiteStatement statement = connection.prepare(sql_.keysAfter);
     statement.bindInteger(1, lastChange_);
@@ -99,7 +99,7 @@ KeySetPtr SignatureMirror::withUncommitted(SQLiteConnection& connection, KeySetP
             return nullptr;
         changed.push_back(statement.integer(0));
     }
-    return unionOf(committed, std::make_shared<const KeySet>(std::move(changed)));
+    return unionOf(committed, std::make_shared<const PrimaryKeySet>(std::move(changed)));
 }
 
 // Catching up ---------------------------------------------------------------------------------------------------------

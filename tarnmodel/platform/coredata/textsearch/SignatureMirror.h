@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tarnmodel/platform/coredata/sqlite/KeySet.h"
+#include "tarnmodel/platform/coredata/sqlite/PrimaryKeySet.h"
 #include "tarnmodel/platform/coredata/sqlite/StoreSchema.h"
 
 #include <cstddef>
@@ -27,7 +27,7 @@ public:
 
     /// The rows whose attribute may contain something with these grams; null when nothing is known about them. The
     /// connection stands in a transaction. What fails throws a `StoreFailure`.
-    KeySetPtr rowsWithGrams(SQLiteConnection& connection, std::span<const std::uint32_t> hashes);
+    PrimaryKeySetPtr rowsWithGrams(SQLiteConnection& connection, std::span<const std::uint32_t> hashes);
     /// How many rows it knew when it was last asked; 0 before.
     std::size_t rowCount() const;
     /// Up to `most` rows without a usable signature, each once: whoever asks makes them anew.
@@ -49,7 +49,7 @@ private:
     void load(SQLiteConnection& connection);
     Progress follow(SQLiteConnection& connection);
     bool isAnchored(SQLiteConnection& connection) const;
-    KeySetPtr withUncommitted(SQLiteConnection& connection, KeySetPtr committed) const;
+    PrimaryKeySetPtr withUncommitted(SQLiteConnection& connection, PrimaryKeySetPtr committed) const;
     std::vector<std::int64_t> probe(std::span<const std::uint32_t> hashes) const;
 
     void setSlot(SQLiteConnection& connection, std::int64_t key, bool hasRow, std::string_view signature);

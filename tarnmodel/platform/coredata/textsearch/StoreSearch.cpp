@@ -1,7 +1,7 @@
 #include "tarnmodel/platform/coredata/textsearch/StoreSearch.h"
 
 #include "tarnmodel/platform/coredata/description/CompleteOrder.h"
-#include "tarnmodel/platform/coredata/rows/CappedSum.h"
+#include "tarnmodel/platform/coredata/rows/SaturatingSum.h"
 #include "tarnmodel/platform/coredata/sqlite/SQLiteConnection.h"
 #include "tarnmodel/platform/coredata/textsearch/CandidateFinder.h"
 
@@ -70,7 +70,7 @@ bool isWalkCheaper(const SearchPlan& plan, const StoreFetch& fetch)
     if (!completeOrder(fetch.sortDescriptors, *fetch.entity).isIndexed)
         return false;
     const std::size_t count = plan.candidates->size();
-    const std::size_t wanted = std::min(count, cappedSum(fetch.offset, fetch.limit));
+    const std::size_t wanted = std::min(count, saturatingSum(fetch.offset, fetch.limit));
     const std::size_t met = std::min(count, kCandidatesForAHit * wanted);
     return plan.rowCount / count * met < kCostOfSorting * count;
 }

@@ -48,7 +48,7 @@ private:
         FetchPurpose purpose, const SQLConditionOptions& options);
 
     std::optional<ReadingPass> pass_;
-    std::optional<SearchLook> look_;
+    std::optional<SearchIndexReader> look_;
     std::optional<SQLGenerator> generator_;
     std::chrono::steady_clock::duration probeTime_{};
     bool wantsFirstRows_ = false;

@@ -103,7 +103,7 @@ SQLGenerator generatorFor(const Case& one, const StoreSelects& selects, const St
     options.store = &store;
     SearchPlan plan;
     if (!one.search.empty()) {
-        const auto candidates = std::make_shared<const KeySet>(std::vector<std::int64_t>{3, 8});
+        const auto candidates = std::make_shared<const PrimaryKeySet>(std::vector<std::int64_t>{3, 8});
         options.rowsThatMayMatch = [candidates](const NSAttributeDescription&, const StringTest& test) {
             return test.foldedLiteral() ? candidates : nullptr;
         };

@@ -1,4 +1,4 @@
-#include "tarnmodel/platform/coredata/sqlite/CommonFlags.h"
+#include "tarnmodel/platform/coredata/sqlite/FlagStatistics.h"
 #include "tarnmodel/platform/coredata/sqlite/SQLText.h"
 #include "tarnmodel/platform/coredata/sqlite/SQLiteConnection.h"
 #include "tests/platform/coredata/StoreFixture.h"
@@ -40,7 +40,7 @@ private:
 
     TestFolder folder_;
     SQLiteConnection connection_{folder_.file(), madeWhenMissing()};
-    CommonFlags flags_;
+    FlagStatistics flags_;
 };
 
 TEST_F(CommonFlagsOfATable, AreThoseOfManyRows)

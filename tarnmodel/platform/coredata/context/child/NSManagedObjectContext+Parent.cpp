@@ -10,7 +10,7 @@ void NSManagedObjectContext::setParentContext(NSManagedObjectContext& parent)
     core_->coordinator = parent.core_->coordinator;
     core_->parentContext = &parent;
     core_->parentStore
-        = std::make_shared<ParentContextStore>(parent.core_->sharedStore(), ParentLink::ofContext(*parent.core_));
+        = std::make_shared<ParentContextStore>(parent.core_->sharedStore(), ParentHandle::ofContext(*parent.core_));
     core_->mergePolicy = NSMergePolicy::MergeByPropertyObjectTrump;
     core_->knownState = core_->parentStore->stateNumber();
 }

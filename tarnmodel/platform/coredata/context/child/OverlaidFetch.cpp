@@ -3,8 +3,8 @@
 #include "tarnmodel/platform/coredata/context/SortOrder.h"
 #include "tarnmodel/platform/coredata/description/KeyPathWalk.h"
 #include "tarnmodel/platform/coredata/description/PredicateKeys.h"
-#include "tarnmodel/platform/coredata/rows/CappedSum.h"
 #include "tarnmodel/platform/coredata/rows/RowOrder.h"
+#include "tarnmodel/platform/coredata/rows/SaturatingSum.h"
 #include "tarnmodel/platform/coredata/rows/StoreFailure.h"
 #include "tarnmodel/platform/predicate/PredicateEvaluator.h"
 
@@ -12,7 +12,7 @@
 
 namespace tarn {
 
-OverlaidFetch::OverlaidFetch(RowStore& base, const PendingSnapshot& snapshot, const StoreFetch& fetch)
+OverlaidFetch::OverlaidFetch(RowStore& base, const UnsavedSnapshot& snapshot, const StoreFetch& fetch)
     : base_(base), snapshot_(snapshot), fetch_(fetch), overlaid_(base, snapshot)
 {
     for (const auto& [key, entry] : snapshot.entriesOfRoot(fetch.entity->rootEntity()))
@@ -71,7 +71,7 @@ template <typename Ask> void OverlaidFetch::askStore(Ask&& ask) const
     StoreFetch stored = fetch_;
     stored.excludedKeys = excluded;
     stored.offset = 0;
-    stored.limit = fetch_.limit ? cappedSum(fetch_.offset, fetch_.limit) : 0;
+    stored.limit = fetch_.limit ? saturatingSum(fetch_.offset, fetch_.limit) : 0;
     // What is put among others by its values has to have them.
     if (!fetch_.sortDescriptors.empty() && stored.contents == RowContents::Keys)
         stored.contents = RowContents::Row;

@@ -13,7 +13,7 @@ namespace tarn {
 /// The store answers for all rows whose answer cannot depend on what is pending; the others are judged in memory.
 class OverlaidFetch {
 public:
-    OverlaidFetch(RowStore& base, const PendingSnapshot& snapshot, const StoreFetch& fetch);
+    OverlaidFetch(RowStore& base, const UnsavedSnapshot& snapshot, const StoreFetch& fetch);
 
     /// Throws a `StoreFailure`.
     std::vector<StoreRow> rows();
@@ -28,7 +28,7 @@ private:
     std::vector<StoreRow> merged(std::vector<StoreRow> stored, std::vector<StoreRow> judged) const;
 
     RowStore& base_;
-    const PendingSnapshot& snapshot_;
+    const UnsavedSnapshot& snapshot_;
     const StoreFetch& fetch_;
     OverlaidRows overlaid_;
     std::set<std::int64_t> unsure_; ///< keys that the store is not asked for

@@ -22,11 +22,11 @@ std::vector<StoreRow> storedRows(
 
 bool OverlaidRows::isDeleted(const NSEntityDescription& root, std::int64_t key) const
 {
-    const PendingSnapshot::Entry* entry = snapshot_.entry(root, key);
+    const UnsavedSnapshot::Entry* entry = snapshot_.entry(root, key);
     return entry && entry->isDeleted;
 }
 
-StoreRow OverlaidRows::rowOfEntry(const PendingSnapshot::Entry& entry, RowContents contents) const
+StoreRow OverlaidRows::rowOfEntry(const UnsavedSnapshot::Entry& entry, RowContents contents) const
 {
     if (contents == RowContents::Keys)
         return {entry.row.entity, entry.row.key, entry.row.version, {}};
@@ -48,7 +48,7 @@ std::vector<StoreRow> OverlaidRows::readRows(
     std::vector<std::int64_t> stored;
     std::vector<StoreRow> pending;
     for (const std::int64_t key : keys) {
-        const PendingSnapshot::Entry* entry = snapshot_.entry(root, key);
+        const UnsavedSnapshot::Entry* entry = snapshot_.entry(root, key);
         if (!entry)
             stored.push_back(key);
         else if (!entry->isDeleted)
@@ -85,7 +85,7 @@ std::vector<RelatedKey> OverlaidRows::readRelatedKeys(
     const NSEntityDescription& root = relationship.destinationEntity().rootEntity();
     std::vector<RelatedKey> related = storedRelatedKeys(relationship, key);
     if (relationship.isToMany() && inverse.isToMany()) {
-        for (const PendingSnapshot::JoinDelta& delta : snapshot_.joinDeltas(relationship, key)) {
+        for (const UnsavedSnapshot::JoinDelta& delta : snapshot_.joinDeltas(relationship, key)) {
             std::erase(related, delta.member);
             if (delta.isAdded)
                 related.push_back(delta.member);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tarnmodel/platform/coredata/context/child/PendingSnapshot.h"
+#include "tarnmodel/platform/coredata/context/child/UnsavedSnapshot.h"
 #include "tarnmodel/platform/coredata/rows/RowObject.h"
 
 namespace tarn {
@@ -8,7 +8,7 @@ namespace tarn {
 /// A store's rows with what a context has pending laid over them. One moment of the context; one thread.
 class OverlaidRows final : public RowReader {
 public:
-    OverlaidRows(RowStore& base, const PendingSnapshot& snapshot) : base_(base), snapshot_(snapshot) { }
+    OverlaidRows(RowStore& base, const UnsavedSnapshot& snapshot) : base_(base), snapshot_(snapshot) { }
 
     const StoreIdentity& storeIdentity() const override { return base_.identity(); }
     std::optional<StoreRow> readRow(
@@ -21,12 +21,12 @@ public:
 
 private:
     /// What the context has not read of a pending row, the store still has.
-    StoreRow rowOfEntry(const PendingSnapshot::Entry& entry, RowContents contents) const;
+    StoreRow rowOfEntry(const UnsavedSnapshot::Entry& entry, RowContents contents) const;
     std::vector<RelatedKey> storedRelatedKeys(const NSRelationshipDescription& relationship, std::int64_t key) const;
     bool isDeleted(const NSEntityDescription& root, std::int64_t key) const;
 
     RowStore& base_;
-    const PendingSnapshot& snapshot_;
+    const UnsavedSnapshot& snapshot_;
 };
 
 } // namespace tarn

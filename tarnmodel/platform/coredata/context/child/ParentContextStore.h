@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tarnmodel/platform/coredata/context/child/ParentLink.h"
+#include "tarnmodel/platform/coredata/context/child/ParentHandle.h"
 #include "tarnmodel/platform/coredata/rows/RowStore.h"
 
 namespace tarn {
@@ -11,7 +11,7 @@ namespace tarn {
 /// Reads never wait for the context's queue; a commit does.
 class ParentContextStore final : public RowStore {
 public:
-    ParentContextStore(std::shared_ptr<RowStore> base, std::shared_ptr<ParentLink> parent)
+    ParentContextStore(std::shared_ptr<RowStore> base, std::shared_ptr<ParentHandle> parent)
         : held_(std::move(base)), base_(*held_), parent_(std::move(parent))
     { }
 
@@ -51,7 +51,7 @@ public:
 private:
     std::shared_ptr<RowStore> held_;
     RowStore& base_;
-    std::shared_ptr<ParentLink> parent_;
+    std::shared_ptr<ParentHandle> parent_;
 };
 
 } // namespace tarn

@@ -1,38 +1,38 @@
-#include "tarnmodel/platform/coredata/context/child/ParentLink.h"
+#include "tarnmodel/platform/coredata/context/child/ParentHandle.h"
 
 #include "tarnmodel/platform/coredata/context/ContextCore.h"
 #include "tarnmodel/platform/foundation/values/NSException.h"
 
 namespace tarn {
 
-ParentLink::ParentLink(ContextCore& core) : queue_(core.sharedQueue()), core_(&core)
+ParentHandle::ParentHandle(ContextCore& core) : queue_(core.sharedQueue()), core_(&core)
 {
     publish();
 }
 
-std::shared_ptr<ParentLink> ParentLink::ofContext(ContextCore& core)
+std::shared_ptr<ParentHandle> ParentHandle::ofContext(ContextCore& core)
 {
     core.assertOnQueue();
     if (!core.children)
-        core.children = std::make_shared<ParentLink>(core);
-    return std::static_pointer_cast<ParentLink>(core.children); // nobody else makes them
+        core.children = std::make_shared<ParentHandle>(core);
+    return std::static_pointer_cast<ParentHandle>(core.children); // nobody else makes them
 }
 
-std::shared_ptr<const PendingSnapshot> ParentLink::snapshot() const
+std::shared_ptr<const UnsavedSnapshot> ParentHandle::snapshot() const
 {
     const std::lock_guard lock(mutex_);
     return snapshot_;
 }
 
-void ParentLink::publish()
+void ParentHandle::publish()
 {
     const auto previous = snapshot();
-    auto next = PendingSnapshot::ofContext(*core_, previous.get());
+    auto next = UnsavedSnapshot::ofContext(*core_, previous.get());
     const std::lock_guard lock(mutex_);
     snapshot_ = std::move(next);
 }
 
-bool ParentLink::perform(const std::function<void(ContextCore&)>& work, NSError* error) const
+bool ParentHandle::perform(const std::function<void(ContextCore&)>& work, NSError* error) const
 {
     bool isThere = true;
     const auto run = [&] {
@@ -52,7 +52,7 @@ bool ParentLink::perform(const std::function<void(ContextCore&)>& work, NSError*
     return isThere;
 }
 
-void ParentLink::close()
+void ParentHandle::close()
 {
     core_ = nullptr;
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "tarnmodel/platform/coredata/context/ChildContexts.h"
-#include "tarnmodel/platform/coredata/context/child/PendingSnapshot.h"
+#include "tarnmodel/platform/coredata/context/child/UnsavedSnapshot.h"
 #include "tarnmodel/platform/foundation/events/Queue.h"
 
 #include <functional>
@@ -13,14 +13,14 @@ namespace tarn {
 class ContextCore;
 
 /// What joins a context with its children, and outlives it: what it has pending, and the way to its queue.
-class ParentLink : public ChildContexts {
+class ParentHandle : public ChildContexts {
 public:
-    explicit ParentLink(ContextCore& core);
+    explicit ParentHandle(ContextCore& core);
     /// Of this context; made when its first child asks. On the queue.
-    static std::shared_ptr<ParentLink> ofContext(ContextCore& core);
+    static std::shared_ptr<ParentHandle> ofContext(ContextCore& core);
 
     /// What the context published last. Any thread.
-    std::shared_ptr<const PendingSnapshot> snapshot() const;
+    std::shared_ptr<const UnsavedSnapshot> snapshot() const;
     /// Runs the work on the context's queue and waits for it; false and an error when the context is gone. Any thread.
     bool perform(const std::function<void(ContextCore&)>& work, NSError* error) const;
     void publish() override;
@@ -28,7 +28,7 @@ public:
 
 private:
     mutable std::mutex mutex_;
-    std::shared_ptr<const PendingSnapshot> snapshot_;
+    std::shared_ptr<const UnsavedSnapshot> snapshot_;
     std::shared_ptr<Queue> queue_;
     ContextCore* core_; ///< null once the context is gone; used on its queue alone
 };

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "tarnmodel/platform/coredata/context/RelationshipMaintenance.h"
-#include "tarnmodel/platform/coredata/context/child/ParentLink.h"
+#include "tarnmodel/platform/coredata/context/child/ParentHandle.h"
 #include "tarnmodel/platform/coredata/rows/RowStore.h"
 
 #include <map>
@@ -13,7 +13,7 @@ namespace tarn {
 /// The save of a child context: gathers what is written, and makes it unsaved changes of the parent at the commit.
 class ParentTransaction final : public StoreTransaction {
 public:
-    ParentTransaction(RowStore& store, std::shared_ptr<ParentLink> parent)
+    ParentTransaction(RowStore& store, std::shared_ptr<ParentHandle> parent)
         : store_(store), parent_(std::move(parent)), stateNumber_(store_.stateNumber())
     { }
 
@@ -55,7 +55,7 @@ private:
     static void remove(ContextCore& parent, const Deletion& deletion);
 
     RowStore& store_;
-    std::shared_ptr<ParentLink> parent_;
+    std::shared_ptr<ParentHandle> parent_;
     std::vector<StoreRow> insertions_;
     KeysOfEntities insertedKeys_;
     std::vector<Update> updates_;

@@ -1,4 +1,4 @@
-#include "tarnmodel/platform/coredata/context/child/PendingSnapshot.h"
+#include "tarnmodel/platform/coredata/context/child/UnsavedSnapshot.h"
 
 #include "tarnmodel/platform/coredata/context/ContextCore.h"
 #include "tarnmodel/platform/coredata/context/RecordAccess.h"
@@ -46,9 +46,9 @@ PropertyValues rowValues(const ContextCore& core, const NSManagedObject& record)
 
 } // namespace
 
-std::shared_ptr<const PendingSnapshot> PendingSnapshot::ofContext(ContextCore& core, const PendingSnapshot* previous)
+std::shared_ptr<const UnsavedSnapshot> UnsavedSnapshot::ofContext(ContextCore& core, const UnsavedSnapshot* previous)
 {
-    const auto snapshot = std::make_shared<PendingSnapshot>();
+    const auto snapshot = std::make_shared<UnsavedSnapshot>();
     snapshot->generation_ = previous ? previous->generation_ + 1 : 1;
     const auto inserted = core.tracker.insertedObjects();
     NSError error;
@@ -65,8 +65,8 @@ std::shared_ptr<const PendingSnapshot> PendingSnapshot::ofContext(ContextCore& c
     return snapshot;
 }
 
-void PendingSnapshot::takeRecord(
-    const ContextCore& core, const NSManagedObject& record, const PendingSnapshot* previous)
+void UnsavedSnapshot::takeRecord(
+    const ContextCore& core, const NSManagedObject& record, const UnsavedSnapshot* previous)
 {
     const NSManagedObjectID id = record.objectID();
     if (id.isTemporaryID())
@@ -92,7 +92,7 @@ void PendingSnapshot::takeRecord(
     indexToOnes(*place);
 }
 
-void PendingSnapshot::indexToOnes(const Entry& entry)
+void UnsavedSnapshot::indexToOnes(const Entry& entry)
 {
     for (const NSRelationshipDescription* relationship : entry.row.entity->relationships()) {
         if (relationship->isToMany() || relationship->storage() != RelationshipStorage::Column
@@ -103,7 +103,7 @@ void PendingSnapshot::indexToOnes(const Entry& entry)
     }
 }
 
-void PendingSnapshot::takeJoins(const NSManagedObject& record)
+void UnsavedSnapshot::takeJoins(const NSManagedObject& record)
 {
     const RecordDetails* details = RecordAccess::detailsIfAny(record);
     if (!details || record.objectID().isTemporaryID())
@@ -125,27 +125,27 @@ void PendingSnapshot::takeJoins(const NSManagedObject& record)
     }
 }
 
-const PendingSnapshot::Entries& PendingSnapshot::entriesOfRoot(const NSEntityDescription& root) const
+const UnsavedSnapshot::Entries& UnsavedSnapshot::entriesOfRoot(const NSEntityDescription& root) const
 {
     static const Entries none;
     const auto found = entries_.find(&root);
     return found == entries_.end() ? none : found->second;
 }
 
-const PendingSnapshot::Entry* PendingSnapshot::entry(const NSEntityDescription& root, std::int64_t key) const
+const UnsavedSnapshot::Entry* UnsavedSnapshot::entry(const NSEntityDescription& root, std::int64_t key) const
 {
     const Entries& entries = entriesOfRoot(root);
     const auto found = entries.find(key);
     return found == entries.end() ? nullptr : found->second.get();
 }
 
-std::vector<RelatedKey> PendingSnapshot::holders(const NSRelationshipDescription& column, std::int64_t target) const
+std::vector<RelatedKey> UnsavedSnapshot::holders(const NSRelationshipDescription& column, std::int64_t target) const
 {
     const auto found = holders_.find({&column, target});
     return found == holders_.end() ? std::vector<RelatedKey>() : found->second;
 }
 
-const std::vector<PendingSnapshot::JoinDelta>& PendingSnapshot::joinDeltas(
+const std::vector<UnsavedSnapshot::JoinDelta>& UnsavedSnapshot::joinDeltas(
     const NSRelationshipDescription& relationship, std::int64_t key) const
 {
     static const std::vector<JoinDelta> none;

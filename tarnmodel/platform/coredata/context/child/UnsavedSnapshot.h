@@ -14,7 +14,7 @@ class ContextCore;
 /// What a context has not saved, row by row, as it stood at one moment: what its children read besides the store.
 ///
 /// Immutable, and so read by any thread. All keys are permanent.
-class PendingSnapshot {
+class UnsavedSnapshot {
 public:
     struct Entry {
         /// As a store hands it out. The version is another one whenever the record changed.
@@ -31,7 +31,7 @@ public:
 
     /// The records that are pending in the context. Inserted ones get permanent identifiers; where that fails it is
     /// logged, and children do not see them. On the context's queue.
-    static std::shared_ptr<const PendingSnapshot> ofContext(ContextCore& core, const PendingSnapshot* previous);
+    static std::shared_ptr<const UnsavedSnapshot> ofContext(ContextCore& core, const UnsavedSnapshot* previous);
 
     bool isEmpty() const noexcept { return entries_.empty(); }
     std::uint64_t generation() const noexcept { return generation_; }
@@ -45,7 +45,7 @@ public:
 private:
     using End = std::pair<const NSRelationshipDescription*, std::int64_t>;
 
-    void takeRecord(const ContextCore& core, const NSManagedObject& record, const PendingSnapshot* previous);
+    void takeRecord(const ContextCore& core, const NSManagedObject& record, const UnsavedSnapshot* previous);
     void takeJoins(const NSManagedObject& record);
     void indexToOnes(const Entry& entry);
 
