@@ -59,6 +59,23 @@ endfunction()
 
 tarn_precompile(tarn_precompiled HEADERS ${TARN_PRECOMPILED_STANDARD_HEADERS})
 
+# tarn_group_by_folder(<sources>)
+#
+# Where several sources are compiled as one (CMAKE_UNITY_BUILD), these are eight of one folder: what sources of two
+# folders keep to themselves may have one name.
+function(tarn_group_by_folder)
+  foreach(source IN LISTS ARGN)
+    file(RELATIVE_PATH folder "${PROJECT_SOURCE_DIR}" "${source}")
+    get_filename_component(folder "${folder}" DIRECTORY)
+    string(MAKE_C_IDENTIFIER "${folder}" group)
+    if(source MATCHES "\\.cpp$")
+      math(EXPR number_${group} "${number_${group}} + 1")
+      math(EXPR part "(${number_${group}} - 1) / 8")
+      set_source_files_properties("${source}" PROPERTIES UNITY_GROUP "${group}_${part}")
+    endif()
+  endforeach()
+endfunction()
+
 # tarn_room(<target> [OBJECT] [PUBLIC <targets>] [PRIVATE <targets>])
 #
 # Makes a library of all sources of the current folder and of the rooms in it. An OBJECT room becomes part of the
@@ -71,7 +88,8 @@ function(tarn_room target)
   else()
     add_library(${target} STATIC ${sources})
   endif()
-  set_target_properties(${target} PROPERTIES LINKER_LANGUAGE CXX)
+  set_target_properties(${target} PROPERTIES LINKER_LANGUAGE CXX UNITY_BUILD_MODE GROUP)
+  tarn_group_by_folder(${sources})
   target_include_directories(${target} PUBLIC
     $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>
     $<BUILD_INTERFACE:${PROJECT_BINARY_DIR}/generated>)
