@@ -342,14 +342,12 @@ bool SQLiteConnection::isWriting() const noexcept
 
 std::optional<std::int64_t> SQLiteConnection::dataVersionAtOnce()
 {
-    std::optional<std::int64_t> version;
-    waits_ = false;
+    const WithoutWaiting impatience(*this);
     try {
-        version = integerOf("PRAGMA data_version");
-    } catch (const StoreFailure&) { // it is asked again
+        return integerOf("PRAGMA data_version");
+    } catch (const StoreFailure&) {
+        return std::nullopt; // it is asked again
     }
-    waits_ = true;
-    return version;
 }
 
 bool SQLiteConnection::hasMetCommit() noexcept
@@ -359,31 +357,9 @@ bool SQLiteConnection::hasMetCommit() noexcept
     return std::exchange(seenData_, data) != data;
 }
 
-bool SQLiteConnection::beginReadingAtOnce()
-{
-    waits_ = false;
-    try {
-        execute("BEGIN");
-        integerOf("PRAGMA data_version"); // takes the lock
-    } catch (const StoreFailure&) {
-        rollBack();
-        waits_ = true;
-        return false;
-    }
-    waits_ = true;
-    return true;
-}
-
 bool SQLiteConnection::isReadOnly() const noexcept
 {
     return sqlite3_db_readonly(handle_, "main") == 1;
-}
-
-void SQLiteConnection::rollBack() noexcept
-{
-    // SQLite has rolled back by itself after some failures; a second ROLLBACK is then an error without meaning.
-    if (isInTransaction())
-        sqlite3_exec(handle_, "ROLLBACK", nullptr, nullptr, nullptr);
 }
 
 } // namespace tarn

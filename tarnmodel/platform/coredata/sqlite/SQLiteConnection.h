@@ -85,7 +85,7 @@ struct SQLiteConnectionOptions {
 
 /// One connection to a store file, set up as every connection of a store is. One thread at a time.
 ///
-/// What fails throws a `StoreFailure` whose code is one of NSPersistentStore.h.
+/// What fails throws a `StoreFailure` whose code is one of StoreErrors.h.
 class SQLiteConnection {
 public:
     SQLiteConnection(const std::filesystem::path& file, const SQLiteConnectionOptions& options);
@@ -111,10 +111,17 @@ public:
     std::optional<std::int64_t> dataVersionAtOnce();
     /// Whether a commit came in below what this connection has read since it was last asked.
     bool hasMetCommit() noexcept;
-    /// Begins to read: until the transaction ends nobody commits. False when that would mean to wait for another one.
-    bool beginReadingAtOnce();
-    /// Ends a transaction without keeping anything of it; never fails.
-    void rollBack() noexcept;
+    /// While one lives, what meets a lock fails at once.
+    class WithoutWaiting {
+    public:
+        explicit WithoutWaiting(SQLiteConnection& connection) : connection_(connection) { connection_.waits_ = false; }
+        ~WithoutWaiting() { connection_.waits_ = true; }
+        WithoutWaiting(const WithoutWaiting&) = delete;
+        WithoutWaiting& operator=(const WithoutWaiting&) = delete;
+
+    private:
+        SQLiteConnection& connection_;
+    };
     /// How many prepared statements are on loan.
     std::size_t statementsInUse() const noexcept { return inUse_; }
 

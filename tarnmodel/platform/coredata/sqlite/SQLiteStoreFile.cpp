@@ -1,6 +1,7 @@
 #include "tarnmodel/platform/coredata/sqlite/SQLiteStoreFile.h"
 
 #include "tarnmodel/platform/coredata/sqlite/SQLiteConnection.h"
+#include "tarnmodel/platform/coredata/sqlite/TransactionGuards.h"
 #include "tarnmodel/platform/foundation/text/Folding.h"
 
 #include <functional>
@@ -11,19 +12,6 @@ namespace tarn {
 namespace {
 
 constexpr std::string_view kContents = "SELECT count(*), coalesce(sum(name = 'store_metadata'), 0) FROM sqlite_schema";
-
-/// Runs `work` between BEGIN and COMMIT; nothing of it stays when it throws.
-void inTransaction(SQLiteConnection& connection, const std::string& begin, const std::function<void()>& work)
-{
-    connection.execute(begin);
-    try {
-        work();
-        connection.execute("COMMIT");
-    } catch (...) {
-        connection.rollBack();
-        throw;
-    }
-}
 
 /// The name of what a CREATE statement makes: the first quoted one.
 std::string madeName(const std::string& statement)
@@ -59,14 +47,14 @@ StoreFileContents contentsOfStoreFile(SQLiteConnection& connection)
 void createStoreTables(SQLiteConnection& connection, const StoreSchema& schema, const NSManagedObjectModel& model)
 {
     connection.execute("PRAGMA page_size = 8192");
-    inTransaction(connection, "BEGIN EXCLUSIVE", [&] {
-        if (contentsOfStoreFile(connection) != StoreFileContents::Nothing)
-            return; // another process was faster
-        for (const std::string& statement : schema.creationStatements())
-            connection.execute(statement);
-        for (const auto& [key, value] : newStoreMetadata(model))
-            writeStoreMetadataValue(connection, key, value);
-    });
+    WriteTransaction transaction(connection, WriteTransaction::Lock::Exclusive);
+    if (contentsOfStoreFile(connection) != StoreFileContents::Nothing)
+        return; // another process was faster
+    for (const std::string& statement : schema.creationStatements())
+        connection.execute(statement);
+    for (const auto& [key, value] : newStoreMetadata(model))
+        writeStoreMetadataValue(connection, key, value);
+    transaction.commit();
 }
 
 StoreMetadata readStoreMetadata(SQLiteConnection& connection)

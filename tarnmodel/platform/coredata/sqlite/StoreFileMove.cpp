@@ -3,6 +3,7 @@
 #include "tarnmodel/platform/coredata/rows/RowStore.h"
 #include "tarnmodel/platform/coredata/rows/StoreFailure.h"
 #include "tarnmodel/platform/coredata/sqlite/SQLiteConnection.h"
+#include "tarnmodel/platform/coredata/sqlite/TransactionGuards.h"
 
 #include <system_error>
 
@@ -34,14 +35,13 @@ bool moveStoreFile(const fs::path& source, const fs::path& destination, NSError*
     return reportingFailure(error, [&] {
         // Another mode of journal would keep parts of the store in other files.
         SQLiteConnection connection(source, {.pragmas = {{"journal_mode", "DELETE"}}});
-        connection.execute("BEGIN EXCLUSIVE");
+        const WriteTransaction lock(connection, WriteTransaction::Lock::Exclusive);
         if (fs::exists(destination) || fs::exists(journalOf(destination)))
             throw StoreFailure(StoreErrorIO, destination.string() + " is there already");
         // The journal goes first: a store that were made under the old name must never meet it.
         if (fs::exists(journalOf(source)))
             renameFile(journalOf(source), journalOf(destination));
         renameFile(source, destination);
-        connection.rollBack();
     });
 }
 

@@ -284,14 +284,12 @@ void SQLiteStore::beginWriting()
         throw StoreFailure(
             StoreErrorBusy, pool_->turn().isMine() ? "This thread has a transaction already." : "The store is in use.");
     try {
-        pool_->writer().execute("BEGIN IMMEDIATE");
-        pool_->writer().execute("SAVEPOINT \"all\"");
+        writing_.emplace(pool_->writer(), WriteTransaction::Lock::Immediate);
         // Another process may have swapped the file while this one waited for the lock.
         pool_->checkFileIsTheSame();
         raiseNextKeys(pool_->writer());
         followDerivedValues(pool_->writer());
     } catch (...) {
-        pool_->writer().rollBack();
         endWriting(WritingEnd::RolledBack);
         throw;
     }
@@ -299,6 +297,7 @@ void SQLiteStore::beginWriting()
 
 void SQLiteStore::endWriting(WritingEnd end) noexcept
 {
+    writing_.reset();
     // What followed the derived values was taken back with the rest.
     if (end == WritingEnd::RolledBack)
         writerVersion_ = -1;
@@ -324,9 +323,8 @@ void SQLiteStore::write(const std::function<void(SQLiteConnection&)>& work)
     beginWriting();
     try {
         work(connection);
-        connection.execute("COMMIT");
+        writing_->commit();
     } catch (...) {
-        connection.rollBack();
         endWriting(WritingEnd::RolledBack);
         throw;
     }
@@ -395,21 +393,25 @@ void SQLiteStore::raiseNextKeys(SQLiteConnection& connection)
 /// be written, the next transaction tries again.
 void SQLiteStore::rollBack() noexcept
 {
-    SQLiteConnection& connection = pool_->writer();
-    const auto keepKeys = [&](const std::string& begin) {
-        return reportingFailure(nullptr, [&] {
-            connection.execute(begin);
-            raiseNextKeys(connection);
-            connection.execute("COMMIT");
-            reservedKeys_.clear();
-        });
+    const auto keepKeys = [&] {
+        raiseNextKeys(pool_->writer());
+        writing_->commit();
+        reservedKeys_.clear();
     };
-    if (!reservedKeys_.empty() && connection.isInTransaction() && keepKeys("ROLLBACK TO \"all\""))
+    const auto takeBack = [&] {
+        writing_->startAgain();
+        keepKeys();
+    };
+    if (!reservedKeys_.empty() && writing_->isOpen() && reportingFailure(nullptr, takeBack))
         return;
-    connection.rollBack();
+    writing_.reset();
     // After some failures SQLite has given up the lock by itself.
-    if (!reservedKeys_.empty() && !keepKeys("BEGIN IMMEDIATE"))
-        connection.rollBack();
+    const auto beginAgain = [&] {
+        writing_.emplace(pool_->writer(), WriteTransaction::Lock::Immediate);
+        keepKeys();
+    };
+    if (!reservedKeys_.empty() && !reportingFailure(nullptr, beginAgain))
+        writing_.reset();
 }
 
 // Upkeep --------------------------------------------------------------------------------------------------------------

@@ -9,6 +9,7 @@
 #include "tarnmodel/platform/coredata/sqlite/SQLiteRowWriter.h"
 #include "tarnmodel/platform/coredata/sqlite/StoreSchema.h"
 #include "tarnmodel/platform/coredata/sqlite/StoreSelects.h"
+#include "tarnmodel/platform/coredata/sqlite/TransactionGuards.h"
 #include "tarnmodel/platform/coredata/textsearch/SearchIndex.h"
 
 #include <atomic>
@@ -94,6 +95,7 @@ private:
     std::atomic<std::uint64_t> commits_ = 0; ///< of this store's own transactions
     /// Next free key by root entity, as far as a transaction reserved any that did not reach the file. Belongs to the
     /// turn's holder.
+    std::optional<WriteTransaction> writing_; ///< of the thread whose turn it is
     std::unordered_map<const NSEntityDescription*, std::int64_t> reservedKeys_;
 };
 

@@ -90,7 +90,7 @@ bool SQLiteTransaction::commit(NSError* error)
         writer_.clearMissingTargets();
         if (writer_.hasWrittenSignatures())
             store_.fillSomeSignatures(connection_);
-        connection_.execute("COMMIT"); // waits for readers by the busy handler
+        store_.writing_->commit();
     });
     if (!committed) {
         store_.rollBack();

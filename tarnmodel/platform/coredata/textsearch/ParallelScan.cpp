@@ -1,6 +1,7 @@
 #include "tarnmodel/platform/coredata/textsearch/ParallelScan.h"
 
 #include "tarnmodel/platform/coredata/sqlite/ConnectionPool.h"
+#include "tarnmodel/platform/coredata/sqlite/TransactionGuards.h"
 
 #include <exception>
 #include <limits>
@@ -60,18 +61,6 @@ private:
     std::thread thread_; // last: it writes to the others
 };
 
-/// Ends the second connection's transaction, after its thread.
-class PassToEnd {
-public:
-    explicit PassToEnd(SQLiteConnection& connection) : connection_(connection) { }
-    ~PassToEnd() { connection_.rollBack(); }
-    PassToEnd(const PassToEnd&) = delete;
-    PassToEnd& operator=(const PassToEnd&) = delete;
-
-private:
-    SQLiteConnection& connection_;
-};
-
 /// What both halves give, those of the lower keys first.
 struct Halves {
     std::vector<std::int64_t> lower;
@@ -91,9 +80,11 @@ std::optional<Halves> readInHalves(
     if (span < kWorthTwoThreads)
         return std::nullopt;
     const auto access = pool.readAtOnce();
-    if (!access || !access->connection().beginReadingAtOnce())
+    if (!access)
         return std::nullopt;
-    const PassToEnd pass(access->connection());
+    const ReadTransaction pass(access->connection(), ReadTransaction::Wait::Never); // ends after the thread
+    if (!pass.isOpen())
+        return std::nullopt;
 
     const auto middle = static_cast<std::int64_t>(static_cast<std::uint64_t>(lowest) + span / 2);
     const GeneratedSelect upper = selectInRange(KeyRange{middle + 1, std::numeric_limits<std::int64_t>::max()});

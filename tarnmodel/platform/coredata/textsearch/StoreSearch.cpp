@@ -90,27 +90,6 @@ SearchPlan::Kind chosenKind(const SearchPlan& plan, const StoreFetch& fetch, Fet
 
 } // namespace
 
-// Transaction ---------------------------------------------------------------------------------------------------------
-
-ReadingPass::ReadingPass(SQLiteConnection& connection) : connection_(connection), isOwn_(!connection.isInTransaction())
-{
-    if (!isOwn_)
-        return;
-    connection_.execute("BEGIN");
-    try {
-        connection_.integerOf("PRAGMA data_version"); // takes the lock
-    } catch (...) {
-        connection_.rollBack();
-        throw;
-    }
-}
-
-ReadingPass::~ReadingPass()
-{
-    if (isOwn_)
-        connection_.rollBack(); // there is nothing to keep
-}
-
 // Search --------------------------------------------------------------------------------------------------------------
 
 StoreSearch::StoreSearch(const SearchIndex* index, const StoreSelects& selects, SQLiteConnection& connection,

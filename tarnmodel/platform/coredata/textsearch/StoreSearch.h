@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tarnmodel/platform/coredata/query/SQLGenerator.h"
+#include "tarnmodel/platform/coredata/sqlite/TransactionGuards.h"
 #include "tarnmodel/platform/coredata/textsearch/SearchIndex.h"
 
 #include <chrono>
@@ -10,19 +11,6 @@
 namespace tarn {
 
 class SQLiteConnection;
-
-/// A read transaction for the scope of one operation: nobody commits in it. Inside another transaction it is that one.
-class ReadingPass {
-public:
-    explicit ReadingPass(SQLiteConnection& connection);
-    ~ReadingPass();
-    ReadingPass(const ReadingPass&) = delete;
-    ReadingPass& operator=(const ReadingPass&) = delete;
-
-private:
-    SQLiteConnection& connection_;
-    bool isOwn_;
-};
 
 /// What a fetch is for, as far as its plan depends on it.
 enum class FetchPurpose : std::uint8_t { Rows, Count };
@@ -47,7 +35,7 @@ private:
     SearchPlan plan(const StoreSchema& schema, SQLiteConnection& connection, const StoreFetch& fetch,
         FetchPurpose purpose, const SQLConditionOptions& options);
 
-    std::optional<ReadingPass> pass_;
+    std::optional<ReadTransaction> pass_;
     std::optional<SearchIndexReader> look_;
     std::optional<SQLGenerator> generator_;
     std::chrono::steady_clock::duration probeTime_{};

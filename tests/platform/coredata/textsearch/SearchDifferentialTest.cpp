@@ -191,7 +191,7 @@ public:
 
     std::vector<std::int64_t> withIndex(const StoreFetch& fetch, SearchPlan::Kind kind)
     {
-        const ReadingPass pass(connection_);
+        const ReadTransaction pass(connection_);
         SearchIndexReader look(index_, connection_);
         SQLConditionOptions options = this->options();
         options.rowsThatMayMatch = [&](const NSAttributeDescription& attribute, const StringTest& test) {
