@@ -13,8 +13,6 @@ namespace {
 
 /// So few are found faster one by one.
 constexpr std::size_t kFewTests = 4;
-/// A larger buffer would stay in memory for long.
-constexpr std::size_t kLargestKeptText = std::size_t{1} << 20U;
 
 } // namespace
 

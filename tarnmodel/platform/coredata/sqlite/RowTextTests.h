@@ -15,6 +15,9 @@
 
 namespace tarn {
 
+/// Folded texts that are larger would stay in memory for long.
+inline constexpr std::size_t kLargestKeptText = std::size_t{1} << 20U;
+
 class SQLiteConnection;
 
 /// All that a statement asks of the texts of one row, as an argument of `texts_hold`: each text is read and folded

@@ -58,9 +58,6 @@ private:
     std::string folded_;
 };
 
-/// Larger ones would stay in memory for long.
-constexpr std::size_t kLargestKeptText = std::size_t{1} << 20U;
-
 bool holds(const StringTest& test, bool isOneOfMany, sqlite3_context* context, std::string_view text)
 {
     if (!isOneOfMany || text.empty() || text.size() > kLargestKeptText)
