@@ -8,16 +8,16 @@
 namespace tarn {
 namespace {
 
-using PrimaryKeySet = OVManagedObjectObserver::PrimaryKeySet;
+using KeyNames = OVManagedObjectObserver::KeyNames;
 
-PrimaryKeySet changedKeysOf(const NSManagedObject& record)
+KeyNames changedKeysOf(const NSManagedObject& record)
 {
-    PrimaryKeySet keys = record.changedKeys();
+    KeyNames keys = record.changedKeys();
     keys.merge(record.changedKeysForCurrentEvent());
     return keys;
 }
 
-bool shareAName(const PrimaryKeySet& left, const PrimaryKeySet& right)
+bool shareAName(const KeyNames& left, const KeyNames& right)
 {
     return std::any_of(left.begin(), left.end(), [&right](const std::string& key) { return right.contains(key); });
 }
@@ -30,7 +30,7 @@ bool holds(const std::vector<NSManagedObject*>& records, const NSManagedObject* 
 } // namespace
 
 std::unique_ptr<OVManagedObjectObserver> OVManagedObjectObserver::observerForManagedObject(NSManagedObject& object,
-    std::optional<PrimaryKeySet> keyPaths, const std::map<std::string, PrimaryKeySet>& relationships, Block block)
+    std::optional<KeyNames> keyPaths, const std::map<std::string, KeyNames>& relationships, Block block)
 {
     std::unique_ptr<OVManagedObjectObserver> observer(
         new OVManagedObjectObserver(object, std::move(keyPaths), std::move(block)));
@@ -40,21 +40,15 @@ std::unique_ptr<OVManagedObjectObserver> OVManagedObjectObserver::observerForMan
     return observer;
 }
 
-OVManagedObjectObserver::OVManagedObjectObserver(
-    NSManagedObject& object, std::optional<PrimaryKeySet> keyPaths, Block block)
+OVManagedObjectObserver::OVManagedObjectObserver(NSManagedObject& object, std::optional<KeyNames> keyPaths, Block block)
     : object_(&object), keyPathToObserve_(std::move(keyPaths)), block_(std::move(block))
-{
-    // A record owns the blocks that observe its keys, and this block owns the lifeline: it ends when the record does.
-    const auto lifeline = std::make_shared<char>();
-    lifeline_ = lifeline;
-    lifelineHolder_ = object.addObserver(object.entity().property(0).name(), [lifeline](NSManagedObject&, auto) {});
-}
+{ }
 
 OVManagedObjectObserver::~OVManagedObjectObserver() = default;
 
-void OVManagedObjectObserver::observeObjectsInRelationshipName(std::string_view name, const PrimaryKeySet& keyPaths)
+void OVManagedObjectObserver::observeObjectsInRelationshipName(std::string_view name, const KeyNames& keyPaths)
 {
-    if (observedObject() && object_->entity().relationshipNamed(name))
+    if (observedObject() && observedObject()->entity().relationshipNamed(name))
         relationships_.insert_or_assign(std::string(name), keyPaths);
 }
 
@@ -63,7 +57,7 @@ void OVManagedObjectObserver::startObserving()
     if (!observedObject() || subscription_.isActive())
         return;
     subscription_ = NSNotificationCenter::defaultCenter().addObserver(
-        NSManagedObjectContextObjectsDidChangeNotification, &object_->managedObjectContext(),
+        NSManagedObjectContextObjectsDidChangeNotification, &observedObject()->managedObjectContext(),
         [this](const NSNotification& notification) { managedObjectContextObjectsDidChange(notification); });
 }
 
@@ -79,7 +73,7 @@ void OVManagedObjectObserver::managedObjectContextObjectsDidChange(const NSNotif
     if (!observedObject() || !changes)
         return;
     const Block block = block_; // which may destroy this observer
-    if (holds(changes->refreshed, object_)) {
+    if (holds(changes->refreshed, observedObject())) {
         block(std::nullopt, {}, true);
         return;
     }
@@ -89,11 +83,11 @@ void OVManagedObjectObserver::managedObjectContextObjectsDidChange(const NSNotif
         block(changedKeys, changedRelated, false);
 }
 
-std::optional<PrimaryKeySet> OVManagedObjectObserver::countingKeysOfObject(const ObjectChanges& changes) const
+std::optional<KeyNames> OVManagedObjectObserver::countingKeysOfObject(const ObjectChanges& changes) const
 {
-    if (!holds(changes.updated, object_))
+    if (!holds(changes.updated, observedObject()))
         return std::nullopt;
-    PrimaryKeySet changedKeys = changedKeysOf(*object_);
+    KeyNames changedKeys = changedKeysOf(*observedObject());
     if (keyPathToObserve_ && !shareAName(*keyPathToObserve_, changedKeys))
         return std::nullopt;
     return changedKeys;
@@ -103,7 +97,7 @@ std::vector<NSManagedObject*> OVManagedObjectObserver::countingRelatedObjects(co
 {
     std::vector<NSManagedObject*> related;
     for (const auto& [name, keys] : relationships_) {
-        const auto& destination = object_->entity().relationshipNamed(name)->destinationEntity();
+        const auto& destination = observedObject()->entity().relationshipNamed(name)->destinationEntity();
         for (NSManagedObject* other : changes.updated) {
             if (other->entity().isKindOfEntity(destination) && shareAName(keys, changedKeysOf(*other))
                 && isRelated(*other, name))
@@ -115,11 +109,11 @@ std::vector<NSManagedObject*> OVManagedObjectObserver::countingRelatedObjects(co
 
 bool OVManagedObjectObserver::isRelated(const NSManagedObject& other, const std::string& relationshipName) const
 {
-    if (object_->isDeleted())
+    if (observedObject()->isDeleted())
         return false;
-    const NSRelationshipDescription& relationship = *object_->entity().relationshipNamed(relationshipName);
-    return relationship.isToMany() ? object_->toManyAt(relationship.index()).contains(other)
-                                   : object_->toOneAt(relationship.index()) == &other;
+    const NSRelationshipDescription& relationship = *observedObject()->entity().relationshipNamed(relationshipName);
+    return relationship.isToMany() ? observedObject()->toManyAt(relationship.index()).contains(other)
+                                   : observedObject()->toOneAt(relationship.index()) == &other;
 }
 
 } // namespace tarn

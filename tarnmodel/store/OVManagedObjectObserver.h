@@ -2,6 +2,7 @@
 
 #include "tarnmodel/platform/coredata/NSManagedObject.h"
 #include "tarnmodel/platform/foundation/events/NSNotificationCenter.h"
+#include "tarnmodel/platform/foundation/values/WeakReference.h"
 
 #include <functional>
 #include <map>
@@ -26,45 +27,43 @@ struct ObjectChanges;
 ///         [&](const auto& changedKeys, const auto& changedRelated, bool refreshed) { updateRow(); });
 class OVManagedObjectObserver {
 public:
-    using PrimaryKeySet = std::set<std::string>;
+    using KeyNames = std::set<std::string>;
     /// Receives what changed: the names of all changed properties of the record, or none when it did not change in a
     /// watched one; the changed related records, one more than once where several entries name it; and true (with no
     /// keys and no records) when the record was read again from the store, so that anything may have changed.
-    using Block = std::function<void(const std::optional<PrimaryKeySet>& changedKeys,
+    using Block = std::function<void(const std::optional<KeyNames>& changedKeys,
         const std::vector<NSManagedObject*>& changedRelatedObjects, bool refreshed)>;
 
     /// A new observer that observes already. `keyPaths`: which properties of the record count; all without a set.
     /// `relationships`: by relationship, which properties of the related records count.
     static std::unique_ptr<OVManagedObjectObserver> observerForManagedObject(NSManagedObject& object,
-        std::optional<PrimaryKeySet> keyPaths, const std::map<std::string, PrimaryKeySet>& relationships, Block block);
+        std::optional<KeyNames> keyPaths, const std::map<std::string, KeyNames>& relationships, Block block);
 
     ~OVManagedObjectObserver();
     OVManagedObjectObserver(const OVManagedObjectObserver&) = delete;
     OVManagedObjectObserver& operator=(const OVManagedObjectObserver&) = delete;
 
     /// The record; null once it is gone with its context.
-    NSManagedObject* observedObject() const noexcept { return lifeline_.expired() ? nullptr : object_; }
-    const std::optional<PrimaryKeySet>& keyPathToObserve() const noexcept { return keyPathToObserve_; }
-    const std::map<std::string, PrimaryKeySet>& relationships() const noexcept { return relationships_; }
+    NSManagedObject* observedObject() const noexcept { return object_.get(); }
+    const std::optional<KeyNames>& keyPathToObserve() const noexcept { return keyPathToObserve_; }
+    const std::map<std::string, KeyNames>& relationships() const noexcept { return relationships_; }
 
     /// Adds or replaces an entry; a name that is no relationship of the record is ignored.
-    void observeObjectsInRelationshipName(std::string_view name, const PrimaryKeySet& keyPaths);
+    void observeObjectsInRelationshipName(std::string_view name, const KeyNames& keyPaths);
     /// Starts again after `stopObserving`; an observer that observes goes on.
     void startObserving();
     void stopObserving();
 
 private:
-    OVManagedObjectObserver(NSManagedObject& object, std::optional<PrimaryKeySet> keyPaths, Block block);
+    OVManagedObjectObserver(NSManagedObject& object, std::optional<KeyNames> keyPaths, Block block);
     void managedObjectContextObjectsDidChange(const NSNotification& notification);
-    std::optional<PrimaryKeySet> countingKeysOfObject(const ObjectChanges& changes) const;
+    std::optional<KeyNames> countingKeysOfObject(const ObjectChanges& changes) const;
     std::vector<NSManagedObject*> countingRelatedObjects(const ObjectChanges& changes) const;
     bool isRelated(const NSManagedObject& other, const std::string& relationshipName) const;
 
-    NSManagedObject* object_;
-    std::weak_ptr<void> lifeline_; ///< held by the record, so it ends with it
-    KeyValueObservation lifelineHolder_;
-    std::optional<PrimaryKeySet> keyPathToObserve_;
-    std::map<std::string, PrimaryKeySet> relationships_;
+    WeakReference<NSManagedObject> object_;
+    std::optional<KeyNames> keyPathToObserve_;
+    std::map<std::string, KeyNames> relationships_;
     Block block_;
     NSNotificationSubscription subscription_;
 };

@@ -10,12 +10,12 @@ using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-using PrimaryKeySet = OVManagedObjectObserver::PrimaryKeySet;
+using KeyNames = OVManagedObjectObserver::KeyNames;
 
 class RecordObserver : public StoreFixture {
 protected:
     struct Call {
-        std::optional<PrimaryKeySet> keys;
+        std::optional<KeyNames> keys;
         std::vector<NSManagedObject*> related;
         bool refreshed = false;
     };
@@ -35,7 +35,7 @@ protected:
 
     OVNote& watched() { return *watched_; }
     OVManagedObjectObserver& observer() { return *observer_; }
-    void observe(std::optional<PrimaryKeySet> keys, const std::map<std::string, PrimaryKeySet>& relationships = {})
+    void observe(std::optional<KeyNames> keys, const std::map<std::string, KeyNames>& relationships = {})
     {
         observer_ = OVManagedObjectObserver::observerForManagedObject(watched(), std::move(keys), relationships,
             [this](const auto& changed, const auto& related, bool refreshed) {
@@ -67,7 +67,7 @@ INSTANTIATE_TEST_SUITE_P(Stores, RecordObserver, everyStore(), storeName);
 
 TEST_P(RecordObserver, HearsOfTheKeysThatItWatches)
 {
-    observe(PrimaryKeySet{"title"});
+    observe(KeyNames{"title"});
     watched().setText("changed");
     EXPECT_THAT(settle(), IsEmpty());
 
@@ -76,7 +76,7 @@ TEST_P(RecordObserver, HearsOfTheKeysThatItWatches)
     const auto calls = settle();
 
     ASSERT_EQ(calls.size(), 1U) << "one call for one pass";
-    EXPECT_EQ(calls[0].keys, (PrimaryKeySet{"subtitle", "text", "title"})) << "with all names since the last save";
+    EXPECT_EQ(calls[0].keys, (KeyNames{"subtitle", "text", "title"})) << "with all names since the last save";
     EXPECT_THAT(calls[0].related, IsEmpty());
     EXPECT_FALSE(calls[0].refreshed);
 }
@@ -88,12 +88,12 @@ TEST_P(RecordObserver, HearsOfEveryKeyWithoutASet)
     const auto calls = settle();
 
     ASSERT_EQ(calls.size(), 1U);
-    EXPECT_EQ(calls[0].keys, PrimaryKeySet{"pinned"});
+    EXPECT_EQ(calls[0].keys, KeyNames{"pinned"});
 }
 
 TEST_P(RecordObserver, HearsOfNoKeyWithAnEmptySet)
 {
-    observe(PrimaryKeySet());
+    observe(KeyNames());
     watched().setTitle("changed");
 
     EXPECT_THAT(settle(), IsEmpty());
@@ -112,7 +112,7 @@ TEST_P(RecordObserver, HearsNothingOfOtherRecords)
 TEST_P(RecordObserver, HearsOfItsRelationships)
 {
     OVNoteTag& tagged = savedTag("t", false);
-    observe(PrimaryKeySet{"tags"});
+    observe(KeyNames{"tags"});
     watched().tagsSet().addObject(tagged);
     const auto calls = settle();
 
@@ -124,7 +124,7 @@ TEST_P(RecordObserver, HearsOfRelatedRecordsByTheirKeys)
 {
     OVNoteTag& attached = savedTag("attached", true);
     OVNoteTag& other = savedTag("other", false);
-    observe(PrimaryKeySet{"title"}, {{"tags", {"title"}}});
+    observe(KeyNames{"title"}, {{"tags", {"title"}}});
 
     attached.setTagcon("icon");
     other.setTitle("renamed");
@@ -141,7 +141,7 @@ TEST_P(RecordObserver, HearsOfRelatedRecordsByTheirKeys)
 TEST_P(RecordObserver, HearsOnlyOfRecordsThatAreRelatedNow)
 {
     OVNoteTag& detached = savedTag("detached", true);
-    observe(PrimaryKeySet{"title"}, {{"tags", {"title"}}});
+    observe(KeyNames{"title"}, {{"tags", {"title"}}});
     watched().tagsSet().removeObject(detached);
     detached.setTitle("renamed");
 
@@ -155,7 +155,7 @@ TEST_P(RecordObserver, HearsOfTheOneRelatedRecord)
     watched().setServerData(mine);
     save();
     settle();
-    observe(PrimaryKeySet{"title"}, {{"serverData", {"systemFields"}}});
+    observe(KeyNames{"title"}, {{"serverData", {"systemFields"}}});
     other->setSystemFields(NSData::fromText("other"));
     EXPECT_THAT(settle(), IsEmpty());
 
@@ -171,7 +171,7 @@ TEST_P(RecordObserver, CountsRecordsOfSubEntities)
     image(watched(), "a.png");
     save();
     settle();
-    observe(PrimaryKeySet{"title"}, {{"files", {"unused"}}});
+    observe(KeyNames{"title"}, {{"files", {"unused"}}});
     OVNoteFile* attached = all<OVNoteFile>().at(0);
     attached->setUnusedValue(true);
     const auto calls = settle();
@@ -186,7 +186,7 @@ TEST_P(RecordObserver, NamesARecordOnceForEachEntry)
     watched().pinnedInTagsSet().addObject(attached);
     save();
     settle();
-    observe(PrimaryKeySet{"title"}, {{"tags", {"title"}}, {"pinnedInTags", {"title"}}});
+    observe(KeyNames{"title"}, {{"tags", {"title"}}, {"pinnedInTags", {"title"}}});
     attached.setTitle("renamed");
     const auto calls = settle();
 
@@ -196,9 +196,9 @@ TEST_P(RecordObserver, NamesARecordOnceForEachEntry)
 
 TEST_P(RecordObserver, IgnoresARelationshipThatTheEntityLacks)
 {
-    observe(PrimaryKeySet{"title"}, {{"nonsense", {"title"}}, {"subtitle", {"title"}}, {"tags", {"title"}}});
+    observe(KeyNames{"title"}, {{"nonsense", {"title"}}, {"subtitle", {"title"}}, {"tags", {"title"}}});
 
-    EXPECT_THAT(observer().relationships(), ElementsAre(testing::Pair("tags", PrimaryKeySet{"title"})));
+    EXPECT_THAT(observer().relationships(), ElementsAre(testing::Pair("tags", KeyNames{"title"})));
     tag("t").setTitle("renamed");
     EXPECT_THAT(settle(), IsEmpty());
 }
@@ -206,7 +206,7 @@ TEST_P(RecordObserver, IgnoresARelationshipThatTheEntityLacks)
 TEST_P(RecordObserver, HearsOfARefreshBeforeAllElse)
 {
     OVNoteTag& attached = savedTag("t", true);
-    observe(PrimaryKeySet{"title"}, {{"tags", {"title"}}});
+    observe(KeyNames{"title"}, {{"tags", {"title"}}});
     attached.setTitle("renamed");
     context().refreshObject(watched(), false);
     const auto calls = settle();
@@ -222,7 +222,7 @@ TEST_P(RecordObserver, HearsOfARefreshBeforeAllElse)
 TEST_P(RecordObserver, TakesMoreRelationshipsLater)
 {
     OVNoteTag& attached = savedTag("t", true);
-    observe(PrimaryKeySet{"title"});
+    observe(KeyNames{"title"});
     observer().observeObjectsInRelationshipName("tags", {"title"});
     attached.setTitle("renamed");
 

@@ -97,6 +97,10 @@ public:
     /// Stores without telling observers; use between `willChangeValueForKey` and `didChangeValueForKey`.
     void setPrimitiveValueForKey(std::string_view key, const Value& value);
 
+    /// Expires when this object ends: with its context, or when that is reset. `WeakReference<OVNote>` refers to a
+    /// record with it, and does not keep it. On the context's queue.
+    std::weak_ptr<const void> lifeline() const;
+
     // Key-value observation -------------------------------------------------------------------------------------------
     using Observer = std::function<void(NSManagedObject& record, std::string_view key)>;
     /// Calls `observer` after every write of the key, also when the value stays the same; "xValue" hears of "x".

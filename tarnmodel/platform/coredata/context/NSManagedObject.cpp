@@ -435,6 +435,15 @@ void KeyValueObservation::invalidate()
     registration_.reset();
 }
 
+std::weak_ptr<const void> NSManagedObject::lifeline() const
+{
+    core().assertOnQueue(this);
+    auto& lifeline = RecordAccess::details(*this).lifeline;
+    if (!lifeline)
+        lifeline = std::make_shared<char>();
+    return lifeline;
+}
+
 KeyValueObservation NSManagedObject::addObserver(std::string_view key, Observer observer)
 {
     core().assertOnQueue(this);

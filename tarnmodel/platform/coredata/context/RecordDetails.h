@@ -22,6 +22,7 @@ struct RecordDetails {
     PropertyMask rowChanged = 0;     ///< of `changed` what stands in the record's own row
     PropertyValues committed; ///< values of the last save, from the first change on; empty for an inserted record
     std::vector<std::unique_ptr<ToManySet>> toManySets;
+    std::shared_ptr<const void> lifeline; ///< made when somebody refers to the record weakly
     std::vector<std::shared_ptr<ObserverRegistration>> observers;
 
     ToManySet* toManySet(PropertyIndex index) const noexcept

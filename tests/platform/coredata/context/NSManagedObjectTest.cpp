@@ -1,6 +1,7 @@
 #include "tests/platform/coredata/context/ContextFixture.h"
 
 #include "tarnmodel/platform/foundation/values/NSException.h"
+#include "tarnmodel/platform/foundation/values/WeakReference.h"
 
 namespace tarn {
 namespace {
@@ -46,6 +47,23 @@ TEST_P(Record, KeepsValuesOfEveryTypeThroughASave)
     EXPECT_EQ(found.storedValueForKey("printed"), Value(printed));
     EXPECT_EQ(found.storedValueForKey("stamp"), Value(NSData::fromText(std::string_view("\0\xFF\x80", 3))));
     EXPECT_EQ(found.storedValueForKey("body"), Value(std::string(100000, 'x')));
+}
+
+TEST_P(Record, IsReferredToWeaklyUntilItEnds)
+{
+    NSManagedObject& kept = book("kept");
+    save();
+    const WeakReference<NSManagedObject> toKept(&kept);
+    context_->refreshObject(kept, false);
+    EXPECT_EQ(toKept.get(), &kept);
+    context_->deleteObject(kept);
+    save();
+    EXPECT_EQ(toKept.get(), &kept) << "deleted, but an object still";
+    context_->reset();
+    EXPECT_EQ(toKept.get(), nullptr);
+    const WeakReference<NSManagedObject> toLast(&book("last"));
+    context_.reset();
+    EXPECT_EQ(toLast.get(), nullptr);
 }
 
 TEST_P(Record, ClampsCountsToTheirWidth)
