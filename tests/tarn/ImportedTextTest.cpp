@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cctype>
 #include <fstream>
 #include <map>
 #include <string>
@@ -11,7 +12,11 @@ namespace tarn {
 
 namespace {
 
-using Case = std::map<std::string, std::string>;
+struct Case : std::map<std::string, std::string> { };
+void PrintTo(const Case&, std::ostream* stream)
+{
+    *stream << "a file";
+}
 
 std::string unescaped(std::string_view text)
 {
@@ -47,19 +52,37 @@ std::string textOfDate(const std::optional<NSDate>& date)
     return date ? iso8601String(*date) : "";
 }
 
+std::string nameOfCase(const testing::TestParamInfo<Case>& info)
+{
+    std::string name;
+    bool beginsWord = true;
+    for (const char c : info.param.at("case")) {
+        const bool isPartOfWord = std::isalnum(static_cast<unsigned char>(c)) != 0;
+        if (isPartOfWord)
+            name += beginsWord ? static_cast<char>(std::toupper(static_cast<unsigned char>(c))) : c;
+        beginsWord = !isPartOfWord;
+    }
+    return name;
+}
+
 } // namespace
 
-TEST(ImportedText, IsWhatTheCasesSay)
+class FrontMatter : public testing::TestWithParam<Case> { };
+
+TEST_P(FrontMatter, BecomesWhatTheCaseSays)
 {
-    const std::vector<Case> cases = readCases();
-    ASSERT_GE(cases.size(), 35U);
-    for (Case expected : cases) {
-        SCOPED_TRACE(expected["case"]);
-        const ImportedText imported = importedTextOfFile(expected["file"]);
-        EXPECT_EQ(imported.text, expected["text"]);
-        EXPECT_EQ(textOfDate(imported.creationDate), expected["created"]);
-        EXPECT_EQ(textOfDate(imported.modificationDate), expected["modified"]);
-    }
+    Case expected = GetParam();
+    const ImportedText imported = importedTextOfFile(expected["file"]);
+    EXPECT_EQ(imported.text, expected["text"]);
+    EXPECT_EQ(textOfDate(imported.creationDate), expected["created"]);
+    EXPECT_EQ(textOfDate(imported.modificationDate), expected["modified"]);
+}
+
+INSTANTIATE_TEST_SUITE_P(Imports, FrontMatter, testing::ValuesIn(readCases()), nameOfCase);
+
+TEST(ImportedText, HasManyCases)
+{
+    EXPECT_GE(readCases().size(), 35U);
 }
 
 TEST(ImportedText, TakesAnyBytesOfFrontMatterWithoutLosingTheBody)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -13,6 +14,10 @@ struct PredicateCase {
     bool fails = false;
     std::string expected;
 };
+inline void PrintTo(const PredicateCase& one, std::ostream* stream)
+{
+    *stream << "line " << one.line;
+}
 
 std::vector<PredicateCase> readPredicateCases();
 

@@ -84,17 +84,24 @@ void expectFailure(const PredicateCase& example)
     }
 }
 
-TEST(PredicateFormats, PrintCanonicallyOrFailWhereTheyGoWrong)
+class PredicateFormat : public testing::TestWithParam<PredicateCase> { };
+
+TEST_P(PredicateFormat, PrintsCanonicallyOrFailsWhereItGoesWrong)
 {
-    const std::vector<PredicateCase> cases = readPredicateCases();
-    EXPECT_GE(cases.size(), 250U);
-    for (const PredicateCase& example : cases) {
-        SCOPED_TRACE("line " + std::to_string(example.line) + ": " + example.format);
-        if (example.fails)
-            expectFailure(example);
-        else
-            expectCanonicalForm(example);
-    }
+    const PredicateCase& example = GetParam();
+    SCOPED_TRACE(example.format);
+    if (example.fails)
+        expectFailure(example);
+    else
+        expectCanonicalForm(example);
+}
+
+INSTANTIATE_TEST_SUITE_P(Predicates, PredicateFormat, testing::ValuesIn(readPredicateCases()),
+    [](const testing::TestParamInfo<PredicateCase>& info) { return "Line" + std::to_string(info.param.line); });
+
+TEST(PredicateFormats, AreMany)
+{
+    EXPECT_GE(readPredicateCases().size(), 250U);
 }
 
 // Arguments -----------------------------------------------------------------------------------------------------------

@@ -28,6 +28,10 @@ struct Case {
     std::string search; ///< the plan of a search in texts, with two candidates; empty: no index
     std::vector<std::string> plans;
 };
+void PrintTo(const Case& one, std::ostream* stream)
+{
+    *stream << "line " << one.line;
+}
 
 void setField(Case& one, const std::string& name, const std::string& value)
 {
@@ -119,40 +123,61 @@ std::string afterColumns(const std::string& sql)
     return sql.substr(sql.find(" FROM ") + 1);
 }
 
-TEST(SQLGenerator, MakesTheTextsOfTheCasesAndSQLiteWalksTheNamedIndexes)
-{
-    TestFolder folder;
-    const OpenStore store(StoreType::SQLite, folder.file());
-    ASSERT_TRUE(store) << store.error();
-    const StoreSchema schema(*storeTestModel());
-    const StoreSelects selects(schema, *storeTestModel());
-    SQLiteConnection connection(folder.file(), {});
-    const SQLiteRowReader reader(store->identity(), selects, connection);
-    const auto cases = readCases();
-    EXPECT_GT(cases.size(), 40U);
-    for (const Case& one : cases) {
-        SCOPED_TRACE(fmt::format("sql.cases line {}: {}", one.line, one.predicate));
-        const NSPredicate predicate = NSPredicate::predicateWithFormat(one.predicate);
-        const auto sort = sortOf(one.sort);
-        StoreFetch fetch;
-        fetch.entity = &store.entity(one.entity);
-        fetch.predicate = &predicate;
-        fetch.sortDescriptors = sort;
-        fetch.limit = one.limit;
-        fetch.contents = RowContents::Keys;
-        const SQLGenerator generator = generatorFor(one, selects, store->identity());
-        RowContents contents = RowContents::Keys;
-        const GeneratedSelect select = generator.rows(fetch, contents);
-        EXPECT_EQ(afterColumns(select.text.sql), one.sql);
-        std::string bindings;
-        for (const SQLBinding& binding : select.text.bindings)
-            bindings += (bindings.empty() ? "" : " | ") + describeBinding(binding);
-        EXPECT_EQ(bindings, one.bindings);
-        EXPECT_EQ(select.remainder ? select.remainder->predicateFormat() : "", one.remainder);
-        const std::string explained = SQLiteFetch(fetch, selects, generator, reader, connection).explain();
-        for (const std::string& plan : one.plans)
-            EXPECT_THAT(explained, HasSubstr(plan));
+/// One store for all cases: they only read.
+class SQLOfAFetch : public testing::TestWithParam<Case> {
+protected:
+    struct Shared {
+        TestFolder folder;
+        OpenStore store{StoreType::SQLite, folder.file()};
+        StoreSchema schema{*storeTestModel()};
+        StoreSelects selects{schema, *storeTestModel()};
+        SQLiteConnection connection{folder.file(), {}};
+        SQLiteRowReader reader{store->identity(), selects, connection};
+    };
+    static void SetUpTestSuite() { shared = new Shared; }
+    static void TearDownTestSuite()
+    {
+        delete shared;
+        shared = nullptr;
     }
+    inline static Shared* shared = nullptr;
+};
+
+TEST_P(SQLOfAFetch, IsAsItsCaseSaysAndSQLiteWalksTheNamedIndexes)
+{
+    const Case& one = GetParam();
+    SCOPED_TRACE(fmt::format("sql.cases line {}: {}", one.line, one.predicate));
+    const OpenStore& store = shared->store;
+    ASSERT_TRUE(store) << store.error();
+    const NSPredicate predicate = NSPredicate::predicateWithFormat(one.predicate);
+    const auto sort = sortOf(one.sort);
+    StoreFetch fetch;
+    fetch.entity = &store.entity(one.entity);
+    fetch.predicate = &predicate;
+    fetch.sortDescriptors = sort;
+    fetch.limit = one.limit;
+    fetch.contents = RowContents::Keys;
+    const SQLGenerator generator = generatorFor(one, shared->selects, store->identity());
+    RowContents contents = RowContents::Keys;
+    const GeneratedSelect select = generator.rows(fetch, contents);
+    EXPECT_EQ(afterColumns(select.text.sql), one.sql);
+    std::string bindings;
+    for (const SQLBinding& binding : select.text.bindings)
+        bindings += (bindings.empty() ? "" : " | ") + describeBinding(binding);
+    EXPECT_EQ(bindings, one.bindings);
+    EXPECT_EQ(select.remainder ? select.remainder->predicateFormat() : "", one.remainder);
+    const std::string explained
+        = SQLiteFetch(fetch, shared->selects, generator, shared->reader, shared->connection).explain();
+    for (const std::string& plan : one.plans)
+        EXPECT_THAT(explained, HasSubstr(plan));
+}
+
+INSTANTIATE_TEST_SUITE_P(Cases, SQLOfAFetch, testing::ValuesIn(readCases()),
+    [](const testing::TestParamInfo<Case>& info) { return "Line" + std::to_string(info.param.line); });
+
+TEST(SQLGenerator, HasManyCases)
+{
+    EXPECT_GT(readCases().size(), 40U);
 }
 
 } // namespace
