@@ -86,6 +86,8 @@ bool containsBytes(std::string_view bytes, std::string_view needle) noexcept
 {
     if (needle.empty())
         return true;
+    if (bytes.size() < needle.size())
+        return false; // also where there is no address
     if (needle.size() == 1)
         return bytes.find(needle.front()) != std::string_view::npos;
     if (needle.size() <= kLongestShortNeedle)

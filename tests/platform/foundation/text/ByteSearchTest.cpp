@@ -64,6 +64,8 @@ TEST(ByteSearch, FindsNothingInNothing)
     EXPECT_TRUE(containsBytes("a", ""));
     EXPECT_FALSE(containsBytes("", "a"));
     EXPECT_FALSE(containsBytes("a", "aa"));
+    EXPECT_FALSE(containsBytes({}, "ab")) << "without an address";
+    EXPECT_FALSE(containsBytes({}, std::string(100, 'a')));
     EXPECT_FALSE(containsBytes("a", std::string(100, 'a')));
     EXPECT_TRUE(containsBytes(std::string_view("a\0b", 3), std::string_view("\0b", 2)));
 }
