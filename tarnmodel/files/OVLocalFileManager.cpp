@@ -13,6 +13,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::string_view kPersistentDataFolder = "Application Data";
+constexpr std::string_view kDatabase = "database.sqlite";
 
 struct Settings {
     std::mutex mutex;
@@ -56,6 +57,16 @@ fs::path OVLocalFileManager::applicationPersistentDataURL()
     fs::path folder = applicationGroupURL() / kPersistentDataFolder;
     createPrivateFolder(folder);
     return folder;
+}
+
+fs::path OVLocalFileManager::databaseURL()
+{
+    return applicationPersistentDataURL() / kDatabase;
+}
+
+fs::path OVLocalFileManager::databaseURLInGroupFolder(const fs::path& folder)
+{
+    return folder / kPersistentDataFolder / kDatabase;
 }
 
 fs::path OVLocalFileManager::applicationSupportURL()

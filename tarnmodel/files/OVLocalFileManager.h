@@ -42,6 +42,10 @@ public:
     /// "Application Data" in the group folder, made when it is missing (a failure is ignored); or the folder of
     /// `setApplicationPersistentDataTestURL`, as it is.
     static std::filesystem::path applicationPersistentDataURL();
+    /// The store in that folder.
+    static std::filesystem::path databaseURL();
+    /// The store of a group folder, which need not be the one that is set. Makes nothing.
+    static std::filesystem::path databaseURLInGroupFolder(const std::filesystem::path& folder);
     /// The folder of the application's own, made when it is missing (a failure is ignored).
     static std::filesystem::path applicationSupportURL();
 

@@ -29,8 +29,7 @@ public:
     /// Whether the record is of one of these classes, or of one derived from it, and has a unique identifier.
     static bool isObjectSyncable(const NSManagedObject& record);
 
-    // Recording (tarnmodel/sync/OVChange.cpp)
-    // -----------------------------------------------------------------------------------
+    // Recording (tarnmodel/sync/OVChange.cpp) ------------------------------------------------------------------------
     /// The change with the greatest order; null when the log is empty.
     static OVChange* latestChangeInManagedObjectContext(NSManagedObjectContext& context);
     /// The change that the token names; null when the log does not hold it (any more).
@@ -51,8 +50,7 @@ public:
     /// Deletes the items of this change that name one of the records: what has been dealt with.
     void removeChangeItemsWithUniqueIdentifiers(std::span<const std::string> uniqueIdentifiers);
 
-    // Shortening the log (tarnmodel/sync/OVChange+Baseline.cpp)
-    // -----------------------------------------------------------------
+    // Shortening the log (tarnmodel/sync/OVChange+Baseline.cpp) ------------------------------------------------------
     /// Folds the whole log into one new change of order 0 with all items that name a record; other tokens are unknown
     /// from then on. With `shouldCreateInitialBaseline` an empty log begins with every stored record. Null, and
     /// nothing has changed, when the log could not be read.
@@ -66,10 +64,9 @@ public:
     /// Deletes the changes of a lower order with their items; none when `change` is null.
     static void deleteChangesBeforeChange(const OVChange* change, NSManagedObjectContext& context);
 
-    // Reading the log (tarnmodel/sync/OVChange+Queries.cpp)
-    // --------------------------------------------------------------------- A deletion wins over updates within the
-    // range asked for: the record is then named by `deletedUIDs` alone. `deletedUIDs` is replaced unless it is null. A
-    // null `change` stands before the first one.
+    // Reading the log (tarnmodel/sync/OVChange+Queries.cpp) ----------------------------------------------------------
+    // A deletion wins over updates within the range asked for: the record is then named by `deletedUIDs` alone.
+    // `deletedUIDs` is replaced unless it is null. A null `change` stands before the first one.
 
     /// The items of all changes after `change`.
     static std::vector<OVChangeItem*> changeItemsSinceChange(const OVChange* change, NSManagedObjectContext& context);

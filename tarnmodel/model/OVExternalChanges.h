@@ -24,8 +24,7 @@ public:
     static constexpr std::uint32_t updated = 1;
     static constexpr std::uint32_t deleted = 2;
 
-    // Recording (tarnmodel/sync/OVExternalChanges.cpp)
-    // --------------------------------------------------------------------------
+    // Recording (tarnmodel/sync/OVExternalChanges.cpp) ---------------------------------------------------------------
     /// News of this record, in the record's own context. It names the identifier that the record has now: a temporary
     /// one means nothing to other processes.
     static OVExternalChanges* newExternalChangeForModelObject(const NSManagedObject& record, std::uint32_t changeType);

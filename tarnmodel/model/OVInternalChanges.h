@@ -17,8 +17,7 @@ class OVInternalChanges : public _OVInternalChanges {
 public:
     using _OVInternalChanges::_OVInternalChanges;
 
-    // All in tarnmodel/sync/OVInternalChanges.cpp
-    // -------------------------------------------------------------------------------
+    // All in tarnmodel/sync/OVInternalChanges.cpp --------------------------------------------------------------------
     /// A new entry of the *internal* queue `changeType`, whatever the name says, in the record's own context. It names
     /// the identifier that the record has now: ask for a permanent one before, if the entry is to last.
     static OVInternalChanges* newExternalChangeForChangeType(

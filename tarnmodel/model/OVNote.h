@@ -42,11 +42,13 @@ public:
     /// A new note without text, with an identifier; made and modified at one and the same time.
     static OVNote* insertInManagedObjectContext(NSManagedObjectContext& context);
 
-    // Fetching (tarnmodel/notes/OVNote+Fetching.cpp)
-    // -------------------------------------------------------------------------- Lists are in no order but the store's
-    // unless it is named; the standard order is pinned notes first, then the latest modified. Titles are compared
-    // without case and diacritics. A failed fetch is logged and gives an empty list or null.
+    // Fetching (tarnmodel/notes/OVNote+Fetching.cpp) -----------------------------------------------------------------
+    // Lists are in no order but the store's unless it is named; the standard order is pinned notes first, then the
+    // latest modified. Titles are compared without case and diacritics. A failed fetch is logged and gives an empty
+    // list or null.
 
+    /// The standard order.
+    static const std::vector<NSSortDescriptor>& standardSortDescriptors();
     /// The notes that the predicate finds; all without one.
     static std::vector<OVNote*> notesInManagedObjectContext(
         NSManagedObjectContext& context, const std::optional<NSPredicate>& predicate);
@@ -92,10 +94,9 @@ public:
     static OVNote* untrashedNoteWithTitle(std::string_view title, NSManagedObjectContext& context);
     static OVNote* untrashedNoteWithTitleOrUUID(std::string_view titleOrUUID, NSManagedObjectContext& context);
 
-    // Text (tarnmodel/notes/OVNote+Parsing.cpp)
-    // ------------------------------------------------------------------------------- All raise "Invalid accessor"
-    // while the note is locked, and `NSInvalidArgumentException` for a text of more than 512 MiB; then nothing has
-    // changed. Ill-formed UTF-8 becomes U+FFFD.
+    // Text (tarnmodel/notes/OVNote+Parsing.cpp) ----------------------------------------------------------------------
+    // All raise "Invalid accessor" while the note is locked, and `NSInvalidArgumentException` for a text of more than
+    // 512 MiB; then nothing has changed. Ill-formed UTF-8 becomes U+FFFD.
 
     /// A new note with this text.
     static OVNote* noteWithText(std::string_view text, NSManagedObjectContext& context);
@@ -116,8 +117,7 @@ public:
     /// Marks attachments used or unused by the links of the text, and numbers the used ones by their first link.
     void updateFilesFromTextSummary(const CVKTextSummary& summary);
 
-    // When others save too (tarnmodel/notes/OVNote+Merging.cpp)
-    // ---------------------------------------------------------------
+    // When others save too (tarnmodel/notes/OVNote+Merging.cpp) ------------------------------------------------------
     /// A merge decided what the text is: what follows from it follows from the text that won. The clock does not
     /// advance. Where the losing side had only renamed, added or removed a tag or renamed a linked note, that is done
     /// again to the text that won.
@@ -129,8 +129,8 @@ public:
     /// unsaved.
     static OVNote* keepLosingText(const MergeConflict& conflict);
 
-    // Text editing (tarnmodel/notes/OVNote+TextEditing.cpp)
-    // ------------------------------------------------------------------- They end in `updateNoteWithText`.
+    // Text editing (tarnmodel/notes/OVNote+TextEditing.cpp) ----------------------------------------------------------
+    // They end in `updateNoteWithText`.
 
     /// Puts the text below a first line that begins with "# ", else in front.
     void prependNoteWithText(std::string_view addition);
@@ -142,8 +142,7 @@ public:
     /// line feed.
     void replaceNoteWithText(std::string_view replacement);
 
-    // Copies (tarnmodel/notes/OVNote+Copying.cpp)
-    // -----------------------------------------------------------------------------
+    // Copies (tarnmodel/notes/OVNote+Copying.cpp) --------------------------------------------------------------------
     /// A new note of the texts of all, a blank line between them, with their attachments; the notes go to the trash. It
     /// is pinned when all were. Null, and nothing changes, for fewer than two notes. Raises "Invalid accessor", and
     /// nothing has changed, when one of them is locked.
@@ -152,8 +151,7 @@ public:
     /// place of this note's identifier in the text. It counts as made when it was modified.
     OVNote* duplicate() const;
 
-    // Guarded text (tarnmodel/notes/OVNote+Encryption.cpp)
-    // --------------------------------------------------------------------
+    // Guarded text (tarnmodel/notes/OVNote+Encryption.cpp) -----------------------------------------------------------
     /// The text; through the encryption manager of the context when the note is protected and there is one. None when
     /// there is no text or the manager fails. Raises "Invalid accessor" while the note is locked.
     std::optional<std::string> text() const override;
@@ -176,9 +174,8 @@ public:
     /// What a note hands over when it is shared: its text. Raises "Invalid accessor" while the note is locked.
     std::vector<std::string> activityItems() const;
 
-    // State (tarnmodel/notes/OVNote+State.cpp)
-    // -------------------------------------------------------------------------------------- Whoever sets a state sets
-    // its companion date to now, also when nothing changes.
+    // State (tarnmodel/notes/OVNote+State.cpp) -----------------------------------------------------------------------
+    // Whoever sets a state sets its companion date to now, also when nothing changes.
 
     /// Whether it has an identifier that stays.
     bool isPersistent() const;
@@ -219,8 +216,7 @@ public:
     std::vector<OVNote*> linkedNotes() const;
     std::vector<OVNote*> linkedByNotes() const;
 
-    // Wiki links (tarnmodel/notes/OVNote+WikiLinks.cpp)
-    // -----------------------------------------------------------------------
+    // Wiki links (tarnmodel/notes/OVNote+WikiLinks.cpp) --------------------------------------------------------------
     /// Brings the records of this note's links in step with the links of its text. A record stays where its link stands
     /// at the same offset with the same title and its target still has that title; each other link is looked up anew:
     /// of several notes with its title an untrashed one counts first, then the one made first. A link that finds no
@@ -235,8 +231,8 @@ public:
     /// there would come to a note twice. Adds the notes that it comes to to `parentLinkedBy`; null: none yet.
     bool canReplaceWikiLinkWithTitle(std::string_view title, VisitedNotes* parentLinkedBy = nullptr);
 
-    // Links from outside (tarnmodel/notes/OVNote+XCallbackURL.cpp)
-    // ------------------------------------------------------------ Percent-encoded URLs of the application.
+    // Links from outside (tarnmodel/notes/OVNote+XCallbackURL.cpp) ---------------------------------------------------
+    // Percent-encoded URLs of the application.
     std::string openNoteXCallbackURLString() const;
     std::string openNoteWithTitleXCallbackURLString() const;
     std::string openNoteInNewWindowXCallbackURLString() const;
@@ -245,10 +241,9 @@ public:
     /// The link with a heading added to it.
     static std::string appendHeader(std::string_view header, std::string_view noteLink);
 
-    // Conflicted copies (tarnmodel/notes/OVNote+Conflict.cpp)
-    // ----------------------------------------------------------------- Versions of one note that are kept side by side
-    // form a group. A member holds the identifier of the note that the group is rooted at, a slash, and the time at
-    // which it was stamped: seconds since 1970 with six decimals.
+    // Conflicted copies (tarnmodel/notes/OVNote+Conflict.cpp) --------------------------------------------------------
+    // Versions of one note that are kept side by side form a group. A member holds the identifier of the note that
+    // the group is rooted at, a slash, and the time at which it was stamped: seconds since 1970 with six decimals.
 
     /// The members of a group, the latest stamped first. A failed fetch is logged and gives an empty list.
     static std::vector<OVNote*> conflictedNotesForUniqueIdentifier(
@@ -267,8 +262,7 @@ public:
     /// Leaves its group: one that is left alone is no group any more, of several the latest stamped becomes the root.
     void unmarkAsConflicted();
 
-    // Vector clock (tarnmodel/sync/OVNote+VectorClock.cpp)
-    // --------------------------------------------------------------------
+    // Vector clock (tarnmodel/sync/OVNote+VectorClock.cpp) -----------------------------------------------------------
     /// The counts of edits; an empty clock when there are none yet, none when the stored bytes are damaged.
     std::optional<TolVectorClock> noteVectorClock() const;
     /// Counts one edit of this device; a damaged clock is replaced. Nothing changes when the device is unknown.
@@ -276,8 +270,7 @@ public:
     /// Takes the higher count of both for every device; a damaged clock is replaced.
     void mergeVectorClockWithClock(const TolVectorClock& clock);
 
-    // Tags (tarnmodel/tags/OVNote+Tags.cpp)
-    // -----------------------------------------------------------------------------------
+    // Tags (tarnmodel/tags/OVNote+Tags.cpp) --------------------------------------------------------------------------
     /// The titles of its tags, in the order of the set.
     std::vector<std::string> tagsStrings() const;
     /// Gives the note exactly the tags of these names, which are made where they are missing; others stay as records.
@@ -287,8 +280,7 @@ public:
     OVNoteTag* tagForName(std::string_view name) const;
     bool hasTag(std::string_view name) const;
 
-    // Attachments (tarnmodel/files/OVNote+Attachments.cpp)
-    // --------------------------------------------------------------------
+    // Attachments (tarnmodel/files/OVNote+Attachments.cpp) -----------------------------------------------------------
     /// Whether the text refers to any.
     bool hasAttachments() const;
     /// Those that the text refers to, in the order of its links.

@@ -19,8 +19,7 @@ public:
     /// A link whose note was deleted while others made it stands in no text: it goes.
     void deriveFromOthers() override;
 
-    // Fetching (tarnmodel/notes/OVNoteBackLink+Fetching.cpp)
-    // -------------------------------------------------------------------
+    // Fetching (tarnmodel/notes/OVNoteBackLink+Fetching.cpp) ---------------------------------------------------------
     /// The links that the predicate finds; all without one. A failed fetch is logged and gives an empty list.
     static std::vector<OVNoteBackLink*> backlinksInManagedObjectContext(
         NSManagedObjectContext& context, const std::optional<NSPredicate>& predicate);

@@ -16,8 +16,7 @@ class OVNoteFile : public _OVNoteFile, public OVEncryptableNoteFile {
 public:
     using _OVNoteFile::_OVNoteFile;
 
-    // Use (tarnmodel/files/OVNoteFile+State.cpp)
-    // -------------------------------------------------------------------------------------
+    // Use (tarnmodel/files/OVNoteFile+State.cpp) ---------------------------------------------------------------------
     using _OVNoteFile::setUnused;
     /// Marks it as named by no text, with the date of now; nothing when it is so already.
     void setUnused();
@@ -30,23 +29,21 @@ public:
     /// equal to none.
     bool filenameIsEqualTo(std::string_view filename) const;
 
-    // Import (tarnmodel/files/OVNoteFile+Import.cpp)
-    // ---------------------------------------------------------------------------
+    // Import (tarnmodel/files/OVNoteFile+Import.cpp) -----------------------------------------------------------------
     /// The attachment of `note` made from a file, or the unused one that holds the same. Null and an error when it
     /// cannot be attached; this version cannot attach files yet.
     static OVNoteFile* getOrCreateFileFromURL(const std::filesystem::path& url, OVNote& note, NSError* error);
 
-    // Copies (tarnmodel/files/OVNoteFile+Copying.cpp)
-    // --------------------------------------------------------------------------
+    // Copies (tarnmodel/files/OVNoteFile+Copying.cpp) ----------------------------------------------------------------
     /// A new random identifier.
     void updateUniqueIdentifier();
     /// A new record like this one, with an identifier of its own, not uploaded yet, and of no note.
     OVNoteFile* duplicate() const;
 
-    // Protection (tarnmodel/files/OVNoteFile+Encryption.cpp)
-    // ------------------------------------------------------------------- Of an encrypted attachment these read and
-    // write through the encryption manager, and raise "Invalid accessor" when it says that the attachment is locked.
-    // Without a manager, or without encryption, they read and write what is stored.
+    // Protection (tarnmodel/files/OVNoteFile+Encryption.cpp) ---------------------------------------------------------
+    // Of an encrypted attachment these read and write through the encryption manager, and raise "Invalid accessor" when
+    // it says that the attachment is locked. Without a manager, or without encryption, they read and write what is
+    // stored.
     std::optional<std::string> filename() const override;
     void setFilename(std::optional<std::string_view> filename) override;
     std::optional<std::string> normalizedFileExtension() const override;

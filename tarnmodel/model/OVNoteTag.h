@@ -23,10 +23,9 @@ public:
     /// A new tag without title, with an identifier and a modification date.
     static OVNoteTag* insertInManagedObjectContext(NSManagedObjectContext& context);
 
-    // Finding (tarnmodel/tags/OVNoteTag+Fetching.cpp)
-    // ------------------------------------------------------------------------- The standard order is by title as
-    // people sort them: by locale, without case, digits by value. A failed fetch is logged and gives an empty list,
-    // null or none.
+    // Finding (tarnmodel/tags/OVNoteTag+Fetching.cpp) ----------------------------------------------------------------
+    // The standard order is by title as people sort them: by locale, without case, digits by value. A failed fetch is
+    // logged and gives an empty list, null or none.
 
     /// The tags that the predicate finds (all without one), in the standard order.
     static std::vector<OVNoteTag*> notesTagsInManagedObjectContext(
@@ -43,8 +42,7 @@ public:
     /// The first tag whose whole title is `name`, compared without case and diacritics; null when there is none.
     static OVNoteTag* tagWithName(std::string_view name, NSManagedObjectContext& context);
 
-    // Making and removing (tarnmodel/tags/OVNoteTag+Creation.cpp)
-    // -------------------------------------------------------------
+    // Making and removing (tarnmodel/tags/OVNoteTag+Creation.cpp) ----------------------------------------------------
     /// Inserts a tag with the sanitized name as its title; null, and nothing is made, for an unusable name. Does not
     /// look whether there is one already.
     static OVNoteTag* addNewTagWithName(std::string_view name, NSManagedObjectContext& context);
@@ -62,8 +60,7 @@ public:
     /// Others may have saved a tag of this name meanwhile: a new one gives way to it, with its notes.
     void deriveFromOthers() override;
 
-    // Names and hierarchy (tarnmodel/tags/OVNoteTag+Hierarchy.cpp)
-    // ------------------------------------------------------------
+    // Names and hierarchy (tarnmodel/tags/OVNoteTag+Hierarchy.cpp) ---------------------------------------------------
     /// The parts of the title between slashes; empty without a title.
     std::vector<std::string> tagComponents() const;
     /// The same, folded. Computed once: it does not follow a later change of the title.
@@ -98,8 +95,7 @@ public:
     std::vector<OVNoteTag*> childTagsWithSortDescriptors(
         const std::vector<NSSortDescriptor>& sortDescriptors = {}) const;
 
-    // The notes of a tag (tarnmodel/tags/OVNoteTag+Fetching.cpp)
-    // --------------------------------------------------------------
+    // The notes of a tag (tarnmodel/tags/OVNoteTag+Fetching.cpp) -----------------------------------------------------
     /// Finds this tag's notes that are neither trashed nor archived, those of the tags below it included. Names this
     /// record: use it while that lives.
     NSPredicate untrashedNotesPredicate() const;
@@ -110,9 +106,9 @@ public:
     /// The notes that `untrashedNotesPredicate` finds. A failed fetch is logged and gives an empty list.
     std::vector<OVNote*> activeNotesWithSortDescriptors(const std::vector<NSSortDescriptor>& sortDescriptors) const;
 
-    // Changing the tag in texts (tarnmodel/tags/OVNoteTag+Rewriting.cpp, tarnmodel/tags/OVNoteTag+Renaming.cpp)
-    // ------------------------- Texts are rewritten without touching modification dates. Each raises "Invalid
-    // accessor", and nothing has changed, when one of the notes is locked.
+    // Changing the tag in texts (tags/OVNoteTag+Rewriting.cpp, tags/OVNoteTag+Renaming.cpp) --------------------------
+    // Texts are rewritten without touching modification dates. Each raises "Invalid accessor", and nothing has changed,
+    // when one of the notes is locked.
 
     /// Adds the hashtag to notes that do not carry the tag: at the bottom, or below the title.
     void addTagToNotes(const std::vector<OVNote*>& notes, bool bottom);
@@ -126,13 +122,11 @@ public:
     OVNoteTag* renameTagWithTagNamed(std::string_view newName);
     OVNoteTag* renameTagWithTagNamed(std::string_view newName, const std::vector<OVNote*>& notes);
 
-    // Links from outside (tarnmodel/tags/OVNoteTag+XCallbackURL.cpp)
-    // ----------------------------------------------------------
+    // Links from outside (tarnmodel/tags/OVNoteTag+XCallbackURL.cpp) -------------------------------------------------
     /// A percent-encoded URL of the application that shows the tag.
     std::string openTagXCallbackURLString() const;
 
-    // State (tarnmodel/tags/OVNoteTag+State.cpp)
-    // ------------------------------------------------------------------------------------
+    // State (tarnmodel/tags/OVNoteTag+State.cpp) ---------------------------------------------------------------------
     /// Sets the modification date to now.
     void updateModificationDate();
     // Both set the date of the pin to now, also when nothing changes.

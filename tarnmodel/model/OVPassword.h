@@ -13,8 +13,7 @@ class OVPassword : public _OVPassword, public OVEncryptingPassword {
 public:
     using _OVPassword::_OVPassword;
 
-    // All in tarnmodel/backup/OVPassword.cpp
-    // -----------------------------------------------------------------------------------
+    // All in tarnmodel/backup/OVPassword.cpp -------------------------------------------------------------------------
     /// A new record with its identifier, the date of now and the name of this device. Nothing else is set: the
     /// encryption manager fills it.
     static OVPassword* insertInManagedObjectContext(NSManagedObjectContext& context);

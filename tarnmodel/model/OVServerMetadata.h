@@ -19,8 +19,7 @@ class OVServerMetadata : public _OVServerMetadata {
 public:
     using _OVServerMetadata::_OVServerMetadata;
 
-    // All in tarnmodel/sync/OVServerMetadata.cpp
-    // --------------------------------------------------------------------------------
+    // All in tarnmodel/sync/OVServerMetadata.cpp ---------------------------------------------------------------------
     /// The record of the store, the last should there be several; inserted when there is none or the fetch fails.
     static OVServerMetadata* serverMetadataInManagedObjectContext(NSManagedObjectContext& context);
     /// Forgets the token: the next fetch of server changes starts from the beginning.

@@ -12,13 +12,6 @@ namespace {
 using Strings = std::vector<std::string>;
 using SortDescriptors = std::vector<NSSortDescriptor>;
 
-/// Pinned notes first, then the latest modified.
-const SortDescriptors& standardNoteOrder()
-{
-    static const SortDescriptors order{{"pinned", false}, {"modificationDate", false}};
-    return order;
-}
-
 std::vector<OVNote*> fetchNotes(const std::optional<NSPredicate>& predicate, const SortDescriptors& sortDescriptors,
     NSManagedObjectContext& context, std::size_t fetchLimit = 0)
 {
@@ -45,6 +38,12 @@ Value::Array boxed(const Strings& strings)
 }
 
 } // namespace
+
+const SortDescriptors& OVNote::standardSortDescriptors()
+{
+    static const SortDescriptors order{{"pinned", false}, {"modificationDate", false}};
+    return order;
+}
 
 // Lists -------------------------------------------------------------------------------------------------------------
 
@@ -91,7 +90,7 @@ std::vector<OVNote*> OVNote::watchNotesInManagedObjectContext(NSManagedObjectCon
         "trashed == NO AND encrypted == NO AND archived == NO AND "
         "((title != nil AND title != '') OR (subtitle != nil AND subtitle != '')) AND "
         "(SUBQUERY(files, $file, $file.encrypted == YES).@count == 0)");
-    return fetchNotes(readable, standardNoteOrder(), context, maximumCount);
+    return fetchNotes(readable, standardSortDescriptors(), context, maximumCount);
 }
 
 // By tag and identifier ---------------------------------------------------------------------------------------------
@@ -133,7 +132,8 @@ void OVNote::deleteNotesWithUniqueIdentifiers(const Strings& uniqueIdentifiers, 
 
 std::vector<OVNote*> OVNote::notesWithTitle(std::string_view title, NSManagedObjectContext& context)
 {
-    return fetchNotes(NSPredicate::predicateWithFormat("title ==[cd] %@", title), standardNoteOrder(), context);
+    return fetchNotes(
+        NSPredicate::predicateWithFormat("title ==[cd] %@", title), OVNote::standardSortDescriptors(), context);
 }
 
 OVNote* OVNote::noteWithTitle(std::string_view title, NSManagedObjectContext& context)
@@ -145,7 +145,7 @@ std::vector<OVNote*> OVNote::notesWithTitleOrUUID(std::string_view titleOrUUID, 
 {
     const auto named
         = NSPredicate::predicateWithFormat("title ==[cd] %@ OR uniqueIdentifier== %@", titleOrUUID, titleOrUUID);
-    return fetchNotes(named, standardNoteOrder(), context);
+    return fetchNotes(named, standardSortDescriptors(), context);
 }
 
 OVNote* OVNote::noteWithTitleOrUUID(std::string_view titleOrUUID, NSManagedObjectContext& context)
@@ -155,7 +155,7 @@ OVNote* OVNote::noteWithTitleOrUUID(std::string_view titleOrUUID, NSManagedObjec
 
 std::vector<OVNote*> OVNote::notesWithTitlesOrUUIDs(const Strings& titlesOrUUIDs, NSManagedObjectContext& context)
 {
-    return notesWithTitlesOrUUIDs(titlesOrUUIDs, standardNoteOrder(), context);
+    return notesWithTitlesOrUUIDs(titlesOrUUIDs, standardSortDescriptors(), context);
 }
 
 std::vector<OVNote*> OVNote::notesWithTitlesOrUUIDs(
@@ -167,14 +167,14 @@ std::vector<OVNote*> OVNote::notesWithTitlesOrUUIDs(
 OVNote* OVNote::untrashedNoteWithTitle(std::string_view title, NSManagedObjectContext& context)
 {
     const auto named = NSPredicate::predicateWithFormat("title ==[cd] %@ AND trashed == NO", title);
-    return firstOf(fetchNotes(named, standardNoteOrder(), context));
+    return firstOf(fetchNotes(named, standardSortDescriptors(), context));
 }
 
 OVNote* OVNote::untrashedNoteWithTitleOrUUID(std::string_view titleOrUUID, NSManagedObjectContext& context)
 {
     const auto named = NSPredicate::predicateWithFormat(
         "(title ==[cd] %@ OR uniqueIdentifier == %@) AND trashed == NO", titleOrUUID, titleOrUUID);
-    return firstOf(fetchNotes(named, standardNoteOrder(), context));
+    return firstOf(fetchNotes(named, standardSortDescriptors(), context));
 }
 
 // Protection --------------------------------------------------------------------------------------------------------

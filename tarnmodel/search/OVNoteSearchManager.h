@@ -29,8 +29,7 @@ class OVNoteSearchManager {
 public:
     OVNoteSearchManager() = delete;
 
-    // Compiling (tarnmodel/search/OVNoteSearchManager.cpp)
-    // --------------------------------------------------------------------
+    // Compiling (tarnmodel/search/OVNoteSearchManager.cpp) -----------------------------------------------------------
 
     /// The notes that the string asks for. None when it asks for nothing: an empty string, or switches and "or" alone.
     /// Dates are those of the present; a predicate with dates goes stale at midnight. Raises the predicate parser's
@@ -47,9 +46,8 @@ public:
     /// "or", the word between alternatives.
     static std::string_view orConjunction() noexcept { return "or"; }
 
-    // Special terms (tarnmodel/search/OVNoteSearchManager+SpecialSearches.cpp)
-    // ------------------------------------------------ Words are taken as they are: letter case counts, a "-" in front
-    // is part of the word.
+    // Special terms (tarnmodel/search/OVNoteSearchManager+SpecialSearches.cpp) ---------------------------------------
+    // Words are taken as they are: letter case counts, a "-" in front is part of the word.
 
     /// The English spelling of the term that the word is in any language, or begins with where the term takes an
     /// argument; none for other words.
@@ -69,9 +67,9 @@ public:
     /// The other words: without such terms, negated words and "or".
     static std::string searchStringWithoutSpecialSearches(std::string_view searchString);
 
-    // Dates (tarnmodel/search/OVNoteSearchManager+DateParsing.cpp)
-    // ------------------------------------------------------------ In the Gregorian calendar and the zone of
-    // `Environment`. Results that are not asked for are null; what cannot be read leaves the others as they are.
+    // Dates (tarnmodel/search/OVNoteSearchManager+DateParsing.cpp) ---------------------------------------------------
+    // In the Gregorian calendar and the zone of `Environment`. Results that are not asked for are null; what cannot
+    // be read leaves the others as they are.
 
     /// 00:00:00 and 23:59:59 of the date's day.
     static void endAndBeginOfDayDatesFromDate(
@@ -96,9 +94,9 @@ public:
     /// For 20210315.
     static DateFormatter ov_noSeparatorsDateFormatter();
 
-    // Highlighting (tarnmodel/search/OVNoteSearchManager+Highlighting.cpp)
-    // ---------------------------------------------------- What an open note shows of the search: words, phrases and
-    // tags that are not negated. Neither cleaned nor brought to lower case first.
+    // Highlighting (tarnmodel/search/OVNoteSearchManager+Highlighting.cpp) -------------------------------------------
+    // What an open note shows of the search: words, phrases and tags that are not negated. Neither cleaned nor
+    // brought to lower case first.
 
     /// An alternation of one group each: phrases, then tags, then words. Empty when there is nothing to highlight. Sets
     /// `titleSearch` or `ocrSearch`, where given, when the string holds "@title" or "@ocr"; never clears them.

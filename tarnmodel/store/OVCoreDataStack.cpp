@@ -13,7 +13,6 @@ namespace tarn {
 
 namespace {
 
-constexpr std::string_view kStoreFileName = "database.sqlite";
 constexpr long kNeedsMigrationCode = 1;
 constexpr int kMostSavesBeforeAWrite = 3;
 constexpr std::string_view kNeedsMigration = "The database need migration, open the main application";
@@ -282,7 +281,7 @@ std::optional<std::filesystem::path> OVCoreDataStack::managedObjectModelURL() co
 
 std::filesystem::path OVCoreDataStack::persistentStoreURL() const
 {
-    return OVLocalFileManager::applicationPersistentDataURL() / kStoreFileName;
+    return OVLocalFileManager::databaseURL();
 }
 
 StoreOptions OVCoreDataStack::persistentStoreOptions() const

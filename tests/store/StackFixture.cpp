@@ -14,8 +14,7 @@ namespace tarn {
 
 namespace fs = std::filesystem;
 
-// What it hears
-// ---------------------------------------------------------------------------------------------------------
+// What it hears ------------------------------------------------------------------------------------------------------
 
 namespace {
 
@@ -79,8 +78,7 @@ void StackListener::coreDataStackDidMergeConflict(OVCoreDataStack&, const MergeC
     events.push_back(event);
 }
 
-// The folder
-// ------------------------------------------------------------------------------------------------------------
+// The folder ---------------------------------------------------------------------------------------------------------
 
 StackFixture::StackFixture()
     : folder_(fs::temp_directory_path() / ("tarn stäck " + newUUIDString())),

@@ -60,7 +60,7 @@ std::string planOf(StoreSession& session, const NSPredicate& predicate, std::siz
 {
     NSFetchRequest request(OVNote::entityInManagedObjectContext(session.context()));
     request.predicate = predicate;
-    request.sortDescriptors = standardNoteOrder();
+    request.sortDescriptors = OVNote::standardSortDescriptors();
     request.fetchLimit = limit;
     const std::string plan = session.context().explain(request);
     return std::string(trimmed(plan)); // its lines end with a line feed, also the last one

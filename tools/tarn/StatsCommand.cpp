@@ -1,3 +1,4 @@
+#include "tarnmodel/files/OVLocalFileManager.h"
 #include "tarnmodel/model/OVNoteFile.h"
 #include "tools/tarn/CommandLine.h"
 #include "tools/tarn/Commands.h"
@@ -41,7 +42,8 @@ struct Statistic {
 std::uintmax_t databaseBytes(StoreSession& session)
 {
     std::error_code error;
-    const std::uintmax_t bytes = std::filesystem::file_size(databaseInStoreFolder(session.folder()), error);
+    const std::uintmax_t bytes
+        = std::filesystem::file_size(OVLocalFileManager::databaseURLInGroupFolder(session.folder()), error);
     return error ? 0 : bytes;
 }
 

@@ -31,18 +31,8 @@ fs::path storeFolderOf(const Invocation& invocation)
     return OVLocalFileManager::applicationGroupURL();
 }
 
-fs::path databaseInStoreFolder(const fs::path& folder)
-{
-    return folder / "Application Data" / "database.sqlite";
-}
-
-std::vector<NSSortDescriptor> standardNoteOrder()
-{
-    return {{.key = "pinned", .ascending = false}, {.key = "modificationDate", .ascending = false}};
-}
-
 StoreSession::StoreSession(const Invocation& invocation, Access access)
-    : folder_(storeFolderOf(invocation)), database_(databaseInStoreFolder(folder_))
+    : folder_(storeFolderOf(invocation)), database_(OVLocalFileManager::databaseURLInGroupFolder(folder_))
 {
     if (access == Access::Write) {
         const fs::path folder = fs::absolute(database_.parent_path());
@@ -126,7 +116,7 @@ std::vector<OVNote*> StoreSession::notes(const std::optional<NSPredicate>& predi
 {
     NSFetchRequest request(OVNote::entityInManagedObjectContext(*context_));
     request.predicate = predicate;
-    request.sortDescriptors = standardNoteOrder();
+    request.sortDescriptors = OVNote::standardSortDescriptors();
     request.fetchLimit = limit;
     return records<OVNote>(request);
 }

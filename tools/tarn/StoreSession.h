@@ -24,9 +24,6 @@ namespace tarn {
 
 /// The folder of the store: --store, else $TARN_STORE, else "tarn" in the XDG data folder.
 std::filesystem::path storeFolderOf(const Invocation& invocation);
-/// The database in a store's folder.
-std::filesystem::path databaseInStoreFolder(const std::filesystem::path& folder);
-
 /// One command's way to the store: opened (and made, by a command that writes) by the constructor, closed by the
 /// destructor.
 ///
@@ -90,8 +87,5 @@ private:
     std::unique_ptr<NSManagedObjectContext> context_;
     NSNotificationSubscription changeLog_; ///< writes what a save writes into the log, in the same transaction
 };
-
-/// The standard order of notes.
-std::vector<NSSortDescriptor> standardNoteOrder();
 
 } // namespace tarn
