@@ -1,6 +1,4 @@
-#include "tests/platform/coredata/context/ContextFixture.h"
-
-#include "tarnmodel/platform/foundation/system/Log.h"
+#include "tests/platform/coredata/context/ConflictFixture.h"
 
 #include <array>
 #include <set>
@@ -73,19 +71,8 @@ Outcome expected(unsigned mine, unsigned theirs, Way way)
     return outcome;
 }
 
-class MergeTable : public ContextTest {
+class MergeTable : public ConflictTest {
 protected:
-    void SetUp() override
-    {
-        ContextTest::SetUp();
-        former_ = setLogSink([](std::string_view) {});
-    }
-    void TearDown() override
-    {
-        setLogSink(former_);
-        ContextTest::TearDown();
-    }
-
     static void change(NSManagedObject& book, unsigned what, std::string_view side)
     {
         NSManagedObjectContext& context = book.managedObjectContext();
@@ -119,9 +106,6 @@ protected:
     }
 
     void meet(unsigned mine, unsigned theirs, Way way, bool isRead);
-
-private:
-    LogSink former_;
 };
 INSTANTIATE_TEST_SUITE_P(Stores, MergeTable, testing::Values(StoreType::SQLite, StoreType::InMemory), storeTypeName);
 

@@ -1,42 +1,11 @@
 // What another writer saved meets ends of relationships that are unsaved here, and records that are gone by then.
 
-#include "tests/platform/coredata/context/ContextFixture.h"
-
-#include "tarnmodel/platform/foundation/system/Log.h"
+#include "tests/platform/coredata/context/ConflictFixture.h"
 
 namespace tarn {
 namespace {
 
-class RemoteNews : public ContextTest {
-protected:
-    void SetUp() override
-    {
-        ContextTest::SetUp();
-        former_ = setLogSink([](std::string_view) {}); // what gives way is logged
-    }
-    void TearDown() override
-    {
-        setLogSink(former_);
-        ContextTest::TearDown();
-    }
-
-    /// Another writer changes what is stored, and saves.
-    template <typename Change> void elsewhere(const NSManagedObject& record, Change&& change)
-    {
-        const auto other = contextOn(coordinator_);
-        change(*other, *other->existingObjectWithID(record.objectID()));
-        NSError error;
-        ASSERT_TRUE(other->save(&error)) << error;
-    }
-    void mergeUpdate(const NSManagedObject& record)
-    {
-        NSManagedObjectContext* const contexts[] = {context_.get()};
-        NSManagedObjectContext::mergeChangesFromRemoteContextSave({{}, {record.objectID()}, {}}, contexts);
-    }
-
-private:
-    LogSink former_;
-};
+class RemoteNews : public ConflictTest { };
 INSTANTIATE_TEST_SUITE_P(Stores, RemoteNews, testing::Values(StoreType::SQLite, StoreType::InMemory), storeTypeName);
 
 TEST_P(RemoteNews, ANewHolderStaysWhereTheOtherChangedTheRowOfItsMember)

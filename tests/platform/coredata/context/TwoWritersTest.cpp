@@ -1,7 +1,6 @@
-#include "tests/platform/coredata/context/ContextFixture.h"
+#include "tests/platform/coredata/context/ConflictFixture.h"
 
 #include "tarnmodel/platform/foundation/events/NSNotificationCenter.h"
-#include "tarnmodel/platform/foundation/system/Log.h"
 
 namespace tarn {
 namespace {
@@ -11,48 +10,12 @@ using testing::IsEmpty;
 using testing::UnorderedElementsAre;
 
 /// What a context shows and keeps when another writer got there first.
-class TwoWriters : public ContextTest {
+class TwoWriters : public ConflictTest {
 protected:
-    void SetUp() override
-    {
-        ContextTest::SetUp();
-        former_ = setLogSink([](std::string_view) {});
-    }
-    void TearDown() override
-    {
-        setLogSink(former_);
-        ContextTest::TearDown();
-    }
-
-    /// Another writer changes what is stored, and saves.
-    template <typename Change> void elsewhere(const NSManagedObject& record, Change&& change)
-    {
-        const auto other = contextOn(coordinator_);
-        change(*other, *other->existingObjectWithID(record.objectID()));
-        NSError error;
-        ASSERT_TRUE(other->save(&error)) << error;
-    }
-    void deleteElsewhere(const NSManagedObject& record)
-    {
-        elsewhere(record, [](NSManagedObjectContext& other, NSManagedObject& there) { other.deleteObject(there); });
-    }
-    void mergeUpdate(const NSManagedObject& record)
-    {
-        NSManagedObjectContext* const contexts[] = {context_.get()};
-        NSManagedObjectContext::mergeChangesFromRemoteContextSave({{}, {record.objectID()}, {}}, contexts);
-    }
-    void mergeDeletion(const NSManagedObjectID& objectID)
-    {
-        NSManagedObjectContext* const contexts[] = {context_.get()};
-        NSManagedObjectContext::mergeChangesFromRemoteContextSave({{}, {}, {objectID}}, contexts);
-    }
     std::size_t storedCount(std::string_view entity)
     {
         return contextOn(coordinator_)->countForFetchRequest(NSFetchRequest(*model_->entityNamed(entity)));
     }
-
-private:
-    LogSink former_;
 };
 INSTANTIATE_TEST_SUITE_P(Stores, TwoWriters, testing::Values(StoreType::SQLite, StoreType::InMemory), storeTypeName);
 
