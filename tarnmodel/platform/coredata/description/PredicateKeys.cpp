@@ -39,4 +39,24 @@ bool readsLargeAttribute(const NSPredicate& predicate, const NSEntityDescription
     });
 }
 
+const std::vector<std::string>* keysFrom(const Expression& expression, const std::string& variable)
+{
+    const auto* path = std::get_if<KeyPathExpression>(&expression.form);
+    if (!path)
+        return nullptr;
+    const auto* base = std::get_if<VariableExpression>(&path->base->form);
+    const bool startsHere
+        = base ? base->name == variable : variable.empty() && std::holds_alternative<SelfExpression>(path->base->form);
+    return startsHere ? &path->keys : nullptr;
+}
+
+const NSRelationshipDescription* toManyNamed(const NSEntityDescription& entity, const std::string& key)
+{
+    const NSPropertyDescription* property = entity.propertyNamed(key);
+    if (!property || !property->isRelationship())
+        return nullptr;
+    const auto* relationship = static_cast<const NSRelationshipDescription*>(property);
+    return relationship->isToMany() ? relationship : nullptr;
+}
+
 } // namespace tarn

@@ -1,5 +1,7 @@
 #include "tarnmodel/platform/coredata/query/TextLeaf.h"
 
+#include "tarnmodel/platform/coredata/description/PredicateKeys.h"
+
 namespace tarn {
 
 namespace {
@@ -18,32 +20,10 @@ bool isTextOperator(ComparisonOperator operation)
     }
 }
 
-/// The keys of a path from the member that the variable names, or without a name from the fetched row; null for what
-/// starts elsewhere.
-const std::vector<std::string>* keysFrom(const Expression& expression, const std::string& variable)
-{
-    const auto* path = std::get_if<KeyPathExpression>(&expression.form);
-    if (!path)
-        return nullptr;
-    const auto* base = std::get_if<VariableExpression>(&path->base->form);
-    const bool startsHere
-        = base ? base->name == variable : variable.empty() && std::holds_alternative<SelfExpression>(path->base->form);
-    return startsHere ? &path->keys : nullptr;
-}
-
-/// The same from the row of a scope. A scope without a name within another one has none.
+/// `keysFrom` the row of a scope. A scope without a name within another one has none.
 const std::vector<std::string>* keysFromRow(const Expression& expression, const SQLScope& scope)
 {
     return scope.outer && scope.variable.empty() ? nullptr : keysFrom(expression, scope.variable);
-}
-
-const NSRelationshipDescription* toManyNamed(const NSEntityDescription& entity, const std::string& key)
-{
-    const NSPropertyDescription* property = entity.propertyNamed(key);
-    if (!property || !property->isRelationship())
-        return nullptr;
-    const auto* relationship = static_cast<const NSRelationshipDescription*>(property);
-    return relationship->isToMany() ? relationship : nullptr;
 }
 
 const std::string* constantText(const Expression& expression)

@@ -176,7 +176,7 @@ void SQLiteRowWriter::insert(const StoreRow& row)
     }
     awaitTargets(table, plan.columns, row);
     const auto isSet = [&](const StoreColumn* column) { return hasValue(*column, row); };
-    writeSignatures(table, table.name, row);
+    writeSignaturesOfNewRow(table, table.name, row);
     if (std::any_of(plan.largeColumns.begin(), plan.largeColumns.end(), isSet))
         insertLarge(table, plan.largeColumns, row);
 }
@@ -200,8 +200,9 @@ void SQLiteRowWriter::writeSignatureOf(const SignatureTable& signature, const St
             connection_, signature, row.key, isSet ? signatureOfText(row.values.bytes(index)) : signatureOfNothing());
 }
 
-/// Of a row that is new in this table: of all attributes that stand there.
-void SQLiteRowWriter::writeSignatures(const StoreTable& table, const std::string& columnTable, const StoreRow& row)
+/// Of all attributes that stand in this table.
+void SQLiteRowWriter::writeSignaturesOfNewRow(
+    const StoreTable& table, const std::string& columnTable, const StoreRow& row)
 {
     for (const auto& signature : table.signatures)
         if (signature->columnTable() == columnTable)
@@ -243,7 +244,7 @@ void SQLiteRowWriter::insertLarge(
     for (const StoreColumn* column : columns)
         bind(statement, parameter++, *column, row);
     statement.run();
-    writeSignatures(table, table.largeName, row);
+    writeSignaturesOfNewRow(table, table.largeName, row);
 }
 
 /// The row of large attributes is made when the first of them gets a value.

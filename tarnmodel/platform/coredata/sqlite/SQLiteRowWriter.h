@@ -68,7 +68,7 @@ private:
     void clearColumn(
         const StoreTable& table, const std::string& name, std::int64_t target, std::optional<std::int64_t> only);
     void writeSignatureOf(const SignatureTable& signature, const StoreRow& row);
-    void writeSignatures(const StoreTable& table, const std::string& columnTable, const StoreRow& row);
+    void writeSignaturesOfNewRow(const StoreTable& table, const std::string& columnTable, const StoreRow& row);
     void writeSignatures(const StoreTable& table, const std::vector<const StoreColumn*>& columns, const StoreRow& row);
     void removeSignatures(const StoreTable& table, const std::string& columnTable, std::int64_t key);
     bool exists(const StoreTable& table, std::int64_t key);

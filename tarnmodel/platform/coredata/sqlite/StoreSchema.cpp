@@ -279,9 +279,9 @@ void addSignatureStatements(const SignatureTable& signature, std::vector<std::st
         "INSERT INTO " + signatures + " (\"pk\") VALUES (OLD.\"pk\"); " + note("OLD.\"pk\""));
 }
 
-/// Another program that changes a row knows nothing of its version; whoever holds the record would not notice. Nor
-/// would a writer of ours that changes the large part alone: it sets the version after that. Folded values follow from
-/// others, and come without a version. No list of columns: each connection reads these statements when it is opened.
+/// Another program that changes a row knows nothing of its version; whoever holds the record would not notice. Folded
+/// values follow from others, and come without a version. No list of columns: each connection reads these statements
+/// when it is opened.
 void addVersionStatements(const StoreTable& table, std::vector<std::string>& all)
 {
     const auto trigger = [&](const std::string& on, const std::string& condition) {

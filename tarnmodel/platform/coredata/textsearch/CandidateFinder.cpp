@@ -1,5 +1,6 @@
 #include "tarnmodel/platform/coredata/textsearch/CandidateFinder.h"
 
+#include "tarnmodel/platform/coredata/description/PredicateKeys.h"
 #include "tarnmodel/platform/coredata/sqlite/SQLiteConnection.h"
 
 #include <algorithm>
@@ -38,27 +39,6 @@ std::optional<bool> truthOf(const ComparisonPredicate& predicate)
     if (predicate.operation == ComparisonOperator::NotEqualTo)
         return left->asInteger() != right->asInteger();
     return std::nullopt;
-}
-
-/// The keys of a path from the rows at hand; null for what starts elsewhere.
-const std::vector<std::string>* keysFrom(const Expression& expression, const std::string& variable)
-{
-    const auto* path = std::get_if<KeyPathExpression>(&expression.form);
-    if (!path)
-        return nullptr;
-    const auto* base = std::get_if<VariableExpression>(&path->base->form);
-    const bool startsHere
-        = base ? base->name == variable : variable.empty() && std::holds_alternative<SelfExpression>(path->base->form);
-    return startsHere ? &path->keys : nullptr;
-}
-
-const NSRelationshipDescription* toManyAt(const NSEntityDescription& entity, const std::string& key)
-{
-    const NSPropertyDescription* property = entity.propertyNamed(key);
-    if (!property || !property->isRelationship())
-        return nullptr;
-    const auto* relationship = static_cast<const NSRelationshipDescription*>(property);
-    return relationship->isToMany() ? relationship : nullptr;
 }
 
 /// Whether the count is such that there is at least one.
@@ -156,7 +136,7 @@ PrimaryKeySetPtr CandidateFinder::ofComparison(const ComparisonPredicate& predic
         ? !negated
         : predicate.modifier == ComparisonModifier::None && negated;
     const NSRelationshipDescription* relationship
-        = isAny && keys->size() == 2 ? toManyAt(rows.entity, keys->front()) : nullptr;
+        = isAny && keys->size() == 2 ? toManyNamed(rows.entity, keys->front()) : nullptr;
     if (!relationship)
         return nullptr;
     const auto members = [&](const Rows& member) {
@@ -207,7 +187,7 @@ PrimaryKeySetPtr CandidateFinder::ofCount(
         return nullptr;
     const auto* keys = keysFrom(*subquery->collection, rows.variable);
     const NSRelationshipDescription* relationship
-        = keys && keys->size() == 1 ? toManyAt(rows.entity, keys->front()) : nullptr;
+        = keys && keys->size() == 1 ? toManyNamed(rows.entity, keys->front()) : nullptr;
     if (!relationship)
         return nullptr;
     const auto members = [&](const Rows& member) { return of(*subquery->predicate, member, false); };
