@@ -1,5 +1,7 @@
 #include "tarnmodel/notes/ConflictStamp.h"
 
+#include "tarnmodel/platform/foundation/values/NSDate+Chrono.h"
+
 #include <fmt/format.h>
 
 #include <atomic>
@@ -11,10 +13,10 @@ namespace tarn {
 NSDate nextConflictStamp()
 {
     using namespace std::chrono_literals;
-    static std::atomic<NSDate::rep> last{std::numeric_limits<NSDate::rep>::min()};
+    static std::atomic<std::int64_t> last{std::numeric_limits<std::int64_t>::min()};
 
     const NSDate current = now();
-    NSDate::rep before = last.load();
+    std::int64_t before = last.load();
     NSDate stamp;
     do {
         const NSDate previous = dateWithMicrosecondsSince1970(before);

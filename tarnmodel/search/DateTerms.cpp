@@ -2,6 +2,7 @@
 
 #include "tarnmodel/platform/foundation/text/SpelledOutNumber.h"
 #include "tarnmodel/platform/foundation/text/UTF.h"
+#include "tarnmodel/platform/foundation/values/NSDate+Chrono.h"
 #include "tarnmodel/platform/predicate/NSPredicate.h"
 #include "tarnmodel/search/OVNoteSearchManager.h"
 

@@ -2,11 +2,11 @@
 #include "tarnmodel/platform/coredata/StoreFileMove.h"
 #include "tarnmodel/platform/foundation/events/NSProgress.h"
 #include "tarnmodel/platform/foundation/system/Log.h"
+#include "tarnmodel/platform/foundation/values/NSDate+Chrono.h"
 #include "tarnmodel/platform/foundation/values/NSDate.h"
 #include "tarnmodel/store/OVCoreDataStack.h"
 
 #include <algorithm>
-#include <chrono>
 #include <utility>
 
 namespace tarn {
@@ -33,7 +33,8 @@ private:
 /// "database_backup 2020-01-31T101500Z.sqlite" beside the store. The name is part of the layout on disk.
 std::filesystem::path backupOfStore(const std::filesystem::path& store)
 {
-    std::string stamp = iso8601String(std::chrono::floor<std::chrono::seconds>(now()));
+    std::string stamp
+        = iso8601String(dateWithSystemTime(std::chrono::floor<std::chrono::seconds>(systemTimeOfDate(now()))));
     std::erase(stamp, ':');
     return store.parent_path() / ("database_backup " + stamp + ".sqlite");
 }

@@ -7,6 +7,7 @@
 #include "tarnmodel/model/OVNoteTag.h"
 #include "tarnmodel/model/OVPassword.h"
 #include "tarnmodel/model/OVServerMetadata.h"
+#include "tarnmodel/platform/foundation/values/NSDate+Chrono.h"
 #include "tests/model/RecordFixture.h"
 
 namespace tarn {

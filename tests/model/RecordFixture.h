@@ -5,6 +5,7 @@
 #include "tarnmodel/platform/coredata/NSPersistentStoreCoordinator.h"
 #include "tarnmodel/platform/foundation/system/Environment.h"
 #include "tarnmodel/platform/foundation/system/NSUUID.h"
+#include "tarnmodel/platform/foundation/values/NSDate+Chrono.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+#include "tarnmodel/platform/foundation/values/NSDate+Chrono.h"
 #include "tests/support/StoreFixture.h"
 
 #include "tarnmodel/notes/ConflictStamp.h"

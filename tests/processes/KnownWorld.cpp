@@ -1,6 +1,7 @@
 #include "tests/processes/KnownWorld.h"
 
 #include "tarnmodel/platform/foundation/system/NSUUID.h"
+#include "tarnmodel/platform/foundation/values/NSDate+Chrono.h"
 
 #include <algorithm>
 

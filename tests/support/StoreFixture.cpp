@@ -4,6 +4,7 @@
 #include "tarnmodel/model/OVNoteGenericFile.h"
 #include "tarnmodel/model/OVNoteImage.h"
 #include "tarnmodel/platform/foundation/system/NSUUID.h"
+#include "tarnmodel/platform/foundation/values/NSDate+Chrono.h"
 
 #include <sqlite3.h>
 

@@ -1,6 +1,7 @@
 // This and LocalTimePosix.cpp are the only places that ask a POSIX system; another system gets files like these.
 
 #include "tarnmodel/platform/foundation/system/EnvironmentInternal.h"
+#include "tarnmodel/platform/foundation/values/NSDate+Chrono.h"
 #include "tarnmodel/platform/foundation/values/NSException.h"
 
 #include <fcntl.h>
@@ -44,7 +45,8 @@ std::string readSystemFile(const char* path)
 
 NSDate systemTime()
 {
-    return std::chrono::time_point_cast<std::chrono::microseconds>(std::chrono::system_clock::now());
+    return dateWithSystemTime(
+        std::chrono::time_point_cast<std::chrono::microseconds>(std::chrono::system_clock::now()));
 }
 
 void fillFromSystem(std::span<std::byte> bytes)

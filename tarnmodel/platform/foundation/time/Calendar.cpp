@@ -14,7 +14,7 @@ double icuDate(WallTime wall) noexcept
 
 WallTime wallTimeWithICUDate(double milliseconds) noexcept
 {
-    return WallTime(NSDate::duration(std::llround(milliseconds * 1'000)));
+    return WallTime(std::chrono::microseconds(std::llround(milliseconds * 1'000)));
 }
 
 namespace {

@@ -17,7 +17,7 @@ constexpr hours kStep(12);
 
 NSDate withOffset(WallTime wall, std::chrono::seconds offset)
 {
-    return NSDate(wall.time_since_epoch() - offset);
+    return dateWithSystemTime(SystemTime(wall.time_since_epoch() - offset));
 }
 
 /// The moments that would show this time with an offset that holds in its neighbourhood, in order.
@@ -25,8 +25,7 @@ std::vector<NSDate> candidates(WallTime wall)
 {
     std::vector<NSDate> dates;
     for (hours distance = -kReach; distance <= kReach; distance += kStep)
-        dates.push_back(
-            withOffset(wall, Environment::current().localTimeOffset(NSDate(wall.time_since_epoch() + distance))));
+        dates.push_back(withOffset(wall, Environment::current().localTimeOffset(withOffset(wall, -distance))));
     std::ranges::sort(dates);
     const auto repeated = std::ranges::unique(dates);
     dates.erase(repeated.begin(), repeated.end());
@@ -38,8 +37,9 @@ std::vector<NSDate> candidates(WallTime wall)
 WallTime wallTimeOfDate(NSDate date)
 {
     // At the ends of time a day more or less cannot be counted, and does not matter.
-    const NSDate counted = std::clamp(date, NSDate::min() + std::chrono::days(2), NSDate::max() - std::chrono::days(2));
-    return WallTime(counted.time_since_epoch() + Environment::current().localTimeOffset(counted));
+    const SystemTime counted = std::clamp(
+        systemTimeOfDate(date), SystemTime::min() + std::chrono::days(2), SystemTime::max() - std::chrono::days(2));
+    return WallTime(counted.time_since_epoch() + Environment::current().localTimeOffset(dateWithSystemTime(counted)));
 }
 
 NSDate dateOfWallTime(WallTime wall)
@@ -58,13 +58,13 @@ NSDate beginOfWallDay(WallTime midnight)
     if (first != dates.end())
         return *first;
     // The clock jumps over midnight between the first and the last candidate.
-    auto before = std::chrono::floor<std::chrono::seconds>(dates.front());
-    auto after = std::chrono::floor<std::chrono::seconds>(dates.back());
+    auto before = std::chrono::floor<std::chrono::seconds>(systemTimeOfDate(dates.front()));
+    auto after = std::chrono::floor<std::chrono::seconds>(systemTimeOfDate(dates.back()));
     while (after - before > std::chrono::seconds(1)) {
         const auto middle = before + (after - before) / 2;
-        (wallTimeOfDate(middle) < midnight ? before : after) = middle;
+        (wallTimeOfDate(dateWithSystemTime(middle)) < midnight ? before : after) = middle;
     }
-    return after;
+    return dateWithSystemTime(after);
 }
 
 } // namespace tarn

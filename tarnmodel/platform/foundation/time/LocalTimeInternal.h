@@ -1,13 +1,11 @@
 #pragma once
 
-#include "tarnmodel/platform/foundation/values/NSDate.h"
-
-#include <chrono>
+#include "tarnmodel/platform/foundation/values/NSDate+Chrono.h"
 
 namespace tarn {
 
 /// What the clock on the wall shows: a date and a time of day without a zone, counted as though it were UTC.
-using WallTime = std::chrono::local_time<NSDate::duration>;
+using WallTime = std::chrono::local_time<std::chrono::microseconds>;
 
 /// By the rules of `Environment`.
 WallTime wallTimeOfDate(NSDate date);

@@ -1,5 +1,6 @@
 #include "tarnmodel/platform/foundation/system/EnvironmentInternal.h"
 #include "tarnmodel/platform/foundation/system/Log.h"
+#include "tarnmodel/platform/foundation/values/NSDate+Chrono.h"
 
 #include <array>
 #include <cstdlib>
@@ -59,7 +60,8 @@ std::chrono::seconds systemLocalTimeOffset(NSDate date)
     ::tzset();
     tellOfUnknownZone();
     // The clock of the library counts nanoseconds, which end in 2262.
-    const std::time_t time = std::chrono::floor<std::chrono::seconds>(date).time_since_epoch().count();
+    const std::time_t time
+        = std::chrono::floor<std::chrono::seconds>(systemTimeOfDate(date)).time_since_epoch().count();
     std::tm local{};
     return std::chrono::seconds(::localtime_r(&time, &local) ? local.tm_gmtoff : 0);
 }

@@ -1,4 +1,4 @@
-#include "tarnmodel/platform/foundation/values/NSDate.h"
+#include "tarnmodel/platform/foundation/values/NSDate+Chrono.h"
 
 #include <fmt/format.h>
 
@@ -159,17 +159,17 @@ std::optional<std::chrono::minutes> takeZone(Reader& reader)
 
 std::int64_t microsecondsSinceReferenceDate(NSDate date) noexcept
 {
-    return sumWithinRange(date.time_since_epoch().count(), -kReferenceDate);
+    return sumWithinRange(date.microsecondsSince1970(), -kReferenceDate);
 }
 
 NSDate dateWithMicrosecondsSinceReferenceDate(std::int64_t microseconds) noexcept
 {
-    return NSDate(std::chrono::microseconds(sumWithinRange(microseconds, kReferenceDate)));
+    return NSDate(sumWithinRange(microseconds, kReferenceDate));
 }
 
 std::string iso8601String(NSDate date)
 {
-    const std::int64_t total = date.time_since_epoch().count();
+    const std::int64_t total = date.microsecondsSince1970();
     const std::int64_t seconds = floorDivide(total, kMicrosecondsPerSecond);
     const std::int64_t remainder = total % kMicrosecondsPerSecond;
     const std::int64_t fraction = remainder < 0 ? remainder + kMicrosecondsPerSecond : remainder;
@@ -191,7 +191,7 @@ std::optional<NSDate> dateFromISO8601String(std::string_view text)
     const auto day = takeDay(reader);
     if (!day)
         return std::nullopt;
-    NSDate date = *day;
+    const NSDate date = dateWithSystemTime(*day);
     if (reader.atEnd())
         return date;
     if (!reader.take('T') && !reader.take(' '))

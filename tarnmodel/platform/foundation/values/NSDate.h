@@ -1,6 +1,6 @@
 #pragma once
 
-#include <chrono>
+#include <compare>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -9,7 +9,24 @@
 namespace tarn {
 
 /// An absolute point in time, in whole microseconds since 1970-01-01T00:00:00Z.
-using NSDate = std::chrono::sys_time<std::chrono::microseconds>;
+///
+/// "NSDate+Chrono.h" converts it to and from std::chrono and reckons with durations; who only keeps or compares dates
+/// does not pay for that header.
+class NSDate {
+public:
+    constexpr NSDate() = default;
+    explicit constexpr NSDate(std::int64_t microsecondsSince1970) noexcept : microseconds_(microsecondsSince1970) { }
+    constexpr std::int64_t microsecondsSince1970() const noexcept { return microseconds_; }
+
+    /// The ends of what can be counted: about 292,000 years before and after 1970.
+    static constexpr NSDate min() noexcept { return NSDate(INT64_MIN); }
+    static constexpr NSDate max() noexcept { return NSDate(INT64_MAX); }
+
+    friend constexpr auto operator<=>(NSDate, NSDate) = default;
+
+private:
+    std::int64_t microseconds_ = 0;
+};
 
 /// The current time, by the clock of `Environment`; tests set it.
 NSDate now();
@@ -19,13 +36,13 @@ std::int64_t microsecondsSinceReferenceDate(NSDate date) noexcept;
 NSDate dateWithMicrosecondsSinceReferenceDate(std::int64_t microseconds) noexcept;
 
 /// Microseconds since 1970-01-01T00:00:00Z, the form in which the store keeps dates.
-inline std::int64_t microsecondsSince1970(NSDate date) noexcept
+constexpr std::int64_t microsecondsSince1970(NSDate date) noexcept
 {
-    return date.time_since_epoch().count();
+    return date.microsecondsSince1970();
 }
-inline NSDate dateWithMicrosecondsSince1970(std::int64_t microseconds) noexcept
+constexpr NSDate dateWithMicrosecondsSince1970(std::int64_t microseconds) noexcept
 {
-    return NSDate(std::chrono::microseconds(microseconds));
+    return NSDate(microseconds);
 }
 
 /// "2020-01-31T10:15:00Z", in UTC; with six digits of a second where the date has a fraction.
