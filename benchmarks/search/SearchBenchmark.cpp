@@ -10,6 +10,7 @@
 #include "tarnmodel/platform/coredata/rows/RowStore.h"
 #include "tarnmodel/platform/foundation/system/NSUUID.h"
 #include "tarnmodel/platform/foundation/text/RegularExpression.h"
+#include "tarnmodel/platform/predicate/PredicateTree.h"
 
 #include <fmt/core.h>
 #include <sqlite3.h>

@@ -3,6 +3,7 @@
 #include "tarnmodel/model/OVNote.h"
 #include "tarnmodel/model/OVNoteFile.h"
 #include "tarnmodel/model/RecordFetch.h"
+#include "tarnmodel/platform/coredata/NSFetchRequest.h"
 #include "tarnmodel/platform/foundation/system/NSUUID.h"
 #include "tarnmodel/platform/foundation/values/NSDate.h"
 #include "tarnmodel/sync/OVDeviceUUID.h"

@@ -58,7 +58,7 @@ OVNoteFile* OVNote::attachmentForFilename(std::string_view filename) const
     return file && !file->isUnused() ? file : nullptr;
 }
 
-OVNoteFile* OVNote::addAttachmentFromFileURL(const std::filesystem::path& url)
+OVNoteFile* OVNote::addAttachmentFromFileURL(const FileURL& url)
 {
     return OVNoteFile::getOrCreateFileFromURL(url, *this, nullptr);
 }

@@ -3,10 +3,10 @@
 
 namespace tarn {
 
-OVNoteFile* OVNoteFile::getOrCreateFileFromURL(const std::filesystem::path& url, OVNote&, NSError* error)
+OVNoteFile* OVNoteFile::getOrCreateFileFromURL(const FileURL& url, OVNote&, NSError* error)
 {
-    assignError(
-        error, NSError("Tarn Model", 0, "\"" + url.string() + "\" cannot be attached: this version keeps no files."));
+    assignError(error,
+        NSError("Tarn Model", 0, "\"" + url.path.string() + "\" cannot be attached: this version keeps no files."));
     return nullptr;
 }
 

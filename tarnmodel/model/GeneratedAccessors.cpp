@@ -1,5 +1,7 @@
 #include "tarnmodel/model/GeneratedAccessors.h"
 
+#include "tarnmodel/platform/coredata/NSManagedObjectModel.h"
+
 #include <algorithm>
 #include <cmath>
 #include <limits>

@@ -2,25 +2,26 @@
 
 #include "tarnmodel/encryption/OVEncryptableObject.h"
 #include "tarnmodel/model/_OVNote.h"
-#include "tarnmodel/platform/coredata/NSFetchRequest.h"
-#include "tarnmodel/platform/foundation/text/Folding.h"
 
 #include <cstdint>
-#include <filesystem>
+#include <optional>
 #include <span>
-#include <unordered_map>
-#include <unordered_set>
+#include <string>
+#include <string_view>
 #include <vector>
 
 namespace tarn {
 
 class CVKAST;
 class CVKWikiLink;
+class NSPredicate;
 class OVNoteGenericFile;
 class OVNoteImage;
 class TolVectorClock;
-struct MergeConflict;
 struct CVKTextSummary;
+struct FileURL;
+struct MergeConflict;
+struct NSSortDescriptor;
 
 /// One note: a Markdown text and everything that is derived from it.
 ///
@@ -32,12 +33,9 @@ class OVNote : public _OVNote, public OVEncryptableNote {
 public:
     using _OVNote::_OVNote;
 
-    /// Tags by folded title. The values are borrowed from the context that the note lives in.
-    using TagsCache = std::unordered_map<std::string, OVNoteTag*>;
-    /// Notes by folded title, or by folded identifier where they have none. Borrowed likewise.
-    using NotesCache = std::unordered_map<std::string, OVNote*>;
-    /// Notes that a walk along links came to.
-    using VisitedNotes = std::unordered_set<const OVNote*>;
+    class TagsCache;    ///< in "OVNoteCaches.h"
+    class NotesCache;   ///< likewise
+    class VisitedNotes; ///< likewise
 
     /// A new note without text, with an identifier; made and modified at one and the same time.
     static OVNote* insertInManagedObjectContext(NSManagedObjectContext& context);
@@ -293,7 +291,7 @@ public:
     /// The first used one of them.
     OVNoteFile* attachmentForFilename(std::string_view filename) const;
     /// The attachment made from a file, or the unused one that holds the same. Null when it cannot be attached.
-    OVNoteFile* addAttachmentFromFileURL(const std::filesystem::path& url);
+    OVNoteFile* addAttachmentFromFileURL(const FileURL& url);
     /// Protects an attachment of a protected note with the note's password, when that is at hand. Null: does nothing.
     void encryptFileIfNeeded(OVNoteFile* file);
 

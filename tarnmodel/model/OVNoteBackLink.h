@@ -1,11 +1,12 @@
 #pragma once
 
 #include "tarnmodel/model/_OVNoteBackLink.h"
-#include "tarnmodel/platform/predicate/NSPredicate.h"
 
 #include <vector>
 
 namespace tarn {
+
+class NSPredicate;
 
 /// One wiki link: stands in the text of `linkedBy` and leads to `linkingTo`, or to nothing while there is no such note.
 ///

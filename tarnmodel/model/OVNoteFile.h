@@ -2,6 +2,7 @@
 
 #include "tarnmodel/encryption/OVEncryptableObject.h"
 #include "tarnmodel/model/_OVNoteFile.h"
+#include "tarnmodel/platform/foundation/values/FileURL.h"
 
 #include <filesystem>
 
@@ -32,7 +33,7 @@ public:
     // Import (tarnmodel/files/OVNoteFile+Import.cpp) -----------------------------------------------------------------
     /// The attachment of `note` made from a file, or the unused one that holds the same. Null and an error when it
     /// cannot be attached; this version cannot attach files yet.
-    static OVNoteFile* getOrCreateFileFromURL(const std::filesystem::path& url, OVNote& note, NSError* error);
+    static OVNoteFile* getOrCreateFileFromURL(const FileURL& url, OVNote& note, NSError* error);
 
     // Copies (tarnmodel/files/OVNoteFile+Copying.cpp) ----------------------------------------------------------------
     /// A new random identifier.

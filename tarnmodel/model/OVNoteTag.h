@@ -1,13 +1,15 @@
 #pragma once
 
 #include "tarnmodel/model/_OVNoteTag.h"
-#include "tarnmodel/platform/coredata/NSFetchRequest.h"
 
 #include <cstddef>
 #include <span>
 #include <vector>
 
 namespace tarn {
+
+class NSPredicate;
+struct NSSortDescriptor;
 
 /// One tag, named by its path ("work/clients/acme"). Two tags are the same when their normalized titles are equal.
 ///
@@ -89,11 +91,12 @@ public:
     bool isDescendantOfTag(const OVNoteTag& tag) const;
     /// The tags anywhere below this one that have a note neither trashed nor archived, sorted when descriptors are
     /// given. A failed fetch is logged and gives an empty list.
+    std::vector<OVNoteTag*> childsAndSubChildsTagsWithSortDescriptors() const;
     std::vector<OVNoteTag*> childsAndSubChildsTagsWithSortDescriptors(
-        const std::vector<NSSortDescriptor>& sortDescriptors = {}) const;
+        const std::vector<NSSortDescriptor>& sortDescriptors) const;
     /// Those of them that stand right below this one.
-    std::vector<OVNoteTag*> childTagsWithSortDescriptors(
-        const std::vector<NSSortDescriptor>& sortDescriptors = {}) const;
+    std::vector<OVNoteTag*> childTagsWithSortDescriptors() const;
+    std::vector<OVNoteTag*> childTagsWithSortDescriptors(const std::vector<NSSortDescriptor>& sortDescriptors) const;
 
     // The notes of a tag (tarnmodel/tags/OVNoteTag+Fetching.cpp) -----------------------------------------------------
     /// Finds this tag's notes that are neither trashed nor archived, those of the tags below it included. Names this

@@ -2,9 +2,10 @@
 
 #include "tarnmodel/encryption/OVEncryptableObject.h"
 #include "tarnmodel/model/_OVPassword.h"
-#include "tarnmodel/platform/predicate/NSPredicate.h"
 
 namespace tarn {
+
+class NSPredicate;
 
 /// What is known about a password: enough for the encryption manager to recognise it, never the password itself.
 ///

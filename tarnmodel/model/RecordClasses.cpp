@@ -14,6 +14,7 @@
 #include "tarnmodel/model/OVNoteTag.h"
 #include "tarnmodel/model/OVPassword.h"
 #include "tarnmodel/model/OVServerMetadata.h"
+#include "tarnmodel/platform/coredata/NSManagedObjectModel.h"
 
 #include <array>
 
@@ -29,9 +30,7 @@ struct RecordClass {
 template <typename Record> constexpr RecordClass recordClass()
 {
     return {Record::entityName(), Record::generatedAccessorHash(),
-        [](const NSManagedObjectSeed& seed) -> std::unique_ptr<NSManagedObject> {
-            return std::make_unique<Record>(seed);
-        }};
+        [](const NSManagedObjectSeed& seed) -> NSManagedObject* { return new Record(seed); }};
 }
 
 constexpr std::array kRecordClasses{

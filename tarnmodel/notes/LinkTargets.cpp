@@ -1,7 +1,9 @@
 #include "tarnmodel/notes/LinkTargets.h"
 
+#include "tarnmodel/model/OVNoteCaches.h"
 #include "tarnmodel/model/RecordFetch.h"
 #include "tarnmodel/notes/NotePredicates.h"
+#include "tarnmodel/platform/coredata/NSFetchRequest.h"
 #include "tarnmodel/platform/foundation/text/Folding.h"
 
 #include <unordered_set>

@@ -2,6 +2,7 @@
 
 #include "tarnmodel/corvel/CVKWikiLink.h"
 #include "tarnmodel/model/OVNote.h"
+#include "tarnmodel/model/OVNoteCaches.h"
 
 #include <span>
 #include <string>

@@ -1,5 +1,7 @@
 #include "tarnmodel/notes/NotePredicates.h"
 
+#include "tarnmodel/platform/predicate/NSPredicate.h"
+
 namespace tarn {
 
 NSPredicate predicateForTitlesOrUUIDs(const std::vector<std::string>& titlesOrUUIDs)

@@ -1,6 +1,7 @@
 #include "tarnmodel/model/OVNote.h"
 #include "tarnmodel/model/RecordFetch.h"
 #include "tarnmodel/notes/ConflictStamp.h"
+#include "tarnmodel/platform/coredata/NSFetchRequest.h"
 
 namespace tarn {
 

@@ -3,6 +3,7 @@
 #include "tarnmodel/model/OVNoteFile.h"
 #include "tarnmodel/model/OVPassword.h"
 #include "tarnmodel/model/RecordFetch.h"
+#include "tarnmodel/platform/coredata/NSFetchRequest.h"
 #include "tarnmodel/platform/foundation/values/NSException.h"
 
 #include <algorithm>

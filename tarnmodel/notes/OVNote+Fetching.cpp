@@ -2,6 +2,7 @@
 #include "tarnmodel/model/OVNoteTag.h"
 #include "tarnmodel/model/RecordFetch.h"
 #include "tarnmodel/notes/NotePredicates.h"
+#include "tarnmodel/platform/coredata/NSFetchRequest.h"
 
 #include <algorithm>
 

@@ -1,6 +1,7 @@
 #include "tarnmodel/corvel/CVKWikiLink.h"
 #include "tarnmodel/model/OVNote.h"
 #include "tarnmodel/model/OVNoteBackLink.h"
+#include "tarnmodel/model/OVNoteCaches.h"
 #include "tarnmodel/notes/LinkTargets.h"
 #include "tarnmodel/notes/TitlePropagation.h"
 #include "tarnmodel/platform/coredata/NSManagedObjectContext.h"

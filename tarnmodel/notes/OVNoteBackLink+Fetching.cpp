@@ -1,5 +1,6 @@
 #include "tarnmodel/model/OVNoteBackLink.h"
 #include "tarnmodel/model/RecordFetch.h"
+#include "tarnmodel/platform/coredata/NSFetchRequest.h"
 
 namespace tarn {
 

@@ -2,6 +2,7 @@
 
 #include "tarnmodel/corvel/CVKAST.h"
 #include "tarnmodel/model/OVNoteBackLink.h"
+#include "tarnmodel/model/OVNoteCaches.h"
 #include "tarnmodel/platform/foundation/text/Folding.h"
 
 #include <algorithm>

@@ -1,5 +1,6 @@
 #include "tarnmodel/search/OVNoteSearchManager.h"
 
+#include "tarnmodel/platform/predicate/NSPredicate.h"
 #include "tarnmodel/search/SearchCompiler.h"
 
 #include <atomic>

@@ -112,8 +112,9 @@ bool OVManagedObjectObserver::isRelated(const NSManagedObject& other, const std:
     if (observedObject()->isDeleted())
         return false;
     const NSRelationshipDescription& relationship = *observedObject()->entity().relationshipNamed(relationshipName);
-    return relationship.isToMany() ? observedObject()->toManyAt(relationship.index()).contains(other)
-                                   : observedObject()->toOneAt(relationship.index()) == &other;
+    if (!relationship.isToMany())
+        return observedObject()->toOneAt(relationship.index()) == &other;
+    return UntypedManagedObjectSet(observedObject()->toManyAt(relationship.index())).contains(other);
 }
 
 } // namespace tarn

@@ -1,6 +1,7 @@
 #include "tarnmodel/model/OVChange.h"
 #include "tarnmodel/model/OVChangeItem.h"
 #include "tarnmodel/model/RecordFetch.h"
+#include "tarnmodel/platform/coredata/NSFetchRequest.h"
 #include "tarnmodel/sync/ChangeLogFetchInternal.h"
 
 namespace tarn {

@@ -2,6 +2,7 @@
 #include "tarnmodel/model/OVChangeItem.h"
 #include "tarnmodel/model/RecordFetch.h"
 #include "tarnmodel/model/Syncable.h"
+#include "tarnmodel/platform/coredata/NSFetchRequest.h"
 #include "tarnmodel/sync/ChangeLogFetchInternal.h"
 
 #include <map>

@@ -3,6 +3,7 @@
 #include "tarnmodel/model/OVChangeItem.h"
 #include "tarnmodel/model/RecordFetch.h"
 #include "tarnmodel/model/Syncable.h"
+#include "tarnmodel/platform/coredata/NSFetchRequest.h"
 #include "tarnmodel/platform/foundation/system/NSUUID.h"
 #include "tarnmodel/sync/ChangeLogFetchInternal.h"
 

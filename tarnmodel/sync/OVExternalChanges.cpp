@@ -1,6 +1,7 @@
 #include "tarnmodel/model/OVExternalChanges.h"
 
 #include "tarnmodel/model/RecordFetch.h"
+#include "tarnmodel/platform/coredata/NSFetchRequest.h"
 #include "tarnmodel/platform/coredata/NSPersistentStoreCoordinator.h"
 #include "tarnmodel/platform/foundation/system/Log.h"
 #include "tarnmodel/sync/RecordDeletionInternal.h"

@@ -1,6 +1,7 @@
 #include "tarnmodel/model/OVInternalChanges.h"
 
 #include "tarnmodel/model/RecordFetch.h"
+#include "tarnmodel/platform/coredata/NSFetchRequest.h"
 #include "tarnmodel/platform/coredata/NSPersistentStoreCoordinator.h"
 
 namespace tarn {

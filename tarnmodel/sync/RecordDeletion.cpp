@@ -1,4 +1,5 @@
 #include "tarnmodel/model/RecordFetch.h"
+#include "tarnmodel/platform/coredata/NSFetchRequest.h"
 #include "tarnmodel/sync/RecordDeletionInternal.h"
 
 namespace tarn {

@@ -1,4 +1,5 @@
 #include "tarnmodel/model/OVNote.h"
+#include "tarnmodel/model/OVNoteCaches.h"
 #include "tarnmodel/model/OVNoteTag.h"
 #include "tarnmodel/platform/foundation/text/Folding.h"
 #include "tarnmodel/tags/TagLookupInternal.h"

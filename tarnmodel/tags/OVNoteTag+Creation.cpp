@@ -2,6 +2,7 @@
 #include "tarnmodel/model/OVNote.h"
 #include "tarnmodel/model/OVNoteTag.h"
 #include "tarnmodel/model/RecordFetch.h"
+#include "tarnmodel/platform/predicate/NSPredicate.h"
 #include "tarnmodel/tags/TagLookupInternal.h"
 
 namespace tarn {

@@ -1,5 +1,6 @@
 #include "tarnmodel/corvel/CVKHashtag.h"
 #include "tarnmodel/model/OVNoteTag.h"
+#include "tarnmodel/platform/coredata/NSFetchRequest.h"
 #include "tarnmodel/platform/foundation/text/Folding.h"
 #include "tarnmodel/tags/TagLookupInternal.h"
 
@@ -112,6 +113,16 @@ bool OVNoteTag::isDescendantOfTag(const OVNoteTag& tag) const
 }
 
 // Descendants -------------------------------------------------------------------------------------------------------
+
+std::vector<OVNoteTag*> OVNoteTag::childsAndSubChildsTagsWithSortDescriptors() const
+{
+    return childsAndSubChildsTagsWithSortDescriptors({});
+}
+
+std::vector<OVNoteTag*> OVNoteTag::childTagsWithSortDescriptors() const
+{
+    return childTagsWithSortDescriptors({});
+}
 
 std::vector<OVNoteTag*> OVNoteTag::childsAndSubChildsTagsWithSortDescriptors(
     const std::vector<NSSortDescriptor>& sortDescriptors) const

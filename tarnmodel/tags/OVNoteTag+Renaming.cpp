@@ -1,6 +1,7 @@
 #include "tarnmodel/corvel/CVKAST.h"
 #include "tarnmodel/corvel/CVKHashtag.h"
 #include "tarnmodel/model/OVNote.h"
+#include "tarnmodel/model/OVNoteCaches.h"
 #include "tarnmodel/model/OVNoteTag.h"
 #include "tarnmodel/notes/EditGuard.h"
 #include "tarnmodel/notes/OVNoteCacheLoan.h"

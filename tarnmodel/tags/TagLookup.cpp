@@ -3,6 +3,7 @@
 #include "tarnmodel/corvel/CVKHashtag.h"
 #include "tarnmodel/model/OVNoteTag.h"
 #include "tarnmodel/model/RecordFetch.h"
+#include "tarnmodel/platform/coredata/NSFetchRequest.h"
 #include "tarnmodel/platform/foundation/system/Log.h"
 
 #include <algorithm>

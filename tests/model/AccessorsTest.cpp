@@ -7,6 +7,7 @@
 #include "tarnmodel/model/OVNoteServerData.h"
 #include "tarnmodel/model/OVNoteTag.h"
 #include "tarnmodel/model/OVPassword.h"
+#include "tarnmodel/platform/coredata/KeyValueObservation.h"
 #include "tarnmodel/platform/foundation/values/NSException.h"
 #include "tests/model/RecordFixture.h"
 

@@ -2,6 +2,7 @@
 #include "tarnmodel/model/OVNote.h"
 #include "tarnmodel/model/OVNoteGenericFile.h"
 #include "tarnmodel/model/OVPassword.h"
+#include "tarnmodel/platform/coredata/KeyValueObservation.h"
 #include "tarnmodel/platform/foundation/values/NSException.h"
 #include "tests/model/RecordFixture.h"
 

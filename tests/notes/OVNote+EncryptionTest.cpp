@@ -1,3 +1,4 @@
+#include "tarnmodel/platform/coredata/KeyValueObservation.h"
 #include "tests/support/StoreFixture.h"
 
 #include "tarnmodel/encryption/OVEncryptionCoreManager.h"

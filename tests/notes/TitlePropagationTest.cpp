@@ -1,3 +1,4 @@
+#include "tarnmodel/model/OVNoteCaches.h"
 #include "tests/support/StoreFixture.h"
 
 #include "tarnmodel/encryption/OVEncryptionCoreManager.h"

@@ -3,6 +3,7 @@
 #include "tarnmodel/platform/foundation/system/Environment.h"
 #include "tarnmodel/platform/foundation/text/UTF.h"
 #include "tarnmodel/platform/foundation/values/NSException.h"
+#include "tarnmodel/platform/predicate/PredicateTree.h"
 #include "tarnmodel/search/ExpressionMatches.h"
 #include "tarnmodel/search/OVNoteSearchManager.h"
 #include "tarnmodel/search/SearchCompiler.h"

@@ -2,6 +2,7 @@
 #include "tarnmodel/model/OVNoteFileServerData.h"
 #include "tarnmodel/model/OVNoteGenericFile.h"
 #include "tarnmodel/model/OVNoteServerData.h"
+#include "tarnmodel/platform/coredata/KeyValueObservation.h"
 #include "tests/support/StoreFixture.h"
 
 namespace tarn {

@@ -1,3 +1,4 @@
+#include "tarnmodel/model/OVNoteCaches.h"
 #include "tests/support/StoreFixture.h"
 
 namespace tarn {

@@ -1,5 +1,6 @@
 #include "tools/modelgen/SchemaWriter.h"
 
+#include "tarnmodel/platform/coredata/NSManagedObjectModel.h"
 #include "tarnmodel/platform/coredata/sqlite/StoreSchema.h"
 #include "tools/modelgen/GeneratedNames.h"
 

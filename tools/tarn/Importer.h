@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tarnmodel/model/OVNote.h"
+#include "tarnmodel/model/OVNoteCaches.h"
 #include "tools/tarn/MarkdownFiles.h"
 #include "tools/tarn/StoreSession.h"
 #include "tools/tarn/TextFile.h"

@@ -141,6 +141,21 @@ std::optional<std::span<const std::byte>> checkedContents(std::span<const std::b
 
 } // namespace
 
+void NSKeyedArchiver::encode(std::string_view key, std::string_view text)
+{
+    put(key, ArchivedValue(std::string(text)));
+}
+
+void NSKeyedArchiver::encode(std::string_view key, const NSData& data)
+{
+    put(key, ArchivedValue(data));
+}
+
+void NSKeyedArchiver::put(std::string_view key, ArchivedValue value)
+{
+    values_.insert_or_assign(std::string(key), std::move(value));
+}
+
 std::optional<NSData> NSKeyedArchiver::finishEncoding() const
 {
     ArchiveWriter writer;
@@ -178,6 +193,33 @@ std::optional<NSKeyedUnarchiver> NSKeyedUnarchiver::unarchiverForReadingFromData
         unarchiver.values_.emplace_hint(unarchiver.values_.end(), std::move(*key), std::move(*value));
     }
     return reader.isAtEnd() ? std::optional(std::move(unarchiver)) : std::nullopt;
+}
+
+template <typename T> std::optional<T> NSKeyedUnarchiver::decode(std::string_view key) const
+{
+    const auto found = values_.find(key);
+    const T* value = found == values_.end() ? nullptr : std::get_if<T>(&found->second);
+    return value ? std::optional<T>(*value) : std::nullopt;
+}
+
+std::optional<std::string> NSKeyedUnarchiver::decodeString(std::string_view key) const
+{
+    return decode<std::string>(key);
+}
+
+std::optional<NSData> NSKeyedUnarchiver::decodeData(std::string_view key) const
+{
+    return decode<NSData>(key);
+}
+
+std::optional<NSDate> NSKeyedUnarchiver::decodeDate(std::string_view key) const
+{
+    return decode<NSDate>(key);
+}
+
+bool NSKeyedUnarchiver::containsValueForKey(std::string_view key) const
+{
+    return values_.contains(key);
 }
 
 } // namespace tarn

@@ -40,16 +40,13 @@ public:
         if (value)
             put(key, ArchivedValue(*value));
     }
-    void encode(std::string_view key, std::string_view text) { put(key, ArchivedValue(std::string(text))); }
-    void encode(std::string_view key, const NSData& data) { put(key, ArchivedValue(data)); }
+    void encode(std::string_view key, std::string_view text);
+    void encode(std::string_view key, const NSData& data);
     /// Ends the archive. None when a name does not fit, a value is 4 GiB or larger, or there are more than 65,535.
     std::optional<NSData> finishEncoding() const;
 
 private:
-    void put(std::string_view key, ArchivedValue value)
-    {
-        values_.insert_or_assign(std::string(key), std::move(value));
-    }
+    void put(std::string_view key, ArchivedValue value);
 
     std::string className_;
     std::map<std::string, ArchivedValue, std::less<>> values_;
@@ -64,20 +61,15 @@ public:
         std::span<const std::byte> bytes, std::string_view allowedClassName);
 
     /// None when there is no such value, or one of another kind.
-    std::optional<std::string> decodeString(std::string_view key) const { return decode<std::string>(key); }
-    std::optional<NSData> decodeData(std::string_view key) const { return decode<NSData>(key); }
-    std::optional<NSDate> decodeDate(std::string_view key) const { return decode<NSDate>(key); }
+    std::optional<std::string> decodeString(std::string_view key) const;
+    std::optional<NSData> decodeData(std::string_view key) const;
+    std::optional<NSDate> decodeDate(std::string_view key) const;
     /// Whether there is a value of that key, of any kind.
-    bool containsValueForKey(std::string_view key) const { return values_.contains(key); }
+    bool containsValueForKey(std::string_view key) const;
 
 private:
     NSKeyedUnarchiver() = default;
-    template <typename T> std::optional<T> decode(std::string_view key) const
-    {
-        const auto found = values_.find(key);
-        const T* value = found == values_.end() ? nullptr : std::get_if<T>(&found->second);
-        return value ? std::optional<T>(*value) : std::nullopt;
-    }
+    template <typename T> std::optional<T> decode(std::string_view key) const;
 
     std::map<std::string, ArchivedValue, std::less<>> values_;
 };

@@ -6,9 +6,7 @@
 #include "tarnmodel/platform/foundation/values/Value.h"
 
 #include <cstdint>
-#include <functional>
 #include <map>
-#include <memory>
 #include <optional>
 #include <set>
 #include <string>
@@ -18,6 +16,9 @@
 namespace tarn {
 
 class ContextCore;
+class KeyValueObservation;
+class KeyValueObserver;
+class Lifeline;
 class NSManagedObjectContext;
 class RecordMerge;
 class ToManySet;
@@ -33,21 +34,6 @@ private:
     { }
     NSManagedObjectContext* context_;
     NSManagedObjectID objectID_;
-};
-
-/// Ends an observation when it goes. Movable; may outlive the record.
-class KeyValueObservation {
-public:
-    KeyValueObservation() = default;
-    KeyValueObservation(KeyValueObservation&& other) noexcept;
-    KeyValueObservation& operator=(KeyValueObservation&& other) noexcept;
-    ~KeyValueObservation();
-    void invalidate();
-
-private:
-    friend class NSManagedObject;
-    explicit KeyValueObservation(std::weak_ptr<void> registration) : registration_(std::move(registration)) { }
-    std::weak_ptr<void> registration_;
 };
 
 /// One record: the values of an entity's properties, tracked by its context.
@@ -98,15 +84,15 @@ public:
     void setPrimitiveValueForKey(std::string_view key, const Value& value);
 
     /// Expires when this object ends: with its context, or when that is reset. `WeakReference<OVNote>` refers to a
-    /// record with it, and does not keep it. On the context's queue.
-    std::weak_ptr<const void> lifeline() const;
+    /// record with it, and does not keep it; the type is in "WeakReference.h". On the context's queue.
+    Lifeline lifeline() const;
 
     // Key-value observation -------------------------------------------------------------------------------------------
-    using Observer = std::function<void(NSManagedObject& record, std::string_view key)>;
     /// Calls `observer` after every write of the key, also when the value stays the same; "xValue" hears of "x".
     /// Also after a merge, a refresh or a rollback that brought another value (of a to-many: that may have brought
     /// other members), once all values are there; what a fetch brings is told when changes are processed next.
-    [[nodiscard]] KeyValueObservation addObserver(std::string_view key, Observer observer);
+    /// The types are in "KeyValueObservation.h".
+    [[nodiscard]] KeyValueObservation addObserver(std::string_view key, KeyValueObserver observer);
     /// The keys whose change means that `key` changed too.
     virtual std::set<std::string> keysAffectingValueForKey(std::string_view key) const;
     void willChangeValueForKey(std::string_view key);
@@ -151,7 +137,7 @@ public:
     void setPrimitiveDataAt(PropertyIndex index, const std::optional<NSData>& value);
     NSManagedObject* toOneAt(PropertyIndex index) const;
     void setToOneAt(PropertyIndex index, NSManagedObject* target);
-    /// The live set behind a to-many relationship; see NSManagedObjectSet.h.
+    /// The live set behind a to-many relationship: what an `NSManagedObjectSet` is made from.
     ToManySet& toManyAt(PropertyIndex index) const;
 
 private:
@@ -171,7 +157,7 @@ private:
     NSManagedObjectContext* context_;
     NSManagedObjectID objectID_;
     mutable PropertyValues values_;
-    mutable std::unique_ptr<RecordDetails> details_; ///< changes, to-many sets, observers: what few records have
+    mutable RecordDetails* details_ = nullptr; ///< owned: changes, to-many sets, observers, which few records have
     std::int64_t rowVersion_ = 0;
     mutable std::uint32_t flags_ = 0;
     std::uint32_t order_ = 0; ///< order of insertion into the context

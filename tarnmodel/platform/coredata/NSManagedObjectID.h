@@ -1,9 +1,8 @@
 #pragma once
 
-#include "tarnmodel/platform/coredata/NSManagedObjectModel.h"
+#include "tarnmodel/platform/coredata/NSEntityDescription.h"
 
 #include <cstdint>
-#include <functional>
 #include <string>
 #include <string_view>
 

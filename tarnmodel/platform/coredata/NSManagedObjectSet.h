@@ -1,59 +1,27 @@
 #pragma once
 
 #include "tarnmodel/platform/coredata/NSManagedObject.h"
-#include "tarnmodel/platform/coredata/OrderedSet.h"
 
 #include <cstddef>
-#include <iterator>
 #include <span>
 #include <vector>
 
 namespace tarn {
 
-/// The members of a to-many relationship of one record.
-///
-/// While it is not loaded it keeps only what was added and removed, so a change never reads the other members.
-/// Owned by its record. Every change keeps the inverse in step.
-class ToManySet {
+/// What the sets of all record classes share; see `NSManagedObjectSet`.
+class UntypedManagedObjectSet {
 public:
-    ToManySet(NSManagedObject& owner, const NSRelationshipDescription& relationship);
+    explicit UntypedManagedObjectSet(ToManySet& set) noexcept : set_(&set) { }
 
-    /// All members: stored ones by primary key, then added ones in order. Loads the set.
-    const std::vector<NSManagedObject*>& members();
-    /// Without loading other members where it can.
-    bool contains(const NSManagedObject& member);
-    std::size_t count();
+    const std::vector<NSManagedObject*>& members() const;
+    std::size_t count() const;
+    bool contains(const NSManagedObject& member) const;
     void add(NSManagedObject& member);
     void remove(NSManagedObject& member);
-    /// Writes the difference only; an equal set changes nothing.
     void set(std::span<NSManagedObject* const> members);
 
-    bool isLoaded() const noexcept { return loaded_; }
-    const NSRelationshipDescription& relationship() const noexcept { return *relationship_; }
-    /// Since the last save.
-    const std::vector<NSManagedObject*>& added() const { return added_.values(); }
-    const std::vector<NSManagedObject*>& removed() const { return removed_.values(); }
-
 private:
-    friend class RelationshipMaintenance;
-    bool holds(const NSManagedObject& member) const;
-    void put(NSManagedObject& member);
-    void take(NSManagedObject& member);
-    void settle();
-    void unload();
-    /// Reads the stored members again at next use; unsaved additions and removals stay.
-    void forgetStored();
-
-    void putInOrder();
-
-    NSManagedObject* owner_;
-    const NSRelationshipDescription* relationship_;
-    bool loaded_ = false;
-    bool isInOrder_ = true;
-    std::size_t place_ = 0;                ///< among the loaded sets of the context
-    OrderedSet<NSManagedObject*> members_; ///< while not loaded those that were, if any
-    OrderedSet<NSManagedObject*> added_;
-    OrderedSet<NSManagedObject*> removed_;
+    ToManySet* set_;
 };
 
 /// The live, typed set that a record's `xSet()` gives. A light handle: copy it freely, keep it no longer than the
@@ -92,22 +60,22 @@ public:
         Members::const_iterator place_;
     };
 
-    explicit NSManagedObjectSet(ToManySet& set) : set_(&set) { }
+    explicit NSManagedObjectSet(ToManySet& set) noexcept : set_(set) { }
 
     /// The members themselves. Where the body fetches or changes members, walk `allObjects()`.
-    Iterator begin() const { return Iterator(set_->members().begin()); }
-    Iterator end() const { return Iterator(set_->members().end()); }
+    Iterator begin() const { return Iterator(set_.members().begin()); }
+    Iterator end() const { return Iterator(set_.members().end()); }
 
-    void addObject(Record& record) { set_->add(record); }
-    void removeObject(Record& record) { set_->remove(record); }
-    bool containsObject(const Record& record) const { return set_->contains(record); }
-    std::size_t count() const { return set_->count(); }
+    void addObject(Record& record) { set_.add(record); }
+    void removeObject(Record& record) { set_.remove(record); }
+    bool containsObject(const Record& record) const { return set_.contains(record); }
+    std::size_t count() const { return set_.count(); }
     bool empty() const { return count() == 0; }
     /// A copy, which members that come and go do not touch.
     std::vector<Record*> allObjects() const
     {
         std::vector<Record*> records;
-        const auto& members = set_->members();
+        const auto& members = set_.members();
         records.reserve(members.size());
         for (NSManagedObject* member : members)
             records.push_back(static_cast<Record*>(member));
@@ -116,12 +84,12 @@ public:
     void setObjects(const std::vector<Record*>& records)
     {
         const std::vector<NSManagedObject*> members(records.begin(), records.end());
-        set_->set(members);
+        set_.set(members);
     }
-    void removeAllObjects() { set_->set({}); }
+    void removeAllObjects() { set_.set({}); }
 
 private:
-    ToManySet* set_;
+    UntypedManagedObjectSet set_;
 };
 
 } // namespace tarn

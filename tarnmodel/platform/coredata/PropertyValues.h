@@ -1,8 +1,7 @@
 #pragma once
 
-#include "tarnmodel/platform/coredata/NSManagedObjectModel.h"
+#include "tarnmodel/platform/coredata/NSEntityDescription.h"
 
-#include <atomic>
 #include <bit>
 #include <cstdint>
 #include <string_view>
@@ -13,13 +12,13 @@ namespace tarn {
 class SharedBytes {
 public:
     static SharedBytes* make(std::string_view bytes);
-    void retain() noexcept { owners_.fetch_add(1, std::memory_order_relaxed); }
+    void retain() noexcept;
     void release() noexcept;
     std::string_view view() const noexcept { return {reinterpret_cast<const char*>(this + 1), length_}; }
 
 private:
     explicit SharedBytes(std::uint32_t length) : length_(length) { }
-    std::atomic<std::uint32_t> owners_{1};
+    std::uint32_t owners_ = 1; ///< counted atomically
     std::uint32_t length_;
 };
 

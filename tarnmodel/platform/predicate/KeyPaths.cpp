@@ -1,5 +1,6 @@
 #include "tarnmodel/platform/predicate/NSPredicate.h"
 #include "tarnmodel/platform/predicate/PredicateNesting.h"
+#include "tarnmodel/platform/predicate/PredicateTree.h"
 
 #include <algorithm>
 #include <optional>

@@ -5,6 +5,7 @@
 #include "tarnmodel/platform/predicate/PredicateNesting.h"
 #include "tarnmodel/platform/predicate/PredicateParser.h"
 #include "tarnmodel/platform/predicate/PredicatePrinter.h"
+#include "tarnmodel/platform/predicate/PredicateTree.h"
 
 #include <utility>
 

@@ -1,14 +1,18 @@
 #pragma once
 
-#include "tarnmodel/platform/predicate/PredicateTree.h"
+#include "tarnmodel/platform/foundation/values/Value.h"
 
 #include <initializer_list>
+#include <memory>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace tarn {
+
+struct PredicateNode;
+using PredicateNodePtr = std::shared_ptr<const PredicateNode>;
 
 /// A query over objects, written in predicate format syntax.
 ///

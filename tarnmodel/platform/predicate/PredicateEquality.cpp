@@ -1,5 +1,7 @@
 #include "tarnmodel/platform/predicate/PredicateEquality.h"
 
+#include "tarnmodel/platform/predicate/PredicateTree.h"
+
 #include <algorithm>
 
 namespace tarn {

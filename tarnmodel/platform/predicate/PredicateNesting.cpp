@@ -1,6 +1,7 @@
 #include "tarnmodel/platform/predicate/PredicateNesting.h"
 
 #include "tarnmodel/platform/foundation/values/NSException.h"
+#include "tarnmodel/platform/predicate/PredicateTree.h"
 
 #include <fmt/format.h>
 

@@ -4,6 +4,7 @@
 #include "tarnmodel/platform/foundation/values/NSException.h"
 #include "tarnmodel/platform/predicate/ConstantText.h"
 #include "tarnmodel/platform/predicate/PredicateNesting.h"
+#include "tarnmodel/platform/predicate/PredicateTree.h"
 
 #include <fmt/format.h>
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tarnmodel/platform/predicate/PredicateTokenizer.h"
+#include "tarnmodel/platform/predicate/PredicateTree.h"
 
 #include <span>
 #include <string>

@@ -2,6 +2,7 @@
 
 #include "tarnmodel/platform/predicate/ConstantText.h"
 #include "tarnmodel/platform/predicate/PredicateNesting.h"
+#include "tarnmodel/platform/predicate/PredicateTree.h"
 #include "tarnmodel/platform/predicate/PredicateVocabulary.h"
 
 namespace tarn {

@@ -1,4 +1,5 @@
 #include "tarnmodel/platform/foundation/values/NSException.h"
+#include "tarnmodel/platform/predicate/PredicateTree.h"
 #include "tarnmodel/platform/predicate/PreparedPredicate.h"
 #include "tarnmodel/platform/predicate/ValueComparison.h"
 

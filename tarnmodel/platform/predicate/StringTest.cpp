@@ -4,6 +4,7 @@
 #include "tarnmodel/platform/foundation/text/ByteSearch.h"
 #include "tarnmodel/platform/foundation/text/RegularExpression.h"
 #include "tarnmodel/platform/predicate/FoldedPattern.h"
+#include "tarnmodel/platform/predicate/PredicateTree.h"
 #include "tarnmodel/platform/predicate/WholeWordPattern.h"
 #include "tarnmodel/platform/predicate/WildcardPattern.h"
 

@@ -1,5 +1,7 @@
 #include "tests/platform/predicate/PredicateCases.h"
 
+#include "tarnmodel/platform/predicate/PredicateTree.h"
+
 #include <fstream>
 #include <string_view>
 

@@ -1,5 +1,6 @@
 #include "tarnmodel/platform/predicate/PredicateEvaluator.h"
 #include "tarnmodel/platform/foundation/values/NSException.h"
+#include "tarnmodel/platform/predicate/PredicateTree.h"
 #include "tests/platform/predicate/DictionaryObject.h"
 
 #include <gtest/gtest.h>

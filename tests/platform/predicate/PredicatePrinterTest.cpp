@@ -1,5 +1,6 @@
 #include "tarnmodel/platform/foundation/values/NSException.h"
 #include "tarnmodel/platform/predicate/NSPredicate.h"
+#include "tarnmodel/platform/predicate/PredicateTree.h"
 #include "tests/platform/predicate/DictionaryObject.h"
 #include "tests/platform/predicate/RandomPredicate.h"
 

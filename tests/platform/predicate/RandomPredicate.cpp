@@ -1,6 +1,7 @@
 #include "tests/platform/predicate/RandomPredicate.h"
 
 #include "tarnmodel/platform/foundation/text/UTF.h"
+#include "tarnmodel/platform/predicate/PredicateTree.h"
 
 #include <array>
 #include <bit>

@@ -4,6 +4,7 @@
 #include "tarnmodel/platform/foundation/text/UTF.h"
 #include "tarnmodel/platform/foundation/values/NSException.h"
 #include "tarnmodel/platform/predicate/FoldedPattern.h"
+#include "tarnmodel/platform/predicate/PredicateTree.h"
 #include "tarnmodel/platform/predicate/WholeWordPattern.h"
 
 #include <gmock/gmock.h>

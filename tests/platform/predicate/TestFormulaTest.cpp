@@ -1,4 +1,5 @@
 #include "tarnmodel/platform/predicate/TestFormula.h"
+#include "tarnmodel/platform/predicate/PredicateTree.h"
 
 #include <functional>
 #include <gtest/gtest.h>

@@ -1,5 +1,6 @@
 #include "tarnmodel/platform/coredata/context/ContextCore.h"
 
+#include "tarnmodel/platform/coredata/NSManagedObjectModel.h"
 #include "tarnmodel/platform/coredata/context/RecordAccess.h"
 #include "tarnmodel/platform/coredata/context/StoreCatchUp.h"
 #include "tarnmodel/platform/foundation/events/NSNotificationCenter.h"

@@ -12,20 +12,6 @@ namespace tarn {
 
 namespace {
 
-[[noreturn]] void raiseUnknownKey(const NSManagedObject& record, std::string_view key)
-{
-    throw NSException(NSUndefinedKeyException,
-        "The entity \"" + record.entity().name() + "\" has no property \"" + std::string(key) + "\"");
-}
-
-const NSPropertyDescription& propertyForKey(const NSManagedObject& record, std::string_view key)
-{
-    const NSPropertyDescription* property = record.entity().propertyNamed(key);
-    if (!property)
-        raiseUnknownKey(record, key);
-    return *property;
-}
-
 Value arrayOf(const std::vector<NSManagedObject*>& records)
 {
     Value::Array values;
@@ -40,7 +26,10 @@ Value arrayOf(const std::vector<NSManagedObject*>& records)
 NSManagedObject::NSManagedObject(const NSManagedObjectSeed& seed) : context_(seed.context_), objectID_(seed.objectID_)
 { }
 
-NSManagedObject::~NSManagedObject() = default;
+NSManagedObject::~NSManagedObject()
+{
+    delete details_;
+}
 
 void NSManagedObject::awakeFromMerge(RecordMerge&) { }
 
@@ -48,8 +37,16 @@ std::unique_ptr<NSManagedObject> RecordAccess::make(NSManagedObjectContext& cont
 {
     const NSManagedObjectSeed seed(context, objectID);
     if (const RecordConstructor constructor = objectID.entity().recordConstructor())
-        return constructor(seed);
+        return std::unique_ptr<NSManagedObject>(constructor(seed));
     return std::make_unique<NSManagedObject>(seed);
+}
+
+const NSPropertyDescription& RecordAccess::propertyForKey(const NSManagedObject& object, std::string_view key)
+{
+    if (const NSPropertyDescription* property = object.entity().propertyNamed(key))
+        return *property;
+    throw NSException(NSUndefinedKeyException,
+        "The entity \"" + object.entity().name() + "\" has no property \"" + std::string(key) + "\"");
 }
 
 void RecordAccess::markGone(NSManagedObject& object)
@@ -120,7 +117,7 @@ std::map<std::string, Value> NSManagedObject::committedValuesForKeys(const std::
 {
     std::map<std::string, Value> values;
     for (const std::string& key : keys) {
-        const NSPropertyDescription& property = propertyForKey(*this, key);
+        const NSPropertyDescription& property = RecordAccess::propertyForKey(*this, key);
         const PropertyIndex index = property.index();
         if (!(flags_ & Inserted))
             prepareRead(index);
@@ -344,7 +341,7 @@ void NSManagedObject::setToOneAt(PropertyIndex index, NSManagedObject* target)
 
 Value NSManagedObject::storedValueForKey(std::string_view key) const
 {
-    const NSPropertyDescription& property = propertyForKey(*this, key);
+    const NSPropertyDescription& property = RecordAccess::propertyForKey(*this, key);
     const PropertyIndex index = property.index();
     if (!property.isRelationship())
         return prepareRead(index) ? values_.attributeValue(index) : Value();
@@ -381,7 +378,7 @@ NSManagedObject* recordOf(const Value& value, std::string_view key)
 
 void NSManagedObject::setPrimitiveValueForKey(std::string_view key, const Value& value)
 {
-    const NSPropertyDescription& property = propertyForKey(*this, key);
+    const NSPropertyDescription& property = RecordAccess::propertyForKey(*this, key);
     const PropertyIndex index = property.index();
     if (!property.isRelationship()) {
         write(index, false, [&](PropertyValues& values) {
@@ -403,113 +400,6 @@ void NSManagedObject::setPrimitiveValueForKey(std::string_view key, const Value&
     else if (!value.isNil())
         throw NSException(NSInvalidArgumentException, "\"" + std::string(key) + "\" takes an array of records");
     toManyAt(index).set(members);
-}
-
-// Key-value observation ---------------------------------------------------------------------------------------------
-
-KeyValueObservation::KeyValueObservation(KeyValueObservation&& other) noexcept
-    : registration_(std::move(other.registration_))
-{
-    other.registration_.reset();
-}
-
-KeyValueObservation& KeyValueObservation::operator=(KeyValueObservation&& other) noexcept
-{
-    if (this != &other) {
-        invalidate();
-        registration_ = std::move(other.registration_);
-        other.registration_.reset();
-    }
-    return *this;
-}
-
-KeyValueObservation::~KeyValueObservation()
-{
-    invalidate();
-}
-
-void KeyValueObservation::invalidate()
-{
-    if (const auto registration = std::static_pointer_cast<ObserverRegistration>(registration_.lock()))
-        registration->active = false;
-    registration_.reset();
-}
-
-std::weak_ptr<const void> NSManagedObject::lifeline() const
-{
-    core().assertOnQueue(this);
-    auto& lifeline = RecordAccess::details(*this).lifeline;
-    if (!lifeline)
-        lifeline = std::make_shared<char>();
-    return lifeline;
-}
-
-KeyValueObservation NSManagedObject::addObserver(std::string_view key, Observer observer)
-{
-    core().assertOnQueue(this);
-    auto& observers = RecordAccess::details(*this).observers;
-    std::erase_if(observers, [](const auto& registration) { return !registration->active; });
-    observers.push_back(
-        std::make_shared<ObserverRegistration>(ObserverRegistration{std::string(key), std::move(observer)}));
-    return KeyValueObservation(observers.back());
-}
-
-std::set<std::string> NSManagedObject::keysAffectingValueForKey(std::string_view key) const
-{
-    constexpr std::string_view suffix = "Value";
-    if (!key.ends_with(suffix))
-        return {};
-    const std::string_view base = key.substr(0, key.size() - suffix.size());
-    const NSAttributeDescription* attribute = entity().attributeNamed(base);
-    return attribute && attribute->isScalar() ? std::set<std::string>{std::string(base)} : std::set<std::string>();
-}
-
-void RecordAccess::keepObserved(const NSManagedObject& object)
-{
-    object.core().observedValues.keep(object);
-}
-
-bool RecordAccess::isObserved(const NSManagedObject& object, const std::string& key)
-{
-    const auto hears = [&](const auto& registration) {
-        return registration->active
-            && (registration->key == key || object.keysAffectingValueForKey(registration->key).contains(key));
-    };
-    const RecordDetails* details = detailsIfAny(object);
-    return details && std::any_of(details->observers.begin(), details->observers.end(), hears);
-}
-
-void NSManagedObject::tellObservers(std::string_view key)
-{
-    if (!details_ || details_->observers.empty())
-        return;
-    const std::string changed(key);
-    const auto observers = details_->observers;
-    for (const auto& registration : observers)
-        if (registration->active
-            && (registration->key == changed || keysAffectingValueForKey(registration->key).contains(changed)))
-            registration->observer(*this, registration->key);
-}
-
-void NSManagedObject::willChangeValueForKey(std::string_view key)
-{
-    propertyForKey(*this, key);
-    core().beginWrite(*this);
-}
-
-void NSManagedObject::didChangeValueForKey(std::string_view key)
-{
-    tellObservers(propertyForKey(*this, key).name());
-}
-
-void NSManagedObject::willAccessValueForKey(std::string_view key) const
-{
-    prepareRead(propertyForKey(*this, key).index());
-}
-
-void NSManagedObject::didAccessValueForKey(std::string_view key) const
-{
-    propertyForKey(*this, key);
 }
 
 } // namespace tarn

@@ -1,5 +1,6 @@
 #include "tarnmodel/platform/coredata/NSManagedObjectContext.h"
 
+#include "tarnmodel/platform/coredata/NSManagedObjectModel.h"
 #include "tarnmodel/platform/coredata/context/ContextCore.h"
 #include "tarnmodel/platform/coredata/context/PendingFetch.h"
 #include "tarnmodel/platform/coredata/context/RecordAccess.h"

@@ -11,15 +11,17 @@ class RecordAccess {
 public:
     static std::unique_ptr<NSManagedObject> make(NSManagedObjectContext& context, const NSManagedObjectID& objectID);
 
+    /// Raises `NSUndefinedKeyException` for an unknown key.
+    static const NSPropertyDescription& propertyForKey(const NSManagedObject& object, std::string_view key);
     static PropertyValues& values(const NSManagedObject& object) { return object.values_; }
     static RecordDetails& details(const NSManagedObject& object)
     {
         if (!object.details_)
-            object.details_ = std::make_unique<RecordDetails>();
+            object.details_ = new RecordDetails;
         return *object.details_;
     }
     /// Null when the record has none.
-    static RecordDetails* detailsIfAny(const NSManagedObject& object) { return object.details_.get(); }
+    static RecordDetails* detailsIfAny(const NSManagedObject& object) { return object.details_; }
     static PropertyMask changed(const NSManagedObject& object)
     {
         return object.details_ ? object.details_->changed : 0;

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "tarnmodel/platform/coredata/NSManagedObjectSet.h"
+#include "tarnmodel/platform/coredata/KeyValueObservation.h"
+#include "tarnmodel/platform/coredata/context/ToManySet.h"
 
 #include <memory>
 #include <string>
@@ -11,7 +12,7 @@ namespace tarn {
 /// One observation of one key of a record.
 struct ObserverRegistration {
     std::string key;
-    NSManagedObject::Observer observer;
+    KeyValueObserver observer;
     bool active = true;
 };
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tarnmodel/platform/coredata/NSManagedObjectSet.h"
+#include "tarnmodel/platform/coredata/context/ToManySet.h"
 #include "tarnmodel/platform/coredata/rows/RowStore.h"
 
 #include <cstdint>

@@ -2,6 +2,7 @@
 
 #include "tarnmodel/platform/coredata/IdentifiedObject.h"
 #include "tarnmodel/platform/foundation/text/Folding.h"
+#include "tarnmodel/platform/predicate/PredicateTree.h"
 
 #include <iterator>
 

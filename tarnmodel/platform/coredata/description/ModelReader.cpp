@@ -2,6 +2,7 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <map>
 #include <set>
 
@@ -160,8 +161,8 @@ void ModelReader::collectProperties(NSEntityDescription& entity)
         property->index_ = static_cast<PropertyIndex>(entity.properties_.size());
         entity.properties_.push_back(property);
     }
-    for (const NSPropertyDescription* property : entity.properties_)
-        entity.propertiesByName_.emplace(property->name_, property);
+    entity.propertiesByName_ = entity.properties_;
+    std::ranges::stable_sort(entity.propertiesByName_, {}, &NSPropertyDescription::name);
     for (const NSEntityDescription* child : entity.subentities_)
         collectProperties(*this->entity(child->name_));
 }

@@ -1,6 +1,7 @@
 #include "tarnmodel/platform/coredata/description/PredicateKeys.h"
 
 #include "tarnmodel/platform/foundation/values/NSException.h"
+#include "tarnmodel/platform/predicate/PredicateTree.h"
 
 #include <algorithm>
 

@@ -2,6 +2,7 @@
 
 #include "tarnmodel/platform/coredata/NSManagedObjectModel.h"
 #include "tarnmodel/platform/predicate/NSPredicate.h"
+#include "tarnmodel/platform/predicate/PredicateTree.h"
 
 #include <string>
 #include <vector>

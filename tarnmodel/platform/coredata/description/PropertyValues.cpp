@@ -4,6 +4,7 @@
 #include "tarnmodel/platform/foundation/values/NSException.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cassert>
 #include <cmath>
 #include <cstring>
@@ -27,9 +28,14 @@ SharedBytes* SharedBytes::make(std::string_view bytes)
     return made;
 }
 
+void SharedBytes::retain() noexcept
+{
+    std::atomic_ref(owners_).fetch_add(1, std::memory_order_relaxed);
+}
+
 void SharedBytes::release() noexcept
 {
-    if (owners_.fetch_sub(1, std::memory_order_acq_rel) != 1)
+    if (std::atomic_ref(owners_).fetch_sub(1, std::memory_order_acq_rel) != 1)
         return;
     this->~SharedBytes();
     ::operator delete(this);

@@ -1,5 +1,6 @@
 #include "tarnmodel/platform/coredata/memory/InMemoryStore.h"
 
+#include "tarnmodel/platform/coredata/NSManagedObjectModel.h"
 #include "tarnmodel/platform/coredata/memory/InMemoryFetch.h"
 #include "tarnmodel/platform/coredata/memory/InMemoryTransaction.h"
 #include "tarnmodel/platform/coredata/rows/StoreFailure.h"

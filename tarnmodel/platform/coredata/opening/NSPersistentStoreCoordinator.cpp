@@ -1,5 +1,6 @@
 #include "tarnmodel/platform/coredata/NSPersistentStoreCoordinator.h"
 
+#include "tarnmodel/platform/coredata/NSManagedObjectModel.h"
 #include "tarnmodel/platform/coredata/memory/InMemoryStore.h"
 #include "tarnmodel/platform/coredata/rows/StoreFailure.h"
 #include "tarnmodel/platform/coredata/rows/StoreMetadata.h"

@@ -1,5 +1,7 @@
 #include "tarnmodel/platform/coredata/query/PredicateGrouping.h"
 
+#include "tarnmodel/platform/predicate/PredicateTree.h"
+
 #include <string>
 #include <unordered_map>
 

@@ -1,6 +1,7 @@
 // Conditions on collections: ANY, ALL, NONE, membership, counts and subqueries.
 
 #include "tarnmodel/platform/coredata/query/SQLConditionBuilder.h"
+#include "tarnmodel/platform/predicate/PredicateTree.h"
 
 #include <array>
 

@@ -4,6 +4,7 @@
 #include "tarnmodel/platform/coredata/query/SQLConditionBuilder.h"
 #include "tarnmodel/platform/foundation/text/Folding.h"
 #include "tarnmodel/platform/foundation/text/UTF.h"
+#include "tarnmodel/platform/predicate/PredicateTree.h"
 
 #include <array>
 #include <cmath>

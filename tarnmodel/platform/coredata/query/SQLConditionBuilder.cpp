@@ -3,6 +3,7 @@
 #include "tarnmodel/platform/coredata/query/PredicateGrouping.h"
 #include "tarnmodel/platform/foundation/values/NSException.h"
 #include "tarnmodel/platform/predicate/PredicateEvaluator.h"
+#include "tarnmodel/platform/predicate/PredicateTree.h"
 
 #include <algorithm>
 #include <span>

@@ -6,6 +6,7 @@
 #include "tarnmodel/platform/coredata/sqlite/RowTextTests.h"
 #include "tarnmodel/platform/foundation/text/Folding.h"
 #include "tarnmodel/platform/predicate/PredicateEquality.h"
+#include "tarnmodel/platform/predicate/PredicateTree.h"
 
 #include <algorithm>
 #include <map>

@@ -1,6 +1,7 @@
 #include "tarnmodel/platform/coredata/query/TextLeaf.h"
 
 #include "tarnmodel/platform/coredata/description/PredicateKeys.h"
+#include "tarnmodel/platform/predicate/PredicateTree.h"
 
 namespace tarn {
 

@@ -1,5 +1,6 @@
 #include "tarnmodel/platform/coredata/rows/StoreMetadata.h"
 
+#include "tarnmodel/platform/coredata/NSManagedObjectModel.h"
 #include "tarnmodel/platform/foundation/system/NSUUID.h"
 #include "tarnmodel/platform/foundation/text/Folding.h"
 

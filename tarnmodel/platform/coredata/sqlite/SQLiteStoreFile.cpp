@@ -1,5 +1,6 @@
 #include "tarnmodel/platform/coredata/sqlite/SQLiteStoreFile.h"
 
+#include "tarnmodel/platform/coredata/NSManagedObjectModel.h"
 #include "tarnmodel/platform/coredata/sqlite/SQLiteConnection.h"
 #include "tarnmodel/platform/coredata/sqlite/TransactionGuards.h"
 #include "tarnmodel/platform/foundation/text/Folding.h"

@@ -1,5 +1,7 @@
 #include "tarnmodel/platform/coredata/sqlite/StoreSchema.h"
 
+#include "tarnmodel/platform/coredata/NSManagedObjectModel.h"
+
 #include <algorithm>
 
 namespace tarn {

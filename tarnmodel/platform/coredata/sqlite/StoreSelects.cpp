@@ -1,5 +1,6 @@
 #include "tarnmodel/platform/coredata/sqlite/StoreSelects.h"
 
+#include "tarnmodel/platform/coredata/NSManagedObjectModel.h"
 #include "tarnmodel/platform/coredata/rows/StoreFailure.h"
 #include "tarnmodel/platform/coredata/sqlite/SQLiteConnection.h"
 #include "tarnmodel/platform/coredata/sqlite/SQLiteFunctions.h"

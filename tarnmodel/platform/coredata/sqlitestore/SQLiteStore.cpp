@@ -1,5 +1,6 @@
 #include "tarnmodel/platform/coredata/sqlitestore/SQLiteStore.h"
 
+#include "tarnmodel/platform/coredata/NSManagedObjectModel.h"
 #include "tarnmodel/platform/coredata/description/CompleteOrder.h"
 #include "tarnmodel/platform/coredata/query/SQLiteFetch.h"
 #include "tarnmodel/platform/coredata/rows/StoreFailure.h"

@@ -2,6 +2,7 @@
 
 #include "tarnmodel/platform/coredata/description/PredicateKeys.h"
 #include "tarnmodel/platform/coredata/sqlite/SQLiteConnection.h"
+#include "tarnmodel/platform/predicate/PredicateTree.h"
 
 #include <algorithm>
 #include <utility>

@@ -3,6 +3,7 @@
 #include "tarnmodel/platform/coredata/query/SQLConditionBuilder.h"
 #include "tarnmodel/platform/coredata/textsearch/SearchIndex.h"
 #include "tarnmodel/platform/predicate/NSPredicate.h"
+#include "tarnmodel/platform/predicate/PredicateTree.h"
 
 #include <functional>
 

@@ -4,6 +4,7 @@
 #include "tarnmodel/platform/coredata/rows/SaturatingSum.h"
 #include "tarnmodel/platform/coredata/sqlite/SQLiteConnection.h"
 #include "tarnmodel/platform/coredata/textsearch/CandidateFinder.h"
+#include "tarnmodel/platform/predicate/PredicateTree.h"
 
 #include <fmt/format.h>
 

@@ -5,10 +5,10 @@
 
 #include <concepts>
 #include <cstdint>
-#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <variant>
 #include <vector>
 
@@ -26,6 +26,27 @@ public:
     virtual Value storedValueForKey(std::string_view key) const = 0;
     /// Whether both stand for the same object; equal addresses always do.
     virtual bool isEqualToObject(const NSKeyValueCoding& other) const { return this == &other; }
+};
+
+/// An immutable array of values that its copies share. Any thread.
+class SharedValues {
+public:
+    explicit SharedValues(std::vector<Value> values);
+    SharedValues(const SharedValues& other) noexcept;
+    SharedValues(SharedValues&& other) noexcept : counted_(std::exchange(other.counted_, nullptr)) { }
+    SharedValues& operator=(SharedValues other) noexcept
+    {
+        std::swap(counted_, other.counted_);
+        return *this;
+    }
+    ~SharedValues();
+
+    /// Not of one that was moved away.
+    const std::vector<Value>& values() const noexcept;
+
+private:
+    struct Counted;
+    Counted* counted_;
 };
 
 /// One value of a property or of a predicate: nil, a scalar, an object, or an array of values.
@@ -54,7 +75,7 @@ public:
         if (object)
             storage_ = object;
     }
-    Value(Array values) : storage_(std::make_shared<const Array>(std::move(values))) { }
+    Value(Array values) : storage_(SharedValues(std::move(values))) { }
     template <typename T> Value(const std::optional<T>& value)
     {
         if (value)
@@ -74,14 +95,14 @@ public:
     NSDate asDate() const { return std::get<NSDate>(storage_); }
     const NSData& asData() const { return std::get<NSData>(storage_); }
     const NSKeyValueCoding& asObject() const { return *std::get<const NSKeyValueCoding*>(storage_); }
-    const Array& asArray() const { return *std::get<std::shared_ptr<const Array>>(storage_); }
+    const Array& asArray() const { return std::get<SharedValues>(storage_).values(); }
 
     /// Same kind and same value; objects by `isEqualToObject`, arrays member by member.
     friend bool operator==(const Value& left, const Value& right);
 
 private:
     std::variant<std::monostate, bool, std::int64_t, double, std::string, NSDate, NSData, const NSKeyValueCoding*,
-        std::shared_ptr<const Array>>
+        SharedValues>
         storage_;
 };
 

@@ -1,8 +1,21 @@
 #pragma once
 
 #include <memory>
+#include <utility>
 
 namespace tarn {
+
+/// Tells whether an object still lives, without keeping it. Copies are about the same object.
+class Lifeline {
+public:
+    /// Of no object: expired.
+    Lifeline() = default;
+    explicit Lifeline(std::weak_ptr<const void> life) : life_(std::move(life)) { }
+    bool expired() const noexcept { return life_.expired(); }
+
+private:
+    std::weak_ptr<const void> life_;
+};
 
 /// Base of objects that others refer to without keeping them alive: delegates, first of all.
 ///
@@ -10,7 +23,7 @@ namespace tarn {
 class WeaklyReferenced {
 public:
     /// Expires when this object ends.
-    std::weak_ptr<const void> lifeline() const noexcept { return lifeline_; }
+    Lifeline lifeline() const noexcept { return Lifeline(lifeline_); }
 
 protected:
     WeaklyReferenced() = default;
@@ -39,7 +52,7 @@ public:
 
 private:
     Object* object_ = nullptr;
-    std::weak_ptr<const void> lifeline_;
+    Lifeline lifeline_;
 };
 
 } // namespace tarn

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "tarnmodel/platform/coredata/NSManagedObjectContext.h"
-#include "tarnmodel/platform/coredata/NSManagedObjectSet.h"
 #include "tarnmodel/platform/coredata/NSPersistentStoreCoordinator.h"
+#include "tarnmodel/platform/coredata/context/ToManySet.h"
 #include "tarnmodel/platform/foundation/system/NSUUID.h"
 
 #include <gmock/gmock.h>

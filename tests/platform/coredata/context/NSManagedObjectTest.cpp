@@ -1,3 +1,4 @@
+#include "tarnmodel/platform/coredata/KeyValueObservation.h"
 #include "tests/platform/coredata/context/ContextFixture.h"
 
 #include "tarnmodel/platform/foundation/values/NSException.h"

@@ -1,5 +1,6 @@
 // Observers of single keys hear of values that come whole: by a merge, a refresh, a rollback, or what others saved.
 
+#include "tarnmodel/platform/coredata/KeyValueObservation.h"
 #include "tests/platform/coredata/context/ContextFixture.h"
 
 #include "tarnmodel/platform/foundation/system/Log.h"

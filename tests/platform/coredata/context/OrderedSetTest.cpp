@@ -1,4 +1,4 @@
-#include "tarnmodel/platform/coredata/OrderedSet.h"
+#include "tarnmodel/platform/coredata/context/OrderedSet.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,4 +1,5 @@
 #include "tarnmodel/platform/coredata/QueueChecks.h"
+#include "tarnmodel/platform/coredata/KeyValueObservation.h"
 
 #include "tarnmodel/platform/foundation/system/Environment.h"
 #include "tarnmodel/platform/foundation/system/Log.h"

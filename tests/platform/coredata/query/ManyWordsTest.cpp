@@ -1,6 +1,7 @@
 // Searches of very many words: they pick what the evaluator picks, read each text once, and keep their limit.
 
 #include "tarnmodel/platform/predicate/PredicateEvaluator.h"
+#include "tarnmodel/platform/predicate/PredicateTree.h"
 #include "tests/platform/coredata/StoreFixture.h"
 
 #include <algorithm>

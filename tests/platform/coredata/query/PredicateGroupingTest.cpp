@@ -1,5 +1,6 @@
 #include "tarnmodel/platform/coredata/query/PredicateGrouping.h"
 #include "tarnmodel/platform/predicate/NSPredicate.h"
+#include "tarnmodel/platform/predicate/PredicateTree.h"
 
 #include <gtest/gtest.h>
 

@@ -5,6 +5,7 @@
 #include "tarnmodel/platform/coredata/sqlite/SQLiteConnection.h"
 #include "tarnmodel/platform/coredata/textsearch/CandidateFinder.h"
 #include "tarnmodel/platform/coredata/textsearch/StoreSearch.h"
+#include "tarnmodel/platform/predicate/PredicateTree.h"
 #include "tests/platform/coredata/StoreFixture.h"
 
 #include <fmt/format.h>

@@ -1,4 +1,5 @@
 #include "tarnmodel/platform/foundation/events/NSNotificationCenter.h"
+#include "tarnmodel/platform/coredata/KeyValueObservation.h"
 #include "tarnmodel/platform/foundation/events/Queue.h"
 
 #include <gmock/gmock.h>

@@ -1,5 +1,6 @@
-#include "tarnmodel/platform/coredata/NSManagedObjectSet.h"
+#include "tarnmodel/platform/coredata/context/ToManySet.h"
 
+#include "tarnmodel/platform/coredata/NSManagedObjectSet.h"
 #include "tarnmodel/platform/coredata/context/ContextCore.h"
 #include "tarnmodel/platform/coredata/context/RecordAccess.h"
 
@@ -149,6 +150,39 @@ void ToManySet::forgetStored()
 {
     if (std::exchange(loaded_, false))
         maintenance(*owner_).noteForgotten(*this);
+}
+
+// The face
+// -------------------------------------------------------------------------------------------------------------
+
+const std::vector<NSManagedObject*>& UntypedManagedObjectSet::members() const
+{
+    return set_->members();
+}
+
+std::size_t UntypedManagedObjectSet::count() const
+{
+    return set_->count();
+}
+
+bool UntypedManagedObjectSet::contains(const NSManagedObject& member) const
+{
+    return set_->contains(member);
+}
+
+void UntypedManagedObjectSet::add(NSManagedObject& member)
+{
+    set_->add(member);
+}
+
+void UntypedManagedObjectSet::remove(NSManagedObject& member)
+{
+    set_->remove(member);
+}
+
+void UntypedManagedObjectSet::set(std::span<NSManagedObject* const> members)
+{
+    set_->set(members);
 }
 
 } // namespace tarn
