@@ -1,5 +1,5 @@
 #include "tarnmodel/model/OVNoteCaches.h"
-#include "tarnmodel/platform/coredata/context/ToManySet.h"
+#include "tarnmodel/platform/coredata/context/records/ToManySet.h"
 #include "tests/support/StoreFixture.h"
 
 #include "tarnmodel/notes/OVNoteCacheLoan.h"

@@ -1,8 +1,9 @@
 #include "tarnmodel/platform/coredata/context/ContextCore.h"
 
 #include "tarnmodel/platform/coredata/NSManagedObjectModel.h"
-#include "tarnmodel/platform/coredata/context/RecordAccess.h"
-#include "tarnmodel/platform/coredata/context/StoreCatchUp.h"
+#include "tarnmodel/platform/coredata/context/merging/RemoteMerge.h"
+#include "tarnmodel/platform/coredata/context/merging/StoreCatchUp.h"
+#include "tarnmodel/platform/coredata/context/records/RecordAccess.h"
 #include "tarnmodel/platform/foundation/events/NSNotificationCenter.h"
 #include "tarnmodel/platform/foundation/values/NSException.h"
 
@@ -19,11 +20,12 @@ constexpr std::int64_t keyBlockSize = 64;
 } // namespace
 
 ContextCore::ContextCore(NSManagedObjectContext& owner, NSManagedObjectContext::ConcurrencyType type)
-    : context(owner), faulting(*this), relationships(*this), otherWriters(*this), observedValues(*this),
-      privateQueue_(type == NSManagedObjectContext::ConcurrencyType::PrivateQueue
-              ? SerialQueue::make("NSManagedObjectContext")
-              : nullptr),
-      queue_(privateQueue_ ? privateQueue_.get() : &MainQueue::main())
+    : privateQueue_(type == NSManagedObjectContext::ConcurrencyType::PrivateQueue
+            ? SerialQueue::make("NSManagedObjectContext")
+            : nullptr),
+      context_(owner), records(owner, *this, privateQueue_ ? *privateQueue_ : MainQueue::main()),
+      relationships(records), faulting(records, relationships), otherWriters(records, *this),
+      observedValues(records, faulting)
 { }
 
 ContextCore::~ContextCore()
@@ -33,8 +35,8 @@ ContextCore::~ContextCore()
         privateQueue_->sync([this] { children->close(); });
     else if (children)
         children->close();
-    queue_->cancelAtEndOfPass(this);
-    queue_->cancelAtEndOfPass(&otherWriters);
+    queue().cancelAtEndOfPass(this);
+    queue().cancelAtEndOfPass(&otherWriters);
     if (!privateQueue_)
         MainQueue::main().cancelInEachPass(this);
 }
@@ -46,13 +48,19 @@ void ContextCore::followStore()
         MainQueue::main().runInEachPass(this, [this] { otherWriters.lookAtEndOfPass(); });
 }
 
-RowStore& ContextCore::store() const
+RowStore* ContextCore::storeIfAny() const
 {
     if (parentStore)
-        return *parentStore;
-    if (!coordinator || !coordinator->rowStore())
+        return parentStore.get();
+    return coordinator ? coordinator->rowStore() : nullptr;
+}
+
+RowStore& ContextCore::store() const
+{
+    RowStore* const found = storeIfAny();
+    if (!found)
         throw NSException(NSInternalInconsistencyException, "The context has no persistent store");
-    return *coordinator->rowStore();
+    return *found;
 }
 
 std::shared_ptr<RowStore> ContextCore::sharedStore() const
@@ -62,7 +70,7 @@ std::shared_ptr<RowStore> ContextCore::sharedStore() const
 
 std::shared_ptr<Queue> ContextCore::sharedQueue() const
 {
-    return privateQueue_ ? privateQueue_ : std::shared_ptr<Queue>(std::shared_ptr<void>(), queue_);
+    return privateQueue_ ? privateQueue_ : std::shared_ptr<Queue>(std::shared_ptr<void>(), &queue());
 }
 
 void ContextCore::publish()
@@ -74,11 +82,16 @@ void ContextCore::publish()
         children.reset();
 }
 
+void ContextCore::takeRemoteChanges(const RemoteChanges& changes)
+{
+    RemoteMerge(records, faulting, relationships, conflictHandler).take(changes);
+}
+
 bool ContextCore::catchUp(const StoreTransaction& transaction, NSError* error)
 {
     if (knownState == transaction.stateNumber())
         return true;
-    if (!StoreCatchUp(*this).run(error))
+    if (!StoreCatchUp(records, relationships, mergePolicy, conflictHandler).run(error))
         return false;
     knownState = transaction.stateNumber();
     return true;
@@ -99,12 +112,12 @@ const PropertyValues& ContextCore::defaultValues(const NSEntityDescription& enti
 NSManagedObject& ContextCore::insert(const NSEntityDescription& entity)
 {
     assertOnQueue();
-    NSManagedObject& object
-        = registry.add(RecordAccess::make(context, NSManagedObjectID::makeTemporary(store().identity(), entity)));
+    NSManagedObject& object = records.registry.add(
+        RecordAccess::make(context_, NSManagedObjectID::makeTemporary(store().identity(), entity)));
     RecordAccess::fill(object, defaultValues(entity), 0);
     RecordAccess::markInserted(object, nextOrder_++);
-    tracker.noteInserted(object);
-    pendingIndex.touch(object, ~PropertyMask{0});
+    records.tracker.noteInserted(object);
+    records.pendingIndex.touch(object, ~PropertyMask{0});
     scheduleProcessing();
     object.awakeFromInsert();
     return object;
@@ -112,8 +125,8 @@ NSManagedObject& ContextCore::insert(const NSEntityDescription& entity)
 
 NSManagedObjectID ContextCore::localID(const NSManagedObjectID& objectID) const
 {
-    const bool hasStore = parentStore || (coordinator && coordinator->rowStore());
-    if (!objectID || !hasStore || &objectID.store() != &store().identity())
+    const RowStore* const ownStore = storeIfAny();
+    if (!objectID || !ownStore || &objectID.store() != &ownStore->identity())
         return {};
     const NSManagedObjectModel& model = coordinator->managedObjectModel();
     if (&objectID.entity().model() == &model)
@@ -123,33 +136,22 @@ NSManagedObjectID ContextCore::localID(const NSManagedObjectID& objectID) const
     return entity ? NSManagedObjectID(objectID.store(), *entity, objectID.key()) : NSManagedObjectID();
 }
 
-NSManagedObject& ContextCore::recordOrFault(const NSEntityDescription& entity, std::int64_t key)
-{
-    if (NSManagedObject* known = registry.find(entity.rootEntity(), key))
-        return *known;
-    NSManagedObject& object
-        = registry.add(RecordAccess::make(context, NSManagedObjectID(store().identity(), entity, key)));
-    RecordAccess::markFault(object);
-    faulting.noteFault(object);
-    return object;
-}
-
 NSManagedObject* ContextCore::adoptInsertion(
     const NSEntityDescription& entity, std::int64_t key, PropertyValues values, PropertyMask changed)
 {
     // Somebody may have asked for it by its identifier: then this is the object that it is from now on.
-    NSManagedObject* known = registry.find(entity.rootEntity(), key);
+    NSManagedObject* known = records.registry.find(entity.rootEntity(), key);
     if (known && known->isDeleted())
         return nullptr;
     NSManagedObject& object = known
         ? *known
-        : registry.add(RecordAccess::make(context, NSManagedObjectID(store().identity(), entity, key)));
+        : records.registry.add(RecordAccess::make(context_, NSManagedObjectID(store().identity(), entity, key)));
     RecordAccess::fill(object, std::move(values), 0);
     RecordAccess::markInserted(object, nextOrder_++);
     RecordDetails& details = RecordAccess::details(object);
     details.changed = details.changedInEvent = details.rowChanged = changed;
-    tracker.noteInserted(object);
-    pendingIndex.touch(object, ~PropertyMask{0});
+    records.tracker.noteInserted(object);
+    records.pendingIndex.touch(object, ~PropertyMask{0});
     fromChildren_.push_back(&object);
     scheduleProcessing();
     return &object;
@@ -168,80 +170,11 @@ void ContextCore::shedFromChildren()
         const bool isWatched = details && !details->observers.empty();
         if (object->isFault() || object->isDeleted() || object->hasChanges() || isWatched)
             continue;
-        relationships.unload(*object);
+        HeldRecords::unloadSets(*object);
         RecordAccess::markFault(*object);
-        faulting.noteFault(*object);
+        records.noteFault(*object);
     }
     fromChildren_.clear();
-}
-
-bool ContextCore::beginWrite(NSManagedObject& object)
-{
-    assertOnQueue(&object);
-    if (object.isDeleted())
-        return false;
-    if (object.isFault())
-        faulting.fire(object);
-    if (RecordAccess::isGone(object))
-        return false;
-    RecordDetails& details = RecordAccess::details(object);
-    if (!object.isInserted() && details.changed == 0)
-        details.committed = RecordAccess::values(object);
-    return true;
-}
-
-void ContextCore::noteChange(NSManagedObject& object, PropertyIndex index, bool inRow)
-{
-    RecordDetails& details = RecordAccess::details(object);
-    const PropertyMask bit = propertyBit(index);
-    const bool isFirstChange = details.changed == 0;
-    const bool isNews = isFirstChange || details.changedInEvent == 0 || isPosting_;
-    details.changed |= bit;
-    details.changedInEvent |= bit;
-    if (inRow)
-        details.rowChanged |= bit;
-    if (isNews)
-        tracker.noteUpdated(object);
-    pendingIndex.touch(object, isFirstChange ? ~PropertyMask{0} : bit);
-    scheduleProcessing();
-    if (const NSPropertyDescription& property = object.entity().property(index); property.isRelationship())
-        RecordAccess::tellObservers(object, property.name());
-}
-
-void ContextCore::noteGone(NSManagedObject& object)
-{
-    tracker.forgetPending(object);
-    tracker.noteGone(object);
-    RecordAccess::markGone(object);
-    relationships.unload(object);
-    registry.forget(object);
-    pendingIndex.touch(object, ~PropertyMask{0});
-    scheduleProcessing();
-}
-
-void ContextCore::noteAppeared(NSManagedObject& object)
-{
-    tracker.noteAppeared(object);
-    scheduleProcessing();
-}
-
-void ContextCore::settleMergedRelationships(const std::vector<NSManagedObject*>& deleted)
-{
-    if (!std::exchange(holdsMergedRelationships, false))
-        return;
-    KeysOfEntities gone;
-    for (const NSManagedObject* record : deleted)
-        gone[&record->entity().rootEntity()].insert(record->objectID().key());
-    if (!gone.empty())
-        relationships.dropReferences(gone);
-    for (NSManagedObject* record : registry.objects())
-        relationships.forgetEndsWithoutColumn(*record);
-}
-
-void ContextCore::noteRefreshed(NSManagedObject& object)
-{
-    tracker.noteRefreshed(object);
-    scheduleProcessing();
 }
 
 // Deletion ------------------------------------------------------------------------------------------------------------
@@ -269,11 +202,11 @@ void ContextCore::remove(NSManagedObject& object, Preparation preparation)
     }
     if (RecordAccess::isGone(object))
         return;
-    tracker.noteDeleted(object);
-    pendingIndex.touch(object, ~PropertyMask{0});
+    records.tracker.noteDeleted(object);
+    records.pendingIndex.touch(object, ~PropertyMask{0});
     RecordAccess::markDeleted(object);
     if (wasInserted)
-        registry.forget(object);
+        records.registry.forget(object);
     scheduleProcessing();
     for (NSManagedObject* dependent : cascade)
         remove(*dependent, preparation);
@@ -286,18 +219,18 @@ void ContextCore::scheduleProcessing()
     if (isScheduled_)
         return;
     isScheduled_ = true;
-    queue_->runAtEndOfPass(this, [this] { processPendingChanges(); });
+    queue().runAtEndOfPass(this, [this] { processPendingChanges(); });
 }
 
 void ContextCore::processPendingChanges()
 {
     assertOnQueue();
     isScheduled_ = false;
-    if (isPosting_)
+    if (records.isPosting)
         return;
     otherWriters.tell();
     observedValues.tell();
-    if (!tracker.hasEvent())
+    if (!records.tracker.hasEvent())
         return;
     publish();
     struct Posting {
@@ -305,25 +238,26 @@ void ContextCore::processPendingChanges()
         ~Posting() { flag = false; }
         bool& flag;
     };
-    const ObjectChanges changes = tracker.takeEvent();
+    const ObjectChanges changes = records.tracker.takeEvent();
     // A record that came and went in one pass was never there.
     if (changes.inserted.empty() && changes.updated.empty() && changes.deleted.empty() && changes.refreshed.empty())
         return;
     const auto endEvent = [this](const std::vector<NSManagedObject*>& objects) {
         for (NSManagedObject* object : objects)
-            if (RecordDetails* details = RecordAccess::detailsIfAny(*object); details && !tracker.isInEvent(*object))
+            if (RecordDetails* details = RecordAccess::detailsIfAny(*object);
+                details && !records.tracker.isInEvent(*object))
                 details->changedInEvent = 0;
     };
-    const Posting posting(isPosting_);
+    const Posting posting(records.isPosting);
     const RecordsInHand inHand(*this);
     const std::uint64_t resets = resetCount_;
     NSNotificationCenter::defaultCenter().postNotification(
-        NSManagedObjectContextObjectsDidChangeNotification, &context, std::any(changes));
+        NSManagedObjectContextObjectsDidChangeNotification, &context_, std::any(changes));
     if (resets != resetCount_)
         return;
     for (const auto* objects : {&changes.inserted, &changes.updated, &changes.deleted, &changes.refreshed})
         endEvent(*objects);
-    if (tracker.hasEvent())
+    if (records.tracker.hasEvent())
         scheduleProcessing();
 }
 
@@ -331,10 +265,10 @@ void ContextCore::processPendingChanges()
 
 void ContextCore::cancelInsertion(NSManagedObject& object)
 {
-    tracker.noteGone(object);
+    records.tracker.noteGone(object);
     RecordAccess::markGone(object);
-    relationships.unload(object);
-    registry.forget(object);
+    HeldRecords::unloadSets(object);
+    records.registry.forget(object);
 }
 
 void ContextCore::discardChanges(NSManagedObject& object)
@@ -346,54 +280,54 @@ void ContextCore::discardChanges(NSManagedObject& object)
         details->committed = PropertyValues();
         details->changed = details->rowChanged = 0;
     }
-    relationships.unload(object);
-    tracker.noteRefreshed(object);
+    HeldRecords::unloadSets(object);
+    records.tracker.noteRefreshed(object);
 }
 
 void ContextCore::rollback()
 {
     assertOnQueue();
-    const auto inserted = tracker.insertedObjects();
-    const auto updated = tracker.updatedObjects();
-    const auto deleted = tracker.deletedObjects();
+    const auto inserted = records.tracker.insertedObjects();
+    const auto updated = records.tracker.updatedObjects();
+    const auto deleted = records.tracker.deletedObjects();
     for (NSManagedObject* object : updated)
         discardChanges(*object);
     for (NSManagedObject* object : deleted) {
         discardChanges(*object);
         // What others changed of it was left alone while it waited for its deletion.
-        if (holdsMergedRelationships)
+        if (relationships.holdsMerged())
             readAgain(*object);
     }
     for (NSManagedObject* object : inserted)
         cancelInsertion(*object);
-    tracker.clearPending();
-    pendingIndex.clear();
-    settleMergedRelationships({});
+    records.tracker.clearPending();
+    records.pendingIndex.clear();
+    relationships.settleMerged({});
     fromChildren_.clear();
     publish();
-    if (tracker.hasEvent())
+    if (records.tracker.hasEvent())
         scheduleProcessing();
 }
 
 void ContextCore::reset()
 {
     assertOnQueue();
-    tracker.clear();
-    pendingIndex.clear();
+    records.tracker.clear();
+    records.pendingIndex.clear();
     fromChildren_.clear();
     publish();
     otherWriters.reset();
     observedValues.reset();
-    faulting.clear();
+    records.forgetFaults();
     relationships.clear();
     ++resetCount_;
     if (inHand_ == 0) {
-        registry.clear();
+        records.registry.clear();
         return;
     }
-    for (NSManagedObject* object : registry.objects())
+    for (NSManagedObject* object : records.registry.objects())
         RecordAccess::markGone(*object);
-    dropped_.push_back(std::exchange(registry, ObjectRegistry()));
+    dropped_.push_back(std::exchange(records.registry, ObjectRegistry()));
 }
 
 // Identifiers ---------------------------------------------------------------------------------------------------------
@@ -402,13 +336,13 @@ void ContextCore::readdress(NSManagedObject& object, const NSManagedObjectID& ob
 {
     const std::int64_t former = object.objectID().key();
     // Who asked for this key before it was given asked for nothing.
-    if (NSManagedObject* early = registry.find(*objectID.root(), objectID.key()); early && early != &object)
-        noteGone(*early);
-    registry.forget(object);
+    if (NSManagedObject* early = records.registry.find(*objectID.root(), objectID.key()); early && early != &object)
+        records.noteGone(*early);
+    records.registry.forget(object);
     RecordAccess::setObjectID(object, objectID);
-    registry.remember(object);
+    records.registry.remember(object);
     if (former < 0)
-        registry.addFormerKey(former, object);
+        records.registry.addFormerKey(former, object);
     relationships.followKey(object, former);
 }
 
@@ -416,7 +350,7 @@ bool ContextCore::takeKey(const NSEntityDescription& root, std::int64_t& key, NS
 {
     // A block that was reserved inside a transaction goes with it when that is rolled back, so there it is one at a
     // time.
-    if (exclusiveTransaction || isSaving)
+    if (exclusiveTransaction || isSaving_)
         return store().reserveKeys(root, 1, key, error);
     KeyBlock& block = keyBlocks_[&root];
     if (block.next == block.end) {

@@ -2,15 +2,13 @@
 
 #include "tarnmodel/platform/coredata/NSManagedObjectContext.h"
 #include "tarnmodel/platform/coredata/NSPersistentStoreCoordinator.h"
-#include "tarnmodel/platform/coredata/QueueChecks.h"
-#include "tarnmodel/platform/coredata/context/ChangeTracker.h"
 #include "tarnmodel/platform/coredata/context/ChildContexts.h"
-#include "tarnmodel/platform/coredata/context/Faulting.h"
-#include "tarnmodel/platform/coredata/context/ObjectRegistry.h"
 #include "tarnmodel/platform/coredata/context/ObservedValues.h"
 #include "tarnmodel/platform/coredata/context/OtherWriters.h"
-#include "tarnmodel/platform/coredata/context/PendingIndex.h"
-#include "tarnmodel/platform/coredata/context/RelationshipMaintenance.h"
+#include "tarnmodel/platform/coredata/context/merging/MergeConflicts.h"
+#include "tarnmodel/platform/coredata/context/reading/Faulting.h"
+#include "tarnmodel/platform/coredata/context/records/HeldRecords.h"
+#include "tarnmodel/platform/coredata/context/records/RelationshipMaintenance.h"
 
 #include <functional>
 #include <memory>
@@ -19,32 +17,42 @@
 
 namespace tarn {
 
-/// What the rooms behind a context share: its records, what is pending, where it reads from.
-class ContextCore {
+/// A context from inside: its parts, put together, and what takes more than one of them.
+class ContextCore final : public ContextOperations, public OtherWriters::Host {
+    std::shared_ptr<Queue> privateQueue_; ///< null for a context of the main queue
+    NSManagedObjectContext& context_;
+
 public:
     ContextCore(NSManagedObjectContext& owner, NSManagedObjectContext::ConcurrencyType type);
     ~ContextCore();
+    ContextCore(const ContextCore&) = delete;
+    ContextCore& operator=(const ContextCore&) = delete;
 
-    NSManagedObjectContext& context;
-    ObjectRegistry registry;
-    ChangeTracker tracker;
-    PendingIndex pendingIndex;
-    Faulting faulting;
+    HeldRecords records;
     RelationshipMaintenance relationships;
+    Faulting faulting;
     /// At rest in a child: its parent looks.
     OtherWriters otherWriters;
     ObservedValues observedValues;
 
     std::shared_ptr<NSPersistentStoreCoordinator> coordinator;
     NSMergePolicy mergePolicy = NSMergePolicy::Error;
-    std::function<void(const MergeConflict&)> conflictHandler;
+    MergeConflictHandler conflictHandler;
     /// The lock that `performExclusive` holds; null otherwise.
     std::unique_ptr<StoreTransaction> exclusiveTransaction;
-    /// A save is under way; its will-save observers may change records, but not save again.
-    bool isSaving = false;
-    /// Changes of other writers came in below unsaved ones: relationships may say what nobody saved, until the next
-    /// save or rollback.
-    bool holdsMergedRelationships = false;
+    /// While one lives, a save is under way: its will-save observers may change records, but not save again.
+    class Saving {
+    public:
+        explicit Saving(ContextCore& core) : core_(core) { core_.isSaving_ = true; }
+        ~Saving() { core_.isSaving_ = false; }
+        Saving(const Saving&) = delete;
+        Saving& operator=(const Saving&) = delete;
+
+    private:
+        ContextCore& core_;
+    };
+    bool isSaving() const override { return isSaving_; }
+    bool isExclusive() const override { return exclusiveTransaction != nullptr; }
 
     /// The state of the store up to which this context has caught up; none when it has yet to.
     std::optional<std::uint64_t> knownState;
@@ -57,33 +65,23 @@ public:
 
     /// Brings this context in step with what others have saved since it last did, if anything. Under the lock.
     bool catchUp(const StoreTransaction& transaction, NSError* error);
-    /// The parent's view for a child. Raises `NSInternalInconsistencyException` when the context has no store.
-    RowStore& store() const;
+    /// The parent's view for a child.
+    RowStore& store() const override;
+    RowStore* storeIfAny() const override;
     /// Begins to look for what others write to the coordinator's store: from now on, at each pass of a main queue.
     void followStore();
     /// The same, kept alive.
     std::shared_ptr<RowStore> sharedStore() const;
     /// Lets children, where there are any, see what is pending now.
     void publish();
-    Queue& queue() const noexcept { return *queue_; }
+    Queue& queue() const noexcept { return records.queue; }
     /// The same, kept alive. The main queue lives as long as the process.
     std::shared_ptr<Queue> sharedQueue() const;
-    /// Where queues are checked: reports a caller that is on another one, and the record that it wanted.
-    void assertOnQueue(const NSManagedObject* record = nullptr) const
-    {
-        if (queueChecks() != QueueChecks::Off && !queue_->isCurrent())
-            reportWrongQueue(*queue_, record);
-    }
+    void assertOnQueue(const NSManagedObject* record = nullptr) const { records.assertOnQueue(record); }
 
     NSManagedObject& insert(const NSEntityDescription& entity);
     /// The identifier in terms of this context's store and model; empty for one of another store.
     NSManagedObjectID localID(const NSManagedObjectID& objectID) const;
-    /// The record of a permanent key, made as a fault when it is not here yet.
-    NSManagedObject& recordOrFault(const NSEntityDescription& entity, std::int64_t key);
-    /// Before the first change of a record: fires its fault and keeps its committed values. False when it is gone.
-    bool beginWrite(NSManagedObject& object);
-    /// After a change: the property counts as changed. `inRow`: it stands in the record's own row.
-    void noteChange(NSManagedObject& object, PropertyIndex index, bool inRow);
     /// Whether `prepareForDeletion` ran already, in a child.
     enum class Preparation : std::uint8_t { Needed, Done };
     void remove(NSManagedObject& object, Preparation preparation = Preparation::Needed);
@@ -94,23 +92,14 @@ public:
     void noteFromChild(NSManagedObject& object);
     /// After a save: records that only children brought keep no values.
     void shedFromChildren();
-    /// The record's row vanished from the store: it reads as deleted, and nothing of it is saved.
-    void noteGone(NSManagedObject& object);
-    /// A record that another writer inserted is here now: observers hear of an insertion, and nothing is saved.
-    void noteAppeared(NSManagedObject& object);
-    /// Nothing is unsaved any more: relationships that were changed here and elsewhere are read again at next use, and
-    /// nothing names a record that was `deleted` here while others came to name it.
-    void settleMergedRelationships(const std::vector<NSManagedObject*>& deleted);
-    /// A clean record got newer values from the store.
-    void noteRefreshed(NSManagedObject& object);
-
-    void processPendingChanges();
-    void scheduleProcessing();
+    void processPendingChanges() override;
+    void scheduleProcessing() override;
+    void fire(const NSManagedObject& object) override { faulting.fire(object); }
+    void takeRemoteChanges(const RemoteChanges& changes) override;
     void rollback();
     void refresh(NSManagedObject& object, bool mergeChanges);
     void refreshAll();
-    /// Reads one record's row and sets again, at next use; at once where unsaved changes stay on top.
-    void readAgain(NSManagedObject& object);
+    void readAgain(NSManagedObject& object) override;
     void reset();
     /// How often `reset` was called: who walks records while observers run asks whether they are still there.
     std::uint64_t resetCount() const noexcept { return resetCount_; }
@@ -149,13 +138,11 @@ private:
     std::unordered_map<const NSEntityDescription*, KeyBlock> keyBlocks_;
 
     std::vector<NSManagedObject*> fromChildren_;
-    std::shared_ptr<Queue> privateQueue_;
-    Queue* queue_;
     std::vector<ObjectRegistry> dropped_;
     std::uint64_t resetCount_ = 0;
     int inHand_ = 0;
     std::uint32_t nextOrder_ = 1;
-    bool isPosting_ = false;
+    bool isSaving_ = false;
     bool isScheduled_ = false;
 };
 

@@ -1,7 +1,7 @@
 #include "tarnmodel/platform/coredata/context/ContextCore.h"
 
-#include "tarnmodel/platform/coredata/context/MergeConflicts.h"
-#include "tarnmodel/platform/coredata/context/RecordAccess.h"
+#include "tarnmodel/platform/coredata/context/merging/MergeConflicts.h"
+#include "tarnmodel/platform/coredata/context/records/RecordAccess.h"
 #include "tarnmodel/platform/foundation/system/Log.h"
 
 #include <bit>
@@ -17,11 +17,11 @@ void ContextCore::refresh(NSManagedObject& object, bool mergeChanges)
     if (!mergeChanges && object.hasChanges()) {
         relationships.takeBack(object);
         discardChanges(object);
-        pendingIndex.touch(object, ~PropertyMask{0});
+        records.pendingIndex.touch(object, ~PropertyMask{0});
     }
     // Below unsaved changes of others it may say what nobody saved.
-    if (tracker.mayHaveChanges())
-        holdsMergedRelationships = true;
+    if (records.tracker.mayHaveChanges())
+        relationships.noteMerged();
     for (NSManagedObject* holder : relationships.holdersOf(object))
         readAgain(*holder);
     readAgain(object);
@@ -30,7 +30,7 @@ void ContextCore::refresh(NSManagedObject& object, bool mergeChanges)
 void ContextCore::refreshAll()
 {
     assertOnQueue();
-    const auto objects = registry.objects();
+    const auto objects = records.registry.objects();
     for (NSManagedObject* object : objects)
         relationships.forgetStoredMembers(*object);
     for (NSManagedObject* object : objects)
@@ -48,8 +48,8 @@ void ContextCore::readAgain(NSManagedObject& object)
     if (object.isFault())
         return;
     RecordAccess::markFault(object);
-    faulting.noteFault(object);
-    noteRefreshed(object);
+    records.noteFault(object);
+    records.noteRefreshed(object);
 }
 
 void ContextCore::readBelowChanges(NSManagedObject& object)
@@ -67,13 +67,13 @@ void ContextCore::readBelowChanges(NSManagedObject& object)
     std::vector<StoreRow> rows;
     if (!read(RowContents::Row, rows))
         return;
-    MergeConflicts conflicts(*this, MergeSide::Context);
+    MergeConflicts conflicts(records, relationships, conflictHandler, MergeSide::Context);
     const bool hasMoved = !rows.empty() && rows.front().version != object.rowVersion();
     if (hasMoved && !read(RowContents::WholeRow, rows))
         return;
     if (rows.empty()) {
         conflicts.noteDeletedElsewhere(object);
-        noteGone(object);
+        records.noteGone(object);
         relationships.dropReferences({{&object.entity().rootEntity(), {object.objectID().key()}}});
         conflicts.tell();
         return;
@@ -82,7 +82,7 @@ void ContextCore::readBelowChanges(NSManagedObject& object)
     if (hasMoved)
         conflicts.mergeRow(object, std::move(rows.front()));
     relationships.forgetEndsWithoutColumn(object);
-    noteRefreshed(object);
+    records.noteRefreshed(object);
     conflicts.awakeRecords();
     conflicts.tell();
 }

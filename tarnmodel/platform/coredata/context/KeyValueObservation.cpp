@@ -1,7 +1,7 @@
 #include "tarnmodel/platform/coredata/KeyValueObservation.h"
 
 #include "tarnmodel/platform/coredata/context/ContextCore.h"
-#include "tarnmodel/platform/coredata/context/RecordAccess.h"
+#include "tarnmodel/platform/coredata/context/records/RecordAccess.h"
 #include "tarnmodel/platform/foundation/values/WeakReference.h"
 
 #include <algorithm>
@@ -95,7 +95,7 @@ void NSManagedObject::tellObservers(std::string_view key)
 void NSManagedObject::willChangeValueForKey(std::string_view key)
 {
     RecordAccess::propertyForKey(*this, key);
-    core().beginWrite(*this);
+    core().records.beginWrite(*this);
 }
 
 void NSManagedObject::didChangeValueForKey(std::string_view key)

@@ -1,7 +1,7 @@
 #include "tarnmodel/platform/coredata/NSManagedObject.h"
 
 #include "tarnmodel/platform/coredata/context/ContextCore.h"
-#include "tarnmodel/platform/coredata/context/RecordAccess.h"
+#include "tarnmodel/platform/coredata/context/records/RecordAccess.h"
 #include "tarnmodel/platform/foundation/values/NSException.h"
 
 #include <algorithm>
@@ -32,32 +32,6 @@ NSManagedObject::~NSManagedObject()
 }
 
 void NSManagedObject::awakeFromMerge(RecordMerge&) { }
-
-std::unique_ptr<NSManagedObject> RecordAccess::make(NSManagedObjectContext& context, const NSManagedObjectID& objectID)
-{
-    const NSManagedObjectSeed seed(context, objectID);
-    if (const RecordConstructor constructor = objectID.entity().recordConstructor())
-        return std::unique_ptr<NSManagedObject>(constructor(seed));
-    return std::make_unique<NSManagedObject>(seed);
-}
-
-const NSPropertyDescription& RecordAccess::propertyForKey(const NSManagedObject& object, std::string_view key)
-{
-    if (const NSPropertyDescription* property = object.entity().propertyNamed(key))
-        return *property;
-    throw NSException(NSUndefinedKeyException,
-        "The entity \"" + object.entity().name() + "\" has no property \"" + std::string(key) + "\"");
-}
-
-void RecordAccess::markGone(NSManagedObject& object)
-{
-    object.flags_ = NSManagedObject::Deleted | NSManagedObject::Gone;
-    object.values_ = PropertyValues(object.entity());
-    if (object.details_) {
-        object.details_->changed = object.details_->changedInEvent = object.details_->rowChanged = 0;
-        object.details_->committed = PropertyValues();
-    }
-}
 
 ContextCore& NSManagedObject::core() const noexcept
 {
@@ -207,14 +181,14 @@ ToManySet& NSManagedObject::toManyAt(PropertyIndex index) const
 template <typename Assign> void NSManagedObject::write(PropertyIndex index, bool tell, Assign&& assign)
 {
     // A merge asks whether the other writer changed the text: that needs the text from which this change started.
-    if (!core().beginWrite(*this))
+    if (!core().records.beginWrite(*this))
         return;
     if (!isInserted() && (entity().groupedMask() & propertyBit(index)))
         core().faulting.loadLarge(*this);
     if (isDeleted() && !RecordAccess::isBeingDeleted(*this))
         return;
     if (assign(values_))
-        core().noteChange(*this, index, true);
+        core().records.noteChange(*this, index, true);
     if (tell)
         tellObservers(entity().property(index).name());
 }

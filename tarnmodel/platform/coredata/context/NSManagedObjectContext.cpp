@@ -2,10 +2,10 @@
 
 #include "tarnmodel/platform/coredata/NSManagedObjectModel.h"
 #include "tarnmodel/platform/coredata/context/ContextCore.h"
-#include "tarnmodel/platform/coredata/context/PendingFetch.h"
-#include "tarnmodel/platform/coredata/context/RecordAccess.h"
-#include "tarnmodel/platform/coredata/context/RemoteMerge.h"
 #include "tarnmodel/platform/coredata/context/SavePlan.h"
+#include "tarnmodel/platform/coredata/context/merging/RemoteMerge.h"
+#include "tarnmodel/platform/coredata/context/reading/PendingFetch.h"
+#include "tarnmodel/platform/coredata/context/records/RecordAccess.h"
 #include "tarnmodel/platform/foundation/values/NSException.h"
 
 namespace tarn {
@@ -80,7 +80,7 @@ NSManagedObject* NSManagedObjectContext::objectRegisteredForID(const NSManagedOb
 {
     core_->assertOnQueue();
     const NSManagedObjectID id = core_->localID(objectID);
-    NSManagedObject* known = id ? core_->registry.find(*id.root(), id.key()) : nullptr;
+    NSManagedObject* known = id ? core_->records.registry.find(*id.root(), id.key()) : nullptr;
     return known && known->entity().isKindOfEntity(id.entity()) ? known : nullptr;
 }
 
@@ -114,13 +114,13 @@ NSManagedObject* NSManagedObjectContext::objectWithID(const NSManagedObjectID& o
     // Which class a record of a family is of, only its row tells.
     if (!id.entity().rootEntity().subentities().empty())
         return existingObjectWithID(id);
-    return &core_->recordOrFault(id.entity(), id.key());
+    return &core_->records.recordOrFault(id.entity(), id.key());
 }
 
 std::vector<NSManagedObject*> NSManagedObjectContext::registeredObjects() const
 {
     core_->assertOnQueue();
-    return core_->registry.objects();
+    return core_->records.registry.objects();
 }
 
 // Queries -------------------------------------------------------------------------------------------------------------
@@ -128,14 +128,14 @@ std::vector<NSManagedObject*> NSManagedObjectContext::registeredObjects() const
 std::string NSManagedObjectContext::explain(const NSFetchRequest& request)
 {
     core_->assertOnQueue();
-    return PendingFetch(*core_, request).explain();
+    return PendingFetch(core_->records, core_->faulting, core_->relationships, request).explain();
 }
 
 std::optional<std::vector<NSManagedObject*>> NSManagedObjectContext::fetch(
     const NSFetchRequest& request, NSError* error)
 {
     core_->assertOnQueue();
-    auto found = PendingFetch(*core_, request).objects(error);
+    auto found = PendingFetch(core_->records, core_->faulting, core_->relationships, request).objects(error);
     if (found)
         core_->otherWriters.lookAfterFetch();
     return found;
@@ -149,7 +149,7 @@ std::vector<NSManagedObject*> NSManagedObjectContext::executeFetchRequest(const 
 std::optional<std::size_t> NSManagedObjectContext::count(const NSFetchRequest& request, NSError* error)
 {
     core_->assertOnQueue();
-    const auto counted = PendingFetch(*core_, request).count(error);
+    const auto counted = PendingFetch(core_->records, core_->faulting, core_->relationships, request).count(error);
     if (counted)
         core_->otherWriters.lookAfterFetch();
     return counted;
@@ -164,7 +164,7 @@ std::optional<std::vector<DictionaryResult>> NSManagedObjectContext::executeDict
     const NSFetchRequest& request, NSError* error)
 {
     core_->assertOnQueue();
-    auto found = PendingFetch(*core_, request).dictionaries(error);
+    auto found = PendingFetch(core_->records, core_->faulting, core_->relationships, request).dictionaries(error);
     if (found)
         core_->otherWriters.lookAfterFetch();
     return found;
@@ -175,22 +175,22 @@ std::optional<std::vector<DictionaryResult>> NSManagedObjectContext::executeDict
 bool NSManagedObjectContext::hasChanges() const
 {
     core_->assertOnQueue();
-    return core_->tracker.hasChanges();
+    return core_->records.tracker.hasChanges();
 }
 std::vector<NSManagedObject*> NSManagedObjectContext::insertedObjects() const
 {
     core_->assertOnQueue();
-    return core_->tracker.insertedObjects();
+    return core_->records.tracker.insertedObjects();
 }
 std::vector<NSManagedObject*> NSManagedObjectContext::updatedObjects() const
 {
     core_->assertOnQueue();
-    return core_->tracker.updatedObjects();
+    return core_->records.tracker.updatedObjects();
 }
 std::vector<NSManagedObject*> NSManagedObjectContext::deletedObjects() const
 {
     core_->assertOnQueue();
-    return core_->tracker.deletedObjects();
+    return core_->records.tracker.deletedObjects();
 }
 
 bool NSManagedObjectContext::obtainPermanentIDsForObjects(std::span<NSManagedObject* const> objects, NSError* error)
@@ -246,7 +246,10 @@ void NSManagedObjectContext::mergeChangesFromRemoteContextSave(
     const RemoteChanges& changes, std::span<NSManagedObjectContext* const> contexts)
 {
     for (NSManagedObjectContext* context : contexts)
-        context->performBlockAndWait([&] { RemoteMerge(context->core()).run(changes); });
+        context->performBlockAndWait([&] {
+            context->core().takeRemoteChanges(changes);
+            context->core().processPendingChanges();
+        });
 }
 
 void NSManagedObjectContext::refreshObject(NSManagedObject& object, bool mergeChanges)

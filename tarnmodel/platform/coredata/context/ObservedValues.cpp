@@ -1,7 +1,8 @@
 #include "tarnmodel/platform/coredata/context/ObservedValues.h"
 
-#include "tarnmodel/platform/coredata/context/ContextCore.h"
-#include "tarnmodel/platform/coredata/context/RecordAccess.h"
+#include "tarnmodel/platform/coredata/context/reading/Faulting.h"
+#include "tarnmodel/platform/coredata/context/records/HeldRecords.h"
+#include "tarnmodel/platform/coredata/context/records/RecordAccess.h"
 #include "tarnmodel/platform/foundation/system/Log.h"
 #include "tarnmodel/platform/foundation/values/NSException.h"
 
@@ -18,7 +19,7 @@ void ObservedValues::keep(const NSManagedObject& record)
     if (!isObserved || RecordAccess::values(record).isEmpty() || !kept_.insert(&record).second)
         return;
     former_.push_back({const_cast<NSManagedObject*>(&record), RecordAccess::values(record)});
-    core_.scheduleProcessing();
+    records_.operations.scheduleProcessing();
 }
 
 void ObservedValues::tell()
@@ -37,7 +38,7 @@ void ObservedValues::tellOf(const Former& former) const
 {
     NSManagedObject& record = *former.record;
     if (record.isFault())
-        core_.faulting.fire(record);
+        faulting_.fire(record);
     if (RecordAccess::isGone(record))
         return; // told as a deletion
     std::vector<const NSPropertyDescription*> changed;
@@ -58,7 +59,7 @@ bool ObservedValues::isOther(
     if (!former.isLoaded(index))
         return true; // nobody knows what it was
     if (!RecordAccess::values(record).isLoaded(index))
-        core_.faulting.loadLarge(record);
+        faulting_.loadLarge(record);
     return !RecordAccess::values(record).equals(index, former);
 }
 

@@ -7,13 +7,14 @@
 
 namespace tarn {
 
-class ContextCore;
+class Faulting;
+class HeldRecords;
 
 /// What observed records held before a merge, a refresh or a rollback gave them other values: setters tell observers
 /// of single keys, but these values come whole. On the context's queue.
 class ObservedValues {
 public:
-    explicit ObservedValues(ContextCore& core) : core_(core) { }
+    ObservedValues(HeldRecords& records, Faulting& faulting) : records_(records), faulting_(faulting) { }
 
     /// Before the values of an observed record are replaced; the first ones count.
     void keep(const NSManagedObject& record);
@@ -35,7 +36,8 @@ private:
     bool isOther(NSManagedObject& record, const PropertyValues& former, const NSPropertyDescription& property) const;
     void tellOf(const Former& former) const;
 
-    ContextCore& core_;
+    HeldRecords& records_;
+    Faulting& faulting_;
     std::vector<Former> former_;
     std::unordered_set<const NSManagedObject*> kept_; ///< the records of `former_`
 };

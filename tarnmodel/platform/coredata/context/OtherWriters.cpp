@@ -1,8 +1,7 @@
 #include "tarnmodel/platform/coredata/context/OtherWriters.h"
 
-#include "tarnmodel/platform/coredata/context/ContextCore.h"
-#include "tarnmodel/platform/coredata/context/RecordAccess.h"
-#include "tarnmodel/platform/coredata/context/RemoteMerge.h"
+#include "tarnmodel/platform/coredata/context/records/HeldRecords.h"
+#include "tarnmodel/platform/coredata/context/records/RecordAccess.h"
 #include "tarnmodel/platform/foundation/events/NSNotificationCenter.h"
 #include "tarnmodel/platform/foundation/system/Log.h"
 
@@ -61,17 +60,16 @@ Keys keysOf(const std::vector<RelatedKey>& related)
 
 void OtherWriters::begin()
 {
-    const NSPersistentStoreCoordinator* coordinator = core_.coordinator.get();
-    const bool hasStore = coordinator && coordinator->rowStore();
-    seenVersion_ = hasStore ? coordinator->rowStore()->dataVersion().value_or(0) : 0;
+    RowStore* const store = host_.storeIfAny();
+    seenVersion_ = store ? store->dataVersion().value_or(0) : 0;
 }
 
 // When to look --------------------------------------------------------------------------------------------------------
 
 bool OtherWriters::hasMoved()
 {
-    const std::uint64_t commits = core_.store().commitsMet();
-    const auto version = core_.store().dataVersion();
+    const std::uint64_t commits = records_.store().commitsMet();
+    const auto version = records_.store().dataVersion();
     if (!version)
         return false; // somebody writes at this moment: the next look asks again
     seenCommits_ = commits;
@@ -84,7 +82,7 @@ bool OtherWriters::hasMoved()
 
 void OtherWriters::lookAfterFetch()
 {
-    if (!seenVersion_ || isLooking_ || core_.isSaving || core_.store().commitsMet() == seenCommits_)
+    if (!seenVersion_ || isLooking_ || host_.isSaving() || records_.store().commitsMet() == seenCommits_)
         return;
     if (hasMoved())
         catchUp({.unsaved = true, .handedOut = true});
@@ -92,15 +90,15 @@ void OtherWriters::lookAfterFetch()
 
 void OtherWriters::lookUnderLock()
 {
-    if (seenVersion_ && !core_.isSaving && (hasMoved() || isBehind_))
+    if (seenVersion_ && !host_.isSaving() && (hasMoved() || isBehind_))
         catchUp({.unsaved = true});
 }
 
 void OtherWriters::lookAtEndOfPass()
 {
     forgetTextsRead();
-    const bool isFree = seenVersion_ && !isLooking_ && !core_.isSaving && !core_.exclusiveTransaction
-        && core_.coordinator && core_.coordinator->rowStore();
+    const bool isFree
+        = seenVersion_ && !isLooking_ && !host_.isSaving() && !host_.isExclusive() && host_.storeIfAny() != nullptr;
     if (isFree && (hasMoved() || isBehind_))
         catchUp({});
 }
@@ -121,7 +119,7 @@ void OtherWriters::tell()
 {
     if (std::exchange(hasNotice_, false))
         NSNotificationCenter::defaultCenter().postNotification(
-            NSManagedObjectContextStoreDidChangeElsewhereNotification, &core_.context);
+            NSManagedObjectContextStoreDidChangeElsewhereNotification, &records_.context);
 }
 
 // What is new ---------------------------------------------------------------------------------------------------------
@@ -131,33 +129,33 @@ void OtherWriters::catchUp(Reserve reserve)
     isLooking_ = true;
     isInFetch_ = reserve.handedOut;
     isBehind_ = false;
-    core_.scheduleProcessing();
+    records_.operations.scheduleProcessing();
     RemoteChanges changes;
     if (const auto found = news(reserve)) {
         for (const NSManagedObject* record : found->moved)
             changes.updated.push_back(record->objectID());
         for (const NSManagedObject* record : found->gone)
             changes.deleted.push_back(record->objectID());
-        RemoteMerge(core_).take(changes);
+        host_.takeRemoteChanges(changes);
     }
     isLooking_ = false;
     if (isBehind_)
-        core_.queue().runAtEndOfPass(this, [this] {
+        records_.queue.runAtEndOfPass(this, [this] {
             lookAtEndOfPass();
-            core_.processPendingChanges();
+            host_.processPendingChanges();
         });
 }
 
 std::optional<VersionDifferences> OtherWriters::news(Reserve reserve)
 {
     std::unordered_map<const NSEntityDescription*, std::vector<NSManagedObject*>> held;
-    for (NSManagedObject* record : core_.registry.objects())
+    for (NSManagedObject* record : records_.registry.objects())
         if (!record->isFault() && !record->isDeleted() && !record->isInserted())
             held[&record->entity().rootEntity()].push_back(record);
     VersionDifferences found;
     for (auto& [root, records] : held) {
         NSError error;
-        if (!compareVersions(core_.store(), *root, records, found, &error)) {
+        if (!compareVersions(records_.store(), *root, records, found, &error)) {
             noteFailure(error);
             return std::nullopt;
         }
@@ -172,7 +170,7 @@ std::optional<VersionDifferences> OtherWriters::news(Reserve reserve)
     };
     std::erase_if(found.moved, waits);
     // What an edit is about to name must not vanish under it.
-    const bool areAllReserved = reserve.unsaved && !found.gone.empty() && core_.tracker.hasChanges();
+    const bool areAllReserved = reserve.unsaved && !found.gone.empty() && records_.tracker.hasChanges();
     isBehind_ = isBehind_ || areAllReserved;
     if (areAllReserved)
         found.gone.clear();
@@ -213,7 +211,7 @@ std::optional<bool> OtherWriters::hasOtherMembers(NSManagedObject& record)
     std::vector<RelatedKey> related;
     NSError error;
     const auto read = [&](const NSRelationshipDescription& relationship) {
-        if (core_.store().relatedKeys(relationship, record.objectID().key(), related, &error))
+        if (records_.store().relatedKeys(relationship, record.objectID().key(), related, &error))
             return true;
         noteFailure(error);
         return false;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "tarnmodel/platform/coredata/NSManagedObjectContext.h"
-#include "tarnmodel/platform/coredata/context/VersionComparison.h"
+#include "tarnmodel/platform/coredata/context/merging/VersionComparison.h"
 
 #include <cstdint>
 #include <optional>
@@ -10,7 +10,8 @@
 
 namespace tarn {
 
-class ContextCore;
+class HeldRecords;
+struct RemoteChanges;
 
 /// Notices that others wrote to the store of a context, and brings the records that it holds up to date.
 ///
@@ -18,7 +19,22 @@ class ContextCore;
 /// versions of rows compared, and only rows that moved are read. On the context's queue.
 class OtherWriters {
 public:
-    explicit OtherWriters(ContextCore& core) : core_(core) { }
+    /// What it asks of its context.
+    class Host {
+    public:
+        /// Null before the context has one.
+        virtual RowStore* storeIfAny() const = 0;
+        virtual bool isSaving() const = 0;
+        /// Whether the context holds the store's lock.
+        virtual bool isExclusive() const = 0;
+        virtual void takeRemoteChanges(const RemoteChanges& changes) = 0;
+        virtual void processPendingChanges() = 0;
+
+    protected:
+        ~Host() = default;
+    };
+
+    OtherWriters(HeldRecords& records, Host& host) : records_(records), host_(host) { }
     OtherWriters(const OtherWriters&) = delete;
     OtherWriters& operator=(const OtherWriters&) = delete;
 
@@ -56,7 +72,8 @@ private:
     std::optional<bool> hasOtherMembers(NSManagedObject& record);
     void forgetTextsRead();
 
-    ContextCore& core_;
+    HeldRecords& records_;
+    Host& host_;
     std::optional<std::uint64_t> seenVersion_; ///< none before `begin`
     std::uint64_t seenCommits_ = 0;
     bool isBehind_ = false;  ///< something was left for the end of the pass

@@ -1,7 +1,7 @@
 #include "tarnmodel/platform/coredata/context/SavePlan.h"
 
 #include "tarnmodel/platform/coredata/context/ContextCore.h"
-#include "tarnmodel/platform/coredata/context/RecordAccess.h"
+#include "tarnmodel/platform/coredata/context/records/RecordAccess.h"
 #include "tarnmodel/platform/foundation/events/NSNotificationCenter.h"
 
 #include <algorithm>
@@ -53,17 +53,6 @@ bool fail(NSError* error, StoreErrorCode code, const std::string& description)
     return false;
 }
 
-class SavingFlag {
-public:
-    explicit SavingFlag(bool& flag) : flag_(flag) { flag_ = true; }
-    ~SavingFlag() { flag_ = false; }
-    SavingFlag(const SavingFlag&) = delete;
-    SavingFlag& operator=(const SavingFlag&) = delete;
-
-private:
-    bool& flag_;
-};
-
 } // namespace
 
 SavePlan::SavePlan(ContextCore& core) : core_(core) { }
@@ -71,12 +60,12 @@ SavePlan::SavePlan(ContextCore& core) : core_(core) { }
 bool SavePlan::run(std::unique_ptr<StoreTransaction> transaction, NSError* error)
 {
     core_.assertOnQueue();
-    if (core_.isSaving)
+    if (core_.isSaving())
         return fail(error, StoreErrorGeneric, "A save is under way");
     const ContextCore::RecordsInHand inHand(core_);
     core_.processPendingChanges();
-    if (!core_.tracker.hasChanges()) {
-        core_.settleMergedRelationships({});
+    if (!core_.records.tracker.hasChanges()) {
+        core_.relationships.settleMerged({});
         return !transaction || transaction->commit(error);
     }
     if (!transaction)
@@ -84,7 +73,7 @@ bool SavePlan::run(std::unique_ptr<StoreTransaction> transaction, NSError* error
     if (!transaction)
         return false;
     {
-        const SavingFlag saving(core_.isSaving);
+        const ContextCore::Saving saving(core_);
         try {
             if (!write(transaction, error)) {
                 transaction.reset();
@@ -104,10 +93,11 @@ bool SavePlan::run(std::unique_ptr<StoreTransaction> transaction, NSError* error
 
 bool SavePlan::write(std::unique_ptr<StoreTransaction>& transaction, NSError* error)
 {
-    announcedBefore_ = core_.tracker.insertedObjects();
+    announcedBefore_ = core_.records.tracker.insertedObjects();
     if (!core_.catchUp(*transaction, error))
         return false;
-    announcedBefore_ = core_.tracker.insertedObjects(); // what was derived anew stays, whatever comes of the save
+    announcedBefore_
+        = core_.records.tracker.insertedObjects(); // what was derived anew stays, whatever comes of the save
     announce();
     NSError failure;
     for (int tries = 1; !writeRows(*transaction, &failure); ++tries) {
@@ -129,9 +119,9 @@ bool SavePlan::write(std::unique_ptr<StoreTransaction>& transaction, NSError* er
 
 bool SavePlan::writeRows(StoreTransaction& transaction, NSError* error)
 {
-    inserted_ = core_.tracker.insertedObjects();
-    updated_ = core_.tracker.updatedObjects();
-    deleted_ = core_.tracker.deletedObjects();
+    inserted_ = core_.records.tracker.insertedObjects();
+    updated_ = core_.records.tracker.updatedObjects();
+    deleted_ = core_.records.tracker.deletedObjects();
     newVersions_.clear();
     return deletionsAllowed(error) && assignKeys(error) && validate(error) && insertRows(transaction, error)
         && updateRows(transaction, error) && changeJoins(transaction, error) && deleteRows(transaction, error)
@@ -140,11 +130,12 @@ bool SavePlan::writeRows(StoreTransaction& transaction, NSError* error)
 
 void SavePlan::announce()
 {
-    for (NSManagedObject* record : core_.tracker.insertedObjects())
+    for (NSManagedObject* record : core_.records.tracker.insertedObjects())
         record->willSave();
-    for (NSManagedObject* record : core_.tracker.updatedObjects())
+    for (NSManagedObject* record : core_.records.tracker.updatedObjects())
         record->willSave();
-    NSNotificationCenter::defaultCenter().postNotification(NSManagedObjectContextWillSaveNotification, &core_.context);
+    NSNotificationCenter::defaultCenter().postNotification(
+        NSManagedObjectContextWillSaveNotification, &core_.records.context);
 }
 
 bool SavePlan::assignKeys(NSError* error)
@@ -290,23 +281,23 @@ void SavePlan::finish()
             details.committed = PropertyValues();
             core_.relationships.settle(*record);
         }
-    core_.tracker.clearPending();
-    core_.pendingIndex.clear();
-    core_.settleMergedRelationships(deleted_);
+    core_.records.tracker.clearPending();
+    core_.records.pendingIndex.clear();
+    core_.relationships.settleMerged(deleted_);
     core_.publish();
     // From here on nothing is pending but what observers change.
     const std::uint64_t resets = core_.resetCount();
     core_.processPendingChanges();
     if (core_.resetCount() != resets)
         return;
-    NSNotificationCenter::defaultCenter().postNotification(NSManagedObjectContextDidSaveNotification, &core_.context,
-        std::any(ObjectChanges{inserted_, updated_, deleted_, {}}));
+    NSNotificationCenter::defaultCenter().postNotification(NSManagedObjectContextDidSaveNotification,
+        &core_.records.context, std::any(ObjectChanges{inserted_, updated_, deleted_, {}}));
     if (core_.resetCount() != resets)
         return;
     for (NSManagedObject* record : deleted_) {
         RecordAccess::markGone(*record);
-        core_.relationships.unload(*record);
-        core_.registry.forget(*record);
+        HeldRecords::unloadSets(*record);
+        core_.records.registry.forget(*record);
     }
     core_.shedFromChildren();
 }
@@ -317,7 +308,7 @@ void SavePlan::takeBack()
     for (const auto& [record, former] : formerIDs_)
         core_.readdress(*record, former);
     const std::unordered_set<const NSManagedObject*> before(announcedBefore_.begin(), announcedBefore_.end());
-    for (NSManagedObject* record : core_.tracker.insertedObjects())
+    for (NSManagedObject* record : core_.records.tracker.insertedObjects())
         if (!before.contains(record))
             core_.remove(*record);
 }

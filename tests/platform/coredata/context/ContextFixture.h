@@ -2,7 +2,7 @@
 
 #include "tarnmodel/platform/coredata/NSManagedObjectContext.h"
 #include "tarnmodel/platform/coredata/NSPersistentStoreCoordinator.h"
-#include "tarnmodel/platform/coredata/context/ToManySet.h"
+#include "tarnmodel/platform/coredata/context/records/ToManySet.h"
 #include "tarnmodel/platform/foundation/system/NSUUID.h"
 
 #include <gmock/gmock.h>

@@ -1,6 +1,6 @@
 #include "tests/platform/coredata/context/RandomLibrary.h"
 
-#include "tarnmodel/platform/coredata/context/SortOrder.h"
+#include "tarnmodel/platform/coredata/context/reading/SortOrder.h"
 #include "tarnmodel/platform/predicate/PredicateEvaluator.h"
 
 #include <algorithm>

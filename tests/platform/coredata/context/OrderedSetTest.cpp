@@ -1,4 +1,4 @@
-#include "tarnmodel/platform/coredata/context/OrderedSet.h"
+#include "tarnmodel/platform/coredata/context/records/OrderedSet.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,10 +1,8 @@
 #include "tarnmodel/platform/coredata/context/child/OverlaidFetch.h"
 
-#include "tarnmodel/platform/coredata/context/SortOrder.h"
-#include "tarnmodel/platform/coredata/description/KeyPathWalk.h"
+#include "tarnmodel/platform/coredata/context/reading/FetchOverChanges.h"
 #include "tarnmodel/platform/coredata/description/PredicateKeys.h"
 #include "tarnmodel/platform/coredata/rows/RowOrder.h"
-#include "tarnmodel/platform/coredata/rows/SaturatingSum.h"
 #include "tarnmodel/platform/coredata/rows/StoreFailure.h"
 #include "tarnmodel/platform/predicate/PredicateEvaluator.h"
 
@@ -12,145 +10,153 @@
 
 namespace tarn {
 
-OverlaidFetch::OverlaidFetch(RowStore& base, const UnsavedSnapshot& snapshot, const StoreFetch& fetch)
-    : base_(base), snapshot_(snapshot), fetch_(fetch), overlaid_(base, snapshot)
-{
-    for (const auto& [key, entry] : snapshot.entriesOfRoot(fetch.entity->rootEntity()))
-        unsure_.insert(key);
-    if (fetch.predicate)
-        for (const auto& keys : keyPathsReadByPredicate(*fetch.predicate))
-            noteKeyPath(keys);
-    for (const NSSortDescriptor& descriptor : fetch.sortDescriptors)
-        noteKeyPath(keysOfPath(descriptor.key));
-}
+namespace {
 
-/// Rows whose answer depends on a pending record at the other end of a path.
-void OverlaidFetch::noteKeyPath(const std::vector<std::string>& keys)
-{
-    walkKeyPath(*fetch_.entity, keys, [this](const auto& way, const auto& entity, const auto&) {
-        if (way.empty())
-            return;
-        for (const auto& [pendingKey, entry] : snapshot_.entriesOfRoot(entity.rootEntity()))
+/// What is unsaved in a parent, by the keys of its rows.
+class UnsavedRows {
+public:
+    using Item = StoreRow;
+    /// A row of some inheritance chain; which, the caller knows.
+    using Record = std::int64_t;
+    using Order = RowOrder;
+
+    UnsavedRows(RowStore& base, const UnsavedSnapshot& snapshot, const StoreFetch& fetch)
+        : base_(base), snapshot_(snapshot), fetch_(fetch), overlaid_(base, snapshot),
+          entries_(snapshot.entriesOfRoot(fetch.entity->rootEntity()))
+    { }
+
+    template <typename Visit> void eachChanged(const NSEntityDescription& root, Visit&& visit) const
+    {
+        for (const auto& [key, entry] : snapshot_.entriesOfRoot(root))
             if (!entry->isDeleted)
-                reachBack(way, pendingKey);
-    });
-}
-
-void OverlaidFetch::reachBack(std::span<const NSRelationshipDescription* const> path, std::int64_t key)
-{
-    std::set<std::int64_t> front{key};
-    for (auto step = path.rbegin(); step != path.rend(); ++step) {
-        const NSRelationshipDescription& back = (*step)->inverseRelationship();
-        std::set<std::int64_t> next;
-        for (const std::int64_t member : front) {
-            if (!back.isToMany() && back.storage() == RelationshipStorage::Column) {
-                const auto row = overlaid_.readRow((*step)->destinationEntity(), member, RowContents::Row);
-                if (row && !row->values.isNil(back.index()))
-                    next.insert(row->values.integer(back.index()));
-            } else {
-                for (const RelatedKey& related : overlaid_.readRelatedKeys(back, member))
-                    next.insert(related.key);
-            }
-        }
-        front = std::move(next);
+                visit(key, entry->changed);
     }
-    unsure_.insert(front.begin(), front.end());
-}
+    std::vector<Record> related(Record record, const NSRelationshipDescription& relationship) const
+    {
+        std::vector<Record> keys;
+        if (!relationship.isToMany() && relationship.storage() == RelationshipStorage::Column) {
+            const auto row
+                = overlaid_.readRow(relationship.inverseRelationship().destinationEntity(), record, RowContents::Row);
+            if (row && !row->values.isNil(relationship.index()))
+                keys.push_back(row->values.integer(relationship.index()));
+            return keys;
+        }
+        for (const RelatedKey& related : overlaid_.readRelatedKeys(relationship, record))
+            keys.push_back(related.key);
+        return keys;
+    }
+    std::vector<std::int64_t> deletedKeys(const NSEntityDescription& root) const
+    {
+        std::vector<std::int64_t> keys;
+        for (const auto& [key, entry] : snapshot_.entriesOfRoot(root))
+            if (entry->isDeleted)
+                keys.push_back(key);
+        return keys;
+    }
+    std::size_t unsureCount(const NSEntityDescription& root) const { return snapshot_.entriesOfRoot(root).size(); }
+    std::int64_t storedKey(Record record) const { return record; }
+    /// Told when its row is read.
+    bool isOfEntity(Record) const { return true; }
 
-bool OverlaidFetch::isOfEntity(const NSEntityDescription& entity) const
-{
-    return fetch_.includesSubentities ? entity.isKindOfEntity(*fetch_.entity) : &entity == fetch_.entity;
-}
-
-/// Asks the store for all rows but the unsure ones, from the first on.
-template <typename Ask> void OverlaidFetch::askStore(Ask&& ask) const
-{
-    std::vector<std::int64_t> excluded(unsure_.begin(), unsure_.end());
-    excluded.insert(excluded.end(), fetch_.excludedKeys.begin(), fetch_.excludedKeys.end());
-    std::ranges::sort(excluded);
-    StoreFetch stored = fetch_;
-    stored.excludedKeys = excluded;
-    stored.offset = 0;
-    stored.limit = fetch_.limit ? saturatingSum(fetch_.offset, fetch_.limit) : 0;
-    // What is put among others by its values has to have them.
-    if (!fetch_.sortDescriptors.empty() && stored.contents == RowContents::Keys)
-        stored.contents = RowContents::Row;
-    NSError error;
-    if (!ask(stored, error))
-        throw StoreFailure(std::move(error));
-}
-
-std::vector<StoreRow> OverlaidFetch::judgedRows()
-{
-    std::vector<std::int64_t> keys;
-    std::ranges::copy_if(unsure_, std::back_inserter(keys), [&](std::int64_t key) {
-        return !std::binary_search(fetch_.excludedKeys.begin(), fetch_.excludedKeys.end(), key);
-    });
-    const bool readsText = fetch_.predicate && readsLargeAttribute(*fetch_.predicate, *fetch_.entity);
-    const RowContents contents
-        = readsText || fetch_.contents == RowContents::WholeRow ? RowContents::WholeRow : RowContents::Row;
-    std::vector<StoreRow> rows = overlaid_.readRows(*fetch_.entity, keys, contents);
-    std::erase_if(rows, [&](const StoreRow& row) { return !isOfEntity(*row.entity); });
-    if (!fetch_.predicate)
+    std::vector<Item> itemsFromStore(StoreFetch fetch)
+    {
+        // What is put among others by its values has to have them.
+        if (!fetch.sortDescriptors.empty() && fetch.contents == RowContents::Keys)
+            fetch.contents = RowContents::Row;
+        std::vector<StoreRow> rows;
+        if (NSError error; !base_.fetch(fetch, rows, &error))
+            throw StoreFailure(std::move(error));
+        for (StoreRow& row : rows)
+            if (const UnsavedSnapshot::Entry* entry = entryOf(row.key); entry && !entry->isDeleted)
+                row = overlaid_.rowOfEntry(*entry, fetch.contents);
         return rows;
-    checkKeysOfPredicate(*fetch_.predicate, *fetch_.entity);
-    const PredicateEvaluator evaluator(*fetch_.predicate);
-    RowGraph graph(overlaid_);
-    std::erase_if(rows, [&](const StoreRow& row) { return !evaluator.evaluate(graph.objectForRow(row)); });
+    }
+    std::size_t countInStore(const StoreFetch& fetch) const
+    {
+        std::size_t count = 0;
+        if (NSError error; !base_.count(fetch, count, &error))
+            throw StoreFailure(std::move(error));
+        return count;
+    }
+
+    Record recordOf(const Item& item) const { return item.key; }
+    PropertyMask changeOf(const Item& item) const
+    {
+        const UnsavedSnapshot::Entry* entry = entryOf(item.key);
+        return entry ? entry->changed : 0;
+    }
+    bool isDeleted(const Item& item) const
+    {
+        const UnsavedSnapshot::Entry* entry = entryOf(item.key);
+        return entry && entry->isDeleted;
+    }
+
+    std::vector<Record> candidates(const NSEntityDescription&, PropertyMask relevant) const
+    {
+        std::vector<Record> found;
+        for (const auto& [key, entry] : entries_)
+            if (!entry->isDeleted && (entry->isInserted || (entry->changed & relevant)))
+                found.push_back(key);
+        return found;
+    }
+    std::vector<Item> judged(std::vector<Record> keys) const
+    {
+        std::erase_if(keys, [&](Record key) {
+            return std::binary_search(fetch_.excludedKeys.begin(), fetch_.excludedKeys.end(), key);
+        });
+        const bool readsText = fetch_.predicate && readsLargeAttribute(*fetch_.predicate, *fetch_.entity);
+        const RowContents contents
+            = readsText || fetch_.contents == RowContents::WholeRow ? RowContents::WholeRow : RowContents::Row;
+        std::vector<StoreRow> rows = overlaid_.readRows(*fetch_.entity, keys, contents);
+        std::erase_if(rows, [&](const StoreRow& row) {
+            return fetch_.includesSubentities ? !row.entity->isKindOfEntity(*fetch_.entity)
+                                              : row.entity != fetch_.entity;
+        });
+        if (!fetch_.predicate)
+            return rows;
+        checkKeysOfPredicate(*fetch_.predicate, *fetch_.entity);
+        const PredicateEvaluator evaluator(*fetch_.predicate);
+        RowGraph graph(overlaid_);
+        std::erase_if(rows, [&](const StoreRow& row) { return !evaluator.evaluate(graph.objectForRow(row)); });
+        return rows;
+    }
+
+    RowOrder::Place placeOf(const Order& order, const Item& item) const { return order.placeOf(item, overlaid_); }
+    bool comesBefore(const Order& order, const RowOrder::Place& left, const RowOrder::Place& right) const
+    {
+        return order.comesBefore(left, right);
+    }
+
+private:
+    const UnsavedSnapshot::Entry* entryOf(std::int64_t key) const
+    {
+        const auto found = entries_.find(key);
+        return found == entries_.end() ? nullptr : found->second.get();
+    }
+
+    RowStore& base_;
+    const UnsavedSnapshot& snapshot_;
+    const StoreFetch& fetch_;
+    OverlaidRows overlaid_;
+    const UnsavedSnapshot::Entries& entries_; ///< of the chain that is fetched
+};
+
+} // namespace
+
+std::vector<StoreRow> rowsOverSnapshot(RowStore& base, const UnsavedSnapshot& snapshot, const StoreFetch& fetch)
+{
+    UnsavedRows unsaved(base, snapshot, fetch);
+    std::vector<StoreRow> rows = FetchOverChanges(unsaved, fetch).items();
+    if (fetch.contents == RowContents::Keys)
+        for (StoreRow& row : rows)
+            row.values = PropertyValues();
     return rows;
 }
 
-/// Puts each judged row in its place among the stored ones, which come in order; few of those are looked at.
-std::vector<StoreRow> OverlaidFetch::merged(std::vector<StoreRow> stored, std::vector<StoreRow> judged) const
+std::size_t countOverSnapshot(RowStore& base, const UnsavedSnapshot& snapshot, const StoreFetch& fetch)
 {
-    const RowOrder order(fetch_.sortDescriptors, *fetch_.entity);
-    std::vector<std::pair<RowOrder::Place, StoreRow>> placed;
-    for (StoreRow& row : judged) {
-        RowOrder::Place place = order.placeOf(row, overlaid_);
-        placed.emplace_back(std::move(place), std::move(row));
-    }
-    std::ranges::sort(
-        placed, [&](const auto& left, const auto& right) { return order.comesBefore(left.first, right.first); });
-
-    std::vector<StoreRow> all;
-    all.reserve(stored.size() + placed.size());
-    auto next = stored.begin();
-    for (auto& [itsPlace, row] : placed) {
-        const RowOrder::Place& place = itsPlace;
-        const auto behind = std::partition_point(next, stored.end(),
-            [&](const StoreRow& other) { return order.comesBefore(order.placeOf(other, overlaid_), place); });
-        std::move(next, behind, std::back_inserter(all));
-        all.push_back(std::move(row));
-        next = behind;
-    }
-    std::move(next, stored.end(), std::back_inserter(all));
-    return all;
-}
-
-std::vector<StoreRow> OverlaidFetch::rows()
-{
-    std::vector<StoreRow> stored;
-    askStore([&](const StoreFetch& fetch, NSError& error) { return base_.fetch(fetch, stored, &error); });
-    std::vector<StoreRow> all = merged(std::move(stored), judgedRows());
-    const std::size_t first = std::min(fetch_.offset, all.size());
-    const std::size_t count = fetch_.limit ? std::min(fetch_.limit, all.size() - first) : all.size() - first;
-    std::vector<StoreRow> result;
-    result.reserve(count);
-    for (std::size_t at = first; at < first + count; ++at) {
-        if (fetch_.contents == RowContents::Keys)
-            all[at].values = PropertyValues();
-        result.push_back(std::move(all[at]));
-    }
-    return result;
-}
-
-std::size_t OverlaidFetch::count()
-{
-    std::size_t stored = 0;
-    askStore([&](const StoreFetch& fetch, NSError& error) { return base_.count(fetch, stored, &error); });
-    const std::size_t all = stored + judgedRows().size();
-    const std::size_t behind = all - std::min(fetch_.offset, all);
-    return fetch_.limit ? std::min(fetch_.limit, behind) : behind;
+    UnsavedRows unsaved(base, snapshot, fetch);
+    return FetchOverChanges(unsaved, fetch).count();
 }
 
 } // namespace tarn

@@ -18,10 +18,10 @@ public:
     /// The rows of these keys that exist.
     std::vector<StoreRow> readRows(
         const NSEntityDescription& entity, std::span<const std::int64_t> keys, RowContents contents) const;
-
-private:
     /// What the context has not read of a pending row, the store still has.
     StoreRow rowOfEntry(const UnsavedSnapshot::Entry& entry, RowContents contents) const;
+
+private:
     std::vector<RelatedKey> storedRelatedKeys(const NSRelationshipDescription& relationship, std::int64_t key) const;
     bool isDeleted(const NSEntityDescription& root, std::int64_t key) const;
 

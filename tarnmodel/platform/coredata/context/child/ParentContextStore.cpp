@@ -12,7 +12,7 @@ bool ParentContextStore::fetch(const StoreFetch& fetch, std::vector<StoreRow>& r
     if (snapshot->isEmpty())
         return base_.fetch(fetch, rows, error);
     return reportingFailure(error, [&] {
-        for (StoreRow& row : OverlaidFetch(base_, *snapshot, fetch).rows())
+        for (StoreRow& row : rowsOverSnapshot(base_, *snapshot, fetch))
             rows.push_back(std::move(row));
     });
 }
@@ -22,9 +22,7 @@ bool ParentContextStore::count(const StoreFetch& fetch, std::size_t& count, NSEr
     const auto snapshot = parent_->snapshot();
     if (snapshot->isEmpty())
         return base_.count(fetch, count, error);
-    StoreFetch unsorted = fetch;
-    unsorted.sortDescriptors = {};
-    return reportingFailure(error, [&] { count = OverlaidFetch(base_, *snapshot, unsorted).count(); });
+    return reportingFailure(error, [&] { count = countOverSnapshot(base_, *snapshot, fetch); });
 }
 
 bool ParentContextStore::rowsForKeys(const NSEntityDescription& entity, std::span<const std::int64_t> keys,

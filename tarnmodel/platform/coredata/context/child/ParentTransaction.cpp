@@ -1,7 +1,7 @@
 #include "tarnmodel/platform/coredata/context/child/ParentTransaction.h"
 
 #include "tarnmodel/platform/coredata/context/ContextCore.h"
-#include "tarnmodel/platform/coredata/context/RecordAccess.h"
+#include "tarnmodel/platform/coredata/context/records/RecordAccess.h"
 #include "tarnmodel/platform/foundation/system/Log.h"
 
 #include <algorithm>
@@ -14,7 +14,7 @@ namespace {
 /// Null when it is deleted. Reads nothing: what a save touches was read before.
 NSManagedObject* recordOfKey(const ContextCore& core, const NSEntityDescription& entity, std::int64_t key)
 {
-    NSManagedObject* record = core.registry.find(entity.rootEntity(), key);
+    NSManagedObject* record = core.records.registry.find(entity.rootEntity(), key);
     return record && !record->isDeleted() ? record : nullptr;
 }
 
@@ -107,7 +107,7 @@ bool ParentTransaction::commit(NSError* error)
 bool ParentTransaction::rowsAreAsRead(ContextCore& parent, NSError* error) const
 {
     parent.processPendingChanges();
-    if (parent.tracker.hasEvent()) // it is being told of what came before
+    if (parent.records.tracker.hasEvent()) // it is being told of what came before
         parent.publish();
     std::map<const NSEntityDescription*, std::map<std::int64_t, std::int64_t>> expected;
     for (const Update& update : updates_)
@@ -158,7 +158,7 @@ bool ParentTransaction::readRecords(ContextCore& parent, NSError* error) const
 {
     std::map<const NSEntityDescription*, std::set<std::int64_t>> missing;
     const auto want = [&](const NSEntityDescription& entity, std::int64_t key) {
-        const NSManagedObject* known = parent.registry.find(entity.rootEntity(), key);
+        const NSManagedObject* known = parent.records.registry.find(entity.rootEntity(), key);
         if (!isInserted(entity, key) && (!known || known->isFault()))
             missing[&entity.rootEntity()].insert(key);
     };
@@ -266,7 +266,7 @@ void ParentTransaction::insert(ContextCore& parent, const StoreRow& row)
 void ParentTransaction::update(ContextCore& parent, const StoreRow& row, PropertyMask changed)
 {
     NSManagedObject* record = recordOfKey(parent, *row.entity, row.key);
-    if (!record || !parent.beginWrite(*record)) {
+    if (!record || !parent.records.beginWrite(*record)) {
         logMessage("A record was deleted in the parent context; the child's changes were dropped");
         return;
     }
@@ -276,7 +276,7 @@ void ParentTransaction::update(ContextCore& parent, const StoreRow& row, Propert
         if (!(changed & propertyBit(index)))
             continue;
         RecordAccess::values(*record).assign(index, row.values);
-        parent.noteChange(*record, index, true);
+        parent.records.noteChange(*record, index, true);
         RecordAccess::tellObservers(*record, attribute->name());
     }
     relate(parent, *record, row, changed);

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "tarnmodel/platform/coredata/context/RelationshipMaintenance.h"
 #include "tarnmodel/platform/coredata/context/child/ParentHandle.h"
+#include "tarnmodel/platform/coredata/context/records/RelationshipMaintenance.h"
 #include "tarnmodel/platform/coredata/rows/RowStore.h"
 
 #include <map>

@@ -1,7 +1,7 @@
 #include "tarnmodel/platform/coredata/context/child/UnsavedSnapshot.h"
 
 #include "tarnmodel/platform/coredata/context/ContextCore.h"
-#include "tarnmodel/platform/coredata/context/RecordAccess.h"
+#include "tarnmodel/platform/coredata/context/records/RecordAccess.h"
 #include "tarnmodel/platform/foundation/system/Log.h"
 
 namespace tarn {
@@ -35,7 +35,7 @@ PropertyValues rowValues(const ContextCore& core, const NSManagedObject& record)
         if (!values.isLoaded(index) || values.isNil(index) || values.integer(index) > 0)
             continue;
         const NSManagedObject* target
-            = core.registry.find(relationship->destinationEntity().rootEntity(), values.integer(index));
+            = core.records.registry.find(relationship->destinationEntity().rootEntity(), values.integer(index));
         if (target && !target->objectID().isTemporaryID())
             values.setInteger(index, target->objectID().key());
         else
@@ -50,12 +50,12 @@ std::shared_ptr<const UnsavedSnapshot> UnsavedSnapshot::ofContext(ContextCore& c
 {
     const auto snapshot = std::make_shared<UnsavedSnapshot>();
     snapshot->generation_ = previous ? previous->generation_ + 1 : 1;
-    const auto inserted = core.tracker.insertedObjects();
+    const auto inserted = core.records.tracker.insertedObjects();
     NSError error;
     if (!core.obtainPermanentIDs(inserted, &error))
         logMessage("New records are not seen by child contexts: " + error.localizedDescription());
     const std::vector<NSManagedObject*> lists[]
-        = {inserted, core.tracker.updatedObjects(), core.tracker.deletedObjects()};
+        = {inserted, core.records.tracker.updatedObjects(), core.records.tracker.deletedObjects()};
     for (const auto& records : lists)
         for (const NSManagedObject* record : records)
             snapshot->takeRecord(core, *record, previous);
@@ -74,21 +74,20 @@ void UnsavedSnapshot::takeRecord(
     const NSEntityDescription& root = id.entity().rootEntity();
     EntryPointer& place = entries_[&root][id.key()];
     if (record.isDeleted()) {
-        place = std::make_shared<const Entry>(Entry{{&id.entity(), id.key(), record.rowVersion(), {}}, true});
+        place = std::make_shared<const Entry>(
+            Entry{.row = {&id.entity(), id.key(), record.rowVersion(), {}}, .isDeleted = true});
         return;
     }
     PropertyValues values = rowValues(core, record);
-    if (previous) {
-        const auto& before = previous->entriesOfRoot(root);
-        const auto known = before.find(id.key());
-        if (known != before.end() && !known->second->isDeleted && haveEqualValues(known->second->row.values, values))
-            place = known->second;
-    }
-    if (!place) {
-        const auto stamp = static_cast<std::int64_t>(generation_) << kGenerationShift;
-        place = std::make_shared<const Entry>(
-            Entry{{&id.entity(), id.key(), record.rowVersion() + stamp, std::move(values)}, false});
-    }
+    const bool isInserted = record.isInserted();
+    const PropertyMask changed = isInserted ? ~PropertyMask{0} : RecordAccess::changed(record);
+    const Entry* const before = previous ? previous->entry(root, id.key()) : nullptr;
+    std::int64_t version = record.rowVersion() + (static_cast<std::int64_t>(generation_) << kGenerationShift);
+    // Who has read the same values before has nothing to read again.
+    if (before && !before->isDeleted && haveEqualValues(before->row.values, values))
+        version = before->row.version;
+    place = std::make_shared<const Entry>(
+        Entry{{&id.entity(), id.key(), version, std::move(values)}, changed, isInserted, false});
     indexToOnes(*place);
 }
 

@@ -19,6 +19,8 @@ public:
     struct Entry {
         /// As a store hands it out. The version is another one whenever the record changed.
         StoreRow row;
+        PropertyMask changed = 0; ///< all of an inserted record
+        bool isInserted = false;
         bool isDeleted = false;
     };
     using EntryPointer = std::shared_ptr<const Entry>;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tarnmodel/platform/coredata/context/ToManySet.h"
+#include "tarnmodel/platform/coredata/context/records/ToManySet.h"
 #include "tarnmodel/platform/coredata/rows/RowStore.h"
 
 #include <cstdint>
@@ -10,7 +10,7 @@
 
 namespace tarn {
 
-class ContextCore;
+class HeldRecords;
 
 /// Primary keys by root entity.
 using KeysOfEntities = std::unordered_map<const NSEntityDescription*, std::unordered_set<std::int64_t>>;
@@ -18,7 +18,7 @@ using KeysOfEntities = std::unordered_map<const NSEntityDescription*, std::unord
 /// Keeps both ends of every relationship in step, in memory.
 class RelationshipMaintenance {
 public:
-    explicit RelationshipMaintenance(ContextCore& core) : core_(core) { }
+    explicit RelationshipMaintenance(HeldRecords& records) : records_(records) { }
 
     /// The record's target; null for none. A target that is deleted reads as none.
     NSManagedObject* toOne(const NSManagedObject& record, const NSRelationshipDescription& relationship);
@@ -39,8 +39,6 @@ public:
 
     /// After a save: what was added is stored now.
     void settle(NSManagedObject& record);
-    /// Forgets what is known of a record's to-many sets, unsaved changes included.
-    void unload(NSManagedObject& record);
     /// Drops the unsaved changes of one set, at this end.
     void unload(NSManagedObject& record, const NSRelationshipDescription& relationship);
     /// Reads stored members of a record's sets again at next use; its unsaved additions and removals stay.
@@ -79,7 +77,16 @@ public:
     /// Before all records go.
     void clear();
 
+    // Changes of others below unsaved ones ----------------------------------------------------------------------------
+    /// Changes of other writers came in below unsaved ones: relationships may say what nobody saved.
+    void noteMerged() noexcept { holdsMerged_ = true; }
+    bool holdsMerged() const noexcept { return holdsMerged_; }
+    /// Nothing is unsaved any more: relationships that were changed here and elsewhere are read again at next use, and
+    /// nothing names a record that was `deleted` here while others came to name it.
+    void settleMerged(const std::vector<NSManagedObject*>& deleted);
+
 private:
+    void loadInverseToOne(const NSManagedObject& record, const NSRelationshipDescription& relationship);
     std::vector<RelatedKey> storedKeys(const NSManagedObject& owner, const NSRelationshipDescription& relationship);
     void forgetEnd(const NSRelationshipDescription& relationship, std::int64_t key);
     void meetEnd(NSManagedObject& record, const NSRelationshipDescription& relationship, NSManagedObject& target);
@@ -99,8 +106,9 @@ private:
     void attachInverse(NSManagedObject& target, const NSRelationshipDescription& inverse, NSManagedObject& record);
     void detachInverse(NSManagedObject& target, const NSRelationshipDescription& inverse, NSManagedObject& record);
 
-    ContextCore& core_;
+    HeldRecords& records_;
     std::vector<ToManySet*> loaded_;
+    bool holdsMerged_ = false;
 };
 
 } // namespace tarn

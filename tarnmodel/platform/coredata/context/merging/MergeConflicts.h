@@ -4,11 +4,15 @@
 #include "tarnmodel/platform/coredata/RecordMerge.h"
 #include "tarnmodel/platform/coredata/rows/RowStore.h"
 
+#include <functional>
 #include <vector>
 
 namespace tarn {
 
-class ContextCore;
+class HeldRecords;
+class RelationshipMaintenance;
+
+using MergeConflictHandler = std::function<void(const MergeConflict&)>;
 
 /// One merge of what others saved into a context: joins rows with unsaved changes, property by property, and tells of
 /// what gave way.
@@ -18,7 +22,11 @@ class ContextCore;
 /// lost what is told after that.
 class MergeConflicts {
 public:
-    MergeConflicts(ContextCore& core, MergeSide preferred) : core_(core), preferred_(preferred) { }
+    /// `handler`: hears of what was lost; may be empty.
+    MergeConflicts(HeldRecords& records, RelationshipMaintenance& relationships, const MergeConflictHandler& handler,
+        MergeSide preferred)
+        : records_(records), relationships_(relationships), handler_(handler), preferred_(preferred)
+    { }
 
     /// Afterwards the record holds the merged values over the row's version, and only what differs from the row counts
     /// as changed. The row is whole.
@@ -39,7 +47,9 @@ private:
     void note(MergeConflict::Cause cause, NSManagedObject& record, MergeSide loser, PropertyMask lost,
         const PropertyValues& losing, const PropertyValues& former);
 
-    ContextCore& core_;
+    HeldRecords& records_;
+    RelationshipMaintenance& relationships_;
+    const MergeConflictHandler& handler_;
     MergeSide preferred_;
     std::vector<RecordMerge> merges_;
     std::vector<MergeConflict> conflicts_;

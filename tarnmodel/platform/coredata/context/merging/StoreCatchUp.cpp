@@ -1,8 +1,8 @@
-#include "tarnmodel/platform/coredata/context/StoreCatchUp.h"
+#include "tarnmodel/platform/coredata/context/merging/StoreCatchUp.h"
 
-#include "tarnmodel/platform/coredata/context/ContextCore.h"
-#include "tarnmodel/platform/coredata/context/RecordAccess.h"
-#include "tarnmodel/platform/coredata/context/VersionComparison.h"
+#include "tarnmodel/platform/coredata/context/merging/VersionComparison.h"
+#include "tarnmodel/platform/coredata/context/records/HeldRecords.h"
+#include "tarnmodel/platform/coredata/context/records/RecordAccess.h"
 
 #include <algorithm>
 
@@ -32,22 +32,26 @@ bool failForConflict(NSError* error, std::string_view what, const NSManagedObjec
 
 } // namespace
 
-StoreCatchUp::StoreCatchUp(ContextCore& core) : core_(core), conflicts_(core, preferredSide(core.mergePolicy)) { }
+StoreCatchUp::StoreCatchUp(HeldRecords& records, RelationshipMaintenance& relationships, NSMergePolicy policy,
+    const MergeConflictHandler& handler)
+    : records_(records), relationships_(relationships), policy_(policy),
+      conflicts_(records, relationships, handler, preferredSide(policy))
+{ }
 
 bool StoreCatchUp::run(NSError* error)
 {
     if (!findWhatMoved(error) || !allowedByPolicy(error) || !readRows(error))
         return false;
-    for (auto& [root, records] : records_)
+    for (auto& [root, records] : moved_)
         takeRows(records, rows_[root]);
-    letGo(records_);
+    letGo(moved_);
     // Join rows come and go without a new version, and so does what other rows say of a record.
-    for (NSManagedObject* record : core_.registry.objects())
-        core_.relationships.forgetEndsWithoutColumn(*record);
+    for (NSManagedObject* record : records_.registry.objects())
+        relationships_.forgetEndsWithoutColumn(*record);
     if (!detachFromDeleted(error))
         return false;
     conflicts_.awakeRecords();
-    for (const auto& pending : {core_.tracker.insertedObjects(), core_.tracker.updatedObjects()})
+    for (const auto& pending : {records_.tracker.insertedObjects(), records_.tracker.updatedObjects()})
         for (NSManagedObject* record : pending)
             if (!record->isDeleted())
                 record->deriveFromOthers();
@@ -58,14 +62,14 @@ bool StoreCatchUp::run(NSError* error)
 bool StoreCatchUp::findWhatMoved(NSError* error)
 {
     std::unordered_map<const NSEntityDescription*, std::vector<NSManagedObject*>> held;
-    for (NSManagedObject* record : core_.registry.objects())
+    for (NSManagedObject* record : records_.registry.objects())
         if (isOfRow(*record))
             held[&record->entity().rootEntity()].push_back(record);
     for (const auto& [root, those] : held) {
         VersionDifferences differences;
-        if (!compareVersions(core_.store(), *root, those, differences, error))
+        if (!compareVersions(records_.store(), *root, those, differences, error))
             return false;
-        Records& records = records_[root];
+        Records& records = moved_[root];
         records.gone = std::move(differences.gone);
         for (NSManagedObject* record : differences.moved)
             (record->isDeleted()           ? records.deleted
@@ -78,14 +82,14 @@ bool StoreCatchUp::findWhatMoved(NSError* error)
 
 bool StoreCatchUp::allowedByPolicy(NSError* error) const
 {
-    if (core_.mergePolicy != NSMergePolicy::Error)
+    if (policy_ != NSMergePolicy::Error)
         return true;
     // Members that come and go change no row.
     const auto changesItsRow = [](const NSManagedObject* record) {
         const RecordDetails* details = RecordAccess::detailsIfAny(*record);
         return details && details->rowChanged != 0;
     };
-    for (const auto& [root, records] : records_) {
+    for (const auto& [root, records] : moved_) {
         if (const auto found = std::ranges::find_if(records.changed, changesItsRow); found != records.changed.end())
             return failForConflict(error, "changed ", **found);
         if (!records.deleted.empty())
@@ -100,7 +104,7 @@ bool StoreCatchUp::allowedByPolicy(NSError* error) const
 /// All before the first change, so that a failing read leaves the context as it was.
 bool StoreCatchUp::readRows(NSError* error)
 {
-    return std::all_of(records_.begin(), records_.end(), [&](const auto& entry) {
+    return std::all_of(moved_.begin(), moved_.end(), [&](const auto& entry) {
         const auto& [root, records] = entry;
         Rows& rows = rows_[root];
         return readInto(rows, *root, records.clean, RowContents::Row, error)
@@ -117,7 +121,7 @@ bool StoreCatchUp::readInto(Rows& rows, const NSEntityDescription& root, const s
     for (const NSManagedObject* record : records)
         keys.push_back(record->objectID().key());
     std::vector<StoreRow> read;
-    if (!keys.empty() && !core_.store().rowsForKeys(root, keys, contents, read, error))
+    if (!keys.empty() && !records_.store().rowsForKeys(root, keys, contents, read, error))
         return false;
     for (StoreRow& row : read) {
         const std::int64_t key = row.key;
@@ -139,7 +143,7 @@ void StoreCatchUp::takeRows(Records& records, Rows& rows)
     takeEach(records.deleted, [&](NSManagedObject& record, StoreRow& row) { conflicts_.noteDeletedHere(record, row); });
     takeEach(records.clean, [&](NSManagedObject& record, StoreRow& row) {
         RecordAccess::fill(record, std::move(row.values), row.version);
-        core_.noteRefreshed(record);
+        records_.noteRefreshed(record);
     });
     takeEach(
         records.changed, [&](NSManagedObject& record, StoreRow& row) { conflicts_.mergeRow(record, std::move(row)); });
@@ -154,25 +158,24 @@ void StoreCatchUp::letGo(const RecordsByRoot& records)
                 continue; // both sides deleted it
             conflicts_.noteDeletedElsewhere(*record);
             gone[root].insert(record->objectID().key());
-            core_.tracker.forgetPending(*record);
-            core_.noteGone(*record);
+            records_.noteGone(*record);
         }
     }
     if (!gone.empty())
-        core_.relationships.dropReferences(gone);
+        relationships_.dropReferences(gone);
 }
 
 /// What others have tied to a record that is deleted here loses it in this save, and counts as changed. It does not go
 /// along: nobody who deleted knew of it.
 bool StoreCatchUp::detachFromDeleted(NSError* error)
 {
-    for (NSManagedObject* record : core_.tracker.deletedObjects()) {
+    for (NSManagedObject* record : records_.tracker.deletedObjects()) {
         for (const NSRelationshipDescription* relationship : record->entity().relationships()) {
             if (relationship->storage() == RelationshipStorage::Column
                 || relationship->deleteRule() == NSDeleteRule::Deny)
                 continue;
             std::vector<RelatedKey> stored;
-            if (!core_.store().relatedKeys(*relationship, record->objectID().key(), stored, error))
+            if (!records_.store().relatedKeys(*relationship, record->objectID().key(), stored, error))
                 return false;
             for (const RelatedKey& key : stored)
                 detach(*record, *relationship, key);
@@ -184,11 +187,11 @@ bool StoreCatchUp::detachFromDeleted(NSError* error)
 void StoreCatchUp::detach(
     NSManagedObject& deleted, const NSRelationshipDescription& relationship, const RelatedKey& stored)
 {
-    NSManagedObject& other = core_.recordOrFault(*stored.entity, stored.key);
+    NSManagedObject& other = records_.recordOrFault(*stored.entity, stored.key);
     const PropertyIndex inverse = relationship.inverseRelationship().index();
     if (other.isDeleted() || (RecordAccess::changed(other) & propertyBit(inverse)))
         return;
-    core_.relationships.detachFromDeleted(other, relationship.inverseRelationship(), deleted);
+    relationships_.detachFromDeleted(other, relationship.inverseRelationship(), deleted);
 }
 
 } // namespace tarn

@@ -1,10 +1,11 @@
-#include "tarnmodel/platform/coredata/context/RelationshipMaintenance.h"
+#include "tarnmodel/platform/coredata/context/records/RelationshipMaintenance.h"
 
-#include "tarnmodel/platform/coredata/context/ContextCore.h"
-#include "tarnmodel/platform/coredata/context/RecordAccess.h"
+#include "tarnmodel/platform/coredata/context/records/HeldRecords.h"
+#include "tarnmodel/platform/coredata/context/records/RecordAccess.h"
 
 #include <algorithm>
 #include <unordered_set>
+#include <utility>
 
 namespace tarn {
 
@@ -63,7 +64,7 @@ void RelationshipMaintenance::followRow(NSManagedObject& record, const PropertyV
         if (former == key)
             continue;
         forgetEnd(relationship, former);
-        if (NSManagedObject* target = core_.registry.find(relationship.destinationEntity().rootEntity(), key);
+        if (NSManagedObject* target = records_.registry.find(relationship.destinationEntity().rootEntity(), key);
             target && !target->isDeleted())
             meetEnd(record, relationship, *target);
     }
@@ -72,7 +73,7 @@ void RelationshipMaintenance::followRow(NSManagedObject& record, const PropertyV
 /// What the record of this key knows of who names it is of another time.
 void RelationshipMaintenance::forgetEnd(const NSRelationshipDescription& relationship, std::int64_t key)
 {
-    NSManagedObject* target = core_.registry.find(relationship.destinationEntity().rootEntity(), key);
+    NSManagedObject* target = records_.registry.find(relationship.destinationEntity().rootEntity(), key);
     const NSRelationshipDescription& inverse = relationship.inverseRelationship();
     if (!target)
         return;
@@ -106,9 +107,9 @@ void RelationshipMaintenance::meetEnd(
         return;
     }
     RecordAccess::values(target).setUnloaded(inverse.index());
-    if (NSManagedObject* former = core_.registry.find(record.entity().rootEntity(), holder);
+    if (NSManagedObject* former = records_.registry.find(record.entity().rootEntity(), holder);
         former && showsTheStore(*former, relationship.index()))
-        core_.readAgain(*former);
+        records_.operations.readAgain(*former);
 }
 
 void RelationshipMaintenance::readMovedMembers(const ToManySet& set, const std::vector<RelatedKey>& stored)
@@ -123,7 +124,7 @@ void RelationshipMaintenance::readMovedMembers(const ToManySet& set, const std::
     std::vector<NSManagedObject*> moved;
     for (const RelatedKey& related : stored) {
         keys.insert(related.key);
-        NSManagedObject* member = core_.registry.find(root, related.key);
+        NSManagedObject* member = records_.registry.find(root, related.key);
         if (member && showsTheStore(*member, column) && keyIn(RecordAccess::values(*member), column) != owner)
             moved.push_back(member);
     }
@@ -132,7 +133,7 @@ void RelationshipMaintenance::readMovedMembers(const ToManySet& set, const std::
             && !keys.contains(member->objectID().key()))
             moved.push_back(member);
     for (NSManagedObject* member : moved)
-        core_.readAgain(*member);
+        records_.operations.readAgain(*member);
 }
 
 void RelationshipMaintenance::forgetSetsWithoutOwner(const ToManySet& set)
@@ -169,7 +170,7 @@ std::vector<NSManagedObject*> RelationshipMaintenance::holdersOf(const NSManaged
     for (; rest != 0; rest &= rest - 1) {
         const auto index = static_cast<PropertyIndex>(std::countr_zero(rest));
         const auto& relationship = static_cast<const NSRelationshipDescription&>(entity.property(index));
-        NSManagedObject* holder = core_.registry.find(
+        NSManagedObject* holder = records_.registry.find(
             relationship.destinationEntity().rootEntity(), keyIn(RecordAccess::values(record), index));
         if (holder && showsTheStore(*holder, relationship.inverseRelationship().index()))
             holders.push_back(holder);
@@ -199,6 +200,19 @@ void RelationshipMaintenance::clear()
     for (ToManySet* set : loaded_)
         set->place_ = noPlace;
     loaded_.clear();
+}
+
+void RelationshipMaintenance::settleMerged(const std::vector<NSManagedObject*>& deleted)
+{
+    if (!std::exchange(holdsMerged_, false))
+        return;
+    KeysOfEntities gone;
+    for (const NSManagedObject* record : deleted)
+        gone[&record->entity().rootEntity()].insert(record->objectID().key());
+    if (!gone.empty())
+        dropReferences(gone);
+    for (NSManagedObject* record : records_.registry.objects())
+        forgetEndsWithoutColumn(*record);
 }
 
 // Taking back ---------------------------------------------------------------------------------------------------------
@@ -231,7 +245,7 @@ std::vector<NSManagedObject*> RelationshipMaintenance::changedHolders(
         if (NSManagedObject* holder = named(record, relationship))
             holders.push_back(holder);
         for (const RelatedKey& related : storedKeys(record, relationship))
-            if (NSManagedObject* holder = core_.registry.find(related.entity->rootEntity(), related.key))
+            if (NSManagedObject* holder = records_.registry.find(related.entity->rootEntity(), related.key))
                 holders.push_back(holder);
     }
     // What a set notes unread may say too much.
@@ -251,9 +265,10 @@ void RelationshipMaintenance::takeBackToOne(NSManagedObject& holder, const NSRel
         return;
     const std::int64_t savedKey = keyIn(RecordAccess::details(holder).committed, index);
     NSManagedObject* former = named(holder, relationship);
-    NSManagedObject* saved = savedKey == 0 ? nullptr
-                                           : core_.context.objectWithID(NSManagedObjectID(
-                                               core_.store().identity(), relationship.destinationEntity(), savedKey));
+    NSManagedObject* saved
+        = savedKey == 0 ? nullptr : records_.recordWithKey(relationship.destinationEntity(), savedKey);
+    if (saved && saved->isDeleted())
+        saved = nullptr;
     setToOne(holder, relationship, saved);
     const bool isBack = isAsSaved(holder, index);
     if (isBack)
@@ -286,7 +301,7 @@ void RelationshipMaintenance::takeBackJoins(NSManagedObject& record, const NSRel
     for (NSManagedObject* member : members) {
         toMany(*member, relationship.inverseRelationship()).forgetStored();
         forgetChange(*member, relationship.inverseRelationship(), record);
-        core_.noteRefreshed(*member);
+        records_.noteRefreshed(*member);
     }
     set.unload();
 }

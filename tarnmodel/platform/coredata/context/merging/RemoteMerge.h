@@ -1,8 +1,8 @@
 #pragma once
 
 #include "tarnmodel/platform/coredata/NSManagedObjectContext.h"
-#include "tarnmodel/platform/coredata/context/MergeConflicts.h"
-#include "tarnmodel/platform/coredata/context/RelationshipMaintenance.h"
+#include "tarnmodel/platform/coredata/context/merging/MergeConflicts.h"
+#include "tarnmodel/platform/coredata/context/records/RelationshipMaintenance.h"
 #include "tarnmodel/platform/coredata/rows/RowStore.h"
 
 #include <unordered_map>
@@ -10,16 +10,18 @@
 
 namespace tarn {
 
-class ContextCore;
+class Faulting;
 
 /// Brings one context up to date with what another context or process has saved. On the context's queue.
 class RemoteMerge {
 public:
-    explicit RemoteMerge(ContextCore& core) : core_(core), conflicts_(core, MergeSide::Context) { }
+    RemoteMerge(HeldRecords& records, Faulting& faulting, RelationshipMaintenance& relationships,
+        const MergeConflictHandler& handler)
+        : records_(records), faulting_(faulting), relationships_(relationships),
+          conflicts_(records, relationships, handler, MergeSide::Context)
+    { }
 
-    /// Observers hear of it before this returns.
-    void run(const RemoteChanges& changes);
-    /// The same, and observers hear of it when changes are processed next.
+    /// Observers hear of it when changes are processed next.
     void take(const RemoteChanges& changes);
 
 private:
@@ -37,7 +39,9 @@ private:
     void take(NSManagedObject& record, StoreRow row);
     void remove(const NSEntityDescription& root, std::int64_t key);
 
-    ContextCore& core_;
+    HeldRecords& records_;
+    Faulting& faulting_;
+    RelationshipMaintenance& relationships_;
     MergeConflicts conflicts_;
     KeysOfEntities gone_;
 };

@@ -1,7 +1,7 @@
-#include "tarnmodel/platform/coredata/context/RelationshipMaintenance.h"
+#include "tarnmodel/platform/coredata/context/records/RelationshipMaintenance.h"
 
-#include "tarnmodel/platform/coredata/context/ContextCore.h"
-#include "tarnmodel/platform/coredata/context/RecordAccess.h"
+#include "tarnmodel/platform/coredata/context/records/HeldRecords.h"
+#include "tarnmodel/platform/coredata/context/records/RecordAccess.h"
 #include "tarnmodel/platform/foundation/values/NSException.h"
 
 #include <algorithm>
@@ -41,32 +41,60 @@ NSManagedObject* RelationshipMaintenance::named(
     const NSManagedObject& record, const NSRelationshipDescription& relationship)
 {
     if (record.isFault())
-        core_.faulting.fire(record);
+        records_.operations.fire(record);
     const PropertyValues& values = RecordAccess::values(record);
     const PropertyIndex index = relationship.index();
     if (RecordAccess::isGone(record))
         return nullptr;
     if (!values.isLoaded(index))
-        core_.faulting.loadInverseToOne(record, relationship);
+        loadInverseToOne(record, relationship);
     if (values.isNil(index))
         return nullptr;
     const std::int64_t key = values.integer(index);
     const NSEntityDescription& destination = relationship.destinationEntity();
-    NSManagedObject* target = core_.registry.find(destination.rootEntity(), key);
-    return target ? target : core_.context.objectWithID(NSManagedObjectID(core_.store().identity(), destination, key));
+    return records_.recordWithKey(destination, key);
+}
+
+/// Its column is the inverse's.
+void RelationshipMaintenance::loadInverseToOne(
+    const NSManagedObject& record, const NSRelationshipDescription& relationship)
+{
+    PropertyValues& values = RecordAccess::values(record);
+    const NSManagedObjectID id = record.objectID();
+    values.setNil(relationship.index());
+    if (id.isTemporaryID())
+        return;
+    std::vector<RelatedKey> related;
+    NSError error;
+    if (!records_.store().relatedKeys(relationship, id.key(), related, &error)) {
+        values.setUnloaded(relationship.index());
+        raiseUnreadable(relationship, error);
+    }
+    for (const RelatedKey& candidate : related) {
+        NSManagedObject& target = records_.recordOrFault(*candidate.entity, candidate.key);
+        // An unsaved change at the other end has the last word.
+        const PropertyIndex inverse = relationship.inverseRelationship().index();
+        if (target.isDeleted() || (RecordAccess::changed(target) & propertyBit(inverse)))
+            continue;
+        // It was read before another writer moved it.
+        if (!target.isFault() && RecordAccess::values(target).integer(inverse) != id.key())
+            records_.operations.readAgain(target);
+        values.setInteger(relationship.index(), candidate.key);
+        return;
+    }
 }
 
 void RelationshipMaintenance::store(
     NSManagedObject& record, const NSRelationshipDescription& relationship, NSManagedObject* target)
 {
-    if (!core_.beginWrite(record))
+    if (!records_.beginWrite(record))
         return;
     PropertyValues& values = RecordAccess::values(record);
     if (target)
         values.setInteger(relationship.index(), target->objectID().key());
     else
         values.setNil(relationship.index());
-    core_.noteChange(record, relationship.index(), relationship.storage() == RelationshipStorage::Column);
+    records_.noteChange(record, relationship.index(), relationship.storage() == RelationshipStorage::Column);
 }
 
 void RelationshipMaintenance::setToOne(
@@ -74,12 +102,12 @@ void RelationshipMaintenance::setToOne(
 {
     if (target)
         requireSameContext(record, relationship, *target);
-    if (!core_.beginWrite(record))
+    if (!records_.beginWrite(record))
         return;
     NSManagedObject* former = named(record, relationship);
     if (former == target)
         return;
-    if (target && !core_.beginWrite(*target))
+    if (target && !records_.beginWrite(*target))
         target = nullptr;
     if (!former && !target)
         return;
@@ -97,11 +125,11 @@ void RelationshipMaintenance::setToOne(
 void RelationshipMaintenance::attachInverse(
     NSManagedObject& target, const NSRelationshipDescription& inverse, NSManagedObject& record)
 {
-    if (!core_.beginWrite(target))
+    if (!records_.beginWrite(target))
         return;
     if (inverse.isToMany()) {
         toMany(target, inverse).put(record);
-        core_.noteChange(target, inverse.index(), false);
+        records_.noteChange(target, inverse.index(), false);
         return;
     }
     // One to one: whoever held the target before lets it go.
@@ -116,11 +144,11 @@ void RelationshipMaintenance::attachInverse(
 void RelationshipMaintenance::detachInverse(
     NSManagedObject& target, const NSRelationshipDescription& inverse, NSManagedObject& record)
 {
-    if (!core_.beginWrite(target))
+    if (!records_.beginWrite(target))
         return;
     if (inverse.isToMany()) {
         toMany(target, inverse).take(record);
-        core_.noteChange(target, inverse.index(), false);
+        records_.noteChange(target, inverse.index(), false);
     } else if (toOne(target, inverse) == &record || !RecordAccess::values(target).isNil(inverse.index())) {
         store(target, inverse, nullptr);
     }
@@ -133,7 +161,8 @@ ToManySet& RelationshipMaintenance::toMany(const NSManagedObject& record, const 
     RecordDetails& details = RecordAccess::details(record);
     if (ToManySet* set = details.toManySet(relationship.index()))
         return *set;
-    details.toManySets.push_back(std::make_unique<ToManySet>(const_cast<NSManagedObject&>(record), relationship));
+    details.toManySets.push_back(
+        std::make_unique<ToManySet>(*this, const_cast<NSManagedObject&>(record), relationship));
     return *details.toManySets.back();
 }
 
@@ -149,12 +178,12 @@ void RelationshipMaintenance::addMember(ToManySet& set, NSManagedObject& member)
     ToManySet& other = toMany(member, inverse);
     if ((set.isLoaded() && set.holds(member)) || (other.isLoaded() && other.holds(owner)))
         return;
-    if (!core_.beginWrite(owner) || !core_.beginWrite(member))
+    if (!records_.beginWrite(owner) || !records_.beginWrite(member))
         return;
     set.put(member);
     other.put(owner);
-    core_.noteChange(owner, set.relationship().index(), false);
-    core_.noteChange(member, inverse.index(), false);
+    records_.noteChange(owner, set.relationship().index(), false);
+    records_.noteChange(member, inverse.index(), false);
 }
 
 void RelationshipMaintenance::removeMember(ToManySet& set, NSManagedObject& member)
@@ -169,12 +198,12 @@ void RelationshipMaintenance::removeMember(ToManySet& set, NSManagedObject& memb
     ToManySet& other = toMany(member, inverse);
     if ((set.isLoaded() && !set.holds(member)) || (other.isLoaded() && !other.holds(owner)))
         return;
-    if (!core_.beginWrite(owner) || !core_.beginWrite(member))
+    if (!records_.beginWrite(owner) || !records_.beginWrite(member))
         return;
     set.take(member);
     other.take(owner);
-    core_.noteChange(owner, set.relationship().index(), false);
-    core_.noteChange(member, inverse.index(), false);
+    records_.noteChange(owner, set.relationship().index(), false);
+    records_.noteChange(member, inverse.index(), false);
 }
 
 void RelationshipMaintenance::loadMembers(ToManySet& set)
@@ -196,7 +225,7 @@ void RelationshipMaintenance::loadMembers(ToManySet& set)
     std::vector<NSManagedObject*> members;
     members.reserve(keys.size() + set.added_.size());
     for (const RelatedKey& key : keys) {
-        NSManagedObject& member = core_.recordOrFault(*key.entity, key.key);
+        NSManagedObject& member = records_.recordOrFault(*key.entity, key.key);
         stored.insert(&member);
         if (!member.isDeleted() && !set.removed_.contains(&member) && !isElsewhere(member))
             members.push_back(&member);
@@ -218,7 +247,7 @@ std::vector<RelatedKey> RelationshipMaintenance::storedKeys(
     std::vector<RelatedKey> keys;
     NSError error;
     if (!owner.objectID().isTemporaryID() && !RecordAccess::isGone(owner) && !owner.isInserted()
-        && !core_.store().relatedKeys(relationship, owner.objectID().key(), keys, &error))
+        && !records_.store().relatedKeys(relationship, owner.objectID().key(), keys, &error))
         raiseUnreadable(relationship, error);
     return keys;
 }
@@ -227,13 +256,13 @@ std::size_t RelationshipMaintenance::countMembers(ToManySet& set)
 {
     const NSManagedObject& owner = *set.owner_;
     if (set.loaded_ || !set.added_.isEmpty() || !set.removed_.isEmpty() || owner.objectID().isTemporaryID()
-        || owner.isInserted() || core_.tracker.pending(set.relationship().destinationEntity().rootEntity())) {
+        || owner.isInserted() || records_.tracker.pending(set.relationship().destinationEntity().rootEntity())) {
         loadMembers(set);
         return set.members_.size();
     }
     std::size_t count = 0;
     NSError error;
-    if (!core_.store().countRelated(set.relationship(), owner.objectID().key(), count, &error))
+    if (!records_.store().countRelated(set.relationship(), owner.objectID().key(), count, &error))
         raiseUnreadable(set.relationship(), error);
     return count;
 }
@@ -265,13 +294,6 @@ void RelationshipMaintenance::settle(NSManagedObject& record)
     if (RecordDetails* details = RecordAccess::detailsIfAny(record))
         for (const auto& set : details->toManySets)
             set->settle();
-}
-
-void RelationshipMaintenance::unload(NSManagedObject& record)
-{
-    if (RecordDetails* details = RecordAccess::detailsIfAny(record))
-        for (const auto& set : details->toManySets)
-            set->unload();
 }
 
 void RelationshipMaintenance::unload(NSManagedObject& record, const NSRelationshipDescription& relationship)
@@ -313,7 +335,7 @@ void RelationshipMaintenance::dropReferences(const KeysOfEntities& gone)
         const auto keys = gone.find(&relationship.destinationEntity().rootEntity());
         return keys != gone.end() && keys->second.contains(values.integer(index));
     };
-    for (NSManagedObject* record : core_.registry.objects()) {
+    for (NSManagedObject* record : records_.registry.objects()) {
         forgetGone(*record);
         if (record->isFault())
             continue;
@@ -331,7 +353,7 @@ void RelationshipMaintenance::dropReferences(const KeysOfEntities& gone)
                 details->committed.setNil(relationship->index());
         }
         if (isRefreshed)
-            core_.noteRefreshed(*record);
+            records_.noteRefreshed(*record);
     }
 }
 
@@ -382,7 +404,7 @@ void RelationshipMaintenance::forgetTarget(NSManagedObject& record, const NSRela
     for (const PropertyValues* values : {&own, &former}) {
         if (values->isEmpty() || !values->isLoaded(index) || values->isNil(index))
             continue;
-        if (NSManagedObject* target = core_.registry.find(root, values->integer(index)))
+        if (NSManagedObject* target = records_.registry.find(root, values->integer(index)))
             forgetChangedMember(*target, relationship.inverseRelationship(), record);
     }
 }
@@ -404,14 +426,14 @@ void RelationshipMaintenance::forgetChangedMembers(
 void RelationshipMaintenance::detachFromDeleted(
     NSManagedObject& record, const NSRelationshipDescription& relationship, NSManagedObject& deleted)
 {
-    if (!core_.beginWrite(record))
+    if (!records_.beginWrite(record))
         return;
     if (!relationship.isToMany()) {
         store(record, relationship, nullptr);
         return;
     }
     toMany(record, relationship).take(deleted);
-    core_.noteChange(record, relationship.index(), false);
+    records_.noteChange(record, relationship.index(), false);
 }
 
 void RelationshipMaintenance::followKey(const NSManagedObject& record, std::int64_t former)
@@ -426,7 +448,7 @@ void RelationshipMaintenance::followKey(const NSManagedObject& record, std::int6
             if (values.isEmpty() || !values.isLoaded(index) || values.isNil(index) || values.integer(index) != former)
                 return;
             values.setInteger(index, key);
-            core_.pendingIndex.touch(holder, propertyBit(index));
+            records_.pendingIndex.touch(holder, propertyBit(index));
         };
         if (inverse.isToMany())
             continue; // sets hold the record itself

@@ -1,4 +1,4 @@
-#include "tarnmodel/platform/coredata/context/ObjectRegistry.h"
+#include "tarnmodel/platform/coredata/context/records/ObjectRegistry.h"
 
 namespace tarn {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "tarnmodel/platform/coredata/KeyValueObservation.h"
-#include "tarnmodel/platform/coredata/context/ToManySet.h"
+#include "tarnmodel/platform/coredata/context/records/ToManySet.h"
 
 #include <memory>
 #include <string>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "tarnmodel/platform/coredata/NSManagedObject.h"
-#include "tarnmodel/platform/coredata/context/OrderedSet.h"
+#include "tarnmodel/platform/coredata/context/records/OrderedSet.h"
 #include "tarnmodel/platform/coredata/description/EqualityProbes.h"
 
 #include <map>

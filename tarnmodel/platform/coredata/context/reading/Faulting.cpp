@@ -1,7 +1,8 @@
-#include "tarnmodel/platform/coredata/context/Faulting.h"
+#include "tarnmodel/platform/coredata/context/reading/Faulting.h"
 
-#include "tarnmodel/platform/coredata/context/ContextCore.h"
-#include "tarnmodel/platform/coredata/context/RecordAccess.h"
+#include "tarnmodel/platform/coredata/context/records/HeldRecords.h"
+#include "tarnmodel/platform/coredata/context/records/RecordAccess.h"
+#include "tarnmodel/platform/coredata/context/records/RelationshipMaintenance.h"
 #include "tarnmodel/platform/foundation/values/NSException.h"
 
 #include <algorithm>
@@ -22,16 +23,6 @@ constexpr std::size_t batchSize = 100;
 
 } // namespace
 
-void Faulting::noteFault(NSManagedObject& object)
-{
-    auto& faults = faults_[&object.entity().rootEntity()];
-    // What is read again and again keeps its place.
-    if (const std::uint32_t place = RecordAccess::order(object); place < faults.size() && faults[place] == &object)
-        return;
-    RecordAccess::setOrder(object, static_cast<std::uint32_t>(faults.size()));
-    faults.push_back(&object);
-}
-
 void Faulting::fire(const NSManagedObject& object)
 {
     NSError error;
@@ -43,19 +34,19 @@ bool Faulting::fill(const NSManagedObject& object, NSError* error)
 {
     const NSEntityDescription& root = object.entity().rootEntity();
     std::vector<std::int64_t> keys{object.objectID().key()};
-    const auto& faults = faults_[&root];
+    const auto& faults = records_.faults(root);
     for (std::size_t at = RecordAccess::order(object) + 1; at < faults.size() && keys.size() < batchSize; ++at)
         if (faults[at]->isFault() && !faults[at]->isDeleted())
             keys.push_back(faults[at]->objectID().key());
 
     std::vector<StoreRow> rows;
-    if (!core_.store().rowsForKeys(root, keys, RowContents::Row, rows, error))
+    if (!records_.store().rowsForKeys(root, keys, RowContents::Row, rows, error))
         return false;
     for (StoreRow& row : rows)
-        if (NSManagedObject* record = core_.registry.find(root, row.key); record && record->isFault())
+        if (NSManagedObject* record = records_.registry.find(root, row.key); record && record->isFault())
             takeRow(*record, std::move(row));
     if (object.isFault())
-        core_.noteGone(const_cast<NSManagedObject&>(object));
+        records_.noteGone(const_cast<NSManagedObject&>(object));
     return true;
 }
 
@@ -69,12 +60,12 @@ void Faulting::loadLarge(const NSManagedObject& object)
     std::vector<StoreRow> rows;
     NSError error;
     const std::int64_t key = id.key();
-    if (!core_.store().rowsForKeys(
+    if (!records_.store().rowsForKeys(
             object.entity().rootEntity(), std::span(&key, 1), RowContents::WholeRow, rows, &error))
         raiseUnreadable(object, error);
     auto& record = const_cast<NSManagedObject&>(object);
     if (rows.empty()) {
-        core_.noteGone(record);
+        records_.noteGone(record);
         return;
     }
     StoreRow& row = rows.front();
@@ -82,7 +73,7 @@ void Faulting::loadLarge(const NSManagedObject& object)
     // title.
     if (row.version != object.rowVersion() && !object.hasChanges()) {
         takeRow(record, std::move(row));
-        core_.noteRefreshed(record);
+        records_.noteRefreshed(record);
         return;
     }
     RecordDetails* details = RecordAccess::detailsIfAny(object);
@@ -96,44 +87,17 @@ void Faulting::loadLarge(const NSManagedObject& object)
     }
 }
 
-void Faulting::loadInverseToOne(const NSManagedObject& object, const NSRelationshipDescription& relationship)
-{
-    PropertyValues& values = RecordAccess::values(object);
-    const NSManagedObjectID id = object.objectID();
-    values.setNil(relationship.index());
-    if (id.isTemporaryID())
-        return;
-    std::vector<RelatedKey> related;
-    NSError error;
-    if (!core_.store().relatedKeys(relationship, id.key(), related, &error)) {
-        values.setUnloaded(relationship.index());
-        raiseUnreadable(object, error);
-    }
-    for (const RelatedKey& candidate : related) {
-        NSManagedObject& target = core_.recordOrFault(*candidate.entity, candidate.key);
-        // An unsaved change at the other end has the last word.
-        const PropertyIndex inverse = relationship.inverseRelationship().index();
-        if (target.isDeleted() || (RecordAccess::changed(target) & propertyBit(inverse)))
-            continue;
-        // It was read before another writer moved it.
-        if (!target.isFault() && RecordAccess::values(target).integer(inverse) != id.key())
-            core_.readAgain(target);
-        values.setInteger(relationship.index(), candidate.key);
-        return;
-    }
-}
-
 NSManagedObject& Faulting::adopt(StoreRow row)
 {
-    NSManagedObject& record = core_.recordOrFault(*row.entity, row.key);
+    NSManagedObject& record = records_.recordOrFault(*row.entity, row.key);
     if (row.values.isEmpty() || record.isDeleted())
         return record;
     if (record.isFault()) {
         takeRow(record, std::move(row));
     } else if (row.version != record.rowVersion() && !record.hasChanges()) {
         takeRow(record, std::move(row));
-        core_.relationships.unload(record);
-        core_.noteRefreshed(record);
+        HeldRecords::unloadSets(record);
+        records_.noteRefreshed(record);
     }
     return record;
 }
@@ -142,7 +106,7 @@ void Faulting::takeRow(NSManagedObject& object, StoreRow row)
 {
     const PropertyValues before = RecordAccess::takeValues(object);
     RecordAccess::fill(object, std::move(row.values), row.version);
-    core_.relationships.followRow(object, before);
+    relationships_.followRow(object, before);
 }
 
 } // namespace tarn

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "tarnmodel/platform/coredata/NSManagedObject.h"
-#include "tarnmodel/platform/coredata/context/OrderedSet.h"
+#include "tarnmodel/platform/coredata/context/records/OrderedSet.h"
 
 #include <cstddef>
 #include <span>
@@ -9,13 +9,16 @@
 
 namespace tarn {
 
+class RelationshipMaintenance;
+
 /// The members of a to-many relationship of one record.
 ///
 /// While it is not loaded it keeps only what was added and removed, so a change never reads the other members.
 /// Owned by its record. Every change keeps the inverse in step.
 class ToManySet {
 public:
-    ToManySet(NSManagedObject& owner, const NSRelationshipDescription& relationship);
+    ToManySet(
+        RelationshipMaintenance& maintenance, NSManagedObject& owner, const NSRelationshipDescription& relationship);
 
     /// All members: stored ones by primary key, then added ones in order. Loads the set.
     const std::vector<NSManagedObject*>& members();
@@ -34,6 +37,7 @@ public:
     const std::vector<NSManagedObject*>& removed() const { return removed_.values(); }
 
 private:
+    friend class HeldRecords;
     friend class RelationshipMaintenance;
     bool holds(const NSManagedObject& member) const;
     void put(NSManagedObject& member);
@@ -45,6 +49,7 @@ private:
 
     void putInOrder();
 
+    RelationshipMaintenance* maintenance_;
     NSManagedObject* owner_;
     const NSRelationshipDescription* relationship_;
     bool loaded_ = false;

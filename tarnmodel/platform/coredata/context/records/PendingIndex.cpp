@@ -1,6 +1,6 @@
-#include "tarnmodel/platform/coredata/context/PendingIndex.h"
+#include "tarnmodel/platform/coredata/context/records/PendingIndex.h"
 
-#include "tarnmodel/platform/coredata/context/RecordAccess.h"
+#include "tarnmodel/platform/coredata/context/records/RecordAccess.h"
 #include "tarnmodel/platform/foundation/text/Folding.h"
 
 #include <algorithm>

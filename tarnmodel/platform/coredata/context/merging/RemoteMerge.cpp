@@ -1,8 +1,9 @@
-#include "tarnmodel/platform/coredata/context/RemoteMerge.h"
+#include "tarnmodel/platform/coredata/context/merging/RemoteMerge.h"
 
-#include "tarnmodel/platform/coredata/context/ContextCore.h"
-#include "tarnmodel/platform/coredata/context/RecordAccess.h"
-#include "tarnmodel/platform/coredata/context/VersionComparison.h"
+#include "tarnmodel/platform/coredata/context/merging/VersionComparison.h"
+#include "tarnmodel/platform/coredata/context/reading/Faulting.h"
+#include "tarnmodel/platform/coredata/context/records/HeldRecords.h"
+#include "tarnmodel/platform/coredata/context/records/RecordAccess.h"
 #include "tarnmodel/platform/foundation/system/Log.h"
 
 #include <algorithm>
@@ -19,38 +20,31 @@ bool isEdited(const NSManagedObject& record)
 
 } // namespace
 
-void RemoteMerge::run(const RemoteChanges& changes)
-{
-    core_.assertOnQueue();
-    take(changes);
-    core_.processPendingChanges();
-}
-
 void RemoteMerge::take(const RemoteChanges& changes)
 {
     const bool hasNews = !changes.inserted.empty() || !changes.updated.empty() || !changes.deleted.empty();
-    if (hasNews && core_.tracker.hasChanges())
-        core_.holdsMergedRelationships = true;
+    if (hasNews && records_.tracker.hasChanges())
+        relationships_.noteMerged();
     takeRows(keysOf(changes.inserted), true);
     takeRows(movedKeys(knownKeys(keysOf(changes.updated))), false);
     for (const auto& [root, keys] : keysOf(changes.deleted))
         for (const std::int64_t key : keys)
             remove(*root, key);
     if (!gone_.empty())
-        core_.relationships.dropReferences(gone_);
+        relationships_.dropReferences(gone_);
     conflicts_.awakeRecords();
     conflicts_.tell();
 }
 
 RemoteMerge::KeysByRoot RemoteMerge::keysOf(const std::vector<NSManagedObjectID>& objectIDs) const
 {
-    const StoreIdentity& store = core_.store().identity();
+    const StoreIdentity& store = records_.store().identity();
     KeysByRoot keys;
     for (const NSManagedObjectID& id : objectIDs) {
         if (!id || id.isTemporaryID() || &id.store() != &store)
             continue;
         // The identifier may come from a coordinator that read the model for itself.
-        if (const NSEntityDescription* entity = core_.context.managedObjectModel().entityNamed(id.entity().name()))
+        if (const NSEntityDescription* entity = records_.context.managedObjectModel().entityNamed(id.entity().name()))
             keys[&entity->rootEntity()].push_back(id.key());
     }
     for (auto& [root, some] : keys) {
@@ -63,7 +57,7 @@ RemoteMerge::KeysByRoot RemoteMerge::keysOf(const std::vector<NSManagedObjectID>
 RemoteMerge::KeysByRoot RemoteMerge::knownKeys(KeysByRoot keys) const
 {
     for (auto& [root, some] : keys)
-        std::erase_if(some, [&, entity = root](std::int64_t key) { return !core_.registry.find(*entity, key); });
+        std::erase_if(some, [&, entity = root](std::int64_t key) { return !records_.registry.find(*entity, key); });
     return keys;
 }
 
@@ -73,10 +67,10 @@ RemoteMerge::KeysByRoot RemoteMerge::movedKeys(KeysByRoot keys)
     for (auto& [root, some] : keys) {
         std::vector<NSManagedObject*> read;
         for (const std::int64_t key : some)
-            if (NSManagedObject* record = core_.registry.find(*root, key); !record->isFault())
+            if (NSManagedObject* record = records_.registry.find(*root, key); !record->isFault())
                 read.push_back(record);
         VersionDifferences differences;
-        if (!compareVersions(core_.store(), *root, read, differences, nullptr))
+        if (!compareVersions(records_.store(), *root, read, differences, nullptr))
             continue; // reading the rows tells what is wrong
         std::unordered_set<const NSManagedObject*> differing(differences.moved.begin(), differences.moved.end());
         differing.insert(differences.gone.begin(), differences.gone.end());
@@ -86,9 +80,9 @@ RemoteMerge::KeysByRoot RemoteMerge::movedKeys(KeysByRoot keys)
                 continue;
             unmoved.insert(record->objectID().key());
             // Members come and go without a new version.
-            core_.relationships.forgetEndsWithoutColumn(*record);
+            relationships_.forgetEndsWithoutColumn(*record);
             if (!record->isDeleted() && !isEdited(*record))
-                core_.noteRefreshed(*record);
+                records_.noteRefreshed(*record);
         }
         std::erase_if(some, [&](std::int64_t key) { return unmoved.contains(key); });
     }
@@ -102,7 +96,7 @@ void RemoteMerge::takeRows(const KeysByRoot& keys, bool areInserted)
             continue;
         std::vector<StoreRow> rows;
         NSError error;
-        if (!core_.store().rowsForKeys(*root, some, RowContents::Row, rows, &error)) {
+        if (!records_.store().rowsForKeys(*root, some, RowContents::Row, rows, &error)) {
             logMessage("Error while merging\n" + error.localizedDescription());
             continue;
         }
@@ -118,12 +112,12 @@ void RemoteMerge::takeRows(const KeysByRoot& keys, bool areInserted)
 
 void RemoteMerge::takeRow(StoreRow row, bool isInserted)
 {
-    NSManagedObject* known = core_.registry.find(row.entity->rootEntity(), row.key);
+    NSManagedObject* known = records_.registry.find(row.entity->rootEntity(), row.key);
     if (known) {
         take(*known, std::move(row));
     } else if (isInserted) {
-        NSManagedObject& record = core_.faulting.adopt(std::move(row));
-        core_.noteAppeared(record);
+        NSManagedObject& record = faulting_.adopt(std::move(row));
+        records_.noteAppeared(record);
     }
 }
 
@@ -131,14 +125,14 @@ void RemoteMerge::take(NSManagedObject& record, StoreRow row)
 {
     if (record.isDeleted())
         return; // its deletion waits for the save here
-    core_.relationships.forgetStoredMembers(record);
+    relationships_.forgetStoredMembers(record);
     if (!isEdited(record)) {
         if (RecordDetails* details = RecordAccess::detailsIfAny(record); details && details->changed)
             details->committed = row.values;
         const PropertyValues before = RecordAccess::takeValues(record);
         RecordAccess::fill(record, std::move(row.values), row.version);
-        core_.relationships.followRow(record, before);
-        core_.noteRefreshed(record);
+        relationships_.followRow(record, before);
+        records_.noteRefreshed(record);
         return;
     }
     if (row.version == record.rowVersion())
@@ -146,7 +140,7 @@ void RemoteMerge::take(NSManagedObject& record, StoreRow row)
     std::vector<StoreRow> whole;
     NSError error;
     const std::int64_t key = row.key;
-    if (!core_.store().rowsForKeys(
+    if (!records_.store().rowsForKeys(
             record.entity().rootEntity(), std::span(&key, 1), RowContents::WholeRow, whole, &error)) {
         logMessage("Error while merging\n" + error.localizedDescription());
         return;
@@ -158,12 +152,11 @@ void RemoteMerge::take(NSManagedObject& record, StoreRow row)
 void RemoteMerge::remove(const NSEntityDescription& root, std::int64_t key)
 {
     gone_[&root].insert(key); // a record may name it that was never read here
-    NSManagedObject* record = core_.registry.find(root, key);
+    NSManagedObject* record = records_.registry.find(root, key);
     if (!record)
         return;
     conflicts_.noteDeletedElsewhere(*record);
-    core_.tracker.forgetPending(*record);
-    core_.noteGone(*record);
+    records_.noteGone(*record);
 }
 
 } // namespace tarn

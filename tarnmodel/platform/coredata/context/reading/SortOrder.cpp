@@ -1,4 +1,4 @@
-#include "tarnmodel/platform/coredata/context/SortOrder.h"
+#include "tarnmodel/platform/coredata/context/reading/SortOrder.h"
 
 #include "tarnmodel/platform/coredata/description/CompleteOrder.h"
 #include "tarnmodel/platform/foundation/time/Collation.h"

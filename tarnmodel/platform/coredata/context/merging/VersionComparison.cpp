@@ -1,4 +1,4 @@
-#include "tarnmodel/platform/coredata/context/VersionComparison.h"
+#include "tarnmodel/platform/coredata/context/merging/VersionComparison.h"
 
 #include <algorithm>
 #include <utility>

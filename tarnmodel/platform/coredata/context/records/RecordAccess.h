@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tarnmodel/platform/coredata/context/RecordDetails.h"
+#include "tarnmodel/platform/coredata/context/records/RecordDetails.h"
 
 #include <memory>
 

@@ -1,7 +1,8 @@
-#include "tarnmodel/platform/coredata/context/MergeConflicts.h"
+#include "tarnmodel/platform/coredata/context/merging/MergeConflicts.h"
 
-#include "tarnmodel/platform/coredata/context/ContextCore.h"
-#include "tarnmodel/platform/coredata/context/RecordAccess.h"
+#include "tarnmodel/platform/coredata/context/records/HeldRecords.h"
+#include "tarnmodel/platform/coredata/context/records/RecordAccess.h"
+#include "tarnmodel/platform/coredata/context/records/RelationshipMaintenance.h"
 #include "tarnmodel/platform/foundation/system/Log.h"
 
 #include <utility>
@@ -38,12 +39,12 @@ PropertyMask ownChanges(const NSManagedObject& record)
 
 /// Null for none, and for one that is not here.
 NSManagedObject* targetNamed(
-    const ContextCore& core, const NSPropertyDescription& property, const PropertyValues& values)
+    const HeldRecords& records, const NSPropertyDescription& property, const PropertyValues& values)
 {
     if (!values.isLoaded(property.index()) || values.isNil(property.index()))
         return nullptr;
     const auto& relationship = static_cast<const NSRelationshipDescription&>(property);
-    return core.registry.find(relationship.destinationEntity().rootEntity(), values.integer(property.index()));
+    return records.registry.find(relationship.destinationEntity().rootEntity(), values.integer(property.index()));
 }
 
 } // namespace
@@ -95,9 +96,9 @@ void MergeConflicts::mergeRow(NSManagedObject& record, StoreRow row)
     details.changed = (details.changed & entity.toManyMask()) | ends | kept;
     RecordAccess::fill(record, std::move(merged), row.version);
     forgetGivenWay(merge);
-    core_.relationships.followRow(record, merge.ofContext_);
-    core_.pendingIndex.touch(record, ~PropertyMask{0});
-    core_.noteRefreshed(record);
+    relationships_.followRow(record, merge.ofContext_);
+    records_.pendingIndex.touch(record, ~PropertyMask{0});
+    records_.noteRefreshed(record);
     if (merge.decided_ != 0)
         merges_.push_back(std::move(merge));
 }
@@ -111,13 +112,13 @@ void MergeConflicts::forgetGivenWay(const RecordMerge& merge)
         const PropertyIndex index = relationship->index();
         if (relationship->storage() == RelationshipStorage::Column) {
             if (differs(merge.ofContext_, RecordAccess::values(record), index))
-                core_.relationships.forgetTarget(record, *relationship, merge.ofContext_, merge.former_);
+                relationships_.forgetTarget(record, *relationship, merge.ofContext_, merge.former_);
             continue;
         }
         const bool isOfLostGroup = relationship->isToMany() && relationship->group() == PropertyGroup::Text
             && (given & record.entity().textGroupMask());
         if (isOfLostGroup && relationship->storage() == RelationshipStorage::JoinTable)
-            core_.relationships.forgetChangedMembers(record, *relationship);
+            relationships_.forgetChangedMembers(record, *relationship);
     }
 }
 
@@ -136,7 +137,7 @@ void MergeConflicts::note(MergeConflict::Cause cause, NSManagedObject& record, M
             continue;
         conflict.properties.push_back(property->name());
         if (property->isRelationship()) {
-            if (NSManagedObject* target = targetNamed(core_, *property, losing))
+            if (NSManagedObject* target = targetNamed(records_, *property, losing))
                 conflict.lostValues.emplace(property->name(), Value(target));
             continue;
         }
@@ -203,8 +204,8 @@ void MergeConflicts::tell()
         const Wording& wording = kWordings[static_cast<std::size_t>(conflict.cause)];
         logMessage(std::string(wording.before) + conflict.record->objectID().URIRepresentation()
             + std::string(wording.after) + names);
-        if (core_.conflictHandler)
-            core_.conflictHandler(conflict);
+        if (handler_)
+            handler_(conflict);
     }
 }
 

@@ -1,8 +1,8 @@
-#include "tarnmodel/platform/coredata/context/ToManySet.h"
+#include "tarnmodel/platform/coredata/context/records/ToManySet.h"
 
 #include "tarnmodel/platform/coredata/NSManagedObjectSet.h"
-#include "tarnmodel/platform/coredata/context/ContextCore.h"
-#include "tarnmodel/platform/coredata/context/RecordAccess.h"
+#include "tarnmodel/platform/coredata/context/records/RecordAccess.h"
+#include "tarnmodel/platform/coredata/context/records/RelationshipMaintenance.h"
 
 #include <algorithm>
 #include <unordered_set>
@@ -11,11 +11,6 @@
 namespace tarn {
 
 namespace {
-
-RelationshipMaintenance& maintenance(const NSManagedObject& owner)
-{
-    return owner.managedObjectContext().core().relationships;
-}
 
 bool keyOrder(const NSManagedObject* left, const NSManagedObject* right)
 {
@@ -28,13 +23,14 @@ bool keyOrder(const NSManagedObject* left, const NSManagedObject* right)
 
 } // namespace
 
-ToManySet::ToManySet(NSManagedObject& owner, const NSRelationshipDescription& relationship)
-    : owner_(&owner), relationship_(&relationship)
+ToManySet::ToManySet(
+    RelationshipMaintenance& maintenance, NSManagedObject& owner, const NSRelationshipDescription& relationship)
+    : maintenance_(&maintenance), owner_(&owner), relationship_(&relationship)
 { }
 
 const std::vector<NSManagedObject*>& ToManySet::members()
 {
-    maintenance(*owner_).loadMembers(*this);
+    maintenance_->loadMembers(*this);
     putInOrder();
     return members_.values();
 }
@@ -64,17 +60,17 @@ bool ToManySet::contains(const NSManagedObject& member)
 
 std::size_t ToManySet::count()
 {
-    return maintenance(*owner_).countMembers(*this);
+    return maintenance_->countMembers(*this);
 }
 
 void ToManySet::add(NSManagedObject& member)
 {
-    maintenance(*owner_).addMember(*this, member);
+    maintenance_->addMember(*this, member);
 }
 
 void ToManySet::remove(NSManagedObject& member)
 {
-    maintenance(*owner_).removeMember(*this, member);
+    maintenance_->removeMember(*this, member);
 }
 
 void ToManySet::set(std::span<NSManagedObject* const> wanted)
@@ -149,7 +145,7 @@ void ToManySet::unload()
 void ToManySet::forgetStored()
 {
     if (std::exchange(loaded_, false))
-        maintenance(*owner_).noteForgotten(*this);
+        maintenance_->noteForgotten(*this);
 }
 
 // The face

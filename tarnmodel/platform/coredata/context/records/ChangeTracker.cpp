@@ -1,4 +1,4 @@
-#include "tarnmodel/platform/coredata/context/ChangeTracker.h"
+#include "tarnmodel/platform/coredata/context/records/ChangeTracker.h"
 
 #include <algorithm>
 #include <tuple>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "tarnmodel/platform/coredata/context/MergeConflicts.h"
-#include "tarnmodel/platform/coredata/context/RelationshipMaintenance.h"
+#include "tarnmodel/platform/coredata/context/merging/MergeConflicts.h"
+#include "tarnmodel/platform/coredata/context/records/RelationshipMaintenance.h"
 
 #include <unordered_map>
 #include <vector>
@@ -16,7 +16,8 @@ namespace tarn {
 class StoreCatchUp {
 public:
     /// The policy decides where both sides changed a property; with `NSMergePolicy::Error` that fails.
-    explicit StoreCatchUp(ContextCore& core);
+    StoreCatchUp(HeldRecords& records, RelationshipMaintenance& relationships, NSMergePolicy policy,
+        const MergeConflictHandler& handler);
 
     /// False and an error when the store cannot be read, or when two sides changed a record and the policy takes
     /// neither; then nothing was changed.
@@ -42,9 +43,11 @@ private:
     bool detachFromDeleted(NSError* error);
     void detach(NSManagedObject& deleted, const NSRelationshipDescription& relationship, const RelatedKey& stored);
 
-    ContextCore& core_;
+    HeldRecords& records_;
+    RelationshipMaintenance& relationships_;
+    NSMergePolicy policy_;
     MergeConflicts conflicts_;
-    RecordsByRoot records_;
+    RecordsByRoot moved_;
     std::unordered_map<const NSEntityDescription*, Rows> rows_;
 };
 
