@@ -33,6 +33,7 @@
 #include "tarnmodel/platform/coredata/QueueChecks.h"
 #include "tarnmodel/platform/coredata/RecordMerge.h"
 #include "tarnmodel/platform/coredata/StoreErrors.h"
+#include "tarnmodel/platform/coredata/ValueLength.h"
 #include "tarnmodel/platform/predicate/NSPredicate.h"
 
 // What the server keeps of a record.

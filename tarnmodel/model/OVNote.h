@@ -2,6 +2,7 @@
 
 #include "tarnmodel/encryption/OVEncryptableObject.h"
 #include "tarnmodel/model/_OVNote.h"
+#include "tarnmodel/platform/coredata/ValueLength.h"
 
 #include <cstdint>
 #include <optional>
@@ -94,7 +95,10 @@ public:
 
     // Text (tarnmodel/notes/OVNote+Parsing.cpp) ----------------------------------------------------------------------
     // All raise "Invalid accessor" while the note is locked, and `NSInvalidArgumentException` for a text of more than
-    // 512 MiB; then nothing has changed. Ill-formed UTF-8 becomes U+FFFD.
+    // `maximumTextLength`; then nothing has changed. Ill-formed UTF-8 becomes U+FFFD.
+
+    /// Bytes of the longest text that a note can hold.
+    static constexpr std::size_t maximumTextLength = maximumValueLength;
 
     /// A new note with this text.
     static OVNote* noteWithText(std::string_view text, NSManagedObjectContext& context);
@@ -153,7 +157,7 @@ public:
     /// The text; through the encryption manager of the context when the note is protected and there is one. None when
     /// there is no text or the manager fails. Raises "Invalid accessor" while the note is locked.
     std::optional<std::string> text() const override;
-    /// Stores the text likewise, without deriving anything from it. Raises likewise, and for more than 512 MiB.
+    /// Stores the text likewise, without deriving anything from it. Raises likewise, and for a text that is too long.
     void setText(std::optional<std::string_view> text) override;
     std::optional<std::string> storedText() const override;
     /// Stores the text as it is, unguarded, and tells observers.

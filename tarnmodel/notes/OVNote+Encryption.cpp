@@ -42,9 +42,9 @@ void OVNote::updatePrimitiveText(std::optional<std::string_view> text)
 
 void OVNote::checkTextLength(std::string_view text)
 {
-    constexpr std::size_t maximumLength = std::size_t{512} * 1024 * 1024;
-    if (text.size() > maximumLength)
-        throw NSException(NSInvalidArgumentException, "A note cannot hold a text of more than 512 MiB.");
+    if (text.size() > maximumTextLength)
+        throw NSException(NSInvalidArgumentException,
+            "A note cannot hold a text of more than " + std::to_string(maximumTextLength >> 20U) + " MiB.");
 }
 
 bool OVNote::hasEncryption() const

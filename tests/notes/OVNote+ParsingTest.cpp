@@ -126,6 +126,7 @@ TEST_P(NoteParsing, StopsCountingWhereTheRecordDoes)
 TEST_P(NoteParsing, RefusesATextOfMoreThanHalfAGibibyte)
 {
     constexpr std::size_t length = 512UL * 1024 * 1024 + 1;
+    ASSERT_EQ(OVNote::maximumTextLength, length - 1);
     void* memory = mmap(nullptr, length, PROT_READ, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
     ASSERT_NE(memory, MAP_FAILED);
     const std::string_view huge(static_cast<const char*>(memory), length);

@@ -1,4 +1,5 @@
 #include "tools/tarn/TextFile.h"
+#include "tarnmodel/model/OVNote.h"
 #include "tools/tarn/MarkdownFiles.h"
 
 #include <gtest/gtest.h>
@@ -106,7 +107,7 @@ TEST_F(TextFileOnDisk, RefusesPipesFoldersAndHugeFilesAtOnce)
     EXPECT_THROW(readTextFile(folder_), TextFileError);
     EXPECT_THROW(readTextFile(folder_ / "none.md"), TextFileError);
     const fs::path huge = file("huge.md");
-    fs::resize_file(huge, kMaximumTextLength + 1);
+    fs::resize_file(huge, OVNote::maximumTextLength + 1);
     EXPECT_THROW(readTextFile(huge), TextFileError);
 }
 

@@ -81,8 +81,8 @@ void Importer::readFile(const std::filesystem::path& path)
         const TextFile file = readTextFile(path);
         ImportedText imported = importedTextOfFile(file.text);
         imported.text = textWithTags(std::move(imported.text), tags_);
-        if (imported.text.size() > kMaximumTextLength)
-            throw TextFileError(TextFileError::Kind::NoText, "larger than 512 MiB, the longest text of a note");
+        if (imported.text.size() > OVNote::maximumTextLength)
+            throw tooLongForANote();
         const NoteDates dates = datesOf(file, imported);
         takeNote({path, std::move(imported.text), dates.creation, dates.modification});
     } catch (const TextFileError& error) {

@@ -1,5 +1,6 @@
 #include "tools/tarn/TextFile.h"
 
+#include "tarnmodel/model/OVNote.h"
 #include "tarnmodel/platform/foundation/text/UTF.h"
 #include "tools/tarn/CommandFailure.h"
 
@@ -40,11 +41,6 @@ TextFileError cannotRead(int number)
     return {TextFileError::Kind::CannotRead, std::generic_category().message(number)};
 }
 
-TextFileError tooLarge()
-{
-    return {TextFileError::Kind::NoText, "larger than 512 MiB, the longest text of a note"};
-}
-
 NSDate dateOf(const struct statx_timestamp& stamp) noexcept
 {
     constexpr std::int64_t kMicroseconds = 1'000'000;
@@ -59,8 +55,8 @@ struct statx statusOf(int descriptor)
         throw cannotRead(errno);
     if (!S_ISREG(status.stx_mode))
         throw TextFileError(TextFileError::Kind::CannotRead, "not a regular file");
-    if (status.stx_size > kMaximumTextLength)
-        throw tooLarge();
+    if (status.stx_size > OVNote::maximumTextLength)
+        throw tooLongForANote();
     return status;
 }
 
@@ -77,7 +73,7 @@ std::string readToEnd(int descriptor, std::size_t expected)
         if (count < 0)
             throw cannotRead(errno);
         used += static_cast<std::size_t>(count);
-        if (count == 0 || used > kMaximumTextLength)
+        if (count == 0 || used > OVNote::maximumTextLength)
             break;
         if (used == bytes.size())
             bytes.resize(bytes.size() * 2);
@@ -119,6 +115,12 @@ std::string textFromUTF16(std::string_view bytes, bool bigEndian)
 
 } // namespace
 
+TextFileError tooLongForANote()
+{
+    return {TextFileError::Kind::NoText,
+        "larger than " + std::to_string(OVNote::maximumTextLength >> 20U) + " MiB, the longest text of a note"};
+}
+
 std::size_t firstInvalidByte(std::string_view text) noexcept
 {
     if (isValidUTF8(text))
@@ -153,8 +155,8 @@ TextFile readTextFile(const std::filesystem::path& path)
         throw cannotRead(errno);
     const struct statx status = statusOf(descriptor.get());
     const std::string bytes = readToEnd(descriptor.get(), status.stx_size);
-    if (bytes.size() > kMaximumTextLength)
-        throw tooLarge();
+    if (bytes.size() > OVNote::maximumTextLength)
+        throw tooLongForANote();
 
     TextFile file;
     file.text = textFromFileContents(bytes);
@@ -170,8 +172,8 @@ std::string readDescriptor(int descriptor, std::string_view name)
     constexpr std::size_t kFirstBuffer = 1U << 16;
     try {
         std::string bytes = readToEnd(descriptor, kFirstBuffer);
-        if (bytes.size() > kMaximumTextLength)
-            throw tooLarge();
+        if (bytes.size() > OVNote::maximumTextLength)
+            throw tooLongForANote();
         return bytes;
     } catch (const TextFileError& error) {
         throw CommandFailure(ExitCode::InputOutput, std::string(name) + ": " + error.what());

@@ -10,9 +10,6 @@
 
 namespace tarn {
 
-/// Texts above this many bytes are refused.
-inline constexpr std::size_t kMaximumTextLength = std::size_t{512} << 20;
-
 /// A text file as it was found.
 struct TextFile {
     std::string text;    ///< valid UTF-8, without a byte order mark
@@ -30,6 +27,9 @@ public:
 private:
     Kind kind_;
 };
+
+/// That a text is longer than a note can hold.
+TextFileError tooLongForANote();
 
 /// Reads a file whole. Raises `TextFileError` for one that cannot be read, is no regular file, is too large or holds no
 /// text. Never waits for a pipe or a device.

@@ -62,7 +62,7 @@ public:
     /// The same, sharing the bytes of `model` where those are equal: rows in a row often hold the same.
     void setBytes(PropertyIndex index, std::string_view bytes, const PropertyValues* model);
     /// Bytes that somebody gives, as the attribute holds them: what is no UTF-8 in a text becomes U+FFFD. False when it
-    /// held just these. Raises `NSInvalidArgumentException` for more than 512 MiB.
+    /// held just these. Raises `NSInvalidArgumentException` for more than `maximumValueLength`.
     bool putBytes(PropertyIndex index, std::string_view bytes);
     /// Valid until the property is set again.
     std::string_view bytes(PropertyIndex index) const noexcept { return slot(index).bytes->view(); }

@@ -1,5 +1,6 @@
 #include "tarnmodel/platform/coredata/PropertyValues.h"
 
+#include "tarnmodel/platform/coredata/ValueLength.h"
 #include "tarnmodel/platform/foundation/text/UTF.h"
 #include "tarnmodel/platform/foundation/values/NSException.h"
 
@@ -165,16 +166,16 @@ void PropertyValues::setBytes(PropertyIndex index, std::string_view bytes, const
 
 bool PropertyValues::putBytes(PropertyIndex index, std::string_view bytes)
 {
-    constexpr std::size_t kLongest = std::size_t{512} << 20U;
     const auto& attribute = static_cast<const NSAttributeDescription&>(entity_->property(index));
     std::string replaced;
-    if (bytes.size() <= kLongest && attribute.type() == NSAttributeType::String && !isValidUTF8(bytes)) {
+    if (bytes.size() <= maximumValueLength && attribute.type() == NSAttributeType::String && !isValidUTF8(bytes)) {
         replaced = validUTF8(bytes);
         bytes = replaced;
     }
-    if (bytes.size() > kLongest)
-        throw NSException(
-            NSInvalidArgumentException, "A value of \"" + attribute.name() + "\" may have at most 512 MiB");
+    if (bytes.size() > maximumValueLength)
+        throw NSException(NSInvalidArgumentException,
+            "A value of \"" + attribute.name() + "\" may have at most " + std::to_string(maximumValueLength >> 20U)
+                + " MiB");
     if (isLoaded(index) && !isNil(index) && this->bytes(index) == bytes)
         return false;
     setBytes(index, bytes);
