@@ -97,6 +97,9 @@
 #include "tarnmodel/model/OVServerMetadataAttributes.h"
 #include "tarnmodel/model/Syncable.h"
 
+// Lists of notes.
+#include "tarnmodel/notes/NoteFilter.h"
+
 // The search language.
 #include "tarnmodel/search/HighlightTerms.h"
 #include "tarnmodel/search/OVNoteSearchManager.h"

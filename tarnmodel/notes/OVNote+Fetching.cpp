@@ -1,6 +1,7 @@
 #include "tarnmodel/model/OVNote.h"
 #include "tarnmodel/model/OVNoteTag.h"
 #include "tarnmodel/model/RecordFetch.h"
+#include "tarnmodel/notes/NoteFilter.h"
 #include "tarnmodel/notes/NotePredicates.h"
 #include "tarnmodel/platform/coredata/NSFetchRequest.h"
 
@@ -23,9 +24,9 @@ std::vector<OVNote*> fetchNotes(const std::optional<NSPredicate>& predicate, con
     return fetchRecords<OVNote>(request, context).value_or(std::vector<OVNote*>());
 }
 
-std::vector<OVNote*> fetchNotes(std::string_view format, NSManagedObjectContext& context)
+std::vector<OVNote*> fetchNotes(NoteFilter filter, NSManagedObjectContext& context)
 {
-    return fetchNotes(NSPredicate::predicateWithFormat(format), {}, context);
+    return fetchNotes(predicateForNoteFilter(filter), {}, context);
 }
 
 OVNote* firstOf(const std::vector<OVNote*>& notes)
@@ -56,32 +57,32 @@ std::vector<OVNote*> OVNote::notesInManagedObjectContext(
 
 std::vector<OVNote*> OVNote::allNotesInManagedObjectContext(NSManagedObjectContext& context)
 {
-    return fetchNotes(std::nullopt, {}, context);
+    return fetchNotes(NoteFilter::All, context);
 }
 
 std::vector<OVNote*> OVNote::allUntrashedNotesInManagedObjectContext(NSManagedObjectContext& context)
 {
-    return fetchNotes("trashed == NO", context);
+    return fetchNotes(NoteFilter::Untrashed, context);
 }
 
 std::vector<OVNote*> OVNote::allTrashedNotesInManagedObjectContext(NSManagedObjectContext& context)
 {
-    return fetchNotes("trashed == YES", context);
+    return fetchNotes(NoteFilter::Trashed, context);
 }
 
 std::vector<OVNote*> OVNote::allArchivedNotesInManagedObjectContext(NSManagedObjectContext& context)
 {
-    return fetchNotes("archived == YES AND trashed == NO", context);
+    return fetchNotes(NoteFilter::Archived, context);
 }
 
 std::vector<OVNote*> OVNote::allConflictedNotesInManagedObjectContext(NSManagedObjectContext& context)
 {
-    return fetchNotes("conflictUniqueIdentifier != nil", context);
+    return fetchNotes(NoteFilter::Conflicted, context);
 }
 
 std::vector<OVNote*> OVNote::allEncryptedNotesInManagedObjectContext(NSManagedObjectContext& context)
 {
-    return fetchNotes("encrypted == YES", context);
+    return fetchNotes(NoteFilter::Encrypted, context);
 }
 
 std::vector<OVNote*> OVNote::watchNotesInManagedObjectContext(NSManagedObjectContext& context)

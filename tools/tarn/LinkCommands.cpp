@@ -1,4 +1,5 @@
 #include "tarnmodel/model/OVNoteBackLink.h"
+#include "tarnmodel/notes/NoteFilter.h"
 #include "tools/tarn/CommandLine.h"
 #include "tools/tarn/Commands.h"
 #include "tools/tarn/DisplayText.h"
@@ -103,8 +104,7 @@ ExitCode showUnresolved(const Invocation& invocation)
 ExitCode showOrphans(const Invocation& invocation)
 {
     StoreSession session(invocation, StoreSession::Access::Read);
-    const auto notes = session.notes(NSPredicate::predicateWithFormat(
-        "linkingTo.@count == 0 AND linkedBy.@count == 0 AND trashed == NO AND archived == NO"));
+    const auto notes = session.notes(predicateForNoteFilter(NoteFilter::ActiveUnlinked));
     show(invocation, notes);
     return session.exitCodeOfSearch(!notes.empty(), "there is no active note without links");
 }

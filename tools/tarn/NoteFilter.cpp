@@ -7,32 +7,35 @@ namespace tarn {
 
 namespace {
 
+struct NamedFilter {
+    std::string_view name;
+    NoteFilter filter;
+};
+
 constexpr std::array kFilters{
-    NoteFilter{"active", "trashed == NO AND archived == NO"},
-    NoteFilter{"trashed", "trashed == YES"},
-    NoteFilter{"archived", "archived == YES AND trashed == NO"},
-    NoteFilter{"pinned", "pinned == YES AND trashed == NO AND archived == NO"},
-    NoteFilter{"conflicted", "conflictUniqueIdentifier != nil"},
-    NoteFilter{"encrypted", "encrypted == YES"},
-    NoteFilter{"all", ""},
+    NamedFilter{"active", NoteFilter::Active},
+    NamedFilter{"trashed", NoteFilter::Trashed},
+    NamedFilter{"archived", NoteFilter::Archived},
+    NamedFilter{"pinned", NoteFilter::ActivePinned},
+    NamedFilter{"conflicted", NoteFilter::Conflicted},
+    NamedFilter{"encrypted", NoteFilter::Encrypted},
+    NamedFilter{"all", NoteFilter::All},
 };
 
 } // namespace
 
 std::optional<NSPredicate> predicateOfFilter(std::string_view name)
 {
-    const auto* filter = std::ranges::find(kFilters, name, &NoteFilter::name);
-    if (filter == kFilters.end() || filter->format.empty())
-        return std::nullopt;
-    return NSPredicate::predicateWithFormat(filter->format);
+    const auto* named = std::ranges::find(kFilters, name, &NamedFilter::name);
+    return named == kFilters.end() ? std::nullopt : predicateForNoteFilter(named->filter);
 }
 
 std::vector<std::string> namesOfFilters()
 {
     std::vector<std::string> names;
     names.reserve(kFilters.size());
-    for (const NoteFilter& filter : kFilters)
-        names.emplace_back(filter.name);
+    for (const NamedFilter& named : kFilters)
+        names.emplace_back(named.name);
     return names;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tarnmodel/platform/predicate/NSPredicate.h"
+#include "tarnmodel/notes/NoteFilter.h"
 
 #include <optional>
 #include <string>
@@ -9,13 +9,7 @@
 
 namespace tarn {
 
-/// A choice of notes that `tarn list --filter` knows.
-struct NoteFilter {
-    std::string_view name;
-    std::string_view format; ///< a predicate over notes; "" for all
-};
-
-/// The predicate of the filter with this name; the filter must exist. None for all notes.
+/// The predicate of the filter that `tarn list --filter` calls so; there must be one. None for all notes.
 std::optional<NSPredicate> predicateOfFilter(std::string_view name);
 /// In the order in which people are told of them.
 std::vector<std::string> namesOfFilters();
