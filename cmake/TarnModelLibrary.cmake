@@ -2,7 +2,7 @@
 add_library(TarnModel STATIC
   $<TARGET_OBJECTS:tarn_encryption_protocols> $<TARGET_OBJECTS:tarn_model> $<TARGET_OBJECTS:tarn_notes> $<TARGET_OBJECTS:tarn_tags>
   $<TARGET_OBJECTS:tarn_files> $<TARGET_OBJECTS:tarn_sync> $<TARGET_OBJECTS:tarn_search> $<TARGET_OBJECTS:tarn_backup>
-  $<TARGET_OBJECTS:tarn_store>)
+  $<TARGET_OBJECTS:tarn_diagnosis> $<TARGET_OBJECTS:tarn_store>)
 add_library(TarnModel::TarnModel ALIAS TarnModel)
 set_target_properties(TarnModel PROPERTIES LINKER_LANGUAGE CXX)
 target_include_directories(TarnModel PUBLIC

@@ -49,7 +49,7 @@ FLOORS = [
     {f"{LIBRARY}/encryption"},
     {f"{LIBRARY}/model"},
     {f"{LIBRARY}/{room}" for room in ("notes", "tags", "files", "sync", "search", "backup")},
-    {f"{LIBRARY}/store"},
+    {f"{LIBRARY}/{room}" for room in ("diagnosis", "store")},
     {LIBRARY},
     {"tools/tarn"},
     {"examples", "tests", "benchmarks", "fuzz"},

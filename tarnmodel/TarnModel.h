@@ -114,6 +114,10 @@
 // Folders.
 #include "tarnmodel/files/OVLocalFileManager.h"
 
+// What is in a store, and whether it is sound.
+#include "tarnmodel/diagnosis/StoreDoctor.h"
+#include "tarnmodel/diagnosis/StoreFinding.h"
+
 // Opening the store, and watching records.
 #include "tarnmodel/store/OVCoreDataStack.h"
 #include "tarnmodel/store/OVCoreDataStackDelegate.h"

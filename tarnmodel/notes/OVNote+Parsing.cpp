@@ -5,25 +5,17 @@
 #include "tarnmodel/model/OVNoteImage.h"
 #include "tarnmodel/notes/EditGuard.h"
 #include "tarnmodel/notes/TitlePropagation.h"
+#include "tarnmodel/notes/ToDoCount.h"
 #include "tarnmodel/platform/foundation/text/PercentEncoding.h"
 #include "tarnmodel/platform/foundation/text/UTF.h"
 #include "tarnmodel/platform/foundation/values/NSDate.h"
 #include "tarnmodel/sync/OVDeviceUUID.h"
 
-#include <algorithm>
-#include <limits>
 #include <unordered_map>
 
 namespace tarn {
 
 namespace {
-
-/// A count as the record holds it; what does not fit is the highest number that does.
-std::int16_t clampedCount(std::size_t count)
-{
-    constexpr std::size_t highest = std::numeric_limits<std::int16_t>::max();
-    return static_cast<std::int16_t>(std::min(count, highest));
-}
 
 using FilesByName = std::unordered_map<std::string, OVNoteFile*>;
 
@@ -114,8 +106,8 @@ void OVNote::deriveFromTextSummary(const CVKTextSummary& summary, const std::opt
     // What is protected must not shine through a list of notes.
     setSubtitle(hasEncryption() ? std::nullopt : std::optional<std::string_view>(summary.subtitle));
     setTagsFromStrings(summary.tags);
-    setTodoIncompletedValue(clampedCount(summary.todoCount));
-    setTodoCompletedValue(clampedCount(summary.doneCount));
+    setTodoIncompletedValue(storedToDoCount(summary.todoCount));
+    setTodoCompletedValue(storedToDoCount(summary.doneCount));
     setHasSourceCodeValue(summary.codeBlockCount != 0);
     setLinkedNotesFromWikiLinks(summary.wikiLinks);
     updateLinkedByNoteForNewTitle(summary.title, oldTitle);

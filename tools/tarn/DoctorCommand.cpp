@@ -1,45 +1,148 @@
+#include "tarnmodel/diagnosis/StoreDoctor.h"
 #include "tools/tarn/CommandFailure.h"
 #include "tools/tarn/CommandLine.h"
 #include "tools/tarn/Commands.h"
 #include "tools/tarn/DisplayText.h"
-#include "tools/tarn/Doctor.h"
 #include "tools/tarn/JSON.h"
+#include "tools/tarn/StoreSession.h"
 
-#include <algorithm>
+#include <array>
 #include <memory>
 
 namespace tarn {
 
 namespace {
 
+/// One question about a store and what was found amiss.
+struct DoctorCheck {
+    std::string name;
+    std::size_t found = 0;             ///< how many problems
+    std::vector<std::string> problems; ///< the first of them, for people
+};
+
 /// What the doctor has to say.
 struct Diagnosis {
     std::vector<DoctorCheck> checks;
-    std::size_t repaired = 0; ///< notes
-    std::size_t mendedTags = 0;
-    std::size_t indexed = 0; ///< texts that the search index did not have, or had wrongly
+    StoreRepairs repairs;
     ExitCode code = ExitCode::Done;
 };
 
+/// By `StoreCheck`.
+constexpr std::array<const char*, kStoreCheckCount> kCheckNames{
+    "integrity", "searchIndex", "title", "subtitle", "todos", "flags", "noteTags", "links", "tags"};
+
+/// The sentence about a finding, behind the name of what it is about.
+const char* sentenceOf(StoreFinding::Kind kind)
+{
+    using Kind = StoreFinding::Kind;
+    switch (kind) {
+    case Kind::DamagedFile:
+    case Kind::SearchIndexAmiss:
+        break;
+    case Kind::WrongTitle:
+        return "the title is not what the text says";
+    case Kind::WrongSubtitle:
+        return "the subtitle is not what the text says";
+    case Kind::WrongOpenToDos:
+        return "the number of open to-dos is not what the text says";
+    case Kind::WrongDoneToDos:
+        return "the number of completed to-dos is not what the text says";
+    case Kind::WrongCodeFlag:
+        return "the flag for source code is not what the text says";
+    case Kind::WrongImagesFlag:
+        return "the flag for images is not what the text says";
+    case Kind::WrongFilesFlag:
+        return "the flag for files is not what the text says";
+    case Kind::WrongNoteTags:
+        return "the set of tags is not what the text says";
+    case Kind::WrongLinks:
+        return "the set of links is not what the text says";
+    case Kind::WrongLinkTarget:
+        return "where a link leads is not what the text says";
+    case Kind::MissingParentTags:
+        return "it does not have every tag above its tags";
+    case Kind::DuplicateTag:
+        return "there are two such tags";
+    case Kind::TagWithoutText:
+        return "no text names it, but it has notes";
+    case Kind::MissingTag:
+        return "a text names it, but no tag with notes is so called";
+    case Kind::UnusableTagTitle:
+        return "no text can give a tag this name";
+    }
+    return "";
+}
+
+std::string problemOf(const StoreFinding& finding)
+{
+    if (!finding.description.empty())
+        return finding.description;
+    const std::string title = finding.title.value_or("");
+    const std::string name = finding.check() == StoreCheck::Tags
+        ? "#" + title
+        : finding.uniqueIdentifier.value_or("?") + " \"" + title + "\"";
+    return name + ": " + sentenceOf(finding.kind);
+}
+
+std::vector<DoctorCheck> checksOf(const StoreExamination& examination)
+{
+    std::vector<DoctorCheck> checks;
+    for (std::size_t index = 0; index < kStoreCheckCount; ++index) {
+        const StoreCheckResult& result = examination.results[index];
+        DoctorCheck& check = checks.emplace_back();
+        check.name = kCheckNames[index];
+        check.found = result.count;
+        for (const StoreFinding& finding : result.findings)
+            check.problems.push_back(problemOf(finding));
+    }
+    return checks;
+}
+
+std::string failedStep(const StoreDoctor& doctor, const StoreSession& session)
+{
+    switch (doctor.step()) {
+    case StoreDoctor::Step::CheckingFile:
+        return "cannot check the file of the store";
+    case StoreDoctor::Step::CheckingSearchIndex:
+        return "cannot check the search index";
+    case StoreDoctor::Step::ReadingRecords:
+        return "cannot read the store";
+    case StoreDoctor::Step::SavingRecords:
+        return session.nothingWasSaved();
+    case StoreDoctor::Step::RepairingSearchIndex:
+        break;
+    }
+    return "cannot repair the search index";
+}
+
+/// What the doctor gives; raises `CommandFailure` when that is nothing.
+template <typename Result>
+Result required(
+    std::optional<Result> result, const NSError& error, const StoreDoctor& doctor, const StoreSession& session)
+{
+    if (!result)
+        throw session.failure(failedStep(doctor, session), error);
+    return std::move(*result);
+}
+
 Diagnosis diagnose(const Invocation& invocation, bool repair)
 {
-    Diagnosis diagnosis;
     StoreSession session(invocation, repair ? StoreSession::Access::Write : StoreSession::Access::Read);
     if (!session.exists())
         throw CommandFailure(ExitCode::InputOutput, "there is nothing to examine in " + session.folder().string());
-    Doctor doctor(session);
-    diagnosis.checks = doctor.examine();
-    // A damaged file is not written to: that could make it worse.
-    if (repair && !doctor.fileIsDamaged()) {
-        diagnosis.mendedTags = doctor.repairTags();
-        diagnosis.repaired = doctor.repair();
-        diagnosis.indexed = doctor.repairSearchIndex();
-        if (diagnosis.repaired + diagnosis.mendedTags + diagnosis.indexed > 0)
-            diagnosis.checks = doctor.examine();
+    Diagnosis diagnosis;
+    StoreDoctor doctor(session.context());
+    NSError error;
+    StoreExamination examination = required(doctor.examine(&error), error, doctor, session);
+    if (repair && !examination.fileIsDamaged()) {
+        diagnosis.repairs = required(doctor.repair(examination, &error), error, doctor, session);
+        if (!diagnosis.repairs.isEmpty())
+            examination = required(doctor.examine(&error), error, doctor, session);
     }
-    if (doctor.fileIsDamaged())
+    diagnosis.checks = checksOf(examination);
+    if (examination.fileIsDamaged())
         diagnosis.code = ExitCode::Corrupt;
-    else if (!std::ranges::all_of(diagnosis.checks, &DoctorCheck::ok))
+    else if (!examination.isSound())
         diagnosis.code = ExitCode::Failed;
     return diagnosis;
 }
@@ -47,11 +150,10 @@ Diagnosis diagnose(const Invocation& invocation, bool repair)
 /// A store so damaged that it cannot even be opened or read is a diagnosis as well.
 Diagnosis diagnosisOfFailure(const CommandFailure& failure)
 {
-    return {.checks = {{.name = "integrity", .found = 1, .problems = {failure.what()}}},
-        .repaired = 0,
-        .mendedTags = 0,
-        .indexed = 0,
-        .code = failure.code()};
+    Diagnosis diagnosis;
+    diagnosis.checks.push_back({.name = "integrity", .found = 1, .problems = {failure.what()}});
+    diagnosis.code = failure.code();
+    return diagnosis;
 }
 
 JSON jsonOf(const Diagnosis& diagnosis, bool repair)
@@ -60,7 +162,7 @@ JSON jsonOf(const Diagnosis& diagnosis, bool repair)
     for (const DoctorCheck& check : diagnosis.checks) {
         JSON json;
         json["name"] = check.name;
-        json["ok"] = check.ok();
+        json["ok"] = check.found == 0;
         json["found"] = check.found;
         json["problems"] = check.problems;
         checks.push_back(std::move(json));
@@ -68,9 +170,9 @@ JSON jsonOf(const Diagnosis& diagnosis, bool repair)
     JSON document;
     document["checks"] = std::move(checks);
     if (repair) {
-        document["repaired"] = diagnosis.repaired;
-        document["mendedTags"] = diagnosis.mendedTags;
-        document["indexed"] = diagnosis.indexed;
+        document["repaired"] = diagnosis.repairs.notes;
+        document["mendedTags"] = diagnosis.repairs.tags;
+        document["indexed"] = diagnosis.repairs.indexedTexts;
     }
     return document;
 }
@@ -78,8 +180,9 @@ JSON jsonOf(const Diagnosis& diagnosis, bool repair)
 void writeDiagnosis(Output& output, const Diagnosis& diagnosis, bool repair)
 {
     for (const DoctorCheck& check : diagnosis.checks) {
-        const std::string state = check.ok() ? output.styled("ok", TextStyle::Good)
-                                             : output.styled(std::to_string(check.found) + " found", TextStyle::Bad);
+        const std::string state = check.found == 0
+            ? output.styled("ok", TextStyle::Good)
+            : output.styled(std::to_string(check.found) + " found", TextStyle::Bad);
         output.writeLine(textPaddedToWidth(check.name, 12) + state);
         for (const std::string& problem : check.problems)
             output.writeLine("    " + displayText(problem));
@@ -87,11 +190,11 @@ void writeDiagnosis(Output& output, const Diagnosis& diagnosis, bool repair)
             output.writeLine("    and " + std::to_string(check.found - check.problems.size()) + " more");
     }
     if (repair)
-        output.writeLine("repaired " + numbered(diagnosis.repaired, "note"));
-    if (diagnosis.mendedTags > 0)
-        output.writeLine("mended " + numbered(diagnosis.mendedTags, "tag"));
-    if (diagnosis.indexed > 0)
-        output.writeLine("entered " + numbered(diagnosis.indexed, "text") + " in the search index");
+        output.writeLine("repaired " + numbered(diagnosis.repairs.notes, "note"));
+    if (diagnosis.repairs.tags > 0)
+        output.writeLine("mended " + numbered(diagnosis.repairs.tags, "tag"));
+    if (diagnosis.repairs.indexedTexts > 0)
+        output.writeLine("entered " + numbered(diagnosis.repairs.indexedTexts, "text") + " in the search index");
 }
 
 ExitCode examine(const Invocation& invocation, bool repair)

@@ -130,14 +130,6 @@ std::vector<OVNote*> StoreSession::latestNotes(const std::optional<NSPredicate>&
     return records<OVNote>(request);
 }
 
-std::vector<OVNote*> StoreSession::notesPage(std::size_t offset, std::size_t limit)
-{
-    NSFetchRequest request(OVNote::entityInManagedObjectContext(*context_));
-    request.fetchOffset = offset;
-    request.fetchLimit = limit;
-    return records<OVNote>(request);
-}
-
 std::size_t StoreSession::countNotes(const std::optional<NSPredicate>& predicate)
 {
     return countOfEntity(OVNote::entityInManagedObjectContext(*context_), predicate);
@@ -168,22 +160,18 @@ std::size_t StoreSession::countOfEntity(const NSEntityDescription& entity, const
     return *count;
 }
 
+std::string StoreSession::nothingWasSaved() const
+{
+    return "nothing was saved to " + database_.string();
+}
+
 void StoreSession::write(const std::function<void()>& work)
 {
     NSError error;
     if (context_->performExclusive(work, &error))
         return;
     context_->rollback();
-    throw failure("nothing was saved to " + database_.string(), error);
-}
-
-void StoreSession::save()
-{
-    NSError error;
-    if (context_->save(&error))
-        return;
-    context_->rollback();
-    throw failure("nothing was saved to " + database_.string(), error);
+    throw failure(nothingWasSaved(), error);
 }
 
 } // namespace tarn

@@ -55,8 +55,6 @@ public:
     std::vector<OVNote*> notes(const std::optional<NSPredicate>& predicate, std::size_t limit = 0);
     /// The latest modified first.
     std::vector<OVNote*> latestNotes(const std::optional<NSPredicate>& predicate, std::size_t limit);
-    /// A page of all notes in the order of their keys, for walks over everything.
-    std::vector<OVNote*> notesPage(std::size_t offset, std::size_t limit);
     std::size_t countNotes(const std::optional<NSPredicate>& predicate);
     /// Tags in no particular order.
     std::vector<OVNoteTag*> tags(const std::optional<NSPredicate>& predicate);
@@ -64,17 +62,19 @@ public:
     std::vector<OVNoteBackLink*> links(const std::optional<NSPredicate>& predicate);
     std::size_t countOfEntity(const NSEntityDescription& entity, const std::optional<NSPredicate>& predicate);
 
+    /// What to raise when the store failed: `what` could not be done, or somebody interrupted the wait for it.
+    CommandFailure failure(const std::string& what, const NSError& error) const;
+    /// Says that a save failed.
+    std::string nothingWasSaved() const;
+
     /// Runs what reads records and changes them, and saves. The database is locked from before its first read to the
     /// end of the save, so that it builds upon what programs wrote that know nothing of the lock file. When it raises
     /// an exception, or what it did cannot be saved, nothing has changed.
     void write(const std::function<void()>& work);
-    /// Writes all changes of the context. What cannot be written is rolled back.
-    void save();
 
 private:
     void open(Access access);
     bool goesOnWaiting(std::chrono::milliseconds waited);
-    CommandFailure failure(const std::string& what, const NSError& error) const;
     template <typename Record> std::vector<Record*> records(const NSFetchRequest& request);
 
     std::filesystem::path folder_;

@@ -1,6 +1,8 @@
-#include "tools/tarn/TagRepair.h"
-
 #include "tarnmodel/corvel/CVKHashtag.h"
+#include "tarnmodel/diagnosis/RecordReadingInternal.h"
+#include "tarnmodel/diagnosis/TagRepairInternal.h"
+#include "tarnmodel/model/OVNote.h"
+#include "tarnmodel/model/OVNoteTag.h"
 #include "tarnmodel/platform/foundation/text/Folding.h"
 #include "tarnmodel/platform/foundation/values/NSDate.h"
 
@@ -26,13 +28,13 @@ void takeSettings(OVNoteTag& tag, const OVNoteTag& other)
 
 } // namespace
 
-bool hasCanonicalTitle(const OVNoteTag& tag)
+bool hasUsableTitle(const OVNoteTag& tag)
 {
     const std::string title = tag.title().value_or("");
     return !title.empty() && CVKHashtag::sanitizeTagName(title) == title;
 }
 
-bool hasTagsAbove(const OVNote& note)
+bool hasParentTags(const OVNote& note)
 {
     const std::vector<OVNoteTag*> tags = note.tagsSet().allObjects();
     std::set<std::string> keys;
@@ -53,9 +55,9 @@ std::size_t TagRepair::run()
 
 void TagRepair::mendTitles()
 {
-    std::vector<OVNoteTag*> tags = session_.tags(std::nullopt);
+    std::vector<OVNoteTag*> tags = readRecords<OVNoteTag>(context_);
     // Tags in order keep their records, whatever has to be united with them.
-    const auto isInOrder = [](const OVNoteTag* tag) { return hasCanonicalTitle(*tag); };
+    const auto isInOrder = [](const OVNoteTag* tag) { return hasUsableTitle(*tag); };
     std::stable_partition(tags.begin(), tags.end(), isInOrder);
     for (OVNoteTag* tag : tags)
         mend(*tag);
@@ -65,7 +67,7 @@ void TagRepair::mend(OVNoteTag& tag)
 {
     const std::string title = CVKHashtag::sanitizeTagName(tag.title().value_or(""));
     if (title.empty()) {
-        session_.context().deleteObject(tag);
+        context_.deleteObject(tag);
         ++mended_;
         return;
     }
@@ -91,19 +93,20 @@ void TagRepair::unite(OVNoteTag& tag, OVNoteTag& other)
     if (!pinned.empty())
         tag.setPinnedNotesDate(now());
     takeSettings(tag, other);
-    session_.context().deleteObject(other);
+    context_.deleteObject(other);
 }
 
 void TagRepair::completeProtectedNotes()
 {
-    for (OVNote* note : session_.notes(NSPredicate::predicateWithFormat("encrypted == YES AND tags.@count > 0"))) {
-        if (hasTagsAbove(*note))
+    const auto isProtectedAndTagged = NSPredicate::predicateWithFormat("encrypted == YES AND tags.@count > 0");
+    for (OVNote* note : readRecords<OVNote>(context_, isProtectedAndTagged)) {
+        if (hasParentTags(*note))
             continue;
         for (const OVNoteTag* tag : note->tagsSet().allObjects()) {
             std::vector<std::string> path = tag->tagComponents();
             for (path.pop_back(); !path.empty(); path.pop_back()) {
                 const std::string name = CVKHashtag::tagNameFromComponents(path);
-                if (OVNoteTag* above = OVNoteTag::getOrCreateTagWithName(name, session_.context()))
+                if (OVNoteTag* above = OVNoteTag::getOrCreateTagWithName(name, context_))
                     note->tagsSet().addObject(*above);
             }
         }

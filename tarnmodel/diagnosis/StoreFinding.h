@@ -1,0 +1,98 @@
+#pragma once
+
+#include "tarnmodel/platform/coredata/NSManagedObjectID.h"
+#include "tarnmodel/platform/foundation/values/Value.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace tarn {
+
+/// The questions that an examination puts to a store, in its order.
+enum class StoreCheck : std::uint8_t {
+    Integrity,   ///< is the file sound?
+    SearchIndex, ///< does the index of texts know what the texts hold?
+    // Are the fields of each note what a fresh parse of its text gives?
+    Title,
+    Subtitle,
+    ToDos,
+    Flags,
+    NoteTags,
+    Links, ///< and do they lead to notes of the titles that they name?
+    Tags,  ///< are tags what texts name, and can texts name each?
+};
+inline constexpr std::size_t kStoreCheckCount = 9;
+
+/// One thing that is amiss in a store.
+struct StoreFinding {
+    enum class Kind : std::uint8_t {
+        DamagedFile,       ///< `description` says how
+        SearchIndexAmiss,  ///< `description` says how
+        WrongTitle,        ///< of a note, like all that follow
+        WrongSubtitle,     ///<
+        WrongOpenToDos,    ///< the number of to-dos that are not done
+        WrongDoneToDos,    ///< the number of those that are
+        WrongCodeFlag,     ///< whether there is source code
+        WrongImagesFlag,   ///< whether there are images
+        WrongFilesFlag,    ///< whether there are other attachments
+        WrongNoteTags,     ///< the note carries other tags than its text names
+        WrongLinks,        ///< links are missing, superfluous or at another place
+        WrongLinkTarget,   ///< a link leads to a note of another title
+        MissingParentTags, ///< a protected note carries a tag without every tag above it
+        DuplicateTag,      ///< another tag has the same name, compared folded; of a tag, like all that follow
+        TagWithoutText,    ///< no text names it, but it has notes
+        MissingTag,        ///< a text names it, but no tag with notes is so called; there is no record
+        UnusableTagTitle,  ///< no text can give a tag this name
+    };
+
+    Kind kind = Kind::DamagedFile;
+    /// The note or tag; none where there is none.
+    std::optional<NSManagedObjectID> objectID;
+    std::optional<std::string> uniqueIdentifier;
+    /// Of a note as it is stored; of a tag as `displayTitle` gives it, an unusable one as it is stored; of a missing
+    /// tag its name, folded.
+    std::optional<std::string> title;
+    /// What the note holds, and what its text says: texts, numbers or booleans, of tags the folded names as a sorted
+    /// array. Nil for findings that are not of one field.
+    Value stored;
+    Value derived;
+    /// What the store says of its file and index, for people.
+    std::string description;
+
+    StoreCheck check() const noexcept;
+    /// Whether `StoreDoctor::repair` makes it good: all but damage of the file.
+    bool isRepairable() const noexcept { return kind != Kind::DamagedFile; }
+};
+
+/// What one check found: how many findings, and the first of them.
+struct StoreCheckResult {
+    std::size_t count = 0;
+    std::vector<StoreFinding> findings;
+};
+
+/// What an examination found.
+struct StoreExamination {
+    std::array<StoreCheckResult, kStoreCheckCount> results; ///< by `StoreCheck`
+    std::vector<NSManagedObjectID> notesToDerive;           ///< those whose fields are not what their texts say
+
+    const StoreCheckResult& resultOf(StoreCheck check) const noexcept
+    {
+        return results[static_cast<std::size_t>(check)];
+    }
+    bool fileIsDamaged() const noexcept { return resultOf(StoreCheck::Integrity).count > 0; }
+    bool isSound() const noexcept;
+};
+
+/// How much a repair changed.
+struct StoreRepairs {
+    std::size_t tags = 0;         ///< renamed, united with another or deleted, and protected notes given tags
+    std::size_t notes = 0;        ///< derived anew
+    std::size_t indexedTexts = 0; ///< that the index of texts did not know, or knew wrongly
+    bool isEmpty() const noexcept { return tags + notes + indexedTexts == 0; }
+};
+
+} // namespace tarn
