@@ -117,6 +117,7 @@
 // What is in a store, and whether it is sound.
 #include "tarnmodel/diagnosis/StoreDoctor.h"
 #include "tarnmodel/diagnosis/StoreFinding.h"
+#include "tarnmodel/diagnosis/StoreStatistics.h"
 
 // Opening the store, and watching records.
 #include "tarnmodel/store/OVCoreDataStack.h"

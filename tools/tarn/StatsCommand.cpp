@@ -1,5 +1,4 @@
-#include "tarnmodel/files/OVLocalFileManager.h"
-#include "tarnmodel/model/OVNoteFile.h"
+#include "tarnmodel/diagnosis/StoreStatistics.h"
 #include "tools/tarn/CommandLine.h"
 #include "tools/tarn/Commands.h"
 #include "tools/tarn/DisplayText.h"
@@ -7,73 +6,56 @@
 #include "tools/tarn/StoreSession.h"
 
 #include <array>
-#include <system_error>
 
 namespace tarn {
 
 namespace {
 
-struct NoteCount {
+/// A number as people and programs are told of it.
+struct Statistic {
     const char* key;
     const char* label;
-    const char* format; ///< a predicate over notes; "" for all
+    std::size_t StoreStatistics::*count;
 };
 
-constexpr std::array kNoteCounts{
-    NoteCount{"notes", "notes", ""},
-    NoteCount{"active", "  active", "trashed == NO AND archived == NO"},
-    NoteCount{"archived", "  archived", "archived == YES AND trashed == NO"},
-    NoteCount{"trashed", "  trashed", "trashed == YES"},
-    NoteCount{"pinned", "pinned", "pinned == YES"},
-    NoteCount{"readOnly", "read-only", "locked == YES"},
-    NoteCount{"encrypted", "encrypted", "encrypted == YES"},
-    NoteCount{"conflicted", "in conflict", "conflictUniqueIdentifier != nil"},
-    NoteCount{"untagged", "without tags", "tags.@count == 0"},
-    NoteCount{"withOpenTodos", "with open to-dos", "todoIncompleted > 0"},
-    NoteCount{"withSourceCode", "with source code", "hasSourceCode == YES"},
+constexpr std::array kStatistics{
+    Statistic{"notes", "notes", &StoreStatistics::notes},
+    Statistic{"active", "  active", &StoreStatistics::activeNotes},
+    Statistic{"archived", "  archived", &StoreStatistics::archivedNotes},
+    Statistic{"trashed", "  trashed", &StoreStatistics::trashedNotes},
+    Statistic{"pinned", "pinned", &StoreStatistics::pinnedNotes},
+    Statistic{"readOnly", "read-only", &StoreStatistics::readOnlyNotes},
+    Statistic{"encrypted", "encrypted", &StoreStatistics::encryptedNotes},
+    Statistic{"conflicted", "in conflict", &StoreStatistics::conflictedNotes},
+    Statistic{"untagged", "without tags", &StoreStatistics::untaggedNotes},
+    Statistic{"withOpenTodos", "with open to-dos", &StoreStatistics::notesWithOpenToDos},
+    Statistic{"withSourceCode", "with source code", &StoreStatistics::notesWithSourceCode},
+    Statistic{"tags", "tags", &StoreStatistics::tags},
+    Statistic{"files", "attachments", &StoreStatistics::files},
 };
 
-struct Statistic {
-    std::string key;
-    std::string label;
-    std::uintmax_t value;
-};
-
-std::uintmax_t databaseBytes(StoreSession& session)
+StoreStatistics statisticsOf(StoreSession& session)
 {
-    std::error_code error;
-    const std::uintmax_t bytes
-        = std::filesystem::file_size(OVLocalFileManager::databaseURLInGroupFolder(session.folder()), error);
-    return error ? 0 : bytes;
-}
-
-std::vector<Statistic> statisticsOf(StoreSession& session)
-{
-    std::vector<Statistic> statistics;
-    for (const NoteCount& count : kNoteCounts) {
-        const std::string_view format = count.format;
-        const auto predicate = format.empty() ? std::nullopt : std::optional(NSPredicate::predicateWithFormat(format));
-        statistics.push_back({count.key, count.label, session.countNotes(predicate)});
-    }
-    NSManagedObjectContext& context = session.context();
-    statistics.push_back(
-        {"tags", "tags", session.countOfEntity(OVNoteTag::entityInManagedObjectContext(context), std::nullopt)});
-    statistics.push_back({"files", "attachments",
-        session.countOfEntity(OVNoteFile::entityInManagedObjectContext(context), std::nullopt)});
-    statistics.push_back({"databaseBytes", "bytes of the database", databaseBytes(session)});
-    return statistics;
+    NSError error;
+    const auto statistics = statisticsOfStore(session.context(), &error);
+    if (!statistics)
+        throw session.failure("cannot read the store", error);
+    return *statistics;
 }
 
 ExitCode showStatistics(const Invocation& invocation)
 {
     StoreSession session(invocation, StoreSession::Access::Read);
-    const std::vector<Statistic> statistics = statisticsOf(session);
+    const StoreStatistics statistics = statisticsOf(session);
     JSON document = JSON::object();
-    for (const Statistic& statistic : statistics) {
-        document[statistic.key] = statistic.value;
+    const auto tell = [&](const char* key, const char* label, std::uintmax_t value) {
+        document[key] = value;
         if (!invocation.json)
-            invocation.output.writeLine(textPaddedToWidth(statistic.label, 24) + std::to_string(statistic.value));
-    }
+            invocation.output.writeLine(textPaddedToWidth(label, 24) + std::to_string(value));
+    };
+    for (const Statistic& statistic : kStatistics)
+        tell(statistic.key, statistic.label, statistics.*statistic.count);
+    tell("databaseBytes", "bytes of the database", statistics.fileBytes);
     if (invocation.json)
         writeJSON(invocation.output, document);
     return ExitCode::Done;

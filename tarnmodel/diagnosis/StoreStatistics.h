@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+
+namespace tarn {
+
+class NSError;
+class NSManagedObjectContext;
+
+/// How much there is of what in a store.
+struct StoreStatistics {
+    std::size_t notes = 0;
+    std::size_t activeNotes = 0;   ///< neither trashed nor archived
+    std::size_t archivedNotes = 0; ///< and not trashed
+    std::size_t trashedNotes = 0;
+    std::size_t pinnedNotes = 0; ///< wherever they are; so do all that follow
+    std::size_t readOnlyNotes = 0;
+    std::size_t encryptedNotes = 0;
+    std::size_t conflictedNotes = 0;
+    std::size_t untaggedNotes = 0;
+    std::size_t notesWithOpenToDos = 0;
+    std::size_t notesWithSourceCode = 0;
+    std::size_t tags = 0;
+    std::size_t files = 0;
+    std::uintmax_t fileBytes = 0; ///< of the store's own file, without attachments; 0 in memory
+};
+
+/// Counts without loading records, unsaved changes included. None and an error when the store cannot be read. Call on
+/// the context's queue.
+std::optional<StoreStatistics> statisticsOfStore(NSManagedObjectContext& context, NSError* error = nullptr);
+
+} // namespace tarn
