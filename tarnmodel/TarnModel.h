@@ -98,6 +98,7 @@
 #include "tarnmodel/model/Syncable.h"
 
 // Lists of notes.
+#include "tarnmodel/notes/ConflictGroups.h"
 #include "tarnmodel/notes/NoteFilter.h"
 
 // The search language.

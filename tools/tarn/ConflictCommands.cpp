@@ -1,3 +1,5 @@
+#include "tarnmodel/notes/ConflictGroups.h"
+#include "tarnmodel/notes/NoteFilter.h"
 #include "tools/tarn/CommandFailure.h"
 #include "tools/tarn/CommandLine.h"
 #include "tools/tarn/Commands.h"
@@ -5,43 +7,15 @@
 #include "tools/tarn/NoteList.h"
 #include "tools/tarn/NotesToChange.h"
 
-#include <algorithm>
 #include <memory>
-#include <unordered_set>
 
 namespace tarn {
 
 namespace {
 
-/// Versions of one note, the latest stamped first.
-struct ConflictGroup {
-    std::string root;
-    std::vector<OVNote*> notes;
-};
-
-ConflictGroup groupOf(const OVNote& note)
-{
-    return {note.conflictedRootUUID(), note.conflictedNotes()};
-}
-
-/// When its latest member was stamped, as text that sorts by time.
-std::string latestStampOf(const ConflictGroup& group)
-{
-    const std::string member
-        = group.notes.empty() ? std::string() : group.notes.front()->conflictUniqueIdentifier().value_or("");
-    return member.substr(std::min(member.size(), group.root.size()));
-}
-
 std::vector<ConflictGroup> allGroups(StoreSession& session)
 {
-    std::vector<ConflictGroup> groups;
-    std::unordered_set<std::string> roots;
-    for (const OVNote* note : session.notes(NSPredicate::predicateWithFormat("conflictUniqueIdentifier != nil"))) {
-        if (roots.insert(note->conflictedRootUUID()).second)
-            groups.push_back(groupOf(*note));
-    }
-    std::ranges::sort(groups, std::ranges::greater(), latestStampOf);
-    return groups;
+    return conflictGroupsOfNotes(session.notes(predicateForNoteFilter(NoteFilter::Conflicted)));
 }
 
 void show(const Invocation& invocation, const std::vector<ConflictGroup>& groups)
@@ -49,7 +23,7 @@ void show(const Invocation& invocation, const std::vector<ConflictGroup>& groups
     if (invocation.json) {
         JSON list = JSON::array();
         for (const ConflictGroup& group : groups)
-            list.push_back({{"root", group.root}, {"notes", jsonOfNotes(group.notes).at("notes")}});
+            list.push_back({{"root", group.rootUUID}, {"notes", jsonOfNotes(group.versions).at("notes")}});
         writeJSON(invocation.output, {{"groups", std::move(list)}});
         return;
     }
@@ -58,7 +32,7 @@ void show(const Invocation& invocation, const std::vector<ConflictGroup>& groups
         if (!isFirst)
             invocation.output.writeLine("");
         isFirst = false;
-        for (const OVNote* note : group.notes)
+        for (const OVNote* note : group.versions)
             writeNoteLine(invocation.output, *note);
     }
 }
@@ -70,8 +44,8 @@ ExitCode showConflicts(const Invocation& invocation, const std::optional<std::st
     std::string nothing = "no note is in conflict";
     if (!argument)
         groups = allGroups(session);
-    else if (const OVNote& note = noteForArgument(*argument, session); note.hasConflictedNotes())
-        groups.push_back(groupOf(note));
+    else if (const OVNote& note = noteForArgument(*argument, session); const auto group = conflictGroupOfNote(note))
+        groups.push_back(*group);
     else
         nothing = nameOfNote(note) + " is in no conflict";
     show(invocation, groups);
@@ -80,17 +54,11 @@ ExitCode showConflicts(const Invocation& invocation, const std::optional<std::st
 
 ConflictGroup resolved(OVNote& kept)
 {
-    if (!kept.hasConflictedNotes())
+    const auto group = conflictGroupOfNote(kept);
+    if (!group)
         throw CommandFailure(ExitCode::Failed, nameOfNote(kept) + " is in no conflict");
-    ConflictGroup group = groupOf(kept);
-    for (OVNote* note : group.notes) {
-        if (note != &kept)
-            note->trash();
-    }
-    // Where it was the only one left, nobody's leaving has ended the conflict.
-    if (kept.hasConflictedNotes())
-        kept.unmarkAsConflicted();
-    return group;
+    keepOnlyVersion(kept);
+    return *group;
 }
 
 ExitCode resolveConflict(const Invocation& invocation, const NotesToChange& argument)
