@@ -100,6 +100,7 @@
 // Lists of notes.
 #include "tarnmodel/notes/ConflictGroups.h"
 #include "tarnmodel/notes/NoteFilter.h"
+#include "tarnmodel/notes/NotePredicates.h"
 
 // The search language.
 #include "tarnmodel/search/HighlightTerms.h"

@@ -1,5 +1,6 @@
 #include "tools/tarn/NoteArgument.h"
 
+#include "tarnmodel/notes/NotePredicates.h"
 #include "tarnmodel/platform/foundation/text/Folding.h"
 #include "tools/tarn/CommandFailure.h"
 #include "tools/tarn/NoteList.h"
@@ -14,26 +15,7 @@ namespace tarn {
 
 namespace {
 
-constexpr std::size_t kShortestPrefix = 8;
-constexpr std::size_t kIdentifierLength = 36;
 constexpr std::size_t kShownMatches = 8;
-
-/// The argument in upper case when it could be (the beginning of) an identifier, else "".
-std::string identifierBeginningOf(std::string_view argument)
-{
-    if (argument.size() < kShortestPrefix || argument.size() > kIdentifierLength)
-        return {};
-    std::string result;
-    for (const char character : argument) {
-        if (character >= 'a' && character <= 'f')
-            result += static_cast<char>(character - 'a' + 'A');
-        else if ((character >= '0' && character <= '9') || (character >= 'A' && character <= 'F') || character == '-')
-            result += character;
-        else
-            return {};
-    }
-    return result;
-}
 
 CommandFailure ambiguousBeginning(std::string_view argument, const std::vector<OVNote*>& matches)
 {
@@ -50,14 +32,13 @@ CommandFailure ambiguousBeginning(std::string_view argument, const std::vector<O
 
 OVNote* noteWithIdentifierBeginning(std::string_view argument, StoreSession& session)
 {
-    const std::string beginning = identifierBeginningOf(argument);
-    if (beginning.empty())
+    const auto predicate = predicateForBeginningOfUUID(argument);
+    if (!predicate)
         return nullptr;
-    const auto predicate = beginning.size() == kIdentifierLength
-        ? NSPredicate::predicateWithFormat("uniqueIdentifier == %@", beginning)
-        : NSPredicate::predicateWithFormat("uniqueIdentifier BEGINSWITH %@", beginning);
     const std::vector<OVNote*> matches = session.notes(predicate);
-    if (matches.size() > 1 && beginning.size() < kIdentifierLength)
+    const auto isOther
+        = [&matches](const OVNote* note) { return note->uniqueIdentifier() != matches.front()->uniqueIdentifier(); };
+    if (std::ranges::any_of(matches, isOther))
         throw ambiguousBeginning(argument, matches);
     return matches.empty() ? nullptr : matches.front();
 }
