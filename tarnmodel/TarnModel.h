@@ -97,10 +97,12 @@
 #include "tarnmodel/model/OVServerMetadataAttributes.h"
 #include "tarnmodel/model/Syncable.h"
 
-// Lists of notes.
+// Lists of notes and tags.
 #include "tarnmodel/notes/ConflictGroups.h"
 #include "tarnmodel/notes/NoteFilter.h"
 #include "tarnmodel/notes/NotePredicates.h"
+#include "tarnmodel/tags/TagOrder.h"
+#include "tarnmodel/tags/TagPredicates.h"
 
 // The search language.
 #include "tarnmodel/search/HighlightTerms.h"

@@ -4,6 +4,7 @@
 #include "tarnmodel/model/RecordFetch.h"
 #include "tarnmodel/platform/predicate/NSPredicate.h"
 #include "tarnmodel/tags/TagLookupInternal.h"
+#include "tarnmodel/tags/TagPredicates.h"
 
 namespace tarn {
 
@@ -31,7 +32,7 @@ std::vector<OVNoteTag*> OVNoteTag::getOrCreateTagWithNames(
 
 void OVNoteTag::deleteAllUnusedTagsInManagedObjectContext(NSManagedObjectContext& context)
 {
-    for (OVNoteTag* tag : tagsMatching(NSPredicate::predicateWithFormat("notes.@count == 0"), {}, context))
+    for (OVNoteTag* tag : tagsMatching(predicateForUnusedTags(), {}, context))
         context.deleteObject(*tag);
 }
 

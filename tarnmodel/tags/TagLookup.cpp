@@ -5,6 +5,7 @@
 #include "tarnmodel/model/RecordFetch.h"
 #include "tarnmodel/platform/coredata/NSFetchRequest.h"
 #include "tarnmodel/platform/foundation/system/Log.h"
+#include "tarnmodel/tags/TagPredicates.h"
 
 #include <algorithm>
 #include <map>
@@ -47,7 +48,7 @@ std::optional<std::vector<NSManagedObject*>> fetchTags(
     std::vector<NSPredicate> titles;
     titles.reserve(wanted.size());
     for (const WantedTag& tag : wanted)
-        titles.push_back(NSPredicate::predicateWithFormat("title ==[cd] %@", tag.key));
+        titles.push_back(predicateForTagNamed(tag.key));
     NSFetchRequest request(OVNoteTag::entityInManagedObjectContext(context));
     request.predicate = NSPredicate::orPredicateWithSubpredicates(titles);
 
@@ -65,7 +66,7 @@ std::optional<std::vector<NSManagedObject*>> fetchTags(
 std::optional<OVNoteTag*> lookUpTag(std::string_view name, NSManagedObjectContext& context)
 {
     NSFetchRequest request(OVNoteTag::entityInManagedObjectContext(context));
-    request.predicate = NSPredicate::predicateWithFormat("title ==[cd] %@", name);
+    request.predicate = predicateForTagNamed(name);
     const auto tags = fetchRecords<OVNoteTag>(request, context);
     if (!tags)
         return std::nullopt;

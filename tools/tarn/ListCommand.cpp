@@ -1,11 +1,11 @@
-#include "tarnmodel/corvel/CVKHashtag.h"
-#include "tools/tarn/CommandFailure.h"
+#include "tarnmodel/tags/TagPredicates.h"
 #include "tools/tarn/CommandLine.h"
 #include "tools/tarn/Commands.h"
 #include "tools/tarn/NoteFilter.h"
 #include "tools/tarn/NoteJSON.h"
 #include "tools/tarn/NoteList.h"
 #include "tools/tarn/StoreSession.h"
+#include "tools/tarn/TagArgument.h"
 
 #include <memory>
 
@@ -19,17 +19,10 @@ struct ListOptions {
     std::size_t limit = 0;
 };
 
-NSPredicate predicateOfTag(const std::string& name)
-{
-    const std::string title = CVKHashtag::sanitizeTagName(name);
-    if (title.empty())
-        throw CommandFailure(ExitCode::Usage, "\"" + name + "\" cannot be the name of a tag");
-    return NSPredicate::predicateWithFormat("SUBQUERY(tags, $tag, $tag.title ==[cd] %@).@count > 0", title);
-}
-
 ExitCode list(const Invocation& invocation, const ListOptions& options)
 {
-    const auto tagPredicate = options.tag ? std::optional(predicateOfTag(*options.tag)) : std::nullopt;
+    const auto tagPredicate
+        = options.tag ? std::optional(predicateForNotesTagged(tagNameForArgument(*options.tag))) : std::nullopt;
     StoreSession session(invocation, StoreSession::Access::Read);
     const auto predicate = conjunction(tagPredicate, predicateOfFilter(options.filter.value_or("active")));
     const auto notes = session.notes(predicate, options.limit);

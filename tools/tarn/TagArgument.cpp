@@ -1,6 +1,7 @@
 #include "tools/tarn/TagArgument.h"
 
 #include "tarnmodel/corvel/CVKHashtag.h"
+#include "tarnmodel/tags/TagPredicates.h"
 #include "tools/tarn/CommandFailure.h"
 
 namespace tarn {
@@ -16,7 +17,7 @@ std::string tagNameForArgument(const std::string& argument)
 OVNoteTag& tagForArgument(const std::string& argument, StoreSession& session)
 {
     const std::string name = tagNameForArgument(argument);
-    const auto tags = session.tags(NSPredicate::predicateWithFormat("title ==[cd] %@", name));
+    const auto tags = session.tags(predicateForTagNamed(name));
     if (tags.empty())
         throw CommandFailure(ExitCode::Failed, "there is no tag \"" + name + "\"; 'tarn tags --all' shows all");
     return *tags.front();

@@ -1,4 +1,5 @@
 #include "tarnmodel/platform/foundation/text/Folding.h"
+#include "tarnmodel/tags/TagPredicates.h"
 #include "tools/tarn/CommandFailure.h"
 #include "tools/tarn/CommandLine.h"
 #include "tools/tarn/Commands.h"
@@ -133,9 +134,8 @@ ExitCode renameTag(const Invocation& invocation, const TagArguments& arguments)
 /// How many tags below one have notes; they go with it.
 std::size_t countTagsBelow(const OVNoteTag& tag, StoreSession& session)
 {
-    const auto below = NSPredicate::predicateWithFormat(
-        "title BEGINSWITH[cd] %@ AND notes.@count > 0", tag.title().value_or("") + "/");
-    return session.countOfEntity(OVNoteTag::entityInManagedObjectContext(session.context()), below);
+    return session.countOfEntity(
+        OVNoteTag::entityInManagedObjectContext(session.context()), predicateForUsedTagsBelow(tag));
 }
 
 /// Asks who would take out more than what was named. The store is nobody's while somebody thinks.
@@ -193,7 +193,7 @@ ExitCode pruneTags(const Invocation& invocation, const TagArguments&)
     StoreSession session(invocation, StoreSession::Access::Write);
     std::vector<std::string> titles;
     session.write([&] {
-        for (const OVNoteTag* tag : session.tags(NSPredicate::predicateWithFormat("notes.@count == 0")))
+        for (const OVNoteTag* tag : session.tags(predicateForUnusedTags()))
             titles.push_back(tag->title().value_or(""));
         OVNoteTag::deleteAllUnusedTagsInManagedObjectContext(session.context());
     });

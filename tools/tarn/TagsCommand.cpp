@@ -1,10 +1,9 @@
+#include "tarnmodel/tags/TagOrder.h"
 #include "tools/tarn/CommandLine.h"
 #include "tools/tarn/Commands.h"
 #include "tools/tarn/DisplayText.h"
 #include "tools/tarn/JSON.h"
 #include "tools/tarn/StoreSession.h"
-
-#include "tarnmodel/platform/foundation/time/Collation.h"
 
 #include <algorithm>
 #include <memory>
@@ -13,30 +12,20 @@ namespace tarn {
 
 namespace {
 
-constexpr std::string_view kActiveNotesFormat = "%@ IN tags AND trashed == NO AND archived == NO";
-
 struct TagLine {
     OVNoteTag* tag;
     std::size_t count; ///< of notes that are neither trashed nor archived
     std::vector<std::string> components;
 };
 
-/// A tag stands right below the tag that it belongs to: components compare one by one, as people sort them.
-bool standsBefore(const TagLine& left, const TagLine& right)
-{
-    return std::ranges::lexicographical_compare(left.components, right.components,
-        [](const std::string& a, const std::string& b) { return localizedStandardCompare(a, b) < 0; });
-}
-
 std::vector<TagLine> tagLines(StoreSession& session, bool all)
 {
     std::vector<TagLine> lines;
-    for (OVNoteTag* tag : session.tags(std::nullopt)) {
-        const std::size_t count = session.countNotes(NSPredicate::predicateWithFormat(kActiveNotesFormat, tag));
+    for (OVNoteTag* tag : tagsInTreeOrder(session.tags(std::nullopt))) {
+        const std::size_t count = session.countNotes(tag->untrashedNotesPredicate());
         if (all || count > 0)
             lines.push_back({tag, count, tag->tagComponents()});
     }
-    std::ranges::sort(lines, standsBefore);
     return lines;
 }
 
