@@ -13,22 +13,22 @@ namespace tarn {
 
 /// A half-open range of bytes of a document's text.
 struct CVKRange {
-    std::size_t location = 0;
-    std::size_t length = 0;
+    std::size_t location = 0; ///< of the first byte
+    std::size_t length = 0;   ///< in bytes
     friend bool operator==(const CVKRange&, const CVKRange&) = default;
 };
 
 /// Replace the bytes of `range` by `replacement`.
 struct CVKTextEdit {
-    CVKRange range;
-    std::string replacement;
+    CVKRange range;          ///< of the text before any edit
+    std::string replacement; ///< UTF-8
     friend bool operator==(const CVKTextEdit&, const CVKTextEdit&) = default;
 };
 
 /// Edits of one operation, sorted and disjoint, and where a selection lies after them.
 struct CVKTextOperationResult {
-    std::vector<CVKTextEdit> edits;
-    CVKRange selectionRange; ///< UTF-16 units
+    std::vector<CVKTextEdit> edits; ///< of the text before the operation
+    CVKRange selectionRange;        ///< UTF-16 units
 };
 
 /// A parsed Markdown document: the text as given, and what was found in it.

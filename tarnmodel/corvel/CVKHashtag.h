@@ -23,12 +23,14 @@ public:
     static std::string normalizeTagName(std::string_view name);
     /// The path split at "/", empty pieces dropped.
     static std::vector<std::string> componentsForForTagName(std::string_view name);
+    /// The path of these components, joined by "/".
     static std::string tagNameFromComponents(const std::vector<std::string>& components);
     /// The hashtag as a text writes it: `#name`, or `#name#` where the name needs the closed form; "" for an unusable
     /// name.
     static std::string hashtagStringForTagName(std::string_view name);
 
     // Finding ---------------------------------------------------------------------------------------------------------
+    /// A hashtag in a text.
     struct Found {
         std::string_view path; ///< as written, a view of the text
         std::size_t end = 0;   ///< the byte after the hashtag
@@ -41,6 +43,7 @@ public:
     // text unchanged.
     /// Below the title, so that title and links to it survive.
     static CVKAST addTagNameToTheTopOfString(std::string_view name, std::string_view text);
+    /// Below the text, or in a last line of tags.
     static CVKAST addTagNameToTheBottomOfString(std::string_view name, std::string_view text);
     /// Every hashtag of the old path and of every path below it; tails stay as written.
     static CVKAST renameTagName(std::string_view name, std::string_view newName, std::string_view text);

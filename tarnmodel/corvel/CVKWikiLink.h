@@ -11,6 +11,7 @@ class CVKAST;
 /// A link to a note by its title, as a text writes it: `[[title]]` or `[[title|alias]]`.
 class CVKWikiLink {
 public:
+    /// `offset` counts UTF-16 code units.
     CVKWikiLink(std::string decodedTitle, std::size_t offset) : decodedTitle_(std::move(decodedTitle)), offset_(offset)
     { }
 

@@ -24,17 +24,25 @@ public:
     virtual bool hasCachedPassword(const OVEncryptingPassword& password) const = 0;
 
     // Notes -----------------------------------------------------------------------------------------------------------
+    /// The clear field of a protected record. None when there is none, and with an error when it cannot be read.
     virtual std::optional<std::string> textForNote(const OVEncryptableNote& note, NSError* error) = 0;
+    /// Stores the clear field, encrypted. None clears it.
     virtual void setText(std::optional<std::string_view> text, OVEncryptableNote& note) = 0;
 
     // Attachments -----------------------------------------------------------------------------------------------------
+    /// The clear field of a protected attachment. None when there is none, and with an error when it cannot be read.
     virtual std::optional<std::string> filenameForNoteFile(const OVEncryptableNoteFile& file, NSError* error) = 0;
+    /// Stores the clear field, encrypted. None clears it.
     virtual void setFilename(std::optional<std::string_view> filename, OVEncryptableNoteFile& file) = 0;
+    /// The extension in lower case, without a dot; none as for the name.
     virtual std::optional<std::string> normalizedFileExtensionForNoteFile(
         const OVEncryptableNoteFile& file, NSError* error)
         = 0;
+    /// Stores the clear field, encrypted. None clears it.
     virtual void setNormalizedFileExtension(std::optional<std::string_view> extension, OVEncryptableNoteFile& file) = 0;
+    /// Bytes; none as for the name.
     virtual std::optional<std::int64_t> fileSizeForNoteFile(const OVEncryptableNoteFile& file, NSError* error) = 0;
+    /// Stores the clear field, encrypted. None clears it.
     virtual void setFileSize(std::optional<std::int64_t> bytes, OVEncryptableNoteFile& file) = 0;
     /// Where the decrypted bytes lie.
     virtual std::optional<std::filesystem::path> fileURLForNoteFile(const OVEncryptableNoteFile& file, NSError* error)

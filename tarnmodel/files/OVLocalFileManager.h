@@ -50,6 +50,7 @@ public:
     static std::filesystem::path applicationSupportURL();
 
     // What a host sets before first use -----------------------------------------------------------------------------
+    /// Names the folders of this application; the default is `ApplicationIdentity`'s.
     static void setApplicationIdentity(ApplicationIdentity identity);
     /// Another group folder, `tarn --store DIR` for example; none goes back to the identity's.
     static void setApplicationGroupURL(std::optional<std::filesystem::path> folder);

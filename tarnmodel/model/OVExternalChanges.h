@@ -19,7 +19,7 @@ class OVExternalChanges : public _OVExternalChanges {
 public:
     using _OVExternalChanges::_OVExternalChanges;
 
-    // What `itemChange` says; stored, so none of them may change. Others are skipped when merging.
+    /// What `itemChange` says; stored, so none of them may change. Others are skipped when merging.
     static constexpr std::uint32_t inserted = 0;
     static constexpr std::uint32_t updated = 1;
     static constexpr std::uint32_t deleted = 2;
@@ -39,6 +39,7 @@ public:
     // Reading -------------------------------------------------------------------------------------------------------
     /// The whole queue, in no particular order.
     static std::vector<OVExternalChanges*> externalChangesInManagedObjectContext(NSManagedObjectContext& context);
+    /// Empties the queue; the caller saves.
     static void deleteExternalChangesInManagedObjectContext(NSManagedObjectContext& context);
     /// Merges the news into the context as a save that was made elsewhere, and empties the queue; the caller saves.
     /// Gives the identifiers of inserted, then updated, then deleted records; none when the queue was empty. News that

@@ -25,6 +25,7 @@ public:
     /// The entries of one queue, in no particular order.
     static std::vector<OVInternalChanges*> internalChangesForChangeType(
         std::string_view changeType, NSManagedObjectContext& context);
+    /// Empties one queue; the caller saves.
     static void deleteAllInternalChangesForType(std::string_view changeType, NSManagedObjectContext& context);
     /// The identifier in the store of the entry's own context; none when `itemObjectID` names no record of that store.
     std::optional<NSManagedObjectID> itemManagedObjectID() const;

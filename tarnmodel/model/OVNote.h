@@ -51,13 +51,17 @@ public:
     /// The notes that the predicate finds; all without one.
     static std::vector<OVNote*> notesInManagedObjectContext(
         NSManagedObjectContext& context, const std::optional<NSPredicate>& predicate);
+    /// Trashed and archived notes included.
     static std::vector<OVNote*> allNotesInManagedObjectContext(NSManagedObjectContext& context);
     /// Archived notes included.
     static std::vector<OVNote*> allUntrashedNotesInManagedObjectContext(NSManagedObjectContext& context);
+    /// The notes in the trash.
     static std::vector<OVNote*> allTrashedNotesInManagedObjectContext(NSManagedObjectContext& context);
     /// Those that are not in the trash as well.
     static std::vector<OVNote*> allArchivedNotesInManagedObjectContext(NSManagedObjectContext& context);
+    /// The members of all groups of conflicted versions.
     static std::vector<OVNote*> allConflictedNotesInManagedObjectContext(NSManagedObjectContext& context);
+    /// The protected notes.
     static std::vector<OVNote*> allEncryptedNotesInManagedObjectContext(NSManagedObjectContext& context);
     /// At most 15 notes for a small screen, in the standard order: neither trashed, archived nor protected (attachments
     /// included), with a title or a subtitle.
@@ -65,6 +69,7 @@ public:
 
     /// The notes that carry any of the tags.
     static std::vector<OVNote*> notesForTags(const std::vector<OVNoteTag*>& tags, NSManagedObjectContext& context);
+    /// The notes with one of these identifiers; in the given order where descriptors are given.
     static std::vector<OVNote*> notesWithUniqueIdentifiers(
         const std::vector<std::string>& uniqueIdentifiers, NSManagedObjectContext& context);
     static std::vector<OVNote*> notesWithUUIDs(const std::vector<std::string>& uniqueIdentifiers,
@@ -91,6 +96,7 @@ public:
         const std::vector<NSSortDescriptor>& sortDescritors, NSManagedObjectContext& context);
     /// The first in the standard order that is not in the trash, or null.
     static OVNote* untrashedNoteWithTitle(std::string_view title, NSManagedObjectContext& context);
+    /// The same for a title or an identifier.
     static OVNote* untrashedNoteWithTitleOrUUID(std::string_view titleOrUUID, NSManagedObjectContext& context);
 
     // Text (tarnmodel/notes/OVNote+Parsing.cpp) ----------------------------------------------------------------------
@@ -170,6 +176,7 @@ public:
     const NSManagedObject& encryptableRecord() const noexcept override { return *this; }
     OVEncryptionState encryptionState() const override;
     void setEncryptionState(const OVEncryptionState& state) override;
+    /// Whether any of them, or of their attachments, is protected.
     static bool anyNoteHasEncryption(const std::vector<OVNote*>& notes);
     /// False for a protected note where attachments cannot be protected.
     bool allowsAttachments() const;
@@ -183,17 +190,25 @@ public:
     bool isPersistent() const;
     /// A new random identifier.
     void updateUniqueIdentifier();
+    /// Puts the note on top of the note list.
     void pin();
+    /// Takes it from there.
     void unpin();
+    /// Whether it stands on top of the note list.
     bool isPinned() const;
+    /// Puts the note on top of the tag's list.
     void pinInTag(OVNoteTag& tag);
+    /// Takes it from there.
     void unpinInTag(OVNoteTag& tag);
     /// False for null.
     bool isPinnedInTag(const OVNoteTag* tag) const;
     /// Takes it from the top of the note list and of every tag's list.
     void unpinEverywhere();
+    /// Makes the note refuse to be edited by people; the text operations do not look at it.
     void makeReadOnly();
+    /// Takes that back.
     void makeEditable();
+    /// Whether the note is read-only.
     bool isReadOnly() const;
     /// Always false: for kinds of notes that are never edited.
     virtual bool isStatic() const;
@@ -201,7 +216,7 @@ public:
     bool isEditable() const;
     /// How much of 100 is done, rounded down; 0 without to-do items.
     unsigned completedToDoPercentage() const;
-    // Leaving for the trash or the archive takes the note out of its conflict; archiving takes it out of the trash.
+    /// Leaving for the trash or the archive takes the note out of its conflict; archiving takes it out of the trash.
     void trash();
     void restoreFromTrash();
     bool isTrashed() const;
@@ -216,6 +231,7 @@ public:
     void prepareForDeletion() override;
     /// The notes that this one links to, and those that link to it; each once.
     std::vector<OVNote*> linkedNotes() const;
+    /// The notes that link to this one, each once.
     std::vector<OVNote*> linkedByNotes() const;
 
     // Wiki links (tarnmodel/notes/OVNote+WikiLinks.cpp) --------------------------------------------------------------
@@ -235,8 +251,11 @@ public:
 
     // Links from outside (tarnmodel/notes/OVNote+XCallbackURL.cpp) ---------------------------------------------------
     // Percent-encoded URLs of the application.
+    /// Opens the note by its identifier.
     std::string openNoteXCallbackURLString() const;
+    /// Opens a note of this title.
     std::string openNoteWithTitleXCallbackURLString() const;
+    /// Opens the note in a window of its own.
     std::string openNoteInNewWindowXCallbackURLString() const;
     /// Opens the note at a heading.
     std::string openNoteXCallbackURLStringWithHeader(std::string_view header) const;
@@ -252,7 +271,9 @@ public:
         std::string_view uniqueIdentifier, NSManagedObjectContext& context);
     /// The members of this note's group.
     std::vector<OVNote*> conflictedNotes() const;
+    /// Whether it is a member of a group.
     bool hasConflictedNotes() const;
+    /// Whether it is the note that its group is rooted at.
     bool isConflictRoot() const;
     /// The identifier that its group is rooted at; its own outside of a group.
     std::string conflictedRootUUID() const;
@@ -280,6 +301,7 @@ public:
     void setTagsFromStrings(std::span<const std::string> names);
     /// Its tag of this name, compared folded; null when it has none.
     OVNoteTag* tagForName(std::string_view name) const;
+    /// Whether it has a tag of this name, compared folded.
     bool hasTag(std::string_view name) const;
 
     // Attachments (tarnmodel/files/OVNote+Attachments.cpp) -----------------------------------------------------------
@@ -287,7 +309,9 @@ public:
     bool hasAttachments() const;
     /// Those that the text refers to, in the order of its links.
     std::vector<OVNoteFile*> orderedFiles() const;
+    /// The pictures among them, in the same order.
     std::vector<OVNoteImage*> orderedImages() const;
+    /// Those of them that are no pictures, in the same order.
     std::vector<OVNoteFile*> orderedFilesWithoutImages() const;
     /// The attachment of this name, compared as `OVNoteFile::filenameIsEqualTo` does; a used one before an unused one.
     /// Null when there is none.
@@ -303,8 +327,8 @@ public:
     /// A slot for callers; the model does not use it.
     std::int64_t searchIndex() const noexcept { return searchIndex_; }
     void setSearchIndex(std::int64_t searchIndex) noexcept { searchIndex_ = searchIndex; }
-    // What an operation on many notes lends each of them, so that names are looked up once: see `OVNoteCacheLoan`.
-    // Borrowed; null for none.
+    /// What an operation on many notes lends each of them, so that names are looked up once: see `OVNoteCacheLoan`.
+    /// Borrowed; null for none.
     TagsCache* tagsCache() const noexcept { return tagsCache_; }
     void setTagsCache(TagsCache* cache) noexcept { tagsCache_ = cache; }
     NotesCache* notesCache() const noexcept { return notesCache_; }

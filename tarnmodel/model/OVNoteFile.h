@@ -23,6 +23,7 @@ public:
     void setUnused();
     /// Marks it as named by a text, with the date of now; nothing when it is so already.
     void setInUse();
+    /// Whether no text names it.
     bool isUnused() const { return unusedValue(); }
     /// Deletes the record from its context.
     void permanentlyDelete();
@@ -54,7 +55,7 @@ public:
     /// Where its bytes lie; none while they lie nowhere.
     std::optional<std::filesystem::path> fileURL() const;
 
-    // What is stored: unguarded, and announced when written.
+    /// What is stored: unguarded, and announced when written.
     std::optional<std::string> storedFilename() const override { return primitiveFilename(); }
     std::optional<std::string> storedNormalizedFileExtension() const override
     {

@@ -81,7 +81,9 @@ public:
     std::string displayTitle() const;
     /// The key by which tags are the same; "" without a title.
     std::string normalizedTitle() const;
+    /// The key of `leafTagName`.
     std::optional<std::string> normalizedLeafTagName() const;
+    /// The key of `fatherTagName`.
     std::optional<std::string> normalizedFatherTagName() const;
     /// The hashtag as a text writes it, in the closed form where the name needs that.
     std::string hashTagString() const;
@@ -132,9 +134,10 @@ public:
     // State (tarnmodel/tags/OVNoteTag+State.cpp) ---------------------------------------------------------------------
     /// Sets the modification date to now.
     void updateModificationDate();
-    // Both set the date of the pin to now, also when nothing changes.
+    /// Both set the date of the pin to now, also when nothing changes.
     void pin();
     void unpin();
+    /// Whether the tag stands on top of the sidebar.
     bool isPinned() const;
     // These three set their companion date to now on every call, also when the value stays the same.
     void setTagcon(std::optional<std::string_view> tagcon) override;

@@ -23,6 +23,9 @@ inline constexpr std::string_view OVSearchSpecialAttribute = "Search Special Att
 /// Holds no state but one setting; any thread. Texts are UTF-8, ill-formed parts read as U+FFFD; locations and lengths
 /// count UTF-16 units. docs/search.md describes the language.
 ///
+/// What it returns stands by itself: a predicate of a search names no record, and outlives every context. References
+/// are to values of the process.
+///
 ///     auto wanted = OVNoteSearchManager::predicateForSearchString("@todo #home -apple");
 ///     auto notes = OVNote::notesInManagedObjectContext(context, wanted);
 class OVNoteSearchManager {

@@ -32,6 +32,7 @@ public:
     /// In UTF-16 units of the search string.
     NSRange range() const noexcept { return range_; }
     void setRange(NSRange range) noexcept { range_ = range; }
+    /// The text of the predicate that the stretch stands for; may be empty.
     const std::string& predicateString() const noexcept { return predicateString_; }
     void setPredicateString(std::string_view predicateString) { predicateString_ = predicateString; }
     /// Whether the text has been taken; the other words of the stretch then add nothing.

@@ -20,6 +20,7 @@ namespace tarn {
 ///     const auto first = finder.firstPlace(text);
 class TermFinder {
 public:
+    /// Copies what it needs of the terms.
     explicit TermFinder(const std::vector<HighlightTerm>& terms);
 
     /// Whether there is nothing to look for.

@@ -22,6 +22,11 @@ namespace tarn {
 /// Call it on the main queue, where its delegate and its timer are called too; `sharedStack`, `performBackgroundTask`,
 /// `isMigrationNeeded` and what names the store may be called by any thread. It ends on the main queue.
 ///
+/// The stack owns its contexts, which own their records. The main context, once made, is the same one until the stack
+/// ends; only tasks in the background may hold it a little longer. So a record of it is good until the stack ends or
+/// the context is reset, and for ever with `sharedStack`. Records that a block of `performBackgroundTask` sees end with
+/// the block.
+///
 ///     OVCoreDataStack::sharedStack().setupStackWithDelegate(&application);
 ///     OVNote::noteWithText("# Groceries", *OVCoreDataStack::sharedStack().managedObjectContext());
 ///     OVCoreDataStack::sharedStack().saveUsingCoalescence(true);
@@ -33,6 +38,7 @@ public:
     /// The one of this process, made at the first call; never destroyed.
     static OVCoreDataStack& sharedStack();
 
+    /// A stack without a store yet.
     OVCoreDataStack();
     /// Takes back a pending save and waits for a migration that is under way.
     ~OVCoreDataStack() override;
@@ -50,6 +56,7 @@ public:
     /// Makes the scratch context. Does nothing when there is one.
     void initializeInMemoryContext();
 
+    /// Who hears of it; null for none, and once it has ended. Not owned.
     OVCoreDataStackDelegate* delegate() const noexcept { return delegate_.get(); }
     void setDelegate(OVCoreDataStackDelegate* delegate);
 
@@ -75,6 +82,7 @@ public:
     /// Saves the main context if it has changes: now, or with `coalescence` once at the start of the queue's next pass,
     /// however often it is asked for in this one. A failure goes to the log and the delegate; the changes stay.
     void saveUsingCoalescence(bool coalescence);
+    /// What the timer of a pending save calls: saves at once.
     void coalescenceSaveTimerFired();
     /// Reads, changes and saves in one piece, which no other process or thread can come between: the way for small
     /// changes to what others change too, such as a line for a note.
@@ -107,6 +115,7 @@ public:
     std::optional<std::filesystem::path> managedObjectModelURL() const;
     /// "database.sqlite" in the persistent data folder.
     std::filesystem::path persistentStoreURL() const;
+    /// How the store is opened.
     virtual StoreOptions persistentStoreOptions() const;
     StoreType persistentStoreType() const noexcept { return StoreType::SQLite; }
 

@@ -27,6 +27,7 @@ struct ObjectChanges;
 ///         [&](const auto& changedKeys, const auto& changedRelated, bool refreshed) { updateRow(); });
 class OVManagedObjectObserver {
 public:
+    /// Names of properties.
     using KeyNames = std::set<std::string>;
     /// Receives what changed: the names of all changed properties of the record, or none when it did not change in a
     /// watched one; the changed related records, one more than once where several entries name it; and true (with no
@@ -45,13 +46,16 @@ public:
 
     /// The record; null once it is gone with its context.
     NSManagedObject* observedObject() const noexcept { return object_.get(); }
+    /// Which properties of the record count; none: all.
     const std::optional<KeyNames>& keyPathToObserve() const noexcept { return keyPathToObserve_; }
+    /// Which properties of related records count, by relationship.
     const std::map<std::string, KeyNames>& relationships() const noexcept { return relationships_; }
 
     /// Adds or replaces an entry; a name that is no relationship of the record is ignored.
     void observeObjectsInRelationshipName(std::string_view name, const KeyNames& keyPaths);
     /// Starts again after `stopObserving`; an observer that observes goes on.
     void startObserving();
+    /// Ends the observation; nothing when it has ended.
     void stopObserving();
 
 private:

@@ -60,6 +60,7 @@ public:
         const std::map<std::string, std::string>& metadata);
 
 protected:
+    /// For subclasses: the store has come to this version.
     void addMigratedVersion(std::string_view modelName);
 
 private:

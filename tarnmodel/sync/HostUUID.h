@@ -18,8 +18,8 @@ enum class HostUUIDStatus : std::uint8_t {
 
 /// Sixteen bytes that stay the same for a machine and differ between machines; all zero unless the status is `Known`.
 struct HostUUID {
-    HostUUIDStatus status = HostUUIDStatus::Failed;
-    std::array<std::byte, 16> bytes{};
+    HostUUIDStatus status = HostUUIDStatus::Failed; ///< whether `bytes` can be used
+    std::array<std::byte, 16> bytes{};              ///< of the identifier, in its order
 };
 
 /// Answers within the given time.

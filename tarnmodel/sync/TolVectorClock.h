@@ -35,6 +35,7 @@ public:
 
     /// No counters.
     TolVectorClock() = default;
+    /// The same counters.
     TolVectorClock(const TolVectorClock& other);
     TolVectorClock(TolVectorClock&& other) noexcept;
     TolVectorClock& operator=(const TolVectorClock& other);
@@ -67,6 +68,7 @@ public:
     /// "<TolVectorClock: 0x55d0c0ffee00> (A:3, B:1)".
     std::string description() const;
 
+    /// All counters.
     const ClockValues& clockValues() const noexcept { return clockValues_; }
     void setClockValues(ClockValues clockValues) { clockValues_ = std::move(clockValues); }
 

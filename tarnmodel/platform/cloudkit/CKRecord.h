@@ -10,8 +10,8 @@ namespace tarn {
 
 /// Names a record of the server: its name within a zone. A plain value; any thread.
 struct CKRecordID {
-    std::string recordName;
-    CKRecordZoneID zoneID;
+    std::string recordName; ///< unique in its zone
+    CKRecordZoneID zoneID;  ///< where the record lies
     friend bool operator==(const CKRecordID&, const CKRecordID&) = default;
 };
 
@@ -25,16 +25,20 @@ struct CKRecordID {
 ///     record.setValueForKey("title", title);
 class CKRecord {
 public:
+    /// A record without values that the server has not seen.
     CKRecord(std::string_view recordType, CKRecordID recordID) : recordType_(recordType), recordID_(std::move(recordID))
     { }
 
     // System fields.
+    /// The name of its type.
     const std::string& recordType() const noexcept { return recordType_; }
+    /// Its name and its zone.
     const CKRecordID& recordID() const noexcept { return recordID_; }
     /// Which version of the record this is; none before the server has seen it.
     std::optional<std::string> recordChangeTag;
     /// By the server's clock; none before it has seen the record.
     std::optional<NSDate> creationDate;
+    /// When the server last stored it, by its clock; none before it has seen the record.
     std::optional<NSDate> modificationDate;
 
     // Values. Strings, numbers, dates, data and arrays of them; objects cannot be held.
@@ -46,6 +50,7 @@ public:
     std::vector<std::string> allKeys() const;
 
     // Archives of the system fields alone.
+    /// Writes the system fields into an archive.
     void encodeSystemFieldsWithCoder(NSKeyedArchiver& archiver) const;
     /// A record without values; none when a field is missing or of another kind.
     static std::optional<CKRecord> initWithCoder(const NSKeyedUnarchiver& unarchiver);

@@ -11,8 +11,8 @@ inline constexpr std::string_view CKCurrentUserDefaultName = "__defaultOwner__";
 
 /// Names a zone of the server's database: its name and its owner. A plain value; any thread.
 struct CKRecordZoneID {
-    std::string zoneName;
-    std::string ownerName{CKCurrentUserDefaultName};
+    std::string zoneName;                            ///< unique for its owner
+    std::string ownerName{CKCurrentUserDefaultName}; ///< `CKCurrentUserDefaultName` for the one who is signed in
     friend bool operator==(const CKRecordZoneID&, const CKRecordZoneID&) = default;
 
     /// None when it is too large to archive.

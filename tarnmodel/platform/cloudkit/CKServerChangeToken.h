@@ -7,6 +7,7 @@ namespace tarn {
 /// How far the server's changes were read: bytes that only the server understands. A plain value; any thread.
 class CKServerChangeToken {
 public:
+    /// The bytes as the server gave them.
     explicit CKServerChangeToken(NSData data) : data_(std::move(data)) { }
     const NSData& data() const noexcept { return data_; }
     friend bool operator==(const CKServerChangeToken&, const CKServerChangeToken&) = default;

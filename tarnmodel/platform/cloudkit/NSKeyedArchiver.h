@@ -32,6 +32,7 @@ using ArchivedValue = std::variant<std::string, NSData, NSDate>;
 /// where a name is one byte for its length (1 to 255) and that many bytes.
 class NSKeyedArchiver {
 public:
+    /// Begins the archive of an object of this class.
     explicit NSKeyedArchiver(std::string_view className) : className_(className) { }
 
     /// Replaces a value of that key. None writes nothing, and reads as none.

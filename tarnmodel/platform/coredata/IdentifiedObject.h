@@ -13,6 +13,7 @@ class IdentifiedObject : public NSKeyValueCoding {
 public:
     /// What `objectID()` answers; apart from it, since record classes redeclare that with a type of their own.
     virtual NSManagedObjectID identifyingObjectID() const = 0;
+    /// Which record it stands for.
     NSManagedObjectID objectID() const { return identifyingObjectID(); }
 
     /// Equal identifiers; another kind of object is equal only at the same address.

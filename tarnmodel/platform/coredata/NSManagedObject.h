@@ -43,13 +43,17 @@ private:
 /// Confined to the context's queue.
 class NSManagedObject : public IdentifiedObject {
 public:
+    /// For contexts and the constructors of record classes.
     explicit NSManagedObject(const NSManagedObjectSeed& seed);
     ~NSManagedObject() override;
     NSManagedObject(const NSManagedObject&) = delete;
     NSManagedObject& operator=(const NSManagedObject&) = delete;
 
+    /// The context that owns it.
     NSManagedObjectContext& managedObjectContext() const noexcept { return *context_; }
+    /// What kind of record it is; owned by the context's model.
     const NSEntityDescription& entity() const noexcept { return objectID_.entity(); }
+    /// Which record it is: temporary until it is saved, or a permanent one is asked for.
     NSManagedObjectID objectID() const noexcept { return objectID_; }
     NSManagedObjectID identifyingObjectID() const final { return objectID_; }
 
@@ -70,6 +74,7 @@ public:
     std::map<std::string, Value> changedValuesForCurrentEvent() const;
     /// Names only; no relationship is loaded for it.
     std::set<std::string> changedKeys() const;
+    /// The same since changes were last processed.
     std::set<std::string> changedKeysForCurrentEvent() const;
     /// The values of the last save or fetch, of attributes and to-ones.
     std::map<std::string, Value> committedValuesForKeys(const std::vector<std::string>& keys) const;
@@ -95,16 +100,21 @@ public:
     [[nodiscard]] KeyValueObservation addObserver(std::string_view key, KeyValueObserver observer);
     /// The keys whose change means that `key` changed too.
     virtual std::set<std::string> keysAffectingValueForKey(std::string_view key) const;
+    /// Stand around writes of primitive values: the first remembers the value before, the second tells observers. Both
+    /// raise `NSUndefinedKeyException` for an unknown key.
     void willChangeValueForKey(std::string_view key);
     void didChangeValueForKey(std::string_view key);
     /// Fires the fault before a read.
     void willAccessValueForKey(std::string_view key) const;
+    /// Stands behind a read; does nothing but raise `NSUndefinedKeyException` for an unknown key.
     void didAccessValueForKey(std::string_view key) const;
 
     // Life ------------------------------------------------------------------------------------------------------------
-    /// Called when the record is inserted, before it is deleted, before it is saved.
+    /// Called once when the record is inserted, with the default values in place.
     virtual void awakeFromInsert() { }
+    /// Called before the record is deleted, while it is still in its relationships.
     virtual void prepareForDeletion() { }
+    /// Called before the record is saved; what it changes joins the save.
     virtual void willSave() { }
     /// Called when a merge had to choose between values of this record, once all that others saved is here: what
     /// follows from those values may have to be derived again. In a save, before will-save; changes made here join it.

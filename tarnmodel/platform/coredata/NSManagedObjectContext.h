@@ -33,20 +33,21 @@ enum class NSMergePolicy : std::uint8_t {
 ///
 /// Values of attributes are as they are stored: of protected fields never the clear text.
 struct MergeConflict {
+    /// Why values were dropped.
     enum class Cause : std::uint8_t {
-        ChangedByBoth,
+        ChangedByBoth,    ///< and the values of one side gave way
         DeletedElsewhere, ///< the unsaved changes went with the record, which reads as deleted
         DeletedHere,      ///< a change of another writer goes with the record, whose deletion is unsaved
     };
-    Cause cause = Cause::ChangedByBoth;
-    MergeSide loser = MergeSide::Context; ///< whose values were dropped
-    NSManagedObject* record = nullptr;
+    Cause cause = Cause::ChangedByBoth;        ///< why
+    MergeSide loser = MergeSide::Context;      ///< whose values were dropped
+    NSManagedObject* record = nullptr;         ///< the record of this context
     std::vector<std::string> properties;       ///< that the loser had changed; their values were dropped
     std::map<std::string, Value> lostValues;   ///< a to-one as the record, where that is here
     std::map<std::string, Value> formerValues; ///< before either side changed them, as far as they were read
 };
 
-// Notifications; `object` is the context. The payload is one of the structures below, valid during the call.
+/// Notifications; `object` is the context. The payload is one of the structures below, valid during the call.
 inline constexpr std::string_view NSManagedObjectContextObjectsDidChangeNotification
     = "NSManagedObjectContextObjectsDidChangeNotification";
 inline constexpr std::string_view NSManagedObjectContextWillSaveNotification
@@ -61,17 +62,17 @@ inline constexpr std::string_view NSManagedObjectContextStoreDidChangeElsewhereN
 
 /// Payload of objects-did-change and did-save (where `refreshed` is empty).
 struct ObjectChanges {
-    std::vector<NSManagedObject*> inserted;
-    std::vector<NSManagedObject*> updated;
-    std::vector<NSManagedObject*> deleted;
-    std::vector<NSManagedObject*> refreshed;
+    std::vector<NSManagedObject*> inserted;  ///< new, and not deleted again
+    std::vector<NSManagedObject*> updated;   ///< with changed values
+    std::vector<NSManagedObject*> deleted;   ///< still there as objects; see `NSManagedObject::isDeleted`
+    std::vector<NSManagedObject*> refreshed; ///< took other values from the store, or from a parent
 };
 
 /// What another context or process has saved, by permanent identifiers.
 struct RemoteChanges {
-    std::vector<NSManagedObjectID> inserted;
-    std::vector<NSManagedObjectID> updated;
-    std::vector<NSManagedObjectID> deleted;
+    std::vector<NSManagedObjectID> inserted; ///< new in the store
+    std::vector<NSManagedObjectID> updated;  ///< with changed values
+    std::vector<NSManagedObjectID> deleted;  ///< gone from the store
 };
 
 /// One row of a dictionary fetch: property names and values; a to-one gives its object identifier's URI.
@@ -87,18 +88,26 @@ using DictionaryResult = std::map<std::string, Value>;
 /// merge, and deleted ones go; observers hear of it as objects-did-change. A text that was read in a pass is not
 /// exchanged by a fetch of that pass. Children follow what they read.
 ///
+/// It keeps its coordinator alive, and with that the store and the model; a child keeps its parent's coordinator alive,
+/// not its parent. Lists that it returns hold borrowed pointers. Records survive saving, deletion, refreshing and
+/// rollback as objects; `reset()` and the end of the context end them all. `WeakReference<OVNote>` tells whether one
+/// has ended.
+///
 ///     OVNote* note = OVNote::insertInManagedObjectContext(context);
 ///     if (NSError error; !context.save(&error)) report(error);
 class NSManagedObjectContext {
 public:
+    /// `MainQueue`: works on `MainQueue::main()`; `PrivateQueue`: on a serial queue of its own.
     enum class ConcurrencyType { MainQueue, PrivateQueue };
 
+    /// A context without a store or a parent yet.
     explicit NSManagedObjectContext(ConcurrencyType type);
     ~NSManagedObjectContext();
     NSManagedObjectContext(const NSManagedObjectContext&) = delete;
     NSManagedObjectContext& operator=(const NSManagedObjectContext&) = delete;
 
     // Where it reads and saves, set once before first use.
+    /// Makes this a context on the coordinator's store, and keeps the coordinator alive.
     void setPersistentStoreCoordinator(std::shared_ptr<NSPersistentStoreCoordinator> coordinator);
     /// Makes this a child: it reads what the parent has, unsaved changes included, and saves into the parent, whose own
     /// save writes to the store. Instead of a coordinator; on the parent's queue. The parent's changes are seen once
@@ -109,8 +118,11 @@ public:
     NSManagedObjectContext* parentContext() const noexcept;
     /// Raises `NSInternalInconsistencyException` before one was set.
     NSPersistentStoreCoordinator& persistentStoreCoordinator() const;
+    /// The coordinator's; it lives as long as the coordinator. Raises likewise.
     const NSManagedObjectModel& managedObjectModel() const;
+    /// Who wins when a save meets what others saved; `NSMergePolicy::Error` until set.
     void setMergePolicy(NSMergePolicy policy) noexcept;
+    /// What was set.
     NSMergePolicy mergePolicy() const noexcept;
     /// Hears of values that a merge dropped, when the merge is done; may change records, which then belong to the same
     /// save.
@@ -136,6 +148,7 @@ public:
     NSManagedObject* objectWithID(const NSManagedObjectID& objectID);
     /// The record if it is here; never reads.
     NSManagedObject* objectRegisteredForID(const NSManagedObjectID& objectID) const;
+    /// All records that are here, in the order in which they came.
     std::vector<NSManagedObject*> registeredObjects() const;
 
     // Queries see unsaved changes -----------------------------------------------------------------------------------
@@ -146,14 +159,18 @@ public:
     std::string explain(const NSFetchRequest& request);
     /// The same; empty on failure.
     std::vector<NSManagedObject*> executeFetchRequest(const NSFetchRequest& request, NSError* error = nullptr);
+    /// How many records `fetch` would give; none and an error on failure.
     std::optional<std::size_t> count(const NSFetchRequest& request, NSError* error = nullptr);
+    /// How many records `executeFetchRequest` would give; 0 and an error on failure.
     std::size_t countForFetchRequest(const NSFetchRequest& request, NSError* error = nullptr);
+    /// Rows of values in place of records; none and an error on failure.
     std::optional<std::vector<DictionaryResult>> executeDictionaryFetchRequest(
         const NSFetchRequest& request, NSError* error = nullptr);
 
     // Changes -------------------------------------------------------------------------------------------------------
+    /// Whether a record was inserted, updated or deleted since the last save.
     bool hasChanges() const;
-    // Snapshots, in order of insertion or primary key: safe to walk while records are inserted or deleted.
+    /// Snapshots, in order of insertion or primary key: safe to walk while records are inserted or deleted.
     std::vector<NSManagedObject*> insertedObjects() const;
     std::vector<NSManagedObject*> updatedObjects() const;
     std::vector<NSManagedObject*> deletedObjects() const;
@@ -193,8 +210,12 @@ public:
     void reset();
 
     // Work on its queue ---------------------------------------------------------------------------------------------
+    /// The queue that it is confined to; lives as long as the context.
     Queue& queue() const noexcept;
+    /// Runs the block later on that queue. Any thread.
     void performBlock(std::function<void()> block);
+    /// Runs the block on that queue and returns when it is done; at once where that queue is current. Any thread. What
+    /// the block throws is thrown here.
     void performBlockAndWait(const std::function<void()>& block);
 
     /// For the rooms of the object store.

@@ -11,7 +11,9 @@ namespace tarn {
 /// A store as identifiers name it: its UUID. Interned for the life of the process, so that identifiers stay small.
 class StoreIdentity {
 public:
+    /// The one of this UUID; lives until the process ends.
     static const StoreIdentity& forUUID(std::string_view uuid);
+    /// As the metadata of the store names it.
     const std::string& uuid() const noexcept { return uuid_; }
 
 private:
@@ -20,6 +22,9 @@ private:
 };
 
 /// Which record of which store: a small value. Temporary until the record is saved or a permanent one is asked for.
+///
+/// Holds no record and outlives them, the context and the store; but it points into the model, whose end it must not
+/// see. To name a record beyond that keep `URIRepresentation()`.
 class NSManagedObjectID {
 public:
     NSManagedObjectID() = default;
@@ -30,10 +35,15 @@ public:
     /// A new temporary identifier, unique in every process.
     static NSManagedObjectID makeTemporary(const StoreIdentity& store, const NSEntityDescription& entity);
 
+    /// Whether it names a record at all; nothing else is to be asked of one that does not.
     explicit operator bool() const noexcept { return entity_ != nullptr; }
+    /// The record type; owned by the model.
     const NSEntityDescription& entity() const noexcept { return *entity_; }
+    /// The store that the record belongs to.
     const StoreIdentity& store() const noexcept { return *store_; }
+    /// Whether the record has not got a permanent one yet.
     bool isTemporaryID() const noexcept { return key_ < 0; }
+    /// Above 0: the primary key of the row; below 0: temporary.
     std::int64_t key() const noexcept { return key_; }
     /// "tarn-store://<store UUID>/<entity>/p<number>", "/t<UUID>" while temporary. The coordinator reads it back.
     std::string URIRepresentation() const;
@@ -43,6 +53,7 @@ public:
     {
         return left.key_ == right.key_ && left.store_ == right.store_ && left.root() == right.root();
     }
+    /// The record type whose table the record is in; null for an identifier of nothing.
     const NSEntityDescription* root() const noexcept { return entity_ ? &entity_->rootEntity() : nullptr; }
 
 private:
@@ -56,7 +67,9 @@ std::int64_t temporaryKeyForUUID(std::string_view uuid);
 
 } // namespace tarn
 
+/// Equal identifiers have equal hashes.
 template <> struct std::hash<tarn::NSManagedObjectID> {
+    /// By key and record type; never to be stored.
     std::size_t operator()(const tarn::NSManagedObjectID& id) const noexcept
     {
         return static_cast<std::size_t>(static_cast<std::uint64_t>(id.key()) * 0x9E3779B97F4A7C15ULL)

@@ -14,11 +14,17 @@
 namespace tarn {
 
 /// The record types of one version. Immutable once its constructors are registered; shared by coordinators, any thread.
+///
+/// Lives as long as anybody holds it: a coordinator does, and through that each context on its store and each child of
+/// one. The model of the record classes (`OVManagedObjectModel::current`) lives until the process ends. What it hands
+/// out (entities, properties, their names) is its own, and so object identifiers, fetch requests and records point into
+/// it: none of them may be used after it.
 class NSManagedObjectModel {
 public:
     /// Reads a model file. Null and an error (domain "TarnStore") that names the place when it is malformed.
     static std::shared_ptr<NSManagedObjectModel> modelWithContentsOfFile(
         const std::filesystem::path& file, NSError* error = nullptr);
+    /// The same for the text of such a file.
     static std::shared_ptr<NSManagedObjectModel> modelWithText(std::string_view text, NSError* error = nullptr);
 
     ~NSManagedObjectModel();

@@ -17,6 +17,7 @@ public:
     std::size_t count() const;
     bool contains(const NSManagedObject& member) const;
     void add(NSManagedObject& member);
+    /// Takes the member out; nothing when it is none.
     void remove(NSManagedObject& member);
     void set(std::span<NSManagedObject* const> members);
 
@@ -31,9 +32,12 @@ private:
 ///         titles.push_back(note->title());
 template <typename Record> class NSManagedObjectSet {
 public:
+    /// The members as the store knows them, without their class.
     using Members = std::vector<NSManagedObject*>;
+    /// Goes through the members in order; good until a member comes or goes.
     class Iterator {
     public:
+        /// What the standard library asks of an iterator.
         using iterator_category = std::forward_iterator_tag;
         using difference_type = std::ptrdiff_t;
         using value_type = Record*;
@@ -41,13 +45,17 @@ public:
         using reference = Record*;
 
         Iterator() = default;
+        /// For `begin` and `end`.
         explicit Iterator(Members::const_iterator place) : place_(place) { }
+        /// The member that it stands at.
         Record* operator*() const { return static_cast<Record*>(*place_); }
+        /// To the next one.
         Iterator& operator++()
         {
             ++place_;
             return *this;
         }
+        /// To the next one; gives where it stood.
         Iterator operator++(int)
         {
             Iterator before = *this;
@@ -81,6 +89,7 @@ public:
             records.push_back(static_cast<Record*>(member));
         return records;
     }
+    /// Makes these the members; writes the difference only.
     void setObjects(const std::vector<Record*>& records)
     {
         const std::vector<NSManagedObject*> members(records.begin(), records.end());

@@ -23,6 +23,7 @@ public:
 
     /// Named values kept with the store: hashes, UUID, folding version, and the host's own.
     virtual std::map<std::string, std::string> metadata(NSError* error) = 0;
+    /// Keeps a value with the store, at once. False and an error when that fails.
     virtual bool setMetadataValue(std::string_view key, std::string_view value, NSError* error) = 0;
     /// Problems that the store finds in itself; empty when it is sound. Reads everything.
     virtual bool checkIntegrity(std::vector<std::string>& problems, NSError* error) = 0;

@@ -15,14 +15,15 @@
 
 namespace tarn {
 
+/// Where records rest: in a file, or in memory until the coordinator ends.
 enum class StoreType : std::uint8_t { SQLite, InMemory };
 
 /// How a store is opened.
 struct StoreOptions {
     std::map<std::string, std::string> pragmas{{"journal_mode", "DELETE"}}; ///< SQLite's, by name
-    bool inferMappingModelAutomatically = true;
-    bool readOnly = false; ///< refuses writes; the file is still opened for recovery of an unfinished journal
-    bool createIfMissing = true;
+    bool inferMappingModelAutomatically = true; ///< not looked at: `VexMigrationManager` migrates
+    bool readOnly = false;       ///< refuses writes; the file is still opened for recovery of an unfinished journal
+    bool createIfMissing = true; ///< false refuses to make a new file
     /// Called again and again while a lock of another process is waited for, with the time that the wait has taken so
     /// far; false ends it, and what waits fails with `StoreErrorBusy`. May be empty. On the thread that waits; it must
     /// neither throw nor use the store.
@@ -32,13 +33,17 @@ struct StoreOptions {
 class RowStore;
 
 /// Joins a model and a store. Contexts hang on it. Any thread.
+///
+/// Shared by its contexts, which keep it alive; it owns the store and shares the model.
 class NSPersistentStoreCoordinator {
 public:
+    /// A coordinator without a store; it keeps the model alive. `model` is not null.
     explicit NSPersistentStoreCoordinator(std::shared_ptr<const NSManagedObjectModel> model);
     ~NSPersistentStoreCoordinator();
     NSPersistentStoreCoordinator(const NSPersistentStoreCoordinator&) = delete;
     NSPersistentStoreCoordinator& operator=(const NSPersistentStoreCoordinator&) = delete;
 
+    /// Lives as long as the coordinator, and longer where others share it.
     const NSManagedObjectModel& managedObjectModel() const noexcept { return *model_; }
 
     /// Opens (or creates) the one store. Null and an error when it cannot be opened or was written with another model.

@@ -11,9 +11,11 @@ namespace tarn {
 /// Immutable bytes that several records and snapshots share; counts its owners.
 class SharedBytes {
 public:
+    /// A copy of the bytes with one owner, whom `release` ends.
     static SharedBytes* make(std::string_view bytes);
     void retain() noexcept;
     void release() noexcept;
+    /// The bytes; valid while there is an owner.
     std::string_view view() const noexcept { return {reinterpret_cast<const char*>(this + 1), length_}; }
 
 private:
@@ -32,32 +34,42 @@ public:
     PropertyValues() = default;
     /// Everything nil, and loaded but for those of `unloaded`.
     explicit PropertyValues(const NSEntityDescription& entity, PropertyMask unloaded = 0);
+    /// The same values; strings are shared.
     PropertyValues(const PropertyValues& other);
+    /// The values; `other` is empty then.
     PropertyValues(PropertyValues&& other) noexcept;
     PropertyValues& operator=(PropertyValues other) noexcept;
     ~PropertyValues();
 
+    /// Whether it is of no entity and holds nothing.
     bool isEmpty() const noexcept { return slots_ == nullptr; }
+    /// Whose properties these are; not to be asked of an empty one.
     const NSEntityDescription& entity() const noexcept { return *entity_; }
 
+    /// Whether the value was read or set.
     bool isLoaded(PropertyIndex index) const noexcept { return loaded_ & propertyBit(index); }
+    /// All properties of which that is true.
     PropertyMask loadedMask() const noexcept { return loaded_; }
+    /// Whether there is no value.
     bool isNil(PropertyIndex index) const noexcept { return !(present_ & propertyBit(index)); }
+    /// Forgets the value, to be read again.
     void setUnloaded(PropertyIndex index) noexcept;
 
+    /// Takes the value away; it is loaded then.
     void setNil(PropertyIndex index) noexcept;
-    // Boolean (0 or 1), Integer16, Integer64, Date (microseconds since 1970) and to-one (key).
+    /// Boolean (0 or 1), Integer16, Integer64, Date (microseconds since 1970) and to-one (key).
     void setInteger(PropertyIndex index, std::int64_t value) noexcept;
     std::int64_t integer(PropertyIndex index) const noexcept
     {
         return hasSlot(index) ? slot(index).integer : static_cast<std::int64_t>((flags_ >> index) & 1U);
     }
+    /// Of type Double.
     void setDouble(PropertyIndex index, double value) noexcept
     {
         setInteger(index, std::bit_cast<std::int64_t>(value));
     }
     double floating(PropertyIndex index) const noexcept { return std::bit_cast<double>(slot(index).integer); }
-    // String and Data.
+    /// String and Data.
     void setBytes(PropertyIndex index, std::string_view bytes);
     /// The same, sharing the bytes of `model` where those are equal: rows in a row often hold the same.
     void setBytes(PropertyIndex index, std::string_view bytes, const PropertyValues* model);
@@ -69,6 +81,7 @@ public:
 
     /// Takes value and loadedness of one property from another record of the same inheritance chain; shares strings.
     void assign(PropertyIndex index, const PropertyValues& other);
+    /// Whether both hold the same value of the property, or none.
     bool equals(PropertyIndex index, const PropertyValues& other) const noexcept;
 
     /// An attribute as a boxed value. Not for relationships.

@@ -16,16 +16,19 @@ enum class MergeSide : std::uint8_t { Store, Context };
 /// Values are those that are stored, never the clear text of protected fields. Valid during the call.
 class RecordMerge {
 public:
+    /// For merges of a context.
     RecordMerge(NSManagedObject& record, PropertyValues former, PropertyValues ofContext, PropertyValues ofStore)
         : record_(&record), former_(std::move(former)), ofContext_(std::move(ofContext)), ofStore_(std::move(ofStore))
     { }
 
+    /// The record that was merged.
     NSManagedObject& record() const noexcept { return *record_; }
     /// Whether both sides changed the attribute, or others of its group, so that one of them had to give way.
     bool isDecided(std::string_view key) const;
     /// Who kept the attribute, where it was decided.
     MergeSide winner(std::string_view key) const;
     Value formerValue(std::string_view key) const; ///< before either side changed it; nil where nobody had read it
+    /// The value of that side; nil for none.
     Value valueOfContext(std::string_view key) const;
     Value valueOfStore(std::string_view key) const;
     Value losingValue(std::string_view key) const;

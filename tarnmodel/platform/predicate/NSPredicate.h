@@ -18,6 +18,9 @@ using PredicateNodePtr = std::shared_ptr<const PredicateNode>;
 ///
 /// An immutable value, cheap to copy; any thread. It borrows the objects that were given as arguments.
 ///
+/// Texts, numbers, dates and data that were given as arguments are copied. Objects are not: a predicate over a record
+/// is good for as long as that record, which is its context's life at most.
+///
 ///     auto wanted = NSPredicate::predicateWithFormat("title ==[cd] %@ AND trashed == NO", title);
 class NSPredicate {
 public:
@@ -32,10 +35,15 @@ public:
     }
     static NSPredicate predicateWithFormatAndArguments(std::string_view format, std::span<const Value> arguments);
 
+    /// Finds all, or nothing.
     static NSPredicate predicateWithValue(bool value);
+    /// What all of them find; everything for none.
     static NSPredicate andPredicateWithSubpredicates(std::span<const NSPredicate> predicates);
+    /// What any of them finds; nothing for none.
     static NSPredicate orPredicateWithSubpredicates(std::span<const NSPredicate> predicates);
+    /// What the predicate does not find.
     static NSPredicate notPredicateWithSubpredicate(const NSPredicate& predicate);
+    /// A predicate of this tree; `node` is not null.
     explicit NSPredicate(PredicateNodePtr node);
 
     /// The canonical form; parsing it gives the same tree again.
@@ -44,6 +52,7 @@ public:
     /// Evaluates over stored values. A loop over many objects makes one `PredicateEvaluator` instead.
     bool evaluateWithObject(const NSKeyValueCoding& object) const;
 
+    /// Its tree; shared and immutable.
     const PredicateNode& node() const noexcept { return *node_; }
     const PredicateNodePtr& nodePtr() const noexcept { return node_; }
     /// The same tree: operators, options, keys and constants.

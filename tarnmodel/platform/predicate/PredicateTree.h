@@ -12,14 +12,16 @@ namespace tarn {
 
 struct Expression;
 struct PredicateNode;
+/// A shared expression; never null.
 using ExpressionPtr = std::shared_ptr<const Expression>;
+/// A shared node; never null.
 using PredicateNodePtr = std::shared_ptr<const PredicateNode>;
 
 // Expressions ---------------------------------------------------------------------------------------------------------
 
 /// A literal, an argument that filled a slot (a record or a collection too), or a folded `CAST`.
 struct ConstantExpression {
-    Value value;
+    Value value; ///< nil for `NIL` and `NULL`
 };
 /// `SELF`, the object that the predicate is evaluated with.
 struct SelfExpression { };
@@ -38,16 +40,18 @@ struct CountExpression {
 };
 /// `SUBQUERY(collection, $variable, predicate)`: the members for which the predicate holds.
 struct SubqueryExpression {
-    ExpressionPtr collection;
-    std::string variable; ///< without the "$"
-    PredicateNodePtr predicate;
+    ExpressionPtr collection;   ///< what is gone through
+    std::string variable;       ///< without the "$"
+    PredicateNodePtr predicate; ///< over the variable
 };
 /// `{a, b, c}`.
 struct AggregateExpression {
-    std::vector<ExpressionPtr> members;
+    std::vector<ExpressionPtr> members; ///< in order
 };
 
+/// One operand of a comparison.
 struct Expression {
+    /// Which kind of operand it is.
     std::variant<ConstantExpression, SelfExpression, VariableExpression, KeyPathExpression, CountExpression,
         SubqueryExpression, AggregateExpression>
         form;
@@ -55,6 +59,7 @@ struct Expression {
 
 // Predicates ----------------------------------------------------------------------------------------------------------
 
+/// What a comparison asks.
 enum class ComparisonOperator : std::uint8_t {
     EqualTo,
     NotEqualTo,
@@ -73,30 +78,34 @@ enum class ComparisonOperator : std::uint8_t {
 /// How a to-many left side is looked at. ANY over nothing is false, ALL and NONE are true.
 enum class ComparisonModifier : std::uint8_t { Direct, Any, All, None };
 
+/// `left operation right`: true or false, also where a side is nil.
 struct ComparisonPredicate {
-    ExpressionPtr left;
-    ExpressionPtr right;
-    ComparisonOperator operation = ComparisonOperator::EqualTo;
-    ComparisonModifier modifier = ComparisonModifier::Direct;
-    ComparisonOptions options;
+    ExpressionPtr left;                                         ///< what is looked at
+    ExpressionPtr right;                                        ///< what it is compared with
+    ComparisonOperator operation = ComparisonOperator::EqualTo; ///< what is asked
+    ComparisonModifier modifier = ComparisonModifier::Direct;   ///< over a collection on the left
+    ComparisonOptions options;                                  ///< for strings
 };
+/// How operands are joined.
 enum class CompoundType : std::uint8_t { And, Or };
 /// AND and OR are n-ary (nested ones of one kind are joined by the parser); no members: true for AND, false for OR.
 struct CompoundPredicate {
-    CompoundType type = CompoundType::And;
-    std::vector<PredicateNodePtr> members;
+    CompoundType type = CompoundType::And; ///< how they are joined
+    std::vector<PredicateNodePtr> members; ///< in order
 };
+/// True where its operand is false.
 struct NotPredicate {
-    PredicateNodePtr operand;
+    PredicateNodePtr operand; ///< what is negated
 };
 /// `TRUEPREDICATE` or `FALSEPREDICATE`.
 struct ConstantPredicate {
-    bool value = true;
+    bool value = true; ///< which of them
 };
 
 /// A node of a predicate. Nodes are immutable and shared; walk siblings in a loop, nesting is at most
 /// `maximumPredicateDepth`.
 struct PredicateNode {
+    /// Which kind of node it is.
     std::variant<ComparisonPredicate, CompoundPredicate, NotPredicate, ConstantPredicate> form;
 };
 

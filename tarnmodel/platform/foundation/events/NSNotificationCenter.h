@@ -10,7 +10,7 @@ namespace tarn {
 
 /// What an observer is given; everything in it is valid during the call only.
 struct NSNotification {
-    std::string_view name;
+    std::string_view name;              ///< which kind of event it is
     const void* object = nullptr;       ///< who sent it; may be null
     const std::any* userInfo = nullptr; ///< what came along; may be null
 
@@ -29,10 +29,13 @@ class [[nodiscard]] NSNotificationSubscription {
 public:
     NSNotificationSubscription() = default;
     ~NSNotificationSubscription();
+    /// Takes the registration over.
     NSNotificationSubscription(NSNotificationSubscription&& other) noexcept;
     NSNotificationSubscription& operator=(NSNotificationSubscription&& other) noexcept;
 
+    /// Ends the registration; nothing when it has ended.
     void cancel();
+    /// Whether the observer is still registered.
     bool isActive() const noexcept { return observer_ != nullptr; }
 
 private:
@@ -54,8 +57,10 @@ private:
 ///         NSManagedObjectContextDidSaveNotification, &context, [](const NSNotification&) { ... });
 class NSNotificationCenter {
 public:
+    /// What an observer runs.
     using Block = std::function<void(const NSNotification&)>;
 
+    /// A centre of one's own, without observers.
     NSNotificationCenter();
     ~NSNotificationCenter();
     NSNotificationCenter(const NSNotificationCenter&) = delete;

@@ -28,10 +28,12 @@ public:
     NSProgress(const NSProgress&) = delete;
     NSProgress& operator=(const NSProgress&) = delete;
 
+    /// How many units the whole work has; not positive while that is unknown.
     std::int64_t totalUnitCount() const;
     void setTotalUnitCount(std::int64_t total);
     /// Those of finished children included.
     std::int64_t completedUnitCount() const;
+    /// Sets how many units are done.
     void setCompletedUnitCount(std::int64_t completed);
     /// From 0 to 1, with the parts that unfinished children have done; 0 while the total is not positive.
     double fractionCompleted() const;

@@ -9,6 +9,7 @@
 
 namespace tarn {
 
+/// A piece of work for a queue.
 using Task = std::function<void()>;
 
 /// Where work runs. A task that throws is logged, and the queue goes on.
@@ -16,6 +17,7 @@ using Task = std::function<void()>;
 /// Any thread may use any queue, unless a member says otherwise.
 class Queue {
 public:
+    /// `label`: a name for people and logs.
     explicit Queue(std::string_view label);
     virtual ~Queue();
     Queue(const Queue&) = delete;
@@ -68,6 +70,7 @@ class MainQueueState;
 ///     MainQueue::main().setWake([] { g_main_context_wakeup(nullptr); });
 class MainQueue final : public Queue {
 public:
+    /// A queue that the calling thread owns.
     explicit MainQueue(std::string_view label = "main");
     /// Tasks that have not run are dropped; whoever waits for one in `sync` gets an exception.
     ~MainQueue() override;
@@ -84,11 +87,13 @@ public:
     /// Runs the task after the other tasks of a pass, one for each key: false, and nothing changes, when one is
     /// pending.
     bool postCoalesced(const void* key, Task task);
+    /// Takes back what `postCoalesced` was given for this key.
     void cancelCoalesced(const void* key);
 
     /// Runs the task in every pass from now on, before the tasks for its end, until it is taken back; one for each key.
     /// It is no work of its own: an idle queue is not woken for it. On the owning thread.
     void runInEachPass(const void* key, Task task);
+    /// Takes back what `runInEachPass` was given for this key.
     void cancelInEachPass(const void* key);
 
     /// One pass: due timers, the tasks that were queued at entry, coalesced tasks, the tasks of each pass, those for
@@ -140,6 +145,7 @@ private:
 /// It keeps itself alive while it has work.
 class SerialQueue final : public Queue, public std::enable_shared_from_this<SerialQueue> {
 public:
+    /// A new queue; threads are made when it gets work.
     static std::shared_ptr<SerialQueue> make(std::string_view label);
     ~SerialQueue() override;
 
@@ -169,6 +175,7 @@ private:
 /// their end.
 class GlobalQueue final : public Queue {
 public:
+    /// The one of this process.
     static GlobalQueue& shared();
 
     void async(Task task) override;

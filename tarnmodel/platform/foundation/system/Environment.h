@@ -21,15 +21,15 @@ using MachineIdentifier = std::array<std::byte, 16>;
 
 /// What answers the questions of `Environment`; every member is set.
 struct EnvironmentProviders {
-    std::function<NSDate()> clock;
-    std::function<void(std::span<std::byte>)> randomBytes;
-    std::function<std::optional<std::string>(std::string_view)> variable;
-    std::function<std::chrono::seconds(NSDate)> localTimeOffset;
-    std::function<std::string()> localeIdentifier;
-    std::function<std::filesystem::path()> homeDirectory;
-    std::function<std::filesystem::path()> temporaryDirectory;
-    std::function<std::string()> hostName;
-    std::function<std::optional<MachineIdentifier>()> machineIdentifier;
+    std::function<NSDate()> clock;                                        ///< `Environment::now`
+    std::function<void(std::span<std::byte>)> randomBytes;                ///< `Environment::fillWithRandomBytes`
+    std::function<std::optional<std::string>(std::string_view)> variable; ///< `Environment::variable`
+    std::function<std::chrono::seconds(NSDate)> localTimeOffset;          ///< `Environment::localTimeOffset`
+    std::function<std::string()> localeIdentifier;                        ///< `Environment::localeIdentifier`
+    std::function<std::filesystem::path()> homeDirectory;                 ///< `Environment::homeDirectory`
+    std::function<std::filesystem::path()> temporaryDirectory;            ///< `Environment::temporaryDirectory`
+    std::function<std::string()> hostName;                                ///< `Environment::hostName`
+    std::function<std::optional<MachineIdentifier>()> machineIdentifier;  ///< `Environment::machineIdentifier`
 };
 
 /// The world around the library: the only place that asks the clock, the random source and the process environment.
@@ -42,6 +42,7 @@ public:
     /// The one of this process.
     static const Environment& current();
 
+    /// The present, in microseconds.
     NSDate now() const;
     /// Fills `bytes` with random bytes fit for keys.
     void fillWithRandomBytes(std::span<std::byte> bytes) const;
@@ -85,15 +86,18 @@ public:
     EnvironmentOverride(const EnvironmentOverride&) = delete;
     EnvironmentOverride& operator=(const EnvironmentOverride&) = delete;
 
+    /// What `Environment::now` answers; called by any thread.
     void setClock(std::function<NSDate()> clock);
     /// A clock that stands still.
     void setNow(NSDate date);
+    /// What fills random bytes; called by any thread.
     void setRandomBytes(std::function<void(std::span<std::byte>)> randomBytes);
     /// Sets one variable, or hides it when `value` is none. TZ and TZDIR, which the system itself reads, are set for
     /// the whole process: not while another thread may look at a variable.
     void setVariable(std::string name, std::optional<std::string> value);
     /// What TZ is to say: a name ("Europe/Berlin"), a file, or rules ("CET-1CEST,M3.5.0,M10.5.0/3").
     void setTimeZoneIdentifier(std::string identifier);
+    /// What the question of this name answers.
     void setLocaleIdentifier(std::string identifier);
     void setHomeDirectory(std::filesystem::path path);
     void setTemporaryDirectory(std::filesystem::path path);

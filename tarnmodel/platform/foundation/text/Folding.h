@@ -28,8 +28,8 @@ std::string foldDiacritics(std::string_view text);
 
 /// How strings are compared: the options between the brackets of a predicate's operator.
 struct ComparisonOptions {
-    bool caseInsensitive = false;
-    bool diacriticInsensitive = false;
+    bool caseInsensitive = false;      ///< "c"
+    bool diacriticInsensitive = false; ///< "d"
     friend bool operator==(const ComparisonOptions&, const ComparisonOptions&) = default;
 };
 /// The text as the options compare it: as it is, `foldCase`, `foldDiacritics` or `fold`.
@@ -41,8 +41,8 @@ bool foldedContains(std::string_view text, std::string_view foldedNeedle);
 
 /// A hit in the original text, widened to whole source characters; bytes.
 struct FoldedRange {
-    std::size_t location = 0;
-    std::size_t length = 0;
+    std::size_t location = 0; ///< of the first byte
+    std::size_t length = 0;   ///< in bytes
     friend bool operator==(const FoldedRange&, const FoldedRange&) = default;
 };
 /// The first place at or after `from` (a byte offset) that shows the needle, for display only.

@@ -13,7 +13,7 @@ namespace tarn {
 
 /// One place where a pattern matched.
 struct RegularExpressionMatch {
-    NSRange range;
+    NSRange range; ///< the whole match, in UTF-16 units
     /// The capture groups from the first on; location `NSNotFound` for one that took no part.
     std::vector<NSRange> groups;
 };
@@ -25,10 +25,11 @@ struct RegularExpressionMatch {
 ///     RegularExpression expression("#[a-z]+", {.caseInsensitive = true});
 class RegularExpression {
 public:
+    /// How a pattern is read, and how much work it may make.
     struct Options {
-        bool caseInsensitive = false;
-        bool anchorsMatchLines = false; ///< ^ and $ match at line ends too
-        bool dotMatchesLineSeparators = false;
+        bool caseInsensitive = false;          ///< letters match in either case
+        bool anchorsMatchLines = false;        ///< "^" and "$" match at line ends too
+        bool dotMatchesLineSeparators = false; ///< a dot matches line ends too
         /// Steps of the matcher's clock (about 0.16 ms each) after which it gives up; 0 for no limit.
         std::int32_t timeLimit = 5000;
         /// Bytes of backtracking state after which it gives up; 0 for no limit.

@@ -23,7 +23,9 @@ public:
     /// short style is more than numbers reads nothing.
     static DateFormatter withShortStyle();
 
+    /// The beginning of the day that the text names; none when it names none.
     std::optional<NSDate> dateFromString(std::string_view text) const;
+    /// The day of that moment, by the pattern.
     std::string stringFromDate(NSDate date) const;
     /// In the letters of Unicode's date patterns.
     const std::string& pattern() const noexcept { return pattern_; }

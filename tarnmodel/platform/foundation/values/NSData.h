@@ -12,6 +12,7 @@ namespace tarn {
 class NSData {
 public:
     NSData() = default;
+    /// A copy of these bytes.
     explicit NSData(std::vector<std::byte> bytes) : bytes_(std::move(bytes)) { }
     explicit NSData(std::span<const std::byte> bytes) : bytes_(bytes.begin(), bytes.end()) { }
     /// The bytes of `text`, as they are.
@@ -24,9 +25,13 @@ public:
         return data;
     }
 
+    /// The bytes; valid while this value lives.
     const std::byte* bytes() const noexcept { return bytes_.data(); }
+    /// How many bytes.
     std::size_t length() const noexcept { return bytes_.size(); }
+    /// Whether there is none.
     bool isEmpty() const noexcept { return bytes_.empty(); }
+    /// The bytes; valid while this value lives.
     std::span<const std::byte> span() const noexcept { return bytes_; }
     /// The bytes seen as characters; valid while this value lives.
     std::string_view text() const noexcept { return {reinterpret_cast<const char*>(bytes_.data()), bytes_.size()}; }

@@ -10,9 +10,12 @@ namespace tarn {
 class NSError {
 public:
     NSError() = default;
+    /// An error with these parts, which it copies.
     NSError(std::string_view domain, long code, std::string_view localizedDescription);
 
+    /// Who numbers the code.
     const std::string& domain() const noexcept { return domain_; }
+    /// Which error of its domain it is.
     long code() const noexcept { return code_; }
     /// May be empty; callers that print it then say "Unknown Error".
     const std::string& localizedDescription() const noexcept { return localizedDescription_; }

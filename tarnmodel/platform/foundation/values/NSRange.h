@@ -6,9 +6,10 @@ namespace tarn {
 
 /// A part of a text: location and length in UTF-16 code units.
 struct NSRange {
-    std::size_t location = 0;
-    std::size_t length = 0;
+    std::size_t location = 0; ///< of the first unit
+    std::size_t length = 0;   ///< in units
 
+    /// The location behind the last unit.
     std::size_t end() const noexcept { return location + length; }
     friend bool operator==(const NSRange&, const NSRange&) = default;
 };

@@ -54,13 +54,18 @@ private:
 /// Objects are borrowed: a value must not outlive the objects that it names. Copies of an array share it.
 class Value {
 public:
+    /// What a value is.
     enum class Kind : std::uint8_t { Nil, Bool, Integer, Double, String, Date, Data, Object, Array };
+    /// The values of an array, in order.
     using Array = std::vector<Value>;
 
     Value() = default;
+    /// Nil.
     Value(std::nullptr_t) { }
     /// A bool and nothing that only converts to one: a pointer to a class that is still incomplete would.
     template <std::same_as<bool> Bool> Value(Bool value) : storage_(value) { }
+    /// A value of the kind that the type stands for; a null pointer to a text is not allowed, and an empty option is
+    /// nil.
     template <std::integral Integer>
     requires(!std::same_as<Integer, bool>) Value(Integer value) : storage_(static_cast<std::int64_t>(value)) { }
     Value(double value) : storage_(value) { }
@@ -82,12 +87,14 @@ public:
             *this = Value(*value);
     }
 
+    /// What it is.
     Kind kind() const noexcept { return static_cast<Kind>(storage_.index()); }
+    /// Whether it is nil.
     bool isNil() const noexcept { return kind() == Kind::Nil; }
     /// Bool, Integer or Double.
     bool isNumber() const noexcept { return kind() == Kind::Bool || kind() == Kind::Integer || kind() == Kind::Double; }
 
-    // Each wants the value to be of that kind, else std::bad_variant_access.
+    /// Each wants the value to be of that kind, else std::bad_variant_access.
     bool asBool() const { return std::get<bool>(storage_); }
     std::int64_t asInteger() const { return std::get<std::int64_t>(storage_); }
     double asDouble() const { return std::get<double>(storage_); }

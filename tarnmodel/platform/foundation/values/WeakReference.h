@@ -27,6 +27,7 @@ public:
 
 protected:
     WeaklyReferenced() = default;
+    /// A copy is an object of its own.
     WeaklyReferenced(const WeaklyReferenced&) { }
     // NOLINTNEXTLINE(bugprone-unhandled-self-assignment): nothing is assigned
     WeaklyReferenced& operator=(const WeaklyReferenced&) { return *this; }
@@ -42,12 +43,14 @@ private:
 template <typename Object> class WeakReference {
 public:
     WeakReference() = default;
+    /// Refers to `object` while that lives; null for null.
     explicit WeakReference(Object* object) : object_(object)
     {
         if (object)
             lifeline_ = object->lifeline();
     }
 
+    /// The object; null once it has ended.
     Object* get() const noexcept { return lifeline_.expired() ? nullptr : object_; }
 
 private:

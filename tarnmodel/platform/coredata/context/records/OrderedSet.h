@@ -19,8 +19,11 @@ public:
     /// `values`: each once.
     explicit OrderedSet(std::vector<T> values) : slots_(std::move(values)), count_(slots_.size()) { }
 
+    /// Whether the value is here.
     bool contains(const T& value) const { return place(value) != kNowhere; }
+    /// Whether there is none.
     bool isEmpty() const noexcept { return count_ == 0; }
+    /// How many there are.
     std::size_t size() const noexcept { return count_; }
 
     /// Puts it behind the others; false when it is here already.
@@ -52,6 +55,7 @@ public:
         return true;
     }
 
+    /// Takes out all values for which the predicate holds.
     template <typename Predicate> void eraseIf(Predicate predicate)
     {
         if (std::none_of(values().begin(), values().end(), predicate))
@@ -61,6 +65,7 @@ public:
         *this = OrderedSet(std::move(kept));
     }
 
+    /// Takes out all.
     void clear() { *this = OrderedSet(); }
 
     /// Valid until the next change.
