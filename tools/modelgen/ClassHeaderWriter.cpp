@@ -26,7 +26,11 @@ class NSManagedObjectContext;
 {forwardDeclarations}
 /// {documentation}
 ///
-/// The generated accessors of `{entity}`; its behaviour stands in the class of that name.
+/// The generated accessors of `{entity}`; its behaviour stands in the class of that name. For a property "x":
+/// `x()` and `setX()` are its accessors, which a record class may guard; `primitiveX()` and `setPrimitiveX()` pass any
+/// guard by, and the setter tells no observer; `xValue()` and its like give 0 or false for nil; `xSet()` holds the
+/// records that a to-many relationship names. Values are copies; records belong to the context. A text or data of more
+/// than 512 MiB raises `NSInvalidArgumentException`.
 class _{entity} : public {base} {{
 public:
     using {base}::{base};
@@ -46,6 +50,7 @@ public:
     /// Of the model that these accessors were made from.
     static constexpr std::string_view generatedAccessorHash() noexcept {{ return "{hash}"; }}
 
+    /// Which record it is; temporary until it is saved, or a permanent one is asked for.
     {entity}ID objectID() const {{ return {entity}ID(identifyingObjectID()); }}
 
     std::set<std::string> keysAffectingValueForKey(std::string_view key) const override;
@@ -129,9 +134,11 @@ std::string indexes(const NSEntityDescription& entity)
 {
     std::string text;
     for (const NSPropertyDescription* property : entity.properties()) {
-        if (&property->declaringEntity() == &entity)
-            text += fmt::format(
-                "        static constexpr PropertyIndex {} = {};\n", property->name(), property->index());
+        if (&property->declaringEntity() != &entity)
+            continue;
+        if (text.empty())
+            text = "        /// The position of the property of this name.\n";
+        text += fmt::format("        static constexpr PropertyIndex {} = {};\n", property->name(), property->index());
     }
     return text;
 }

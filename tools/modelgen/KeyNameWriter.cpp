@@ -45,7 +45,7 @@ template <typename Property>
 GeneratedFile keyNamesHeader(const NSEntityDescription& entity, std::string_view kind, std::string_view suffix,
     const std::vector<const Property*>& properties)
 {
-    std::string functions;
+    std::string functions = properties.empty() ? "" : "    /// The key of the property of this name.\n";
     for (const Property* property : properties)
         functions += fmt::format(
             "    static constexpr std::string_view {0}() noexcept {{ return \"{0}\"; }}\n", property->name());
