@@ -10,18 +10,20 @@ set -euo pipefail
 
 declare -A packages=(
   [build]="g++ cmake ninja-build libicu-dev libsqlite3-dev nlohmann-json3-dev libfmt-dev libsodium-dev libcli11-dev"
-  [tests]="libgtest-dev libgmock-dev librapidcheck-dev libcmark-dev python3 sqlite3 strace tzdata clang-format git npm"
+  [tests]="libgtest-dev libgmock-dev librapidcheck-dev libcmark-dev python3 sqlite3 strace tzdata clang-format doxygen git npm"
   [bench]="libbenchmark-dev libcmark-dev ripgrep npm python3"
   [format]="clang-format"
   [tidy]="clang clang-tidy clang-tools python3"
   [fuzz]="clang"
   [coverage]="gcovr"
+  [reference]="doxygen python3"
   [ci]="locales util-linux"
 )
 # Some tools may stand on a machine without being a package of it.
 declare -A command_of_package=(
   [cmake]=cmake [ninja-build]=ninja [python3]=python3 [git]=git [clang-format]=clang-format [clang]=clang++
   [clang-tidy]=clang-tidy [gcovr]=gcovr [g++]=g++ [strace]=strace [sqlite3]=sqlite3 [npm]=npm [ripgrep]=rg
+  [doxygen]=doxygen
 )
 
 fail() {

@@ -9,9 +9,10 @@ fail() {
 }
 
 listed=$("$script" --list build tests)
-for package in g++ cmake ninja-build libicu-dev libsqlite3-dev libgtest-dev; do
+for package in g++ cmake ninja-build libicu-dev libsqlite3-dev libgtest-dev doxygen; do
   grep -qxF "$package" <<<"$listed" || fail "does not name $package"
 done
+[[ $("$script" --list reference) == *doxygen* ]] || fail 'does not name what the reference needs'
 if "$script" nonsense 2>/dev/null; then fail 'took a group that it does not have'; fi
 if "$script" 2>/dev/null; then fail 'took no group at all'; fi
 
