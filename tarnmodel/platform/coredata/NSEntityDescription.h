@@ -45,15 +45,17 @@ enum class PropertyGroup : std::uint8_t {
 
 /// Properties of one entity that a merge takes from one side together.
 struct MergeGroup {
-    PropertyMask members = 0;
-    PropertyMask leads = 0; ///< what the group is about: where one side alone changed one of these, that side has it
+    PropertyMask members = 0; ///< all of the group
+    PropertyMask leads = 0;   ///< what the group is about: where one side alone changed one of these, that side has it
 };
 
 /// An attribute or a relationship of an entity. Owned by its model; immutable.
 class NSPropertyDescription {
 public:
     virtual ~NSPropertyDescription() = default;
+    /// Unique in its entity.
     const std::string& name() const noexcept { return name_; }
+    /// Its position in `NSEntityDescription::properties`.
     PropertyIndex index() const noexcept { return index_; }
     /// The entity that declares it (a super-entity for an inherited one).
     const NSEntityDescription& declaringEntity() const noexcept { return *declaringEntity_; }
@@ -75,9 +77,11 @@ private:
     const NSEntityDescription* declaringEntity_ = nullptr;
 };
 
+/// A property that holds a value. Owned by its model; immutable.
 class NSAttributeDescription final : public NSPropertyDescription {
 public:
     bool isRelationship() const noexcept override { return false; }
+    /// Which values it takes.
     NSAttributeType type() const noexcept { return type_; }
     /// Boolean, integer and floating-point attributes: those with a scalar accessor.
     bool isScalar() const noexcept { return type_ <= NSAttributeType::Double; }
@@ -108,13 +112,19 @@ private:
     bool flagIndexed_ = false;
 };
 
+/// A property that names other records. Owned by its model; immutable.
 class NSRelationshipDescription final : public NSPropertyDescription {
 public:
     bool isRelationship() const noexcept override { return true; }
+    /// Whether it names any number of records; one at most otherwise.
     bool isToMany() const noexcept { return toMany_; }
+    /// The entity of the records that it names.
     const NSEntityDescription& destinationEntity() const noexcept { return *destination_; }
+    /// The relationship by which those name this record.
     const NSRelationshipDescription& inverseRelationship() const noexcept { return *inverse_; }
+    /// What becomes of those when this record is deleted.
     NSDeleteRule deleteRule() const noexcept { return deleteRule_; }
+    /// Where the store keeps it.
     RelationshipStorage storage() const noexcept { return storage_; }
     /// Of the two ends of a join table the one whose changes write its rows (the table is named after it).
     bool ownsJoinTable() const noexcept { return ownsJoinTable_; }
@@ -131,12 +141,13 @@ private:
 
 /// A composite index of a table: columns in order.
 struct IndexDescription {
+    /// One column of an index.
     struct Column {
-        std::string property;
-        bool descending = false;
+        std::string property;    ///< of the entity
+        bool descending = false; ///< from the highest value to the lowest
     };
-    std::vector<Column> columns;
-    bool unique = false;
+    std::vector<Column> columns; ///< the leading one first
+    bool unique = false;         ///< no two rows have the same values
 };
 
 /// Makes the record object of an entity with `new`; the caller owns it. `NSManagedObject` itself where none is
@@ -144,12 +155,19 @@ struct IndexDescription {
 using RecordConstructor = NSManagedObject* (*)(const NSManagedObjectSeed& seed);
 
 /// One record type: its properties, inherited ones first. Owned by its model; immutable but for the constructor.
+///
+/// Good for as long as its model.
 class NSEntityDescription {
 public:
+    /// Unique in its model.
     const std::string& name() const noexcept { return name_; }
+    /// The model that owns it.
     const NSManagedObjectModel& model() const noexcept { return *model_; }
+    /// Whether only records of its sub-entities are meant to be made.
     bool isAbstract() const noexcept { return abstract_; }
+    /// The entity that it inherits from; null for none.
     const NSEntityDescription* superentity() const noexcept { return superentity_; }
+    /// The entities that inherit from it directly.
     const std::vector<const NSEntityDescription*>& subentities() const noexcept { return subentities_; }
     /// The top of its inheritance chain, whose table holds the rows; itself when it has no super-entity.
     const NSEntityDescription& rootEntity() const noexcept { return *root_; }
@@ -167,6 +185,7 @@ public:
     std::vector<const NSRelationshipDescription*> relationships() const;
     const std::vector<IndexDescription>& indexes() const noexcept { return indexes_; }
 
+    /// Properties by kind: relationships; those to many; attributes that are large; those of the text's group.
     PropertyMask relationshipMask() const noexcept { return relationshipMask_; }
     PropertyMask toManyMask() const noexcept { return toManyMask_; }
     PropertyMask largeMask() const noexcept { return largeMask_; }
@@ -190,6 +209,7 @@ public:
     /// Equal only when the properties have the same places too, which generated accessors go by; 16 hex digits.
     const std::string& accessorHash() const noexcept { return accessorHash_; }
 
+    /// Which class its records are of; null for `NSManagedObject` itself.
     RecordConstructor recordConstructor() const noexcept { return constructor_; }
 
 private:

@@ -11,14 +11,21 @@ namespace tarn {
 /// What the sets of all record classes share; see `NSManagedObjectSet`.
 class UntypedManagedObjectSet {
 public:
+    /// For `NSManagedObjectSet`.
     explicit UntypedManagedObjectSet(ToManySet& set) noexcept : set_(&set) { }
 
+    /// All members: stored ones by primary key, then added ones in order. Loads the set; good until a member comes or
+    /// goes.
     const std::vector<NSManagedObject*>& members() const;
+    /// How many members; without loading them where it can.
     std::size_t count() const;
+    /// Whether it is a member; without loading the others where it can.
     bool contains(const NSManagedObject& member) const;
+    /// Puts the member behind the others; nothing when it is one.
     void add(NSManagedObject& member);
     /// Takes the member out; nothing when it is none.
     void remove(NSManagedObject& member);
+    /// Makes these the members; writes the difference only.
     void set(std::span<NSManagedObject* const> members);
 
 private:
@@ -68,16 +75,22 @@ public:
         Members::const_iterator place_;
     };
 
+    /// For generated accessors.
     explicit NSManagedObjectSet(ToManySet& set) noexcept : set_(set) { }
 
     /// The members themselves. Where the body fetches or changes members, walk `allObjects()`.
     Iterator begin() const { return Iterator(set_.members().begin()); }
     Iterator end() const { return Iterator(set_.members().end()); }
 
+    /// Adds the record, and this record at the other end; nothing when it is a member.
     void addObject(Record& record) { set_.add(record); }
+    /// Takes the record out, and this record at the other end; nothing when it is no member.
     void removeObject(Record& record) { set_.remove(record); }
+    /// Whether the record is a member; without loading the others where it can.
     bool containsObject(const Record& record) const { return set_.contains(record); }
+    /// How many members; without loading them where it can.
     std::size_t count() const { return set_.count(); }
+    /// Whether there is none.
     bool empty() const { return count() == 0; }
     /// A copy, which members that come and go do not touch.
     std::vector<Record*> allObjects() const

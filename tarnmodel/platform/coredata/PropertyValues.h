@@ -13,7 +13,9 @@ class SharedBytes {
 public:
     /// A copy of the bytes with one owner, whom `release` ends.
     static SharedBytes* make(std::string_view bytes);
+    /// One owner more.
     void retain() noexcept;
+    /// One owner less; the last one frees the bytes.
     void release() noexcept;
     /// The bytes; valid while there is an owner.
     std::string_view view() const noexcept { return {reinterpret_cast<const char*>(this + 1), length_}; }

@@ -15,7 +15,9 @@ namespace tarn {
 class NSDate {
 public:
     constexpr NSDate() = default;
+    /// The moment so many microseconds after the beginning of 1970.
     explicit constexpr NSDate(std::int64_t microsecondsSince1970) noexcept : microseconds_(microsecondsSince1970) { }
+    /// Negative before 1970.
     constexpr std::int64_t microsecondsSince1970() const noexcept { return microseconds_; }
 
     /// The ends of what can be counted: about 292,000 years before and after 1970.

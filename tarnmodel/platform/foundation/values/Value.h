@@ -31,7 +31,9 @@ public:
 /// An immutable array of values that its copies share. Any thread.
 class SharedValues {
 public:
+    /// An array of these.
     explicit SharedValues(std::vector<Value> values);
+    /// The same array, shared.
     SharedValues(const SharedValues& other) noexcept;
     SharedValues(SharedValues&& other) noexcept : counted_(std::exchange(other.counted_, nullptr)) { }
     SharedValues& operator=(SharedValues other) noexcept
@@ -80,7 +82,9 @@ public:
         if (object)
             storage_ = object;
     }
+    /// An array; copies share it.
     Value(Array values) : storage_(SharedValues(std::move(values))) { }
+    /// Nil for an option without a value.
     template <typename T> Value(const std::optional<T>& value)
     {
         if (value)
