@@ -108,6 +108,7 @@ public:
         const std::vector<NSManagedObject*> members(records.begin(), records.end());
         set_.set(members);
     }
+    /// Takes out all members.
     void removeAllObjects() { set_.set({}); }
 
 private:
