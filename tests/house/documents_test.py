@@ -132,6 +132,13 @@ class Documents(unittest.TestCase):
                 with self.subTest(document=name, variable=variable):
                     self.assertIn(variable, words)
 
+    def test_help_names_each_command_of_the_makefile(self):
+        makefile = (ROOT / "Makefile").read_text(encoding="utf-8")
+        listed = set(re.search(r"^\.PHONY: (.*)$", makefile, re.MULTILINE).group(1).split())
+        self.assertEqual(set(re.findall(r"^([a-z-]+):", makefile, re.MULTILINE)), listed)
+        printed = subprocess.run(["make", "help"], cwd=ROOT, capture_output=True, text=True, check=True).stdout
+        self.assertEqual(set(re.findall(r"^  make ([a-z-]+) ", printed, re.MULTILINE)), listed)
+
     def test_the_readme_names_the_versions_of_the_build(self):
         readme = (ROOT / "README.md").read_text(encoding="utf-8")
         build = (ROOT / "CMakeLists.txt").read_text(encoding="utf-8")

@@ -65,6 +65,14 @@ class CommandLine(unittest.TestCase):
         self.run_line("tarn new '# A note'")
         self.assertTrue((self.home / ".local/share/tarn/Application Data/database.sqlite").is_file())
 
+    def test_the_demo_only_reads_the_notes(self):
+        notes = self.home / "notes"
+        before = {path: path.read_bytes() for path in notes.rglob("*") if path.is_file()}
+        output = self.run_line(f"'{ROOT}/scripts/demo.sh' '{TARN.parent}' demo '{notes}'")
+        for command in ("$ tarn import", "$ tarn list", "$ tarn search", "$ tarn tags"):
+            self.assertIn(command, output)
+        self.assertEqual({path: path.read_bytes() for path in notes.rglob("*") if path.is_file()}, before)
+
     def test_each_command_answers_in_json(self):
         commands = re.findall(r"^  ([a-z]+)  ", self.run_line("tarn --help").split("Subcommands:")[1], re.MULTILINE)
         self.assertEqual(sorted(commands), sorted({line.split(" ")[0] for line in ANSWERED}))
