@@ -148,7 +148,7 @@ Written from the model "{}" by `schemagen`; do not edit, but build the target `s
 - *text group*: belongs to a note's text; *encryption group*: what is encrypted, and what it can be read with. A merge takes a whole group
   from one side: from the only one that changed what *leads* it, else from the one that the merge policy prefers. An attribute and the
   date that dates it go together likewise.
-- Flags start as NO and numbers as 0; everything else starts empty, and everything may be empty.
+- Flags start as false and numbers as 0; everything else starts empty, and everything may be empty.
 )",
         model.versionIdentifier());
     for (const NSEntityDescription* entity : model.entities()) {
