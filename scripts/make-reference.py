@@ -23,6 +23,7 @@ DOCUMENTATION = re.compile(r"^(\s*)///(?!<) ?(.*)$")
 SECTION = re.compile(r"^(\s*)// (\S.*?) -{4,}$")
 REMARK = re.compile(r"^\s*//(?!/) ?(.*)$")
 TO_TOOLS = re.compile(r"^\s*// (NOLINT|clang-format)")
+NOT_MEANT = re.compile(r"\b(override|final)\b|= delete;$|\bvirtual ~|^\s*~")
 COMPARED = re.compile(r"^(\s*)(friend .*operator(==|<=>).* = default;)$")
 BODY = re.compile(r"^\s*(template\b.*>\s*)?(class|struct|enum|union|namespace|extern)\b(?!.*\()")
 STRINGS = re.compile(r'"(?:\\.|[^"\\])*"|\'(?:\\.|[^\'\\])*\'')
@@ -77,8 +78,10 @@ def spread_comments(lines):
             # It has to be repeated for the first one too: the remark becomes the description of the group.
             first, comment = False, "\n".join(words)
             continue
-        if comment is None and COMPARED.match(line):
-            line = COMPARED.sub(r"\1/** Member by member. */ \2", line)
+        if COMPARED.match(line) and not (comment is not None and first):
+            result.append(COMPARED.sub(r"\1/** Member by member. */ \2", line))
+            position += 1
+            continue
         if TO_TOOLS.match(line):
             result.append(line)
             position += 1
@@ -91,7 +94,8 @@ def spread_comments(lines):
             position += 1
             continue
         indent = line[: len(line) - len(line.lstrip())]
-        if first or "///<" in "".join(lines[position : position + count]):
+        declaration = " ".join(lines[position : position + count])
+        if first or "///<" in declaration or NOT_MEANT.search(declaration):
             result.append(line)
         else:
             # On one line; an example cannot be repeated there, and stands with the first declaration anyway.

@@ -9,6 +9,7 @@ class CKServerChangeToken {
 public:
     /// The bytes as the server gave them.
     explicit CKServerChangeToken(NSData data) : data_(std::move(data)) { }
+    /// The bytes.
     const NSData& data() const noexcept { return data_; }
     friend bool operator==(const CKServerChangeToken&, const CKServerChangeToken&) = default;
 

@@ -20,7 +20,9 @@ class NSManagedObjectSeed;
 using PropertyIndex = std::uint8_t;
 /// One bit for each property of an entity.
 using PropertyMask = std::uint64_t;
+/// How many properties an entity may have.
 inline constexpr std::size_t maximumPropertyCount = 64;
+/// The bit of one property.
 constexpr PropertyMask propertyBit(PropertyIndex index) noexcept
 {
     return PropertyMask{1} << index;
@@ -59,11 +61,15 @@ public:
     PropertyIndex index() const noexcept { return index_; }
     /// The entity that declares it (a super-entity for an inherited one).
     const NSEntityDescription& declaringEntity() const noexcept { return *declaringEntity_; }
+    /// Whether it may be nil.
     bool isOptional() const noexcept { return optional_; }
+    /// The group that a merge takes as a whole.
     PropertyGroup group() const noexcept { return group_; }
     /// What its group is about; the other members follow from it.
     bool leadsGroup() const noexcept { return leadsGroup_; }
+    /// A sentence for people.
     const std::string& documentation() const noexcept { return documentation_; }
+    /// Whether it is an `NSRelationshipDescription`; an `NSAttributeDescription` otherwise.
     virtual bool isRelationship() const noexcept = 0;
 
 private:
@@ -171,18 +177,23 @@ public:
     const std::vector<const NSEntityDescription*>& subentities() const noexcept { return subentities_; }
     /// The top of its inheritance chain, whose table holds the rows; itself when it has no super-entity.
     const NSEntityDescription& rootEntity() const noexcept { return *root_; }
+    /// Whether it is `other`, or inherits from it.
     bool isKindOfEntity(const NSEntityDescription& other) const noexcept;
+    /// A sentence for people.
     const std::string& documentation() const noexcept { return documentation_; }
 
     /// All properties by index.
     const std::vector<const NSPropertyDescription*>& properties() const noexcept { return properties_; }
+    /// The property at this index, which is below their number.
     const NSPropertyDescription& property(PropertyIndex index) const noexcept { return *properties_[index]; }
     /// Null for an unknown name.
     const NSPropertyDescription* propertyNamed(std::string_view name) const noexcept;
     const NSAttributeDescription* attributeNamed(std::string_view name) const noexcept;
     const NSRelationshipDescription* relationshipNamed(std::string_view name) const noexcept;
+    /// By kind, in the order of their indexes.
     std::vector<const NSAttributeDescription*> attributes() const;
     std::vector<const NSRelationshipDescription*> relationships() const;
+    /// Those that the model asks for beside the plain and folded ones.
     const std::vector<IndexDescription>& indexes() const noexcept { return indexes_; }
 
     /// Properties by kind: relationships; those to many; attributes that are large; those of the text's group.
@@ -202,6 +213,7 @@ public:
     PropertyMask slotlessMask() const noexcept { return slotlessMask_; }
     /// The place of any other property; an inherited one has the same in every sub-entity.
     std::uint8_t slot(PropertyIndex index) const noexcept { return slots_[index]; }
+    /// How many places a record takes, of eight bytes each.
     std::size_t slotCount() const noexcept { return slotCount_; }
 
     /// Equal for two versions of a model exactly when rows of one can be read as rows of the other; 16 hex digits.

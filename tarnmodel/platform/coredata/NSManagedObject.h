@@ -133,19 +133,23 @@ public:
     std::optional<NSData> dataAt(PropertyIndex index) const;
     /// A string without a copy; valid until the record changes.
     std::optional<std::string_view> stringViewAt(PropertyIndex index) const;
+    /// Write the value, nil for none, and tell observers.
     void setBooleanAt(PropertyIndex index, std::optional<bool> value);
     void setIntegerAt(PropertyIndex index, std::optional<std::int64_t> value);
     void setDoubleAt(PropertyIndex index, std::optional<double> value);
     void setStringAt(PropertyIndex index, std::optional<std::string_view> value);
     void setDateAt(PropertyIndex index, std::optional<NSDate> value);
     void setDataAt(PropertyIndex index, const std::optional<NSData>& value);
+    /// Write the value, nil for none, and tell nobody.
     void setPrimitiveBooleanAt(PropertyIndex index, std::optional<bool> value);
     void setPrimitiveIntegerAt(PropertyIndex index, std::optional<std::int64_t> value);
     void setPrimitiveDoubleAt(PropertyIndex index, std::optional<double> value);
     void setPrimitiveStringAt(PropertyIndex index, std::optional<std::string_view> value);
     void setPrimitiveDateAt(PropertyIndex index, std::optional<NSDate> value);
     void setPrimitiveDataAt(PropertyIndex index, const std::optional<NSData>& value);
+    /// The record at the other end; null for none.
     NSManagedObject* toOneAt(PropertyIndex index) const;
+    /// Changes both ends, and tells observers.
     void setToOneAt(PropertyIndex index, NSManagedObject* target);
     /// The live set behind a to-many relationship: what an `NSManagedObjectSet` is made from.
     ToManySet& toManyAt(PropertyIndex index) const;

@@ -80,6 +80,7 @@ public:
 
     /// The members themselves. Where the body fetches or changes members, walk `allObjects()`.
     Iterator begin() const { return Iterator(set_.members().begin()); }
+    /// Behind the last member.
     Iterator end() const { return Iterator(set_.members().end()); }
 
     /// Adds the record, and this record at the other end; nothing when it is a member.

@@ -10,7 +10,9 @@ class Lifeline {
 public:
     /// Of no object: expired.
     Lifeline() = default;
+    /// Of the object that holds the other end.
     explicit Lifeline(std::weak_ptr<const void> life) : life_(std::move(life)) { }
+    /// Whether the object has ended, or there was none.
     bool expired() const noexcept { return life_.expired(); }
 
 private:
