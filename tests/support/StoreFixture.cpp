@@ -10,9 +10,10 @@
 
 namespace tarn {
 
-StoreFixture::StoreFixture()
-    : folder_(std::filesystem::temp_directory_path() / ("tarn störe " + newUUIDString())),
-      clock_(dateWithMicrosecondsSince1970(1'700'000'000'000'000)),
+// World ---------------------------------------------------------------------------------------------------------------
+
+StillWorld::StillWorld()
+    : clock_(dateWithMicrosecondsSince1970(1'700'000'000'000'000)),
       previousHost_(setHostUUIDProvider([](std::chrono::seconds) {
           return HostUUID{HostUUIDStatus::Known, *bytesOfUUIDString(deviceUUID)};
       }))
@@ -23,59 +24,90 @@ StoreFixture::StoreFixture()
     world_.setTimeZoneIdentifier("UTC");
 }
 
-StoreFixture::~StoreFixture()
+StillWorld::~StillWorld()
 {
     setHostUUIDProvider(previousHost_);
+}
+
+NSDate StillWorld::tick()
+{
+    clock_ += std::chrono::milliseconds(1);
+    return clock_;
+}
+
+// Store ---------------------------------------------------------------------------------------------------------------
+
+TestStore::TestStore(StoreType type, StoreOptions options)
+    : type_(type), options_(std::move(options)),
+      folder_(std::filesystem::temp_directory_path() / ("tarn störe " + newUUIDString()))
+{
+    std::filesystem::create_directories(folder_);
+}
+
+TestStore::~TestStore()
+{
+    close();
     std::error_code error;
     std::filesystem::remove_all(folder_, error);
 }
 
-void StoreFixture::SetUp()
-{
-    std::filesystem::create_directories(folder_);
-    open();
-}
-
-void StoreFixture::TearDown()
-{
-    NSError error;
-    std::vector<std::string> problems;
-    EXPECT_TRUE(store().checkIntegrity(problems, &error)) << error;
-    EXPECT_THAT(problems, testing::IsEmpty());
-    context_.reset();
-    coordinator_.reset();
-    EXPECT_THAT(takeLog(), testing::IsEmpty()) << "unexpected log messages";
-}
-
-void StoreFixture::open()
+void TestStore::open()
 {
     NSError error;
     if (!coordinator_) {
         const auto model = OVManagedObjectModel::current(&error);
         ASSERT_TRUE(model) << error;
         coordinator_ = std::make_shared<NSPersistentStoreCoordinator>(model);
-        ASSERT_TRUE(coordinator_->addPersistentStoreWithType(GetParam(), storeFile(), {}, &error)) << error;
+        ASSERT_TRUE(coordinator_->addPersistentStoreWithType(type_, storeFile(), options_, &error)) << error;
     }
-    context_ = std::make_unique<NSManagedObjectContext>(NSManagedObjectContext::ConcurrencyType::MainQueue);
-    context_->setPersistentStoreCoordinator(coordinator_);
+    context_ = contextOn(coordinator_);
 }
 
-void StoreFixture::save()
+std::vector<std::string> TestStore::problems()
+{
+    NSError error;
+    std::vector<std::string> problems;
+    EXPECT_TRUE(store().checkIntegrity(problems, &error)) << error;
+    return problems;
+}
+
+void TestStore::close()
+{
+    context_.reset();
+    coordinator_.reset();
+}
+
+void TestStore::save()
 {
     NSError error;
     ASSERT_TRUE(context().save(&error)) << error;
 }
 
-void StoreFixture::reopen()
+void TestStore::reopen()
 {
     save();
     context_.reset();
-    if (GetParam() == StoreType::SQLite)
+    if (type_ == StoreType::SQLite)
         coordinator_.reset();
     open();
 }
 
-void StoreFixture::runSQL(const char* sql)
+std::shared_ptr<NSPersistentStoreCoordinator> TestStore::openAgain() const
+{
+    auto coordinator = std::make_shared<NSPersistentStoreCoordinator>(OVManagedObjectModel::current());
+    NSError error;
+    EXPECT_TRUE(coordinator->addPersistentStoreWithType(StoreType::SQLite, storeFile(), options_, &error)) << error;
+    return coordinator;
+}
+
+std::unique_ptr<NSManagedObjectContext> TestStore::contextOn(std::shared_ptr<NSPersistentStoreCoordinator> coordinator)
+{
+    auto context = std::make_unique<NSManagedObjectContext>(NSManagedObjectContext::ConcurrencyType::MainQueue);
+    context->setPersistentStoreCoordinator(std::move(coordinator));
+    return context;
+}
+
+void TestStore::runSQL(const char* sql)
 {
     sqlite3* database = nullptr;
     EXPECT_EQ(sqlite3_open(storeFile().c_str(), &database), SQLITE_OK);
@@ -83,14 +115,14 @@ void StoreFixture::runSQL(const char* sql)
     sqlite3_close(database);
 }
 
-OVNote& StoreFixture::noteTitled(std::string_view title)
+OVNote& TestStore::noteTitled(std::string_view title)
 {
     OVNote* note = OVNote::insertInManagedObjectContext(context());
     note->setTitle(title);
     return *note;
 }
 
-OVNoteImage& StoreFixture::image(OVNote& note, std::string_view filename)
+OVNoteImage& TestStore::image(OVNote& note, std::string_view filename)
 {
     OVNoteImage* image = OVNoteImage::insertInManagedObjectContext(context());
     image->setFilename(filename);
@@ -98,7 +130,7 @@ OVNoteImage& StoreFixture::image(OVNote& note, std::string_view filename)
     return *image;
 }
 
-OVNoteGenericFile& StoreFixture::file(OVNote& note, std::string_view filename)
+OVNoteGenericFile& TestStore::file(OVNote& note, std::string_view filename)
 {
     OVNoteGenericFile* file = OVNoteGenericFile::insertInManagedObjectContext(context());
     file->setFilename(filename);
@@ -106,10 +138,13 @@ OVNoteGenericFile& StoreFixture::file(OVNote& note, std::string_view filename)
     return *file;
 }
 
-NSDate StoreFixture::tick()
+// Fixture -------------------------------------------------------------------------------------------------------------
+
+void StoreFixture::TearDown()
 {
-    clock_ += std::chrono::milliseconds(1);
-    return clock_;
+    EXPECT_THAT(problems(), testing::IsEmpty());
+    close();
+    EXPECT_THAT(takeLog(), testing::IsEmpty()) << "unexpected log messages";
 }
 
 } // namespace tarn
