@@ -5,6 +5,7 @@
 #include "tarnmodel/search/OVNoteSearchManager.h"
 #include "tarnmodel/search/SearchCompiler.h"
 #include "tests/search/SearchCases.h"
+#include "tests/support/CaseName.h"
 
 #include <gtest/gtest.h>
 
@@ -45,131 +46,146 @@ protected:
         return spellings;
     }
 
-    std::vector<SearchCase> rows_ = readSearchCases("search-terms.cases");
     EnvironmentOverride world_;
 };
+
+/// One row of the vocabulary.
+class SpecialSearch : public SpecialSearches, public testing::WithParamInterface<SearchCase> {
+protected:
+    void expectOneFragment() const;
+    void expectOneMeaningOfTheArgument() const;
+
+    const SearchCase& row_ = GetParam();
+    std::vector<Spelling> spellings_ = spellingsOf(row_);
+};
+
+/// One row that is no switch.
+class TermOfASearch : public SpecialSearch { };
+
+std::vector<SearchCase> rowsThatAreNoSwitches()
+{
+    std::vector<SearchCase> rows = readSearchCases("search-terms.cases");
+    std::erase_if(rows, [](const SearchCase& row) { return row.value("switch").has_value(); });
+    return rows;
+}
+
+std::string nameOfTerm(const testing::TestParamInfo<SearchCase>& info)
+{
+    return nameOfCase(*info.param.value("term"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, SpecialSearch, testing::ValuesIn(readSearchCases("search-terms.cases")), nameOfTerm);
+INSTANTIATE_TEST_SUITE_P(Rows, TermOfASearch, testing::ValuesIn(rowsThatAreNoSwitches()), nameOfTerm);
 
 std::string orNil(const std::optional<std::string>& text)
 {
     return text.value_or("nil");
 }
 
+void SpecialSearch::expectOneFragment() const
+{
+    const std::string plain = row_.value("plain").value_or("nil");
+    for (const Spelling& spelling : spellings_) {
+        SCOPED_TRACE(spelling.text);
+        EXPECT_EQ(orNil(Manager::predicateStringForSpecialSearch(spelling.text)), plain);
+        EXPECT_EQ(orNil(Manager::predicateStringForSpecialSearch(spelling.text, false)), plain);
+        EXPECT_EQ(orNil(Manager::predicateStringForSpecialSearch(spelling.text, true)),
+            row_.value("negated").value_or("nil"));
+    }
+}
+
+void SpecialSearch::expectOneMeaningOfTheArgument() const
+{
+    const std::string english = spellings_.front().text + spellings_.front().argument;
+    const auto plain = Manager::predicateStringForSpecialSearch(english);
+    const auto negated = Manager::predicateStringForSpecialSearch(english, true);
+    ASSERT_TRUE(plain && negated) << english;
+    EXPECT_NE(plain, negated);
+    EXPECT_TRUE(plain->starts_with("( ") && plain->ends_with(" )")) << *plain;
+    for (const Spelling& spelling : spellings_) {
+        SCOPED_TRACE(spelling.text);
+        EXPECT_EQ(Manager::predicateStringForSpecialSearch(spelling.text + spelling.argument), plain);
+        EXPECT_EQ(Manager::predicateStringForSpecialSearch(spelling.text + spelling.argument, true), negated);
+        if (!spelling.argument.empty()) {
+            EXPECT_EQ(Manager::predicateStringForSpecialSearch(spelling.text), std::nullopt);
+            EXPECT_EQ(Manager::predicateStringForSpecialSearch(spelling.text + spelling.argument + "x"), std::nullopt);
+        }
+    }
+}
+
 } // namespace
 
 TEST_F(SpecialSearches, HaveTwentyFiveRowsInSixLanguages)
 {
-    ASSERT_EQ(rows_.size(), 25U);
+    const std::vector<SearchCase> rows = readSearchCases("search-terms.cases");
+    ASSERT_EQ(rows.size(), 25U);
     std::size_t spellings = 0;
-    for (const SearchCase& row : rows_) {
+    for (const SearchCase& row : rows) {
         EXPECT_EQ(listOf(*row.value("also")).size(), 5U) << row.line;
         spellings += spellingsOf(row).size();
     }
     EXPECT_EQ(spellings, 25U * 6 - 5 - 4);
 }
 
-TEST_F(SpecialSearches, AreKnownInEverySpelling)
+TEST_P(SpecialSearch, IsKnownInEverySpelling)
 {
-    for (const SearchCase& row : rows_) {
-        for (const Spelling& spelling : spellingsOf(row)) {
-            SCOPED_TRACE(spelling.text);
-            EXPECT_EQ(orNil(Manager::mainSpecialForString(spelling.text)), spelling.term);
-            EXPECT_EQ(orNil(Manager::mainSpecialForString(spelling.text + spelling.argument)), spelling.term);
-            const std::string known = row.value("unknown") ? "nil" : spelling.text;
-            EXPECT_EQ(orNil(Manager::isString(spelling.text, spelling.term)), known);
-            EXPECT_EQ(orNil(Manager::isString(spelling.text + spelling.argument, spelling.term)), known);
-        }
+    for (const Spelling& spelling : spellings_) {
+        SCOPED_TRACE(spelling.text);
+        EXPECT_EQ(orNil(Manager::mainSpecialForString(spelling.text)), spelling.term);
+        EXPECT_EQ(orNil(Manager::mainSpecialForString(spelling.text + spelling.argument)), spelling.term);
+        const std::string known = row_.value("unknown") ? "nil" : spelling.text;
+        EXPECT_EQ(orNil(Manager::isString(spelling.text, spelling.term)), known);
+        EXPECT_EQ(orNil(Manager::isString(spelling.text + spelling.argument, spelling.term)), known);
     }
 }
 
-TEST_F(SpecialSearches, TakeMoreBehindAPrefixAlone)
+TEST_P(SpecialSearch, TakesMoreBehindAPrefixAlone)
 {
-    for (const SearchCase& row : rows_) {
-        const bool isPrefix = *row.value("match") == "prefix";
-        for (const Spelling& spelling : spellingsOf(row)) {
-            SCOPED_TRACE(spelling.text);
-            const auto found = Manager::mainSpecialForString(spelling.text + "~");
-            EXPECT_EQ(orNil(found), isPrefix ? spelling.term : "nil");
-            EXPECT_EQ(
-                Manager::isString(spelling.text + "~", spelling.term).has_value(), isPrefix && !row.value("unknown"));
-        }
+    const bool isPrefix = *row_.value("match") == "prefix";
+    for (const Spelling& spelling : spellings_) {
+        SCOPED_TRACE(spelling.text);
+        const auto found = Manager::mainSpecialForString(spelling.text + "~");
+        EXPECT_EQ(orNil(found), isPrefix ? spelling.term : "nil");
+        EXPECT_EQ(
+            Manager::isString(spelling.text + "~", spelling.term).has_value(), isPrefix && !row_.value("unknown"));
     }
 }
 
-TEST_F(SpecialSearches, StandAtTheBeginningOfAWord)
+TEST_P(SpecialSearch, StandsAtTheBeginningOfAWord)
 {
-    for (const SearchCase& row : rows_) {
-        for (const Spelling& spelling : spellingsOf(row)) {
-            for (const std::string& word : {"x" + spelling.text, "-" + spelling.text, "@" + spelling.text,
-                     spelling.text.substr(1), spelling.text.substr(0, spelling.text.size() - 1)}) {
-                SCOPED_TRACE(word);
-                const auto found = Manager::mainSpecialForString(word);
-                EXPECT_NE(orNil(found), spelling.term);
-                EXPECT_EQ(Manager::isString(word, spelling.term), std::nullopt);
-            }
-        }
-    }
-}
-
-TEST_F(SpecialSearches, HaveOneFragmentInAllLanguages)
-{
-    for (const SearchCase& row : rows_) {
-        if (!row.value("plain") && !row.value("switch"))
-            continue;
-        for (const Spelling& spelling : spellingsOf(row)) {
-            SCOPED_TRACE(spelling.text);
-            const std::string plain = row.value("plain").value_or("nil");
-            EXPECT_EQ(orNil(Manager::predicateStringForSpecialSearch(spelling.text)), plain);
-            EXPECT_EQ(orNil(Manager::predicateStringForSpecialSearch(spelling.text, false)), plain);
-            EXPECT_EQ(orNil(Manager::predicateStringForSpecialSearch(spelling.text, true)),
-                row.value("negated").value_or("nil"));
-        }
-    }
-}
-
-TEST_F(SpecialSearches, ReadTheirArgumentInAllLanguages)
-{
-    for (const SearchCase& row : rows_) {
-        if (row.value("plain") || row.value("switch"))
-            continue;
-        const std::vector<Spelling> spellings = spellingsOf(row);
-        const std::string english = spellings.front().text + spellings.front().argument;
-        const auto plain = Manager::predicateStringForSpecialSearch(english);
-        const auto negated = Manager::predicateStringForSpecialSearch(english, true);
-        ASSERT_TRUE(plain && negated) << english;
-        EXPECT_NE(plain, negated);
-        EXPECT_TRUE(plain->starts_with("( ") && plain->ends_with(" )")) << *plain;
-        for (const Spelling& spelling : spellings) {
-            SCOPED_TRACE(spelling.text);
-            EXPECT_EQ(Manager::predicateStringForSpecialSearch(spelling.text + spelling.argument), plain);
-            EXPECT_EQ(Manager::predicateStringForSpecialSearch(spelling.text + spelling.argument, true), negated);
-            if (!spelling.argument.empty()) {
-                EXPECT_EQ(Manager::predicateStringForSpecialSearch(spelling.text), std::nullopt);
-                EXPECT_EQ(
-                    Manager::predicateStringForSpecialSearch(spelling.text + spelling.argument + "x"), std::nullopt);
-            }
-        }
-    }
-}
-
-TEST_F(SpecialSearches, WorkInASearchUnlessTheyHaveCapitals)
-{
-    for (const SearchCase& row : rows_) {
-        if (row.value("switch"))
-            continue;
-        for (const Spelling& spelling : spellingsOf(row)) {
-            const std::string word = spelling.text + spelling.argument;
-            const std::string lower = lowercased(word);
+    for (const Spelling& spelling : spellings_) {
+        for (const std::string& word : {"x" + spelling.text, "-" + spelling.text, "@" + spelling.text,
+                 spelling.text.substr(1), spelling.text.substr(0, spelling.text.size() - 1)}) {
             SCOPED_TRACE(word);
-            const auto plain = Manager::predicateStringForSpecialSearch(lower);
-            const std::string text = SearchCompiler(word, false).predicateText();
-            const std::string negatedText = SearchCompiler("-" + word, false).predicateText();
-            // "@ToDo" in lower case is the English word.
-            EXPECT_EQ(plain.has_value(), lower == word || word == "@ToDo");
-            EXPECT_EQ(text == plain.value_or(""), plain.has_value());
-            EXPECT_EQ(
-                negatedText == Manager::predicateStringForSpecialSearch(lower, true).value_or(""), plain.has_value());
-            EXPECT_EQ(negatedText.starts_with("NOT "), !plain.has_value());
+            const auto found = Manager::mainSpecialForString(word);
+            EXPECT_NE(orNil(found), spelling.term);
+            EXPECT_EQ(Manager::isString(word, spelling.term), std::nullopt);
         }
+    }
+}
+
+TEST_P(SpecialSearch, HasOnePredicateInAllLanguages)
+{
+    if (row_.value("plain") || row_.value("switch"))
+        expectOneFragment();
+    else
+        expectOneMeaningOfTheArgument();
+}
+
+TEST_P(TermOfASearch, WorksUnlessItHasCapitals)
+{
+    for (const Spelling& spelling : spellings_) {
+        const std::string word = spelling.text + spelling.argument;
+        const std::string lower = lowercased(word);
+        SCOPED_TRACE(word);
+        const auto plain = Manager::predicateStringForSpecialSearch(lower);
+        const std::string text = SearchCompiler(word, false).predicateText();
+        const std::string negatedText = SearchCompiler("-" + word, false).predicateText();
+        // "@ToDo" in lower case is the English word.
+        EXPECT_EQ(plain.has_value(), lower == word || word == "@ToDo");
+        EXPECT_EQ(text == plain.value_or(""), plain.has_value());
+        EXPECT_EQ(negatedText == Manager::predicateStringForSpecialSearch(lower, true).value_or(""), plain.has_value());
+        EXPECT_EQ(negatedText.starts_with("NOT "), !plain.has_value());
     }
 }
 

@@ -20,6 +20,8 @@ bool isLetter(char byte)
 /// `\n`, `\t`, `\r`, `\s` for a blank at an end, `\u{200D}`, `\\`.
 std::string unescaped(std::string_view written)
 {
+    if (written.find('\\') == std::string_view::npos)
+        return std::string(written);
     std::string text;
     for (std::size_t place = 0; place < written.size(); ++place) {
         if (written[place] != '\\' || place + 1 == written.size()) {
@@ -120,6 +122,51 @@ std::vector<std::string> listOf(std::string_view text, std::string_view separato
         text.remove_prefix(end == std::string_view::npos ? text.size() : end + separator.size());
     }
     return parts;
+}
+
+namespace {
+
+const std::vector<SearchCase>& searchBlocks()
+{
+    static const std::vector<SearchCase> blocks
+        = readSearchCases("search.cases", {"let", "text", "prints", "hits", "pattern", "raises"});
+    return blocks;
+}
+
+std::vector<SearchStringCase> casesInTheirWorlds()
+{
+    std::vector<SearchStringCase> cases;
+    SearchStringCase world;
+    for (const SearchCase& block : searchBlocks()) {
+        world.zone = block.value("zone").value_or(world.zone);
+        world.locale = block.value("locale").value_or(world.locale);
+        world.now = block.value("now").value_or(world.now);
+        world.ocr = block.value("ocr").value_or(world.ocr ? "on" : "off") == "on";
+        world.block = &block;
+        if (block.value("query"))
+            cases.push_back(world);
+    }
+    return cases;
+}
+
+} // namespace
+
+const std::vector<SearchStringCase>& searchStringCases()
+{
+    static const std::vector<SearchStringCase> cases = casesInTheirWorlds();
+    return cases;
+}
+
+Abbreviations Abbreviations::ofSearchStrings()
+{
+    Abbreviations abbreviations;
+    for (const SearchCase& block : searchBlocks()) {
+        for (const auto& [key, value] : block.fields) {
+            if (key == "let")
+                abbreviations.add(value);
+        }
+    }
+    return abbreviations;
 }
 
 void Abbreviations::add(std::string_view definition)

@@ -27,9 +27,29 @@ std::vector<SearchCase> readSearchCases(const std::string& file, const std::vect
 /// What stands between separators, none for an empty text.
 std::vector<std::string> listOf(std::string_view text, std::string_view separator = ", ");
 
+/// A block of tests/cases/search.cases that has a query, in the world that the blocks above it set.
+struct SearchStringCase {
+    const SearchCase* block = nullptr;
+    std::string zone;
+    std::string locale;
+    std::string now;
+    bool ocr = false;
+
+    std::string name() const { return block->value("case").value_or(""); }
+    std::string query() const { return block->value("query").value_or(""); }
+};
+inline void PrintTo(const SearchStringCase* one, std::ostream* stream)
+{
+    *stream << *one->block;
+}
+/// Read once for the program.
+const std::vector<SearchStringCase>& searchStringCases();
+
 /// Abbreviations of predicate texts: "free{apple}" for a whole clause. What they stand for is written in the case file.
 class Abbreviations {
 public:
+    /// Those that the fields "let" of tests/cases/search.cases define.
+    static Abbreviations ofSearchStrings();
     /// Reads "name{X}: text" or "name{X, Y}: text".
     void add(std::string_view definition);
     void set(std::string name, std::string text);

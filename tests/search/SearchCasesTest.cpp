@@ -3,15 +3,15 @@
 #include "tarnmodel/platform/foundation/values/NSException.h"
 #include "tarnmodel/search/SearchCompiler.h"
 #include "tests/search/SearchFixture.h"
+#include "tests/support/CaseName.h"
 
 #include <algorithm>
-#include <functional>
+#include <map>
+#include <memory>
 
 namespace tarn {
 
 namespace {
-
-using CaseCheck = std::function<void(const SearchCase&)>;
 
 std::string orDash(const std::string& text)
 {
@@ -23,120 +23,140 @@ std::string canonical(const std::string& format)
     return NSPredicate::predicateWithFormat(format).predicateFormat();
 }
 
-} // namespace
-
-class SearchCases : public SearchFixture {
+/// One store of each kind for all blocks: they only read.
+class SearchString : public testing::TestWithParam<const SearchStringCase*>, protected StillWorld {
 protected:
-    /// Runs `check` on every block that has one of the fields; how many there were.
-    std::size_t forEachCase(const std::vector<std::string>& keys, const CaseCheck& check)
+    static void TearDownTestSuite()
     {
-        std::size_t count = 0;
-        for (const SearchCase& block :
-            readSearchCases("search.cases", {"let", "text", "prints", "hits", "pattern", "raises"})) {
-            for (const auto& [key, value] : block.fields) {
-                if (key == "let")
-                    abbreviations_.add(value);
-            }
-            setWorld(block);
-            const bool ocr = OVNoteSearchManager::allowOCRSearch();
-            abbreviations_.set("$OCR", ocr ? "1 == 1" : "0 == 1");
-            abbreviations_.set("$TITLED", ocr ? "1 == 0" : "0 == 1");
-            const bool wanted = block.value("query")
-                && std::ranges::any_of(keys, [&block](const std::string& key) { return block.value(key).has_value(); });
-            if (!wanted)
-                continue;
-            ++count;
-            const testing::ScopedTrace trace(__FILE__, __LINE__, block);
-            check(block);
-        }
-        return count;
+        for (auto& [type, library] : libraries_)
+            EXPECT_THAT(library->problems(), testing::IsEmpty());
+        libraries_.clear();
+    }
+    void SetUp() override
+    {
+        world_.setTimeZoneIdentifier(GetParam()->zone);
+        world_.setLocaleIdentifier(GetParam()->locale);
+        world_.setNow(dateFromISO8601String(GetParam()->now).value());
+        OVNoteSearchManager::setAllowOCRSearch(GetParam()->ocr);
+        abbreviations_.set("$OCR", GetParam()->ocr ? "1 == 1" : "0 == 1");
+        abbreviations_.set("$TITLED", GetParam()->ocr ? "1 == 0" : "0 == 1");
+    }
+    void TearDown() override
+    {
+        OVNoteSearchManager::setAllowOCRSearch(false);
+        EXPECT_THAT(takeLog(), testing::IsEmpty()) << "unexpected log messages";
     }
 
-    Abbreviations abbreviations_;
-};
+    std::string query() const { return GetParam()->query(); }
+    static std::optional<std::string> expected(std::string_view key) { return GetParam()->block->value(key); }
+    /// Made when it is first asked for.
+    static SearchLibrary& library(StoreType type)
+    {
+        std::unique_ptr<SearchLibrary>& library = libraries_[type];
+        if (!library)
+            library = std::make_unique<SearchLibrary>(type);
+        return *library;
+    }
 
-INSTANTIATE_TEST_SUITE_P(Stores, SearchCases, everyStore(), storeName);
-
-TEST_P(SearchCases, CompileToTheirTexts)
-{
-    const std::size_t count = forEachCase({"text"}, [this](const SearchCase& block) {
-        const std::string query = *block.value("query");
-        const std::string expected = *block.value("text");
-        const std::string text = SearchCompiler(query, OVNoteSearchManager::allowOCRSearch()).predicateText();
-        const auto predicate = OVNoteSearchManager::predicateForSearchString(query);
-        ASSERT_EQ(predicate.has_value(), expected != "nil");
-        EXPECT_EQ(text, predicate ? abbreviations_.expanded(expected) : "");
-        EXPECT_EQ(predicate ? predicate->predicateFormat() : "",
-            predicate ? canonical(abbreviations_.expanded(expected)) : "");
-        if (const auto printed = block.value("prints")) {
-            EXPECT_EQ(predicate->predicateFormat(), *printed);
-        }
-    });
-    EXPECT_GE(count, 400U);
-}
-
-TEST_P(SearchCases, RaiseWhereTheTextsDoNotParse)
-{
-    const std::size_t count = forEachCase({"raises"}, [](const SearchCase& block) {
+    void expectText(const std::string& wanted) const
+    {
+        const std::string text = SearchCompiler(query(), OVNoteSearchManager::allowOCRSearch()).predicateText();
+        const auto predicate = OVNoteSearchManager::predicateForSearchString(query());
+        ASSERT_EQ(predicate.has_value(), wanted != "nil");
+        EXPECT_EQ(text, predicate ? abbreviations_.expanded(wanted) : "");
+        EXPECT_EQ(
+            predicate ? predicate->predicateFormat() : "", predicate ? canonical(abbreviations_.expanded(wanted)) : "");
+    }
+    void expectException(const std::string& part) const
+    {
         try {
-            OVNoteSearchManager::predicateForSearchString(*block.value("query"));
+            OVNoteSearchManager::predicateForSearchString(query());
             ADD_FAILURE() << "nothing raised";
         } catch (const NSException& exception) {
             EXPECT_EQ(exception.name(), NSInvalidArgumentException);
-            EXPECT_THAT(exception.reason(), testing::HasSubstr(*block.value("raises")));
+            EXPECT_THAT(exception.reason(), testing::HasSubstr(part));
         }
-    });
-    EXPECT_GE(count, 2U);
-}
-
-TEST_P(SearchCases, FindTheirNotes)
-{
-    const std::size_t count = forEachCase({"hits"}, [this](const SearchCase& block) {
-        EXPECT_EQ(hits(OVNoteSearchManager::predicateForSearchString(*block.value("query"))),
-            namesInList(*block.value("hits")));
-    });
-    EXPECT_GE(count, 200U);
-}
-
-TEST_P(SearchCases, HighlightTheirPatterns)
-{
-    const std::size_t count = forEachCase({"pattern", "flags"}, [](const SearchCase& block) {
-        const std::string query = *block.value("query");
+    }
+    void expectHits(const std::string& list) const
+    {
+        const auto predicate = OVNoteSearchManager::predicateForSearchString(query());
+        for (const StoreType type : {StoreType::SQLite, StoreType::InMemory}) {
+            SearchLibrary& notes = library(type);
+            EXPECT_EQ(notes.hits(predicate), notes.namesInList(list)) << (type == StoreType::SQLite ? "SQLite" : "");
+        }
+    }
+    void expectHighlighting() const
+    {
         bool title = false;
         bool ocr = false;
-        const std::string pattern = OVNoteSearchManager::likeOrPatternForSearchString(query, &title, &ocr);
-        if (const auto expected = block.value("pattern")) {
-            EXPECT_EQ(orDash(pattern), *expected);
+        const std::string pattern = OVNoteSearchManager::likeOrPatternForSearchString(query(), &title, &ocr);
+        if (const auto wanted = expected("pattern")) {
+            EXPECT_EQ(orDash(pattern), *wanted);
         }
-        const std::string flags = std::string(title ? "title" : "") + (title && ocr ? ", " : "") + (ocr ? "ocr" : "");
-        if (const auto expected = block.value("flags")) {
-            EXPECT_EQ(flags, *expected);
+        if (const auto wanted = expected("flags")) {
+            EXPECT_EQ(std::string(title ? "title" : "") + (title && ocr ? ", " : "") + (ocr ? "ocr" : ""), *wanted);
         }
-        EXPECT_TRUE(OVNoteSearchManager::likeOrRegexForSearchString(query)) << pattern;
-    });
-    EXPECT_GE(count, 130U);
+        EXPECT_TRUE(OVNoteSearchManager::likeOrRegexForSearchString(query())) << pattern;
+    }
+
+    Abbreviations abbreviations_ = Abbreviations::ofSearchStrings();
+
+private:
+    inline static std::map<StoreType, std::unique_ptr<SearchLibrary>> libraries_;
+};
+
+std::vector<const SearchStringCase*> allCases()
+{
+    std::vector<const SearchStringCase*> cases;
+    for (const SearchStringCase& one : searchStringCases())
+        cases.push_back(&one);
+    return cases;
 }
 
-TEST_P(SearchCases, HandTheirTermToTheEditor)
+} // namespace
+
+TEST_P(SearchString, MeansWhatItsBlockSays)
 {
-    const std::size_t count = forEachCase({"term"}, [](const SearchCase& block) {
-        EXPECT_EQ(orDash(OVNoteSearchManager::searchStringForNoteEditor(*block.value("query"))), *block.value("term"));
-    });
-    EXPECT_GE(count, 100U);
+    const testing::ScopedTrace trace(__FILE__, __LINE__, *GetParam()->block);
+    if (const auto text = expected("text"))
+        expectText(*text);
+    if (const auto printed = expected("prints")) {
+        EXPECT_EQ(OVNoteSearchManager::predicateForSearchString(query()).value().predicateFormat(), *printed);
+    }
+    if (const auto reason = expected("raises"))
+        expectException(*reason);
+    if (const auto list = expected("hits"))
+        expectHits(*list);
+    if (expected("pattern") || expected("flags"))
+        expectHighlighting();
+    if (const auto term = expected("term")) {
+        EXPECT_EQ(orDash(OVNoteSearchManager::searchStringForNoteEditor(query())), *term);
+    }
+    if (const auto special = expected("special")) {
+        EXPECT_EQ(OVNoteSearchManager::searchStringContainsSpecialSearches(query()), *special == "yes");
+    }
+    if (const auto rest = expected("rest")) {
+        EXPECT_EQ(OVNoteSearchManager::searchStringWithoutSpecialSearches(query()), *rest);
+    }
 }
 
-TEST_P(SearchCases, TellTheirSpecialTerms)
+INSTANTIATE_TEST_SUITE_P(Cases, SearchString, testing::ValuesIn(allCases()),
+    [](const testing::TestParamInfo<const SearchStringCase*>& info) { return nameOfCase(info.param->name()); });
+
+TEST(SearchStrings, AreManyAndSayWhatIsKnown)
 {
-    const std::size_t count = forEachCase({"special", "rest"}, [](const SearchCase& block) {
-        const std::string query = *block.value("query");
-        if (const auto special = block.value("special")) {
-            EXPECT_EQ(OVNoteSearchManager::searchStringContainsSpecialSearches(query), *special == "yes");
-        }
-        if (const auto rest = block.value("rest")) {
-            EXPECT_EQ(OVNoteSearchManager::searchStringWithoutSpecialSearches(query), *rest);
-        }
-    });
-    EXPECT_GE(count, 40U);
+    std::map<std::string, int> counts;
+    for (const SearchStringCase& one : searchStringCases()) {
+        EXPECT_GT(one.block->fields.size(), 2U) << *one.block << " expects nothing";
+        for (const auto& [key, value] : one.block->fields)
+            ++counts[key];
+    }
+    const std::map<std::string, int> least{{"case", 450}, {"query", 450}, {"text", 400}, {"prints", 10}, {"raises", 2},
+        {"hits", 200}, {"pattern", 130}, {"flags", 10}, {"term", 100}, {"special", 30}, {"rest", 30}};
+    for (const auto& [key, count] : counts)
+        EXPECT_TRUE(least.contains(key)) << key << " is no field";
+    for (const auto& [key, count] : least)
+        EXPECT_GE(counts[key], count) << key;
 }
 
 } // namespace tarn

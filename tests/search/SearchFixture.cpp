@@ -24,27 +24,22 @@ NSDate dateOf(const SearchCase& block, std::string_view key)
 
 } // namespace
 
-void SearchFixture::SetUp()
+SearchLibrary::SearchLibrary(StoreType type)
+    // Nothing that these files hold has to outlive a loss of power.
+    : TestStore(type, {.pragmas = {{"journal_mode", "MEMORY"}, {"synchronous", "OFF"}}})
 {
-    StoreFixture::SetUp();
+    open();
     const std::vector<SearchCase> blocks = readSearchCases("search-notes.cases");
-    ASSERT_GE(blocks.size(), 15U);
+    EXPECT_GE(blocks.size(), 15U);
     for (const SearchCase& block : blocks)
         addNote(block);
     for (const SearchCase& block : blocks)
         addDetails(*notes_.at(*block.value("note")), block);
     save();
-    OVNoteSearchManager::setAllowOCRSearch(false);
-}
-
-void SearchFixture::TearDown()
-{
-    OVNoteSearchManager::setAllowOCRSearch(false);
-    StoreFixture::TearDown();
 }
 
 // Attributes one by one: what a text would derive is not what is tested here.
-void SearchFixture::addNote(const SearchCase& block)
+void SearchLibrary::addNote(const SearchCase& block)
 {
     OVNote& note = *OVNote::insertInManagedObjectContext(context());
     const std::string name = *block.value("note");
@@ -61,7 +56,7 @@ void SearchFixture::addNote(const SearchCase& block)
     note.setTodoCompletedValue(static_cast<std::int16_t>(std::stoi(todos.at(1))));
 }
 
-void SearchFixture::addDetails(OVNote& note, const SearchCase& block)
+void SearchLibrary::addDetails(OVNote& note, const SearchCase& block)
 {
     for (const std::string& target : listOf(block.value("links").value_or(""))) {
         OVNoteBackLink* link = OVNoteBackLink::insertInManagedObjectContext(context());
@@ -80,19 +75,7 @@ void SearchFixture::addDetails(OVNote& note, const SearchCase& block)
     note.setModificationDate(dateOf(block, "modified"));
 }
 
-void SearchFixture::setWorld(const SearchCase& block)
-{
-    if (const auto zone = block.value("zone"))
-        world_.setTimeZoneIdentifier(*zone);
-    if (const auto locale = block.value("locale"))
-        world_.setLocaleIdentifier(*locale);
-    if (block.value("now"))
-        world_.setNow(dateOf(block, "now"));
-    if (const auto ocr = block.value("ocr"))
-        OVNoteSearchManager::setAllowOCRSearch(*ocr == "on");
-}
-
-std::vector<std::string> SearchFixture::hits(const std::optional<NSPredicate>& predicate)
+std::vector<std::string> SearchLibrary::hits(const std::optional<NSPredicate>& predicate)
 {
     std::vector<std::string> names;
     for (const OVNote* note : OVNote::notesInManagedObjectContext(context(), predicate))
@@ -101,7 +84,7 @@ std::vector<std::string> SearchFixture::hits(const std::optional<NSPredicate>& p
     return names;
 }
 
-std::vector<std::string> SearchFixture::namesInList(std::string_view list) const
+std::vector<std::string> SearchLibrary::namesInList(std::string_view list) const
 {
     constexpr std::string_view kAllBut = "all but";
     const bool isComplement = list.starts_with(kAllBut);

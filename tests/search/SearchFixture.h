@@ -8,18 +8,17 @@
 
 namespace tarn {
 
-/// The library of tests/cases/search-notes.cases in a store, and a world that a case file sets.
-class SearchFixture : public StoreFixture {
-protected:
-    void SetUp() override;
-    void TearDown() override;
+/// The library of tests/cases/search-notes.cases in a store of its own. Making one takes a few milliseconds, so tests
+/// that only read share it.
+class SearchLibrary : private TestStore {
+public:
+    explicit SearchLibrary(StoreType type);
 
-    /// Takes the fields zone, locale, now and ocr; the others are left alone.
-    void setWorld(const SearchCase& block);
     /// The names of the notes that the predicate finds in the store, sorted.
     std::vector<std::string> hits(const std::optional<NSPredicate>& predicate);
     /// The names that a case file lists: "-", "all but ...", or a list; sorted.
     std::vector<std::string> namesInList(std::string_view list) const;
+    using TestStore::problems;
 
 private:
     void addNote(const SearchCase& block);

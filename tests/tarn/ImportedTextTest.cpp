@@ -1,8 +1,9 @@
 #include "tools/tarn/ImportedText.h"
 
+#include "tests/support/CaseName.h"
+
 #include <gtest/gtest.h>
 
-#include <cctype>
 #include <fstream>
 #include <map>
 #include <string>
@@ -52,19 +53,6 @@ std::string textOfDate(const std::optional<NSDate>& date)
     return date ? iso8601String(*date) : "";
 }
 
-std::string nameOfCase(const testing::TestParamInfo<Case>& info)
-{
-    std::string name;
-    bool beginsWord = true;
-    for (const char c : info.param.at("case")) {
-        const bool isPartOfWord = std::isalnum(static_cast<unsigned char>(c)) != 0;
-        if (isPartOfWord)
-            name += beginsWord ? static_cast<char>(std::toupper(static_cast<unsigned char>(c))) : c;
-        beginsWord = !isPartOfWord;
-    }
-    return name;
-}
-
 } // namespace
 
 class FrontMatter : public testing::TestWithParam<Case> { };
@@ -78,7 +66,8 @@ TEST_P(FrontMatter, BecomesWhatTheCaseSays)
     EXPECT_EQ(textOfDate(imported.modificationDate), expected["modified"]);
 }
 
-INSTANTIATE_TEST_SUITE_P(Imports, FrontMatter, testing::ValuesIn(readCases()), nameOfCase);
+INSTANTIATE_TEST_SUITE_P(Imports, FrontMatter, testing::ValuesIn(readCases()),
+    [](const testing::TestParamInfo<Case>& info) { return nameOfCase(info.param.at("case")); });
 
 TEST(ImportedText, HasManyCases)
 {

@@ -137,6 +137,6 @@ TEST_P(QueueChecksTest, AreSwitchedOnByTheEnvironment)
     EXPECT_EQ(queueChecks(), usual);
 }
 
-INSTANTIATE_TEST_SUITE_P(Stores, QueueChecksTest, testing::Values(StoreType::InMemory));
+INSTANTIATE_TEST_SUITE_P(Stores, QueueChecksTest, testing::Values(StoreType::InMemory), storeTypeName);
 
 } // namespace tarn

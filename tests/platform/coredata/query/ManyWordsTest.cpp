@@ -165,7 +165,7 @@ int searchesOfTheRun()
 }
 
 class SearchOfManyWords : public testing::TestWithParam<std::uint64_t> { };
-INSTANTIATE_TEST_SUITE_P(Seeds, SearchOfManyWords, testing::Values(20261122, 5, 6));
+INSTANTIATE_TEST_SUITE_P(Seeds, SearchOfManyWords, testing::Values(20261122, 5, 6), testing::PrintToStringParamName());
 
 TEST_P(SearchOfManyWords, PicksTheSameRowsAsTheEvaluator)
 {

@@ -346,7 +346,8 @@ std::vector<NSSortDescriptor> randomSort(std::mt19937_64& random, const std::str
 }
 
 class StoreDifferential : public testing::TestWithParam<std::uint64_t> { };
-INSTANTIATE_TEST_SUITE_P(Seeds, StoreDifferential, testing::Values(20260101, 2, 3, 4, 5));
+INSTANTIATE_TEST_SUITE_P(
+    Seeds, StoreDifferential, testing::Values(20260101, 2, 3, 4, 5), testing::PrintToStringParamName());
 
 TEST_P(StoreDifferential, PicksTheSameRowsInSQLAndByTheEvaluator)
 {

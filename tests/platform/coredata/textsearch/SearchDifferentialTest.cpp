@@ -7,6 +7,7 @@
 #include "tarnmodel/platform/coredata/textsearch/StoreSearch.h"
 #include "tarnmodel/platform/predicate/PredicateTree.h"
 #include "tests/platform/coredata/StoreFixture.h"
+#include "tests/support/CaseName.h"
 
 #include <fmt/format.h>
 #include <limits>
@@ -238,7 +239,8 @@ private:
 };
 
 class SearchDifferential : public testing::TestWithParam<std::uint64_t> { };
-INSTANTIATE_TEST_SUITE_P(Seeds, SearchDifferential, testing::Values(20261121, 2, 3, 4));
+INSTANTIATE_TEST_SUITE_P(
+    Seeds, SearchDifferential, testing::Values(20261121, 2, 3, 4), testing::PrintToStringParamName());
 
 TEST_P(SearchDifferential, PicksTheSameRowsByEveryPlanWithoutTheIndexAndInMemory)
 {
@@ -421,7 +423,8 @@ INSTANTIATE_TEST_SUITE_P(Searches, FirstOfManyDocuments,
                   "0 AND body CONTAINS[cd] 'x')))",
             11, "check candidates"},
         // Half of it is beyond SQL.
-        FirstRows{"body CONTAINS[cd] 'pears' AND title IN[c] {'TITLE 3', 'Title 6', 'title 7'}", 2, "walk the order"}));
+        FirstRows{"body CONTAINS[cd] 'pears' AND title IN[c] {'TITLE 3', 'Title 6', 'title 7'}", 2, "walk the order"}),
+    [](const testing::TestParamInfo<FirstRows>& info) { return nameOfCase(info.param.format); });
 
 TEST_P(FirstOfManyDocuments, ArePartOfAll)
 {
