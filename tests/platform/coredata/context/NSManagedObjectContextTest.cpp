@@ -27,6 +27,46 @@ protected:
             });
     }
     /// Whether nobody holds the lock for writing.
+    /// What a context of its own gives for the counter.
+    std::int64_t countIn(const std::shared_ptr<NSPersistentStoreCoordinator>& coordinator) const
+    {
+        return counterIn(*contextOn(coordinator)).storedValueForKey("pages").asInteger();
+    }
+    NSManagedObject& counterIn(NSManagedObjectContext& context) const
+    {
+        NSFetchRequest request(*model_->entityNamed("Book"));
+        request.predicate = NSPredicate::predicateWithFormat("title == 'counter'");
+        return *context.executeFetchRequest(request).at(0);
+    }
+    /// Reads the counter, rests, and writes one more, under the lock. How often somebody else had counted meanwhile.
+    int count(const std::shared_ptr<NSPersistentStoreCoordinator>& coordinator, int steps) const
+    {
+        NSManagedObjectContext context(NSManagedObjectContext::ConcurrencyType::PrivateQueue);
+        context.setPersistentStoreCoordinator(coordinator);
+        context.setMergePolicy(NSMergePolicy::MergeByPropertyObjectTrump); // a step that is lost is no error
+        int othersTurns = 0;
+        context.performBlockAndWait([&] {
+            NSManagedObject& counter = counterIn(context);
+            std::int64_t last = 0;
+            for (int step = 0; step < steps; ++step) {
+                NSError error;
+                const bool saved = context.performExclusive(
+                    [&] {
+                        const std::int64_t before = counter.storedValueForKey("pages").asInteger();
+                        othersTurns += before != last ? 1 : 0;
+                        rest();
+                        last = before + 1;
+                        counter.setValueForKey("pages", Value(last));
+                    },
+                    &error);
+                EXPECT_TRUE(saved) << error;
+                rest(); // so that the other gets its turn
+            }
+        });
+        return othersTurns;
+    }
+    static void rest() { std::this_thread::sleep_for(std::chrono::microseconds(100)); }
+
     bool isLockFree() const
     {
         bool isFree = false;
@@ -64,6 +104,22 @@ TEST_P(ContextLife, ExclusiveWorkInsideAnotherJoinsIt)
     EXPECT_FALSE(context_->core().exclusiveTransaction);
     EXPECT_TRUE(isLockFree());
     EXPECT_THAT(titlesInStore(), ElementsAre("outer", "inner", "after"));
+}
+
+TEST_P(ContextLife, ExclusiveWorkOfTwoWritersLosesNoStep)
+{
+    constexpr int steps = 200;
+    book("counter");
+    save();
+    const bool isFile = GetParam() == StoreType::SQLite;
+    const auto other = isFile ? open() : coordinator_; // a store in memory has one coordinator
+    int turnsSeenThere = 0;
+    std::thread writer([&] { turnsSeenThere = count(other, steps); });
+    const int turnsSeenHere = count(coordinator_, steps);
+    writer.join();
+
+    EXPECT_EQ(countIn(coordinator_), 2 * steps);
+    EXPECT_GT(turnsSeenHere + turnsSeenThere, 10) << "they did not count at the same time";
 }
 
 TEST_P(ContextLife, AnExceptionOfInnerExclusiveWorkTakesBackTheOuterWhereItLeavesThat)
