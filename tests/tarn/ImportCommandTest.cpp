@@ -7,12 +7,16 @@
 #include <csignal>
 #include <cstdlib>
 #include <fcntl.h>
+#include <filesystem>
+#include <optional>
 #include <sqlite3.h>
 #include <sys/stat.h>
 #include <thread>
 #include <unistd.h>
 
 namespace tarn::test {
+
+namespace fs = std::filesystem;
 
 using ImportCommand = TarnCommandTest;
 
@@ -122,6 +126,15 @@ TEST_F(ImportCommand, NamesWhatItSkips)
 class InterruptedImport : public TarnCommandTest {
 protected:
     static constexpr std::size_t kFiles = 10'000;
+    static constexpr std::size_t kBatch = 2'500;
+    static constexpr int kAttempts = 20;
+
+    /// Where an import is.
+    struct Moment {
+        std::size_t batches; ///< that are in the store
+        bool isWriting;      ///< the next one, else it reads files
+        bool operator==(const Moment&) const = default;
+    };
 
     InterruptedImport()
     {
@@ -131,43 +144,89 @@ protected:
             file("in/" + number + ".md", "# Note " + number + "\n\n#shared/" + std::to_string(index % 10) + "\n");
         }
     }
-    /// Waits until the first batch is saved, and sends the signal.
-    void interruptWhenABatchIsSaved(const TarnProcess& import, int signal) const
+    /// SQLite's, which is there while a batch is written, and stays when its writer dies.
+    fs::path journal() const { return database().string() + "-journal"; }
+    void removeStore() const { fs::remove_all(store()); }
+
+    /// Whole batches among the notes behind the first; none where the store is locked or is not there.
+    std::optional<std::size_t> batchesInStore(std::size_t notesBefore) const
     {
-        sqlite3* connection = nullptr;
         std::size_t count = 0;
-        while (count == 0 && import.isRunning()) {
-            std::this_thread::sleep_for(std::chrono::milliseconds(2));
-            if (!connection
-                && sqlite3_open_v2(database().c_str(), &connection, SQLITE_OPEN_READONLY, nullptr) != SQLITE_OK) {
-                sqlite3_close(connection);
-                connection = nullptr;
-                continue;
-            }
-            const auto take = [](void* result, int, char** values, char**) {
-                *static_cast<std::size_t*>(result) = std::strtoul(values[0], nullptr, 10);
-                return 0;
-            };
-            sqlite3_exec(connection, "SELECT count(*) FROM OVNote", take, &count, nullptr);
-        }
+        const auto take = [](void* result, int, char** values, char**) {
+            *static_cast<std::size_t*>(result) = std::strtoul(values[0], nullptr, 10);
+            return 0;
+        };
+        sqlite3* connection = nullptr;
+        const bool isRead = sqlite3_open_v2(database().c_str(), &connection, SQLITE_OPEN_READONLY, nullptr) == SQLITE_OK
+            && sqlite3_exec(connection, "SELECT count(*) FROM OVNote", take, &count, nullptr) == SQLITE_OK;
         sqlite3_close(connection);
+        return isRead ? std::optional((count - notesBefore) / kBatch) : std::nullopt;
+    }
+    /// Waits until the import is at the moment, or over, and sends the signal.
+    void interruptAt(const TarnProcess& import, const Moment& moment, std::size_t notesBefore, int signal) const
+    {
+        while (import.isRunning()) {
+            if (fs::exists(journal()) == moment.isWriting && batchesInStore(notesBefore) == moment.batches)
+                break;
+            std::this_thread::sleep_for(std::chrono::microseconds(100));
+        }
         import.sendSignal(signal);
     }
-    TarnResult importUntil(int signal, std::vector<std::string> given) const
+    TarnResult importUntil(const Moment& moment, std::size_t notesBefore, int signal, std::vector<std::string> given)
     {
         given.insert(given.end(), {"import", (folder() / "in").string()});
         TarnProcess import(arguments(std::move(given)));
         import.start();
-        std::thread killer([&] { interruptWhenABatchIsSaved(import, signal); });
+        std::thread killer([&] { interruptAt(import, moment, notesBefore, signal); });
         const TarnResult result = import.finish();
         killer.join();
         return result;
     }
+    /// An import that the signal ended when a batch was in the store and others were not. One that was over before
+    /// says nothing: it is made again, on a new store.
+    TarnResult importUntilABatchIsSaved(int signal, const std::vector<std::string>& given)
+    {
+        for (int attempt = 0; attempt < kAttempts; ++attempt) {
+            removeStore();
+            TarnResult result = importUntil({1, false}, 0, signal, given);
+            if (result.signal == signal && stored("SELECT count(*) FROM OVNote") != std::to_string(kFiles))
+                return result;
+        }
+        ADD_FAILURE() << "no import was interrupted";
+        return {};
+    }
+    /// Kills imports into new stores, each with one note, until one died at the moment; whether one did.
+    bool killAt(const Moment& moment)
+    {
+        for (int attempt = 0; attempt < kAttempts; ++attempt) {
+            removeStore();
+            note("# Before");
+            const TarnResult result = importUntil(moment, 1, SIGKILL, {});
+            const bool wasWriting = fs::exists(journal()); // nobody has opened the store since
+            const std::size_t imported = json({"list"}).at("count").get<std::size_t>() - 1;
+            EXPECT_EQ(imported % kBatch, 0U) << "a part of a batch is in the store";
+            if (result.signal == SIGKILL && Moment{imported / kBatch, wasWriting} == moment)
+                return true;
+        }
+        return false;
+    }
 };
+
+TEST_F(InterruptedImport, LeavesASoundStoreOfWholeBatchesWhereverItIsKilled)
+{
+    for (const Moment& moment : {Moment{0, true}, Moment{1, false}, Moment{2, true}, Moment{3, false}}) {
+        SCOPED_TRACE(std::to_string(moment.batches) + (moment.isWriting ? " batches, in a write" : " batches"));
+        ASSERT_TRUE(killAt(moment)) << "no import died there";
+        const TarnResult doctor = run({"doctor"});
+        EXPECT_EQ(doctor.exitCode, 0) << doctor.output << doctor.errors;
+        EXPECT_EQ(run({"show", "Before"}).output, "# Before");
+        EXPECT_EQ(run({"new", "# After"}).exitCode, 0) << "the lock of the dead is free";
+    }
+}
 
 TEST_F(InterruptedImport, SaysWhatIsInTheStoreAndWhatIsNot)
 {
-    const TarnResult result = importUntil(SIGINT, {});
+    const TarnResult result = importUntilABatchIsSaved(SIGINT, {});
     EXPECT_EQ(result.signal, SIGINT) << result.exitCode;
     const std::size_t count = json({"list"}).at("count");
     ASSERT_TRUE(count < kFiles && count % 2'500 == 0) << count;
@@ -186,7 +245,7 @@ TEST_F(InterruptedImport, SaysWhatIsInTheStoreAndWhatIsNot)
 
 TEST_F(InterruptedImport, NamesEachFileThatIsNotInTheStoreToPrograms)
 {
-    const TarnResult result = importUntil(SIGTERM, {"--json"});
+    const TarnResult result = importUntilABatchIsSaved(SIGTERM, {"--json"});
     EXPECT_EQ(result.signal, SIGTERM);
     const nlohmann::json document = nlohmann::json::parse(result.output);
     const std::size_t count = json({"list"}).at("count");

@@ -118,25 +118,6 @@ TEST_F(StoreSafety, AProgramSaysThatItWaitsForAnApplication)
     EXPECT_EQ(output({"show", identifier}), "theirs\nours");
 }
 
-TEST_F(StoreSafety, AKilledImportLeavesASoundStore)
-{
-    for (int index = 0; index < 2'000; ++index)
-        file("in/" + std::to_string(index) + ".md",
-            "# N" + std::to_string(index) + "\n\n#t/" + std::to_string(index) + "\n\n" + std::string(500, 'x'));
-    note("# Before");
-    for (const int delay : {40, 160, 400}) {
-        TarnProcess import(arguments({"import", folder() / "in"}));
-        import.start();
-        std::this_thread::sleep_for(std::chrono::milliseconds(delay));
-        import.sendSignal(SIGKILL);
-        import.finish();
-        const TarnResult doctor = run({"doctor"});
-        EXPECT_EQ(doctor.exitCode, 0) << doctor.output << doctor.errors;
-        EXPECT_EQ(run({"show", "Before"}).output, "# Before");
-    }
-    EXPECT_EQ(run({"new", "# After"}).exitCode, 0) << "the lock of the dead is free";
-}
-
 TEST_F(StoreSafety, AFileThatIsNoStoreIsCorrupt)
 {
     fs::create_directories(database().parent_path());
