@@ -1,11 +1,10 @@
 #include "tarnmodel/corvel/CVKAST.h"
 #include "tarnmodel/corvel/CVKHashtag.h"
 #include "tarnmodel/corvel/CVKWikiLink.h"
+#include "tests/support/LinearGrowth.h"
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <ctime>
 #include <functional>
 #include <ostream>
 #include <string>
@@ -167,60 +166,23 @@ std::string nameOfFamily(const testing::TestParamInfo<Family>& info)
     return info.param.name;
 }
 
-using Work = std::function<void(const std::string&)>;
-
-/// Processor time, since the machine may be busy with other work.
-double processorSeconds()
-{
-    return static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
-}
-
-double seconds(const Work& work, const std::string& text, int repetitions)
-{
-    double best = 1e9;
-    for (int i = 0; i < repetitions; ++i) {
-        const double begin = processorSeconds();
-        work(text);
-        best = std::min(best, processorSeconds() - begin);
-    }
-    return best;
-}
-
-/// Four times the text takes four times as long if time is linear, sixteen times if it is quadratic.
-void expectLinear(const Work& work, const Family& family, std::size_t bytes)
-{
-    constexpr double kMostGrowth = 9;
-    constexpr double kTooShortToMeasure = 0.0005;
-    const std::string small = family.text(bytes);
-    const std::string large = family.text(bytes * 4);
-    double growth = 0;
-    for (int attempt = 0; attempt < 4; ++attempt) {
-        const double before = std::max(seconds(work, small, 3), kTooShortToMeasure);
-        const double after = seconds(work, large, 2);
-        growth = after / before;
-        if (growth < kMostGrowth)
-            return;
-    }
-    ADD_FAILURE() << "four times the text took " << growth << " times as long";
-}
-
 } // namespace
 
 class LinearTime : public testing::TestWithParam<Family> { };
 
 TEST_P(LinearTime, ParsingTheSummaryAndHtml)
 {
-    const Work parse = [](const std::string& text) {
+    const auto parse = [](const std::string& text) {
         const CVKAST document = CVKAST::fromMarkdown(text);
         document.textSummary();
         document.html();
     };
-    expectLinear(parse, GetParam(), 32 * 1024);
+    expectLinear(parse, GetParam().text, 32 * 1024);
 }
 
 TEST_P(LinearTime, Rewriting)
 {
-    const Work rewrite = [](const std::string& text) {
+    const auto rewrite = [](const std::string& text) {
         CVKHashtag::renameTagName("a", "b c", text);
         CVKHashtag::removeTagName("a", text);
         CVKHashtag::addTagNameToTheTopOfString("b", text);
@@ -228,7 +190,7 @@ TEST_P(LinearTime, Rewriting)
         CVKWikiLink::updateWikiLinkWithTitle("a", "b", false, text);
         CVKAST::fromMarkdown(text).updateLinksURL("b", "c", {});
     };
-    expectLinear(rewrite, GetParam(), 8 * 1024);
+    expectLinear(rewrite, GetParam().text, 8 * 1024);
 }
 
 INSTANTIATE_TEST_SUITE_P(Families, LinearTime, testing::ValuesIn(families()), nameOfFamily);
@@ -256,8 +218,8 @@ class LinearNames : public testing::TestWithParam<Family> { };
 
 TEST_P(LinearNames, Sanitizing)
 {
-    const Work sanitize = [](const std::string& name) { CVKHashtag::sanitizeTagName(name); };
-    expectLinear(sanitize, GetParam(), 8 * 1024);
+    const auto sanitize = [](const std::string& name) { CVKHashtag::sanitizeTagName(name); };
+    expectLinear(sanitize, GetParam().text, 8 * 1024);
 }
 
 INSTANTIATE_TEST_SUITE_P(Families, LinearNames, testing::ValuesIn(namesOfTags()), nameOfFamily);

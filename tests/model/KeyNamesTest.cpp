@@ -153,25 +153,19 @@ TEST(KeyNames, CanBeSpelledOut)
     EXPECT_EQ(OVNoteFileServerData::entityName(), "OVNoteFileServerData");
 }
 
-TEST(KeyNames, BelongToTypedIdentifiers)
-{
-    static_assert(std::is_base_of_v<NSManagedObjectID, OVNoteID>);
-    static_assert(std::is_base_of_v<OVNoteFileID, OVNoteImageID>);
-    static_assert(std::is_base_of_v<OVNoteFileID, OVNoteGenericFileID>);
-    static_assert(std::is_same_v<decltype(std::declval<OVNote&>().objectID()), OVNoteID>);
-    static_assert(std::is_same_v<decltype(std::declval<OVNoteImage&>().objectID()), OVNoteImageID>);
-    static_assert(std::is_same_v<decltype(std::declval<OVNoteFile&>().objectID()), OVNoteFileID>);
-}
-
-TEST(KeyNames, StandInClassesOfTheirEntities)
-{
-    static_assert(std::is_base_of_v<_OVNoteImage, OVNoteImage>);
-    static_assert(std::is_base_of_v<OVNoteFile, _OVNoteImage>);
-    static_assert(std::is_base_of_v<_OVNoteFile, OVNoteFile>);
-    static_assert(std::is_base_of_v<OVNoteFile, _OVNoteGenericFile>);
-    static_assert(std::is_base_of_v<OVEncryptableNote, OVNote>);
-    static_assert(std::is_base_of_v<OVEncryptingPassword, OVPassword>);
-}
+// Identifiers are typed, and key names stand in classes of their entities: what does not hold does not compile.
+static_assert(std::is_base_of_v<NSManagedObjectID, OVNoteID>);
+static_assert(std::is_base_of_v<OVNoteFileID, OVNoteImageID>);
+static_assert(std::is_base_of_v<OVNoteFileID, OVNoteGenericFileID>);
+static_assert(std::is_same_v<decltype(std::declval<OVNote&>().objectID()), OVNoteID>);
+static_assert(std::is_same_v<decltype(std::declval<OVNoteImage&>().objectID()), OVNoteImageID>);
+static_assert(std::is_same_v<decltype(std::declval<OVNoteFile&>().objectID()), OVNoteFileID>);
+static_assert(std::is_base_of_v<_OVNoteImage, OVNoteImage>);
+static_assert(std::is_base_of_v<OVNoteFile, _OVNoteImage>);
+static_assert(std::is_base_of_v<_OVNoteFile, OVNoteFile>);
+static_assert(std::is_base_of_v<OVNoteFile, _OVNoteGenericFile>);
+static_assert(std::is_base_of_v<OVEncryptableNote, OVNote>);
+static_assert(std::is_base_of_v<OVEncryptingPassword, OVPassword>);
 
 } // namespace
 } // namespace tarn

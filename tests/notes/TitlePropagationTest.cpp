@@ -5,9 +5,8 @@
 #include "tarnmodel/model/OVNoteBackLink.h"
 #include "tarnmodel/notes/TitleLineGuard.h"
 #include "tarnmodel/platform/foundation/text/Folding.h"
+#include "tests/notes/AllocationCount.h"
 #include "tests/support/TextKeeper.h"
-
-#include <ctime>
 
 namespace tarn {
 namespace {
@@ -409,19 +408,21 @@ TEST_P(TitleChain, OfFiveThousandTitlesIsFollowedToItsEnd)
 
 TEST_P(TitleChain, IsWalkedOnceAndNotFromEachOfItsNotes)
 {
-    // Processor time, since other programs run beside; from each of its notes it would take a hundred times as long.
-    constexpr int length = 1500;
-    constexpr int mostTimes = 12;
-    const std::clock_t begin = std::clock();
-    OVNote& first = note("# A");
-    std::string title = "A";
-    for (int number = 1; number < length; ++number) {
-        note("# [[" + title + "]]x");
-        title += 'x';
-    }
-    const std::clock_t made = std::clock();
-    first.updateNoteWithText("# B");
-    EXPECT_LT(std::clock() - made, mostTimes * (made - begin));
+    const auto costOfANewTitle = [this](int length) {
+        const std::string name = "Chain of " + std::to_string(length);
+        OVNote& first = note("# " + name);
+        std::string title = name;
+        for (int number = 1; number < length; ++number) {
+            note("# [[" + title + "]]x");
+            title += 'x';
+        }
+        const std::int64_t before = allocationCount();
+        first.updateNoteWithText("# New " + name);
+        return allocationCount() - before;
+    };
+    const std::int64_t ofFew = costOfANewTitle(100);
+    const std::int64_t ofMany = costOfANewTitle(800);
+    EXPECT_LT(ofMany, 10 * ofFew) << "eight times the notes; from each of them it would be 64 times as much";
 }
 
 } // namespace

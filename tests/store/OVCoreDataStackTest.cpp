@@ -237,6 +237,9 @@ TEST_F(StoreStack, SavesNothingBeforeItIsSetUp)
     stack_->saveUsingCoalescence(false);
     stack_->saveUsingCoalescence(true);
     MainQueue::main().drain();
+    EXPECT_FALSE(stack_->managedObjectContext());
+    EXPECT_THAT(listener_.events, IsEmpty());
+    EXPECT_THAT(files(), IsEmpty());
 }
 
 TEST_F(StoreStack, TriesAgainWhatCouldNotBeSaved)

@@ -12,6 +12,18 @@ namespace {
 
 using EntryPoint = void (*)();
 
+std::int64_t takenPages(sqlite3* database)
+{
+    std::int64_t pages = 0;
+    for (const int kind : {SQLITE_DBSTATUS_CACHE_HIT, SQLITE_DBSTATUS_CACHE_MISS}) {
+        int count = 0;
+        int highest = 0;
+        sqlite3_db_status(database, kind, &count, &highest, 1);
+        pages += count;
+    }
+    return pages;
+}
+
 } // namespace
 
 SQLStatistics::SQLStatistics()
@@ -53,6 +65,8 @@ int SQLStatistics::note(unsigned event, void*, void* subject, void* detail)
         ++counts.rows;
     } else {
         counts.scannedRows += sqlite3_stmt_status(statement, SQLITE_STMTSTATUS_FULLSCAN_STEP, 1);
+        counts.steps += sqlite3_stmt_status(statement, SQLITE_STMTSTATUS_VM_STEP, 1);
+        counts.pages += takenPages(sqlite3_db_handle(statement));
     }
     return 0;
 }

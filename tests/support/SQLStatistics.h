@@ -16,6 +16,8 @@ public:
         std::int64_t statements = 0;
         std::int64_t rows = 0;          ///< that statements gave
         std::int64_t scannedRows = 0;   ///< that were stepped over without the help of an index
+        std::int64_t steps = 0;         ///< of SQLite's machine
+        std::int64_t pages = 0;         ///< that were looked at, in memory or not; a long text has several
         std::vector<std::string> texts; ///< of the statements, in order
     };
 

@@ -241,17 +241,25 @@ TEST(MainQueue, RunsUntilTheAnswerOfAnotherThreadIsThere)
 
 TEST(MainQueue, MayEndBeforeTheThreadThatGaveItTheLastTaskIsBack)
 {
-    for (int run = 0; run < 200; ++run) {
+    constexpr int runs = 200;
+    int tasks = 0;
+    for (int run = 0; run < runs; ++run) {
         std::thread other;
         {
             MainQueue queue;
             bool done = false;
-            other = std::thread([&queue, &done] { queue.async([&done] { done = true; }); });
+            other = std::thread([&] {
+                queue.async([&] {
+                    done = true;
+                    ++tasks;
+                });
+            });
             while (!done) // without sleeping, so that the task is taken as soon as it is there
                 queue.drain();
         }
         other.join();
     }
+    EXPECT_EQ(tasks, runs);
 }
 
 TEST(MainQueue, StopsWaitingWhenTheTimeIsOver)

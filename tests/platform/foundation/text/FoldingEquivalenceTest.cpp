@@ -3,13 +3,13 @@
 #include "tarnmodel/platform/foundation/text/AsciiCaseInternal.h"
 #include "tarnmodel/platform/foundation/text/Folding.h"
 #include "tarnmodel/platform/foundation/text/UTF.h"
+#include "tests/support/LinearGrowth.h"
 
 #include <gtest/gtest.h>
 #include <unicode/locid.h>
 #include <unicode/uchar.h>
 #include <unicode/unistr.h>
 
-#include <chrono>
 #include <random>
 #include <thread>
 #include <vector>
@@ -235,17 +235,13 @@ TEST(FoldingEquivalence, HoldsForLongRunsOfMarks)
 
 TEST(Folding, TakesTimeInProportionToHostileTexts)
 {
-    const auto seconds = [](int pairs) {
+    const auto marksOutOfOrder = [](std::size_t bytes) {
         std::string text = "か";
-        for (int pair = 0; pair < pairs; ++pair)
-            text += "\u0301\u0323"; // out of order, all the way
-        const auto start = std::chrono::steady_clock::now();
-        EXPECT_EQ(fold(text).size(), text.size());
-        return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+        while (text.size() < bytes)
+            text += "\u0301\u0323";
+        return text;
     };
-    seconds(1'000);
-    // 32 times the text may take 32 times as long and somewhat more; quadratic time would be 1,024 times.
-    EXPECT_LT(seconds(96'000), 150 * seconds(3'000) + 0.01);
+    expectLinear([](const std::string& text) { EXPECT_EQ(fold(text).size(), text.size()); }, marksOutOfOrder, 32'768);
 }
 
 // The blocks of ASCII -------------------------------------------------------------------------------------------------
