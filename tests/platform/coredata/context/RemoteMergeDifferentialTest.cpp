@@ -6,6 +6,7 @@
 #include "tarnmodel/platform/foundation/system/Log.h"
 
 #include <algorithm>
+#include <functional>
 #include <map>
 #include <set>
 #include <utility>
@@ -191,6 +192,36 @@ protected:
         NSManagedObjectContext::mergeChangesFromRemoteContextSave(std::exchange(news_, {}), contexts);
     }
 
+    /// Edits here and there, of which this side then hears, or not, and saves or takes back its own: it shows the
+    /// store.
+    void editOnBothSides(unsigned firstSeed, unsigned seeds, const std::function<void(RandomLibrary&)>& hear)
+    {
+        for (unsigned seed = firstSeed; seed < firstSeed + seeds; ++seed) {
+            SCOPED_TRACE(testing::Message() << "seed " << seed);
+            RandomLibrary library(*context_, seed);
+            begin(library);
+            for (int round = 0; round < 6; ++round) {
+                snapshotOf(*context_);
+                library.setContext(*context_);
+                library.change(library.below(6));
+                saveThere(library, 1 + library.below(6));
+                hear(library);
+                const bool isSaved = library.below(3) != 0;
+                if (isSaved)
+                    save();
+                else
+                    context_->rollback();
+                endPass();
+
+                ASSERT_EQ(differences(snapshotOf(*context_), snapshotOfStore()), "")
+                    << (isSaved ? "saved" : "rolled back") << " in round " << round;
+            }
+        }
+    }
+
+    /// Nothing: what was merged has to be there at once.
+    virtual void endPass() { }
+
     /// Two writers gave one cover to two books of which each knew one: the rows say what no other end can say.
     bool aCoverIsStoredTwice() const
     {
@@ -261,26 +292,7 @@ TEST_P(RemoteMergeDifferential, ACleanContextShowsTheStoreAfterIt)
 TEST_P(RemoteMergeDifferential, AnEditedContextShowsTheStoreOnceItIsSavedOrRolledBack)
 {
     const unsigned seeds = GetParam() == StoreType::SQLite ? 30 : 90;
-    for (unsigned seed = 101; seed <= 100 + seeds; ++seed) {
-        SCOPED_TRACE(testing::Message() << "seed " << seed);
-        RandomLibrary library(*context_, seed);
-        begin(library);
-        for (int round = 0; round < 6; ++round) {
-            snapshotOf(*context_);
-            library.setContext(*context_);
-            library.change(library.below(6));
-            saveThere(library, 1 + library.below(6));
-            merge();
-            const bool isSaved = library.below(3) != 0;
-            if (isSaved)
-                save();
-            else
-                context_->rollback();
-
-            ASSERT_EQ(differences(snapshotOf(*context_), snapshotOfStore()), "")
-                << (isSaved ? "saved" : "rolled back") << " in round " << round;
-        }
-    }
+    editOnBothSides(101, seeds, [this](RandomLibrary&) { merge(); });
 }
 
 TEST_P(RemoteMergeDifferential, AWalkOfChangesMergesRefreshesAndDeletionsEndsAtTheStore)
@@ -386,6 +398,7 @@ protected:
         theirs_.reset();
         RemoteMergeDifferential::TearDown();
     }
+    void endPass() override { MainQueue::main().drain(); }
 };
 INSTANTIATE_TEST_SUITE_P(Stores, OtherWritersDifferential, testing::Values(StoreType::SQLite), storeTypeName);
 
@@ -417,32 +430,14 @@ TEST_P(OtherWritersDifferential, ACleanContextShowsTheStoreAfterAPass)
 
 TEST_P(OtherWritersDifferential, AnEditedContextShowsTheStoreOnceItIsSavedOrRolledBack)
 {
-    for (unsigned seed = 301; seed <= 330; ++seed) {
-        SCOPED_TRACE(testing::Message() << "seed " << seed);
-        RandomLibrary library(*context_, seed);
-        begin(library);
-        for (int round = 0; round < 6; ++round) {
-            snapshotOf(*context_);
-            library.setContext(*context_);
-            library.change(library.below(6));
-            saveThere(library, 1 + library.below(6));
-            // At a fetch in the middle, at the pass, at both, or not before the save.
-            const std::size_t looks = library.below(4);
-            if (looks & 1U)
-                all("Shelf");
-            if (looks & 2U)
-                MainQueue::main().drain();
-            const bool isSaved = library.below(3) != 0;
-            if (isSaved)
-                save();
-            else
-                context_->rollback();
+    editOnBothSides(301, 30, [this](RandomLibrary& library) {
+        // At a fetch in the middle, at the pass, at both, or not before the save.
+        const std::size_t looks = library.below(4);
+        if (looks & 1U)
+            all("Shelf");
+        if (looks & 2U)
             MainQueue::main().drain();
-
-            ASSERT_EQ(differences(snapshotOf(*context_), snapshotOfStore()), "")
-                << (isSaved ? "saved" : "rolled back") << " in round " << round << ", looks " << looks;
-        }
-    }
+    });
 }
 
 } // namespace

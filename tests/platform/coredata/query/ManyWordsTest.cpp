@@ -2,7 +2,7 @@
 
 #include "tarnmodel/platform/predicate/PredicateEvaluator.h"
 #include "tarnmodel/platform/predicate/PredicateTree.h"
-#include "tests/platform/coredata/StoreFixture.h"
+#include "tests/platform/coredata/RandomDocuments.h"
 #include "tests/support/SQLStatistics.h"
 
 #include <algorithm>
@@ -31,27 +31,6 @@ std::string text(std::mt19937_64& random, std::size_t words)
     for (; words > 0; --words)
         made += word(random) + (random() % 3 ? " " : "-");
     return made;
-}
-
-std::string wholeWord(const std::string& word)
-{
-    return R"((?mis).*?(?:^|[^\w]))" + word + R"((?:[^\w]|$).*)";
-}
-
-/// What the search field makes of a word, quoted or not, with attachments or without.
-NSPredicate wordPredicate(const std::string& word, bool isQuoted, bool looksIntoAttachments)
-{
-    const int ocr = looksIntoAttachments ? 1 : 0;
-    if (!isQuoted)
-        return NSPredicate::predicateWithFormat(
-            "(flag == YES AND title CONTAINS[cd] %@) OR (flag = NO AND (body CONTAINS[cd] %@ OR (%d == YES AND "
-            "(SUBQUERY(attachments, $file, $file.unused == NO AND $file.caption CONTAINS[cd] %@).@count != 0))))",
-            word, word, ocr, word);
-    const std::string pattern = wholeWord(word);
-    return NSPredicate::predicateWithFormat(
-        "(flag = YES AND title MATCHES[cd] %@) OR (flag = NO AND (body MATCHES[cd] %@ OR (%d == YES AND ANY "
-        "attachments.caption MATCHES[cd] %@)))",
-        pattern, pattern, ocr, pattern);
 }
 
 /// Joined in one list: the parser does so with what is joined in the text.
@@ -133,31 +112,6 @@ private:
     std::vector<std::string> words_;
 };
 
-void fillWithManyWords(std::mt19937_64& random, const OpenStore& sql, const OpenStore& memory)
-{
-    const auto insert = [&](std::string_view entity, const std::vector<std::pair<std::string, Value>>& values) {
-        EXPECT_EQ(sql.insert(entity, values), memory.insert(entity, values));
-    };
-    for (const char* name : {"a", "B", "か", "x"})
-        insert("Label", {{"name", std::string(name)}, {"weight", static_cast<std::int64_t>(random() % 4)}});
-    for (std::int64_t i = 0; i < kDocuments; ++i)
-        insert("Document",
-            {{"title", random() % 9 ? Value(text(random, 2)) : Value()}, {"flag", random() % 6 == 0},
-                {"order", static_cast<std::int64_t>(random() % 12)},
-                {"modified", Value(dateWithMicrosecondsSinceReferenceDate(static_cast<std::int64_t>(random() % 40)))},
-                {"body", random() % 12 ? Value(text(random, random() % 30)) : Value()}});
-    for (std::int64_t i = 0; i < kDocuments / 3; ++i)
-        insert("Picture",
-            {{"caption", random() % 5 ? Value(text(random, random() % 6)) : Value()}, {"unused", random() % 3 == 0},
-                {"document", static_cast<std::int64_t>(1 + random() % kDocuments)}});
-    for (std::int64_t i = 0; i < kDocuments; ++i) {
-        const auto document = static_cast<std::int64_t>(1 + random() % kDocuments);
-        const auto label = static_cast<std::int64_t>(1 + random() % 4);
-        sql.join("Document", "labels", document, label);
-        memory.join("Document", "labels", document, label);
-    }
-}
-
 int searchesOfTheRun()
 {
     const char* wanted = std::getenv("TARN_LONG_SEARCHES");
@@ -174,7 +128,12 @@ TEST_P(SearchOfManyWords, PicksTheSameRowsAsTheEvaluator)
     const OpenStore sql(StoreType::SQLite, folder.file(), {.pragmas = {{"journal_mode", "MEMORY"}}});
     const OpenStore memory(StoreType::InMemory, {});
     ASSERT_TRUE(sql) << sql.error();
-    fillWithManyWords(random, sql, memory);
+    insertAtRandom({.text = [&](std::size_t words) { return text(random, words); },
+                       .labels = {"a", "B", "か", "x"},
+                       .documents = kDocuments,
+                       .pictures = kDocuments / 3,
+                       .joins = kDocuments},
+        random, sql, memory);
     int found = 0;
     const int searches = searchesOfTheRun();
     for (int i = 0; i < searches; ++i) {

@@ -6,7 +6,7 @@
 #include "tarnmodel/platform/coredata/textsearch/CandidateFinder.h"
 #include "tarnmodel/platform/coredata/textsearch/StoreSearch.h"
 #include "tarnmodel/platform/predicate/PredicateTree.h"
-#include "tests/platform/coredata/StoreFixture.h"
+#include "tests/platform/coredata/RandomDocuments.h"
 #include "tests/support/CaseName.h"
 
 #include <fmt/format.h>
@@ -100,33 +100,18 @@ private:
         return members;
     }
 
-    static std::string wholeWord(const std::string& word)
-    {
-        std::string pattern = R"((?mis).*?(?:^|[^\w]))";
-        for (const char c : word)
-            pattern += (std::string_view("\\*?+[](){}^$|.-&~#").find(c) != std::string_view::npos ? "\\" : "")
-                + std::string(1, c);
-        return pattern + R"((?:[^\w]|$).*)";
-    }
-
     NSPredicate leaf()
     {
         const std::string needle = texts_.needle();
-        const int ocr = below(2) ? 1 : 0;
+        const bool looksIntoAttachments = below(2) != 0;
         switch (below(13)) {
         case 0:
         case 1: // what the search field makes of a word
-            return NSPredicate::predicateWithFormat(
-                "(flag == YES AND title CONTAINS[cd] %@) OR (flag = NO AND (body CONTAINS[cd] %@ OR (%d == YES AND "
-                "(SUBQUERY(attachments, $file, $file.unused == NO AND $file.caption CONTAINS[cd] %@).@count != 0))))",
-                needle, needle, ocr, needle);
+            return wordPredicate(needle, false, looksIntoAttachments);
         case 2: // and of a quoted one
-            return NSPredicate::predicateWithFormat(
-                "(flag = YES AND title MATCHES[cd] %@) OR (flag = NO AND (body MATCHES[cd] %@ OR (%d == YES AND ANY "
-                "attachments.caption MATCHES[cd] %@)))",
-                wholeWord(needle), wholeWord(needle), ocr, wholeWord(needle));
+            return wordPredicate(needle, true, looksIntoAttachments);
         case 3:
-            return NSPredicate::predicateWithFormat("body MATCHES[cd] %@", wholeWord(needle));
+            return NSPredicate::predicateWithFormat("body MATCHES[cd] %@", wholeWordPattern(needle));
         case 4:
             return NSPredicate::predicateWithFormat("title CONTAINS[cd] %@", needle);
         case 5:
@@ -155,30 +140,15 @@ private:
 void fill(std::mt19937_64& random, const OpenStore& sql, const OpenStore& memory)
 {
     TextMaker texts(random);
-    const auto insert = [&](std::string_view entity, const std::vector<std::pair<std::string, Value>>& values) {
-        EXPECT_EQ(sql.insert(entity, values), memory.insert(entity, values));
-    };
-    constexpr std::int64_t kLabels = 8;
-    constexpr std::int64_t kDocuments = 48;
-    for (int i = 0; i < kLabels; ++i)
-        insert("Label", {{"name", std::string(texts.any(kWords))}});
-    for (int i = 0; i < kDocuments; ++i) {
-        const bool isFlagged = texts.below(6) == 0;
-        insert("Document",
-            {{"title", texts.text(1 + texts.below(3))}, {"flag", isFlagged},
-                {"order", static_cast<std::int64_t>(texts.below(4))},
-                {"body", isFlagged && texts.below(4) != 0 ? Value() : Value(texts.text(texts.below(25)))}});
-    }
-    for (int i = 0; i < 20; ++i)
-        insert("Picture",
-            {{"caption", texts.below(5) ? Value(texts.text(texts.below(5))) : Value()}, {"unused", texts.below(3) == 0},
-                {"document", static_cast<std::int64_t>(1 + texts.below(kDocuments))}});
-    for (int i = 0; i < 60; ++i) {
-        const auto document = static_cast<std::int64_t>(1 + texts.below(kDocuments));
-        const auto label = static_cast<std::int64_t>(1 + texts.below(kLabels));
-        sql.join("Document", "labels", document, label);
-        memory.join("Document", "labels", document, label);
-    }
+    std::vector<std::string> labels(8);
+    for (std::string& label : labels)
+        label = texts.any(kWords);
+    insertAtRandom({.text = [&](std::size_t words) { return texts.text(words); },
+                       .labels = labels,
+                       .documents = 48,
+                       .pictures = 20,
+                       .joins = 60},
+        random, sql, memory);
 }
 
 /// Answers fetches from the file by a plan of the caller's choice.
