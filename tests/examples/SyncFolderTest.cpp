@@ -6,6 +6,7 @@
 #include "examples/sync-folder/SyncEngine.h"
 #include "tarnmodel/sync/HostUUID.h"
 #include "tests/support/LogCapture.h"
+#include "tests/support/StoreFixture.h"
 
 #include <algorithm>
 #include <charconv>
@@ -20,7 +21,8 @@
 namespace tarn::syncfolder {
 namespace {
 
-/// One device: a store in memory, and its engine.
+/// One device: a store in memory, and its engine. Many are opened in one world, from whose random bytes a fixture with
+/// a folder of its own would take some.
 struct Device {
     HostUUID identifier;
     std::chrono::seconds skew{0}; ///< how far its clock is off
@@ -301,14 +303,12 @@ TEST(SyncFolder, BringsBackANoteThatWasDeletedWithoutATombstone)
     const TemporaryFolder folder;
     const FolderServer server(folder.path());
     const auto ask = [&](const Request& request) { return server.answer(request); };
-    auto coordinator = std::make_shared<NSPersistentStoreCoordinator>(OVManagedObjectModel::current());
-    NSError error;
-    ASSERT_TRUE(coordinator->addPersistentStoreWithType(StoreType::InMemory, {}, {}, &error)) << error;
-    NSManagedObjectContext context(NSManagedObjectContext::ConcurrencyType::MainQueue);
-    context.setPersistentStoreCoordinator(coordinator);
+    TestStore store(StoreType::InMemory);
+    store.open();
+    NSManagedObjectContext& context = store.context();
     OVNote* note = OVNote::noteWithText("# Pears", context);
     OVNote::noteWithText("# Private", context)->setSkipSyncValue(true);
-    ASSERT_TRUE(context.save(&error)) << error;
+    store.save();
 
     SyncEngine engine(context); // knows what was there before it
     ASSERT_TRUE(synchronise(engine, ask));

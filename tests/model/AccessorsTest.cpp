@@ -9,7 +9,7 @@
 #include "tarnmodel/model/OVPassword.h"
 #include "tarnmodel/platform/coredata/KeyValueObservation.h"
 #include "tarnmodel/platform/foundation/values/NSException.h"
-#include "tests/model/RecordFixture.h"
+#include "tests/support/StoreFixture.h"
 
 #include <limits>
 #include <ranges>
@@ -20,7 +20,7 @@ namespace {
 using testing::ElementsAre;
 using testing::UnorderedElementsAre;
 
-using Accessors = RecordTest;
+using Accessors = StoreFixture;
 
 // Attributes --------------------------------------------------------------------------------------------------------
 
@@ -35,8 +35,7 @@ TEST_P(Accessors, KeepEveryKindOfValue)
     note.setPinned(true);
     note.setTodoCompletedValue(-7);
     note.setOrderValue(std::numeric_limits<std::int64_t>::min());
-    save();
-    restart();
+    reopen();
     const OVNote& found = *all<OVNote>().front();
     EXPECT_EQ(found.text(), "ünï");
     EXPECT_EQ(found.pinnedDate(), date);
@@ -53,8 +52,7 @@ TEST_P(Accessors, KeepNothingApartFromZero)
     note.setOrder(std::nullopt);
     note.setTitle("");
     note.setVectorClock(NSData());
-    save();
-    restart();
+    reopen();
     const OVNote& found = *all<OVNote>().front();
     EXPECT_EQ(found.pinned(), std::nullopt);
     EXPECT_FALSE(found.pinnedValue());
@@ -73,7 +71,7 @@ TEST_P(Accessors, AreKnownByKeyAndGoThroughTheClass)
     note.setValueForKey("order", Value(12));
     note.setValueForKey("todoCompleted", Value(2.9));
     note.setValueForKey("pinned", Value(1));
-    note.setValueForKey("pinnedDate", Value(clock_));
+    note.setValueForKey("pinnedDate", Value(lastTime()));
     note.setValueForKey("vectorClock", Value(NSData::fromText("x")));
     EXPECT_EQ(note.title(), "Pears");
     EXPECT_EQ(note.order(), 12);
@@ -81,7 +79,7 @@ TEST_P(Accessors, AreKnownByKeyAndGoThroughTheClass)
     EXPECT_EQ(note.pinned(), true);
     EXPECT_EQ(note.valueForKey("title"), Value("Pears"));
     EXPECT_EQ(note.valueForKey("pinned"), Value(true));
-    EXPECT_EQ(note.valueForKey("pinnedDate"), Value(clock_));
+    EXPECT_EQ(note.valueForKey("pinnedDate"), Value(lastTime()));
     EXPECT_EQ(note.valueForKey("vectorClock"), Value(NSData::fromText("x")));
     note.setValueForKey("title", Value());
     EXPECT_TRUE(note.valueForKey("title").isNil());
@@ -216,8 +214,7 @@ TEST_P(Accessors, KeepItemsOfAChange)
     auto& item = insert<OVChangeItem>();
     change.itemsSet().addObject(item);
     EXPECT_EQ(item.change(), &change);
-    save();
-    restart();
+    reopen();
     ASSERT_EQ(all<OVChange>().size(), 1u);
     EXPECT_EQ(all<OVChange>().front()->itemsSet().count(), 1u);
 }
@@ -258,8 +255,7 @@ TEST_P(Accessors, ComeBackAsTheirClasses)
 {
     insert<OVNoteImage>().setWidthValue(3);
     insert<OVNoteGenericFile>();
-    save();
-    restart();
+    reopen();
     auto files = all<OVNoteFile>();
     ASSERT_EQ(files.size(), 2u);
     auto* image = dynamic_cast<OVNoteImage*>(files[0]);
@@ -285,8 +281,7 @@ TEST_P(Accessors, TakePartsAlongAndLeaveTheRest)
     insert<OVNoteServerData>().setNote(&note);
     save();
     context().deleteObject(note);
-    save();
-    restart();
+    reopen();
     EXPECT_EQ(all<OVNote>().size(), 1u);
     EXPECT_EQ(all<OVNoteTag>().size(), 1u);
     EXPECT_TRUE(all<OVNoteTag>().front()->notesSet().empty());
@@ -312,7 +307,7 @@ TEST_P(Accessors, NeverLoseAPasswordThatANoteNeeds)
     EXPECT_TRUE(context().save(&error)) << error;
 }
 
-INSTANTIATE_TEST_SUITE_P(Stores, Accessors, testing::Values(StoreType::SQLite, StoreType::InMemory), storeTypeName);
+INSTANTIATE_TEST_SUITE_P(Stores, Accessors, everyStore(), storeName);
 
 } // namespace
 } // namespace tarn

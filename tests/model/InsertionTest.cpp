@@ -7,13 +7,14 @@
 #include "tarnmodel/model/OVNoteTag.h"
 #include "tarnmodel/model/OVPassword.h"
 #include "tarnmodel/model/OVServerMetadata.h"
+#include "tarnmodel/platform/foundation/system/NSUUID.h"
 #include "tarnmodel/platform/foundation/values/NSDate+Chrono.h"
-#include "tests/model/RecordFixture.h"
+#include "tests/support/StoreFixture.h"
 
 namespace tarn {
 namespace {
 
-using Insertion = RecordTest;
+using Insertion = StoreFixture;
 
 bool isUpperCaseUUID(const std::optional<std::string>& text)
 {
@@ -22,10 +23,10 @@ bool isUpperCaseUUID(const std::optional<std::string>& text)
 
 TEST_P(Insertion, OfANoteGivesItOneDateForCreationAndModification)
 {
-    const NSDate before = clock_;
+    const NSDate before = lastTime();
     auto& note = insert<OVNote>();
     EXPECT_TRUE(isUpperCaseUUID(note.uniqueIdentifier()));
-    EXPECT_EQ(note.creationDate(), before + std::chrono::seconds(1));
+    EXPECT_EQ(note.creationDate(), before + std::chrono::milliseconds(1));
     EXPECT_EQ(note.modificationDate(), note.creationDate());
     EXPECT_EQ(note.version(), 3);
     EXPECT_EQ(note.title(), std::nullopt);
@@ -38,7 +39,7 @@ TEST_P(Insertion, OfATagGivesItADateOfModification)
 {
     auto& tag = insert<OVNoteTag>();
     EXPECT_TRUE(isUpperCaseUUID(tag.uniqueIdentifier()));
-    EXPECT_EQ(tag.modificationDate(), clock_);
+    EXPECT_EQ(tag.modificationDate(), lastTime());
     EXPECT_EQ(tag.version(), 3);
     EXPECT_EQ(tag.isRoot(), false);
 }
@@ -53,8 +54,8 @@ TEST_P(Insertion, OfAnAttachmentGivesItADateOfInsertion)
         EXPECT_EQ(inserted->creationDate(), std::nullopt);
         EXPECT_EQ(inserted->modificationDate(), std::nullopt);
     }
-    EXPECT_EQ(file.insertionDate(), clock_);
-    EXPECT_EQ(image.insertionDate(), clock_ - std::chrono::seconds(1));
+    EXPECT_EQ(file.insertionDate(), lastTime());
+    EXPECT_EQ(image.insertionDate(), lastTime() - std::chrono::milliseconds(1));
     EXPECT_NE(image.uniqueIdentifier(), file.uniqueIdentifier());
 }
 
@@ -62,7 +63,7 @@ TEST_P(Insertion, OfALinkGivesItADateOfModification)
 {
     auto& link = insert<OVNoteBackLink>();
     EXPECT_TRUE(isUpperCaseUUID(link.uniqueIdentifier()));
-    EXPECT_EQ(link.modificationDate(), clock_);
+    EXPECT_EQ(link.modificationDate(), lastTime());
     EXPECT_EQ(link.version(), 3);
 }
 
@@ -70,8 +71,8 @@ TEST_P(Insertion, OfAPasswordNamesTheDeviceAndSetsNoVersion)
 {
     auto& password = insert<OVPassword>();
     EXPECT_TRUE(isUpperCaseUUID(password.uniqueIdentifier()));
-    EXPECT_EQ(password.creationDate(), clock_);
-    EXPECT_EQ(password.creationDevice(), "Desk of Ada");
+    EXPECT_EQ(password.creationDate(), lastTime());
+    EXPECT_EQ(password.creationDevice(), deviceName);
     EXPECT_EQ(password.encryptionVersionValue(), 0);
     EXPECT_EQ(password.encryptedData(), std::nullopt);
     EXPECT_EQ(password.hint(), std::nullopt);
@@ -80,19 +81,18 @@ TEST_P(Insertion, OfAPasswordNamesTheDeviceAndSetsNoVersion)
 
 TEST_P(Insertion, OfABookkeepingRecordSetsNothing)
 {
-    const NSDate before = clock_;
+    const NSDate before = lastTime();
     EXPECT_EQ(insert<OVChange>().token(), std::nullopt);
     EXPECT_EQ(insert<OVServerMetadata>().noteZoneIDData(), std::nullopt);
     EXPECT_EQ(insert<OVNoteServerData>().systemFields(), std::nullopt);
-    EXPECT_EQ(clock_, before);
+    EXPECT_EQ(lastTime(), before);
 }
 
 TEST_P(Insertion, OfTheAbstractAttachmentMakesOneToo)
 {
     auto& file = insert<OVNoteFile>();
     file.setUniqueIdentifier("A");
-    save();
-    restart();
+    reopen();
     ASSERT_EQ(all<OVNoteFile>().size(), 1u);
     EXPECT_EQ(all<OVNoteFile>().front()->uniqueIdentifier(), "A");
     EXPECT_TRUE(all<OVNoteImage>().empty());
@@ -101,8 +101,7 @@ TEST_P(Insertion, OfTheAbstractAttachmentMakesOneToo)
 TEST_P(Insertion, KeepsItsValuesInTheStore)
 {
     auto identifier = insert<OVNote>().uniqueIdentifier();
-    save();
-    restart();
+    reopen();
     auto notes = all<OVNote>();
     ASSERT_EQ(notes.size(), 1u);
     EXPECT_EQ(notes.front()->uniqueIdentifier(), identifier);
@@ -110,7 +109,7 @@ TEST_P(Insertion, KeepsItsValuesInTheStore)
     EXPECT_EQ(notes.front()->version(), 3);
 }
 
-INSTANTIATE_TEST_SUITE_P(Stores, Insertion, testing::Values(StoreType::SQLite, StoreType::InMemory), storeTypeName);
+INSTANTIATE_TEST_SUITE_P(Stores, Insertion, everyStore(), storeName);
 
 } // namespace
 } // namespace tarn

@@ -4,7 +4,7 @@
 #include "tarnmodel/model/OVPassword.h"
 #include "tarnmodel/platform/coredata/KeyValueObservation.h"
 #include "tarnmodel/platform/foundation/values/NSException.h"
-#include "tests/model/RecordFixture.h"
+#include "tests/support/StoreFixture.h"
 
 #include <algorithm>
 
@@ -68,12 +68,12 @@ private:
     }
 };
 
-class Protection : public RecordTest {
+class Protection : public StoreFixture {
 protected:
     void TearDown() override
     {
         OVEncryptionCoreManager::setEncryptionCoreManager(nullptr, context());
-        RecordTest::TearDown();
+        StoreFixture::TearDown();
     }
     void serve(BackwardsManager& manager) { OVEncryptionCoreManager::setEncryptionCoreManager(&manager, context()); }
 };
@@ -275,7 +275,7 @@ TEST_P(Protection, OfFilesIsTheHostsToAllow)
 
 // Use of attachments ------------------------------------------------------------------------------------------------
 
-using AttachmentUse = RecordTest;
+using AttachmentUse = StoreFixture;
 
 TEST_P(AttachmentUse, IsDatedWhenItChangesOnly)
 {
@@ -284,7 +284,7 @@ TEST_P(AttachmentUse, IsDatedWhenItChangesOnly)
     EXPECT_EQ(file.unusedDate(), std::nullopt);
     file.setUnused();
     EXPECT_TRUE(file.isUnused());
-    EXPECT_EQ(file.unusedDate(), clock_);
+    EXPECT_EQ(file.unusedDate(), lastTime());
     const auto date = file.unusedDate();
     file.setUnused();
     EXPECT_EQ(file.unusedDate(), date);
@@ -293,8 +293,8 @@ TEST_P(AttachmentUse, IsDatedWhenItChangesOnly)
     EXPECT_GT(file.unusedDate(), date);
 }
 
-INSTANTIATE_TEST_SUITE_P(Stores, Protection, testing::Values(StoreType::SQLite, StoreType::InMemory), storeTypeName);
-INSTANTIATE_TEST_SUITE_P(Stores, AttachmentUse, testing::Values(StoreType::SQLite, StoreType::InMemory), storeTypeName);
+INSTANTIATE_TEST_SUITE_P(Stores, Protection, everyStore(), storeName);
+INSTANTIATE_TEST_SUITE_P(Stores, AttachmentUse, everyStore(), storeName);
 
 } // namespace
 } // namespace tarn

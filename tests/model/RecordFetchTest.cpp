@@ -1,8 +1,8 @@
 #include "tarnmodel/model/RecordFetch.h"
 
 #include "tarnmodel/model/OVNote.h"
-#include "tests/model/RecordFixture.h"
 #include "tests/support/LogCapture.h"
+#include "tests/support/StoreFixture.h"
 
 namespace tarn {
 namespace {
@@ -18,9 +18,8 @@ TEST(RecordFetch, LogsWhatAFailureSaysOfItself)
         log.take(), ElementsAre("Error while fetching\nThe store is damaged.", "Error while fetching\nUnknown Error"));
 }
 
-using FetchedRecords = RecordTest;
-INSTANTIATE_TEST_SUITE_P(
-    Stores, FetchedRecords, testing::Values(StoreType::SQLite, StoreType::InMemory), storeTypeName);
+using FetchedRecords = StoreFixture;
+INSTANTIATE_TEST_SUITE_P(Stores, FetchedRecords, everyStore(), storeName);
 
 TEST_P(FetchedRecords, TellAFailureFromAnEmptyAnswer)
 {

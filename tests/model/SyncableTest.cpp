@@ -6,12 +6,12 @@
 #include "tarnmodel/model/OVNoteImage.h"
 #include "tarnmodel/model/OVNoteTag.h"
 #include "tarnmodel/model/OVPassword.h"
-#include "tests/model/RecordFixture.h"
+#include "tests/support/StoreFixture.h"
 
 namespace tarn {
 namespace {
 
-using Syncable = RecordTest;
+using Syncable = StoreFixture;
 
 TEST_P(Syncable, ClassesStandInAFixedOrder)
 {
@@ -46,7 +46,7 @@ TEST_P(Syncable, IsNoAttachmentOfUnknownKind)
     EXPECT_FALSE(isSyncable(file));
 }
 
-INSTANTIATE_TEST_SUITE_P(Stores, Syncable, testing::Values(StoreType::SQLite, StoreType::InMemory), storeTypeName);
+INSTANTIATE_TEST_SUITE_P(Stores, Syncable, everyStore(), storeName);
 
 } // namespace
 } // namespace tarn

@@ -2,7 +2,6 @@
 
 #include "tarnmodel/corvel/CVKAST.h"
 #include "tarnmodel/corvel/CVKHashtag.h"
-#include "tarnmodel/model/ManagedObjectModel.h"
 #include "tarnmodel/model/OVNoteBackLink.h"
 #include "tarnmodel/model/OVNoteGenericFile.h"
 #include "tarnmodel/model/OVNoteImage.h"
@@ -48,18 +47,10 @@ protected:
         std::set<std::string> unsaved; ///< lines that it has written since it saved
     };
 
-    std::shared_ptr<NSPersistentStoreCoordinator> openAgain()
-    {
-        auto coordinator = std::make_shared<NSPersistentStoreCoordinator>(OVManagedObjectModel::current());
-        NSError error;
-        EXPECT_TRUE(coordinator->addPersistentStoreWithType(StoreType::SQLite, storeFile(), {}, &error)) << error;
-        return coordinator;
-    }
     void addWriter(const std::shared_ptr<NSPersistentStoreCoordinator>& coordinator, NSMergePolicy policy)
     {
         Writer writer;
-        writer.context = std::make_unique<NSManagedObjectContext>(NSManagedObjectContext::ConcurrencyType::MainQueue);
-        writer.context->setPersistentStoreCoordinator(coordinator);
+        writer.context = contextOn(coordinator);
         writer.context->setMergePolicy(policy);
         writer.context->setMergeConflictHandler(
             [](const MergeConflict& conflict) { OVNote::keepLosingText(conflict); });
@@ -217,8 +208,7 @@ void ConflictingEdits::compareNote(const OVNote& note, std::map<std::string, std
 
 void ConflictingEdits::compare()
 {
-    auto context = std::make_unique<NSManagedObjectContext>(NSManagedObjectContext::ConcurrencyType::MainQueue);
-    context->setPersistentStoreCoordinator(openAgain());
+    const auto context = contextOn(openAgain());
     std::map<std::string, std::string> tagKeys;
     std::string texts;
     for (const OVNote* note : notesOf(*context)) {
@@ -269,14 +259,14 @@ TEST_P(ConflictingEdits, LeaveRecordsThatSayWhatTextsSayAndNoLineLost)
     const char* first = std::getenv("TARN_SEED"); // NOLINT(concurrency-mt-unsafe)
     for (unsigned seed = first ? static_cast<unsigned>(std::atoi(first)) : 1; count != 0 && !HasFailure();
          ++seed, --count) {
-        StoreFixture::reopen();
+        TestStore::reopen();
         written_.clear();
         live(seed);
         for (OVNote* note : all<OVNote>())
             context().deleteObject(*note);
         for (OVNoteTag* tag : all<OVNoteTag>())
             context().deleteObject(*tag);
-        StoreFixture::save();
+        TestStore::save();
     }
 }
 

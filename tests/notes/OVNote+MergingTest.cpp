@@ -2,7 +2,6 @@
 
 #include "tests/support/StoreFixture.h"
 
-#include "tarnmodel/model/ManagedObjectModel.h"
 #include "tarnmodel/model/OVNoteBackLink.h"
 #include "tarnmodel/model/OVPassword.h"
 #include "tarnmodel/platform/coredata/RecordMerge.h"
@@ -30,11 +29,7 @@ protected:
     NSManagedObjectContext& saveAndOpenElsewhere()
     {
         save();
-        auto coordinator = std::make_shared<NSPersistentStoreCoordinator>(OVManagedObjectModel::current());
-        NSError error;
-        EXPECT_TRUE(coordinator->addPersistentStoreWithType(StoreType::SQLite, storeFile(), {}, &error)) << error;
-        other_ = std::make_unique<NSManagedObjectContext>(NSManagedObjectContext::ConcurrencyType::MainQueue);
-        other_->setPersistentStoreCoordinator(std::move(coordinator));
+        other_ = contextOn(openAgain());
         prepare(*other_);
         return *other_;
     }

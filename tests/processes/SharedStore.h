@@ -40,6 +40,8 @@ enum class StoreRole : std::uint8_t {
 
 /// A store of notes that is opened in this process, with one context on the main queue that keeps the books.
 ///
+/// Not the fixture of other tests: workers, which are no tests, open it too, with patience and roles of their own.
+///
 /// What fails is said by `error()`, and the context is not to be used.
 class SharedStore {
 public:

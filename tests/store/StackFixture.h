@@ -41,7 +41,8 @@ public:
 };
 
 /// An empty persistent data folder (with a blank and a letter outside ASCII in its name) for the stacks of a test, and
-/// a clock that stands still. A test fails on log messages that it did not take.
+/// a clock that stands still. The stacks open the stores: that is what is tested. A test fails on log messages that it
+/// did not take.
 class StackFixture : public testing::Test {
 protected:
     StackFixture();

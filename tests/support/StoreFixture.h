@@ -35,6 +35,8 @@ public:
 
     /// The present time, by the world's clock, which it moves on.
     NSDate mark() { return tick(); }
+    /// The time that the clock gave last.
+    NSDate lastTime() const { return clock_; }
     /// What was logged since the last time.
     std::vector<std::string> takeLog() { return log_.take(); }
 

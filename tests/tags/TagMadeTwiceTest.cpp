@@ -2,8 +2,6 @@
 
 #include "tests/support/StoreFixture.h"
 
-#include "tarnmodel/model/ManagedObjectModel.h"
-
 namespace tarn {
 namespace {
 
@@ -15,11 +13,7 @@ INSTANTIATE_TEST_SUITE_P(Files, TagMadeTwice, testing::Values(StoreType::SQLite)
 TEST_P(TagMadeTwice, KeepsTheNotesThatWerePinnedInTheOtherAndTheirDate)
 {
     save();
-    auto coordinator = std::make_shared<NSPersistentStoreCoordinator>(OVManagedObjectModel::current());
-    NSError error;
-    ASSERT_TRUE(coordinator->addPersistentStoreWithType(StoreType::SQLite, storeFile(), {}, &error)) << error;
-    auto other = std::make_unique<NSManagedObjectContext>(NSManagedObjectContext::ConcurrencyType::MainQueue);
-    other->setPersistentStoreCoordinator(std::move(coordinator));
+    const auto other = contextOn(openAgain());
     OVNote::noteWithText("# There\n\n#rome", *other);
 
     OVNote& here = note("# Here\n\n#rome");
@@ -27,6 +21,7 @@ TEST_P(TagMadeTwice, KeepsTheNotesThatWerePinnedInTheOtherAndTheirDate)
     const NSDate date = mark();
     ours.pinnedNotesSet().addObject(here);
     ours.setPinnedNotesDate(date);
+    NSError error;
     ASSERT_TRUE(other->save(&error)) << error;
     save();
 

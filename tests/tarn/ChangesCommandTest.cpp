@@ -25,6 +25,7 @@ std::vector<std::string> updatedIn(const nlohmann::json& document)
 using Strings = std::vector<std::string>;
 
 /// Makes notes on a store, one save each and as fast as it can, as another program would; their identifiers.
+/// It opens the store of the command line by itself, on a thread of its own.
 Strings saveNotesUntil(const std::atomic<bool>& shallEnd, const std::filesystem::path& database)
 {
     Strings identifiers;

@@ -7,7 +7,8 @@
 
 namespace tarn::test {
 
-/// A program on the store that knows nothing of the command line's lock file, as an application is one.
+/// A program on the store that knows nothing of the command line's lock file, as an application is one: it opens
+/// the store of the command line by itself.
 class ForeignWriter {
 public:
     explicit ForeignWriter(std::filesystem::path database) : database_(std::move(database)) { }

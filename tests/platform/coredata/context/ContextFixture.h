@@ -4,6 +4,7 @@
 #include "tarnmodel/platform/coredata/NSPersistentStoreCoordinator.h"
 #include "tarnmodel/platform/coredata/context/records/ToManySet.h"
 #include "tarnmodel/platform/foundation/system/NSUUID.h"
+#include "tests/platform/coredata/StoreFixture.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -59,13 +60,12 @@ inline constexpr std::string_view libraryModel = R"({
     {"name": "Disc", "parent": "Item"}
   ]})";
 
-/// A store of each kind with one main-queue context on it.
+/// A store of each kind with one main-queue context on it. It stands beside the fixture of notes, and not on it, since
+/// the object store is tested without them and with models of its own.
 class ContextTest : public testing::TestWithParam<StoreType> {
 protected:
     void SetUp() override
     {
-        folder_ = std::filesystem::temp_directory_path() / ("tarn contexts é " + newUUIDString());
-        std::filesystem::create_directories(folder_);
         NSError error;
         model_ = NSManagedObjectModel::modelWithText(modelText(), &error);
         ASSERT_TRUE(model_) << error;
@@ -77,7 +77,6 @@ protected:
     {
         context_.reset();
         coordinator_.reset();
-        std::filesystem::remove_all(folder_);
     }
 
     virtual std::string modelText() const { return std::string(libraryModel); }
@@ -86,8 +85,7 @@ protected:
     {
         auto coordinator = std::make_shared<NSPersistentStoreCoordinator>(model_);
         NSError error;
-        EXPECT_TRUE(coordinator->addPersistentStoreWithType(GetParam(), folder_ / "library.sqlite", {}, &error))
-            << error;
+        EXPECT_TRUE(coordinator->addPersistentStoreWithType(GetParam(), folder_.file(), {}, &error)) << error;
         return coordinator;
     }
 
@@ -165,7 +163,7 @@ protected:
         return found;
     }
 
-    std::filesystem::path folder_;
+    TestFolder folder_;
     std::shared_ptr<NSManagedObjectModel> model_;
     std::shared_ptr<NSPersistentStoreCoordinator> coordinator_;
     std::unique_ptr<NSManagedObjectContext> context_;

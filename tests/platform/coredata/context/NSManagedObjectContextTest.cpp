@@ -242,8 +242,8 @@ TEST_P(DamagedContextLife, ExistingObjectIsNullWhereItCannotBeRead)
     ASSERT_TRUE(fault.isFault());
     const NSManagedObjectID known = fault.objectID();
     const NSManagedObjectID unknown(known.store(), known.entity(), known.key() + 1);
-    std::filesystem::rename(folder_ / "library.sqlite", folder_ / "moved away");
-    std::ofstream(folder_ / "library.sqlite") << "another file";
+    std::filesystem::rename(folder_.file(), folder_.path() / "moved away");
+    std::ofstream(folder_.file()) << "another file";
 
     for (const NSManagedObjectID& id : {known, unknown}) {
         NSError error;

@@ -54,7 +54,7 @@ protected:
         told_.clear();
         MainQueue::main().drain();
     }
-    void runElsewhere(const std::string& sql) const { OtherProgram(folder_ / "library.sqlite").run(sql); }
+    void runElsewhere(const std::string& sql) const { OtherProgram(folder_.file()).run(sql); }
     void saveAndForget()
     {
         save();
@@ -319,7 +319,7 @@ TEST_P(OtherWritersTest, OfAStoreThatLacksTheTriggersAreNoticedOnceItWasOpenedAg
     NSManagedObject& seen = book("before");
     saveAndForget();
     const std::int64_t key = seen.objectID().key();
-    OtherProgram program(folder_ / "library.sqlite");
+    OtherProgram program(folder_.file());
     for (const std::string& name : program.run("SELECT name FROM sqlite_schema WHERE name LIKE '%_version'"))
         program.run("DROP TRIGGER \"" + name + "\"");
     elsewhere_.reset();

@@ -2,6 +2,7 @@
 
 #include "tarnmodel/platform/foundation/events/NSNotificationCenter.h"
 #include "tarnmodel/platform/foundation/system/Log.h"
+#include "tarnmodel/platform/foundation/system/NSUUID.h"
 
 namespace tarn {
 namespace {

@@ -371,18 +371,7 @@ constexpr std::string_view modelWithRequiredValues = R"({
 
 class RequiredValues : public TwoWriters {
 protected:
-    void SetUp() override
-    {
-        TwoWriters::SetUp();
-        NSError error;
-        model_ = NSManagedObjectModel::modelWithText(modelWithRequiredValues, &error);
-        ASSERT_TRUE(model_) << error;
-        context_.reset();
-        coordinator_ = std::make_shared<NSPersistentStoreCoordinator>(model_);
-        ASSERT_TRUE(coordinator_->addPersistentStoreWithType(GetParam(), folder_ / "letters.sqlite", {}, &error))
-            << error;
-        restart();
-    }
+    std::string modelText() const override { return std::string(modelWithRequiredValues); }
     NSManagedObject& wholeLetter()
     {
         NSManagedObject& letter = insert("Letter");

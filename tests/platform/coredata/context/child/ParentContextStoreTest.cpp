@@ -346,8 +346,8 @@ TEST_P(ChildOfAFile, KeepsItsChangesWhenItsParentCannotReadTheStore)
     NSManagedObject& seen = *findThere("Book", NSPredicate::predicateWithFormat("TRUEPREDICATE")).at(0);
     NSManagedObject& place = *findThere("Shelf", NSPredicate::predicateWithFormat("name == 'new'")).at(0);
     set(seen, "shelves").add(place);
-    const auto file = folder_ / "library.sqlite";
-    std::filesystem::rename(file, folder_ / "away");
+    const auto file = folder_.file();
+    std::filesystem::rename(file, folder_.path() / "away");
 
     NSError error;
     EXPECT_FALSE(child_->save(&error));
@@ -355,7 +355,7 @@ TEST_P(ChildOfAFile, KeepsItsChangesWhenItsParentCannotReadTheStore)
     EXPECT_TRUE(child_->hasChanges());
     EXPECT_FALSE(context_->hasChanges());
 
-    std::filesystem::rename(folder_ / "away", file);
+    std::filesystem::rename(folder_.path() / "away", file);
     saveChild();
     save();
     restart();
