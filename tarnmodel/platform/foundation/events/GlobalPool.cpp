@@ -48,12 +48,6 @@ void GlobalPool::setThreadStarter(ThreadStarter starter)
     startThread_ = std::move(starter);
 }
 
-bool GlobalPool::isClosed() const
-{
-    const Lock lock(mutex_);
-    return isClosed_;
-}
-
 // Threads -------------------------------------------------------------------------------------------------------------
 
 bool GlobalPool::post(Task task)

@@ -33,8 +33,6 @@ public:
     /// This main queue takes over when there is no thread. It is closed before the last tasks of the process run, since
     /// nobody drains it then.
     void setMainQueue(std::weak_ptr<MainQueueState> queue);
-    /// Once it is true nothing may be posted any more.
-    bool isClosed() const;
 
     /// Starts a thread that does this work, or throws.
     using ThreadStarter = std::function<std::thread(Task work)>;

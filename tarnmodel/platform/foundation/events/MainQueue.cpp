@@ -75,17 +75,6 @@ void MainQueue::cancelAtEndOfPass(const void* key)
     state_->removeAtEndOfPass(key);
 }
 
-bool MainQueue::postCoalesced(const void* key, Task task)
-{
-    const auto state = state_;
-    return state->setCoalesced(key, std::move(task));
-}
-
-void MainQueue::cancelCoalesced(const void* key)
-{
-    state_->removeCoalesced(key);
-}
-
 void MainQueue::runInEachPass(const void* key, Task task)
 {
     state_->setInEachPass(key, std::move(task));

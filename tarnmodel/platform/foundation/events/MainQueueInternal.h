@@ -26,8 +26,6 @@ public:
 
     // Any thread.
     void enqueue(Task task, bool isAwaited);
-    bool setCoalesced(const void* key, Task task);
-    void removeCoalesced(const void* key);
     void setAtEndOfPass(const void* key, Task task);
     void removeAtEndOfPass(const void* key);
     void setInEachPass(const void* key, Task task);
@@ -67,7 +65,6 @@ private:
     MainQueue* queue_;
     std::deque<Item> items_;
     std::uint64_t lastNumber_ = 0;
-    KeyedTasks coalesced_;
     KeyedTasks endOfPass_;
     std::vector<std::pair<const void*, std::shared_ptr<const Task>>> inEachPass_;
     std::vector<std::shared_ptr<Timer::State>> timers_;

@@ -41,7 +41,7 @@ MainQueue* MainQueueState::queue() const
 
 bool MainQueueState::hasWorkLocked() const noexcept
 {
-    return !items_.empty() || !timers_.empty() || !coalesced_.isEmpty() || !endOfPass_.isEmpty();
+    return !items_.empty() || !timers_.empty() || !endOfPass_.isEmpty();
 }
 
 bool MainQueueState::hasWork() const
@@ -79,22 +79,6 @@ void MainQueueState::enqueue(Task task, bool isAwaited)
         return;
     items_.push_back({++lastNumber_, isAwaited, std::move(task)});
     announceWork(std::move(lock));
-}
-
-bool MainQueueState::setCoalesced(const void* key, Task task)
-{
-    std::unique_lock lock(mutex_);
-    if (!queue_ || coalesced_.contains(key))
-        return false;
-    coalesced_.set(key, std::move(task));
-    announceWork(std::move(lock));
-    return true;
-}
-
-void MainQueueState::removeCoalesced(const void* key)
-{
-    const std::lock_guard lock(mutex_);
-    coalesced_.remove(key);
 }
 
 void MainQueueState::setAtEndOfPass(const void* key, Task task)
@@ -181,7 +165,6 @@ void MainQueueState::close()
 {
     // Destroyed outside of the lock: what goes with a task may call this queue.
     std::deque<Item> items;
-    KeyedTasks coalesced;
     KeyedTasks endOfPass;
     decltype(inEachPass_) inEachPass;
     std::vector<std::shared_ptr<Timer::State>> timers;
@@ -191,7 +174,6 @@ void MainQueueState::close()
         timer->isPending = false;
     items.swap(items_);
     timers.swap(timers_);
-    std::swap(coalesced, coalesced_);
     std::swap(endOfPass, endOfPass_);
     inEachPass.swap(inEachPass_);
     wake_ = nullptr;
@@ -203,7 +185,6 @@ std::size_t MainQueueState::runPass(MainQueue& queue)
     const Pass pass(*this);
     std::size_t count = runTimers(queue);
     count += runQueued(queue);
-    count += runKeyed(queue, coalesced_);
     runTasksOfEachPass(queue);
     count += runKeyed(queue, endOfPass_);
     return count;

@@ -303,11 +303,6 @@ bool KeyedTasks::remove(const void* key)
     return std::erase_if(entries_, [key](const Entry& entry) { return entry.key == key; }) > 0;
 }
 
-bool KeyedTasks::contains(const void* key) const
-{
-    return std::any_of(entries_.begin(), entries_.end(), [key](const Entry& entry) { return entry.key == key; });
-}
-
 std::optional<Task> KeyedTasks::takeFirst(std::uint64_t lastNumber)
 {
     if (entries_.empty() || entries_.front().number > lastNumber)

@@ -84,19 +84,13 @@ public:
     void runAtEndOfPass(const void* key, Task task) override;
     void cancelAtEndOfPass(const void* key) override;
 
-    /// Runs the task after the other tasks of a pass, one for each key: false, and nothing changes, when one is
-    /// pending.
-    bool postCoalesced(const void* key, Task task);
-    /// Takes back what `postCoalesced` was given for this key.
-    void cancelCoalesced(const void* key);
-
     /// Runs the task in every pass from now on, before the tasks for its end, until it is taken back; one for each key.
     /// It is no work of its own: an idle queue is not woken for it. On the owning thread.
     void runInEachPass(const void* key, Task task);
     /// Takes back what `runInEachPass` was given for this key.
     void cancelInEachPass(const void* key);
 
-    /// One pass: due timers, the tasks that were queued at entry, coalesced tasks, the tasks of each pass, those for
+    /// One pass: due timers, the tasks that were queued at entry, the tasks of each pass, those for
     /// the end of this one. What these queue waits for the next pass. Returns how many ran, the tasks of each pass left
     /// out. On the owning thread.
     std::size_t drain();

@@ -79,7 +79,6 @@ public:
     bool set(const void* key, Task task);
     /// Whether the key was there.
     bool remove(const void* key);
-    bool contains(const void* key) const;
     bool isEmpty() const noexcept { return entries_.empty(); }
     /// Give it to `takeFirst` to get only what is here now.
     std::uint64_t lastNumber() const noexcept { return lastNumber_; }

@@ -55,33 +55,6 @@ TEST(MainQueue, LeavesWhatATaskQueuesForTheNextPass)
     EXPECT_FALSE(queue.hasWork());
 }
 
-TEST(MainQueue, RunsOneCoalescedTaskForEachKeyAfterTheOthers)
-{
-    MainQueue queue;
-    std::vector<int> order;
-    const int first = 0;
-    const int second = 0;
-    EXPECT_TRUE(queue.postCoalesced(&first, [&] { order.push_back(10); }));
-    EXPECT_FALSE(queue.postCoalesced(&first, [&] { order.push_back(11); }));
-    EXPECT_TRUE(queue.postCoalesced(&second, [&] { order.push_back(20); }));
-    queue.async([&] { order.push_back(1); });
-    EXPECT_EQ(queue.drain(), 3U);
-    EXPECT_THAT(order, ElementsAre(1, 10, 20));
-    EXPECT_TRUE(queue.postCoalesced(&first, [&] { order.push_back(12); }));
-    queue.cancelCoalesced(&first);
-    EXPECT_FALSE(queue.hasWork());
-}
-
-TEST(MainQueue, RunsWhatIsCoalescedDuringAPassAtItsEnd)
-{
-    MainQueue queue;
-    std::vector<int> order;
-    queue.async([&] { queue.postCoalesced(&queue, [&] { order.push_back(2); }); });
-    queue.async([&] { order.push_back(1); });
-    queue.drain();
-    EXPECT_THAT(order, ElementsAre(1, 2));
-}
-
 TEST(MainQueue, RunsTheEndOfAPassLastAndWithTheLastTaskGiven)
 {
     MainQueue queue;
@@ -89,10 +62,10 @@ TEST(MainQueue, RunsTheEndOfAPassLastAndWithTheLastTaskGiven)
     queue.async([&] {
         queue.runAtEndOfPass(&queue, [&] { order.emplace_back("replaced"); });
         queue.runAtEndOfPass(&queue, [&] { order.emplace_back("end"); });
-        queue.postCoalesced(&queue, [&] { order.emplace_back("coalesced"); });
     });
+    queue.async([&] { order.emplace_back("task"); });
     queue.drain();
-    EXPECT_THAT(order, ElementsAre("coalesced", "end"));
+    EXPECT_THAT(order, ElementsAre("task", "end"));
 }
 
 TEST(MainQueue, RunsWhatIsAskedForAtTheEndOfAPassAtTheEndOfTheNext)
@@ -309,11 +282,10 @@ TEST(MainQueue, IsFreeWhenWhatATaskHeldGoesWithIt)
         queue.async([] {});
     };
     queue.async([last = std::shared_ptr<int>(nullptr, callingTheQueue)] {});
-    queue.postCoalesced(&queue, [last = std::shared_ptr<int>(nullptr, callingTheQueue)] {});
     queue.runAtEndOfPass(&callingTheQueue, [last = std::shared_ptr<int>(nullptr, callingTheQueue)] {});
 
-    EXPECT_EQ(queue.drain(), 3U);
-    EXPECT_EQ(queue.drain(), 3U);
+    EXPECT_EQ(queue.drain(), 2U);
+    EXPECT_EQ(queue.drain(), 2U);
 }
 
 TEST(Timer, FiresAtTheStartOfTheNextPass)
