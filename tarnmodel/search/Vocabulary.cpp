@@ -3,6 +3,7 @@
 #include "tarnmodel/platform/predicate/NSPredicate.h"
 
 #include <algorithm>
+#include <span>
 #include <vector>
 
 namespace tarn {
@@ -131,11 +132,6 @@ std::string_view Term::matchingSpelling(std::string_view word) const noexcept
             return spelling;
     }
     return {};
-}
-
-std::span<const Term> searchTerms() noexcept
-{
-    return kTerms;
 }
 
 const Term* termOfWord(std::string_view word) noexcept

@@ -2,7 +2,6 @@
 
 #include <array>
 #include <optional>
-#include <span>
 #include <string>
 #include <string_view>
 
@@ -38,8 +37,6 @@ struct Term {
     std::string_view matchingSpelling(std::string_view word) const noexcept;
 };
 
-/// All terms, in the order in which a word is compared with them.
-std::span<const Term> searchTerms() noexcept;
 /// The first term that the word matches, or null.
 const Term* termOfWord(std::string_view word) noexcept;
 /// The term with this English spelling, or null.

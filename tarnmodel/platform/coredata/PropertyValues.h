@@ -92,9 +92,6 @@ public:
     /// the way of `putBytes`, nil clears. Raises `NSInvalidArgumentException` for a value of another kind.
     void setAttributeValue(PropertyIndex index, const Value& value);
 
-    /// Bytes of heap that this value takes, shared ones counted whole.
-    std::size_t heapSize() const noexcept;
-
     /// The number that an attribute of 16 bits holds for this one: the nearest.
     static std::int64_t fittedTo16Bits(std::int64_t value) noexcept;
 

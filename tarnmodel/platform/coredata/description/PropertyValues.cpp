@@ -209,19 +209,6 @@ bool PropertyValues::equals(PropertyIndex index, const PropertyValues& other) co
     return slot(index).bytes == other.slot(index).bytes || bytes(index) == other.bytes(index);
 }
 
-std::size_t PropertyValues::heapSize() const noexcept
-{
-    if (!slots_)
-        return 0;
-    std::size_t size = slotsFor(*entity_) * sizeof(Slot);
-    for (PropertyMask rest = present_; rest != 0; rest &= rest - 1) {
-        const auto index = static_cast<PropertyIndex>(std::countr_zero(rest));
-        if (holdsBytes(index))
-            size += sizeof(SharedBytes) + bytes(index).size();
-    }
-    return size;
-}
-
 // Boxed values --------------------------------------------------------------------------------------------------------
 
 Value PropertyValues::attributeValue(PropertyIndex index) const

@@ -90,7 +90,6 @@ void StoreSchema::addSignatures(StoreTable& table)
             made->changesName = table.name + "_" + column.name + "_changes";
             made->table = &table;
             made->attribute = column.attribute();
-            signaturesByAttribute_.emplace(made->attribute, made.get());
             table.signatures.push_back(std::move(made));
         }
     }
@@ -141,12 +140,6 @@ const StoreTable& StoreSchema::table(const NSEntityDescription& entity) const
 const JoinTable& StoreSchema::join(const NSRelationshipDescription& relationship) const
 {
     return *joinsByRelationship_.at(&relationship);
-}
-
-const SignatureTable* StoreSchema::signatureTable(const NSAttributeDescription& attribute) const
-{
-    const auto found = signaturesByAttribute_.find(&attribute);
-    return found == signaturesByAttribute_.end() ? nullptr : found->second;
 }
 
 JoinDirection joinDirection(const StoreSchema& schema, const NSRelationshipDescription& relationship)

@@ -108,9 +108,6 @@ public:
     const std::vector<std::unique_ptr<StoreTable>>& tables() const noexcept { return tables_; }
     const std::vector<std::unique_ptr<JoinTable>>& joins() const noexcept { return joins_; }
 
-    /// Of an attribute that has signatures; null for others.
-    const SignatureTable* signatureTable(const NSAttributeDescription& attribute) const;
-
     /// CREATE statements in the order in which they run.
     std::vector<std::string> creationStatements() const;
     /// Those that a store of an earlier version of this library may lack: signatures and indexes of flags. Each does
@@ -135,7 +132,6 @@ private:
     std::vector<std::unique_ptr<JoinTable>> joins_;
     std::unordered_map<const NSEntityDescription*, StoreTable*> tablesByRoot_;
     std::unordered_map<const NSRelationshipDescription*, const JoinTable*> joinsByRelationship_;
-    std::unordered_map<const NSAttributeDescription*, const SignatureTable*> signaturesByAttribute_;
 };
 
 /// Which column of a join table a relationship starts from, and which it leads to.

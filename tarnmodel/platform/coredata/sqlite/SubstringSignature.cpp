@@ -197,13 +197,6 @@ void appendHeader(std::string& signature)
 
 } // namespace
 
-std::vector<std::uint32_t> gramHashes(std::string_view foldedText)
-{
-    std::vector<std::uint32_t> hashes = orderedHashes(foldedText);
-    std::sort(hashes.begin(), hashes.end());
-    return hashes;
-}
-
 std::vector<std::uint32_t> gramHashesOfNeedle(std::string_view foldedNeedle, std::size_t most)
 {
     std::vector<std::uint32_t> hashes = orderedHashes(foldedNeedle);

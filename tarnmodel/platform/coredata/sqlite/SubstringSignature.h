@@ -12,12 +12,10 @@ namespace tarn {
 // Signatures tell which texts cannot contain a string. They stand in store files: docs/file-format.md says how they are
 // made, and whoever changes the grams, the hash, the rounding or the order of bits raises `signatureFormat`.
 
-/// The hashes of a folded text's distinct grams, ascending: one for every three code points in a row, three for every
-/// two of which one is at or above U+2E80, where words are short.
-///
-/// What a folded text contains has no gram that the text lacks.
-std::vector<std::uint32_t> gramHashes(std::string_view foldedText);
-/// At most `most` of them, for a needle: enough to tell texts apart.
+// Of a folded text's distinct grams hashes are taken: one for every three code points in a row, three for every two of
+// which one is at or above U+2E80, where words are short. What a folded text contains has no gram that the text lacks.
+
+/// At most `most` of a needle's hashes, from all over it: enough to tell texts apart.
 std::vector<std::uint32_t> gramHashesOfNeedle(std::string_view foldedNeedle, std::size_t most);
 
 /// What a signature begins with: the format and the version of the folding, by which it is known to be stale.

@@ -53,12 +53,6 @@ std::vector<std::int64_t> SignatureMirror::takeStaleKeys(std::size_t most)
     return keys;
 }
 
-std::size_t SignatureMirror::allocatedBytes() const
-{
-    const std::shared_lock lock(mutex_);
-    return slots_.capacity() * sizeof(Slot) + bytes_.capacity();
-}
-
 // Asking --------------------------------------------------------------------------------------------------------------
 
 PrimaryKeySetPtr SignatureMirror::rowsWithGrams(SQLiteConnection& connection, std::span<const std::uint32_t> hashes)

@@ -32,7 +32,6 @@ public:
     std::size_t rowCount() const;
     /// Up to `most` rows without a usable signature, each once: whoever asks makes them anew.
     std::vector<std::int64_t> takeStaleKeys(std::size_t most);
-    std::size_t allocatedBytes() const;
 
 private:
     static constexpr std::uint32_t kStale = 0xFFFFFFFF;  ///< as a length

@@ -14,6 +14,14 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
+/// All of a folded text's, ascending.
+std::vector<std::uint32_t> gramHashes(std::string_view foldedText)
+{
+    auto hashes = gramHashesOfNeedle(foldedText, std::string_view::npos);
+    std::ranges::sort(hashes);
+    return hashes;
+}
+
 bool mayContain(const std::string& signature, std::string_view needle)
 {
     const auto* bits = reinterpret_cast<const std::uint8_t*>(signature.data()) + signatureHeaderSize;

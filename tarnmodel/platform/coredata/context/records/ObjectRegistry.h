@@ -26,7 +26,6 @@ public:
     void addFormerKey(std::int64_t key, NSManagedObject& object) { formerKeys_[key] = &object; }
     /// Those that can be found, in order of their arrival.
     std::vector<NSManagedObject*> objects() const;
-    std::size_t ownedCount() const noexcept { return owned_.size(); }
     void clear();
 
 private:

@@ -93,7 +93,6 @@ public:
     /// Whether somebody observes the key, or one that depends on it.
     static bool isObserved(const NSManagedObject& object, const std::string& key);
     static void tellObservers(NSManagedObject& object, std::string_view key) { object.tellObservers(key); }
-    static void setRowVersion(NSManagedObject& object, std::int64_t version) { object.rowVersion_ = version; }
     static void setObjectID(NSManagedObject& object, const NSManagedObjectID& objectID) { object.objectID_ = objectID; }
     static std::uint32_t order(const NSManagedObject& object) { return object.order_; }
     static void setOrder(const NSManagedObject& object, std::uint32_t order)
