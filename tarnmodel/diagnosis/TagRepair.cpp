@@ -18,10 +18,11 @@ void takeSettings(OVNoteTag& tag, const OVNoteTag& other)
 {
     if (!tag.tagcon() && other.tagcon())
         tag.setTagcon(other.tagcon());
-    if (!tag.sorting() && other.sorting()) {
+    // Every tag has a sorting; one that somebody chose has a date.
+    if (!tag.sortingDate() && other.sortingDate())
         tag.setSorting(other.sorting());
+    if (!tag.sortingDirectionDate() && other.sortingDirectionDate())
         tag.setSortingDirection(other.sortingDirection());
-    }
     if (tag.isRootValue() && other.isPinned() && !tag.isPinned())
         tag.pin();
 }

@@ -38,6 +38,8 @@ TEST_P(TagRepair, UnitesATagWithTheOneThatIsInOrder)
     OVNote& pinned = note("# One\n\n#home");
     old.setTitle("home.");
     old.setTagcon("star");
+    old.setSorting(2);
+    old.setSortingDirection(true);
     old.pin();
     pinned.pinInTag(old);
     const std::string kept = *tagCalled("home").uniqueIdentifier();
@@ -48,6 +50,8 @@ TEST_P(TagRepair, UnitesATagWithTheOneThatIsInOrder)
     OVNoteTag& home = tagCalled("home");
     EXPECT_EQ(home.uniqueIdentifier(), kept) << "a tag in order keeps its record";
     EXPECT_EQ(home.tagcon(), "star");
+    EXPECT_EQ(home.sorting(), 2);
+    EXPECT_EQ(home.sortingDirection(), true);
     EXPECT_TRUE(home.isPinned());
     EXPECT_TRUE(noteCalled("One").isPinnedInTag(&home));
 }
@@ -58,9 +62,12 @@ TEST_P(TagRepair, KeepsTheSettingsOfTheTagThatStays)
     note("# One\n\n#home");
     old.setTitle("home.");
     old.setTagcon("star");
+    old.setSorting(2);
     tagCalled("home").setTagcon("moon");
+    tagCalled("home").setSorting(1);
     repair();
     EXPECT_EQ(tagCalled("home").tagcon(), "moon");
+    EXPECT_EQ(tagCalled("home").sorting(), 1);
 }
 
 } // namespace
