@@ -45,6 +45,16 @@ TEST_P(Accessors, KeepEveryKindOfValue)
     EXPECT_EQ(found.order(), std::numeric_limits<std::int64_t>::min());
 }
 
+TEST_P(Accessors, GiveATextWithoutACopy)
+{
+    auto& note = insert<OVNote>();
+    EXPECT_EQ(note.stringViewAt(OVNote::Index::text), std::nullopt);
+    note.setText("ünï");
+    const auto view = note.stringViewAt(OVNote::Index::text);
+    EXPECT_EQ(view, "ünï");
+    EXPECT_EQ(view->data(), note.stringViewAt(OVNote::Index::text)->data()) << "it was copied";
+}
+
 TEST_P(Accessors, KeepNothingApartFromZero)
 {
     auto& note = insert<OVNote>();

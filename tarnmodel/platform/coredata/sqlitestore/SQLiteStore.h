@@ -10,13 +10,13 @@
 #include "tarnmodel/platform/coredata/sqlite/StoreSchema.h"
 #include "tarnmodel/platform/coredata/sqlite/StoreSelects.h"
 #include "tarnmodel/platform/coredata/sqlite/TransactionGuards.h"
+#include "tarnmodel/platform/coredata/sqlitestore/ReservedKeys.h"
 #include "tarnmodel/platform/coredata/textsearch/SearchIndex.h"
 
 #include <atomic>
 #include <functional>
 #include <memory>
 #include <mutex>
-#include <unordered_map>
 
 namespace tarn {
 
@@ -59,23 +59,24 @@ public:
 private:
     friend class SQLiteTransaction;
 
+    // Opening.
     void openFile(bool createIfMissing);
     void checkMetadata(const StoreMetadata& metadata);
     void refreshDerivedValues(const StoreMetadata& metadata);
-    void followDerivedValues(SQLiteConnection& connection);
-    void fillSomeSignatures(SQLiteConnection& connection);
+    // Fetching (SQLiteStore+Fetching.cpp).
     SQLConditionOptions conditionOptions(const StoreFetch& fetch, SQLiteConnection& connection) const;
     std::vector<StoreRow> rowsOf(const StoreFetch& fetch, const StoreSearch& search, SQLiteConnection& connection);
     std::string explanationOf(const StoreFetch& fetch, const StoreSearch& search, SQLiteConnection& connection);
     std::optional<std::size_t> countInParallel(
         const StoreFetch& fetch, const StoreSearch& search, SQLiteConnection& connection);
+    // Writing (SQLiteStore+Writing.cpp).
     void beginWriting();
     void endWriting(WritingEnd end) noexcept;
     /// Runs `work` in the transaction of this thread, or in a short one of its own.
     void write(const std::function<void(SQLiteConnection&)>& work);
-    std::int64_t takeKeys(SQLiteConnection& connection, const NSEntityDescription& root, std::size_t count);
-    void raiseNextKeys(SQLiteConnection& connection);
     void rollBack() noexcept;
+    void followDerivedValues(SQLiteConnection& connection);
+    void fillSomeSignatures(SQLiteConnection& connection);
 
     std::shared_ptr<const NSManagedObjectModel> model_;
     std::filesystem::path file_;
@@ -92,11 +93,9 @@ private:
     DerivedValues derivedValues_ = DerivedValues::Written;
     std::int64_t writerVersion_ = -1; ///< the writing connection's data version when it last looked at the folding's
     std::atomic<std::uint64_t> dataVersion_ = 0;
-    std::atomic<std::uint64_t> commits_ = 0; ///< of this store's own transactions
-    /// Next free key by root entity, as far as a transaction reserved any that did not reach the file. Belongs to the
-    /// turn's holder.
+    std::atomic<std::uint64_t> commits_ = 0;  ///< of this store's own transactions
     std::optional<WriteTransaction> writing_; ///< of the thread whose turn it is
-    std::unordered_map<const NSEntityDescription*, std::int64_t> reservedKeys_;
+    ReservedKeys reservedKeys_;
 };
 
 } // namespace tarn

@@ -6,6 +6,9 @@
 #include "tarnmodel/platform/foundation/events/NSNotificationCenter.h"
 #include "tarnmodel/platform/foundation/values/NSException.h"
 
+#include <array>
+#include <atomic>
+#include <chrono>
 #include <fstream>
 #include <limits>
 #include <stdexcept>
@@ -38,34 +41,35 @@ protected:
         request.predicate = NSPredicate::predicateWithFormat("title == 'counter'");
         return *context.executeFetchRequest(request).at(0);
     }
-    /// Reads the counter, rests, and writes one more, under the lock. How often somebody else had counted meanwhile.
-    int count(const std::shared_ptr<NSPersistentStoreCoordinator>& coordinator, int steps) const
+    /// Of the two writers: whether each asks for the lock.
+    using Asking = std::array<std::atomic<bool>, 2>;
+    /// Reads the counter, rests, and writes one more, under the lock. How often the other one was asking for it then.
+    int count(const std::shared_ptr<NSPersistentStoreCoordinator>& coordinator, int steps, Asking& asking,
+        std::size_t place) const
     {
         NSManagedObjectContext context(NSManagedObjectContext::ConcurrencyType::PrivateQueue);
         context.setPersistentStoreCoordinator(coordinator);
         context.setMergePolicy(NSMergePolicy::MergeByPropertyObjectTrump); // a step that is lost is no error
-        int othersTurns = 0;
+        int contested = 0;
         context.performBlockAndWait([&] {
             NSManagedObject& counter = counterIn(context);
-            std::int64_t last = 0;
             for (int step = 0; step < steps; ++step) {
                 NSError error;
+                asking[place] = true;
                 const bool saved = context.performExclusive(
                     [&] {
+                        asking[place] = false;
                         const std::int64_t before = counter.storedValueForKey("pages").asInteger();
-                        othersTurns += before != last ? 1 : 0;
-                        rest();
-                        last = before + 1;
-                        counter.setValueForKey("pages", Value(last));
+                        std::this_thread::sleep_for(std::chrono::milliseconds(2));
+                        contested += asking[1 - place] ? 1 : 0;
+                        counter.setValueForKey("pages", Value(before + 1));
                     },
                     &error);
                 EXPECT_TRUE(saved) << error;
-                rest(); // so that the other gets its turn
             }
         });
-        return othersTurns;
+        return contested;
     }
-    static void rest() { std::this_thread::sleep_for(std::chrono::microseconds(100)); }
 
     bool isLockFree() const
     {
@@ -108,18 +112,19 @@ TEST_P(ContextLife, ExclusiveWorkInsideAnotherJoinsIt)
 
 TEST_P(ContextLife, ExclusiveWorkOfTwoWritersLosesNoStep)
 {
-    constexpr int steps = 200;
+    constexpr int steps = 60;
     book("counter");
     save();
     const bool isFile = GetParam() == StoreType::SQLite;
-    const auto other = isFile ? open() : coordinator_; // a store in memory has one coordinator
-    int turnsSeenThere = 0;
-    std::thread writer([&] { turnsSeenThere = count(other, steps); });
-    const int turnsSeenHere = count(coordinator_, steps);
+    const auto other = isFile ? open() : coordinator_; // a store in memory has one
+    Asking asking{};
+    int contestedThere = 0;
+    std::thread writer([&] { contestedThere = count(other, steps, asking, 1); });
+    const int contestedHere = count(coordinator_, steps, asking, 0);
     writer.join();
 
     EXPECT_EQ(countIn(coordinator_), 2 * steps);
-    EXPECT_GT(turnsSeenHere + turnsSeenThere, 10) << "they did not count at the same time";
+    EXPECT_GT(contestedHere + contestedThere, steps / 2) << "they did not count at the same time";
 }
 
 TEST_P(ContextLife, AnExceptionOfInnerExclusiveWorkTakesBackTheOuterWhereItLeavesThat)

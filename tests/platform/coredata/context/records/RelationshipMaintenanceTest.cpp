@@ -212,11 +212,11 @@ TEST_P(Relationship, DenyRefusesTheSaveWhileMembersRemain)
 }
 
 /// What becomes of the member of a record that may not be deleted while it has members.
-enum class Way : std::uint8_t { None, Another, Deleted, SetWithoutIt, SetOfAnother };
+enum class Departure : std::uint8_t { None, Another, Deleted, SetWithoutIt, SetOfAnother };
 
 TEST_P(Relationship, DenyAllowsTheSaveOnceItsMembersAreElsewhereInAnyOrder)
 {
-    for (const Way way : {Way::None, Way::Another, Way::Deleted, Way::SetWithoutIt, Way::SetOfAnother})
+    for (const Departure way : {Departure::None, Departure::Another, Departure::Deleted, Departure::SetWithoutIt, Departure::SetOfAnother})
         for (const bool isDeletedFirst : {false, true})
             for (const bool isLoaded : {false, true})
                 for (const bool isInserted : {false, true}) {
@@ -234,19 +234,19 @@ TEST_P(Relationship, DenyAllowsTheSaveOnceItsMembersAreElsewhereInAnyOrder)
                         context_->deleteObject(doomed);
                     NSManagedObject* const theMap[] = {&map};
                     switch (way) {
-                    case Way::None:
+                    case Departure::None:
                         map.setValueForKey("book", Value());
                         break;
-                    case Way::Another:
+                    case Departure::Another:
                         map.setValueForKey("book", Value(&kept));
                         break;
-                    case Way::Deleted:
+                    case Departure::Deleted:
                         context_->deleteObject(map);
                         break;
-                    case Way::SetWithoutIt:
+                    case Departure::SetWithoutIt:
                         set(doomed, "items").remove(map);
                         break;
-                    case Way::SetOfAnother:
+                    case Departure::SetOfAnother:
                         set(kept, "items").set(theMap);
                         break;
                     }
@@ -254,11 +254,11 @@ TEST_P(Relationship, DenyAllowsTheSaveOnceItsMembersAreElsewhereInAnyOrder)
                         context_->deleteObject(doomed);
                     save();
                     ASSERT_FALSE(HasFatalFailure());
-                    const bool isOfAnother = way == Way::Another || way == Way::SetOfAnother;
+                    const bool isOfAnother = way == Departure::Another || way == Departure::SetOfAnother;
                     for (int look = 0; look < 2; ++look) {
                         EXPECT_THAT(texts(all("Book"), "title"), ElementsAre("kept"));
                         EXPECT_EQ(set(*all("Book").at(0), "items").count(), isOfAnother ? 1U : 0U);
-                        EXPECT_EQ(find("Map", "book == nil").size(), isOfAnother || way == Way::Deleted ? 0U : 1U);
+                        EXPECT_EQ(find("Map", "book == nil").size(), isOfAnother || way == Departure::Deleted ? 0U : 1U);
                         restart();
                     }
                     for (const std::string_view entity : {"Map", "Book"})

@@ -1,4 +1,4 @@
-#include "tests/platform/coredata/context/ConflictFixture.h"
+#include "tests/platform/coredata/context/merging/ConflictFixture.h"
 
 #include <array>
 #include <set>

@@ -1,6 +1,6 @@
 // What another writer saved meets ends of relationships that are unsaved here, and records that are gone by then.
 
-#include "tests/platform/coredata/context/ConflictFixture.h"
+#include "tests/platform/coredata/context/merging/ConflictFixture.h"
 
 namespace tarn {
 namespace {
