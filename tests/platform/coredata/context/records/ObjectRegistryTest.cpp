@@ -2,6 +2,7 @@
 #include "tests/platform/coredata/context/ContextFixture.h"
 
 #include "tarnmodel/platform/foundation/system/Log.h"
+#include "tarnmodel/platform/foundation/system/NSUUID.h"
 
 #include <array>
 #include <utility>
