@@ -6,6 +6,7 @@
 #include "tarnmodel/model/OVNoteImage.h"
 #include "tarnmodel/model/OVNoteTag.h"
 #include "tarnmodel/model/OVPassword.h"
+#include "tarnmodel/platform/foundation/system/NSUUID.h"
 #include "tests/support/StoreFixture.h"
 
 namespace tarn {
