@@ -216,7 +216,8 @@ enum class Departure : std::uint8_t { None, Another, Deleted, SetWithoutIt, SetO
 
 TEST_P(Relationship, DenyAllowsTheSaveOnceItsMembersAreElsewhereInAnyOrder)
 {
-    for (const Departure way : {Departure::None, Departure::Another, Departure::Deleted, Departure::SetWithoutIt, Departure::SetOfAnother})
+    for (const Departure way :
+        {Departure::None, Departure::Another, Departure::Deleted, Departure::SetWithoutIt, Departure::SetOfAnother})
         for (const bool isDeletedFirst : {false, true})
             for (const bool isLoaded : {false, true})
                 for (const bool isInserted : {false, true}) {
@@ -258,7 +259,8 @@ TEST_P(Relationship, DenyAllowsTheSaveOnceItsMembersAreElsewhereInAnyOrder)
                     for (int look = 0; look < 2; ++look) {
                         EXPECT_THAT(texts(all("Book"), "title"), ElementsAre("kept"));
                         EXPECT_EQ(set(*all("Book").at(0), "items").count(), isOfAnother ? 1U : 0U);
-                        EXPECT_EQ(find("Map", "book == nil").size(), isOfAnother || way == Departure::Deleted ? 0U : 1U);
+                        EXPECT_EQ(
+                            find("Map", "book == nil").size(), isOfAnother || way == Departure::Deleted ? 0U : 1U);
                         restart();
                     }
                     for (const std::string_view entity : {"Map", "Book"})
