@@ -328,6 +328,24 @@ TEST_P(Store, LetsThreadsWriteOneAfterTheOther)
     EXPECT_EQ(store.keys("Label").size(), std::size_t{kThreads * kRows});
 }
 
+TEST_P(Store, NumbersTheStateThatATransactionMadeWhateverFollows)
+{
+    const auto begin = [&] {
+        NSError error;
+        auto transaction = store->beginTransaction(&error);
+        EXPECT_TRUE(transaction) << error;
+        return transaction;
+    };
+    const auto first = begin();
+    const std::uint64_t before = first->stateNumber();
+    ASSERT_TRUE(first->commit(nullptr));
+    const std::uint64_t made = first->stateNumber();
+    EXPECT_NE(made, before);
+    ASSERT_TRUE(begin()->commit(nullptr));
+    EXPECT_EQ(first->stateNumber(), made) << "who asks has not seen what came after";
+    EXPECT_NE(store->stateNumber(), made);
+}
+
 TEST_P(Store, RefusesWritesAfterTheEndOfATransaction)
 {
     auto transaction = store->beginTransaction(nullptr);

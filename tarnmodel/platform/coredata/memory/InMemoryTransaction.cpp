@@ -26,7 +26,7 @@ StoreRow storedRow(const StoreRow& row)
 
 } // namespace
 
-InMemoryTransaction::InMemoryTransaction(InMemoryStore& store) : store_(store)
+InMemoryTransaction::InMemoryTransaction(InMemoryStore& store) : store_(store), stateNumber_(store.commits_)
 {
     store_.working_ = std::make_shared<InMemoryState>(*store_.state());
 }
@@ -47,11 +47,6 @@ void InMemoryTransaction::finish()
     finished_ = true;
     store_.working_.reset();
     store_.turn_.giveBack();
-}
-
-std::uint64_t InMemoryTransaction::stateNumber() const
-{
-    return store_.commits_;
 }
 
 bool InMemoryTransaction::insertRow(const StoreRow& row, NSError* error)
@@ -139,7 +134,7 @@ bool InMemoryTransaction::commit(NSError* error)
     }
     state().clearMissingTargets(written_);
     store_.setState(store_.working_);
-    ++store_.commits_;
+    stateNumber_ = ++store_.commits_; // before the lock is free
     finish();
     return true;
 }

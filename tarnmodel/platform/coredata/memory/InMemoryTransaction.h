@@ -14,7 +14,7 @@ public:
     InMemoryTransaction(const InMemoryTransaction&) = delete;
     InMemoryTransaction& operator=(const InMemoryTransaction&) = delete;
 
-    std::uint64_t stateNumber() const override;
+    std::uint64_t stateNumber() const override { return stateNumber_; }
     bool insertRow(const StoreRow& row, NSError* error) override;
     RowWriteResult updateRow(const StoreRow& row, PropertyMask changed, NSError* error) override;
     RowWriteResult deleteRow(
@@ -28,6 +28,7 @@ private:
     void checkUnique(const StoreRow& row);
 
     InMemoryStore& store_;
+    std::uint64_t stateNumber_;
     std::vector<NSManagedObjectID> written_;
     bool finished_ = false;
 };
