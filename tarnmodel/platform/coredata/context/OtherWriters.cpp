@@ -7,6 +7,8 @@
 
 #include <algorithm>
 #include <bit>
+#include <unordered_map>
+#include <unordered_set>
 #include <utility>
 
 namespace tarn {
