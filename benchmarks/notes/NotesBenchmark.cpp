@@ -4,6 +4,7 @@
 #include "benchmarks/support/Corpus.h"
 #include "benchmarks/support/Yardsticks.h"
 #include "tarnmodel/model/OVNote.h"
+#include "tarnmodel/model/OVNoteCaches.h"
 #include "tarnmodel/notes/OVNoteCacheLoan.h"
 
 #include <fmt/core.h>
