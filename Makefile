@@ -7,7 +7,7 @@
 SHELL := /bin/bash
 .SHELLFLAGS := -euo pipefail -c
 .DEFAULT_GOAL := help
-.PHONY: demo test test-slow test-long format format-check tidy bench asan tsan fuzz coverage reference install help clean
+.PHONY: demo test test-slow test-long format format-check tidy bench asan tsan fuzz coverage reference header-costs install help clean
 
 JOBS ?= $(shell nproc)
 PREFIX ?= /usr/local
@@ -94,6 +94,12 @@ coverage: ## the tests with coverage, as build/coverage/report/index.html
 	mkdir -p build/coverage/report
 	gcovr --root . --object-directory build/coverage --exclude 'build/' --exclude 'tests/' --exclude 'benchmarks/' \
 	  --html-details build/coverage/report/index.html --print-summary
+
+header-costs: ## what it costs to include each public header: lines, and the time of the compiler
+	@scripts/install-dependencies.sh build
+	scripts/configure.sh release
+	cmake --build --preset release --target generated/tarnmodel/model/_OVNote.h
+	@scripts/measure-headers.py build/release
 
 reference: ## the API reference of the installed headers, as build/reference/html/index.html
 	@scripts/install-dependencies.sh build reference

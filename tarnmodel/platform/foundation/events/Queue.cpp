@@ -135,7 +135,7 @@ Queue* Queue::current() noexcept
     return parking ? parking->firstMainQueue() : nullptr;
 }
 
-void Queue::setSyncWarningDelay(std::chrono::milliseconds delay) noexcept
+void setSyncWarningDelay(std::chrono::milliseconds delay) noexcept
 {
     syncWarningMilliseconds = delay.count();
 }

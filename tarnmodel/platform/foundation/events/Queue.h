@@ -46,9 +46,6 @@ public:
     /// The queue whose task this thread runs, else the main queue that this thread owns, else null.
     static Queue* current() noexcept;
 
-    /// How long a `sync` waits before it is logged; 5 seconds unless a test sets it.
-    static void setSyncWarningDelay(std::chrono::milliseconds delay) noexcept;
-
 protected:
     /// Like `async`, for a task that another thread waits for.
     virtual void enqueueAwaited(Task task) = 0;

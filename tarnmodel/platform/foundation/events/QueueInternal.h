@@ -13,6 +13,9 @@
 
 namespace tarn {
 
+/// How long a `sync` waits before it is logged: 5 seconds until set. For tests.
+void setSyncWarningDelay(std::chrono::milliseconds delay) noexcept;
+
 /// Where a thread sleeps, whatever it waits for: tasks for its main queues, or the end of a `sync`.
 class ThreadParking {
 public:

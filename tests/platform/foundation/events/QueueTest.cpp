@@ -1,5 +1,6 @@
 #include "tests/platform/foundation/events/QueueTestSupport.h"
 
+#include "tarnmodel/platform/foundation/events/QueueInternal.h"
 #include "tarnmodel/platform/foundation/values/NSException.h"
 
 #include <gmock/gmock.h>
@@ -106,7 +107,7 @@ TEST(QueueSync, ThrowsWhenTheQueueEndsFirst)
 TEST(QueueSync, SaysWhoWaitsForWhomWhenItTakesLong)
 {
     const LogRecorder log;
-    Queue::setSyncWarningDelay(20ms);
+    setSyncWarningDelay(20ms);
     const auto slow = SerialQueue::make("slow");
     const auto waiting = SerialQueue::make("waiting");
     std::promise<void> release;
@@ -114,7 +115,7 @@ TEST(QueueSync, SaysWhoWaitsForWhomWhenItTakesLong)
     waiting->async([&] { slow->sync([] {}); });
     MainQueue main;
     EXPECT_TRUE(main.runUntil([&] { return !log.lines().empty(); }, kLongEnough));
-    Queue::setSyncWarningDelay(5s); // the wait below is not what is looked at
+    setSyncWarningDelay(5s); // the wait below is not what is looked at
     release.set_value();
     waitForIdle(*waiting);
     EXPECT_THAT(log.lines(), ElementsAre("The queue \"waiting\" is still waiting for the queue \"slow\"."));

@@ -144,6 +144,19 @@ private:
         return records.empty() ? std::vector<Item>() : changes_.judged(std::move(records));
     }
 
+    /// The end of the first items for which `test` holds, which is looked for in growing steps: few items are tested
+    /// whether it is near or far.
+    template <typename Iterator, typename Test>
+    static Iterator endOfPrefix(Iterator begin, Iterator end, const Test& test)
+    {
+        std::ptrdiff_t step = 1;
+        while (step <= end - begin && test(begin[step - 1])) {
+            begin += step;
+            step *= 2;
+        }
+        return std::partition_point(begin, begin + std::min(step, end - begin), test);
+    }
+
     /// Puts each judged item in its place among the stored ones, which come in order; few of those are looked at.
     std::vector<Item> merged(std::vector<Item> stored, std::vector<Item> found) const
     {
@@ -157,15 +170,23 @@ private:
             Place place = changes_.placeOf(order, item);
             placed.emplace_back(std::move(place), std::move(item));
         }
-        std::ranges::sort(placed,
-            [&](const auto& left, const auto& right) { return changes_.comesBefore(order, left.first, right.first); });
+        const auto isBefore
+            = [&](const auto& left, const auto& right) { return changes_.comesBefore(order, left.first, right.first); };
+        // Of many only as many as are wanted can be among the first.
+        if (const std::size_t wanted = saturatingSum(fetch_.offset, fetch_.limit);
+            fetch_.limit && wanted < placed.size()) {
+            const auto end = placed.begin() + static_cast<std::ptrdiff_t>(wanted);
+            std::ranges::nth_element(placed, end, isBefore);
+            placed.erase(end, placed.end());
+        }
+        std::ranges::sort(placed, isBefore);
 
         std::vector<Item> all;
         all.reserve(stored.size() + placed.size());
         auto next = stored.begin();
         for (auto& [placeOfItem, item] : placed) {
             const Place& place = placeOfItem;
-            const auto behind = std::partition_point(next, stored.end(),
+            const auto behind = endOfPrefix(next, stored.end(),
                 [&](const Item& other) { return changes_.comesBefore(order, changes_.placeOf(order, other), place); });
             std::move(next, behind, std::back_inserter(all));
             all.push_back(std::move(item));
