@@ -1,6 +1,6 @@
 // Folding by kinds of text, beside the plain chain of ICU on the same text; bytes of source a second.
 
-#include "tarnmodel/platform/foundation/text/Folding.h"
+#include "tarnmodel/platform/foundation/text/FoldingInternal.h"
 
 #include <benchmark/benchmark.h>
 

@@ -16,8 +16,6 @@ namespace tarn {
 std::string fold(std::string_view text);
 /// The same, appended to `result`, which lets a loop keep its buffer.
 void appendFolded(std::string& result, std::string_view text);
-/// The same bytes as `fold` by ICU alone; slow. It is what the fast path is tested against.
-std::string foldByReference(std::string_view text);
 /// Grows whenever `fold` may give other bytes for some text (new rules or new Unicode data); stores keep it beside what
 /// they folded.
 int foldingVersion() noexcept;

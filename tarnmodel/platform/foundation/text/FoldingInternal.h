@@ -8,6 +8,13 @@
 #include <string>
 #include <string_view>
 
+namespace tarn {
+
+/// The same bytes as `fold` by ICU alone; slow. It is what the fast path is made from and tested against.
+std::string foldByReference(std::string_view text);
+
+} // namespace tarn
+
 namespace tarn::folding {
 
 /// Marks after a base below this code point (Latin, Greek, Cyrillic and what stands among them) are dropped.

@@ -1,7 +1,7 @@
 // The fast path against the plain chain: the same bytes for every text, however nasty.
 
 #include "tarnmodel/platform/foundation/text/AsciiCaseInternal.h"
-#include "tarnmodel/platform/foundation/text/Folding.h"
+#include "tarnmodel/platform/foundation/text/FoldingInternal.h"
 #include "tarnmodel/platform/foundation/text/UTF.h"
 #include "tests/support/LinearGrowth.h"
 

@@ -1,4 +1,4 @@
-#include "tarnmodel/platform/foundation/text/Folding.h"
+#include "tarnmodel/platform/foundation/text/FoldingInternal.h"
 #include "tarnmodel/platform/foundation/text/UTF.h"
 
 #include <gtest/gtest.h>

@@ -43,12 +43,14 @@ public:
     void unload(NSManagedObject& record, const NSRelationshipDescription& relationship);
     /// Reads stored members of a record's sets again at next use; its unsaved additions and removals stay.
     void forgetStoredMembers(NSManagedObject& record);
+    /// An unsaved record has another key than `former` now: who names it names it by that one.
+    void followKey(const NSManagedObject& record, std::int64_t former);
+
+    // When others have saved (RelationshipMerging.cpp) --------------------------------------------------------------
     /// Records that name one of these name nothing now; their rows say so already.
     void dropReferences(const KeysOfEntities& gone);
     /// What the record holds of relationships that other records' rows say is read again at next use.
     void forgetEndsWithoutColumn(NSManagedObject& record);
-    /// An unsaved record has another key than `former` now: who names it names it by that one.
-    void followKey(const NSManagedObject& record, std::int64_t former);
     /// A merge gave a to-one of the record another target than this context: the ends that this context had moved say
     /// what is stored. `own` and `former`: the record's values before the merge, and before its unsaved changes.
     void forgetTarget(NSManagedObject& record, const NSRelationshipDescription& relationship, const PropertyValues& own,

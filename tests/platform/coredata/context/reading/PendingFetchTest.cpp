@@ -1,6 +1,8 @@
 #include "tests/platform/coredata/context/ContextFixture.h"
 
+#include <algorithm>
 #include <limits>
+#include <random>
 
 namespace tarn {
 namespace {
@@ -59,6 +61,70 @@ TEST_P(FetchWithPendingChanges, SortsAndLimitsTheMergedResult)
     EXPECT_THAT(texts(fetch(wanted), "title"), ElementsAre("new"));
     wanted.fetchOffset = 9;
     EXPECT_THAT(fetch(wanted), IsEmpty());
+}
+
+/// Whether few or most of what a page shows is unsaved, each page is a piece of the whole list.
+TEST_P(FetchWithPendingChanges, GivesEachPageOfTheWholeList)
+{
+    for (const int saved : {0, 3, 60}) {
+        for (const int unsaved : {1, 60}) {
+            SCOPED_TRACE(testing::Message() << saved << " saved, " << unsaved << " not");
+            restart();
+            for (NSManagedObject* former : all("Book"))
+                context_->deleteObject(*former);
+            save();
+            std::mt19937_64 random(saved * 100 + unsaved);
+            const auto some = [&] { return static_cast<std::int64_t>(random() % 40); };
+            for (int i = 0; i < saved; ++i)
+                book("saved", some());
+            save();
+            for (int i = 0; i < unsaved; ++i)
+                book("unsaved", some());
+            for (NSManagedObject* changed : find("Book", "title == 'saved' AND pages < 10"))
+                changed->setValueForKey("pages", Value(some()));
+
+            for (const bool ascending : {true, false}) {
+                NSFetchRequest wanted = request("Book", {{"pages", ascending}});
+                const auto list = fetch(wanted);
+                ASSERT_EQ(list.size(), static_cast<std::size_t>(saved + unsaved));
+                const auto pages
+                    = [](const NSManagedObject* book) { return book->storedValueForKey("pages").asInteger(); };
+                ASSERT_TRUE(ascending ? std::ranges::is_sorted(list, {}, pages)
+                                      : std::ranges::is_sorted(list, std::ranges::greater(), pages));
+                for (const std::size_t limit : {1U, 5U, 59U, 200U}) {
+                    for (const std::size_t offset : {0U, 1U, 58U, 130U}) {
+                        wanted.fetchLimit = limit;
+                        wanted.fetchOffset = offset;
+                        const std::size_t first = std::min(offset, list.size());
+                        const std::size_t end = std::min(first + limit, list.size());
+                        EXPECT_EQ(fetch(wanted),
+                            std::vector<NSManagedObject*>(list.begin() + static_cast<std::ptrdiff_t>(first),
+                                list.begin() + static_cast<std::ptrdiff_t>(end)));
+                        EXPECT_EQ(context_->countForFetchRequest(wanted), end - first);
+                    }
+                }
+            }
+        }
+    }
+}
+
+TEST_P(FetchWithPendingChanges, CountsWithoutLoadingRecords)
+{
+    for (std::int64_t i = 0; i < 100; ++i)
+        book("b" + std::to_string(i), i);
+    save();
+    restart();
+    NSManagedObject& lower = *find("Book", "title == 'b70'").at(0);
+    NSManagedObject& gone = *find("Book", "title == 'b80'").at(0);
+    lower.setValueForKey("pages", Value(2));
+    context_->deleteObject(gone);
+    book("new", 60);
+
+    NSFetchRequest counting = request("Book");
+    counting.predicate = NSPredicate::predicateWithFormat("pages >= 50");
+    EXPECT_EQ(context_->countForFetchRequest(counting), 49U); // 50 that are stored, less two, and the new one
+    EXPECT_EQ(context_->countForFetchRequest(request("Book")), 100U);
+    EXPECT_LE(context_->registeredObjects().size(), 3U);
 }
 
 TEST_P(FetchWithPendingChanges, TakesTheLargestNumbersForAsManyAsThereAre)
