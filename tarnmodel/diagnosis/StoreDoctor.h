@@ -38,6 +38,7 @@ public:
         SavingRecords,
         RepairingSearchIndex
     };
+    /// How many findings of each check `examine` keeps unless it is told otherwise.
     static constexpr std::size_t findingsKeptByDefault = 20;
 
     /// Raises `NSInvalidArgumentException` for a context that has unsaved changes or a parent, or no store.
@@ -52,6 +53,7 @@ public:
     /// file is refused with `StoreErrorCorrupt`, since writing could make it worse.
     std::optional<StoreRepairs> repair(const StoreExamination& examination, NSError* error = nullptr);
 
+    /// What it is at; after a failure what it was at.
     Step step() const noexcept { return step_; }
 
 private:

@@ -29,6 +29,7 @@ inline constexpr std::size_t kStoreCheckCount = 9;
 
 /// One thing that is amiss in a store.
 struct StoreFinding {
+    /// What is amiss.
     enum class Kind : std::uint8_t {
         DamagedFile,       ///< `description` says how
         SearchIndexAmiss,  ///< `description` says how
@@ -49,7 +50,7 @@ struct StoreFinding {
         UnusableTagTitle,  ///< no text can give a tag this name
     };
 
-    Kind kind = Kind::DamagedFile;
+    Kind kind = Kind::DamagedFile; ///< what is amiss
     /// The note or tag; none where there is none.
     std::optional<NSManagedObjectID> objectID;
     std::optional<std::string> uniqueIdentifier;
@@ -63,6 +64,7 @@ struct StoreFinding {
     /// What the store says of its file and index, for people.
     std::string description;
 
+    /// The question that it answers.
     StoreCheck check() const noexcept;
     /// Whether `StoreDoctor::repair` makes it good: all but damage of the file.
     bool isRepairable() const noexcept { return kind != Kind::DamagedFile; }
@@ -70,8 +72,8 @@ struct StoreFinding {
 
 /// What one check found: how many findings, and the first of them.
 struct StoreCheckResult {
-    std::size_t count = 0;
-    std::vector<StoreFinding> findings;
+    std::size_t count = 0;              ///< all that there are
+    std::vector<StoreFinding> findings; ///< as many as the examination keeps
 };
 
 /// What an examination found.
@@ -79,11 +81,14 @@ struct StoreExamination {
     std::array<StoreCheckResult, kStoreCheckCount> results; ///< by `StoreCheck`
     std::vector<NSManagedObjectID> notesToDerive;           ///< those whose fields are not what their texts say
 
+    /// What that check found.
     const StoreCheckResult& resultOf(StoreCheck check) const noexcept
     {
         return results[static_cast<std::size_t>(check)];
     }
+    /// Whether the file itself is unsound: then nothing is repaired.
     bool fileIsDamaged() const noexcept { return resultOf(StoreCheck::Integrity).count > 0; }
+    /// Whether nothing was found.
     bool isSound() const noexcept;
 };
 
@@ -92,6 +97,7 @@ struct StoreRepairs {
     std::size_t tags = 0;         ///< renamed, united with another or deleted, and protected notes given tags
     std::size_t notes = 0;        ///< derived anew
     std::size_t indexedTexts = 0; ///< that the index of texts did not know, or knew wrongly
+    /// Whether nothing had to be changed.
     bool isEmpty() const noexcept { return tags + notes + indexedTexts == 0; }
 };
 
