@@ -10,10 +10,10 @@ namespace {
 /// More rows than these are not looked up one by one where most of the table is wanted.
 constexpr std::size_t kMostLookedUp = 1000;
 
-using HeldRecords = std::vector<std::pair<std::int64_t, NSManagedObject*>>; ///< by key
+using RecordsByKey = std::vector<std::pair<std::int64_t, NSManagedObject*>>; ///< by key
 
 /// By key, ascending. Where most rows are held, walking through the table takes half the time of looking each one up.
-bool readVersions(RowStore& store, const NSEntityDescription& root, const HeldRecords& held,
+bool readVersions(RowStore& store, const NSEntityDescription& root, const RecordsByKey& held,
     std::vector<StoreRow>& rows, NSError* error)
 {
     const auto highest = static_cast<std::size_t>(held.back().first);
@@ -41,7 +41,7 @@ bool compareVersions(RowStore& store, const NSEntityDescription& root, const std
 {
     if (records.empty())
         return true;
-    HeldRecords held;
+    RecordsByKey held;
     held.reserve(records.size());
     for (NSManagedObject* record : records)
         held.emplace_back(record->objectID().key(), record);
