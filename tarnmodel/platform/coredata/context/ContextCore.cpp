@@ -23,9 +23,8 @@ ContextCore::ContextCore(NSManagedObjectContext& owner, NSManagedObjectContext::
     : privateQueue_(type == NSManagedObjectContext::ConcurrencyType::PrivateQueue
             ? SerialQueue::make("NSManagedObjectContext")
             : nullptr),
-      context_(owner), records(owner, *this, privateQueue_ ? *privateQueue_ : MainQueue::main()),
-      relationships(records), faulting(records, relationships), otherWriters(records, *this),
-      observedValues(records, faulting)
+      records(owner, *this, privateQueue_ ? *privateQueue_ : MainQueue::main()), relationships(records),
+      faulting(records, relationships), otherWriters(records, *this), observedValues(records, faulting)
 { }
 
 ContextCore::~ContextCore()
@@ -113,7 +112,7 @@ NSManagedObject& ContextCore::insert(const NSEntityDescription& entity)
 {
     assertOnQueue();
     NSManagedObject& object = records.registry.add(
-        RecordAccess::make(context_, NSManagedObjectID::makeTemporary(store().identity(), entity)));
+        RecordAccess::make(records.context, NSManagedObjectID::makeTemporary(store().identity(), entity)));
     RecordAccess::fill(object, defaultValues(entity), 0);
     RecordAccess::markInserted(object, nextOrder_++);
     records.tracker.noteInserted(object);
@@ -145,7 +144,7 @@ NSManagedObject* ContextCore::adoptInsertion(
         return nullptr;
     NSManagedObject& object = known
         ? *known
-        : records.registry.add(RecordAccess::make(context_, NSManagedObjectID(store().identity(), entity, key)));
+        : records.registry.add(RecordAccess::make(records.context, NSManagedObjectID(store().identity(), entity, key)));
     RecordAccess::fill(object, std::move(values), 0);
     RecordAccess::markInserted(object, nextOrder_++);
     RecordDetails& details = RecordAccess::details(object);
@@ -252,7 +251,7 @@ void ContextCore::processPendingChanges()
     const RecordsInHand inHand(*this);
     const std::uint64_t resets = resetCount_;
     NSNotificationCenter::defaultCenter().postNotification(
-        NSManagedObjectContextObjectsDidChangeNotification, &context_, std::any(changes));
+        NSManagedObjectContextObjectsDidChangeNotification, &records.context, std::any(changes));
     if (resets != resetCount_)
         return;
     for (const auto* objects : {&changes.inserted, &changes.updated, &changes.deleted, &changes.refreshed})

@@ -20,7 +20,6 @@ namespace tarn {
 /// A context from inside: its parts, put together, and what takes more than one of them.
 class ContextCore final : public ContextOperations, public OtherWriters::Host {
     std::shared_ptr<Queue> privateQueue_; ///< null for a context of the main queue
-    NSManagedObjectContext& context_;
 
 public:
     ContextCore(NSManagedObjectContext& owner, NSManagedObjectContext::ConcurrencyType type);

@@ -53,7 +53,14 @@ public:
                 keys.push_back(key);
         return keys;
     }
-    std::size_t unsureCount(const NSEntityDescription& root) const { return snapshot_.entriesOfRoot(root).size(); }
+    std::size_t unsureCount(const NSEntityDescription& root, PropertyMask properties) const
+    {
+        const auto isUnsure = [properties](const auto& keyAndEntry) {
+            const UnsavedSnapshot::Entry& entry = *keyAndEntry.second;
+            return entry.isDeleted || (!entry.isInserted && (entry.changed & properties));
+        };
+        return static_cast<std::size_t>(std::ranges::count_if(snapshot_.entriesOfRoot(root), isUnsure));
+    }
     std::int64_t storedKey(Record record) const { return record; }
     /// Told when its row is read.
     bool isOfEntity(Record) const { return true; }

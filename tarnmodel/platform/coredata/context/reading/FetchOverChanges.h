@@ -31,18 +31,15 @@ template <typename T> void cut(std::vector<T>& values, std::size_t offset, std::
 /// a property that predicate or order read, or reached by these over a changed record) are judged in memory by the
 /// same predicate. Order, offset and limit hold for both together.
 ///
-/// `Changes` knows the changes and reads the records:
-///
-///     Item        a record of the answer
-///     Record      a record that may be changed, hashable
-///     eachChanged(root, visit)         visit(record, properties) for each changed record of the chain that is not
-///     deleted related(record, relationship)    the records at the other end, changes included deletedKeys(root) of
-///     stored records that are deleted unsureCount(root)                how many stored records may be changed or
-///     deleted storedKey(record)                0 for one that the store does not have isOfEntity(record) whether the
-///     fetch is for such records itemsFromStore(fetch), countInStore(fetch) recordOf(item), changeOf(item),
-///     isDeleted(item) candidates(root, properties)     inserted records, and those with a change of these, that the
-///     predicate may find judged(records)                  the items of those that exist, are to be found, and that the
-///     predicate finds Order(descriptors, entity), placeOf(order, item), comesBefore(order, place, place)
+/// `Changes` knows the changes and reads the records. An `Item` is a record of the answer; a `Record` names one that
+/// may be changed:
+/// - `eachChanged` visits the records of a chain that are changed and not deleted, each with its changed properties.
+/// - `related` gives the records at the other end, changes included.
+/// - `unsureCount` is at least the number of stored records that are deleted or changed in one of the properties.
+/// - `storedKey` is 0 for a record that the store does not have.
+/// - `candidates` are inserted records, and those changed in one of the properties, that the predicate may find.
+/// - `judged` gives, of these records, the items of those that are there and that the fetch is for.
+/// - `Order`, `placeOf` and `comesBefore` compare items.
 template <typename Changes> class FetchOverChanges {
 public:
     using Item = typename Changes::Item;
@@ -65,7 +62,7 @@ public:
         // Room for every stored record that may have to be dropped from the answer.
         if (fetch_.limit)
             asked.limit = saturatingSum(saturatingSum(fetch_.offset, fetch_.limit),
-                saturatingSum(reached_.size(), changes_.unsureCount(root_)));
+                saturatingSum(reached_.size(), changes_.unsureCount(root_, relevant_)));
         std::vector<Item> stored = changes_.itemsFromStore(asked);
         std::erase_if(stored, [&](const Item& item) { return isAffected(item); });
         std::vector<Item> all = merged(std::move(stored), judged());

@@ -66,7 +66,8 @@ public:
                     keys.push_back(record->objectID().key());
         return keys;
     }
-    std::size_t unsureCount(const NSEntityDescription& root) const
+    /// Without looking at each, which would cost every fetch of a long edit.
+    std::size_t unsureCount(const NSEntityDescription& root, PropertyMask) const
     {
         const PendingRecords* pending = records_.tracker.pending(root);
         return pending ? pending->updated.size() + pending->deleted.size() : 0;
