@@ -7,7 +7,7 @@
 #   bin/tarn                where the tools were built
 include(CMakePackageConfigHelpers)
 
-set(TARN_INSTALL_LIBRARIES TarnModel tarn_coredata tarn_cloudkit tarn_predicate tarn_corvel tarn_foundation)
+set(TARN_INSTALL_LIBRARIES TarnModel tarn_coredata tarn_cloudkit tarn_imaging tarn_predicate tarn_corvel tarn_foundation)
 set(TARN_PACKAGE_FOLDER "${CMAKE_INSTALL_LIBDIR}/cmake/TarnModel")
 
 foreach(library IN LISTS TARN_INSTALL_LIBRARIES)

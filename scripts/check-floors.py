@@ -19,13 +19,16 @@ LIBRARY = "tarnmodel"
 FOUNDATION = f"{LIBRARY}/platform/foundation"
 COREDATA = f"{LIBRARY}/platform/coredata"
 CORVEL = f"{LIBRARY}/corvel"
+IMAGING = f"{LIBRARY}/platform/imaging"
 FLOORS = [
     {f"{FOUNDATION}/values"},
     {f"{FOUNDATION}/text"},
     {f"{FOUNDATION}/system"},
     {f"{FOUNDATION}/time"},
     {f"{FOUNDATION}/events"},
-    {f"{LIBRARY}/platform/predicate", f"{LIBRARY}/platform/imaging", f"{LIBRARY}/platform/cloudkit", CORVEL},
+    {f"{LIBRARY}/platform/predicate", IMAGING, f"{LIBRARY}/platform/cloudkit", CORVEL},
+    {f"{IMAGING}/resampling"},
+    {f"{IMAGING}/codecs"},
     {f"{CORVEL}/scanning"},
     {f"{CORVEL}/blocks"},
     {f"{CORVEL}/inlines"},
@@ -58,7 +61,7 @@ FLOORS = [
 # Rooms that may include nothing but what is named here (with what lies below it, and themselves), whatever their floor.
 STANDS_ALONE_ON = {
     f"{LIBRARY}/platform/predicate": {FOUNDATION},
-    f"{LIBRARY}/platform/imaging": {FOUNDATION},
+    IMAGING: {FOUNDATION, IMAGING},
     f"{LIBRARY}/platform/cloudkit": {FOUNDATION},
     FOUNDATION: {FOUNDATION},
     COREDATA: {FOUNDATION, f"{LIBRARY}/platform/predicate", COREDATA},
@@ -67,7 +70,7 @@ STANDS_ALONE_ON = {
 }
 
 # Below the face of these lie their own rooms: nobody includes them from outside, and they are not installed.
-FACES = (COREDATA, CORVEL)
+FACES = (COREDATA, CORVEL, IMAGING)
 # Who may look behind a face all the same.
 LOOKS_BEHIND = {"tests", "benchmarks", "fuzz", "tools/modelgen"}
 
@@ -76,7 +79,7 @@ PRIVATE_ROOMS = {"tools/modelgen", "tools/tarn", "examples", "tests", "benchmark
 
 # Headers of other libraries: they stay in .cpp files and in *Internal.h.
 THIRD_PARTY = re.compile(
-    r"^(unicode/|sqlite3|nlohmann/|fmt/|CLI/|CLI11|sodium|archive|png|jpeglib|webp/|gif_lib|pixman|cmark|gtest|gmock|rapidcheck|benchmark/)"
+    r"^(unicode/|sqlite3|nlohmann/|fmt/|CLI/|CLI11|sodium|archive|png|jpeglib|webp/|gif_lib|tiffio|libheif/|pixman|cmark|gtest|gmock|rapidcheck|benchmark/)"
 )
 
 # A generator holds the includes of what it writes in raw strings: they are not its own.

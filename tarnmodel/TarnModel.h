@@ -36,6 +36,14 @@
 #include "tarnmodel/platform/coredata/ValueLength.h"
 #include "tarnmodel/platform/predicate/NSPredicate.h"
 
+// Images.
+#include "tarnmodel/platform/imaging/Bitmap.h"
+#include "tarnmodel/platform/imaging/ImageDrawing.h"
+#include "tarnmodel/platform/imaging/ImageEncoding.h"
+#include "tarnmodel/platform/imaging/ImageFile.h"
+#include "tarnmodel/platform/imaging/ImageLimits.h"
+#include "tarnmodel/platform/imaging/ImageSamples.h"
+
 // What the server keeps of a record.
 #include "tarnmodel/platform/cloudkit/CKRecord.h"
 #include "tarnmodel/platform/cloudkit/CKRecordZoneID.h"

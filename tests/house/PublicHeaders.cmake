@@ -1,8 +1,8 @@
 # Every public header compiles when it is the first and only include: one source for each, in one object library that
 # only this case builds.
-# What lies below the face of the object store or of the parser is their own.
+# What lies below the face of the object store, of the parser or of images is their own.
 file(GLOB_RECURSE headers CONFIGURE_DEPENDS RELATIVE "${PROJECT_SOURCE_DIR}" "${PROJECT_SOURCE_DIR}/tarnmodel/*.h")
-list(FILTER headers EXCLUDE REGEX "/(coredata|corvel)/[^/]+/")
+list(FILTER headers EXCLUDE REGEX "/(coredata|corvel|imaging)/[^/]+/")
 list(FILTER headers EXCLUDE REGEX "Internal\\.h$")
 
 set(sources "")

@@ -112,7 +112,7 @@ class Documents(unittest.TestCase):
         rooms = {folder for folder in FOLDERS if folder.startswith("tarnmodel/")}
         for room in rooms:
             with self.subTest(room=room):
-                name = re.sub(r"^tarnmodel/(platform/(foundation|coredata)/|corvel/)?", "", room)
+                name = re.sub(r"^tarnmodel/(platform/(foundation|coredata|imaging)/|corvel/)?", "", room)
                 self.assertTrue(name in rows or room in ("tarnmodel/platform", ), f"{room} is not on the map")
 
     def test_commands_are_there(self):
