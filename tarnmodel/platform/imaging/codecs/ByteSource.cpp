@@ -1,0 +1,127 @@
+// All that images ask of the operating system.
+
+#include "tarnmodel/platform/imaging/codecs/ByteSource.h"
+
+#include "tarnmodel/platform/foundation/values/NSError.h"
+#include "tarnmodel/platform/imaging/ImageFile.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <system_error>
+#include <unistd.h>
+
+namespace tarn {
+
+namespace {
+
+class Descriptor {
+public:
+    explicit Descriptor(int descriptor) : descriptor_(descriptor) { }
+    ~Descriptor()
+    {
+        if (descriptor_ >= 0)
+            ::close(descriptor_);
+    }
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+
+    int get() const { return descriptor_; }
+
+private:
+    int descriptor_;
+};
+
+class FileBytes : public ByteSource {
+public:
+    FileBytes(int descriptor, std::uint64_t size) : descriptor_(descriptor), size_(size) { }
+
+    std::uint64_t size() const override { return size_; }
+
+    std::size_t readAt(std::uint64_t offset, std::span<std::uint8_t> target) const override
+    {
+        std::size_t count = 0;
+        while (count < target.size() && offset + count < size_) {
+            const ssize_t got = ::pread(
+                descriptor_.get(), target.data() + count, target.size() - count, static_cast<off_t>(offset + count));
+            if (got < 0 && errno == EINTR)
+                continue;
+            if (got <= 0)
+                break;
+            count += static_cast<std::size_t>(got);
+        }
+        return count;
+    }
+
+private:
+    Descriptor descriptor_;
+    std::uint64_t size_;
+};
+
+class HeldBytes : public ByteSource {
+public:
+    explicit HeldBytes(std::span<const std::uint8_t> bytes) : bytes_(bytes) { }
+
+    std::uint64_t size() const override { return bytes_.size(); }
+
+    std::size_t readAt(std::uint64_t offset, std::span<std::uint8_t> target) const override
+    {
+        const auto rest = bytes_.subspan(static_cast<std::size_t>(std::min<std::uint64_t>(offset, bytes_.size())));
+        const std::size_t count = std::min(rest.size(), target.size());
+        std::copy_n(rest.begin(), count, target.begin());
+        return count;
+    }
+
+private:
+    std::span<const std::uint8_t> bytes_;
+};
+
+NSError fileError(ImagingErrorCode code, const char* action, const std::filesystem::path& path, int number)
+{
+    return NSError(TarnImagingErrorDomain, code,
+        fmt::format("Cannot {} {}: {}.", action, path.string(), std::generic_category().message(number)));
+}
+
+} // namespace
+
+std::unique_ptr<ByteSource> openFile(const std::filesystem::path& path, NSError* error)
+{
+    // Without O_NONBLOCK a named pipe would wait for somebody to write.
+    const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    struct stat status = {};
+    int failure = descriptor < 0 || ::fstat(descriptor, &status) != 0 ? errno : 0;
+    if (failure == 0 && !S_ISREG(status.st_mode))
+        failure = S_ISDIR(status.st_mode) ? EISDIR : EINVAL;
+    if (failure == 0)
+        return std::make_unique<FileBytes>(descriptor, static_cast<std::uint64_t>(status.st_size));
+    if (descriptor >= 0)
+        ::close(descriptor);
+    assignError(error, fileError(ImagingErrorCannotRead, "read", path, failure));
+    return nullptr;
+}
+
+std::unique_ptr<ByteSource> sourceOfBytes(std::span<const std::uint8_t> bytes)
+{
+    return std::make_unique<HeldBytes>(bytes);
+}
+
+bool writeFile(const std::filesystem::path& path, std::span<const std::uint8_t> bytes, NSError* error)
+{
+    const Descriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
+    bool isWritten = file.get() >= 0;
+    while (isWritten && !bytes.empty()) {
+        const ssize_t count = ::write(file.get(), bytes.data(), bytes.size());
+        if (count > 0)
+            bytes = bytes.subspan(static_cast<std::size_t>(count));
+        else
+            isWritten = count < 0 && errno == EINTR;
+    }
+    if (!isWritten)
+        assignError(error, fileError(ImagingErrorCannotWrite, "write", path, errno));
+    return isWritten;
+}
+
+} // namespace tarn
