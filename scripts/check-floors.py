@@ -23,6 +23,7 @@ IMAGING = f"{LIBRARY}/platform/imaging"
 FLOORS = [
     {f"{FOUNDATION}/values"},
     {f"{FOUNDATION}/text"},
+    {f"{FOUNDATION}/filetypes"},
     {f"{FOUNDATION}/system"},
     {f"{FOUNDATION}/time"},
     {f"{FOUNDATION}/events"},

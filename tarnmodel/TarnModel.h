@@ -6,6 +6,7 @@
 #include "tarnmodel/platform/foundation/events/NSNotificationCenter.h"
 #include "tarnmodel/platform/foundation/events/NSProgress.h"
 #include "tarnmodel/platform/foundation/events/Queue.h"
+#include "tarnmodel/platform/foundation/filetypes/UTType.h"
 #include "tarnmodel/platform/foundation/system/Environment.h"
 #include "tarnmodel/platform/foundation/system/Log.h"
 #include "tarnmodel/platform/foundation/system/NSUUID.h"
