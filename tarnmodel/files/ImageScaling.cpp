@@ -1,0 +1,39 @@
+#include "tarnmodel/files/ImageScaling.h"
+
+#include "tarnmodel/platform/imaging/ImageLimits.h"
+
+#include <algorithm>
+#include <cstdint>
+
+namespace tarn {
+
+Bitmap canvasForDrawing(const ScaledDrawing& drawing)
+{
+    const ImageLimits limits = ImageLimits::current();
+    const auto [width, height] = drawing.canvas;
+    const std::int64_t mostPixels = std::min(limits.pixels, limits.bufferedPixels);
+    if (width > limits.side || height > limits.side || width * height > mostPixels)
+        return {};
+    return Bitmap(static_cast<std::int32_t>(width), static_cast<std::int32_t>(height), Bitmap::Alpha::Premultiplied);
+}
+
+Bitmap ovCreateScaledCGImageFromCGImage(
+    const Bitmap& image, PixelSize asked, const ImageFitting& fitting, const DrawingOptions& drawing)
+{
+    const auto scaled = scaledDrawing({image.width(), image.height()}, asked, fitting);
+    if (!scaled)
+        return {};
+    if (scaled->isCopy)
+        return image;
+    Bitmap canvas = canvasForDrawing(*scaled);
+    if (!canvas.isEmpty())
+        drawImage(image, canvas, scaled->x, scaled->top(), scaled->width, scaled->height, drawing);
+    return canvas;
+}
+
+Bitmap fixOrientation(Bitmap image)
+{
+    return image;
+}
+
+} // namespace tarn
