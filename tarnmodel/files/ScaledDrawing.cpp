@@ -1,5 +1,6 @@
 #include "tarnmodel/files/ScaledDrawing.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -38,6 +39,14 @@ ScaledSize scaledSize(PixelSize picture, PixelSize asked, bool byWidth)
 }
 
 } // namespace
+
+std::int64_t wholePixels(double length) noexcept
+{
+    if (std::isnan(length))
+        return 0;
+    constexpr double kLeast = std::numeric_limits<std::int32_t>::min();
+    return static_cast<std::int64_t>(std::clamp(length, kLeast, static_cast<double>(kLongestSide)));
+}
 
 std::optional<ScaledDrawing> scaledDrawing(PixelSize picture, PixelSize asked, const ImageFitting& fitting)
 {

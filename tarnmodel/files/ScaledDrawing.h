@@ -13,6 +13,9 @@ struct PixelSize {
     friend bool operator==(const PixelSize&, const PixelSize&) = default;
 };
 
+/// A length without its fraction, at most 2^31 - 1 and at least -2^31; 0 for what is not a number.
+std::int64_t wholePixels(double length) noexcept;
+
 /// How a picture comes into the size that was asked for. With neither `contain` nor `cover` the canvas is as large as
 /// the picture comes out; with one of them it has the size that was asked for.
 struct ImageFitting {

@@ -1,0 +1,128 @@
+#include "tarnmodel/files/OVThumbFileManager.h"
+#include "tarnmodel/files/ScaledDrawing.h"
+#include "tarnmodel/files/ThumbDraft.h"
+#include "tarnmodel/files/ThumbDrawing.h"
+#include "tarnmodel/files/ThumbStamp.h"
+#include "tarnmodel/platform/foundation/events/Queue.h"
+#include "tarnmodel/platform/foundation/system/Log.h"
+#include "tarnmodel/platform/foundation/values/NSError.h"
+#include "tarnmodel/platform/imaging/ImageEncoding.h"
+#include "tarnmodel/platform/imaging/ImageFile.h"
+
+#include <fmt/format.h>
+
+#include <new>
+#include <system_error>
+#include <utility>
+
+namespace tarn {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+std::nullopt_t fail(NSError* error, std::string_view text)
+{
+    assignError(error, NSError("Tarn Model", 0, text));
+    return std::nullopt;
+}
+
+OVThumbOptions overDefaults(const OVThumbOptions& options)
+{
+    OVThumbOptions all = OVThumbFileManager::defaultThumbOptions();
+    const auto lay = [](auto& value, const auto& given) {
+        if (given)
+            value = given;
+    };
+    lay(all.preserveRatio, options.preserveRatio);
+    lay(all.contain, options.contain);
+    lay(all.cover, options.cover);
+    lay(all.antialias, options.antialias);
+    lay(all.xAlign, options.xAlign);
+    lay(all.yAlign, options.yAlign);
+    lay(all.trimTopBottomTransparentPixels, options.trimTopBottomTransparentPixels);
+    lay(all.trimTransparentPixelsHorizontalMargin, options.trimTransparentPixelsHorizontalMargin);
+    lay(all.backgroundColor, options.backgroundColor);
+    return all;
+}
+
+bool encode(const Bitmap& bitmap, std::string_view thumbName, const fs::path& file, NSError* error)
+{
+    return thumbName.ends_with(".jpg") ? writeJPEG(bitmap, file, error) : writePNG(bitmap, file, error);
+}
+
+std::optional<fs::path> makeThumb(
+    const fs::path& picture, PixelSize size, const OVThumbOptions& options, const fs::path& destination, NSError* error)
+{
+    if (!stateOfSource(picture))
+        return fail(error, fmt::format("\"{}\" is no file.", picture.string()));
+    // The draft is there before the picture is read: whoever deletes the thumbnails meanwhile deletes it too.
+    const std::string name = destination.filename().string();
+    ThumbDraft draft(destination.parent_path(), name);
+    if (!draft.isThere()) {
+        logMessage(fmt::format("Failed to create CGImageDestination for {}", destination.string()));
+        return fail(error, fmt::format("No file can be made in \"{}\".", destination.parent_path().string()));
+    }
+    std::optional<Bitmap> thumb;
+    const auto source = readInOneState(
+        picture, [&] { return (thumb = drawThumb(picture, size, options, error)).has_value(); }, error);
+    if (!source)
+        return std::nullopt;
+    const auto failToWrite = [&] {
+        logMessage(fmt::format("Failed to write image to {}", destination.string()));
+        return std::nullopt;
+    };
+    if (!encode(*thumb, name, draft.path(), error))
+        return failToWrite();
+    if (const std::error_code failure = draft.publish(*source, destination)) {
+        fail(error, fmt::format("\"{}\" cannot be written: {}.", destination.string(), failure.message()));
+        return failToWrite();
+    }
+    return destination;
+}
+
+} // namespace
+
+std::optional<fs::path> OVThumbFileManager::makeThumbForImageURL(
+    const fs::path& imageURL, OVThumbSize thumbSize, const OVThumbOptions& options, NSError* error) const
+{
+    const PixelSize size = {wholePixels(thumbSize.width), wholePixels(thumbSize.height)};
+    const fs::path destination = baseURL_ / thumbNameForImageURL(imageURL, thumbSize, options);
+    try {
+        return makeThumb(imageURL, size, overDefaults(options), destination, error);
+    } catch (const std::bad_alloc&) {
+        return fail(error, fmt::format("There is not enough memory for a thumbnail of \"{}\".", imageURL.string()));
+    }
+}
+
+// The main queue is asked for here: where it was not yet used, the thread that asks becomes its owner.
+void OVThumbFileManager::makeThumbForImageURL(
+    const fs::path& imageURL, OVThumbSize thumbSize, const OVThumbOptions& options, ThumbHandler success) const
+{
+    GlobalQueue::shared().async([self = shared_from_this(), imageURL, thumbSize, options, success = std::move(success),
+                                    &main = MainQueue::main()] {
+        auto url = self->makeThumbForImageURL(imageURL, thumbSize, options);
+        main.async([url = std::move(url), success] { success(url); });
+    });
+}
+
+void OVThumbFileManager::makeThumbForImageURL(
+    const fs::path& imageURL, OVThumbSize thumbSize, ThumbHandler success) const
+{
+    makeThumbForImageURL(imageURL, thumbSize, {}, std::move(success));
+}
+
+void OVThumbFileManager::thumbForImageURL(
+    const fs::path& imageURL, OVThumbSize thumbSize, const OVThumbOptions& options, ImageHandler success) const
+{
+    GlobalQueue::shared().async([self = shared_from_this(), imageURL, thumbSize, options, success = std::move(success),
+                                    &main = MainQueue::main()] {
+        auto url = self->thumbURLForImageURL(imageURL, thumbSize, options);
+        if (!url)
+            url = self->makeThumbForImageURL(imageURL, thumbSize, options);
+        auto image = url ? loadImage(*url) : std::nullopt;
+        main.async([url = std::move(url), image = std::move(image), success] { success(url, image); });
+    });
+}
+
+} // namespace tarn

@@ -1,0 +1,107 @@
+#include "tarnmodel/files/OVThumbFileManager.h"
+
+#include "tarnmodel/files/OVLocalFileManager.h"
+#include "tarnmodel/files/PrivateFolder.h"
+#include "tarnmodel/files/SHA1.h"
+#include "tarnmodel/files/ThumbDraft.h"
+#include "tarnmodel/files/ThumbStamp.h"
+#include "tarnmodel/platform/foundation/values/NSDate.h"
+
+#include <system_error>
+#include <utility>
+#include <vector>
+
+namespace tarn {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+struct SharedManagers {
+    std::mutex mutex;
+    std::map<fs::path, std::shared_ptr<OVThumbFileManager>> byFolder;
+};
+
+/// Never destroyed: threads may still ask when the process ends.
+SharedManagers& sharedManagers()
+{
+    static auto* const instance = new SharedManagers;
+    return *instance;
+}
+
+void removeItemsBeginningWith(const fs::path& folder, std::string_view beginning)
+{
+    std::vector<fs::path> items;
+    std::error_code failure;
+    for (fs::directory_iterator item(folder, failure), end; !failure && item != end; item.increment(failure))
+        if (item->path().filename().native().starts_with(beginning))
+            items.push_back(item->path());
+    for (const fs::path& item : items)
+        fs::remove_all(item, failure);
+}
+
+} // namespace
+
+OVThumbFileManager::OVThumbFileManager(fs::path baseURL) : baseURL_(std::move(baseURL)) { }
+
+// A component names another folder once the application has another identity, as in tests.
+std::shared_ptr<OVThumbFileManager> OVThumbFileManager::thumbFileManagerForPathComponent(std::string_view component)
+{
+    SharedManagers& managers = sharedManagers();
+    const std::lock_guard lock(managers.mutex);
+    auto& manager = managers.byFolder[folderURLForPathComponent(component)];
+    if (!manager)
+        manager = initWithPathComponent(component);
+    return manager;
+}
+
+fs::path OVThumbFileManager::folderURLForPathComponent(std::string_view component)
+{
+    fs::path folder = OVLocalFileManager::applicationSupportURL() / component;
+    createPrivateFolder(folder);
+    return folder;
+}
+
+std::shared_ptr<OVThumbFileManager> OVThumbFileManager::initWithPathComponent(std::string_view component)
+{
+    return initWithBaseURL(folderURLForPathComponent(component));
+}
+
+std::shared_ptr<OVThumbFileManager> OVThumbFileManager::initWithBaseURL(fs::path baseURL)
+{
+    if (baseURL.empty())
+        return nullptr;
+    return std::shared_ptr<OVThumbFileManager>(new OVThumbFileManager(std::move(baseURL)));
+}
+
+std::optional<fs::path> OVThumbFileManager::thumbURLForImageURL(
+    const fs::path& imageURL, OVThumbSize thumbSize, const OVThumbOptions& options) const
+{
+    const NSDate moment = now();
+    const auto state = stateOfSource(imageURL);
+    fs::path thumb = baseURL_ / thumbNameForImageURL(imageURL, thumbSize, options);
+    const auto published = state ? publishedStamp(thumb) : std::nullopt;
+    if (!published || !published->stamp.isOf(*state))
+        return std::nullopt;
+    if (isSettled(*state, published->seen))
+        return thumb;
+    // The image had just changed when the thumbnail was made. Another change in the same tick of the clock would not
+    // show in its state; its content tells.
+    if (published->stamp.sha1.empty() || published->stamp.sha1 != sha1OfFile(imageURL))
+        return std::nullopt;
+    if (isSettled(*state, moment))
+        noteSourceSeen(thumb, moment);
+    return thumb;
+}
+
+void OVThumbFileManager::deleteAllThumbsForImageURL(const fs::path& imageURL) const
+{
+    if (imageURL.empty())
+        return;
+    const std::string base = baseThumbNameImageURL(imageURL);
+    // Drafts go first: what has been published by then goes next, and what has not cannot be.
+    removeItemsBeginningWith(baseURL_, ThumbDraft::nameBeginning(base));
+    removeItemsBeginningWith(baseURL_, base);
+}
+
+} // namespace tarn

@@ -1,0 +1,130 @@
+#include "tarnmodel/files/ThumbDrawing.h"
+
+#include "tarnmodel/files/ImageScaling.h"
+#include "tarnmodel/files/OVImageAlphaTrimmer.h"
+#include "tarnmodel/platform/foundation/values/NSError.h"
+#include "tarnmodel/platform/imaging/ImageFile.h"
+#include "tarnmodel/platform/imaging/ImageLimits.h"
+
+#include <fmt/format.h>
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+#include <utility>
+
+namespace tarn {
+
+namespace {
+
+constexpr long kThumbErrorCode = 0;
+
+NSError thumbError(std::string_view text)
+{
+    return {"Tarn Model", kThumbErrorCode, text};
+}
+
+ImageFitting fittingOf(const OVThumbOptions& options)
+{
+    return {.preserveRatio = options.preserveRatio.value_or(true),
+        .contain = options.contain.value_or(false),
+        .cover = options.cover.value_or(false),
+        .xAlignment = options.xAlign.value_or(0),
+        .yAlignment = options.yAlign.value_or(0)};
+}
+
+DrawingOptions drawingOf(const OVThumbOptions& options)
+{
+    return {.antialias = options.antialias.value_or(true), .interpolation = DrawingOptions::Interpolation::High};
+}
+
+/// A product of bytes that stand for 0 to 1.
+std::uint8_t productOfBytes(int one, int other)
+{
+    return static_cast<std::uint8_t>((one * other + 127) / 255);
+}
+
+/// Paints the colour under every pixel.
+void paintUnder(Bitmap& bitmap, const OVThumbColor& colour)
+{
+    const std::array<std::uint8_t, 4> premultiplied = {productOfBytes(colour.red, colour.alpha),
+        productOfBytes(colour.green, colour.alpha), productOfBytes(colour.blue, colour.alpha), colour.alpha};
+    for (std::int32_t y = 0; y < bitmap.height(); ++y) {
+        std::uint8_t* pixel = bitmap.row(y);
+        for (std::int32_t x = 0; x < bitmap.width(); ++x, pixel += premultiplied.size()) {
+            const int uncovered = 255 - pixel[3];
+            for (std::size_t channel = 0; channel < premultiplied.size(); ++channel)
+                pixel[channel]
+                    = static_cast<std::uint8_t>(pixel[channel] + productOfBytes(premultiplied[channel], uncovered));
+        }
+    }
+}
+
+std::optional<Bitmap> notBroughtTo(PixelSize picture, PixelSize asked, NSError* error)
+{
+    assignError(error,
+        thumbError(
+            fmt::format("A picture of {} x {} pixels cannot be brought to {} x {} (at most {} on a side, {} in all).",
+                picture.width, picture.height, asked.width, asked.height, ImageLimits::current().side,
+                ImageLimits::current().pixels)));
+    return std::nullopt;
+}
+
+std::optional<Bitmap> drawTrimmed(
+    const std::filesystem::path& picture, PixelSize asked, const OVThumbOptions& options, NSError* error)
+{
+    std::optional<Bitmap> whole = loadImage(picture, error);
+    if (!whole)
+        return std::nullopt;
+    const Bitmap trimmed = OVImageAlphaTrimmer::imageByTrimmingTopBottomTransparentPixels(
+        fixOrientation(std::move(*whole)), options.trimTransparentPixelsHorizontalMargin.value_or(0));
+    if (trimmed.isEmpty()) {
+        assignError(error, thumbError("The picture is transparent all over."));
+        return std::nullopt;
+    }
+    Bitmap scaled = ovCreateScaledCGImageFromCGImage(trimmed, asked, fittingOf(options), drawingOf(options));
+    if (scaled.isEmpty())
+        return notBroughtTo({trimmed.width(), trimmed.height()}, asked, error);
+    return scaled;
+}
+
+std::optional<Bitmap> drawWhileDecoding(
+    const std::filesystem::path& picture, PixelSize asked, const OVThumbOptions& options, NSError* error)
+{
+    const auto header = readImageHeader(picture, error);
+    if (!header)
+        return std::nullopt;
+    const PixelSize size = {header->uprightWidth(), header->uprightHeight()};
+    // What is too large for the canvas as well is the picture's fault first.
+    if (!imageIsWithinLimits(*header, ImageLimits::current(), error))
+        return std::nullopt;
+    const auto drawing = scaledDrawing(size, asked, fittingOf(options));
+    if (drawing && drawing->isCopy) {
+        std::optional<Bitmap> whole = loadImage(picture, error);
+        return whole ? std::optional(fixOrientation(std::move(*whole))) : std::nullopt;
+    }
+    Bitmap canvas = drawing ? canvasForDrawing(*drawing) : Bitmap();
+    if (canvas.isEmpty())
+        return notBroughtTo(size, asked, error);
+    const auto samples = loadImageForDrawing(picture, drawing->width, drawing->height, error);
+    if (!samples)
+        return std::nullopt;
+    drawImage(*samples, canvas, drawing->x, drawing->top(), drawing->width, drawing->height, drawingOf(options));
+    return canvas;
+}
+
+} // namespace
+
+std::optional<Bitmap> drawThumb(
+    const std::filesystem::path& picture, PixelSize asked, const OVThumbOptions& options, NSError* error)
+{
+    const bool trims = options.trimTopBottomTransparentPixels.value_or(false);
+    std::optional<Bitmap> thumb
+        = trims ? drawTrimmed(picture, asked, options, error) : drawWhileDecoding(picture, asked, options, error);
+    if (thumb && options.backgroundColor)
+        paintUnder(*thumb, *options.backgroundColor);
+    return thumb;
+}
+
+} // namespace tarn
