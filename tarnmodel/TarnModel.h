@@ -124,8 +124,11 @@
 #include "tarnmodel/sync/OVDeviceUUID.h"
 #include "tarnmodel/sync/TolVectorClock.h"
 
-// Folders.
+// Folders, thumbnails, and images trimmed and scaled.
+#include "tarnmodel/files/ImageScaling.h"
+#include "tarnmodel/files/OVImageAlphaTrimmer.h"
 #include "tarnmodel/files/OVLocalFileManager.h"
+#include "tarnmodel/files/OVThumbFileManager.h"
 
 // What is in a store, and whether it is sound.
 #include "tarnmodel/diagnosis/StoreDoctor.h"

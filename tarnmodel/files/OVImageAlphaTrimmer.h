@@ -6,10 +6,10 @@ namespace tarn {
 
 /// A part of a picture, in pixels from its upper left corner; y grows downward.
 struct CropFrame {
-    double x = 0;
-    double y = 0;
-    double width = 0;
-    double height = 0;
+    double x = 0;      ///< the left edge
+    double y = 0;      ///< the upper edge
+    double width = 0;  ///< 0 where no pixel is left
+    double height = 0; ///< likewise
 
     friend bool operator==(const CropFrame&, const CropFrame&) = default;
 };

@@ -6,7 +6,7 @@
 
 namespace tarn {
 
-// The keys under which dictionaries of applications hold these options. Each is spelled as applications spell it.
+/// The keys under which dictionaries of applications hold the options below, spelled as applications spell them.
 inline constexpr std::string_view OVThumbPreserveRatio = "OVThumbPreserveRatio";
 inline constexpr std::string_view OVThumbContain = "OVThumbContain";
 inline constexpr std::string_view OVThumbCover = "OVThumbCover";
@@ -18,11 +18,13 @@ inline constexpr std::string_view OVThumbTrimTransparentPixelsHorizontalMargin
     = "OVThumbTrimTransparentPixelsHorizontalMargin";
 inline constexpr std::string_view OVThumbBackgroundColor = "OVThumbBackgroundColor";
 
-/// A colour in sRGB; an alpha of 255 is opaque.
+/// A colour in sRGB.
 struct OVThumbColor {
+    /// Not multiplied with alpha.
     std::uint8_t red = 0;
     std::uint8_t green = 0;
     std::uint8_t blue = 0;
+    /// 0 is transparent.
     std::uint8_t alpha = 255;
 
     friend bool operator==(const OVThumbColor&, const OVThumbColor&) = default;
@@ -30,8 +32,8 @@ struct OVThumbColor {
 
 /// The size that a thumbnail is asked for, in pixels. Fractions are dropped.
 struct OVThumbSize {
-    double width = 0;
-    double height = 0;
+    double width = 0;  ///< positive
+    double height = 0; ///< positive
 
     friend bool operator==(const OVThumbSize&, const OVThumbSize&) = default;
 };

@@ -7,8 +7,8 @@ namespace tarn {
 
 /// The size of a picture or a canvas, in whole pixels.
 struct PixelSize {
-    std::int64_t width = 0;
-    std::int64_t height = 0;
+    std::int64_t width = 0;  ///< positive where there is a picture
+    std::int64_t height = 0; ///< likewise
 
     friend bool operator==(const PixelSize&, const PixelSize&) = default;
 };
@@ -31,11 +31,11 @@ struct ImageFitting {
 /// Where a picture is drawn on which canvas, in pixels. The origin of the canvas is its lower left corner, and y grows
 /// upward; what is drawn may be larger than the canvas.
 struct ScaledDrawing {
-    PixelSize canvas;
-    double x = 0;
-    double y = 0;
-    double width = 0;
-    double height = 0;
+    PixelSize canvas;  ///< how large it is
+    double x = 0;      ///< the left edge of the picture
+    double y = 0;      ///< its lower edge
+    double width = 0;  ///< of the picture as it is drawn
+    double height = 0; ///< likewise
     /// The picture has the size that was asked for: it stays as it is, pixel by pixel.
     bool isCopy = false;
 

@@ -1,4 +1,5 @@
 #include "tarnmodel/platform/foundation/events/Queue.h"
+#include "tarnmodel/platform/imaging/ImageDrawing.h"
 #include "tests/files/ThumbFolder.h"
 #include "tests/platform/imaging/ReferenceResampler.h"
 

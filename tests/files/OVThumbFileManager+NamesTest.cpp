@@ -104,11 +104,11 @@ TEST_F(AThumbName, KeepsJPEGAndMakesPNGOfAllElse)
 TEST_F(AThumbName, IsTheSameInAnotherHome)
 {
     const std::string base = baseOf(home_ / "notes" / "a.png");
-    world_.setHomeDirectory("/home/other");
-    EXPECT_EQ(baseOf("/home/other/notes/a.png"), base);
+    world_.setHomeDirectory("/homes/other");
+    EXPECT_EQ(baseOf("/homes/other/notes/a.png"), base);
     EXPECT_NE(baseOf(home_ / "notes" / "a.png"), base) << "which is no home any more";
-    world_.setHomeDirectory("/home/other/");
-    EXPECT_EQ(baseOf("/home/other/notes/a.png"), base);
+    world_.setHomeDirectory("/homes/other/");
+    EXPECT_EQ(baseOf("/homes/other/notes/a.png"), base);
 }
 
 TEST_F(AThumbName, LosesTheHomeAsOftenAsItOccurs)

@@ -15,6 +15,11 @@ namespace fs = std::filesystem;
 
 constexpr OVThumbSize kSize = {20, 15};
 
+NSDate aMinuteAfter(NSDate date)
+{
+    return dateWithMicrosecondsSince1970(microsecondsSince1970(date) + 60'000'000);
+}
+
 class AThumbFileManager : public ThumbFolder { };
 
 TEST_F(AThumbFileManager, KeepsThumbnailsInTheApplicationsOwnFolder)
@@ -106,6 +111,9 @@ TEST_F(AFoundThumb, IsNoneOncePictureIsRestoredFromAnOlderCopy)
 
 TEST_F(AFoundThumb, IsNoneOncePictureIsReplacedAndItsTimeSetBack)
 {
+    world_.setNow(aMinuteAfter(now()));
+    ASSERT_TRUE(manager_->makeThumbForImageURL(picture_, kSize)) << "of a picture that did not change just now";
+    ASSERT_EQ(found(), thumb_);
     struct stat before { };
     ASSERT_EQ(::stat(picture_.c_str(), &before), 0);
     std::fstream(picture_, std::ios::in | std::ios::out | std::ios::binary).seekp(-1, std::ios::end) << 'x';
@@ -140,11 +148,11 @@ TEST_F(AFoundThumb, OfAFreshPictureIsComparedByContentOnce)
     EXPECT_EQ(found(), thumb_);
     EXPECT_EQ(publishedStamp(*thumb_)->seen, made) << "too early to be sure";
 
-    const NSDate later = dateWithMicrosecondsSince1970(microsecondsSince1970(made) + 60'000'000);
+    const NSDate later = aMinuteAfter(made);
     world_.setNow(later);
     EXPECT_EQ(found(), thumb_);
     EXPECT_EQ(publishedStamp(*thumb_)->seen, later) << "from now on its state tells";
-    world_.setNow(dateWithMicrosecondsSince1970(microsecondsSince1970(later) + 60'000'000));
+    world_.setNow(aMinuteAfter(later));
     EXPECT_EQ(found(), thumb_);
     EXPECT_EQ(publishedStamp(*thumb_)->seen, later) << "and nothing is read again";
 }
@@ -162,7 +170,7 @@ TEST_F(AFoundThumb, OfAFreshPictureIsNoneOnceItsContentDiffers)
 
 TEST_F(AFoundThumb, OfAnOldPictureIsFoundByItsStateAlone)
 {
-    world_.setNow(dateWithMicrosecondsSince1970(microsecondsSince1970(now()) + 60'000'000));
+    world_.setNow(aMinuteAfter(now()));
     thumb_ = manager_->makeThumbForImageURL(picture_, kSize);
     EXPECT_EQ(publishedStamp(*thumb_)->stamp.sha1, "");
     EXPECT_EQ(found(), thumb_);
