@@ -25,6 +25,7 @@ FLOORS = [
     {f"{FOUNDATION}/text"},
     {f"{FOUNDATION}/filetypes"},
     {f"{FOUNDATION}/system"},
+    {f"{FOUNDATION}/filesystem"},
     {f"{FOUNDATION}/time"},
     {f"{FOUNDATION}/events"},
     {f"{LIBRARY}/platform/predicate", IMAGING, f"{LIBRARY}/platform/cloudkit", CORVEL},

@@ -1,7 +1,7 @@
 #include "tools/tarn/StoreSession.h"
 
 #include "tarnmodel/files/OVLocalFileManager.h"
-#include "tarnmodel/files/PrivateFolder.h"
+#include "tarnmodel/platform/foundation/filesystem/PrivateFolder.h"
 #include "tarnmodel/model/ManagedObjectModel.h"
 #include "tarnmodel/model/OVChange.h"
 #include "tarnmodel/platform/foundation/events/Queue.h"

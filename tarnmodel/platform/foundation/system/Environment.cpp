@@ -72,6 +72,11 @@ std::filesystem::path Environment::temporaryDirectory() const
     return providers()->temporaryDirectory();
 }
 
+std::filesystem::path Environment::cacheDirectory() const
+{
+    return providers()->cacheDirectory();
+}
+
 std::string Environment::hostName() const
 {
     return validUTF8(providers()->hostName());
@@ -148,6 +153,12 @@ void EnvironmentOverride::setTemporaryDirectory(std::filesystem::path path)
     change([&](EnvironmentProviders& providers) {
         providers.temporaryDirectory = [path = std::move(path)] { return path; };
     });
+}
+
+void EnvironmentOverride::setCacheDirectory(std::filesystem::path path)
+{
+    change(
+        [&](EnvironmentProviders& providers) { providers.cacheDirectory = [path = std::move(path)] { return path; }; });
 }
 
 void EnvironmentOverride::setHostName(std::string name)

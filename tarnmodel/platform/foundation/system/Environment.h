@@ -28,6 +28,7 @@ struct EnvironmentProviders {
     std::function<std::string()> localeIdentifier;                        ///< `Environment::localeIdentifier`
     std::function<std::filesystem::path()> homeDirectory;                 ///< `Environment::homeDirectory`
     std::function<std::filesystem::path()> temporaryDirectory;            ///< `Environment::temporaryDirectory`
+    std::function<std::filesystem::path()> cacheDirectory;                ///< `Environment::cacheDirectory`
     std::function<std::string()> hostName;                                ///< `Environment::hostName`
     std::function<std::optional<MachineIdentifier>()> machineIdentifier;  ///< `Environment::machineIdentifier`
 };
@@ -56,8 +57,11 @@ public:
     std::string localeIdentifier() const;
     /// HOME, else what the user database says, else the root folder.
     std::filesystem::path homeDirectory() const;
-    /// TMPDIR, else the system's folder for temporary files.
+    /// TMPDIR, else the system's folder for temporary files: every program may write there.
     std::filesystem::path temporaryDirectory() const;
+    /// Where a user's applications keep what can be made again: XDG_CACHE_HOME, else ".cache" in the home folder. By
+    /// the rules of XDG a relative folder counts as none. It need not be there.
+    std::filesystem::path cacheDirectory() const;
     /// The name that people gave this machine, else its network name; "localhost" when it has none. Valid UTF-8.
     std::string hostName() const;
     /// None when the system has no identifier or a malformed one.
@@ -101,6 +105,7 @@ public:
     void setLocaleIdentifier(std::string identifier);
     void setHomeDirectory(std::filesystem::path path);
     void setTemporaryDirectory(std::filesystem::path path);
+    void setCacheDirectory(std::filesystem::path path);
     void setHostName(std::string name);
     void setMachineIdentifier(std::optional<MachineIdentifier> identifier);
 

@@ -99,6 +99,12 @@ std::filesystem::path systemTemporaryFolder()
     return variable && !variable->empty() ? *variable : "/tmp";
 }
 
+std::filesystem::path systemCacheFolder()
+{
+    const std::filesystem::path folder = Environment::current().variable("XDG_CACHE_HOME").value_or("");
+    return folder.is_absolute() ? folder : Environment::current().homeDirectory() / ".cache";
+}
+
 std::string systemHostName()
 {
     if (auto name = valueInAssignments(readSystemFile("/etc/machine-info"), "PRETTY_HOSTNAME"))
@@ -128,6 +134,7 @@ EnvironmentProviders systemEnvironmentProviders()
         .localeIdentifier = systemLocale,
         .homeDirectory = systemHome,
         .temporaryDirectory = systemTemporaryFolder,
+        .cacheDirectory = systemCacheFolder,
         .hostName = systemHostName,
         .machineIdentifier = systemMachineIdentifier};
 }

@@ -6,6 +6,9 @@
 
 namespace tarn {
 
+/// Domain of errors of the operating system; the code is the system's own number.
+inline constexpr std::string_view NSPOSIXErrorDomain = "NSPOSIXErrorDomain";
+
 /// Why an operation failed: a domain, a code within it, and a sentence for people.
 class NSError {
 public:

@@ -1,4 +1,4 @@
-#include "tarnmodel/files/PrivateFolder.h"
+#include "tarnmodel/platform/foundation/filesystem/PrivateFolder.h"
 
 #include <cerrno>
 #include <sys/stat.h>
