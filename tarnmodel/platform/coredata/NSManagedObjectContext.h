@@ -21,6 +21,7 @@ namespace tarn {
 
 class NSPersistentStore;
 class NSPersistentStoreCoordinator;
+class SaveParticipant;
 
 /// Who wins where a record was changed here and in the store since it was read.
 enum class NSMergePolicy : std::uint8_t {
@@ -208,6 +209,12 @@ public:
     /// Forgets everything; all records of this context are gone. In an observer of this context's changes or saves
     /// they read as deleted until these are through.
     void reset();
+
+    // What goes along with its changes ------------------------------------------------------------------------------
+    /// Calls it at each save, and when changes are dropped. The context owns it.
+    void addSaveParticipant(std::unique_ptr<SaveParticipant> participant);
+    /// Those that were added, in that order.
+    std::vector<SaveParticipant*> saveParticipants() const;
 
     // Work on its queue ---------------------------------------------------------------------------------------------
     /// The queue that it is confined to; lives as long as the context.

@@ -18,6 +18,8 @@ class NSPersistentStore {
 public:
     virtual ~NSPersistentStore() = default;
 
+    /// Tells it apart from any other store: a UUID, made with it. Lives until the process ends.
+    virtual const std::string& identifier() const noexcept = 0;
     /// The file; empty for a store in memory.
     virtual const std::filesystem::path& file() const noexcept = 0;
 

@@ -29,6 +29,7 @@ ContextCore::ContextCore(NSManagedObjectContext& owner, NSManagedObjectContext::
 
 ContextCore::~ContextCore()
 {
+    tellOfDroppedChanges();
     // A child's save may be under way on the queue.
     if (children && privateQueue_)
         privateQueue_->sync([this] { children->close(); });
@@ -260,6 +261,12 @@ void ContextCore::processPendingChanges()
         scheduleProcessing();
 }
 
+void ContextCore::tellOfDroppedChanges() const
+{
+    for (const auto& participant : participants)
+        participant->didDropChanges();
+}
+
 // Taking back ---------------------------------------------------------------------------------------------------------
 
 void ContextCore::cancelInsertion(NSManagedObject& object)
@@ -304,6 +311,7 @@ void ContextCore::rollback()
     relationships.settleMerged({});
     fromChildren_.clear();
     publish();
+    tellOfDroppedChanges();
     if (records.tracker.hasEvent())
         scheduleProcessing();
 }
@@ -319,6 +327,7 @@ void ContextCore::reset()
     observedValues.reset();
     records.forgetFaults();
     relationships.clear();
+    tellOfDroppedChanges();
     ++resetCount_;
     if (inHand_ == 0) {
         records.registry.clear();

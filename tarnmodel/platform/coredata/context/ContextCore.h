@@ -2,6 +2,7 @@
 
 #include "tarnmodel/platform/coredata/NSManagedObjectContext.h"
 #include "tarnmodel/platform/coredata/NSPersistentStoreCoordinator.h"
+#include "tarnmodel/platform/coredata/SaveParticipant.h"
 #include "tarnmodel/platform/coredata/context/ChildContexts.h"
 #include "tarnmodel/platform/coredata/context/ObservedValues.h"
 #include "tarnmodel/platform/coredata/context/OtherWriters.h"
@@ -55,6 +56,9 @@ public:
 
     /// The state of the store up to which this context has caught up; none when it has yet to.
     std::optional<std::uint64_t> knownState;
+
+    /// What goes along with the unsaved changes.
+    std::vector<std::unique_ptr<SaveParticipant>> participants;
 
     /// Set for a child: the parent, as a store.
     std::shared_ptr<RowStore> parentStore;
@@ -128,6 +132,7 @@ private:
         std::int64_t end = 0;
     };
     void discardChanges(NSManagedObject& object);
+    void tellOfDroppedChanges() const;
     void readBelowChanges(NSManagedObject& object);
     void cancelInsertion(NSManagedObject& object);
     const PropertyValues& defaultValues(const NSEntityDescription& entity);

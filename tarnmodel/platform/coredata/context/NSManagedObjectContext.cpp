@@ -237,6 +237,20 @@ bool NSManagedObjectContext::performExclusive(const std::function<void()>& block
     return SavePlan(*core_).run(std::move(core_->exclusiveTransaction), error);
 }
 
+void NSManagedObjectContext::addSaveParticipant(std::unique_ptr<SaveParticipant> participant)
+{
+    core_->assertOnQueue();
+    core_->participants.push_back(std::move(participant));
+}
+
+std::vector<SaveParticipant*> NSManagedObjectContext::saveParticipants() const
+{
+    std::vector<SaveParticipant*> participants;
+    for (const auto& participant : core_->participants)
+        participants.push_back(participant.get());
+    return participants;
+}
+
 void NSManagedObjectContext::processPendingChanges()
 {
     core_->processPendingChanges();

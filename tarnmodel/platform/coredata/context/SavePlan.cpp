@@ -66,8 +66,14 @@ bool SavePlan::run(std::unique_ptr<StoreTransaction> transaction, NSError* error
     core_.processPendingChanges();
     if (!core_.records.tracker.hasChanges()) {
         core_.relationships.settleMerged({});
-        return !transaction || transaction->commit(error);
+        if (transaction && !transaction->commit(error))
+            return false;
+        tellOfSave(); // what came and went again since the last save has left nothing to be written
+        return true;
     }
+    // Others need not wait for what takes long.
+    if (!prepareParticipants(error))
+        return false;
     if (!transaction)
         transaction = core_.store().beginTransaction(error);
     if (!transaction)
@@ -125,7 +131,31 @@ bool SavePlan::writeRows(StoreTransaction& transaction, NSError* error)
     newVersions_.clear();
     return deletionsAllowed(error) && assignKeys(error) && validate(error) && insertRows(transaction, error)
         && updateRows(transaction, error) && changeJoins(transaction, error) && deleteRows(transaction, error)
-        && transaction.commit(error);
+        && commit(transaction, error);
+}
+
+bool SavePlan::prepareParticipants(NSError* error) const
+{
+    return core_.parentStore || std::ranges::all_of(core_.participants, [&](const auto& participant) {
+        return participant->prepareForSave(error);
+    });
+}
+
+void SavePlan::tellOfSave() const
+{
+    if (core_.parentStore)
+        return;
+    for (const auto& participant : core_.participants)
+        participant->didSave(core_.records.context);
+}
+
+bool SavePlan::commit(StoreTransaction& transaction, NSError* error) const
+{
+    transaction.whenTakenByContext([this](NSManagedObjectContext& parent) {
+        for (const auto& participant : core_.participants)
+            participant->didSaveIntoParent(parent);
+    });
+    return prepareParticipants(error) && transaction.commit(error);
 }
 
 void SavePlan::announce()
@@ -285,6 +315,7 @@ void SavePlan::finish()
     core_.records.pendingIndex.clear();
     core_.relationships.settleMerged(deleted_);
     core_.publish();
+    tellOfSave();
     // From here on nothing is pending but what observers change.
     const std::uint64_t resets = core_.resetCount();
     core_.processPendingChanges();

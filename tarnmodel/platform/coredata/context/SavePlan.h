@@ -26,6 +26,9 @@ private:
     bool write(std::unique_ptr<StoreTransaction>& transaction, NSError* error);
     bool writeRows(StoreTransaction& transaction, NSError* error);
     void announce();
+    bool prepareParticipants(NSError* error) const;
+    void tellOfSave() const;
+    bool commit(StoreTransaction& transaction, NSError* error) const;
     bool assignKeys(NSError* error);
     bool validate(NSError* error) const;
     bool deletionsAllowed(NSError* error) const;

@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -16,6 +17,8 @@
 #include <vector>
 
 namespace tarn {
+
+class NSManagedObjectContext;
 
 /// A row as a store hands it out: identity, row version, and values.
 ///
@@ -100,6 +103,9 @@ public:
     /// Whether nobody else can commit while the transaction lives. Else a commit may fail with
     /// `StoreErrorMergeConflict`, because a row has moved since it was read here, and be tried again in another one.
     virtual bool isExclusive() const { return true; }
+    /// Where what is written becomes unsaved changes of another context, that one is told of at the commit, on its
+    /// queue.
+    virtual void whenTakenByContext(std::function<void(NSManagedObjectContext&)> /*tell*/) { }
     /// A busy commit is retried. After a failure nothing was written and the transaction is over.
     virtual bool commit(NSError* error) = 0;
 };
@@ -111,6 +117,7 @@ public:
 class RowStore : public NSPersistentStore {
 public:
     virtual const StoreIdentity& identity() const noexcept = 0;
+    const std::string& identifier() const noexcept override { return identity().uuid(); }
     virtual const NSManagedObjectModel& model() const noexcept = 0;
 
     // Reading ---------------------------------------------------------------------------------------------------------

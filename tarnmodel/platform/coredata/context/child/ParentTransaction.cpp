@@ -94,6 +94,8 @@ bool ParentTransaction::commit(NSError* error)
         apply(parent);
         stateNumber_ = store_.stateNumber();
         noteVersions();
+        if (whenTaken_)
+            whenTaken_(parent.records.context);
         isApplied = true;
     };
     if (!parent_->perform(work, error))

@@ -4,6 +4,7 @@
 #include "tarnmodel/platform/coredata/context/records/RelationshipMaintenance.h"
 #include "tarnmodel/platform/coredata/rows/RowStore.h"
 
+#include <functional>
 #include <map>
 #include <utility>
 #include <vector>
@@ -26,6 +27,7 @@ public:
     std::int64_t versionAfterCommit(
         const NSEntityDescription& entity, std::int64_t key, std::int64_t written) const override;
     bool isExclusive() const override { return false; }
+    void whenTakenByContext(std::function<void(NSManagedObjectContext&)> tell) override { whenTaken_ = std::move(tell); }
     bool commit(NSError* error) override;
 
 private:
@@ -62,6 +64,7 @@ private:
     std::vector<JoinChange> joins_;
     std::vector<Deletion> deletions_;
     std::uint64_t stateNumber_;
+    std::function<void(NSManagedObjectContext&)> whenTaken_;
     std::map<std::pair<const NSEntityDescription*, std::int64_t>, std::int64_t> versions_; ///< by root entity and key
 };
 
