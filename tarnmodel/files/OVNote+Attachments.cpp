@@ -63,6 +63,11 @@ OVNoteFile* OVNote::addAttachmentFromFileURL(const FileURL& url)
     return OVNoteFile::getOrCreateFileFromURL(url, *this, nullptr);
 }
 
+OVNoteFile* OVNote::addAttachmentFromFileWrapper(const NSFileWrapper& fileWrapper)
+{
+    return OVNoteFile::getOrCreateFileFromFileWrapper(fileWrapper, *this, nullptr);
+}
+
 void OVNote::encryptFileIfNeeded(OVNoteFile* file)
 {
     OVPassword* notePassword = password();

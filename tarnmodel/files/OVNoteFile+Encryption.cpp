@@ -54,7 +54,7 @@ std::optional<std::filesystem::path> OVNoteFile::fileURL() const
 {
     if (auto* manager = OVEncryptionCoreManager::managerGuarding(*this, encryptedValue()))
         return manager->fileURLForNoteFile(*this, nullptr);
-    return std::nullopt;
+    return primitiveFileURL();
 }
 
 void OVNoteFile::updatePrimitiveFilename(std::optional<std::string_view> filename)

@@ -1,13 +1,162 @@
+#include "tarnmodel/encryption/OVEncryptionCoreManager.h"
+#include "tarnmodel/files/FileNames.h"
+#include "tarnmodel/files/OVLocalFileManager.h"
+#include "tarnmodel/files/UnsavedFileChanges.h"
+#include "tarnmodel/model/OVNote.h"
 #include "tarnmodel/model/OVNoteFile.h"
+#include "tarnmodel/model/OVPassword.h"
+#include "tarnmodel/platform/coredata/NSManagedObjectContext.h"
+#include "tarnmodel/platform/foundation/filesystem/NSFileManager.h"
+#include "tarnmodel/platform/foundation/filesystem/NSFileWrapper.h"
 #include "tarnmodel/platform/foundation/values/NSError.h"
+
+#include <cerrno>
+#include <utility>
 
 namespace tarn {
 
-OVNoteFile* OVNoteFile::getOrCreateFileFromURL(const FileURL& url, OVNote&, NSError* error)
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Spaces and tabs; line breaks stay.
+std::string_view trimmed(std::string_view name)
 {
-    assignError(error,
-        NSError("Tarn Model", 0, "\"" + url.path.string() + "\" cannot be attached: this version keeps no files."));
+    const std::size_t begin = name.find_first_not_of(" \t");
+    return begin == std::string_view::npos ? std::string_view()
+                                           : name.substr(begin, name.find_last_not_of(" \t") + 1 - begin);
+}
+
+bool hasName(std::string_view name, NSError* error)
+{
+    if (!name.empty())
+        return true;
+    assignError(error, NSError("Tarn Model", EINVAL, "A file without a name cannot be attached"));
+    return false;
+}
+
+} // namespace
+
+// Records
+// -----------------------------------------------------------------------------------------------------------------
+
+OVNoteFile* OVNoteFile::factoryNoteFileForFileURL(const FileURL& url, NSManagedObjectContext& context, NSError* error)
+{
+    for (const Kind& kind : concreteSubclasses())
+        if (kind.canImportFileURL(url))
+            if (OVNoteFile* file = kind.noteFileForFileURL(url, context, error))
+                return file;
     return nullptr;
+}
+
+OVNoteFile* OVNoteFile::takeFile(const FileURL& url, NSError* error)
+{
+    const auto copy = copyFileToLocalFolder(url, error);
+    if (!copy) {
+        managedObjectContext().deleteObject(*this);
+        return nullptr;
+    }
+    setFilename(copy->filename().string());
+    updateNormalizedExtension();
+    setDownloadedValue(true);
+    setInUse();
+    updateFileMetadata();
+    return this;
+}
+
+// Attachments of a note
+// ---------------------------------------------------------------------------------------------------
+
+std::string OVNoteFile::safeFilenameForFilename(std::string_view filename, const OVNote& note,
+    OVNoteFile*& matchedNoteFile, const std::function<NSFileWrapper()>& fileData)
+{
+    matchedNoteFile = nullptr;
+    std::vector<OVNoteFile*> candidates = note.filesSet().allObjects();
+    std::string name(filename);
+    while (true) {
+        const auto candidate = std::find_if(candidates.begin(), candidates.end(),
+            [&](const OVNoteFile* file) { return file->filenameIsEqualTo(name); });
+        if (candidate == candidates.end())
+            return std::string(trimmed(name));
+        OVNoteFile& file = **candidate;
+        candidates.erase(candidate);
+        if (!file.isUnused()) {
+            name = filepathWithIncreasedNumberCount(name);
+            continue;
+        }
+        const auto own = file.fileURL();
+        if (own && fileData().hasContentsOfFileAtURL(*own)) {
+            matchedNoteFile = &file;
+            return name;
+        }
+    }
+}
+
+OVNoteFile* OVNoteFile::getOrCreateFileFromURL(const FileURL& url, OVNote& note, NSError* error)
+{
+    const std::string name = url.path.filename().string();
+    if (!hasName(name, error))
+        return nullptr;
+    OVNoteFile* file = nullptr;
+    const std::string safeName = fileNameWithinFolder(
+        safeFilenameForFilename(name, note, file, [&] { return NSFileWrapper::withURL(url.path); }));
+    if (file) {
+        file->setInUse();
+    } else {
+        file = factoryNoteFileForFileURL(url, note.managedObjectContext(), error);
+        if (!file)
+            return nullptr;
+        if (safeName != file->filename())
+            file->renameTaken(safeName);
+        file->setNote(&note);
+    }
+    encryptFileIfNeeded(*file);
+    return file;
+}
+
+OVNoteFile* OVNoteFile::getOrCreateFileFromFileWrapper(const NSFileWrapper& fileWrapper, OVNote& note, NSError* error)
+{
+    const fs::path given = fileWrapper.filename().value_or(fileWrapper.preferredFilename().value_or(""));
+    if (!hasName(given.filename().string(), error))
+        return nullptr;
+    OVNoteFile* file = nullptr;
+    const std::string name = fileNameWithinFolder(
+        safeFilenameForFilename(given.filename().string(), note, file, [&] { return fileWrapper; }));
+    if (file) {
+        file->setInUse();
+    } else {
+        const fs::path scratch = OVLocalFileManager::temporaryUniqueDirectoryURL() / name;
+        if (fileWrapper.writeToURL(scratch, error))
+            file = factoryNoteFileForFileURL(scratch, note.managedObjectContext(), error);
+        // Nobody else knows of it, and what is to be protected must not stay readable.
+        NSFileManager::removeItemAtURL(scratch.parent_path());
+        if (!file)
+            return nullptr;
+        file->setNote(&note);
+    }
+    encryptFileIfNeeded(*file);
+    return file;
+}
+
+/// Gives a file that was just taken in another name, the record's included.
+void OVNoteFile::renameTaken(const std::string& name)
+{
+    const std::string former = filename().value_or("");
+    if (!UnsavedFileChanges::ofRecord(*this).renameFile(RecordFolder::ofRecord(*this), former, name, nullptr))
+        return;
+    setFilename(name);
+    updateNormalizedExtension();
+}
+
+void OVNoteFile::encryptFileIfNeeded(OVNoteFile& file)
+{
+    OVNote* const note = file.note();
+    OVEncryptionCoreManagerProtocol* const manager = note ? note->encryptionCoreManager() : nullptr;
+    if (!manager || !note->encryptedValue() || manager->isObjectLocked(*note) || file.encryptedValue())
+        return;
+    OVPassword* const password = note->password();
+    if (OVEncryptionCoreManagerProtocol* const own = file.encryptionCoreManager(); own && password)
+        own->addEncryptionToObject(file, *password, nullptr);
 }
 
 } // namespace tarn

@@ -1,9 +1,10 @@
+#include "tarnmodel/files/UnsavedFileChanges.h"
 #include "tarnmodel/model/OVNoteFile.h"
-
+#include "tarnmodel/model/OVNoteImage.h"
 #include "tarnmodel/platform/coredata/NSManagedObjectContext.h"
-#include "tarnmodel/platform/foundation/text/Normalization.h"
-#include "tarnmodel/platform/foundation/text/PercentEncoding.h"
+#include "tarnmodel/platform/foundation/filesystem/NSFileWrapper.h"
 #include "tarnmodel/platform/foundation/values/NSDate.h"
+#include "tarnmodel/platform/foundation/values/NSError.h"
 
 namespace tarn {
 
@@ -23,16 +24,48 @@ void OVNoteFile::setInUse()
     setUnusedDate(now());
 }
 
-bool OVNoteFile::filenameIsEqualTo(std::string_view filename) const
+void OVNoteFile::markForUpload()
 {
-    const auto own = stringByRemovingPercentEncoding(this->filename().value_or("%"));
-    const auto other = stringByRemovingPercentEncoding(filename);
-    return own && other && canonicallyComposed(*own) == canonicallyComposed(*other);
+    setUploadedValue(false);
+    setUploadedDate(now());
+}
+
+void OVNoteFile::updateAttachmentAndMarkForUpload()
+{
+    deleteFileThumbnails();
+    updateFileMetadata();
+    markForUpload();
+}
+
+bool OVNoteFile::updateAttachmentWithFileWrapper(const NSFileWrapper& fileWrapper, NSError* error)
+{
+    const auto file = fileURL();
+    if (!file || !uniqueIdentifier()) {
+        assignError(error, NSError("Tarn Model", 1, "An attachment without a name or an identifier has no file"));
+        return false;
+    }
+    if (!UnsavedFileChanges::ofRecord(*this).replaceFile(
+            RecordFolder::ofRecord(*this), file->filename().string(), fileWrapper, error))
+        return false;
+    updateAttachmentAndMarkForUpload();
+    return true;
 }
 
 void OVNoteFile::permanentlyDelete()
 {
     managedObjectContext().deleteObject(*this);
+}
+
+void OVNoteFile::prepareForDeletion()
+{
+    if (MainQueue::main().isCurrent()) {
+        const auto picture = dynamic_cast<OVNoteImage*>(this) && !encryptedValue() ? primitiveFileURL() : std::nullopt;
+        // Looking through all thumbnails for each of many pictures would take long: it is done once, after the save.
+        if (picture)
+            UnsavedFileChanges::ofRecord(*this).deleteThumbnailsOnceSaved(*picture);
+        deleteFileLocalFolder();
+    }
+    _OVNoteFile::prepareForDeletion();
 }
 
 } // namespace tarn

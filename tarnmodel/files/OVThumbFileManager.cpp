@@ -1,12 +1,13 @@
 #include "tarnmodel/files/OVThumbFileManager.h"
 
 #include "tarnmodel/files/OVLocalFileManager.h"
-#include "tarnmodel/files/PrivateFolder.h"
 #include "tarnmodel/files/SHA1.h"
 #include "tarnmodel/files/ThumbDraft.h"
 #include "tarnmodel/files/ThumbStamp.h"
+#include "tarnmodel/platform/foundation/filesystem/PrivateFolder.h"
 #include "tarnmodel/platform/foundation/values/NSDate.h"
 
+#include <set>
 #include <system_error>
 #include <utility>
 #include <vector>
@@ -29,13 +30,18 @@ SharedManagers& sharedManagers()
     return *instance;
 }
 
-void removeItemsBeginningWith(const fs::path& folder, std::string_view beginning)
+/// What begins with `prefix` and one of the names of `bases`, which are all of one length.
+void removeItems(const fs::path& folder, std::string_view prefix, const std::set<std::string, std::less<>>& bases)
 {
+    const std::size_t length = bases.begin()->size();
     std::vector<fs::path> items;
     std::error_code failure;
-    for (fs::directory_iterator item(folder, failure), end; !failure && item != end; item.increment(failure))
-        if (item->path().filename().native().starts_with(beginning))
+    for (fs::directory_iterator item(folder, failure), end; !failure && item != end; item.increment(failure)) {
+        std::string_view name = item->path().native();
+        name.remove_prefix(name.rfind('/') + 1);
+        if (name.starts_with(prefix) && bases.contains(name.substr(prefix.size(), length)))
             items.push_back(item->path());
+    }
     for (const fs::path& item : items)
         fs::remove_all(item, failure);
 }
@@ -96,12 +102,20 @@ std::optional<fs::path> OVThumbFileManager::thumbURLForImageURL(
 
 void OVThumbFileManager::deleteAllThumbsForImageURL(const fs::path& imageURL) const
 {
-    if (imageURL.empty())
+    deleteAllThumbsForImageURLs(std::span(&imageURL, 1));
+}
+
+void OVThumbFileManager::deleteAllThumbsForImageURLs(std::span<const fs::path> imageURLs) const
+{
+    std::set<std::string, std::less<>> bases;
+    for (const fs::path& imageURL : imageURLs)
+        if (!imageURL.empty())
+            bases.insert(baseThumbNameImageURL(imageURL));
+    if (bases.empty())
         return;
-    const std::string base = baseThumbNameImageURL(imageURL);
     // Drafts go first: what has been published by then goes next, and what has not cannot be.
-    removeItemsBeginningWith(baseURL_, ThumbDraft::nameBeginning(base));
-    removeItemsBeginningWith(baseURL_, base);
+    removeItems(baseURL_, ThumbDraft::nameBeginning(""), bases);
+    removeItems(baseURL_, "", bases);
 }
 
 } // namespace tarn

@@ -10,6 +10,7 @@
 #include <memory>
 #include <mutex>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -75,6 +76,8 @@ public:
     /// Deletes the thumbnails of an image in all sizes, and what makers of such have left behind; failures are ignored.
     /// Makers that are under way give none.
     void deleteAllThumbsForImageURL(const std::filesystem::path& imageURL) const;
+    /// The same for many images, in one look through the folder.
+    void deleteAllThumbsForImageURLs(std::span<const std::filesystem::path> imageURLs) const;
 
     // Making (OVThumbFileManager+Making.cpp) ------------------------------------------------------------------------
     /// Makes the thumbnail, upright, in place of an earlier one. Readers see the earlier one or this one, whole. None

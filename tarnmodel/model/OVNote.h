@@ -13,6 +13,7 @@
 
 namespace tarn {
 
+class NSFileWrapper;
 class CVKAST;
 class CVKWikiLink;
 class NSPredicate;
@@ -320,6 +321,8 @@ public:
     OVNoteFile* attachmentForFilename(std::string_view filename) const;
     /// The attachment made from a file, or the unused one that holds the same. Null when it cannot be attached.
     OVNoteFile* addAttachmentFromFileURL(const FileURL& url);
+    /// The same of what an application hands over.
+    OVNoteFile* addAttachmentFromFileWrapper(const NSFileWrapper& fileWrapper);
     /// Protects an attachment of a protected note with the note's password, when that is at hand. Null: does nothing.
     void encryptFileIfNeeded(OVNoteFile* file);
 

@@ -13,6 +13,16 @@ public:
 
     /// A new attachment with its identifier, version 3 and the date of now.
     static OVNoteGenericFile* insertInManagedObjectContext(NSManagedObjectContext& context);
+
+    // Files (tarnmodel/files/OVNoteGenericFile+Files.cpp) ------------------------------------------------------------
+    /// Always: any file can be attached.
+    static bool canImportFileURL(const FileURL& url);
+    /// A new attachment with a copy of the file, of no note yet. Null and an error when it cannot be copied.
+    static OVNoteFile* noteFileForFileURL(
+        const FileURL& url, NSManagedObjectContext& context, NSError* error = nullptr);
+
+    std::string localFolderName() const override;
+    std::map<std::string, Value> additionalFileData() const override;
 };
 
 } // namespace tarn

@@ -3,6 +3,7 @@
 #include "tarnmodel/files/OVLocalFileManager.h"
 #include "tarnmodel/model/ManagedObjectModel.h"
 #include "tarnmodel/model/OVNote.h"
+#include "tarnmodel/model/OVNoteFile.h"
 #include "tarnmodel/platform/coredata/StoreErrors.h"
 #include "tarnmodel/platform/foundation/system/Log.h"
 #include "tarnmodel/platform/foundation/values/NSException.h"
@@ -54,6 +55,10 @@ void OVCoreDataStack::setupStack()
 {
     initializeCoreData();
     initializeInMemoryContext();
+    if (managedObjectContext_)
+        managedObjectContext_->performBlockAndWait(
+            [this] { OVNoteFile::recoverFilesInManagedObjectContext(*managedObjectContext_); });
+    OVLocalFileManager::removeAbandonedTemporaryDirectories();
     OVCoreDataStackDelegate* const listener = delegate();
     if (listener && managedObjectContext_)
         listener->coreDataStackDidInitializeManagedObjectContext(*this, *managedObjectContext_);

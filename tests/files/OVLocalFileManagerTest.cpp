@@ -2,9 +2,11 @@
 
 #include "tarnmodel/platform/foundation/system/Environment.h"
 #include "tarnmodel/platform/foundation/system/NSUUID.h"
+#include "tarnmodel/platform/foundation/values/NSError.h"
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <fstream>
 
 namespace tarn {
@@ -107,6 +109,101 @@ TEST_F(LocalFileManager, KeepsWhatIsTheApplicationsOwnOutsideTheGroup)
     EXPECT_EQ(folder, data_ / "TarnModel");
     EXPECT_TRUE(fs::is_directory(folder));
     EXPECT_EQ(fs::status(folder).permissions(), fs::perms::owner_all);
+}
+
+// One folder of attachments -------------------------------------------------------------------------------------------
+
+class AttachmentFolders : public LocalFileManager {
+protected:
+    AttachmentFolders()
+    {
+        OVLocalFileManager::setApplicationPersistentDataTestURL(home_ / "test");
+        manager_ = OVLocalFileManager::localFileManagerForPathComponent("Area/Kind");
+    }
+
+    fs::path aFile(const std::string& name, std::string_view bytes) const
+    {
+        std::ofstream(home_ / name) << bytes;
+        return home_ / name;
+    }
+    std::shared_ptr<OVLocalFileManager> manager_;
+};
+
+TEST_F(LocalFileManager, IsOneForEachComponent)
+{
+    const auto manager = OVLocalFileManager::localFileManagerForPathComponent("Local Files/Note Files");
+    EXPECT_EQ(OVLocalFileManager::localFileManagerForPathComponent("Local Files/Note Files"), manager);
+    EXPECT_NE(OVLocalFileManager::localFileManagerForPathComponent("Local Files/Note Images"), manager);
+    EXPECT_EQ(manager->baseURL(), data_ / "tarn" / "Application Data" / "Local Files" / "Note Files");
+    EXPECT_TRUE(fs::is_directory(manager->baseURL()));
+    OVLocalFileManager::setApplicationGroupURL(home_ / "other");
+    EXPECT_EQ(OVLocalFileManager::localFileManagerForPathComponent("Local Files/Note Files")->baseURL(),
+        home_ / "other" / "Application Data" / "Local Files" / "Note Files")
+        << "not the one from before";
+    EXPECT_EQ(OVLocalFileManager::initWithBaseURL(""), nullptr);
+}
+
+TEST_F(AttachmentFolders, HaveANewManagerEachTimeWhileThereIsATestFolder)
+{
+    EXPECT_EQ(OVLocalFileManager::applicationPersistentDataURL(), home_ / "test");
+    EXPECT_EQ(manager_->baseURL(), home_ / "test" / "Area" / "Kind");
+    EXPECT_TRUE(fs::is_directory(manager_->baseURL())) << "made with what is around it";
+    EXPECT_NE(OVLocalFileManager::localFileManagerForPathComponent("Area/Kind"), manager_);
+    OVLocalFileManager::setApplicationPersistentDataTestURL(home_ / "next");
+    EXPECT_EQ(OVLocalFileManager::localFileManagerForPathComponent("Area/Kind")->baseURL(), home_ / "next/Area/Kind");
+}
+
+TEST_F(AttachmentFolders, AreMadeOneByOneForTheirOwnerAlone)
+{
+    NSError error;
+    const auto folder = manager_->getOrCreateFolderForUniqueID("ID", &error);
+    ASSERT_TRUE(folder) << error;
+    EXPECT_EQ(*folder, manager_->baseURL() / "ID");
+    EXPECT_EQ(fs::status(*folder).permissions(), fs::perms::owner_all);
+    EXPECT_EQ(manager_->getOrCreateFolderForUniqueID("ID"), folder);
+    std::ofstream(manager_->baseURL() / "plain") << "file";
+    EXPECT_TRUE(manager_->getOrCreateFolderForUniqueID("plain")) << "what has the name is taken as the folder";
+    fs::remove_all(manager_->baseURL());
+    EXPECT_FALSE(manager_->getOrCreateFolderForUniqueID("ID", &error)) << "what is around it is never made";
+    EXPECT_EQ(error.domain(), NSPOSIXErrorDomain);
+}
+
+TEST_F(AttachmentFolders, KeepNamesAndIdentifiersWithinThem)
+{
+    EXPECT_EQ(manager_->fileURLForUniqueID("ID", "not there.png"), manager_->baseURL() / "ID" / "not there.png");
+    EXPECT_EQ(manager_->fileURLForUniqueID("..", "../../x"), manager_->baseURL() / "_" / ".._.._x");
+    EXPECT_EQ(manager_->fileURLForUniqueID("/etc", "/passwd"), manager_->baseURL() / "_etc" / "_passwd");
+    EXPECT_EQ(manager_->fileURLForUniqueID("", ""), manager_->baseURL() / "_" / "_");
+}
+
+TEST_F(AttachmentFolders, TakeCopiesAndFilesThemselves)
+{
+    NSError error;
+    const auto copy = manager_->copyFileAtURL(aFile("a", "one"), "ID", "copy", &error);
+    EXPECT_EQ(copy, manager_->baseURL() / "ID" / "copy") << error;
+    EXPECT_TRUE(fs::exists(home_ / "a"));
+    EXPECT_EQ(manager_->moveFileAtURL(home_ / "a", "ID", "moved", &error), manager_->baseURL() / "ID" / "moved");
+    EXPECT_FALSE(fs::exists(home_ / "a"));
+
+    EXPECT_FALSE(manager_->copyFileAtURL(aFile("b", "two"), "ID", "copy", &error)) << "nothing is covered";
+    EXPECT_EQ(error.code(), EEXIST);
+    EXPECT_FALSE(manager_->moveFileAtURL(home_ / "b", "ID", "copy", &error));
+    EXPECT_TRUE(fs::exists(home_ / "b"));
+    EXPECT_FALSE(manager_->copyFileAtURL(home_ / "missing", "NEW", "x", &error));
+    EXPECT_FALSE(fs::exists(manager_->baseURL() / "NEW")) << "a folder that was made in vain goes";
+    EXPECT_FALSE(manager_->copyFileAtURL(home_ / "missing", "ID", "x", &error));
+    EXPECT_TRUE(fs::exists(manager_->baseURL() / "ID" / "copy"));
+}
+
+TEST_F(AttachmentFolders, AreDeletedWithAllThatIsInThem)
+{
+    ASSERT_TRUE(manager_->copyFileAtURL(aFile("a", "one"), "ID", "a"));
+    manager_->deleteFileForUniqueID(std::nullopt);
+    manager_->deleteFileForUniqueID("unknown");
+    EXPECT_TRUE(fs::exists(manager_->baseURL() / "ID" / "a"));
+    manager_->deleteFileForUniqueID("ID");
+    EXPECT_FALSE(fs::exists(manager_->baseURL() / "ID"));
+    EXPECT_TRUE(fs::exists(manager_->baseURL()));
 }
 
 } // namespace

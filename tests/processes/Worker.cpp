@@ -2,6 +2,7 @@
 
 #include "tarnmodel/files/OVLocalFileManager.h"
 #include "tarnmodel/store/OVCoreDataStackForExtensions.h"
+#include "tests/processes/AttachmentWork.h"
 #include "tests/processes/CommonLife.h"
 #include "tests/processes/KnownWorld.h"
 #include "tests/processes/SharedStore.h"
@@ -76,6 +77,7 @@ constexpr std::array kParts{
     Part{"extension", 3, liveAsExtension},
     Part{"reader", 3, liveAsReader},
     Part{"append", 2, append},
+    Part{"attachments", 2, workWithAttachments},
 };
 
 } // namespace

@@ -33,7 +33,10 @@ struct WorkerResult {
 /// Another process of this program that runs as a worker. It never outlives this object.
 class WorkerProcess {
 public:
-    explicit WorkerProcess(const std::vector<std::string>& arguments);
+    /// `injection`, where there is one, is what `strace -e` is to do to its calls of the system.
+    explicit WorkerProcess(const std::vector<std::string>& arguments, const std::string& injection = "");
+    /// Whether this system lets us inject anything.
+    static bool canBeTraced();
     ~WorkerProcess();
     WorkerProcess(WorkerProcess&& other) noexcept;
     WorkerProcess& operator=(WorkerProcess&&) = delete;

@@ -5,6 +5,7 @@
 #include <csignal>
 #include <cstdlib>
 #include <fcntl.h>
+#include <filesystem>
 #include <spawn.h>
 #include <stdexcept>
 #include <sys/wait.h>
@@ -13,13 +14,19 @@
 
 namespace tarn {
 
-WorkerProcess::WorkerProcess(const std::vector<std::string>& arguments)
+WorkerProcess::WorkerProcess(const std::vector<std::string>& arguments, const std::string& injection)
 {
     std::array<int, 2> pipe{};
     if (::pipe2(pipe.data(), O_CLOEXEC) != 0)
         throw std::runtime_error("no pipe");
     pipe_ = pipe[0];
     std::vector<std::string> all{"test_processes", "worker"};
+    const char* program = "/proc/self/exe";
+    if (!injection.empty()) {
+        program = "strace";
+        all = {"strace", "-f", "-qq", "-o", "/dev/null", "-e", injection,
+            std::filesystem::read_symlink("/proc/self/exe"), "worker"};
+    }
     all.insert(all.end(), arguments.begin(), arguments.end());
     std::vector<char*> values;
     for (std::string& argument : all)
@@ -29,11 +36,17 @@ WorkerProcess::WorkerProcess(const std::vector<std::string>& arguments)
     posix_spawn_file_actions_init(&actions);
     posix_spawn_file_actions_adddup2(&actions, pipe[1], STDOUT_FILENO);
     posix_spawn_file_actions_adddup2(&actions, pipe[1], STDERR_FILENO);
-    const int result = ::posix_spawn(&pid_, "/proc/self/exe", &actions, nullptr, values.data(), ::environ);
+    const int result = ::posix_spawnp(&pid_, program, &actions, nullptr, values.data(), ::environ);
     posix_spawn_file_actions_destroy(&actions);
     ::close(pipe[1]);
     if (result != 0)
         throw std::runtime_error("no process");
+}
+
+bool WorkerProcess::canBeTraced()
+{
+    static const bool isPossible = WorkerProcess({"none"}, "trace=none").finish().output == "no such part\n";
+    return isPossible;
 }
 
 WorkerProcess::WorkerProcess(WorkerProcess&& other) noexcept

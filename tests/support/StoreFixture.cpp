@@ -1,5 +1,6 @@
 #include "tests/support/StoreFixture.h"
 
+#include "tarnmodel/files/OVLocalFileManager.h"
 #include "tarnmodel/model/ManagedObjectModel.h"
 #include "tarnmodel/model/OVNoteGenericFile.h"
 #include "tarnmodel/model/OVNoteImage.h"
@@ -13,7 +14,8 @@ namespace tarn {
 // World ---------------------------------------------------------------------------------------------------------------
 
 StillWorld::StillWorld()
-    : clock_(dateWithMicrosecondsSince1970(1'700'000'000'000'000)),
+    : filesRoot_(std::filesystem::temp_directory_path() / ("tarn datën " + newUUIDString())),
+      clock_(dateWithMicrosecondsSince1970(1'700'000'000'000'000)),
       previousHost_(setHostUUIDProvider([](std::chrono::seconds) {
           return HostUUID{HostUUIDStatus::Known, *bytesOfUUIDString(deviceUUID)};
       }))
@@ -22,11 +24,17 @@ StillWorld::StillWorld()
     world_.setHostName(std::string(deviceName));
     world_.setLocaleIdentifier("en_US");
     world_.setTimeZoneIdentifier("UTC");
+    world_.setCacheDirectory(filesRoot_ / "Cache");
+    world_.setVariable("XDG_DATA_HOME", (filesRoot_ / "Data").string());
+    OVLocalFileManager::setApplicationPersistentDataTestURL(filesRoot_);
 }
 
 StillWorld::~StillWorld()
 {
+    OVLocalFileManager::setApplicationPersistentDataTestURL(std::nullopt);
     setHostUUIDProvider(previousHost_);
+    std::error_code ignored;
+    std::filesystem::remove_all(filesRoot_, ignored);
 }
 
 NSDate StillWorld::tick()

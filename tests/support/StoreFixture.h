@@ -37,6 +37,8 @@ public:
     NSDate mark() { return tick(); }
     /// The time that the clock gave last.
     NSDate lastTime() const { return clock_; }
+    /// The persistent data folder of this world, where attachments lie; it is not there before something does.
+    const std::filesystem::path& filesRoot() const { return filesRoot_; }
     /// What was logged since the last time.
     std::vector<std::string> takeLog() { return log_.take(); }
 
@@ -49,6 +51,7 @@ protected:
 private:
     NSDate tick();
 
+    std::filesystem::path filesRoot_;
     NSDate clock_;
     HostUUIDProvider previousHost_;
     LogCapture log_;

@@ -1,0 +1,81 @@
+#include "tarnmodel/files/FileNames.h"
+#include "tarnmodel/files/UnsavedFileChanges.h"
+#include "tarnmodel/model/OVNoteFile.h"
+#include "tarnmodel/platform/foundation/filesystem/NSFileManager.h"
+#include "tarnmodel/platform/foundation/filetypes/UTType.h"
+#include "tarnmodel/platform/foundation/text/Normalization.h"
+#include "tarnmodel/platform/foundation/text/PercentEncoding.h"
+#include "tarnmodel/platform/foundation/values/NSError.h"
+
+#include <system_error>
+
+namespace tarn {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Of a folder the files in it count, not the folder's own entry.
+std::int64_t sizeOfItem(const fs::path& item, const NSFileAttributes& attributes)
+{
+    if (!attributes.isFolder)
+        return attributes.size;
+    std::int64_t size = 0;
+    std::error_code failure;
+    for (fs::recursive_directory_iterator entry(item, failure), end; !failure && entry != end; entry.increment(failure))
+        if (std::error_code ignored; entry->is_regular_file(ignored) && !entry->is_symlink(ignored))
+            size += static_cast<std::int64_t>(entry->file_size(ignored));
+    return size;
+}
+
+} // namespace
+
+bool OVNoteFile::filenameIsEqualTo(std::string_view filename) const
+{
+    const auto own = stringByRemovingPercentEncoding(this->filename().value_or("%"));
+    const auto other = stringByRemovingPercentEncoding(filename);
+    return own && other && canonicallyComposed(*own) == canonicallyComposed(*other);
+}
+
+void OVNoteFile::renameWithFilename(std::string_view filename, NSError* error)
+{
+    const auto formerName = this->filename();
+    deleteFileThumbnails();
+    const auto formerFile = fileURL();
+    setFilename(fileNameWithinFolder(filename));
+    updateNormalizedExtension();
+    if (!downloadedValue())
+        return;
+    const auto file = fileURL();
+    const bool isRenamed = formerFile && file
+        && UnsavedFileChanges::ofRecord(*this).renameFile(
+            RecordFolder::ofRecord(*this), formerFile->filename().string(), file->filename().string(), error);
+    if (isRenamed) {
+        markForUpload();
+    } else if (formerFile) {
+        // The record goes on saying what is on disk.
+        setFilename(formerName);
+        updateNormalizedExtension();
+    }
+}
+
+void OVNoteFile::updateFileMetadata()
+{
+    if (hasEncryptionAndIsLocked())
+        return;
+    const auto file = fileURL();
+    const auto attributes = file ? NSFileManager::attributesOfItemAtURL(*file) : std::nullopt;
+    setFileSize(attributes ? sizeOfItem(*file, *attributes) : 0);
+    setModificationDate(attributes ? std::optional(attributes->modificationDate) : std::nullopt);
+    setCreationDate(attributes ? attributes->creationDate : std::nullopt);
+}
+
+void OVNoteFile::updateNormalizedExtension()
+{
+    const std::string extension = fs::path(filename().value_or("")).extension().string();
+    const auto type = extension.empty() ? std::nullopt : UTType::typeWithFilenameExtension(extension.substr(1));
+    const std::string_view preferred = type ? type->preferredFilenameExtension() : std::string_view();
+    setNormalizedFileExtension(preferred);
+}
+
+} // namespace tarn

@@ -1,0 +1,33 @@
+#include "tarnmodel/model/OVNoteGenericFile.h"
+#include "tarnmodel/platform/foundation/values/Value.h"
+
+namespace tarn {
+
+namespace {
+
+constexpr std::string_view kFiles = "Note Files";
+
+} // namespace
+
+bool OVNoteGenericFile::canImportFileURL(const FileURL&)
+{
+    return true;
+}
+
+OVNoteFile* OVNoteGenericFile::noteFileForFileURL(const FileURL& url, NSManagedObjectContext& context, NSError* error)
+{
+    return insertInManagedObjectContext(context)->takeFile(url, error);
+}
+
+std::string OVNoteGenericFile::localFolderName() const
+{
+    return OVNoteFile::localFolderName() + "/" + std::string(kFiles);
+}
+
+std::map<std::string, Value> OVNoteGenericFile::additionalFileData() const
+{
+    // The name through its guard, as everybody reads it.
+    return {{"filename", valueForKey("filename")}, {"modificationDate", valueForKey("modificationDate")}};
+}
+
+} // namespace tarn

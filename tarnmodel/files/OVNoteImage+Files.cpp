@@ -1,0 +1,82 @@
+#include "tarnmodel/files/OVLocalFileManager.h"
+#include "tarnmodel/files/OVThumbFileManager.h"
+#include "tarnmodel/model/OVNoteImage.h"
+#include "tarnmodel/platform/foundation/filetypes/UTType.h"
+#include "tarnmodel/platform/foundation/values/NSError.h"
+#include "tarnmodel/platform/imaging/ImageFile.h"
+#include "tarnmodel/platform/imaging/ImageLimits.h"
+
+namespace tarn {
+
+namespace {
+
+constexpr std::string_view kImages = "Note Images";
+
+/// "png" of "a.png"; empty when there is none.
+std::string extensionOf(const std::filesystem::path& file)
+{
+    const std::string extension = file.extension().string();
+    return extension.empty() ? extension : extension.substr(1);
+}
+
+} // namespace
+
+bool OVNoteImage::canImportFileURL(const FileURL& url)
+{
+    const auto type = UTType::typeWithFilenameExtension(extensionOf(url.path));
+    return type && type->conformsToImage() && !type->conformsToSVG();
+}
+
+OVNoteFile* OVNoteImage::noteFileForFileURL(const FileURL& url, NSManagedObjectContext& context, NSError* error)
+{
+    // What its header says it is, and within what a thumbnail can be made of; decoded it is only when it is shown.
+    const auto header = readImageHeader(url.path, error);
+    if (!header || !imageIsWithinLimits(*header, ImageLimits::current(), error))
+        return nullptr;
+    OVNoteImage* const image = insertInManagedObjectContext(context);
+    if (!image->takeFile(url, error))
+        return nullptr;
+    image->setWidthValue(header->uprightWidth());
+    image->setHeightValue(header->uprightHeight());
+    return image;
+}
+
+OVNoteImage::Size OVNoteImage::imageSizeForImageURL(const FileURL& url)
+{
+    const auto header = readImageHeader(url.path, nullptr);
+    if (!header)
+        return {};
+    return {static_cast<double>(header->uprightWidth()), static_cast<double>(header->uprightHeight())};
+}
+
+std::string OVNoteImage::localFolderName() const
+{
+    return OVNoteFile::localFolderName() + "/" + std::string(kImages);
+}
+
+std::map<std::string, Value> OVNoteImage::additionalFileData() const
+{
+    return {{"width", valueForKey("width")}, {"height", valueForKey("height")}};
+}
+
+void OVNoteImage::deleteFileThumbnails()
+{
+    if (encryptedValue())
+        return;
+    if (const auto file = fileURL())
+        OVThumbFileManager::thumbFileManagerForPathComponent(OVNoteThumbFileDirectoryName)
+            ->deleteAllThumbsForImageURL(*file);
+}
+
+void OVNoteImage::updateFileMetadata()
+{
+    _OVNoteImage::updateFileMetadata();
+    if (hasEncryptionAndIsLocked())
+        return;
+    const auto file = fileURL();
+    const Size size = file ? imageSizeForImageURL(*file) : Size();
+    setWidthValue(static_cast<std::int64_t>(size.width));
+    setHeightValue(static_cast<std::int64_t>(size.height));
+}
+
+} // namespace tarn

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "tarnmodel/files/OVLocalFileManager.h"
+
+#include <compare>
+#include <filesystem>
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tarn {
+
+class NSManagedObjectContext;
+class OVNoteFile;
+
+/// Where the file of an attachment lies: the kind's folder below the persistent data folder, and the record's in that.
+struct RecordFolder {
+    std::string area;       ///< "Local Files/Note Images", as `OVNoteFile::localFolderName` gives it
+    std::string identifier; ///< the record's unique identifier
+
+    /// That of a record, which has an identifier.
+    static RecordFolder ofRecord(const OVNoteFile& record);
+    /// The record's folder, which need not exist.
+    std::filesystem::path url() const;
+    friend auto operator<=>(const RecordFolder&, const RecordFolder&) = default;
+};
+
+using RecordsOfFolders = std::map<RecordFolder, const OVNoteFile*>;
+
+/// The records with these identifiers. False when the store cannot be asked; that is logged. On the context's queue.
+bool fetchRecordsOfFolders(
+    const std::vector<std::string>& identifiers, NSManagedObjectContext& context, RecordsOfFolders& records);
+
+/// What lies in a folder, without what is not whole; by name.
+std::vector<std::filesystem::path> itemsInFolder(const std::filesystem::path& folder);
+
+/// Gives the one item of a record's folder the name that the record says, where nothing has it. Whether that was done.
+bool giveFileItsName(const RecordFolder& folder, std::string_view filename);
+
+} // namespace tarn
