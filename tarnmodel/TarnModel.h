@@ -33,6 +33,7 @@
 #include "tarnmodel/platform/coredata/NSPersistentStoreCoordinator.h"
 #include "tarnmodel/platform/coredata/QueueChecks.h"
 #include "tarnmodel/platform/coredata/RecordMerge.h"
+#include "tarnmodel/platform/coredata/SaveParticipant.h"
 #include "tarnmodel/platform/coredata/StoreErrors.h"
 #include "tarnmodel/platform/coredata/ValueLength.h"
 #include "tarnmodel/platform/predicate/NSPredicate.h"

@@ -28,7 +28,7 @@ constexpr char kSeparator = '\t'; // neither identifiers on disk nor names hold 
 
 fs::path placeOfJournals()
 {
-    return OVLocalFileManager::folderURLForPathComponent(OVNoteLocalFileDirectoryName);
+    return OVLocalFileManager::applicationPersistentDataURL() / OVNoteLocalFileDirectoryName;
 }
 
 std::string prefixForStore(std::string_view storeUUID)

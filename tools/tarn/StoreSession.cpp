@@ -1,10 +1,10 @@
 #include "tools/tarn/StoreSession.h"
 
 #include "tarnmodel/files/OVLocalFileManager.h"
-#include "tarnmodel/platform/foundation/filesystem/PrivateFolder.h"
 #include "tarnmodel/model/ManagedObjectModel.h"
 #include "tarnmodel/model/OVChange.h"
 #include "tarnmodel/platform/foundation/events/Queue.h"
+#include "tarnmodel/platform/foundation/filesystem/PrivateFolder.h"
 #include "tarnmodel/platform/foundation/system/Environment.h"
 #include "tools/tarn/Interruption.h"
 

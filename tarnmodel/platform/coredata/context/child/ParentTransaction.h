@@ -27,7 +27,10 @@ public:
     std::int64_t versionAfterCommit(
         const NSEntityDescription& entity, std::int64_t key, std::int64_t written) const override;
     bool isExclusive() const override { return false; }
-    void whenTakenByContext(std::function<void(NSManagedObjectContext&)> tell) override { whenTaken_ = std::move(tell); }
+    void whenTakenByContext(std::function<void(NSManagedObjectContext&)> tell) override
+    {
+        whenTaken_ = std::move(tell);
+    }
     bool commit(NSError* error) override;
 
 private:
