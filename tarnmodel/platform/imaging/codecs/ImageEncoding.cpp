@@ -10,6 +10,7 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <new>
 #include <string_view>
 #include <vector>
 
@@ -40,12 +41,8 @@ void convertRow(const Bitmap& bitmap, std::int32_t y, std::vector<std::uint8_t>&
     }
 }
 
-} // namespace
-
-bool writePNG(const Bitmap& bitmap, const std::filesystem::path& path, NSError* error)
+bool encodePNG(const Bitmap& bitmap, const std::filesystem::path& path, NSError* error)
 {
-    if (bitmap.isEmpty())
-        return failToWrite(error, "it has no pixels");
     PNGWriter writer;
     std::vector<std::uint8_t> row;
     bool isWritten = writer.begin(bitmap.width(), bitmap.height(), bitmap.hasAlpha());
@@ -58,10 +55,8 @@ bool writePNG(const Bitmap& bitmap, const std::filesystem::path& path, NSError* 
     return writeFile(path, writer.bytes(), error);
 }
 
-bool writeJPEG(const Bitmap& bitmap, const std::filesystem::path& path, NSError* error, int quality)
+bool encodeJPEG(const Bitmap& bitmap, const std::filesystem::path& path, NSError* error, int quality)
 {
-    if (bitmap.isEmpty())
-        return failToWrite(error, "it has no pixels");
     JPEGWriter writer;
     bool isWritten = writer.begin(bitmap.width(), bitmap.height(), quality);
     // A premultiplied colour is that colour over black already.
@@ -70,6 +65,29 @@ bool writeJPEG(const Bitmap& bitmap, const std::filesystem::path& path, NSError*
     if (!isWritten || !writer.finish())
         return failToWrite(error, writer.failure());
     return writeFile(path, writer.bytes(), error);
+}
+
+template <typename Encode> bool encode(const Bitmap& bitmap, NSError* error, const Encode& work)
+{
+    if (bitmap.isEmpty())
+        return failToWrite(error, "it has no pixels");
+    try {
+        return work();
+    } catch (const std::bad_alloc&) {
+        return failToWrite(error, "there is not enough memory");
+    }
+}
+
+} // namespace
+
+bool writePNG(const Bitmap& bitmap, const std::filesystem::path& path, NSError* error)
+{
+    return encode(bitmap, error, [&] { return encodePNG(bitmap, path, error); });
+}
+
+bool writeJPEG(const Bitmap& bitmap, const std::filesystem::path& path, NSError* error, int quality)
+{
+    return encode(bitmap, error, [&] { return encodeJPEG(bitmap, path, error, quality); });
 }
 
 } // namespace tarn

@@ -36,8 +36,6 @@ bool JPEGWriter::begin(std::int32_t width, std::int32_t height, int quality)
     info_.in_color_space = JCS_EXT_RGBX;
     jpeg_set_defaults(&info_);
     jpeg_set_quality(&info_, std::clamp(quality, 1, 100), TRUE);
-    // Costs a tenth of the time and saves a tenth of the bytes.
-    info_.optimize_coding = TRUE;
     jpeg_start_compress(&info_, TRUE);
     return true;
 }
