@@ -248,8 +248,8 @@ void MainQueueState::runTasksOfEachPass(MainQueue& queue)
     std::unique_lock lock(mutex_);
     const auto tasks = inEachPass_;
     for (const auto& [key, task] : tasks) {
-        const bool isWanted = std::any_of(
-            inEachPass_.begin(), inEachPass_.end(), [&](const auto& entry) { return entry.second == task; });
+        const bool isWanted = std::any_of(inEachPass_.begin(), inEachPass_.end(),
+            [&wanted = task](const auto& entry) { return entry.second == wanted; });
         if (!isWanted)
             continue; // an earlier one has taken it back
         lock.unlock();

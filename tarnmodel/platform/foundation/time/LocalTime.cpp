@@ -27,8 +27,7 @@ std::vector<NSDate> candidates(WallTime wall)
     for (hours distance = -kReach; distance <= kReach; distance += kStep)
         dates.push_back(withOffset(wall, Environment::current().localTimeOffset(withOffset(wall, -distance))));
     std::ranges::sort(dates);
-    const auto repeated = std::ranges::unique(dates);
-    dates.erase(repeated.begin(), repeated.end());
+    dates.erase(std::unique(dates.begin(), dates.end()), dates.end());
     return dates;
 }
 
