@@ -34,9 +34,10 @@ public:
     const WebPIterator& get() const { return frame_; }
     std::int32_t canvasWidth() const { return feature(WEBP_FF_CANVAS_WIDTH); }
     std::int32_t canvasHeight() const { return feature(WEBP_FF_CANVAS_HEIGHT); }
-    bool hasAlpha() const { return frame_.has_alpha != 0 || isAnimated(); }
+    bool hasAlpha() const { return frame_.has_alpha != 0 || isAnimated() || !coversTheCanvas(); }
 
 private:
+    bool coversTheCanvas() const { return frame_.width == canvasWidth() && frame_.height == canvasHeight(); }
     bool isAnimated() const { return (feature(WEBP_FF_FORMAT_FLAGS) & ANIMATION_FLAG) != 0; }
     std::int32_t feature(WebPFormatFeature name) const
     {
@@ -61,6 +62,9 @@ void deliver(const FirstFrame& frame, const std::vector<std::uint8_t>& pixels, R
         if (line >= 0 && line < place.height)
             std::copy_n(pixels.data() + bytesPerRow * static_cast<std::size_t>(line), bytesPerRow,
                 row.data() + 4 * static_cast<std::size_t>(place.x_offset));
+        // The pixels of a file that says to have no alpha may have some.
+        for (std::size_t alpha = 3; !frame.hasAlpha() && alpha < row.size(); alpha += 4)
+            row[alpha] = 255;
         rows.add(row.data());
     }
 }

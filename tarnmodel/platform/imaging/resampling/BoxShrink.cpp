@@ -66,21 +66,41 @@ void BoxShrink::begin(const RowLayout& layout)
 
 void BoxShrink::addRow(const std::uint8_t* pixels)
 {
-    if (layout_.hasAlpha)
-        add(pixels, premultiplied);
-    else
-        add(pixels, widened);
+    // Where there is no alpha, nothing is changed by it.
+    addRow(pixels, !layout_.hasAlpha);
 }
 
 void BoxShrink::addPremultipliedRow(const std::uint8_t* pixels)
 {
-    add(pixels, widened);
+    addRow(pixels, true);
+}
+
+void BoxShrink::addRow(const std::uint8_t* pixels, bool isPremultiplied)
+{
+    if (finishedRows_ == samples_.height())
+        return;
+    if (boxWidth_ == 1 && boxHeight_ == 1)
+        keepRow(pixels, isPremultiplied);
+    else if (isPremultiplied)
+        add(pixels, widened);
+    else
+        add(pixels, premultiplied);
+}
+
+void BoxShrink::keepRow(const std::uint8_t* pixels, bool isPremultiplied)
+{
+    std::uint16_t* value = samples_.row(finishedRows_++);
+    const std::uint16_t* const end = value + samples_.valuesPerRow();
+    for (; value != end; value += 4, pixels += 4) {
+        const unsigned factor = isPremultiplied ? 255U : pixels[3];
+        for (int channel = 0; channel < 3; ++channel)
+            value[channel] = static_cast<std::uint16_t>(pixels[channel] * factor);
+        value[3] = static_cast<std::uint16_t>(pixels[3] * 255U);
+    }
 }
 
 template <typename Pixel> void BoxShrink::add(const std::uint8_t* pixels, Pixel pixel)
 {
-    if (finishedRows_ == samples_.height())
-        return;
     const std::uint8_t* const end = pixels + std::size_t{4} * static_cast<std::size_t>(layout_.width);
     for (BoxSum& sum : sums_) {
         PixelVector box;

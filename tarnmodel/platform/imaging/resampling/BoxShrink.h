@@ -34,6 +34,8 @@ private:
         PixelVector::WideChannels channels = {0, 0, 0, 0};
     };
 
+    void addRow(const std::uint8_t* pixels, bool isPremultiplied);
+    void keepRow(const std::uint8_t* pixels, bool isPremultiplied);
     template <typename Pixel> void add(const std::uint8_t* pixels, Pixel pixel);
     void closeBoxes();
 
