@@ -34,10 +34,9 @@ public:
     const WebPIterator& get() const { return frame_; }
     std::int32_t canvasWidth() const { return feature(WEBP_FF_CANVAS_WIDTH); }
     std::int32_t canvasHeight() const { return feature(WEBP_FF_CANVAS_HEIGHT); }
-    bool hasAlpha() const { return frame_.has_alpha != 0 || isAnimated() || !coversTheCanvas(); }
+    bool hasAlpha() const { return frame_.has_alpha != 0 || isAnimated(); }
 
 private:
-    bool coversTheCanvas() const { return frame_.width == canvasWidth() && frame_.height == canvasHeight(); }
     bool isAnimated() const { return (feature(WEBP_FF_FORMAT_FLAGS) & ANIMATION_FLAG) != 0; }
     std::int32_t feature(WebPFormatFeature name) const
     {

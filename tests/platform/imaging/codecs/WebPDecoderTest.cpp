@@ -56,6 +56,20 @@ TEST(AWebP, ThatMovesIsItsFirstFrameInItsPlace)
     EXPECT_EQ(lettersOf(*picture), "....../....../..rr../......");
 }
 
+TEST(AWebP, ThatSaysToHaveNoAlphaHasNone)
+{
+    ImageBytes bytes = webPOf(aFadingPicture(16, 16));
+    constexpr std::size_t kAlphaByte = 20 + 4;
+    ASSERT_NE(bytes[kAlphaByte] & 0x10, 0);
+    bytes[kAlphaByte] &= 0xEF;
+
+    EXPECT_FALSE(headerOf(bytes)->hasAlpha);
+    const auto picture = loaded(bytes);
+    ASSERT_TRUE(picture);
+    EXPECT_FALSE(picture->hasAlpha());
+    EXPECT_EQ(picture->row(0)[3], 255);
+}
+
 TEST(AWebP, IsWholeOrNotAtAll)
 {
     const ImageBytes bytes = webPOf(aPhotograph(100, 100), 80);
