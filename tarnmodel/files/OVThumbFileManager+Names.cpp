@@ -31,7 +31,7 @@ std::string withoutOccurrences(std::string_view text, std::string_view part)
     return rest += text;
 }
 
-std::string extensionOf(const std::filesystem::path& file)
+std::string pathExtension(const std::filesystem::path& file)
 {
     const std::string extension = file.extension().string();
     return extension.empty() ? extension : extension.substr(1);
@@ -58,7 +58,7 @@ std::string OVThumbFileManager::thumbNameForImageURL(
 {
     return fmt::format("{}{}_{}x{}.{}", baseThumbNameImageURL(imageURL), stringFromOptions(options),
         wholePixels(thumbSize.width), wholePixels(thumbSize.height),
-        thumbExtensionForImageExtension(extensionOf(imageURL)));
+        thumbExtensionForImageExtension(pathExtension(imageURL)));
 }
 
 OVThumbOptions OVThumbFileManager::defaultThumbOptions()
