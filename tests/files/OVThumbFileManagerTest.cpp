@@ -5,8 +5,11 @@
 
 #include <gmock/gmock.h>
 
+#include <csignal>
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace tarn {
 namespace {
@@ -197,6 +200,21 @@ TEST_F(DeletedThumbs, AreThoseOfOneImageInAllSizes)
     EXPECT_EQ(filesInFolder().size(), 1U);
 }
 
+TEST_F(DeletedThumbs, MayBeThoseOfManyImagesAtOnce)
+{
+    std::vector<fs::path> pictures;
+    for (const char* name : {"a.png", "b.png", "c.png"}) {
+        pictures.push_back(aPicture(name));
+        manager_->makeThumbForImageURL(pictures.back(), kSize);
+        manager_->makeThumbForImageURL(pictures.back(), {8, 8});
+    }
+    manager_->deleteAllThumbsForImageURLs({});
+    EXPECT_EQ(filesInFolder().size(), 6U);
+    manager_->deleteAllThumbsForImageURLs(std::vector<fs::path>{pictures[0], fs::path(), pictures[2]});
+    EXPECT_EQ(filesInFolder().size(), 2U);
+    EXPECT_TRUE(manager_->thumbURLForImageURL(pictures[1], kSize));
+}
+
 TEST_F(DeletedThumbs, AreNotThoseInFoldersBelow)
 {
     const fs::path picture = aPicture("a.png");
@@ -221,6 +239,30 @@ TEST_F(DeletedThumbs, TakeWhatADeadMakerLeftAlong)
 }
 
 // The clock is asked once a maker has begun.
+TEST_F(DeletedThumbs, TakeWhatAKilledMakerLeftAlong)
+{
+    const fs::path picture = aPicture("a.png");
+    const pid_t maker = ::fork();
+    if (maker == 0) {
+        world_.setClock([] {
+            ::raise(SIGKILL);
+            return NSDate();
+        });
+        manager_->makeThumbForImageURL(picture, kSize);
+        ::_exit(0);
+    }
+    int status = 0;
+    ASSERT_EQ(::waitpid(maker, &status, 0), maker);
+    ASSERT_TRUE(WIFSIGNALED(status));
+    ASSERT_EQ(filesInFolder().size(), 1U);
+    EXPECT_THAT(*filesInFolder().begin(), testing::StartsWith("."));
+    EXPECT_EQ(manager_->thumbURLForImageURL(picture, kSize), std::nullopt);
+
+    EXPECT_TRUE(manager_->makeThumbForImageURL(picture, kSize)) << "it is in nobody's way";
+    manager_->deleteAllThumbsForImageURL(picture);
+    EXPECT_EQ(filesInFolder(), std::set<std::string>());
+}
+
 TEST_F(DeletedThumbs, DoNotComeBackFromAMakerThatHadBegun)
 {
     const fs::path picture = aPicture("a.png");
