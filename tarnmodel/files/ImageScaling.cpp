@@ -7,12 +7,17 @@
 
 namespace tarn {
 
-Bitmap canvasForDrawing(const ScaledDrawing& drawing)
+std::int64_t mostPixelsOfCanvas()
 {
     const ImageLimits limits = ImageLimits::current();
+    return std::min(limits.pixels, limits.bufferedPixels);
+}
+
+Bitmap canvasForDrawing(const ScaledDrawing& drawing)
+{
     const auto [width, height] = drawing.canvas;
-    const std::int64_t mostPixels = std::min(limits.pixels, limits.bufferedPixels);
-    if (width > limits.side || height > limits.side || width * height > mostPixels)
+    const std::int32_t longest = ImageLimits::current().side;
+    if (width > longest || height > longest || width * height > mostPixelsOfCanvas())
         return {};
     return Bitmap(static_cast<std::int32_t>(width), static_cast<std::int32_t>(height), Bitmap::Alpha::Premultiplied);
 }

@@ -4,10 +4,14 @@
 #include "tarnmodel/platform/imaging/Bitmap.h"
 #include "tarnmodel/platform/imaging/ImageDrawing.h"
 
+#include <cstdint>
+
 namespace tarn {
 
-/// An empty canvas for this drawing, transparent. No image when it has more pixels, or longer sides, than
-/// `ImageLimits::current()` lets an image have; nothing is allocated then.
+/// The most pixels that a canvas may have: those that `ImageLimits::current()` lets be in memory at once.
+std::int64_t mostPixelsOfCanvas();
+/// An empty canvas for this drawing, transparent. No image when it has more pixels than that, or a longer side than the
+/// limits allow; nothing is allocated then.
 Bitmap canvasForDrawing(const ScaledDrawing& drawing);
 
 /// The image in the size that was asked for, or within it, as `scaledDrawing` places it. An image of this very size is

@@ -27,25 +27,6 @@ std::nullopt_t fail(NSError* error, std::string_view text)
     return std::nullopt;
 }
 
-OVThumbOptions overDefaults(const OVThumbOptions& options)
-{
-    OVThumbOptions all = OVThumbFileManager::defaultThumbOptions();
-    const auto lay = [](auto& value, const auto& given) {
-        if (given)
-            value = given;
-    };
-    lay(all.preserveRatio, options.preserveRatio);
-    lay(all.contain, options.contain);
-    lay(all.cover, options.cover);
-    lay(all.antialias, options.antialias);
-    lay(all.xAlign, options.xAlign);
-    lay(all.yAlign, options.yAlign);
-    lay(all.trimTopBottomTransparentPixels, options.trimTopBottomTransparentPixels);
-    lay(all.trimTransparentPixelsHorizontalMargin, options.trimTransparentPixelsHorizontalMargin);
-    lay(all.backgroundColor, options.backgroundColor);
-    return all;
-}
-
 bool encode(const Bitmap& bitmap, std::string_view thumbName, const fs::path& file, NSError* error)
 {
     return thumbName.ends_with(".jpg") ? writeJPEG(bitmap, file, error) : writePNG(bitmap, file, error);
@@ -89,7 +70,7 @@ std::optional<fs::path> OVThumbFileManager::makeThumbForImageURL(
     const PixelSize size = {wholePixels(thumbSize.width), wholePixels(thumbSize.height)};
     const fs::path destination = baseURL_ / thumbNameForImageURL(imageURL, thumbSize, options);
     try {
-        return makeThumb(imageURL, size, overDefaults(options), destination, error);
+        return makeThumb(imageURL, size, options, destination, error);
     } catch (const std::bad_alloc&) {
         return fail(error, fmt::format("There is not enough memory for a thumbnail of \"{}\".", imageURL.string()));
     }

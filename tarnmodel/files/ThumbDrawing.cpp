@@ -2,6 +2,7 @@
 
 #include "tarnmodel/files/ImageScaling.h"
 #include "tarnmodel/files/OVImageAlphaTrimmer.h"
+#include "tarnmodel/files/OVThumbFileManager.h"
 #include "tarnmodel/platform/foundation/values/NSError.h"
 #include "tarnmodel/platform/imaging/ImageFile.h"
 #include "tarnmodel/platform/imaging/ImageLimits.h"
@@ -18,25 +19,25 @@ namespace tarn {
 
 namespace {
 
-constexpr long kThumbErrorCode = 0;
-
 NSError thumbError(std::string_view text)
 {
-    return {"Tarn Model", kThumbErrorCode, text};
+    return {"Tarn Model", 0, text};
 }
 
 ImageFitting fittingOf(const OVThumbOptions& options)
 {
-    return {.preserveRatio = options.preserveRatio.value_or(true),
-        .contain = options.contain.value_or(false),
-        .cover = options.cover.value_or(false),
-        .xAlignment = options.xAlign.value_or(0),
-        .yAlignment = options.yAlign.value_or(0)};
+    const OVThumbOptions defaults = OVThumbFileManager::defaultThumbOptions();
+    return {.preserveRatio = options.preserveRatio.value_or(*defaults.preserveRatio),
+        .contain = options.contain.value_or(*defaults.contain),
+        .cover = options.cover.value_or(*defaults.cover),
+        .xAlignment = options.xAlign.value_or(*defaults.xAlign),
+        .yAlignment = options.yAlign.value_or(*defaults.yAlign)};
 }
 
 DrawingOptions drawingOf(const OVThumbOptions& options)
 {
-    return {.antialias = options.antialias.value_or(true), .interpolation = DrawingOptions::Interpolation::High};
+    return {.antialias = options.antialias.value_or(*OVThumbFileManager::defaultThumbOptions().antialias),
+        .interpolation = DrawingOptions::Interpolation::High};
 }
 
 /// A product of bytes that stand for 0 to 1.
@@ -65,9 +66,8 @@ std::optional<Bitmap> notBroughtTo(PixelSize picture, PixelSize asked, NSError* 
 {
     assignError(error,
         thumbError(
-            fmt::format("A picture of {} x {} pixels cannot be brought to {} x {} (at most {} on a side, {} in all).",
-                picture.width, picture.height, asked.width, asked.height, ImageLimits::current().side,
-                ImageLimits::current().pixels)));
+            fmt::format("A picture of {} x {} pixels cannot be brought to {} x {}; a thumbnail has 1 to {} pixels.",
+                picture.width, picture.height, asked.width, asked.height, mostPixelsOfCanvas())));
     return std::nullopt;
 }
 

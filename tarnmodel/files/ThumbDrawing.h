@@ -11,7 +11,7 @@ namespace tarn {
 
 class NSError;
 
-/// What a thumbnail of this picture shows, upright. Every option of `options` is set, but the last two.
+/// What a thumbnail of this picture shows, upright. Options that are not set have their defaults.
 ///
 /// Unless its border is trimmed, the picture is shrunk while it is decoded. None with an error when it cannot be
 /// decoded, is over a limit, has nothing left once it is trimmed, or cannot be brought to this size.

@@ -63,6 +63,17 @@ TEST_P(ADrawnThumb, IsWhatTheFilterSaysOfTheFile)
     }
 }
 
+TEST_F(ADrawnThumb, HasTheDefaultsOfOptionsThatAreNotSet)
+{
+    const fs::path picture = aPicture("a.png", aPhotograph(333, 160));
+    EXPECT_EQ(drawn(picture, {60, 40}, {}), drawn(picture, {60, 40}, OVThumbFileManager::defaultThumbOptions()));
+    EXPECT_EQ(drawn(picture, {60, 40}, {.contain = true}),
+        drawn(picture, {60, 40}, {.contain = true, .cover = false, .antialias = true, .xAlign = 0, .yAlign = 0}));
+    EXPECT_NE(drawn(picture, {60, 40}, {.contain = true, .yAlign = 0.5}),
+        drawn(picture, {60, 40}, {.contain = true, .antialias = false, .yAlign = 0.5}))
+        << "an edge within pixels";
+}
+
 TEST_F(ADrawnThumb, OfTheSizeOfThePictureIsThePicture)
 {
     const Bitmap picture = aPhotograph(60, 40);
