@@ -10,6 +10,8 @@
 #include "tarnmodel/platform/foundation/values/NSException.h"
 #include "tests/support/TextKeeper.h"
 
+#include <sys/resource.h>
+
 namespace tarn {
 namespace {
 
@@ -180,6 +182,26 @@ TEST_P(NoteFile, IsCopiedWithItsBytesAndWithoutItsNote)
     std::filesystem::remove(*source.fileURL());
     EXPECT_EQ(contentsOf(*source.duplicate()->fileURL()), "-");
     EXPECT_THAT(takeLog(), ElementsAre(testing::StartsWith("Error while duplicating an attachment\n")));
+}
+
+TEST_P(NoteFile, OfManyGigabytesTakesNoMemory)
+{
+    constexpr std::int64_t size = std::int64_t{1} << 32;
+    OVNote& owner = note("# T\n");
+    const auto source = aFile("large.bin", "begin");
+    std::filesystem::resize_file(source, size);
+    rusage before{};
+    ASSERT_EQ(::getrusage(RUSAGE_SELF, &before), 0);
+    OVNoteFile* const file = owner.addAttachmentFromFileURL(source);
+    ASSERT_TRUE(file);
+    const OVNoteFile* const copy = owner.duplicate()->attachmentIncludingUnusedForFilename("large.bin");
+    ASSERT_TRUE(copy);
+    save();
+    EXPECT_EQ(file->fileSize(), size);
+    EXPECT_EQ(std::filesystem::file_size(*copy->fileURL()), static_cast<std::uintmax_t>(size));
+    rusage after{};
+    ASSERT_EQ(::getrusage(RUSAGE_SELF, &after), 0);
+    EXPECT_LT(after.ru_maxrss - before.ru_maxrss, 64 * 1024) << "KiB at most";
 }
 
 TEST_P(NoteFile, IsDuplicatedAndMergedWithItsNote)
