@@ -4,7 +4,9 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -49,6 +51,10 @@ public:
     /// The edits that make every link (not autolinks) to `from`, as it is or percent-decoded, a link to `to`; reference
     /// definitions once. `selectionRange` (UTF-16 units) is moved along.
     CVKTextOperationResult updateLinksURL(std::string_view from, std::string_view to, CVKRange selectionRange) const;
+    /// The same of many links at a time: `newURL` is asked for each destination, as `textSummary().links` has it, and
+    /// none leaves the link as it is. Nothing that it answers is asked for again.
+    CVKTextOperationResult updateLinksURLs(
+        const std::function<std::optional<std::string>(const std::string&)>& newURL, CVKRange selectionRange) const;
     /// Applies edits and parses the new text.
     CVKAST applyTextOperationResults(const CVKTextOperationResult& result) const;
 

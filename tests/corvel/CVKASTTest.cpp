@@ -142,6 +142,21 @@ TEST(UpdateLinksURL, WritesAnEmptyDestinationInBrackets)
         document.applyTextOperationResults(document.updateLinksURL("x", "", {})).markdown(), "[r] [a](<>)\n\n[r]: <>");
 }
 
+TEST(UpdateLinksURLs, ExchangesNamesInOneStep)
+{
+    const CVKAST document = CVKAST::fromMarkdown("![](a) [r] [b](<b>) <a:b>\n\n[r]: c%20d 'title'");
+    std::vector<std::string> asked;
+    const auto newURL = [&](const std::string& destination) -> std::optional<std::string> {
+        asked.push_back(destination);
+        if (destination == "c%20d")
+            return std::nullopt;
+        return destination == "a" ? "b" : "a (b)";
+    };
+    const CVKAST after = document.applyTextOperationResults(document.updateLinksURLs(newURL, {}));
+    EXPECT_EQ(after.markdown(), "![](b) [r] [b](<a (b)>) <a:b>\n\n[r]: c%20d 'title'");
+    EXPECT_EQ(asked, (std::vector<std::string>{"a", "b", "c%20d"}));
+}
+
 TEST(ApplyTextOperationResults, RefusesEditsThatDoNotFit)
 {
     const CVKAST document = CVKAST::fromMarkdown("text");

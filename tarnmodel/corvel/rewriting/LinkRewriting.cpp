@@ -7,7 +7,8 @@
 
 #include "tarnmodel/platform/foundation/text/UTF.h"
 
-#include <algorithm>
+#include <map>
+#include <utility>
 
 namespace tarn {
 
@@ -80,21 +81,30 @@ bool isBetweenAngles(std::string_view text, SourceRange destination)
 
 CVKTextOperationResult CVKAST::updateLinksURL(std::string_view from, std::string_view to, CVKRange selectionRange) const
 {
-    CVKTextOperationResult result;
-    std::vector<corvel::SourceRange> destinations;
-    for (const corvel::Link& link : document_->links) {
-        if (!corvel::isAutolink(link) && corvel::leadsTo(corvel::decodedDestination(*document_, link), from))
-            destinations.push_back(link.destination);
-    }
-    // References share the destination of their definition, which may stand before or after them.
-    std::sort(destinations.begin(), destinations.end(), [](auto a, auto b) { return a.begin < b.begin; });
-    destinations.erase(std::unique(destinations.begin(), destinations.end()), destinations.end());
+    const auto newURL = [&](const std::string& destination) {
+        return corvel::leadsTo(destination, from) ? std::optional<std::string>(to) : std::nullopt;
+    };
+    return updateLinksURLs(newURL, selectionRange);
+}
 
+CVKTextOperationResult CVKAST::updateLinksURLs(
+    const std::function<std::optional<std::string>(const std::string&)>& newURL, CVKRange selectionRange) const
+{
+    // References share the destination of their definition, which may stand before or after them.
+    std::map<std::size_t, const corvel::Link*> links;
+    for (const corvel::Link& link : document_->links) {
+        if (!corvel::isAutolink(link))
+            links.emplace(link.destination.begin, &link);
+    }
+    CVKTextOperationResult result;
     const std::string_view text = document_->text;
-    for (const corvel::SourceRange destination : destinations) {
-        std::string written = corvel::encodedDestination(to, corvel::isBetweenAngles(text, destination));
-        if (written != document_->slice(destination))
-            result.edits.push_back({{destination.begin, destination.length()}, std::move(written)});
+    for (const auto& [begin, link] : links) {
+        const auto url = newURL(corvel::decodedDestination(*document_, *link));
+        if (!url)
+            continue;
+        std::string written = corvel::encodedDestination(*url, corvel::isBetweenAngles(text, link->destination));
+        if (written != document_->slice(link->destination))
+            result.edits.push_back({{begin, link->destination.length()}, std::move(written)});
     }
     result.selectionRange = corvel::movedSelection(text, result.edits, selectionRange);
     return result;
