@@ -2,11 +2,15 @@
 
 #include "tarnmodel/corvel/CVKAST.h"
 #include "tarnmodel/corvel/CVKTextSummary.h"
+#include "tarnmodel/diagnosis/FileExaminationInternal.h"
+#include "tarnmodel/diagnosis/FileRepairInternal.h"
 #include "tarnmodel/diagnosis/NoteExaminationInternal.h"
+#include "tarnmodel/diagnosis/RecordFileInternal.h"
 #include "tarnmodel/diagnosis/RecordReadingInternal.h"
 #include "tarnmodel/diagnosis/TagExaminationInternal.h"
 #include "tarnmodel/diagnosis/TagRepairInternal.h"
 #include "tarnmodel/model/OVNote.h"
+#include "tarnmodel/model/OVNoteFile.h"
 #include "tarnmodel/platform/coredata/NSPersistentStore.h"
 #include "tarnmodel/platform/coredata/NSPersistentStoreCoordinator.h"
 #include "tarnmodel/platform/foundation/values/NSException.h"
@@ -72,6 +76,16 @@ void StoreDoctor::examineAll()
     for (StoreFinding& finding : findingsInTags(context_, tagKeysInTexts_))
         add(std::move(finding));
     context_.reset();
+    if (hasFilesOfApplication(context_))
+        examineFiles();
+}
+
+void StoreDoctor::examineFiles()
+{
+    FileExamination files = tarn::examineFiles(context_);
+    for (StoreFinding& finding : files.findings)
+        add(std::move(finding));
+    examination_.filesToMend = std::move(files.filesToMend);
 }
 
 void StoreDoctor::add(StoreFinding finding)
@@ -149,6 +163,7 @@ std::optional<StoreRepairs> StoreDoctor::repair(const StoreExamination& examinat
         repairs.tags = repairTags();
         repairs.notes = repairNotes(examination.notesToDerive);
         repairs.indexedTexts = repairSearchIndex();
+        repairs.files = repairFiles(examination);
         return repairs;
     } catch (const DiagnosisFailure& failure) {
         assignError(error, failure.error);
@@ -200,6 +215,22 @@ std::size_t StoreDoctor::repairSearchIndex()
     if (!store_.repairSearchIndex(repaired, &failure.error))
         throw failure;
     return repaired;
+}
+
+std::size_t StoreDoctor::repairFiles(const StoreExamination& examination)
+{
+    std::size_t mended = 0;
+    if (examination.resultOf(StoreCheck::Files).count > 0) {
+        mended = FilesUnderWay(store_.identifier()).abandonedJournals().size();
+        OVNoteFile::recoverFilesInManagedObjectContext(context_);
+    }
+    std::span<const FileToMend> files = examination.filesToMend;
+    while (!files.empty()) {
+        const auto page = files.first(std::min(files.size(), kPage));
+        save([&] { mended += mendFiles(page, context_); });
+        files = files.subspan(page.size());
+    }
+    return mended;
 }
 
 /// Under the lock of the store, so that it builds upon what others wrote. Nothing is left of it when it fails.

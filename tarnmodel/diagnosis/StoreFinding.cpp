@@ -33,6 +33,13 @@ StoreCheck StoreFinding::check() const noexcept
     case Kind::MissingTag:
     case Kind::UnusableTagTitle:
         break;
+    case Kind::MissingFile:
+    case Kind::MisnamedFile:
+    case Kind::WrongFileSize:
+    case Kind::FolderWithoutRecord:
+    case Kind::UnfinishedFile:
+    case Kind::AbandonedFileChanges:
+        return StoreCheck::Files;
     }
     return StoreCheck::Tags;
 }

@@ -6,6 +6,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <filesystem>
 #include <optional>
 #include <string>
 #include <vector>
@@ -24,30 +25,37 @@ enum class StoreCheck : std::uint8_t {
     NoteTags,
     Links, ///< and do they lead to notes of the titles that they name?
     Tags,  ///< are tags what texts name, and can texts name each?
+    Files, ///< is what lies on disk what the attachments say, and nothing else?
 };
-inline constexpr std::size_t kStoreCheckCount = 9;
+inline constexpr std::size_t kStoreCheckCount = 10;
 
 /// One thing that is amiss in a store.
 struct StoreFinding {
     /// What is amiss.
     enum class Kind : std::uint8_t {
-        DamagedFile,       ///< `description` says how
-        SearchIndexAmiss,  ///< `description` says how
-        WrongTitle,        ///< of a note, like all that follow
-        WrongSubtitle,     ///<
-        WrongOpenToDos,    ///< the number of to-dos that are not done
-        WrongDoneToDos,    ///< the number of those that are
-        WrongCodeFlag,     ///< whether there is source code
-        WrongImagesFlag,   ///< whether there are images
-        WrongFilesFlag,    ///< whether there are other attachments
-        WrongNoteTags,     ///< the note carries other tags than its text names
-        WrongLinks,        ///< links are missing, superfluous or at another place
-        WrongLinkTarget,   ///< a link leads to a note of another title
-        MissingParentTags, ///< a protected note carries a tag without every tag above it
-        DuplicateTag,      ///< another tag has the same name, compared folded; of a tag, like all that follow
-        TagWithoutText,    ///< no text names it, but it has notes
-        MissingTag,        ///< a text names it, but no tag with notes is so called; there is no record
-        UnusableTagTitle,  ///< no text can give a tag this name
+        DamagedFile,          ///< `description` says how
+        SearchIndexAmiss,     ///< `description` says how
+        WrongTitle,           ///< of a note, like all that follow
+        WrongSubtitle,        ///<
+        WrongOpenToDos,       ///< the number of to-dos that are not done
+        WrongDoneToDos,       ///< the number of those that are
+        WrongCodeFlag,        ///< whether there is source code
+        WrongImagesFlag,      ///< whether there are images
+        WrongFilesFlag,       ///< whether there are other attachments
+        WrongNoteTags,        ///< the note carries other tags than its text names
+        WrongLinks,           ///< links are missing, superfluous or at another place
+        WrongLinkTarget,      ///< a link leads to a note of another title
+        MissingParentTags,    ///< a protected note carries a tag without every tag above it
+        DuplicateTag,         ///< another tag has the same name, compared folded; of a tag, like all that follow
+        TagWithoutText,       ///< no text names it, but it has notes
+        MissingTag,           ///< a text names it, but no tag with notes is so called; there is no record
+        UnusableTagTitle,     ///< no text can give a tag this name
+        MissingFile,          ///< bytes that are said to be here are not; of an attachment, as the two that follow
+        MisnamedFile,         ///< they have another name than the attachment
+        WrongFileSize,        ///< there are more or fewer of them
+        FolderWithoutRecord,  ///< of no attachment; `description` says where, as of the two that follow
+        UnfinishedFile,       ///< a file that was never written whole
+        AbandonedFileChanges, ///< a process died before it saved what it had done to files
     };
 
     Kind kind = Kind::DamagedFile; ///< what is amiss
@@ -55,19 +63,26 @@ struct StoreFinding {
     std::optional<NSManagedObjectID> objectID;
     std::optional<std::string> uniqueIdentifier;
     /// Of a note as it is stored; of a tag as `displayTitle` gives it, an unusable one as it is stored; of a missing
-    /// tag its name, folded.
+    /// tag its name, folded; of an attachment its name as it is stored.
     std::optional<std::string> title;
     /// What the note holds, and what its text says: texts, numbers or booleans, of tags the folded names as a sorted
     /// array. Nil for findings that are not of one field.
     Value stored;
     Value derived;
-    /// What the store says of its file and index, for people.
+    /// What the store says of its file and index, for people; of files without a record their path.
     std::string description;
 
     /// The question that it answers.
     StoreCheck check() const noexcept;
     /// Whether `StoreDoctor::repair` makes it good: all but damage of the file.
     bool isRepairable() const noexcept { return kind != Kind::DamagedFile; }
+};
+
+/// Something on disk that is not as the store has it.
+struct FileToMend {
+    StoreFinding::Kind kind = StoreFinding::Kind::MissingFile; ///< what is amiss
+    std::optional<NSManagedObjectID> objectID;                 ///< of the attachment; none without a record
+    std::filesystem::path item;                                ///< where it lies, or should lie
 };
 
 /// What one check found: how many findings, and the first of them.
@@ -80,6 +95,7 @@ struct StoreCheckResult {
 struct StoreExamination {
     std::array<StoreCheckResult, kStoreCheckCount> results; ///< by `StoreCheck`
     std::vector<NSManagedObjectID> notesToDerive;           ///< those whose fields are not what their texts say
+    std::vector<FileToMend> filesToMend;                    ///< all that the check of files found on disk
 
     /// What that check found.
     const StoreCheckResult& resultOf(StoreCheck check) const noexcept
@@ -97,8 +113,9 @@ struct StoreRepairs {
     std::size_t tags = 0;         ///< renamed, united with another or deleted, and protected notes given tags
     std::size_t notes = 0;        ///< derived anew
     std::size_t indexedTexts = 0; ///< that the index of texts did not know, or knew wrongly
+    std::size_t files = 0;        ///< renamed, moved away or removed, and attachments told what is there
     /// Whether nothing had to be changed.
-    bool isEmpty() const noexcept { return tags + notes + indexedTexts == 0; }
+    bool isEmpty() const noexcept { return tags + notes + indexedTexts + files == 0; }
 };
 
 } // namespace tarn

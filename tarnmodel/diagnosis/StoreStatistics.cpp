@@ -1,5 +1,6 @@
 #include "tarnmodel/diagnosis/StoreStatistics.h"
 
+#include "tarnmodel/diagnosis/FileExaminationInternal.h"
 #include "tarnmodel/model/OVNote.h"
 #include "tarnmodel/model/OVNoteFile.h"
 #include "tarnmodel/model/OVNoteTag.h"
@@ -71,6 +72,7 @@ std::optional<StoreStatistics> statisticsOfStore(NSManagedObjectContext& context
     if (!countNotes(context, statistics, error) || !countRecords(context, tags, statistics.tags, error)
         || !countRecords(context, files, statistics.files, error))
         return std::nullopt;
+    statistics.attachmentBytes = hasFilesOfApplication(context) ? bytesOfAttachments() : 0;
     statistics.fileBytes = bytesOfStoreFile(context);
     return statistics;
 }

@@ -24,6 +24,7 @@ struct StoreStatistics {
     std::size_t notesWithSourceCode = 0; ///< with a block of code, at least
     std::size_t tags = 0;                ///< records of tags, those without notes included
     std::size_t files = 0;               ///< attachments, unused ones included
+    std::uintmax_t attachmentBytes = 0;  ///< of files on disk; 0 for a store that is not the application's own
     std::uintmax_t fileBytes = 0;        ///< of the store's own file, without attachments; 0 in memory
 };
 

@@ -52,6 +52,15 @@ public:
     };
     /// The journals that processes left which died while this store had unsaved changes.
     static std::vector<Abandoned> abandonedForStore(std::string_view storeUUID);
+    /// A journal as it lies there.
+    struct Sighting {
+        std::filesystem::path url; ///< of its folder
+        bool isHeld = false;       ///< by a living process, this one included: what it says is under way
+        bool isOfStore = false;    ///< not of another store that had its files here
+        std::vector<Line> lines;
+    };
+    /// All journals, whoever has them. Looking takes nothing over.
+    static std::vector<Sighting> journalsInSight(std::string_view storeUUID);
     /// Whether that is the name of a folder with a journal.
     static bool isJournalFolder(std::string_view name);
 

@@ -159,6 +159,22 @@ std::vector<FileJournal::Abandoned> FileJournal::abandonedForStore(std::string_v
     return abandoned;
 }
 
+std::vector<FileJournal::Sighting> FileJournal::journalsInSight(std::string_view storeUUID)
+{
+    std::vector<Sighting> journals;
+    const std::string ownPrefix = prefixForStore(storeUUID);
+    std::error_code failure;
+    for (fs::directory_iterator entry(placeOfJournals(), failure), end; !failure && entry != end;
+         entry.increment(failure)) {
+        const std::string name = entry->path().filename().string();
+        if (!isJournalFolder(name))
+            continue;
+        const bool isHeld = HeldFolder::isHeld(entry->path()); // asked first: who lets go then has written all
+        journals.push_back({entry->path(), isHeld, name.starts_with(ownPrefix), linesOf(entry->path())});
+    }
+    return journals;
+}
+
 bool FileJournal::isJournalFolder(std::string_view name)
 {
     return name.starts_with(kFolderPrefix);

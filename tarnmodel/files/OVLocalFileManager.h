@@ -12,6 +12,9 @@ class NSError;
 
 /// Folder of all attachments in the persistent data folder. Part of the layout on disk.
 inline constexpr std::string_view OVNoteLocalFileDirectoryName = "Local Files";
+/// Folders of the images and of the other attachments in that one. Part of the layout on disk.
+inline constexpr std::string_view OVNoteImageDirectoryName = "Note Images";
+inline constexpr std::string_view OVNoteGenericFileDirectoryName = "Note Files";
 /// Folder of all thumbnails in the application support folder. Part of the layout on disk.
 inline constexpr std::string_view OVNoteThumbFileDirectoryName = "Thumbs";
 

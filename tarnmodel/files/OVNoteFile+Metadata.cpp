@@ -7,26 +7,13 @@
 #include "tarnmodel/platform/foundation/text/PercentEncoding.h"
 #include "tarnmodel/platform/foundation/values/NSError.h"
 
-#include <system_error>
+#include <filesystem>
 
 namespace tarn {
 
 namespace {
 
 namespace fs = std::filesystem;
-
-/// Of a folder the files in it count, not the folder's own entry.
-std::int64_t sizeOfItem(const fs::path& item, const NSFileAttributes& attributes)
-{
-    if (!attributes.isFolder)
-        return attributes.size;
-    std::int64_t size = 0;
-    std::error_code failure;
-    for (fs::recursive_directory_iterator entry(item, failure), end; !failure && entry != end; entry.increment(failure))
-        if (std::error_code ignored; entry->is_regular_file(ignored) && !entry->is_symlink(ignored))
-            size += static_cast<std::int64_t>(entry->file_size(ignored));
-    return size;
-}
 
 } // namespace
 
@@ -65,7 +52,7 @@ void OVNoteFile::updateFileMetadata()
         return;
     const auto file = fileURL();
     const auto attributes = file ? NSFileManager::attributesOfItemAtURL(*file) : std::nullopt;
-    setFileSize(attributes ? sizeOfItem(*file, *attributes) : 0);
+    setFileSize(attributes ? sizeOfItem(*file).value_or(attributes->size) : 0);
     setModificationDate(attributes ? std::optional(attributes->modificationDate) : std::nullopt);
     setCreationDate(attributes ? attributes->creationDate : std::nullopt);
 }

@@ -1,13 +1,8 @@
+#include "tarnmodel/files/OVLocalFileManager.h"
 #include "tarnmodel/model/OVNoteGenericFile.h"
 #include "tarnmodel/platform/foundation/values/Value.h"
 
 namespace tarn {
-
-namespace {
-
-constexpr std::string_view kFiles = "Note Files";
-
-} // namespace
 
 bool OVNoteGenericFile::canImportFileURL(const FileURL&)
 {
@@ -21,7 +16,7 @@ OVNoteFile* OVNoteGenericFile::noteFileForFileURL(const FileURL& url, NSManagedO
 
 std::string OVNoteGenericFile::localFolderName() const
 {
-    return OVNoteFile::localFolderName() + "/" + std::string(kFiles);
+    return OVNoteFile::localFolderName() + "/" + std::string(OVNoteGenericFileDirectoryName);
 }
 
 std::map<std::string, Value> OVNoteGenericFile::additionalFileData() const

@@ -10,8 +10,6 @@ namespace tarn {
 
 namespace {
 
-constexpr std::string_view kImages = "Note Images";
-
 /// "png" of "a.png"; empty when there is none.
 std::string extensionOf(const std::filesystem::path& file)
 {
@@ -51,7 +49,7 @@ OVNoteImage::Size OVNoteImage::imageSizeForImageURL(const FileURL& url)
 
 std::string OVNoteImage::localFolderName() const
 {
-    return OVNoteFile::localFolderName() + "/" + std::string(kImages);
+    return OVNoteFile::localFolderName() + "/" + std::string(OVNoteImageDirectoryName);
 }
 
 std::map<std::string, Value> OVNoteImage::additionalFileData() const

@@ -17,6 +17,13 @@ namespace fs = std::filesystem;
 
 } // namespace
 
+std::vector<std::string> RecordFolder::areas()
+{
+    const std::string attachments = std::string(OVNoteLocalFileDirectoryName) + "/";
+    return {
+        attachments + std::string(OVNoteImageDirectoryName), attachments + std::string(OVNoteGenericFileDirectoryName)};
+}
+
 RecordFolder RecordFolder::ofRecord(const OVNoteFile& record)
 {
     return {record.localFolderName(), record.uniqueIdentifier().value_or("")};
@@ -50,6 +57,19 @@ std::vector<fs::path> itemsInFolder(const fs::path& folder)
             items.push_back(entry->path());
     std::ranges::sort(items);
     return items;
+}
+
+std::optional<std::int64_t> sizeOfItem(const fs::path& item)
+{
+    const auto attributes = NSFileManager::attributesOfItemAtURL(item);
+    if (!attributes || !attributes->isFolder)
+        return attributes ? std::optional(attributes->size) : std::nullopt;
+    std::int64_t size = 0;
+    std::error_code failure;
+    for (fs::recursive_directory_iterator entry(item, failure), end; !failure && entry != end; entry.increment(failure))
+        if (std::error_code ignored; entry->is_regular_file(ignored) && !entry->is_symlink(ignored))
+            size += static_cast<std::int64_t>(entry->file_size(ignored));
+    return size;
 }
 
 bool giveFileItsName(const RecordFolder& folder, std::string_view filename)

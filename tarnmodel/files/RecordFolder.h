@@ -3,8 +3,10 @@
 #include "tarnmodel/files/OVLocalFileManager.h"
 
 #include <compare>
+#include <cstdint>
 #include <filesystem>
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,6 +23,8 @@ struct RecordFolder {
 
     /// That of a record, which has an identifier.
     static RecordFolder ofRecord(const OVNoteFile& record);
+    /// The folders of all kinds, "Local Files/Note Images" and so on.
+    static std::vector<std::string> areas();
     /// The record's folder, which need not exist.
     std::filesystem::path url() const;
     friend auto operator<=>(const RecordFolder&, const RecordFolder&) = default;
@@ -34,6 +38,9 @@ bool fetchRecordsOfFolders(
 
 /// What lies in a folder, without what is not whole; by name.
 std::vector<std::filesystem::path> itemsInFolder(const std::filesystem::path& folder);
+
+/// Bytes of a file, or of all files in a folder: a folder's own entry does not count. None when nothing is there.
+std::optional<std::int64_t> sizeOfItem(const std::filesystem::path& item);
 
 /// Gives the one item of a record's folder the name that the record says, where nothing has it. Whether that was done.
 bool giveFileItsName(const RecordFolder& folder, std::string_view filename);

@@ -1,0 +1,55 @@
+#include "tarnmodel/diagnosis/RecordFileInternal.h"
+
+#include "tarnmodel/files/FileJournal.h"
+#include "tarnmodel/files/RecordFolder.h"
+#include "tarnmodel/model/OVNoteFile.h"
+#include "tarnmodel/platform/foundation/filesystem/NSFileManager.h"
+
+#include <system_error>
+
+namespace tarn {
+
+namespace fs = std::filesystem;
+
+RecordFile RecordFile::ofRecord(const OVNoteFile& record)
+{
+    RecordFile file;
+    const fs::path folder = RecordFolder::ofRecord(record).url();
+    file.place = record.primitiveFileURL().value_or(folder);
+    std::error_code failure;
+    for (fs::directory_iterator entry(folder, failure), end; !failure && entry != end; entry.increment(failure)) {
+        if (entry->path().filename().string().starts_with(NSFileManager::unfinishedPrefix))
+            file.unfinished.push_back(entry->path());
+        else if (entry->path() == file.place)
+            file.size = sizeOfItem(file.place);
+        else
+            ++file.others;
+    }
+    return file;
+}
+
+std::optional<StoreFinding::Kind> RecordFile::whatIsAmiss(const OVNoteFile& record) const
+{
+    using Kind = StoreFinding::Kind;
+    if (!record.downloadedValue())
+        return std::nullopt;
+    if (!size)
+        return others == 1 && record.storedFilename() ? Kind::MisnamedFile : Kind::MissingFile;
+    // Of a protected one the size is as unreadable as the name.
+    const bool isOfSize = record.encryptedValue() || size == record.storedFileSize();
+    return isOfSize ? std::nullopt : std::optional(Kind::WrongFileSize);
+}
+
+FilesUnderWay::FilesUnderWay(std::string_view storeUUID)
+{
+    for (const FileJournal::Sighting& journal : FileJournal::journalsInSight(storeUUID)) {
+        if (!journal.isHeld && !journal.isOfStore)
+            continue;
+        if (!journal.isHeld)
+            abandoned_.push_back(journal.url);
+        for (const FileJournal::Line& line : journal.lines)
+            folders_.insert(line.folder.url());
+    }
+}
+
+} // namespace tarn
