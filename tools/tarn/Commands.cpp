@@ -23,6 +23,9 @@ void addCommands(CommandLine& commandLine)
     addConflictCommand(commandLine);
     addStateCommands(commandLine);
     addDeleteCommand(commandLine);
+    addAttachCommand(commandLine);
+    addFilesCommand(commandLine);
+    addFileCommands(commandLine);
     addChangesCommand(commandLine);
     addBaselineCommand(commandLine);
     addStatsCommand(commandLine);

@@ -33,6 +33,11 @@ void addConflictCommand(CommandLine& commandLine);
 /// trash, restore, archive, unarchive, pin, unpin, readonly, editable
 void addStateCommands(CommandLine& commandLine);
 void addDeleteCommand(CommandLine& commandLine);
+void addAttachCommand(CommandLine& commandLine);
+void addFilesCommand(CommandLine& commandLine);
+/// file rename, prune
+void addFileCommands(CommandLine& commandLine);
+void addExportCommand(CommandLine& commandLine);
 void addChangesCommand(CommandLine& commandLine);
 void addBaselineCommand(CommandLine& commandLine);
 void addStatsCommand(CommandLine& commandLine);

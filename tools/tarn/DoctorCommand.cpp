@@ -6,6 +6,7 @@
 #include "tools/tarn/JSON.h"
 #include "tools/tarn/StoreSession.h"
 
+#include <algorithm>
 #include <array>
 #include <memory>
 
@@ -29,7 +30,7 @@ struct Diagnosis {
 
 /// By `StoreCheck`.
 constexpr std::array<const char*, kStoreCheckCount> kCheckNames{
-    "integrity", "searchIndex", "title", "subtitle", "todos", "flags", "noteTags", "links", "tags"};
+    "integrity", "searchIndex", "title", "subtitle", "todos", "flags", "noteTags", "links", "tags", "files"};
 
 /// The sentence about a finding, behind the name of what it is about.
 const char* sentenceOf(StoreFinding::Kind kind)
@@ -69,6 +70,18 @@ const char* sentenceOf(StoreFinding::Kind kind)
         return "a text names it, but no tag with notes is so called";
     case Kind::UnusableTagTitle:
         return "no text can give a tag this name";
+    case Kind::MissingFile:
+        return "its file is not there";
+    case Kind::MisnamedFile:
+        return "its file has another name";
+    case Kind::WrongFileSize:
+        return "its file has another size than it says";
+    case Kind::FolderWithoutRecord:
+        return "no attachment has this";
+    case Kind::UnfinishedFile:
+        return "it was never written whole";
+    case Kind::AbandonedFileChanges:
+        return "a program ended before it saved what it had done to files";
     }
     return "";
 }
@@ -76,7 +89,8 @@ const char* sentenceOf(StoreFinding::Kind kind)
 std::string problemOf(const StoreFinding& finding)
 {
     if (!finding.description.empty())
-        return finding.description;
+        return finding.check() == StoreCheck::Files ? finding.description + ": " + sentenceOf(finding.kind)
+                                                    : finding.description;
     const std::string title = finding.title.value_or("");
     const std::string name = finding.check() == StoreCheck::Tags
         ? "#" + title
@@ -156,6 +170,12 @@ Diagnosis diagnosisOfFailure(const CommandFailure& failure)
     return diagnosis;
 }
 
+bool onlyFilesAreAmiss(const Diagnosis& diagnosis)
+{
+    return std::ranges::all_of(
+        diagnosis.checks, [](const DoctorCheck& check) { return check.found == 0 || check.name == "files"; });
+}
+
 JSON jsonOf(const Diagnosis& diagnosis, bool repair)
 {
     JSON checks = JSON::array();
@@ -173,6 +193,7 @@ JSON jsonOf(const Diagnosis& diagnosis, bool repair)
         document["repaired"] = diagnosis.repairs.notes;
         document["mendedTags"] = diagnosis.repairs.tags;
         document["indexed"] = diagnosis.repairs.indexedTexts;
+        document["mendedFiles"] = diagnosis.repairs.files;
     }
     return document;
 }
@@ -195,6 +216,8 @@ void writeDiagnosis(Output& output, const Diagnosis& diagnosis, bool repair)
         output.writeLine("mended " + numbered(diagnosis.repairs.tags, "tag"));
     if (diagnosis.repairs.indexedTexts > 0)
         output.writeLine("entered " + numbered(diagnosis.repairs.indexedTexts, "text") + " in the search index");
+    if (diagnosis.repairs.files > 0)
+        output.writeLine("mended " + numbered(diagnosis.repairs.files, "file"));
 }
 
 ExitCode examine(const Invocation& invocation, bool repair)
@@ -212,8 +235,9 @@ ExitCode examine(const Invocation& invocation, bool repair)
     else
         writeDiagnosis(invocation.output, diagnosis, repair);
     if (diagnosis.code == ExitCode::Failed && !repair)
-        tellOnStandardError(
-            "what is derived from the texts is not what they say; 'tarn doctor --repair' derives it anew");
+        tellOnStandardError(onlyFilesAreAmiss(diagnosis)
+                ? "files of attachments are not what the store says; 'tarn doctor --repair' brings them in step"
+                : "what is derived from the texts is not what they say; 'tarn doctor --repair' derives it anew");
     if (diagnosis.code == ExitCode::Corrupt)
         tellOnStandardError("the file of the store is damaged; keep a copy of it before anything else");
     return diagnosis.code;
@@ -227,11 +251,13 @@ void addDoctorCommand(CommandLine& commandLine)
     const Command command = commandLine.addCommand(
         {.name = "doctor",
             .summary
-            = "Examine the store: its file, its search index, and whether the notes' fields are what their texts say",
+            = "Examine the store: its file, its search index, whether the notes' fields are what their texts say, and "
+              "the files of attachments",
             .explanation = "Exits with 0 when all is well, with 5 when the file itself is damaged.",
             .examples = {"tarn doctor", "tarn doctor --repair"}},
         [repair](const Invocation& invocation) { return examine(invocation, *repair); });
-    command.addFlag("--repair", *repair, "Derive wrong fields anew; texts and modification dates stay as they are");
+    command.addFlag("--repair", *repair,
+        "Derive wrong fields anew, bring files and attachments in step; texts and their dates stay as they are");
 }
 
 } // namespace tarn

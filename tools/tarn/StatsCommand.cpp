@@ -55,6 +55,7 @@ ExitCode showStatistics(const Invocation& invocation)
     };
     for (const Statistic& statistic : kStatistics)
         tell(statistic.key, statistic.label, statistics.*statistic.count);
+    tell("attachmentBytes", "bytes of attachments", statistics.attachmentBytes);
     tell("databaseBytes", "bytes of the database", statistics.fileBytes);
     if (invocation.json)
         writeJSON(invocation.output, document);

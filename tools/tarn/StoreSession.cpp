@@ -51,10 +51,21 @@ StoreSession::StoreSession(const Invocation& invocation, Access access)
             tellOnStandardError(
                 "there is no store in " + folder_.string() + " yet; 'tarn new' and 'tarn import' make one");
     }
+    OVLocalFileManager::setApplicationGroupURL(fs::absolute(folder_));
     open(access);
+    if (access == Access::Write)
+        tidyUp();
 }
 
 StoreSession::~StoreSession() = default;
+
+/// After programs that died: under the lock of the store, so that no other tarn is at it.
+void StoreSession::tidyUp()
+{
+    OVNoteFile::recoverFilesInManagedObjectContext(*context_);
+    context_->reset();
+    OVLocalFileManager::removeAbandonedTemporaryDirectories();
+}
 
 void StoreSession::open(Access access)
 {
@@ -147,6 +158,13 @@ std::vector<OVNoteBackLink*> StoreSession::links(const std::optional<NSPredicate
     NSFetchRequest request(OVNoteBackLink::entityInManagedObjectContext(*context_));
     request.predicate = predicate;
     return records<OVNoteBackLink>(request);
+}
+
+std::vector<OVNoteFile*> StoreSession::files(const std::optional<NSPredicate>& predicate)
+{
+    NSFetchRequest request(OVNoteFile::entityInManagedObjectContext(*context_));
+    request.predicate = predicate;
+    return records<OVNoteFile>(request);
 }
 
 std::size_t StoreSession::countOfEntity(const NSEntityDescription& entity, const std::optional<NSPredicate>& predicate)

@@ -2,6 +2,7 @@
 
 #include "tarnmodel/model/OVNote.h"
 #include "tarnmodel/model/OVNoteBackLink.h"
+#include "tarnmodel/model/OVNoteFile.h"
 #include "tarnmodel/model/OVNoteTag.h"
 #include "tarnmodel/platform/coredata/NSManagedObjectContext.h"
 #include "tarnmodel/platform/coredata/NSPersistentStoreCoordinator.h"
@@ -28,8 +29,10 @@ std::filesystem::path storeFolderOf(const Invocation& invocation);
 /// destructor.
 ///
 /// A reading command of a store that is not there yet finds no notes, and makes nothing. A writing one holds the
-/// store's lock as long as the session lives. Everything that fails raises `CommandFailure`, so that an empty answer is
-/// an answer. Who waits longer than a second for another program says so on standard error. Main thread.
+/// store's lock as long as the session lives, and first brings in step what a program left that died over attachments.
+/// These lie in the store's folder while there is a session. Everything that fails raises `CommandFailure`, so that an
+/// empty answer is an answer. Who waits longer than a second for another program says so on standard error. Main
+/// thread.
 ///
 ///     StoreSession session(invocation, StoreSession::Access::Write);
 ///     session.write([&] { OVNote::noteWithText(text, session.context()); });
@@ -60,6 +63,8 @@ public:
     std::vector<OVNoteTag*> tags(const std::optional<NSPredicate>& predicate);
     /// Links in no particular order.
     std::vector<OVNoteBackLink*> links(const std::optional<NSPredicate>& predicate);
+    /// Attachments in no particular order.
+    std::vector<OVNoteFile*> files(const std::optional<NSPredicate>& predicate);
     std::size_t countOfEntity(const NSEntityDescription& entity, const std::optional<NSPredicate>& predicate);
 
     /// What to raise when the store failed: `what` could not be done, or somebody interrupted the wait for it.
@@ -74,6 +79,7 @@ public:
 
 private:
     void open(Access access);
+    void tidyUp();
     bool goesOnWaiting(std::chrono::milliseconds waited);
     template <typename Record> std::vector<Record*> records(const NSFetchRequest& request);
 
