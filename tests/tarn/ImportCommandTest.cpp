@@ -26,7 +26,9 @@ TEST_F(ImportCommand, MakesNotesOfFilesWithTheirDates)
     const std::array<timespec, 2> times{timespec{1'000'000'000, 0}, timespec{1'000'000'000, 123'456'789}};
     ASSERT_EQ(::utimensat(AT_FDCWD, path.c_str(), times.data(), 0), 0);
     const auto document = nlohmann::ordered_json::parse(run({"--json", "import", folder() / "in"}).output);
-    EXPECT_EQ(keysOf(document), (std::vector<std::string>{"imported", "skipped", "skippedFiles", "failed", "seconds"}));
+    EXPECT_EQ(keysOf(document),
+        (std::vector<std::string>{
+            "imported", "attachments", "skipped", "skippedFiles", "failed", "links", "leftLinks", "seconds"}));
     EXPECT_EQ(document.at("imported"), 1);
     EXPECT_EQ(document.at("skipped"), 0);
     EXPECT_TRUE(document.at("failed").empty());
@@ -100,7 +102,7 @@ TEST_F(ImportCommand, SkipsWhatIsNamedTwice)
 
 TEST_F(ImportCommand, NamesWhatItSkips)
 {
-    const auto path = file("in/a.md", "# A ![](p.png)");
+    const auto path = file("in/a.md", "# A");
     for (const char* name : {"in/.b.md", "in/.git/c.md", "in/p.png", "in/q.JPEG", "in/other.pdf"})
         file(name, "");
     const nlohmann::json document = json({"import", path, folder() / "in"});

@@ -32,6 +32,8 @@ TarnResult TarnCommandTest::run(std::vector<std::string> given, std::string inpu
 {
     TarnProcess process(arguments(std::move(given)));
     process.setVariable("TMPDIR", folder_.string());
+    process.setVariable("XDG_DATA_HOME", (folder_ / "data").string());
+    process.setVariable("XDG_CACHE_HOME", (folder_ / "cache").string());
     process.setInput(std::move(input));
     return process.finish();
 }

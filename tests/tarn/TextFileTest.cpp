@@ -35,8 +35,8 @@ protected:
     std::vector<std::string> namesIn(const MarkdownFiles& found) const
     {
         std::vector<std::string> names;
-        for (const fs::path& path : found.files)
-            names.push_back(path.lexically_relative(folder_).string());
+        for (const MarkdownFile& file : found.files)
+            names.push_back(file.path.lexically_relative(folder_).string());
         return names;
     }
     std::vector<std::string> skippedIn(const MarkdownFiles& found) const

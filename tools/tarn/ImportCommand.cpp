@@ -13,7 +13,9 @@
 #include <array>
 #include <chrono>
 #include <cstdio>
+#include <filesystem>
 #include <memory>
+#include <system_error>
 
 namespace tarn {
 
@@ -31,6 +33,35 @@ std::string textOfPath(const std::filesystem::path& path)
     return validUTF8(path.native());
 }
 
+std::size_t countOfLinks(const ImportResult& result, LinkedFile::Kind kind)
+{
+    return static_cast<std::size_t>(std::ranges::count(result.leftLinks, kind, &LeftLink::kind));
+}
+
+std::string_view reasonOf(const LeftLink& link)
+{
+    return link.kind == LinkedFile::Kind::Outside ? "outside of what is imported" : "no such file";
+}
+
+JSON jsonOfLeftLinks(const ImportResult& result)
+{
+    JSON links = JSON::array();
+    for (const LeftLink& link : result.leftLinks)
+        links.push_back({{"path", textOfPath(link.note)}, {"link", link.destination}, {"reason", reasonOf(link)}});
+    return links;
+}
+
+/// Pictures that were attached were not passed over.
+std::vector<SkippedPath> skippedBy(const ImportResult& result, std::vector<SkippedPath> skipped)
+{
+    std::erase_if(skipped, [&result](const SkippedPath& file) {
+        std::error_code failure;
+        return file.reason == SkipReason::Picture
+            && result.attachedFiles.contains(std::filesystem::canonical(file.path, failure));
+    });
+    return skipped;
+}
+
 JSON jsonOf(const ImportResult& result, const std::vector<SkippedPath>& skipped, double seconds)
 {
     JSON skippedFiles = JSON::array();
@@ -43,9 +74,13 @@ JSON jsonOf(const ImportResult& result, const std::vector<SkippedPath>& skipped,
         failed.push_back({{"path", textOfPath(path)}, {"error", result.reasonLeft}});
     JSON document;
     document["imported"] = result.imported;
+    document["attachments"] = result.attachments;
     document["skipped"] = skipped.size();
     document["skippedFiles"] = std::move(skippedFiles);
     document["failed"] = std::move(failed);
+    document["links"] = {{"outside", countOfLinks(result, LinkedFile::Kind::Outside)},
+        {"missing", countOfLinks(result, LinkedFile::Kind::Missing)}};
+    document["leftLinks"] = jsonOfLeftLinks(result);
     document["seconds"] = seconds;
     return document;
 }
@@ -55,12 +90,16 @@ std::string summaryOf(const ImportResult& result, const std::vector<SkippedPath>
     std::array<char, 32> time{};
     std::snprintf(time.data(), time.size(), "%.2f s", seconds);
     std::string line = (dryRun ? "would import " : "imported ") + numbered(result.imported, "note");
+    if (result.attachments > 0)
+        line += " with " + numbered(result.attachments, "attachment");
     if (!skipped.empty())
         line += ", skipped " + numbered(skipped.size(), "file");
     if (const auto pictures = std::ranges::count(skipped, SkipReason::Picture, &SkippedPath::reason); pictures > 0)
         line += " (" + numbered(static_cast<std::size_t>(pictures), "picture") + ")";
     if (!result.failures.empty())
         line += ", failed on " + numbered(result.failures.size(), "file");
+    if (!result.leftLinks.empty())
+        line += ", left " + numbered(result.leftLinks.size(), "link") + " to no such file or elsewhere";
     if (!result.left.empty())
         line += ", left out " + numbered(result.left.size(), "file");
     return line + " in " + time.data();
@@ -90,6 +129,9 @@ void tellOfPaths(const ImportResult& result, const std::vector<SkippedPath>& ski
         return;
     for (const SkippedPath& file : skipped)
         tellOnStandardError("skipped: " + file.path.native() + ": " + std::string(textOfReason(file.reason)));
+    for (const LeftLink& link : result.leftLinks)
+        tellOnStandardError(
+            "left a link: " + link.note.native() + ": " + link.destination + ": " + std::string(reasonOf(link)));
     for (const std::filesystem::path& path : result.left)
         tellOnStandardError("not imported: " + path.native() + ": " + result.reasonLeft);
 }
@@ -134,12 +176,13 @@ ExitCode import(const Invocation& invocation, const ImportOptions& options)
     const ImportResult result = importFiles(invocation, options, found);
     const double seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 
-    tellOfPaths(result, found.skipped, options.verbose);
+    const std::vector<SkippedPath> skipped = skippedBy(result, found.skipped);
+    tellOfPaths(result, skipped, options.verbose);
     tellOfEnd(result, options.dryRun);
     if (invocation.json)
-        writeJSON(invocation.output, jsonOf(result, found.skipped, seconds));
+        writeJSON(invocation.output, jsonOf(result, skipped, seconds));
     else
-        invocation.output.writeLine(summaryOf(result, found.skipped, seconds, options.dryRun));
+        invocation.output.writeLine(summaryOf(result, skipped, seconds, options.dryRun));
     if (result.code != ExitCode::Done)
         return result.code;
     if (result.imported == 0)
@@ -160,9 +203,11 @@ void addImportCommand(CommandLine& commandLine)
               "folders\n"
               "(.name) are passed over. A file that is named is taken whatever its ending, one that is named twice "
               "once.\n"
-              "Pictures are counted, and stay where they are. Notes are saved 2,500 at a time: where Control-C ends "
-              "an\n"
-              "import, it says up to which file.\n"
+              "Files that a text links by a relative path, and that lie below the folder that was named, become "
+              "attachments of\n"
+              "the note, and the link gets the attachment's name; other links stay. Pictures that no text links are "
+              "counted.\n"
+              "Notes are saved 2,500 at a time: where Control-C ends an import, it says up to which file.\n"
               "Every import makes new notes: importing a file again makes a second one.\n"
               "YAML front matter is taken off: its title becomes the heading of a text that begins with none, its "
               "tags\n"
@@ -171,7 +216,8 @@ void addImportCommand(CommandLine& commandLine)
         [options](const Invocation& invocation) { return import(invocation, *options); });
     command.addArguments("PATH", options->paths, "Files and folders").required();
     command.addOptionList("--tag", options->tags, "Add this tag to every note, at the bottom").called("NAME");
-    command.addFlag("--verbose", options->verbose, "Name each file that was skipped or left out");
+    command.addFlag(
+        "--verbose", options->verbose, "Name each file that was skipped or left out, and each link that was left");
     command.addFlag("--dry-run", options->dryRun, "Read everything, write nothing, tell what would be imported");
 }
 

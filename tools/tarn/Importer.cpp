@@ -1,8 +1,10 @@
 #include "tools/tarn/Importer.h"
 
 #include "tarnmodel/corvel/CVKAST.h"
+#include "tarnmodel/model/OVNoteFile.h"
 #include "tarnmodel/notes/OVNoteCacheLoan.h"
 #include "tools/tarn/CommandFailure.h"
+#include "tools/tarn/DisplayText.h"
 #include "tools/tarn/ImportedText.h"
 #include "tools/tarn/Interruption.h"
 
@@ -41,10 +43,11 @@ NoteDates datesOf(const TextFile& file, const ImportedText& imported)
 
 Importer::Importer(StoreSession* session, std::vector<std::string> tags) : session_(session), tags_(std::move(tags)) { }
 
-ImportResult Importer::importFiles(const std::vector<std::filesystem::path>& files, const FileHandler& handler)
+ImportResult Importer::importFiles(const std::vector<MarkdownFile>& files, const FileHandler& handler)
 {
     result_ = {};
     handler_ = &handler;
+    linkedFiles_.emplace(files);
     std::size_t next = 0;
     try {
         Interruption::endIfRequested(kInterrupted); // while the files were looked for
@@ -64,36 +67,91 @@ ImportResult Importer::importFiles(const std::vector<std::filesystem::path>& fil
     return std::move(result_);
 }
 
-void Importer::leave(std::span<const std::filesystem::path> untried)
+void Importer::leave(std::span<const MarkdownFile> untried)
 {
     const CommandFailure failure = failureOfCurrentException();
     for (UnsavedNote& note : batch_)
         result_.left.push_back(std::move(note.path));
     batch_.clear();
-    result_.left.insert(result_.left.end(), untried.begin(), untried.end());
+    for (const MarkdownFile& file : untried)
+        result_.left.push_back(file.path);
     result_.reasonLeft = failure.what();
     result_.code = failure.code();
 }
 
-void Importer::readFile(const std::filesystem::path& path)
+void Importer::readFile(const MarkdownFile& found)
 {
     try {
-        const TextFile file = readTextFile(path);
+        const TextFile file = readTextFile(found.path);
         ImportedText imported = importedTextOfFile(file.text);
         imported.text = textWithTags(std::move(imported.text), tags_);
         if (imported.text.size() > OVNote::maximumTextLength)
             throw tooLongForANote();
         const NoteDates dates = datesOf(file, imported);
-        takeNote({path, std::move(imported.text), dates.creation, dates.modification});
+        auto files = filesToAttach(found, imported.text);
+        takeNote({found.path, std::move(imported.text), dates.creation, dates.modification, std::move(files)});
     } catch (const TextFileError& error) {
         const bool unreadable = error.kind() == TextFileError::Kind::CannotRead;
-        fail(path, error.what(), unreadable ? ExitCode::InputOutput : ExitCode::Failed);
+        fail(found.path, error.what(), unreadable ? ExitCode::InputOutput : ExitCode::Failed);
     }
+}
+
+/// What stays a link is noted where it names a file that is not to be had.
+std::map<std::string, LinkedFile> Importer::filesToAttach(const MarkdownFile& file, const std::string& text)
+{
+    std::map<std::string, LinkedFile> files;
+    if (text.find("](") == std::string::npos && text.find("]:") == std::string::npos)
+        return files; // most texts are spared another parse
+    const CVKAST document = CVKAST::fromMarkdown(text);
+    std::set<std::string> seen;
+    for (const std::string& destination : document.textSummary().links) {
+        if (!seen.insert(destination).second)
+            continue;
+        LinkedFile linked = linkedFiles_->fileForLink(destination, file.path, file.root);
+        if (linked.kind == LinkedFile::Kind::Found)
+            files.emplace(destination, std::move(linked));
+        else if (linked.kind == LinkedFile::Kind::Missing || linked.kind == LinkedFile::Kind::Outside)
+            result_.leftLinks.push_back({file.path, destination, linked.kind});
+    }
+    return files;
+}
+
+/// The text with links to the names that its files have as attachments. A file that two links name is attached once.
+std::string Importer::textWithAttachments(UnsavedNote& unsaved, OVNote& note)
+{
+    std::string text = std::exchange(unsaved.text, {}); // one of the two is enough
+    if (unsaved.files.empty())
+        return text;
+    std::map<std::filesystem::path, std::optional<std::string>> names;
+    for (const auto& [destination, file] : unsaved.files) {
+        const auto [name, isNew] = names.try_emplace(file.target);
+        if (!isNew)
+            continue;
+        NSError error;
+        if (const OVNoteFile* attached = OVNoteFile::getOrCreateFileFromURL(file.path, note, &error)) {
+            name->second = attached->filename();
+            result_.attachedFiles.insert(file.target);
+            ++attachmentsOfBatch_;
+        } else {
+            fail(file.path, singleLine(error.localizedDescription()), ExitCode::InputOutput);
+        }
+    }
+    const auto newURL = [&](const std::string& destination) -> std::optional<std::string> {
+        const auto file = unsaved.files.find(destination);
+        return file == unsaved.files.end() ? std::nullopt : names.at(file->second.target);
+    };
+    const CVKAST document = CVKAST::fromMarkdown(std::move(text));
+    return document.applyTextOperationResults(document.updateLinksURLs(newURL, {})).markdown();
 }
 
 void Importer::takeNote(UnsavedNote note)
 {
     if (!session_) {
+        std::set<std::filesystem::path> targets;
+        for (const auto& [destination, file] : note.files)
+            targets.insert(file.target);
+        result_.attachments += targets.size();
+        result_.attachedFiles.merge(targets);
         (*handler_)({note.path, CVKAST::fromMarkdown(note.text).textSummary().title});
         ++result_.imported;
         return;
@@ -108,9 +166,11 @@ void Importer::saveBatch()
         return;
     tagsOfBatch_.clear();
     notesOfBatch_.clear();
+    attachmentsOfBatch_ = 0;
     session_->write([this] { insertBatch(); });
     session_->context().reset();
     result_.imported += batch_.size();
+    result_.attachments += attachmentsOfBatch_;
     result_.lastImported = batch_.back().path;
     batch_.clear();
     batchBytes_ = 0;
@@ -121,9 +181,10 @@ void Importer::insertBatch()
     for (UnsavedNote& unsaved : batch_) {
         Interruption::endIfRequested(kInterrupted);
         OVNote& note = *OVNote::insertInManagedObjectContext(session_->context());
+        const std::string text = textWithAttachments(unsaved, note);
         {
             const OVNoteCacheLoan loan(note, tagsOfBatch_, notesOfBatch_);
-            note.updateNoteWithText(std::exchange(unsaved.text, {})); // one of the two is enough
+            note.updateNoteWithText(text);
         }
         note.setCreationDate(unsaved.creation);
         note.setModificationDate(unsaved.modification);

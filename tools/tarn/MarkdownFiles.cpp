@@ -38,11 +38,13 @@ bool isHidden(const fs::path& path)
 /// One walk over all paths; remembers what it has seen.
 class Walk {
 public:
-    /// A path that was given, or found and wanted.
-    void visit(const fs::path& path);
+    /// A path that was given.
+    void begin(const fs::path& path);
     MarkdownFiles takeResult() { return std::move(result_); }
 
 private:
+    /// A path that was given, or found and wanted.
+    void visit(const fs::path& path);
     void visitFolder(const fs::path& folder);
     void visitEntry(const fs::path& entry);
     void skip(const fs::path& path, SkipReason reason) { result_.skipped.push_back({path, reason}); }
@@ -59,8 +61,16 @@ private:
     }
 
     MarkdownFiles result_;
+    fs::path root_;
     std::set<std::string> seen_;
 };
+
+void Walk::begin(const fs::path& path)
+{
+    std::error_code error;
+    root_ = fs::is_directory(path, error) ? path : path.parent_path();
+    visit(path);
+}
 
 void Walk::visit(const fs::path& path)
 {
@@ -76,7 +86,7 @@ void Walk::visit(const fs::path& path)
     else if (isFolder)
         visitFolder(path);
     else
-        result_.files.push_back(path);
+        result_.files.push_back({path, root_});
 }
 
 void Walk::visitFolder(const fs::path& folder)
@@ -121,7 +131,7 @@ MarkdownFiles markdownFilesAtPaths(const std::vector<std::string>& paths)
 {
     Walk walk;
     for (const std::string& path : paths)
-        walk.visit(fs::path(path));
+        walk.begin(fs::path(path));
     return walk.takeResult();
 }
 

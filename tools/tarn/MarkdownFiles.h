@@ -21,9 +21,16 @@ struct SkippedPath {
     SkipReason reason;
 };
 
+/// A file that becomes a note.
+struct MarkdownFile {
+    std::filesystem::path path;
+    std::filesystem::path root; ///< the folder that was given, or of a file that was given its own: files in it may be
+                                ///< attached to the note
+};
+
 /// What an import finds below the paths that it is given.
 struct MarkdownFiles {
-    std::vector<std::filesystem::path> files; ///< in the order of the paths, each folder's in the order of names
+    std::vector<MarkdownFile> files; ///< in the order of the paths, each folder's in the order of names
     std::vector<SkippedPath> skipped;
     std::vector<PathFailure> failures;
 };

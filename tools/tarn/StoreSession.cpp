@@ -16,6 +16,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
+constexpr std::size_t kNotesAtATime = 500;
+
 } // namespace
 
 fs::path storeFolderOf(const Invocation& invocation)
@@ -130,6 +132,23 @@ std::vector<OVNote*> StoreSession::notes(const std::optional<NSPredicate>& predi
     request.sortDescriptors = OVNote::standardSortDescriptors();
     request.fetchLimit = limit;
     return records<OVNote>(request);
+}
+
+void StoreSession::forEachNote(
+    const std::optional<NSPredicate>& predicate, const std::function<void(const OVNote&)>& handler)
+{
+    NSFetchRequest request(OVNote::entityInManagedObjectContext(*context_));
+    request.predicate = predicate;
+    request.fetchLimit = kNotesAtATime;
+    std::size_t count = kNotesAtATime;
+    while (count == kNotesAtATime) {
+        const std::vector<OVNote*> notes = records<OVNote>(request);
+        for (const OVNote* note : notes)
+            handler(*note);
+        count = notes.size();
+        request.fetchOffset += count;
+        context_->reset();
+    }
 }
 
 std::vector<OVNote*> StoreSession::latestNotes(const std::optional<NSPredicate>& predicate, std::size_t limit)

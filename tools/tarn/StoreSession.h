@@ -56,6 +56,8 @@ public:
 
     /// Notes in the standard order: pinned first, then the latest modified. `limit` 0: all.
     std::vector<OVNote*> notes(const std::optional<NSPredicate>& predicate, std::size_t limit = 0);
+    /// Each note in the order in which they came into the store, a page at a time: records end with their page.
+    void forEachNote(const std::optional<NSPredicate>& predicate, const std::function<void(const OVNote&)>& handler);
     /// The latest modified first.
     std::vector<OVNote*> latestNotes(const std::optional<NSPredicate>& predicate, std::size_t limit);
     std::size_t countNotes(const std::optional<NSPredicate>& predicate);

@@ -1,0 +1,175 @@
+#include "tools/tarn/Exporter.h"
+
+#include "tarnmodel/corvel/CVKAST.h"
+#include "tarnmodel/platform/foundation/filesystem/NSFileManager.h"
+#include "tarnmodel/platform/foundation/text/PercentEncoding.h"
+#include "tarnmodel/platform/foundation/values/NSData.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
+#include "tools/tarn/DisplayText.h"
+#include "tools/tarn/FileList.h"
+
+#include <array>
+#include <fcntl.h>
+#include <fstream>
+#include <sys/stat.h>
+#include <system_error>
+#include <utility>
+
+namespace tarn {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+bool isThere(const fs::path& path)
+{
+    return NSFileManager::fileExistsAtURL(path);
+}
+
+/// A folder itself, not a link to one, which could lead anywhere.
+bool isFolderItself(const fs::path& path)
+{
+    std::error_code failure;
+    return fs::is_directory(fs::symlink_status(path, failure));
+}
+
+bool holds(const fs::path& path, const std::string& text)
+{
+    std::error_code failure;
+    if (!fs::is_regular_file(path, failure) || fs::file_size(path, failure) != text.size())
+        return false;
+    std::ifstream stream(path, std::ios::binary);
+    std::string contents(text.size(), '\0');
+    stream.read(contents.data(), static_cast<std::streamsize>(contents.size()));
+    return stream && contents == text;
+}
+
+void setModificationDate(const fs::path& path, NSDate date)
+{
+    const std::int64_t microseconds = date.microsecondsSince1970();
+    timespec time{};
+    time.tv_sec = microseconds / 1'000'000 - (microseconds % 1'000'000 < 0 ? 1 : 0);
+    time.tv_nsec = (microseconds - time.tv_sec * 1'000'000) * 1'000;
+    const std::array<timespec, 2> times{time, time};
+    ::utimensat(AT_FDCWD, path.c_str(), times.data(), 0); // a text without its date is still the text
+}
+
+/// The attachment that a destination names is looked for as a note looks for it.
+std::optional<std::string> placeForLink(
+    const std::string& destination, const std::map<std::string, std::string>& placesOfNames)
+{
+    const auto decoded = stringByRemovingPercentEncoding(destination);
+    auto found = decoded ? placesOfNames.find(*decoded) : placesOfNames.end();
+    if (found == placesOfNames.end())
+        found = placesOfNames.find(destination);
+    return found == placesOfNames.end() ? std::nullopt : std::optional(found->second);
+}
+
+} // namespace
+
+void Exporter::makeFolder()
+{
+    if (std::exchange(isMade_, true))
+        return;
+    std::error_code failure;
+    fs::create_directories(folder_, failure);
+    if (failure)
+        throw failureForSystemError("cannot make the folder " + folder_.string(), failure.value());
+}
+
+void Exporter::leave(const fs::path& path, std::string reason, bool isFailure)
+{
+    result_.left.push_back({path, std::move(reason), isFailure});
+}
+
+void Exporter::leaveUnwritten(const fs::path& path, const NSError& error)
+{
+    if (isThere(path))
+        leave(path, "another file is there");
+    else
+        leave(path, singleLine(error.localizedDescription()), true);
+}
+
+void Exporter::noteName(const std::string& name, const std::string& given, const fs::path& place)
+{
+    if (name != given)
+        result_.renamed.push_back({name, place});
+}
+
+void Exporter::exportNote(const OVNote& note)
+{
+    makeFolder();
+    const std::string title = note.title().value_or("");
+    const std::string name = names_.noteName(title);
+    const fs::path place = folder_ / (name + ".md");
+    noteName(title, name, place);
+    if (note.encryptedValue() && note.hasEncryptionAndIsLocked())
+        return leave(place, "the note is protected by a password");
+    try {
+        const auto text = note.text();
+        if (!text)
+            return leave(place, "the note has no text that can be read");
+        const NamesInText places = exportAttachments(note, name);
+        const CVKAST document = CVKAST::fromMarkdown(*text);
+        const auto newURL = [&places](const std::string& link) { return placeForLink(link, places); };
+        exportText(note, document.applyTextOperationResults(document.updateLinksURLs(newURL, {})).markdown(), place);
+    } catch (const NSException& exception) {
+        leave(place, exception.reason());
+    }
+}
+
+Exporter::NamesInText Exporter::exportAttachments(const OVNote& note, const std::string& name)
+{
+    NamesInText places;
+    const std::string assets = name + ".assets";
+    const fs::path folder = folder_ / assets;
+    ExportNames names;
+    for (const OVNoteFile* file : note.orderedFiles()) {
+        const std::string ownName = nameOfFile(*file);
+        const fs::path place = folder / names.fileName(ownName);
+        noteName(ownName, place.filename().string(), place);
+        const auto source = pathOfFile(*file);
+        NSError error;
+        if (isLocked(*file))
+            leave(place, "the attachment is protected by a password");
+        else if (!source)
+            leave(place, "its bytes are not here");
+        else if (!isThere(folder) && !NSFileManager::createDirectoryAtURL(folder, &error))
+            leave(place, singleLine(error.localizedDescription()), true);
+        else if (!isFolderItself(folder))
+            leave(place, folder.string() + " is no folder");
+        else if (exportAttachment(*source, place))
+            places.emplace(ownName, assets + "/" + place.filename().string());
+    }
+    return places;
+}
+
+bool Exporter::exportAttachment(const fs::path& source, const fs::path& place)
+{
+    NSError error;
+    if (NSFileManager::copyItemAtURL(source, place, &error)) {
+        ++result_.files;
+        return true;
+    }
+    if (isThere(place) && NSFileManager::contentsEqualAtURLs(source, place)) {
+        ++result_.unchanged;
+        return true;
+    }
+    leaveUnwritten(place, error);
+    return false;
+}
+
+void Exporter::exportText(const OVNote& note, const std::string& text, const fs::path& place)
+{
+    NSError error;
+    if (NSFileManager::createFileAtURL(place, NSData::fromText(text), &error)) {
+        setModificationDate(place, note.modificationDate().value_or(now()));
+        ++result_.exported;
+    } else if (holds(place, text)) {
+        ++result_.unchanged;
+    } else {
+        leaveUnwritten(place, error);
+    }
+}
+
+} // namespace tarn
