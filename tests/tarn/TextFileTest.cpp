@@ -151,6 +151,17 @@ TEST_F(MarkdownFilesOnDisk, FollowLinksToFoldersWithoutGoingInCircles)
     EXPECT_EQ(skippedIn(found), (std::vector<std::string>{"in/circle: seen before", "other: seen before"}));
 }
 
+TEST_F(MarkdownFilesOnDisk, AreNotTheAttachmentsBesideThem)
+{
+    for (const char* name : {"a.md", "a.assets/b.txt", "a.assets/in/c.md", "b.assets/d.md"})
+        file(name);
+    const MarkdownFiles found = markdownFilesAtPaths({folder_});
+    EXPECT_EQ(namesIn(found), (std::vector<std::string>{"a.md", "b.assets/d.md"}));
+    EXPECT_EQ(skippedIn(found),
+        (std::vector<std::string>{
+            "a.assets/b.txt: in a folder of attachments", "a.assets/in/c.md: in a folder of attachments"}));
+}
+
 TEST_F(MarkdownFilesOnDisk, ReportWhatIsNotThere)
 {
     fs::create_symlink(folder_ / "nowhere", folder_ / "dangling.md");

@@ -51,12 +51,12 @@ JSON jsonOfLeftLinks(const ImportResult& result)
     return links;
 }
 
-/// Pictures that were attached were not passed over.
+/// Files that were attached were not passed over.
 std::vector<SkippedPath> skippedBy(const ImportResult& result, std::vector<SkippedPath> skipped)
 {
     std::erase_if(skipped, [&result](const SkippedPath& file) {
         std::error_code failure;
-        return file.reason == SkipReason::Picture
+        return (file.reason == SkipReason::Picture || file.reason == SkipReason::InAssets)
             && result.attachedFiles.contains(std::filesystem::canonical(file.path, failure));
     });
     return skipped;

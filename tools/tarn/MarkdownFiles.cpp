@@ -20,7 +20,9 @@ constexpr std::array<std::string_view, 3> kNoteExtensions{".md", ".markdown", ".
 constexpr std::array<std::string_view, 13> kPictureExtensions{
     ".avif", ".bmp", ".gif", ".heic", ".heif", ".ico", ".jpeg", ".jpg", ".png", ".svg", ".tif", ".tiff", ".webp"};
 // In the order of `SkipReason`.
-constexpr std::array<std::string_view, 4> kReasons{"hidden", "a hidden folder", "seen before", "a picture"};
+constexpr std::array<std::string_view, 5> kReasons{
+    "hidden", "a hidden folder", "seen before", "a picture", "in a folder of attachments"};
+constexpr std::string_view kAssets = ".assets";
 
 bool hasExtension(const fs::path& path, std::span<const std::string_view> extensions)
 {
@@ -33,6 +35,16 @@ bool hasExtension(const fs::path& path, std::span<const std::string_view> extens
 bool isHidden(const fs::path& path)
 {
     return path.filename().native().starts_with('.');
+}
+
+/// Whether it is "X.assets", and "X.md" or its like stands beside it.
+bool isFolderOfAttachments(const fs::path& folder)
+{
+    if (folder.extension() != kAssets)
+        return false;
+    std::error_code failure;
+    return std::ranges::any_of(kNoteExtensions,
+        [&](std::string_view extension) { return fs::exists(fs::path(folder).replace_extension(extension), failure); });
 }
 
 /// One walk over all paths; remembers what it has seen.
@@ -63,6 +75,7 @@ private:
     MarkdownFiles result_;
     fs::path root_;
     std::set<std::string> seen_;
+    bool isInAssets_ = false;
 };
 
 void Walk::begin(const fs::path& path)
@@ -85,6 +98,8 @@ void Walk::visit(const fs::path& path)
         skip(path, SkipReason::SeenBefore);
     else if (isFolder)
         visitFolder(path);
+    else if (isInAssets_)
+        skip(path, SkipReason::InAssets);
     else
         result_.files.push_back({path, root_});
 }
@@ -114,7 +129,10 @@ void Walk::visitEntry(const fs::path& entry)
         if (isFolder || isNote)
             skip(entry, isFolder ? SkipReason::HiddenFolder : SkipReason::Hidden);
     } else if (isFolder || isNote) {
+        const bool wasInAssets = isInAssets_;
+        isInAssets_ = isInAssets_ || (isFolder && isFolderOfAttachments(entry));
         visit(entry);
+        isInAssets_ = wasInAssets;
     } else if (hasExtension(entry, kPictureExtensions)) {
         skip(entry, SkipReason::Picture);
     }

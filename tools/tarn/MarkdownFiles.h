@@ -14,7 +14,7 @@ struct PathFailure {
 };
 
 /// Why a path was passed over.
-enum class SkipReason { Hidden, HiddenFolder, SeenBefore, Picture };
+enum class SkipReason { Hidden, HiddenFolder, SeenBefore, Picture, InAssets };
 
 struct SkippedPath {
     std::filesystem::path path;
@@ -37,7 +37,8 @@ struct MarkdownFiles {
 
 /// Files as they are given, and below folders every `.md`, `.markdown` and `.txt` (in any case). Names are ordered by
 /// their bytes. Hidden files and folders (".name") are passed over; so is a folder or file that was already seen, by
-/// whatever path or symbolic link it is reached. Pictures count as passed over, files of other kinds do not. Stops
+/// whatever path or symbolic link it is reached. Pictures count as passed over, files of other kinds do not; and
+/// so do texts in a folder "X.assets" beside a text "X.md": they are attachments of that. Stops
 /// early when an `Interruption` is requested.
 MarkdownFiles markdownFilesAtPaths(const std::vector<std::string>& paths);
 
