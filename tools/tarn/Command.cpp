@@ -94,6 +94,17 @@ CommandOption Command::addOption(
     return CommandOption(*command_->add_option(name, take, description)->type_size(1)->expected(1)->option_text(" "));
 }
 
+CommandOption Command::addFlagWithValue(
+    const std::string& name, std::optional<std::string>& value, const std::string& description) const
+{
+    const auto take = [&value](const CLI::results_t& results) {
+        value = results.empty() ? std::string() : unshieldedArgument(results.at(0));
+        return true;
+    };
+    return CommandOption(
+        *command_->add_option(name, take, description)->type_size(0, 1)->expected(0, 1)->option_text(" "));
+}
+
 CommandOption Command::addCount(const std::string& name, std::size_t& value, const std::string& description) const
 {
     // CLI11's own conversion takes "0x10" and "010" for other numbers than people do.

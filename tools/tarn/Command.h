@@ -41,6 +41,9 @@ public:
         const std::string& name, std::optional<std::string>& value, const std::string& description) const;
     /// An option whose value is a number from 1.
     CommandOption addCount(const std::string& name, std::size_t& value, const std::string& description) const;
+    /// An option with or without a value: empty where it is given without one.
+    CommandOption addFlagWithValue(
+        const std::string& name, std::optional<std::string>& value, const std::string& description) const;
     /// An option that may be given several times, each time with one value.
     CommandOption addOptionList(
         const std::string& name, std::vector<std::string>& values, const std::string& description) const;

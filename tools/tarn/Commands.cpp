@@ -26,6 +26,7 @@ void addCommands(CommandLine& commandLine)
     addAttachCommand(commandLine);
     addFilesCommand(commandLine);
     addFileCommands(commandLine);
+    addThumbCommand(commandLine);
     addExportCommand(commandLine);
     addChangesCommand(commandLine);
     addBaselineCommand(commandLine);

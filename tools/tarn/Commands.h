@@ -37,6 +37,7 @@ void addAttachCommand(CommandLine& commandLine);
 void addFilesCommand(CommandLine& commandLine);
 /// file rename, prune
 void addFileCommands(CommandLine& commandLine);
+void addThumbCommand(CommandLine& commandLine);
 void addExportCommand(CommandLine& commandLine);
 void addChangesCommand(CommandLine& commandLine);
 void addBaselineCommand(CommandLine& commandLine);
