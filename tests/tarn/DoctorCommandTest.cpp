@@ -193,4 +193,80 @@ TEST_F(DoctorCommand, ExaminesNothingWhereThereIsNoStore)
     EXPECT_EQ(run({"doctor"}).exitCode, 6);
 }
 
+// Files of attachments
+// -------------------------------------------------------------------------------------------------
+
+class DoctorOfFiles : public TarnCommandTest {
+protected:
+    DoctorOfFiles()
+    {
+        note("# N");
+        output({"attach", "N", file("a.txt", "bytes")});
+    }
+    std::filesystem::path attachments() const { return store() / "Application Data" / "Local Files"; }
+    std::filesystem::path attached() const { return std::string(json({"files"}).at("files").at(0).at("path")); }
+    /// What the check of files says, and that no other finds anything.
+    std::vector<std::string> problems() const
+    {
+        const nlohmann::json document = json({"doctor"});
+        for (const auto& check : document.at("checks"))
+            EXPECT_TRUE(check.at("ok") || check.at("name") == "files") << check;
+        return document.at("checks").back().at("problems");
+    }
+    /// Says what was mended.
+    std::size_t repair() const { return json({"doctor", "--repair"}).at("mendedFiles"); }
+};
+
+TEST_F(DoctorOfFiles, FindsNothingInASoundStore)
+{
+    EXPECT_TRUE(problems().empty());
+    EXPECT_EQ(run({"doctor"}).exitCode, 0);
+    EXPECT_EQ(json({"stats"}).at("attachmentBytes"), 5);
+    EXPECT_EQ(repair(), 0U);
+}
+
+TEST_F(DoctorOfFiles, FindsAndMendsWhatIsNotAsTheStoreHasIt)
+{
+    namespace fs = std::filesystem;
+    const fs::path file = attached();
+    fs::rename(file, file.parent_path() / "b.txt");
+    EXPECT_THAT(problems(), testing::ElementsAre(testing::EndsWith("\"a.txt\": its file has another name")));
+    EXPECT_EQ(run({"doctor"}).exitCode, 1);
+    EXPECT_EQ(repair(), 1U);
+    EXPECT_TRUE(fs::exists(file));
+
+    fs::resize_file(file, 2);
+    EXPECT_THAT(problems(), testing::ElementsAre(testing::HasSubstr("another size")));
+    EXPECT_EQ(repair(), 1U);
+    EXPECT_EQ(json({"files"}).at("files").at(0).at("fileSize"), 2);
+
+    fs::create_directories(attachments() / "Note Images" / "NOBODY");
+    EXPECT_THAT(problems(), testing::ElementsAre(testing::HasSubstr("NOBODY: no attachment has this")));
+    EXPECT_EQ(repair(), 1U);
+    EXPECT_TRUE(fs::exists(attachments() / "Lost and Found"));
+
+    fs::remove(file);
+    EXPECT_THAT(problems(), testing::ElementsAre(testing::EndsWith("its file is not there")));
+    EXPECT_EQ(repair(), 1U);
+    EXPECT_TRUE(problems().empty());
+    EXPECT_EQ(stored("SELECT downloaded FROM OVNoteFile"), "0");
+}
+
+TEST_F(DoctorOfFiles, BringsBackWhatAProgramMovedAsideThatDied)
+{
+    namespace fs = std::filesystem;
+    const fs::path attachedFile = attached();
+    const std::string journal = "st\u00F6re/Application Data/Local Files/.unsaved-"
+        + stored("SELECT value FROM store_metadata WHERE key = 'storeUUID'") + "-dead";
+    const std::string identifier = attachedFile.parent_path().filename();
+    file(journal + "/journal", "0\tLocal Files/Note Files\t" + identifier + "\t\n");
+    fs::rename(attachedFile.parent_path(), folder() / journal / "0");
+    EXPECT_THAT(problems(), testing::ElementsAre(testing::HasSubstr("a program ended before it saved")));
+    // Whoever writes next mends it, whatever the command.
+    EXPECT_EQ(run({"new", "# M"}).exitCode, 0);
+    EXPECT_TRUE(fs::exists(attachedFile));
+    EXPECT_FALSE(fs::exists(folder() / journal));
+    EXPECT_TRUE(problems().empty());
+}
+
 } // namespace tarn::test

@@ -70,8 +70,9 @@ fs::path pictureOf(const Invocation& invocation, const ThumbCommandArguments& ar
 
 CommandFailure failureOfThumb(const fs::path& picture, const NSError& error)
 {
-    const bool isOfDisk = error.domain() != TarnImagingErrorDomain || error.code() == ImagingErrorCannotRead
-        || error.code() == ImagingErrorCannotWrite;
+    const bool isOfImage = error.domain() == TarnImagingErrorDomain;
+    const bool isOfDisk = error.domain() == NSPOSIXErrorDomain
+        || (isOfImage && (error.code() == ImagingErrorCannotRead || error.code() == ImagingErrorCannotWrite));
     return {isOfDisk ? ExitCode::InputOutput : ExitCode::Failed,
         "no thumbnail of " + picture.string() + ": " + singleLine(error.localizedDescription())};
 }
@@ -86,15 +87,27 @@ fs::path madeThumb(
     return *made;
 }
 
-/// In the folder of all thumbnails. The name of one does not tell how it was trimmed and painted: such a one is made in
-/// any case.
+/// The folder of all thumbnails. The name of one does not tell how it was trimmed and painted: each way has a folder of
+/// its own in there.
+std::string folderForThumbs(const OVThumbOptions& options)
+{
+    std::string folder(OVNoteThumbFileDirectoryName);
+    if (options.trimTopBottomTransparentPixels)
+        folder
+            += "/trim_" + std::to_string(static_cast<int>(options.trimTransparentPixelsHorizontalMargin.value_or(0)));
+    if (const auto color = options.backgroundColor) {
+        std::array<char, 24> name{};
+        std::snprintf(name.data(), name.size(), "/background_%02x%02x%02x", color->red, color->green, color->blue);
+        folder += name.data();
+    }
+    return folder;
+}
+
 fs::path keptThumb(const fs::path& picture, OVThumbSize size, const OVThumbOptions& options)
 {
-    const auto manager = OVThumbFileManager::thumbFileManagerForPathComponent(OVNoteThumbFileDirectoryName);
-    if (!options.trimTopBottomTransparentPixels && !options.backgroundColor)
-        if (const auto found = manager->thumbURLForImageURL(picture, size, options))
-            return *found;
-    return madeThumb(*manager, picture, size, options);
+    const auto manager = OVThumbFileManager::thumbFileManagerForPathComponent(folderForThumbs(options));
+    const auto found = manager->thumbURLForImageURL(picture, size, options);
+    return found ? *found : madeThumb(*manager, picture, size, options);
 }
 
 /// A folder that goes, with what is in it.

@@ -3,8 +3,8 @@
 _tarn()
 {
     local commands="import new show append prepend replace edit duplicate merge list search predicate highlight tags tag links backlinks
-        unresolved orphans url conflicts conflict trash restore archive unarchive pin unpin readonly editable delete changes
-        baseline stats doctor parse"
+        unresolved orphans url conflicts conflict trash restore archive unarchive pin unpin readonly editable delete
+        attach files file thumb export changes baseline stats doctor parse"
     local global="--store --json --help --version"
     local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} command="" word index
     COMPREPLY=()
@@ -21,8 +21,10 @@ _tarn()
     case $previous in
         --store) mapfile -t COMPREPLY < <(compgen -d -- "$current"); return ;;
         --filter) mapfile -t COMPREPLY < <(compgen -W "active trashed archived pinned conflicted encrypted all" -- "$current"); return ;;
-        --tag | --limit | --header | --since) return ;;
+        --output) mapfile -t COMPREPLY < <(compgen -f -- "$current"); return ;;
+        --tag | --limit | --header | --since | --size | --align | --background) return ;;
         tag) [[ $command == tag ]] && { mapfile -t COMPREPLY < <(compgen -W "add remove rename delete pin unpin prune" -- "$current"); return; } ;;
+        file) [[ $command == file ]] && { mapfile -t COMPREPLY < <(compgen -W "rename prune" -- "$current"); return; } ;;
         conflict) [[ $command == conflict ]] && { mapfile -t COMPREPLY < <(compgen -W "resolve" -- "$current"); return; } ;;
     esac
 
@@ -36,7 +38,11 @@ _tarn()
         tags) options="--all" ;;
         tag) options="--top --yes --latest" ;;
         edit) options="--allow-empty --latest" ;;
-        append | prepend | replace | duplicate | merge | conflict | trash | restore | archive | unarchive | pin | unpin | readonly | editable)
+        files) options="--to-upload --to-download --unused" ;;
+        file) options="--latest --dry-run" ;;
+        thumb) options="--size --contain --cover --no-ratio --align --trim --background --output" ;;
+        export) options="--all" ;;
+        append | prepend | replace | duplicate | merge | attach | conflict | trash | restore | archive | unarchive | pin | unpin | readonly | editable)
             options="--latest" ;;
         url) options="--title --new-window --header --tag" ;;
         delete) options="--yes --latest" ;;
@@ -46,7 +52,7 @@ _tarn()
     if [[ -z $command || $current == -* ]]; then
         [[ -n $command ]] && options="$options $global"
         mapfile -t COMPREPLY < <(compgen -W "$options" -- "$current")
-    elif [[ $command == import || $command == parse ]]; then
+    elif [[ $command == import || $command == parse || $command == attach || $command == thumb || $command == export ]]; then
         mapfile -t COMPREPLY < <(compgen -f -- "$current")
     fi
 }

@@ -1,6 +1,6 @@
 # Completion of tarn for fish.
 
-set -l commands import new show append prepend replace edit duplicate merge list search predicate highlight tags tag links backlinks unresolved orphans url conflicts conflict trash restore archive unarchive pin unpin readonly editable delete changes baseline stats doctor parse
+set -l commands import new show append prepend replace edit duplicate merge list search predicate highlight tags tag links backlinks unresolved orphans url conflicts conflict trash restore archive unarchive pin unpin readonly editable delete attach files file thumb export changes baseline stats doctor parse
 
 complete -c tarn -f
 complete -c tarn -l store -r -a '(__fish_complete_directories)' -d 'The folder of the store'
@@ -39,16 +39,35 @@ complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a unpin -d 'No 
 complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a readonly -d 'Protect notes from being edited'
 complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a editable -d 'Let notes be edited again'
 complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a delete -d 'Delete notes for good'
+complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a attach -d 'Attach files to a note'
+complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a files -d 'List attachments'
+complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a file -d 'Rename attachments, and delete unused ones'
+complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a thumb -d 'Make or find a thumbnail of a picture'
+complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a export -d 'Write notes as Markdown files, with their attachments'
 complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a changes -d 'List what was saved since a token'
 complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a baseline -d 'Fold the change log into one change'
 complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a stats -d 'Count what is in the store'
 complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a doctor -d 'Examine the store'
 complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a parse -d 'Show what the Markdown parser sees'
 
-complete -c tarn -n '__fish_seen_subcommand_from import parse' -F
+complete -c tarn -n '__fish_seen_subcommand_from import parse attach thumb export' -F
 complete -c tarn -n '__fish_seen_subcommand_from import' -l tag -x -d 'Add this tag to every note'
 complete -c tarn -n '__fish_seen_subcommand_from import' -l verbose -d 'Name each file that was skipped'
 complete -c tarn -n '__fish_seen_subcommand_from import' -l dry-run -d 'Write nothing'
+complete -c tarn -n '__fish_seen_subcommand_from files' -l to-upload -d 'Only those that the server does not have'
+complete -c tarn -n '__fish_seen_subcommand_from files' -l to-download -d 'Only those that only the server has'
+complete -c tarn -n '__fish_seen_subcommand_from files' -l unused -d 'Only those that no text names'
+complete -c tarn -n '__fish_seen_subcommand_from file' -a 'rename prune'
+complete -c tarn -n '__fish_seen_subcommand_from file' -l dry-run -d 'Delete nothing'
+complete -c tarn -n '__fish_seen_subcommand_from thumb' -l size -x -d 'The size in pixels, as 200x150'
+complete -c tarn -n '__fish_seen_subcommand_from thumb' -l contain -d 'Exactly of the size, with room beside the picture'
+complete -c tarn -n '__fish_seen_subcommand_from thumb' -l cover -d 'Exactly of the size, filled by the picture'
+complete -c tarn -n '__fish_seen_subcommand_from thumb' -l no-ratio -d 'Stretch the picture'
+complete -c tarn -n '__fish_seen_subcommand_from thumb' -l align -x -d 'Where the picture lies, as 0.5,1'
+complete -c tarn -n '__fish_seen_subcommand_from thumb' -l trim -d 'Cut transparent rows away'
+complete -c tarn -n '__fish_seen_subcommand_from thumb' -l background -x -d 'Paint this colour under it'
+complete -c tarn -n '__fish_seen_subcommand_from thumb' -l output -r -F -d 'Write it to this file'
+complete -c tarn -n '__fish_seen_subcommand_from export' -l all -d 'Archived notes and those in the trash as well'
 complete -c tarn -n '__fish_seen_subcommand_from list' -l filter -x -a 'active trashed archived pinned conflicted encrypted all' -d 'Which notes'
 complete -c tarn -n '__fish_seen_subcommand_from list' -l tag -x -d 'Only notes with this tag'
 complete -c tarn -n '__fish_seen_subcommand_from list search' -l limit -x -d 'At most so many notes'
@@ -66,7 +85,7 @@ complete -c tarn -n '__fish_seen_subcommand_from url' -l title -d 'Name the note
 complete -c tarn -n '__fish_seen_subcommand_from url' -l new-window -d 'Open it in a window of its own'
 complete -c tarn -n '__fish_seen_subcommand_from url' -l header -x -d 'Open it at this heading'
 complete -c tarn -n '__fish_seen_subcommand_from url' -l tag -x -d 'Open this tag'
-complete -c tarn -n '__fish_seen_subcommand_from append prepend replace edit duplicate merge tag conflict trash restore archive unarchive pin unpin readonly editable delete' -l latest -d 'Of several notes with one title take the latest modified'
+complete -c tarn -n '__fish_seen_subcommand_from append prepend replace edit duplicate merge tag attach file conflict trash restore archive unarchive pin unpin readonly editable delete' -l latest -d 'Of several notes with one title take the latest modified'
 complete -c tarn -n '__fish_seen_subcommand_from edit' -l allow-empty -d 'Save also a text that came back empty'
 complete -c tarn -n '__fish_seen_subcommand_from delete' -l yes -d 'Do not ask'
 complete -c tarn -n '__fish_seen_subcommand_from doctor' -l repair -d 'Derive wrong fields anew'
