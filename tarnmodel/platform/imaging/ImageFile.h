@@ -29,6 +29,7 @@ enum class ImageFormat { JPEG, PNG, GIF, WebP, BMP, TIFF, HEIF };
 
 /// What a file says of its image before a pixel of it is decoded. A plain value.
 struct ImageHeader {
+    /// By the first bytes of the file.
     ImageFormat format = ImageFormat::PNG;
     /// In pixels, as the rows are stored.
     std::int64_t width = 0;

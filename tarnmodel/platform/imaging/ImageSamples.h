@@ -13,12 +13,15 @@ namespace tarn {
 /// `drawImage()`.
 class ImageSamples {
 public:
+    /// The value of full colour and of full alpha.
     static constexpr std::uint16_t Full = 255 * 255;
 
     /// Where samples begin and end along a side of the picture, of which 0 is the beginning and 1 the end. What was
     /// shrunk by a whole number may reach a little beyond it.
     struct Extent {
+        /// 0 or less.
         double begin = 0;
+        /// 1 or more.
         double end = 1;
 
         friend bool operator==(const Extent&, const Extent&) = default;
