@@ -1,5 +1,9 @@
 #include "tarnmodel/platform/imaging/ImageFile.h"
 #include "tarnmodel/platform/imaging/ImageDrawing.h"
+#include "tarnmodel/platform/imaging/codecs/HeaderReader.h"
+#include "tarnmodel/platform/imaging/codecs/ImageDecoder.h"
+#include "tarnmodel/platform/imaging/codecs/ImageInput.h"
+#include "tarnmodel/platform/imaging/codecs/WholeImage.h"
 #include "tests/platform/imaging/Loading.h"
 #include "tests/platform/imaging/TestPictures.h"
 #include "tests/platform/imaging/makers/BMPMaker.h"
@@ -136,6 +140,26 @@ TEST(Limits, AreAskedOfTheHeaderBeforeAnythingIsDecoded)
     EXPECT_FALSE(imageIsWithinLimits({ImageFormat::PNG, 1'000'001, 1}, {}, &error));
     EXPECT_EQ(
         error.localizedDescription(), "The image has 1000001 x 1 pixels; at most 1000000 a side are decoded (side).");
+}
+
+TEST(Limits, AreAskedByEachDecoderItself)
+{
+    // Headers are read by other code than pixels: the two may not agree about a file that is made to deceive.
+    const Bitmap picture = aPhotograph(8, 8);
+    const BMPKind bmp{1, 2, 24, 0, 40, {}, {}, {{1, 2, 3}, {1, 2, 3}}};
+    const std::pair<ImageFormat, ImageBytes> files[]{{ImageFormat::JPEG, jpegOf(picture)},
+        {ImageFormat::PNG, pngOf(picture)}, {ImageFormat::GIF, gifOf(2, 1, {{0, 0, {"rg"}}})},
+        {ImageFormat::WebP, webPOf(picture)}, {ImageFormat::BMP, bmpOf(bmp)}};
+    for (const auto& [format, bytes] : files) {
+        ImageInput input(sourceOfBytes(bytes));
+        DecodeRequest request;
+        WholeImage rows;
+        NSError error;
+        EXPECT_TRUE(decodeImage(input, format, request, rows, &error)) << error;
+        request.limits.pixels = 1;
+        EXPECT_FALSE(decodeImage(input, format, request, rows, &error));
+        EXPECT_EQ(error.code(), ImagingErrorTooLarge) << nameOf(format);
+    }
 }
 
 TEST(Limits, AreThoseThatTheHostSets)

@@ -76,6 +76,24 @@ TEST(MemoryOfImages, FollowsTheWidthOfAJPEG)
     EXPECT_EQ(answerWithin(8 * kMegabyte, [&] { return drawnCode(file.path()); }), kLoaded);
 }
 
+TEST(MemoryOfImages, IsNotTakenForProfilesAndTexts)
+{
+    if (kHasShadow)
+        GTEST_SKIP();
+    ImageBytes text;
+    append(text, std::string_view("Comment\0\0", 9));
+    append(text, compressedZeros(7'000'000));
+    ImageBytes bytes = pngOf(aPhotograph(8, 8));
+    for (int chunk = 0; chunk < 20; ++chunk)
+        bytes = pngWithChunk(bytes, "zTXt", text);
+    ImageBytes profile;
+    append(profile, std::string_view("Profile\0\0", 9));
+    append(profile, compressedZeros(60'000'000));
+    const ImageOnDisk file(pngWithChunk(bytes, "iCCP", profile));
+
+    EXPECT_EQ(answerWithin(4 * kMegabyte, [&] { return drawnCode(file.path()); }), kLoaded);
+}
+
 TEST(MemoryOfImages, ThatIsNotThereIsAnError)
 {
     if (kHasShadow)
