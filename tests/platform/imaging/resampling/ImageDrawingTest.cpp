@@ -1,5 +1,7 @@
 #include "tarnmodel/platform/imaging/ImageDrawing.h"
 #include "tarnmodel/platform/imaging/Bitmap.h"
+#include "tarnmodel/platform/imaging/resampling/BoxShrink.h"
+#include "tarnmodel/platform/imaging/resampling/Turning.h"
 #include "tests/platform/imaging/ReferenceResampler.h"
 #include "tests/platform/imaging/TestPictures.h"
 
@@ -76,6 +78,22 @@ TEST(ADrawing, OfAPhotographMuchSmallerIsCloseToTheFilter)
             = differenceOf(canvas, drawnByReference(photograph, canvas.width(), canvas.height(), 0, 0, width, height));
         EXPECT_LE(difference.most, 2) << width;
         EXPECT_LT(difference.mean, 0.4) << width;
+    }
+}
+
+TEST(ADrawing, OfTurnedSamplesIsTheDrawingTurned)
+{
+    // The last of 11 boxes of 10 pixels reaches beyond the picture by nine of them, at either end of it.
+    const Bitmap photograph = aPhotograph(101, 67);
+    for (int orientation = 1; orientation <= 4; ++orientation) {
+        BoxShrink rows(3.3, 2.1);
+        rows.begin({101, 67, 1, 1, false});
+        for (std::int32_t y = 0; y < 67; ++y)
+            rows.addRow(photograph.row(y));
+        Bitmap canvas = anEmptyCanvas(4, 3);
+        drawImage(turned(rows.takeSamples(), orientation), canvas, 0, 0, 3.3, 2.1);
+        const Bitmap expected = drawnByReference(turned(photograph, orientation), 4, 3, 0, 0, 3.3, 2.1);
+        EXPECT_LE(differenceOf(canvas, expected).most, 2) << orientation;
     }
 }
 
