@@ -11,8 +11,9 @@ class NSError;
 inline constexpr int DefaultJPEGQuality = 85;
 
 /// Writes a PNG, with alpha where the bitmap has it; equal bitmaps give equal bytes. Colours are divided by their
-/// alpha, since files hold them apart: what is opaque stays exact. A file of that name is written over, in place. False
-/// with an error when it cannot be written, or when there is no pixel; what lies there then is no image.
+/// alpha, since files hold them apart: what is opaque stays exact. The file is held in memory and written in place of
+/// one of that name. False with an error when there is no pixel, or when it cannot be written: it then may be cut
+/// short.
 bool writePNG(const Bitmap& bitmap, const std::filesystem::path& path, NSError* error = nullptr);
 /// Writes a JPEG, which has no alpha: what is transparent becomes black, as premultiplied colours are. Otherwise as
 /// above.

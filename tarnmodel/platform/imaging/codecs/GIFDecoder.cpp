@@ -127,8 +127,9 @@ private:
     void setPixels(std::span<const std::uint8_t> indexes)
     {
         std::ranges::fill(pixels_, std::uint8_t{0});
-        const auto visible = static_cast<std::size_t>(std::clamp(file_.SWidth - place_.Left, 0, place_.Width));
-        std::uint8_t* pixel = pixels_.data() + 4 * static_cast<std::size_t>(place_.Left);
+        const int left = std::min(place_.Left, file_.SWidth);
+        const auto visible = static_cast<std::size_t>(std::min(file_.SWidth - left, place_.Width));
+        std::uint8_t* pixel = pixels_.data() + 4 * static_cast<std::size_t>(left);
         for (const std::uint8_t index : indexes.first(visible))
             pixel = std::ranges::copy(palette_[index], pixel).out;
     }

@@ -60,7 +60,7 @@ RowLayout layoutOf(const JPEGReader& reader, unsigned eighths)
         reader.outputHeight() * scale / reader.height(), false};
 }
 
-void readRows(JPEGReader& reader, RowDelivery& rows)
+void readJPEGRows(JPEGReader& reader, RowDelivery& rows)
 {
     std::vector<std::uint8_t> row(static_cast<std::size_t>(reader.outputWidth()) * 4);
     while (rows.count() < rows.layout().height && reader.readRow(row.data())) {
@@ -89,7 +89,7 @@ bool decodeJPEG(ImageInput& input, const DecodeRequest& request, RowDelivery& ro
     if (!reader.start(eighths))
         return failWith(reader, request.limits, error);
     rows.begin(layoutOf(reader, eighths));
-    readRows(reader, rows);
+    readJPEGRows(reader, rows);
     return rows.complete(error);
 }
 

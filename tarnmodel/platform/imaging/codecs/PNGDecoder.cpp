@@ -8,7 +8,7 @@ namespace tarn {
 
 namespace {
 
-void readRows(PNGReader& reader, RowDelivery& rows)
+void readPNGRows(PNGReader& reader, RowDelivery& rows)
 {
     std::vector<std::uint8_t> row(static_cast<std::size_t>(reader.width()) * 4);
     while (rows.count() < rows.layout().height && reader.readRow(row.data()))
@@ -52,7 +52,7 @@ bool decodePNG(ImageInput& input, const DecodeRequest& request, RowDelivery& row
     if (reader.isInterlaced())
         readPasses(reader, rows);
     else
-        readRows(reader, rows);
+        readPNGRows(reader, rows);
     return rows.complete(error);
 }
 

@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::string_view kLetters = "rgbwk.";
 
-int collect(GifFileType* file, const GifByteType* bytes, int count)
+int collectGIF(GifFileType* file, const GifByteType* bytes, int count)
 {
     auto& target = *static_cast<ImageBytes*>(file->UserData);
     target.insert(target.end(), bytes, bytes + count);
@@ -52,7 +52,7 @@ ImageBytes gifOf(int width, int height, const std::vector<GIFFrame>& frames)
 {
     ImageBytes bytes;
     int failure = 0;
-    GifFileType* file = EGifOpen(&bytes, collect, &failure);
+    GifFileType* file = EGifOpen(&bytes, collectGIF, &failure);
     EGifSetGifVersion(file, true);
     const std::array<GifColorType, 8> colours{
         {{255, 0, 0}, {0, 255, 0}, {0, 0, 255}, {255, 255, 255}, {0, 0, 0}, {1, 2, 3}, {0, 0, 0}, {0, 0, 0}}};

@@ -9,7 +9,7 @@ namespace {
 
 constexpr std::size_t kBehindHeader = 8 + 25;
 
-void collect(png_structp png, png_bytep bytes, std::size_t count)
+void collectPNG(png_structp png, png_bytep bytes, std::size_t count)
 {
     auto& target = *static_cast<ImageBytes*>(png_get_io_ptr(png));
     target.insert(target.end(), bytes, bytes + count);
@@ -59,7 +59,7 @@ ImageBytes pngOf(const PNGKind& kind, const std::function<ImageBytes(std::uint32
     ImageBytes bytes;
     png_structp png = png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, nullptr, nullptr);
     png_infop info = png_create_info_struct(png);
-    png_set_write_fn(png, &bytes, collect, [](png_structp) {});
+    png_set_write_fn(png, &bytes, collectPNG, [](png_structp) {});
     png_set_compression_level(png, kind.compression);
     png_set_IHDR(png, info, kind.width, kind.height, kind.bits, kind.colourType,
         kind.isInterlaced ? PNG_INTERLACE_ADAM7 : PNG_INTERLACE_NONE, PNG_COMPRESSION_TYPE_DEFAULT,
