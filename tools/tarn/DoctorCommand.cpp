@@ -32,58 +32,41 @@ struct Diagnosis {
 constexpr std::array<const char*, kStoreCheckCount> kCheckNames{
     "integrity", "searchIndex", "title", "subtitle", "todos", "flags", "noteTags", "links", "tags", "files"};
 
-/// The sentence about a finding, behind the name of what it is about.
-const char* sentenceOf(StoreFinding::Kind kind)
+/// The sentences about findings, behind the names of what they are about.
+struct FindingSentence {
+    StoreFinding::Kind kind;
+    const char* sentence;
+};
+
+constexpr std::array kSentences{
+    FindingSentence{StoreFinding::Kind::WrongTitle, "the title is not what the text says"},
+    FindingSentence{StoreFinding::Kind::WrongSubtitle, "the subtitle is not what the text says"},
+    FindingSentence{StoreFinding::Kind::WrongOpenToDos, "the number of open to-dos is not what the text says"},
+    FindingSentence{StoreFinding::Kind::WrongDoneToDos, "the number of completed to-dos is not what the text says"},
+    FindingSentence{StoreFinding::Kind::WrongCodeFlag, "the flag for source code is not what the text says"},
+    FindingSentence{StoreFinding::Kind::WrongImagesFlag, "the flag for images is not what the text says"},
+    FindingSentence{StoreFinding::Kind::WrongFilesFlag, "the flag for files is not what the text says"},
+    FindingSentence{StoreFinding::Kind::WrongNoteTags, "the set of tags is not what the text says"},
+    FindingSentence{StoreFinding::Kind::WrongLinks, "the set of links is not what the text says"},
+    FindingSentence{StoreFinding::Kind::WrongLinkTarget, "where a link leads is not what the text says"},
+    FindingSentence{StoreFinding::Kind::MissingParentTags, "it does not have every tag above its tags"},
+    FindingSentence{StoreFinding::Kind::DuplicateTag, "there are two such tags"},
+    FindingSentence{StoreFinding::Kind::TagWithoutText, "no text names it, but it has notes"},
+    FindingSentence{StoreFinding::Kind::MissingTag, "a text names it, but no tag with notes is so called"},
+    FindingSentence{StoreFinding::Kind::UnusableTagTitle, "no text can give a tag this name"},
+    FindingSentence{StoreFinding::Kind::MissingFile, "its file is not there"},
+    FindingSentence{StoreFinding::Kind::MisnamedFile, "its file has another name"},
+    FindingSentence{StoreFinding::Kind::WrongFileSize, "its file has another size than it says"},
+    FindingSentence{StoreFinding::Kind::FolderWithoutRecord, "no attachment has this"},
+    FindingSentence{StoreFinding::Kind::UnfinishedFile, "it was never written whole"},
+    FindingSentence{
+        StoreFinding::Kind::AbandonedFileChanges, "a program ended before it saved what it had done to files"},
+};
+
+std::string sentenceOf(StoreFinding::Kind kind)
 {
-    using Kind = StoreFinding::Kind;
-    switch (kind) {
-    case Kind::DamagedFile:
-    case Kind::SearchIndexAmiss:
-        break;
-    case Kind::WrongTitle:
-        return "the title is not what the text says";
-    case Kind::WrongSubtitle:
-        return "the subtitle is not what the text says";
-    case Kind::WrongOpenToDos:
-        return "the number of open to-dos is not what the text says";
-    case Kind::WrongDoneToDos:
-        return "the number of completed to-dos is not what the text says";
-    case Kind::WrongCodeFlag:
-        return "the flag for source code is not what the text says";
-    case Kind::WrongImagesFlag:
-        return "the flag for images is not what the text says";
-    case Kind::WrongFilesFlag:
-        return "the flag for files is not what the text says";
-    case Kind::WrongNoteTags:
-        return "the set of tags is not what the text says";
-    case Kind::WrongLinks:
-        return "the set of links is not what the text says";
-    case Kind::WrongLinkTarget:
-        return "where a link leads is not what the text says";
-    case Kind::MissingParentTags:
-        return "it does not have every tag above its tags";
-    case Kind::DuplicateTag:
-        return "there are two such tags";
-    case Kind::TagWithoutText:
-        return "no text names it, but it has notes";
-    case Kind::MissingTag:
-        return "a text names it, but no tag with notes is so called";
-    case Kind::UnusableTagTitle:
-        return "no text can give a tag this name";
-    case Kind::MissingFile:
-        return "its file is not there";
-    case Kind::MisnamedFile:
-        return "its file has another name";
-    case Kind::WrongFileSize:
-        return "its file has another size than it says";
-    case Kind::FolderWithoutRecord:
-        return "no attachment has this";
-    case Kind::UnfinishedFile:
-        return "it was never written whole";
-    case Kind::AbandonedFileChanges:
-        return "a program ended before it saved what it had done to files";
-    }
-    return "";
+    const auto* const found = std::ranges::find(kSentences, kind, &FindingSentence::kind);
+    return found == kSentences.end() ? "" : found->sentence;
 }
 
 std::string problemOf(const StoreFinding& finding)
