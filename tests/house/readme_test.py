@@ -24,7 +24,8 @@ ANSWERED = [
     "links 'Start here'", "backlinks 'Café-Ecke'", "unresolved", "orphans", "url Packliste", "trash Packliste",
     "restore Packliste", "archive Packliste", "unarchive Packliste", "pin Packliste", "unpin Packliste",
     "readonly Packliste", "editable Packliste", "delete --yes Packliste", "baseline", "changes", "stats", "doctor",
-    "parse notes/Start\\ here.md",
+    "parse notes/Start\\ here.md", "attach 'A note' notes/Home/attachments/dynamo.svg", "files",
+    "file rename 'A note' dynamo.svg light.svg", "file prune", "thumb 'House manual' --size 20x20", "export out",
 ]
 # While it has the note open, somebody else writes to it: the two versions are kept as a conflict.
 EDITOR = '#!/bin/sh\ntarn append --latest Groceries "from elsewhere" >/dev/null\necho "from here" >>"$1"\n'
@@ -36,6 +37,7 @@ class CommandLine(unittest.TestCase):
         self.addCleanup(folder.cleanup)
         self.home = pathlib.Path(folder.name)
         shutil.copytree(ROOT / "demo" / "notes", self.home / "notes")
+        shutil.copy(self.home / "notes/Reise/Japan/bilder/markt.png", self.home / "photo.jpg")
         (self.home / "bin").mkdir()
         (self.home / "bin" / "tarn").symlink_to(TARN)
         (self.home / "bin" / "editor").write_text(EDITOR, encoding="utf-8")
