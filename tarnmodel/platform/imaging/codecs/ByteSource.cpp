@@ -37,8 +37,19 @@ private:
 
 class FileBytes : public ByteSource {
 public:
-    FileBytes(int descriptor, std::uint64_t size) : descriptor_(descriptor), size_(size) { }
+    // Without O_NONBLOCK a named pipe would wait for somebody to write.
+    explicit FileBytes(const std::filesystem::path& path)
+        : descriptor_(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK))
+    {
+        struct stat status = {};
+        failure_ = descriptor_.get() < 0 || ::fstat(descriptor_.get(), &status) != 0 ? errno : 0;
+        if (failure_ == 0 && !S_ISREG(status.st_mode))
+            failure_ = S_ISDIR(status.st_mode) ? EISDIR : EINVAL;
+        size_ = failure_ == 0 ? static_cast<std::uint64_t>(status.st_size) : 0;
+    }
 
+    /// Why it cannot be read, a number of the system; 0 when it can.
+    int failure() const { return failure_; }
     std::uint64_t size() const override { return size_; }
 
     std::size_t readAt(std::uint64_t offset, std::span<std::uint8_t> target) const override
@@ -58,7 +69,8 @@ public:
 
 private:
     Descriptor descriptor_;
-    std::uint64_t size_;
+    int failure_ = 0;
+    std::uint64_t size_ = 0;
 };
 
 class HeldBytes : public ByteSource {
@@ -89,17 +101,10 @@ NSError fileError(ImagingErrorCode code, const char* action, const std::filesyst
 
 std::unique_ptr<ByteSource> openFile(const std::filesystem::path& path, NSError* error)
 {
-    // Without O_NONBLOCK a named pipe would wait for somebody to write.
-    const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
-    struct stat status = {};
-    int failure = descriptor < 0 || ::fstat(descriptor, &status) != 0 ? errno : 0;
-    if (failure == 0 && !S_ISREG(status.st_mode))
-        failure = S_ISDIR(status.st_mode) ? EISDIR : EINVAL;
-    if (failure == 0)
-        return std::make_unique<FileBytes>(descriptor, static_cast<std::uint64_t>(status.st_size));
-    if (descriptor >= 0)
-        ::close(descriptor);
-    assignError(error, fileError(ImagingErrorCannotRead, "read", path, failure));
+    auto file = std::make_unique<FileBytes>(path);
+    if (file->failure() == 0)
+        return file;
+    assignError(error, fileError(ImagingErrorCannotRead, "read", path, file->failure()));
     return nullptr;
 }
 

@@ -15,6 +15,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <limits>
 #include <sys/stat.h>
 
 namespace tarn {
@@ -186,6 +187,21 @@ TEST(Limits, HoldForImagesThatAreLoadedWhole)
     EXPECT_FALSE(drawn(bytes, 90, 90, &error, limits));
     EXPECT_THAT(error.localizedDescription(), HasSubstr("(bufferedPixels)"));
     EXPECT_TRUE(drawn(bytes, 10, 10, &error, limits));
+}
+
+TEST(AFile, IsLoadedForAnySize)
+{
+    constexpr double none = std::numeric_limits<double>::quiet_NaN();
+    constexpr double endless = std::numeric_limits<double>::infinity();
+    for (const ImageBytes& bytes : {jpegOf(aPhotograph(40, 30)), pngOf(aPhotograph(40, 30))}) {
+        const ImageOnDisk file(bytes);
+        for (const double side : {0.0, -5.0, none, endless, 1e-300, 1e300}) {
+            const auto samples = loadImageForDrawing(file.path(), side, side);
+            ASSERT_TRUE(samples) << side;
+            EXPECT_FALSE(samples->isEmpty());
+            EXPECT_LE(samples->width(), 40);
+        }
+    }
 }
 
 TEST(AFile, ThatClaimsMoreThanItHoldsCostsLittle)
