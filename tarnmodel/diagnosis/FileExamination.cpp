@@ -148,7 +148,9 @@ bool hasFilesOfApplication(const NSManagedObjectContext& context)
 {
     const NSPersistentStore* const store = context.persistentStoreCoordinator().persistentStore();
     std::error_code failure;
-    return store && fs::equivalent(store->file(), OVLocalFileManager::databaseURL(), failure) && !failure;
+    // Asking where the application's lies makes its folder: not for a store in memory.
+    return store && fs::exists(store->file(), failure)
+        && fs::equivalent(store->file(), OVLocalFileManager::databaseURL(), failure) && !failure;
 }
 
 FileExamination examineFiles(NSManagedObjectContext& context)
