@@ -178,6 +178,20 @@ TEST_P(FileExaminationTest, BringsInStepWhatAProcessLeftThatDied)
     EXPECT_THAT(kinds(), IsEmpty());
 }
 
+TEST_P(FileExaminationTest, BelievesNoFindingThatIsNotTrueAnyMore)
+{
+    const fs::path file = attach("a.pdf");
+    const fs::path elsewhere = filesRoot() / "Scratch" / "elsewhere.pdf";
+    fs::rename(file, elsewhere);
+    const StoreExamination examination = examine();
+    ASSERT_THAT(kindsOf(examination), ElementsAre(Kind::MissingFile));
+    fs::rename(elsewhere, file);
+    const auto repairs = StoreDoctor(context()).repair(examination);
+    ASSERT_TRUE(repairs);
+    EXPECT_EQ(repairs->files, 0U);
+    EXPECT_EQ(theFile().downloadedValue(), true);
+}
+
 TEST_P(FileExaminationTest, LooksAgainBeforeItMends)
 {
     const fs::path file = attach("a.pdf");

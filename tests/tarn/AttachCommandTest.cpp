@@ -136,6 +136,27 @@ TEST_F(AttachCommand, WantsANoteAndAFile)
     EXPECT_EQ(run({"attach", "none", file("a.txt", "x")}).exitCode, 1);
 }
 
+TEST_F(AttachCommand, GivesCopiesTheirOwnBytesAndDeletesThemWithTheirNote)
+{
+    const auto folders = [&] {
+        return std::distance(
+            std::filesystem::directory_iterator(attachments() / "Note Files"), std::filesystem::directory_iterator());
+    };
+    note("# N");
+    note("# M");
+    output({"attach", "N", file("a.txt", "of N")});
+    output({"attach", "M", file("b/a.txt", "of M")});
+    const std::string copy = json({"duplicate", "N"}).at("uniqueIdentifier");
+    output({"delete", "--yes", "--latest", "N"});
+    EXPECT_EQ(folders(), 2);
+    const std::string merged = json({"merge", "N", "M"}).at("uniqueIdentifier");
+    const auto files = json({"files", merged}).at("files");
+    ASSERT_EQ(files.size(), 2U);
+    EXPECT_EQ(bytesOf(std::string(files.at(0).at("path"))), "of N");
+    EXPECT_EQ(bytesOf(std::string(files.at(1).at("path"))), "of M");
+    EXPECT_EQ(run({"doctor"}).exitCode, 0);
+}
+
 // files ---------------------------------------------------------------------------------------------------------------
 
 using FilesCommand = AttachCommand;

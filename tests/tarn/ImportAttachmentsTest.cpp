@@ -22,6 +22,16 @@ protected:
     }
     nlohmann::json import() const { return json({"import", folder() / "in"}); }
 
+    /// Runs the program in another current folder.
+    TarnResult runIn(const std::filesystem::path& place, std::vector<std::string> given) const
+    {
+        const auto current = std::filesystem::current_path();
+        std::filesystem::current_path(place);
+        TarnResult result = run(std::move(given));
+        std::filesystem::current_path(current);
+        return result;
+    }
+
     using Sizes = std::map<std::string, int>;
 };
 
@@ -120,6 +130,17 @@ TEST_F(ImportAttachments, TakesFilesBesideAFileThatIsNamed)
 {
     file("in/a.pdf", "1");
     EXPECT_EQ(json({"import", file("in/n.md", "# N\n\n[](a.pdf)")}).at("attachments"), 1);
+}
+
+TEST_F(ImportAttachments, TakesAFileThatIsNamedWithoutItsFolder)
+{
+    file("in/a.pdf", "1");
+    file("in/n.md", "# N\n\n[](a.pdf) [](missing.pdf) [](../x.pdf) [](\xC3\xA9.pdf)");
+    const TarnResult result = runIn(folder() / "in", {"--json", "import", "n.md"});
+    EXPECT_EQ(result.exitCode, 0) << result.errors;
+    const auto document = nlohmann::json::parse(result.output);
+    EXPECT_EQ(document.at("attachments"), 1);
+    EXPECT_EQ(document.at("links"), (nlohmann::json{{"outside", 1}, {"missing", 2}}));
 }
 
 TEST_F(ImportAttachments, CountsPicturesThatNoTextLinks)

@@ -120,7 +120,7 @@ TEST_F(ThumbCommand, RefusesWhatHasNoSense)
         {"--size", "20x20x20"}, {"--size", "-1x5"}, {"--size", "1000001x5"}, {"--size", "5x5", "--align", "1"},
         {"--size", "5x5", "--align", "2,0"}, {"--size", "5x5", "--align", "nan,0"}, {"--size", "5x5", "--trim", "x"},
         {"--size", "5x5", "--background", "red"}, {"--size", "5x5", "--background", "12345"},
-        {"--size", "5x5", "--contain", "--cover"}};
+        {"--size", "5x5", "--output", ""}, {"--size", "5x5", "--contain", "--cover"}};
     for (const std::vector<std::string>& options : wrong) {
         std::vector<std::string> arguments{"thumb", path};
         arguments.insert(arguments.end(), options.begin(), options.end());

@@ -58,6 +58,12 @@ bool isASCII(const std::string& text)
     return std::ranges::all_of(text, [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
 }
 
+/// The folder; of a file that was named without one the current.
+fs::path placeOf(const fs::path& folder)
+{
+    return folder.empty() ? fs::path(".") : folder;
+}
+
 fs::path withoutLinks(const fs::path& path)
 {
     std::error_code failure;
@@ -86,7 +92,7 @@ LinkedFile LinkedFiles::fileForLink(std::string_view destination, const fs::path
         std::error_code failure;
         const auto path = existing(note.parent_path(), name);
         if (!path) {
-            const fs::path place = fs::weakly_canonical(fs::absolute(note.parent_path()) / name, failure);
+            const fs::path place = fs::weakly_canonical(placeOf(note.parent_path()) / name, failure);
             leadsOut = leadsOut || (!failure && !isBelow(place, canonicalRoot(root)));
             continue;
         }
@@ -130,7 +136,7 @@ const fs::path& LinkedFiles::canonicalRoot(const fs::path& root)
 {
     const auto [known, isNew] = roots_.try_emplace(root);
     if (isNew)
-        known->second = withoutLinks(root.empty() ? fs::path(".") : root);
+        known->second = withoutLinks(placeOf(root));
     return known->second;
 }
 
@@ -139,8 +145,8 @@ const LinkedFiles::NamesOfFolder& LinkedFiles::namesIn(const fs::path& folder)
     const auto [known, isNew] = names_.try_emplace(folder);
     if (isNew) {
         std::error_code failure;
-        const fs::path place = folder.empty() ? fs::path(".") : folder;
-        for (fs::directory_iterator entry(place, failure), end; !failure && entry != end; entry.increment(failure)) {
+        for (fs::directory_iterator entry(placeOf(folder), failure), end; !failure && entry != end;
+             entry.increment(failure)) {
             std::string name = entry->path().filename().string();
             std::string composed = canonicallyComposed(name);
             known->second.emplace(std::move(composed), std::move(name));

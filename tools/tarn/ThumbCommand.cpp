@@ -134,6 +134,8 @@ private:
 /// Makes it beside its place, so that there is a whole one or none.
 fs::path thumbAtPlace(const fs::path& picture, OVThumbSize size, const OVThumbOptions& options, const fs::path& place)
 {
+    if (place.empty())
+        throw CommandFailure(ExitCode::Usage, "--output is empty; name a file");
     const PassingFolder folder(fs::absolute(place).parent_path());
     const auto manager = OVThumbFileManager::initWithBaseURL(folder.path());
     const auto extensionOf = [&manager](const fs::path& path) {
