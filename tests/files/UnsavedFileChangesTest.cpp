@@ -180,6 +180,20 @@ TEST_P(UnsavedFiles, StayOnDiskWhenARecordIsDeletedOffTheMainThread)
     EXPECT_THAT(foldersOnDisk(), ElementsAre(identifier));
 }
 
+TEST_P(UnsavedFiles, OfALivingProcessAreLeftAloneByWhoOpensTheStore)
+{
+    OVNoteFile& file = saved("a.bin", "one");
+    file.permanentlyDelete();
+    const OVNoteFile& second = attached("b.bin", "two");
+    const auto another = contextOn(std::shared_ptr<NSPersistentStoreCoordinator>(
+        std::shared_ptr<void>(), &context().persistentStoreCoordinator()));
+    OVNoteFile::recoverFilesInManagedObjectContext(*another);
+    EXPECT_THAT(foldersOnDisk(), ElementsAre(*second.uniqueIdentifier()));
+    EXPECT_EQ(besidesTheKinds().size(), 1U);
+    context().rollback();
+    EXPECT_THAT(foldersOnDisk(), ElementsAre(*file.uniqueIdentifier()));
+}
+
 TEST_P(UnsavedFiles, AreNotTakenBackByASaveThatFails)
 {
     OVNoteFile& file = saved("a.bin", "one");

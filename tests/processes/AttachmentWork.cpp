@@ -4,6 +4,7 @@
 #include "tarnmodel/model/OVNote.h"
 #include "tarnmodel/model/OVNoteFile.h"
 #include "tarnmodel/platform/foundation/filesystem/NSFileWrapper.h"
+#include "tarnmodel/platform/foundation/system/Environment.h"
 #include "tarnmodel/store/OVCoreDataStackForExtensions.h"
 #include "tests/processes/Worker.h"
 
@@ -118,6 +119,8 @@ void workWithAttachments(std::span<const std::string_view> arguments)
     const fs::path root(arguments[0]);
     const std::string_view work = arguments[1];
     OVLocalFileManager::setApplicationPersistentDataTestURL(root);
+    EnvironmentOverride world;
+    world.setCacheDirectory(root / "Cache");
     MainQueue::main();
     NSError error;
     const auto stack = OVCoreDataStackForExtensions::initStackOutputError(&error);
