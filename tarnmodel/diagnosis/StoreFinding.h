@@ -55,7 +55,7 @@ struct StoreFinding {
         WrongFileSize,        ///< there are more or fewer of them
         FolderWithoutRecord,  ///< of no attachment; `description` says where, as of the two that follow
         UnfinishedFile,       ///< a file that was never written whole
-        AbandonedFileChanges, ///< a process died before it saved what it had done to files
+        AbandonedFileChanges, ///< a process died while it was changing files
     };
 
     Kind kind = Kind::DamagedFile; ///< what is amiss

@@ -261,7 +261,7 @@ TEST_F(DoctorOfFiles, BringsBackWhatAProgramMovedAsideThatDied)
     const std::string identifier = attachedFile.parent_path().filename();
     file(journal + "/journal", "0\tLocal Files/Note Files\t" + identifier + "\t\n");
     fs::rename(attachedFile.parent_path(), folder() / journal / "0");
-    EXPECT_THAT(problems(), testing::ElementsAre(testing::HasSubstr("a program ended before it saved")));
+    EXPECT_THAT(problems(), testing::ElementsAre(testing::HasSubstr("a program ended while it was changing files")));
     // Whoever writes next mends it, whatever the command.
     EXPECT_EQ(run({"new", "# M"}).exitCode, 0);
     EXPECT_TRUE(fs::exists(attachedFile));

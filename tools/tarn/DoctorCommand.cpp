@@ -59,8 +59,7 @@ constexpr std::array kSentences{
     FindingSentence{StoreFinding::Kind::WrongFileSize, "its file has another size than it says"},
     FindingSentence{StoreFinding::Kind::FolderWithoutRecord, "no attachment has this"},
     FindingSentence{StoreFinding::Kind::UnfinishedFile, "it was never written whole"},
-    FindingSentence{
-        StoreFinding::Kind::AbandonedFileChanges, "a program ended before it saved what it had done to files"},
+    FindingSentence{StoreFinding::Kind::AbandonedFileChanges, "a program ended while it was changing files"},
 };
 
 std::string sentenceOf(StoreFinding::Kind kind)
