@@ -7,6 +7,7 @@
 #include "tarnmodel/platform/foundation/text/PercentEncoding.h"
 #include "tarnmodel/platform/foundation/values/NSError.h"
 
+#include <algorithm>
 #include <filesystem>
 
 namespace tarn {
@@ -15,11 +16,24 @@ namespace {
 
 namespace fs = std::filesystem;
 
+/// Neither escapes nor compositions change what is ASCII without "%".
+bool isComparedAsItIs(std::string_view name)
+{
+    return std::ranges::none_of(
+        name, [](char byte) { return byte == '%' || static_cast<unsigned char>(byte) >= 0x80; });
+}
+
 } // namespace
 
 bool OVNoteFile::filenameIsEqualTo(std::string_view filename) const
 {
-    const auto own = stringByRemovingPercentEncoding(this->filename().value_or("%"));
+    const auto name = this->filename();
+    if (!name)
+        return false;
+    // A note with thousands of attachments asks this millions of times.
+    if (isComparedAsItIs(*name) && isComparedAsItIs(filename))
+        return *name == filename;
+    const auto own = stringByRemovingPercentEncoding(*name);
     const auto other = stringByRemovingPercentEncoding(filename);
     return own && other && canonicallyComposed(*own) == canonicallyComposed(*other);
 }
