@@ -8,10 +8,7 @@
 #include "tools/tarn/DisplayText.h"
 #include "tools/tarn/FileList.h"
 
-#include <array>
-#include <fcntl.h>
 #include <fstream>
-#include <sys/stat.h>
 #include <system_error>
 #include <utility>
 
@@ -42,16 +39,6 @@ bool holds(const fs::path& path, const std::string& text)
     std::string contents(text.size(), '\0');
     stream.read(contents.data(), static_cast<std::streamsize>(contents.size()));
     return stream && contents == text;
-}
-
-void setModificationDate(const fs::path& path, NSDate date)
-{
-    const std::int64_t microseconds = date.microsecondsSince1970();
-    timespec time{};
-    time.tv_sec = microseconds / 1'000'000 - (microseconds % 1'000'000 < 0 ? 1 : 0);
-    time.tv_nsec = (microseconds - time.tv_sec * 1'000'000) * 1'000;
-    const std::array<timespec, 2> times{time, time};
-    ::utimensat(AT_FDCWD, path.c_str(), times.data(), 0); // a text without its date is still the text
 }
 
 /// The attachment that a destination names is looked for as a note looks for it.
@@ -163,7 +150,8 @@ void Exporter::exportText(const OVNote& note, const std::string& text, const fs:
 {
     NSError error;
     if (NSFileManager::createFileAtURL(place, NSData::fromText(text), &error)) {
-        setModificationDate(place, note.modificationDate().value_or(now()));
+        // A text without its date is still the text.
+        NSFileManager::setModificationDate(note.modificationDate().value_or(now()), place);
         ++result_.exported;
     } else if (holds(place, text)) {
         ++result_.unchanged;
