@@ -45,10 +45,11 @@ std::optional<fs::path> makeThumb(
         return fail(error, fmt::format("No file can be made in \"{}\".", destination.parent_path().string()));
     }
     std::optional<Bitmap> thumb;
-    const auto source = readInOneState(
+    auto source = readInOneState(
         picture, [&] { return (thumb = drawThumb(picture, size, options, error)).has_value(); }, error);
     if (!source)
         return std::nullopt;
+    source->stamp.look = lookBeyondName(options);
     const auto failToWrite = [&] {
         logMessage(fmt::format("Failed to write image to {}", destination.string()));
         return std::nullopt;

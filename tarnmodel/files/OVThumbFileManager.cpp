@@ -3,6 +3,7 @@
 #include "tarnmodel/files/OVLocalFileManager.h"
 #include "tarnmodel/files/SHA1.h"
 #include "tarnmodel/files/ThumbDraft.h"
+#include "tarnmodel/files/ThumbDrawing.h"
 #include "tarnmodel/files/ThumbStamp.h"
 #include "tarnmodel/platform/foundation/filesystem/PrivateFolder.h"
 #include "tarnmodel/platform/foundation/values/NSDate.h"
@@ -98,6 +99,12 @@ std::optional<fs::path> OVThumbFileManager::thumbURLForImageURL(
     if (isSettled(*state, moment))
         noteSourceSeen(thumb, moment);
     return thumb;
+}
+
+bool OVThumbFileManager::thumbAtURLShowsOptions(const fs::path& thumbURL, const OVThumbOptions& options)
+{
+    const auto published = publishedStamp(thumbURL);
+    return published && published->stamp.look == lookBeyondName(options);
 }
 
 void OVThumbFileManager::deleteAllThumbsForImageURL(const fs::path& imageURL) const

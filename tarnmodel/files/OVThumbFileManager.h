@@ -73,6 +73,9 @@ public:
     /// An image that had changed in the seconds before its thumbnail was made is read again, once.
     std::optional<std::filesystem::path> thumbURLForImageURL(
         const std::filesystem::path& imageURL, OVThumbSize thumbSize, const OVThumbOptions& options = {}) const;
+    /// Whether a thumbnail that was found is trimmed and painted as these options say. Its name does not tell: the one
+    /// that was made last is found under it.
+    static bool thumbAtURLShowsOptions(const std::filesystem::path& thumbURL, const OVThumbOptions& options);
     /// Deletes the thumbnails of an image in all sizes, and what makers of such have left behind; failures are ignored.
     /// Makers that are under way give none.
     void deleteAllThumbsForImageURL(const std::filesystem::path& imageURL) const;

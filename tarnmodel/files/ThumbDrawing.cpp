@@ -127,4 +127,15 @@ std::optional<Bitmap> drawThumb(
     return thumb;
 }
 
+std::string lookBeyondName(const OVThumbOptions& options)
+{
+    std::string look;
+    if (options.trimTopBottomTransparentPixels.value_or(false))
+        look = fmt::format("trim:{:g}", options.trimTransparentPixelsHorizontalMargin.value_or(0));
+    if (const auto& color = options.backgroundColor)
+        look += fmt::format("{}background:{:02x}{:02x}{:02x}{:02x}", look.empty() ? "" : ",", color->red, color->green,
+            color->blue, color->alpha);
+    return look;
+}
+
 } // namespace tarn

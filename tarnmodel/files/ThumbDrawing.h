@@ -6,6 +6,7 @@
 
 #include <filesystem>
 #include <optional>
+#include <string>
 
 namespace tarn {
 
@@ -17,5 +18,9 @@ class NSError;
 /// decoded, is over a limit, has nothing left once it is trimmed, or cannot be brought to this size.
 std::optional<Bitmap> drawThumb(
     const std::filesystem::path& picture, PixelSize asked, const OVThumbOptions& options, NSError* error = nullptr);
+
+/// What of the options shows in a thumbnail and not in its name: "trim:10", "background:3366ccff", both with a comma
+/// between them, or nothing.
+std::string lookBeyondName(const OVThumbOptions& options);
 
 } // namespace tarn

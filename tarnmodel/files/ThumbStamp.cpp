@@ -14,6 +14,7 @@ namespace tarn {
 namespace {
 
 constexpr std::string_view kSum = " sha1 ";
+constexpr std::string_view kLook = " look ";
 constexpr std::size_t kDigitsOfSum = 40;
 constexpr std::int64_t kSlowestClock = 3;
 constexpr int kMostReadings = 3;
@@ -61,18 +62,25 @@ std::optional<ThumbStamp> ThumbStamp::stampFromText(std::string_view text)
 {
     if (!text.starts_with("size "))
         return std::nullopt;
-    const std::size_t sum = text.find(kSum);
-    if (sum == std::string_view::npos)
-        return ThumbStamp{std::string(text), {}};
-    const std::string_view digits = text.substr(sum + kSum.size());
-    if (digits.size() != kDigitsOfSum)
-        return std::nullopt;
-    return ThumbStamp{std::string(text.substr(0, sum)), std::string(digits)};
+    ThumbStamp stamp;
+    if (const std::size_t sum = text.find(kSum); sum != std::string_view::npos) {
+        stamp.sha1 = text.substr(sum + kSum.size());
+        if (stamp.sha1.size() != kDigitsOfSum)
+            return std::nullopt;
+        text = text.substr(0, sum);
+    }
+    if (const std::size_t look = text.find(kLook); look != std::string_view::npos) {
+        stamp.look = text.substr(look + kLook.size());
+        text = text.substr(0, look);
+    }
+    stamp.state = text;
+    return stamp;
 }
 
 std::string ThumbStamp::text() const
 {
-    return sha1.empty() ? state : fmt::format("{}{}{}", state, kSum, sha1);
+    const std::string made = look.empty() ? state : fmt::format("{}{}{}", state, kLook, look);
+    return sha1.empty() ? made : fmt::format("{}{}{}", made, kSum, sha1);
 }
 
 bool ThumbStamp::isOf(const SourceState& source) const

@@ -41,8 +41,9 @@ bool isSettled(const SourceState& state, NSDate moment);
 
 /// Of which picture a thumbnail was made. A line of text in the thumbnail's file.
 struct ThumbStamp {
-    std::string state; ///< that of the picture's file
-    std::string sha1;  ///< of its content; empty when the state is enough to tell
+    std::string state;  ///< that of the picture's file
+    std::string sha1;   ///< of its content; empty when the state is enough to tell
+    std::string look{}; ///< what was done that the thumbnail's name does not tell: without blanks, empty for nothing
 
     /// The stamp of a picture that is in this state at this moment; reads the file when its state is not settled. None
     /// when it cannot be read.
@@ -54,8 +55,8 @@ struct ThumbStamp {
     /// Whether the picture's file is in the state that it had.
     bool isOf(const SourceState& source) const;
 
-    /// "size 5 modified 17.000000001 changed 18.000000000 inode 7", followed by " sha1 " and 40 digits where there is a
-    /// sum.
+    /// "size 5 modified 17.000000001 changed 18.000000000 inode 7", followed by " look " and that where there is one,
+    /// and by " sha1 " and 40 digits where there is a sum.
     std::string text() const;
 };
 

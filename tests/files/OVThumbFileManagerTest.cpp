@@ -86,6 +86,23 @@ TEST_F(AFoundThumb, IsTheSameForOptionsThatAreNotInTheName)
     EXPECT_EQ(manager_->thumbURLForImageURL(picture_, kSize, {.trimTopBottomTransparentPixels = true}), thumb_);
 }
 
+TEST_F(AFoundThumb, TellsHowItWasTrimmedAndPainted)
+{
+    const OVThumbOptions painted{.backgroundColor = OVThumbColor{1, 2, 3}};
+    const OVThumbOptions trimmed{.trimTopBottomTransparentPixels = true};
+    const OVThumbOptions trimmedWithMargin{
+        .trimTopBottomTransparentPixels = true, .trimTransparentPixelsHorizontalMargin = 4};
+    const std::vector<OVThumbOptions> all{{}, painted, trimmed, trimmedWithMargin};
+    for (const OVThumbOptions& made : all) {
+        ASSERT_EQ(manager_->makeThumbForImageURL(picture_, kSize, made), thumb_);
+        EXPECT_EQ(manager_->thumbURLForImageURL(picture_, kSize, made), thumb_);
+        for (const OVThumbOptions& wanted : all)
+            EXPECT_EQ(OVThumbFileManager::thumbAtURLShowsOptions(*thumb_, wanted), wanted == made);
+    }
+    fs::remove(*thumb_);
+    EXPECT_FALSE(OVThumbFileManager::thumbAtURLShowsOptions(*thumb_, {}));
+}
+
 TEST_F(AFoundThumb, IsNoneOnceThePictureHasOtherBytes)
 {
     ASSERT_TRUE(writePNG(aPhotograph(64, 48), picture_)) << "the very same bytes: they were written all the same";

@@ -42,11 +42,13 @@ TEST_F(AThumbStamp, IsALineOfText)
 TEST_F(AThumbStamp, IsReadAgain)
 {
     for (const std::int64_t second : {1002, 2000}) {
-        const auto stamp = ThumbStamp::stampOfSource(file_, kState, atSecond(second));
+        auto stamp = ThumbStamp::stampOfSource(file_, kState, atSecond(second));
+        stamp->look = second == 1002 ? "trim:4,background:010203ff" : "";
         const auto again = ThumbStamp::stampFromText(stamp->text());
         ASSERT_TRUE(again);
         EXPECT_EQ(again->state, stamp->state);
         EXPECT_EQ(again->sha1, stamp->sha1);
+        EXPECT_EQ(again->look, stamp->look);
         EXPECT_TRUE(again->isOf(kState));
     }
     for (const std::string_view other : {"", "sizes", "size 5 sha1 ", "size 5 sha1 12345"})

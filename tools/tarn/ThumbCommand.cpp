@@ -87,27 +87,12 @@ fs::path madeThumb(
     return *made;
 }
 
-/// The folder of all thumbnails. The name of one does not tell how it was trimmed and painted: each way has a folder of
-/// its own in there.
-std::string folderForThumbs(const OVThumbOptions& options)
-{
-    std::string folder(OVNoteThumbFileDirectoryName);
-    if (options.trimTopBottomTransparentPixels)
-        folder
-            += "/trim_" + std::to_string(static_cast<int>(options.trimTransparentPixelsHorizontalMargin.value_or(0)));
-    if (const auto color = options.backgroundColor) {
-        std::array<char, 24> name{};
-        std::snprintf(name.data(), name.size(), "/background_%02x%02x%02x", color->red, color->green, color->blue);
-        folder += name.data();
-    }
-    return folder;
-}
-
 fs::path keptThumb(const fs::path& picture, OVThumbSize size, const OVThumbOptions& options)
 {
-    const auto manager = OVThumbFileManager::thumbFileManagerForPathComponent(folderForThumbs(options));
+    const auto manager = OVThumbFileManager::thumbFileManagerForPathComponent(OVNoteThumbFileDirectoryName);
     const auto found = manager->thumbURLForImageURL(picture, size, options);
-    return found ? *found : madeThumb(*manager, picture, size, options);
+    const bool isWanted = found && OVThumbFileManager::thumbAtURLShowsOptions(*found, options);
+    return isWanted ? *found : madeThumb(*manager, picture, size, options);
 }
 
 /// A folder that goes, with what is in it.
