@@ -347,6 +347,7 @@ private:
     void deriveFromTextSummary(const CVKTextSummary& summary, const std::optional<std::string>& oldTitle);
     bool leadsWhereLinksSay(std::span<const CVKWikiLink> wikiLinks) const;
     void takeAttachmentsAsIn(const OVNote& note);
+    void takeNewAttachmentsOf(const CVKAST& document);
     void takeProtectedValues(const MergeConflict& conflict);
 
     std::int64_t searchIndex_ = 0;

@@ -134,6 +134,8 @@ OVNote* OVNote::keepLosingText(const MergeConflict& conflict)
     OVNote* copy = insertInManagedObjectContext(note->managedObjectContext());
     if (!note->isDeleted())
         copy->takeAttachmentsAsIn(*note);
+    else if (text)
+        copy->takeNewAttachmentsOf(CVKAST::fromMarkdown(std::string_view(*text)));
     if (isProtected)
         copy->takeProtectedValues(conflict);
     else
@@ -150,6 +152,20 @@ void OVNote::takeAttachmentsAsIn(const OVNote& note)
 {
     for (OVNoteFile* file : note.filesSet().allObjects())
         file->duplicate()->setNote(this);
+}
+
+/// What was attached here to a note that others deleted meanwhile, and is of no note now: the files that the text
+/// names.
+void OVNote::takeNewAttachmentsOf(const CVKAST& document)
+{
+    const std::vector<std::string>& links = document.textSummary().links;
+    for (NSManagedObject* record : managedObjectContext().insertedObjects()) {
+        auto* file = dynamic_cast<OVNoteFile*>(record);
+        const bool isNamed = file && !file->note() && !file->encryptedValue()
+            && std::ranges::any_of(links, [&](const std::string& link) { return file->filenameIsEqualTo(link); });
+        if (isNamed)
+            file->setNote(this);
+    }
 }
 
 /// As they are stored: whoever has the password reads the copy like the note.

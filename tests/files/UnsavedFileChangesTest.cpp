@@ -1,6 +1,7 @@
 #include "tests/files/FilesFixture.h"
 
 #include "tarnmodel/model/OVNoteGenericFile.h"
+#include "tarnmodel/platform/coredata/RecordMerge.h"
 #include "tarnmodel/platform/coredata/SaveParticipant.h"
 #include "tarnmodel/platform/foundation/filesystem/NSFileWrapper.h"
 #include "tarnmodel/platform/foundation/values/NSError.h"
@@ -223,6 +224,33 @@ TEST_P(UnsavedFiles, AreNotTakenBackByASaveThatFails)
     save();
     EXPECT_THAT(foldersOnDisk(), ElementsAre(*second.uniqueIdentifier()));
     EXPECT_THAT(besidesTheKinds(), IsEmpty());
+}
+
+class AttachmentsOfADeletedNote : public FilesFixture { };
+INSTANTIATE_TEST_SUITE_P(Stores, AttachmentsOfADeletedNote, testing::Values(StoreType::SQLite), storeName);
+
+TEST_P(AttachmentsOfADeletedNote, GoWithTheTextThatIsKept)
+{
+    OVNote& owner = note("# T\n");
+    save();
+    const OVNote* kept = nullptr;
+    context().setMergePolicy(NSMergePolicy::MergeByPropertyStoreTrump);
+    context().setMergeConflictHandler([&](const MergeConflict& conflict) { kept = OVNote::keepLosingText(conflict); });
+    const auto other = contextOn(openAgain());
+    OVNote::noteWithTitle("T", *other)->permanentlyDelete();
+    ASSERT_TRUE(other->save());
+
+    owner.addAttachmentFromFileURL(aFile("a file.bin", "bytes"));
+    owner.appendNoteWithText("[x](a%20file.bin)");
+    save();
+
+    ASSERT_TRUE(kept);
+    EXPECT_EQ(kept->text(), "# T\n[x](a%20file.bin)");
+    ASSERT_EQ(kept->orderedFiles().size(), 1U);
+    EXPECT_EQ(contentsOf(*kept->orderedFiles().front()->fileURL()), "bytes");
+    EXPECT_THAT(all<OVNoteFile>(), testing::SizeIs(1));
+    EXPECT_TRUE(kept->hasFilesValue());
+    EXPECT_THAT(takeLog(), ElementsAre(testing::HasSubstr("Another writer deleted")));
 }
 
 } // namespace
