@@ -5,9 +5,13 @@
 #include "tarnmodel/platform/coredata/context/merging/StoreCatchUp.h"
 #include "tarnmodel/platform/coredata/context/records/RecordAccess.h"
 #include "tarnmodel/platform/foundation/events/NSNotificationCenter.h"
+#include "tarnmodel/platform/foundation/system/Log.h"
 #include "tarnmodel/platform/foundation/values/NSException.h"
 
 #include <any>
+#include <exception>
+#include <functional>
+#include <string>
 #include <utility>
 
 namespace tarn {
@@ -16,6 +20,18 @@ namespace {
 
 /// Keys reserved at once when identifiers are asked for outside a save.
 constexpr std::int64_t keyBlockSize = 64;
+
+/// False when there is no memory to ask the queue with.
+bool waitFor(Queue& queue, const std::function<void()>& work) noexcept
+{
+    try {
+        queue.sync(work);
+        return true;
+    } catch (const std::exception& exception) {
+        logMessage(std::string("A context ended without waiting for its queue: ") + exception.what());
+        return false;
+    }
+}
 
 } // namespace
 
@@ -29,12 +45,14 @@ ContextCore::ContextCore(NSManagedObjectContext& owner, NSManagedObjectContext::
 
 ContextCore::~ContextCore()
 {
-    tellOfDroppedChanges();
-    // A child's save may be under way on the queue.
-    if (children && privateQueue_)
-        privateQueue_->sync([this] { children->close(); });
-    else if (children)
-        children->close();
+    const auto end = [this] {
+        tellOfDroppedChanges();
+        if (children)
+            children->close();
+    };
+    // The end of a pass, or a child's save, may be under way on the queue.
+    if (!privateQueue_ || !waitFor(*privateQueue_, end))
+        end();
     queue().cancelAtEndOfPass(this);
     queue().cancelAtEndOfPass(&otherWriters);
     if (!privateQueue_)
