@@ -53,7 +53,7 @@ FLOORS = [
     {"tools/modelgen"},
     {f"{LIBRARY}/encryption"},
     {f"{LIBRARY}/model"},
-    {f"{LIBRARY}/{room}" for room in ("notes", "tags", "files", "sync", "search", "backup")},
+    {f"{LIBRARY}/{room}" for room in ("notes", "tags", "files", "files/thumbnails", "sync", "search", "backup")},
     {f"{LIBRARY}/{room}" for room in ("diagnosis", "store")},
     {LIBRARY},
     {"tools/tarn"},

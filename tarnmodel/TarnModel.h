@@ -126,10 +126,10 @@
 #include "tarnmodel/sync/TolVectorClock.h"
 
 // Folders, thumbnails, and images trimmed and scaled.
-#include "tarnmodel/files/ImageScaling.h"
-#include "tarnmodel/files/OVImageAlphaTrimmer.h"
 #include "tarnmodel/files/OVLocalFileManager.h"
-#include "tarnmodel/files/OVThumbFileManager.h"
+#include "tarnmodel/files/thumbnails/ImageScaling.h"
+#include "tarnmodel/files/thumbnails/OVImageAlphaTrimmer.h"
+#include "tarnmodel/files/thumbnails/OVThumbFileManager.h"
 
 // What is in a store, and whether it is sound.
 #include "tarnmodel/diagnosis/StoreDoctor.h"

@@ -2,7 +2,7 @@
 
 #include "benchmarks/support/BenchmarkStore.h"
 #include "tarnmodel/files/OVLocalFileManager.h"
-#include "tarnmodel/files/OVThumbFileManager.h"
+#include "tarnmodel/files/thumbnails/OVThumbFileManager.h"
 #include "tarnmodel/model/OVNote.h"
 #include "tarnmodel/model/OVNoteFile.h"
 #include "tarnmodel/platform/imaging/ImageEncoding.h"

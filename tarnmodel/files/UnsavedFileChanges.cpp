@@ -1,7 +1,7 @@
 #include "tarnmodel/files/UnsavedFileChanges.h"
 
 #include "tarnmodel/files/FileJournal.h"
-#include "tarnmodel/files/OVThumbFileManager.h"
+#include "tarnmodel/files/thumbnails/OVThumbFileManager.h"
 #include "tarnmodel/model/OVNoteFile.h"
 #include "tarnmodel/platform/coredata/NSManagedObjectContext.h"
 #include "tarnmodel/platform/foundation/filesystem/NSFileManager.h"

@@ -1,7 +1,7 @@
 #include "tests/files/FilesFixture.h"
 #include "tests/files/PictureFile.h"
 
-#include "tarnmodel/files/OVThumbFileManager.h"
+#include "tarnmodel/files/thumbnails/OVThumbFileManager.h"
 #include "tarnmodel/model/OVNoteGenericFile.h"
 #include "tarnmodel/model/OVNoteImage.h"
 #include "tarnmodel/platform/foundation/filesystem/NSFileWrapper.h"

@@ -41,7 +41,7 @@ CASES = [
     ("tarnmodel/platform/imaging/resampling/Box.cpp",
      '#include "tarnmodel/platform/imaging/codecs/Decoder.h"\n', "must not include"),
     ("tarnmodel/platform/imaging/Bitmap.h", "#include <tiffio.h>\n", "of another library"),
-    ("tarnmodel/files/Thumbs.cpp",
+    ("tarnmodel/files/thumbnails/Thumbs.cpp",
      '#include "tarnmodel/platform/imaging/codecs/Decoder.h"\n', "must not include"),
     ("tarnmodel/corvel/scanning/Entities.cpp", '#include "tarnmodel/platform/foundation/text/UTF.h"\n', None),
     ("tarnmodel/model/OVNote.h", '#include "tarnmodel/model/_OVNote.h"\n#include "tarnmodel/corvel/CVKAST.h"\n', None),

@@ -1,5 +1,5 @@
 #include "tarnmodel/files/OVLocalFileManager.h"
-#include "tarnmodel/files/OVThumbFileManager.h"
+#include "tarnmodel/files/thumbnails/OVThumbFileManager.h"
 #include "tarnmodel/model/OVNoteImage.h"
 #include "tarnmodel/platform/foundation/filesystem/NSFileManager.h"
 #include "tarnmodel/platform/imaging/ImageFile.h"

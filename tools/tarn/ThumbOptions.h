@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tarnmodel/files/OVThumbOptions.h"
+#include "tarnmodel/files/thumbnails/OVThumbOptions.h"
 
 #include <optional>
 #include <string>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "tarnmodel/files/OVThumbOptions.h"
-#include "tarnmodel/files/ScaledDrawing.h"
+#include "tarnmodel/files/thumbnails/OVThumbOptions.h"
+#include "tarnmodel/files/thumbnails/ScaledDrawing.h"
 #include "tarnmodel/platform/imaging/Bitmap.h"
 
 #include <filesystem>

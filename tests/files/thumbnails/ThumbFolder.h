@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tarnmodel/files/OVThumbFileManager.h"
+#include "tarnmodel/files/thumbnails/OVThumbFileManager.h"
 #include "tarnmodel/platform/foundation/system/Environment.h"
 #include "tarnmodel/platform/foundation/system/NSUUID.h"
 #include "tarnmodel/platform/foundation/values/NSError.h"

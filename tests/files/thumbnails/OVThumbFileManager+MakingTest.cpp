@@ -1,6 +1,6 @@
 #include "tarnmodel/platform/foundation/events/Queue.h"
 #include "tarnmodel/platform/imaging/ImageDrawing.h"
-#include "tests/files/ThumbFolder.h"
+#include "tests/files/thumbnails/ThumbFolder.h"
 #include "tests/platform/imaging/ReferenceResampler.h"
 
 #include <gmock/gmock.h>

@@ -1,4 +1,4 @@
-#include "tarnmodel/files/ImageComment.h"
+#include "tarnmodel/files/thumbnails/ImageComment.h"
 
 #include <array>
 #include <cstdint>

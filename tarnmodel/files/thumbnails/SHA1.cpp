@@ -1,4 +1,4 @@
-#include "tarnmodel/files/SHA1.h"
+#include "tarnmodel/files/thumbnails/SHA1.h"
 
 #include <sha1.h>
 

@@ -1,8 +1,8 @@
-#include "tarnmodel/files/ThumbDrawing.h"
+#include "tarnmodel/files/thumbnails/ThumbDrawing.h"
 
-#include "tarnmodel/files/ImageScaling.h"
+#include "tarnmodel/files/thumbnails/ImageScaling.h"
 #include "tarnmodel/platform/imaging/ImageLimits.h"
-#include "tests/files/ThumbFolder.h"
+#include "tests/files/thumbnails/ThumbFolder.h"
 #include "tests/platform/imaging/ReferenceResampler.h"
 
 #include <gmock/gmock.h>

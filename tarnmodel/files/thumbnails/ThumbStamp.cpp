@@ -1,6 +1,6 @@
-#include "tarnmodel/files/ThumbStamp.h"
+#include "tarnmodel/files/thumbnails/ThumbStamp.h"
 
-#include "tarnmodel/files/SHA1.h"
+#include "tarnmodel/files/thumbnails/SHA1.h"
 #include "tarnmodel/platform/foundation/values/NSError.h"
 
 #include <fmt/format.h>

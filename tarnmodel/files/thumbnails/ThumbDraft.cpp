@@ -1,6 +1,6 @@
-#include "tarnmodel/files/ThumbDraft.h"
+#include "tarnmodel/files/thumbnails/ThumbDraft.h"
 
-#include "tarnmodel/files/ImageComment.h"
+#include "tarnmodel/files/thumbnails/ImageComment.h"
 #include "tarnmodel/platform/foundation/system/NSUUID.h"
 
 #include <array>

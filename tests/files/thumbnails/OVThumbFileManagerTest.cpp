@@ -1,7 +1,7 @@
 #include "tarnmodel/files/OVLocalFileManager.h"
-#include "tarnmodel/files/ThumbDraft.h"
-#include "tarnmodel/files/ThumbStamp.h"
-#include "tests/files/ThumbFolder.h"
+#include "tarnmodel/files/thumbnails/ThumbDraft.h"
+#include "tarnmodel/files/thumbnails/ThumbStamp.h"
+#include "tests/files/thumbnails/ThumbFolder.h"
 
 #include <gmock/gmock.h>
 

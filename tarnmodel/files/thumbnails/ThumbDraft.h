@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tarnmodel/files/ThumbStamp.h"
+#include "tarnmodel/files/thumbnails/ThumbStamp.h"
 #include "tarnmodel/platform/foundation/values/NSDate.h"
 
 #include <cstddef>

@@ -1,4 +1,4 @@
-#include "tarnmodel/files/ScaledDrawing.h"
+#include "tarnmodel/files/thumbnails/ScaledDrawing.h"
 
 #include <gtest/gtest.h>
 

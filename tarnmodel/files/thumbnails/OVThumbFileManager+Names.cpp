@@ -1,6 +1,6 @@
-#include "tarnmodel/files/OVThumbFileManager.h"
-#include "tarnmodel/files/SHA1.h"
-#include "tarnmodel/files/ScaledDrawing.h"
+#include "tarnmodel/files/thumbnails/OVThumbFileManager.h"
+#include "tarnmodel/files/thumbnails/SHA1.h"
+#include "tarnmodel/files/thumbnails/ScaledDrawing.h"
 #include "tarnmodel/platform/foundation/system/Environment.h"
 
 #include <fmt/format.h>

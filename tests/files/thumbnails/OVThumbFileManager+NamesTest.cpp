@@ -1,4 +1,4 @@
-#include "tests/files/ThumbFolder.h"
+#include "tests/files/thumbnails/ThumbFolder.h"
 
 #include <gmock/gmock.h>
 

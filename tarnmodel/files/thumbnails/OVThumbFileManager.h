@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tarnmodel/files/OVThumbOptions.h"
+#include "tarnmodel/files/thumbnails/OVThumbOptions.h"
 #include "tarnmodel/platform/foundation/filetypes/UTType.h"
 #include "tarnmodel/platform/imaging/Bitmap.h"
 

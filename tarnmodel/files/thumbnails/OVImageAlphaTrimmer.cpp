@@ -1,4 +1,4 @@
-#include "tarnmodel/files/OVImageAlphaTrimmer.h"
+#include "tarnmodel/files/thumbnails/OVImageAlphaTrimmer.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,8 +1,8 @@
-#include "tarnmodel/files/ThumbDrawing.h"
+#include "tarnmodel/files/thumbnails/ThumbDrawing.h"
 
-#include "tarnmodel/files/ImageScaling.h"
-#include "tarnmodel/files/OVImageAlphaTrimmer.h"
-#include "tarnmodel/files/OVThumbFileManager.h"
+#include "tarnmodel/files/thumbnails/ImageScaling.h"
+#include "tarnmodel/files/thumbnails/OVImageAlphaTrimmer.h"
+#include "tarnmodel/files/thumbnails/OVThumbFileManager.h"
 #include "tarnmodel/platform/foundation/values/NSError.h"
 #include "tarnmodel/platform/imaging/ImageFile.h"
 #include "tarnmodel/platform/imaging/ImageLimits.h"

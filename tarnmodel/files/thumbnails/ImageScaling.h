@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tarnmodel/files/ScaledDrawing.h"
+#include "tarnmodel/files/thumbnails/ScaledDrawing.h"
 #include "tarnmodel/platform/imaging/Bitmap.h"
 #include "tarnmodel/platform/imaging/ImageDrawing.h"
 

@@ -1,10 +1,10 @@
-#include "tarnmodel/files/OVThumbFileManager.h"
+#include "tarnmodel/files/thumbnails/OVThumbFileManager.h"
 
 #include "tarnmodel/files/OVLocalFileManager.h"
-#include "tarnmodel/files/SHA1.h"
-#include "tarnmodel/files/ThumbDraft.h"
-#include "tarnmodel/files/ThumbDrawing.h"
-#include "tarnmodel/files/ThumbStamp.h"
+#include "tarnmodel/files/thumbnails/SHA1.h"
+#include "tarnmodel/files/thumbnails/ThumbDraft.h"
+#include "tarnmodel/files/thumbnails/ThumbDrawing.h"
+#include "tarnmodel/files/thumbnails/ThumbStamp.h"
 #include "tarnmodel/platform/foundation/filesystem/PrivateFolder.h"
 #include "tarnmodel/platform/foundation/values/NSDate.h"
 

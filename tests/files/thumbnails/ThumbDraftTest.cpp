@@ -1,6 +1,6 @@
-#include "tarnmodel/files/ThumbDraft.h"
+#include "tarnmodel/files/thumbnails/ThumbDraft.h"
 
-#include "tests/files/ThumbFolder.h"
+#include "tests/files/thumbnails/ThumbFolder.h"
 
 namespace tarn {
 namespace {

@@ -1,4 +1,4 @@
-#include "tarnmodel/files/ImageScaling.h"
+#include "tarnmodel/files/thumbnails/ImageScaling.h"
 
 #include "tarnmodel/platform/imaging/ImageLimits.h"
 
