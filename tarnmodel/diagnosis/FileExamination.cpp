@@ -7,7 +7,6 @@
 #include "tarnmodel/model/OVNoteFile.h"
 #include "tarnmodel/platform/coredata/NSPersistentStore.h"
 #include "tarnmodel/platform/coredata/NSPersistentStoreCoordinator.h"
-#include "tarnmodel/platform/foundation/filesystem/NSFileManager.h"
 
 #include <filesystem>
 #include <set>
@@ -136,7 +135,7 @@ void FileComparison::examineRecord(OVNoteFile& record)
 void FileComparison::examineFoldersWithoutRecord()
 {
     for (const fs::path& folder : withoutRecord_) {
-        const bool isUnfinished = folder.filename().string().starts_with(NSFileManager::unfinishedPrefix);
+        const bool isUnfinished = isUnfinishedItem(folder);
         if (!underWay_.contains(folder))
             add(isUnfinished ? Kind::UnfinishedFile : Kind::FolderWithoutRecord, folder, folder);
     }

@@ -3,7 +3,6 @@
 #include "tarnmodel/files/FileJournal.h"
 #include "tarnmodel/files/RecordFolder.h"
 #include "tarnmodel/model/OVNoteFile.h"
-#include "tarnmodel/platform/foundation/filesystem/NSFileManager.h"
 
 #include <system_error>
 
@@ -18,7 +17,7 @@ RecordFile RecordFile::ofRecord(const OVNoteFile& record)
     file.place = record.primitiveFileURL().value_or(folder);
     std::error_code failure;
     for (fs::directory_iterator entry(folder, failure), end; !failure && entry != end; entry.increment(failure)) {
-        if (entry->path().filename().string().starts_with(NSFileManager::unfinishedPrefix))
+        if (isUnfinishedItem(entry->path()))
             file.unfinished.push_back(entry->path());
         else if (entry->path() == file.place)
             file.size = sizeOfItem(file.place);

@@ -32,6 +32,8 @@ public:
 
     /// Notes that the folder is about to change.
     bool note(const RecordFolder& folder, NSError* error);
+    /// Notes that the folder is about to be made.
+    bool noteNew(const RecordFolder& folder, NSError* error);
     /// Notes that the record's folder, or with a name that file in it, is about to be moved aside; where to.
     std::optional<std::filesystem::path> noteAside(
         const RecordFolder& folder, std::string_view filename, NSError* error);
@@ -41,6 +43,7 @@ public:
     /// What a line of a journal says.
     struct Line {
         RecordFolder folder;
+        bool isNew = false;          ///< the folder was about to be made
         std::string filename;        ///< of a file that was moved aside; empty for the whole folder
         std::filesystem::path aside; ///< where it lies, if it does; empty when nothing was to be moved
     };
@@ -61,8 +64,6 @@ public:
     };
     /// All journals, whoever has them. Looking takes nothing over.
     static std::vector<Sighting> journalsInSight(std::string_view storeUUID);
-    /// Whether that is the name of a folder with a journal.
-    static bool isJournalFolder(std::string_view name);
 
 private:
     FileJournal(HeldFolder folder, int descriptor);

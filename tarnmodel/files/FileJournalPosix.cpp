@@ -1,6 +1,6 @@
 #include "tarnmodel/files/FileJournal.h"
 
-#include "tarnmodel/platform/foundation/filesystem/NSFileManager.h"
+#include "tarnmodel/platform/foundation/filesystem/FileDescriptorInternal.h"
 #include "tarnmodel/platform/foundation/filesystem/PrivateFolder.h"
 #include "tarnmodel/platform/foundation/values/NSError.h"
 
@@ -24,6 +24,7 @@ namespace fs = std::filesystem;
 
 constexpr std::string_view kFolderPrefix = ".unsaved-";
 constexpr std::string_view kJournal = "journal";
+constexpr std::string_view kNewFolder = "+";
 constexpr char kSeparator = '\t'; // neither identifiers on disk nor names hold one
 
 fs::path placeOfJournals()
@@ -61,7 +62,8 @@ std::vector<FileJournal::Line> linesOf(const fs::path& folder)
         std::getline(fields, line.folder.area, kSeparator);
         std::getline(fields, line.folder.identifier, kSeparator);
         std::getline(fields, line.filename, kSeparator);
-        if (!aside.empty())
+        line.isNew = aside == kNewFolder;
+        if (!aside.empty() && !line.isNew)
             line.aside = folder / aside;
         if (!line.folder.identifier.empty())
             lines.push_back(std::move(line));
@@ -89,7 +91,7 @@ std::shared_ptr<FileJournal> FileJournal::forStore(std::string_view storeUUID, N
     if (auto journal = known.lock())
         return journal;
     if (const std::error_code failure = createPrivateFolder(place)) {
-        assignError(error, NSError(NSPOSIXErrorDomain, failure.value(), place.string() + ": " + failure.message()));
+        failWithSystemError(error, failure.value(), place, "made");
         return nullptr;
     }
     auto folder = HeldFolder::makeIn(place, prefix, error);
@@ -98,8 +100,7 @@ std::shared_ptr<FileJournal> FileJournal::forStore(std::string_view storeUUID, N
     const fs::path file = folder->path() / kJournal;
     const int descriptor = ::open(file.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_APPEND | O_CLOEXEC, 0600);
     if (descriptor < 0) {
-        const std::error_code failure(errno, std::generic_category());
-        assignError(error, NSError(NSPOSIXErrorDomain, failure.value(), file.string() + ": " + failure.message()));
+        failWithSystemError(error, errno, file, "made");
         folder->remove();
         return nullptr;
     }
@@ -116,13 +117,8 @@ bool FileJournal::append(std::string line, NSError* error)
         const ssize_t count = ::write(descriptor_, rest.data(), rest.size());
         if (count < 0 && errno == EINTR)
             continue;
-        if (count < 0) {
-            const std::error_code failure(errno, std::generic_category());
-            assignError(error,
-                NSError(NSPOSIXErrorDomain, failure.value(),
-                    (folder_.path() / kJournal).string() + ": " + failure.message()));
-            return false;
-        }
+        if (count < 0)
+            return failWithSystemError(error, errno, folder_.path() / kJournal, "written");
         rest.remove_prefix(static_cast<std::size_t>(count));
     }
     return true;
@@ -132,6 +128,12 @@ bool FileJournal::note(const RecordFolder& folder, NSError* error)
 {
     const std::lock_guard lock(mutex_);
     return append(fmt::format("\t{}\t{}", folder.area, folder.identifier), error);
+}
+
+bool FileJournal::noteNew(const RecordFolder& folder, NSError* error)
+{
+    const std::lock_guard lock(mutex_);
+    return append(fmt::format("{}\t{}\t{}", kNewFolder, folder.area, folder.identifier), error);
 }
 
 std::optional<fs::path> FileJournal::noteAside(const RecordFolder& folder, std::string_view filename, NSError* error)
@@ -167,17 +169,12 @@ std::vector<FileJournal::Sighting> FileJournal::journalsInSight(std::string_view
     for (fs::directory_iterator entry(placeOfJournals(), failure), end; !failure && entry != end;
          entry.increment(failure)) {
         const std::string name = entry->path().filename().string();
-        if (!isJournalFolder(name))
+        if (!name.starts_with(kFolderPrefix))
             continue;
         const bool isHeld = HeldFolder::isHeld(entry->path()); // asked first: who lets go then has written all
         journals.push_back({entry->path(), isHeld, name.starts_with(ownPrefix), linesOf(entry->path())});
     }
     return journals;
-}
-
-bool FileJournal::isJournalFolder(std::string_view name)
-{
-    return name.starts_with(kFolderPrefix);
 }
 
 } // namespace tarn

@@ -13,15 +13,8 @@ namespace tarn {
 namespace {
 
 constexpr std::size_t kLongestName = 255;     ///< bytes, of every file system in use
-constexpr std::size_t kLongestExtension = 32; ///< what is longer is no extension that anybody needs
+constexpr std::size_t kLongestExtension = 32; ///< bytes, with the point
 constexpr std::uint32_t kLargestCounter = 999'999'999;
-
-/// Where the extension begins, with its point; the length of the name when it has none.
-std::size_t extensionBegin(std::string_view name)
-{
-    const std::size_t point = name.rfind('.');
-    return point == std::string_view::npos || point == 0 ? name.size() : point;
-}
 
 bool isControl(std::string_view name, std::size_t at)
 {
@@ -31,23 +24,11 @@ bool isControl(std::string_view name, std::size_t at)
     return byte < 0x20 || byte == 0x7F || isLatinControl;
 }
 
-/// The longest beginning of at most `length` bytes that ends between characters.
-std::string_view cutBetweenCharacters(std::string_view text, std::size_t length)
-{
-    if (text.size() <= length)
-        return text;
-    while (length > 0 && (static_cast<unsigned char>(text[length]) & 0xC0) == 0x80)
-        --length;
-    return text.substr(0, length);
-}
-
 std::string cutToLength(std::string_view name)
 {
     if (name.size() <= kLongestName)
         return std::string(name);
-    std::string_view extension = name.substr(extensionBegin(name));
-    if (extension.size() > kLongestExtension)
-        extension = {};
+    const std::string_view extension = name.substr(beginOfExtension(name));
     const std::string_view stem = name.substr(0, name.size() - extension.size());
     return std::string(cutBetweenCharacters(stem, kLongestName - extension.size())) + std::string(extension);
 }
@@ -67,6 +48,22 @@ std::optional<std::pair<std::uint32_t, std::size_t>> counterOf(std::string_view 
 }
 
 } // namespace
+
+std::size_t beginOfExtension(std::string_view name)
+{
+    const std::size_t point = name.rfind('.');
+    const bool isExtension = point != std::string_view::npos && point > 0 && name.size() - point <= kLongestExtension;
+    return isExtension ? point : name.size();
+}
+
+std::string_view cutBetweenCharacters(std::string_view text, std::size_t length)
+{
+    if (text.size() <= length)
+        return text;
+    while (length > 0 && (static_cast<unsigned char>(text[length]) & 0xC0) == 0x80)
+        --length;
+    return text.substr(0, length);
+}
 
 std::string fileNameWithinFolder(std::string_view name)
 {
@@ -88,7 +85,7 @@ std::string fileNameWithinFolder(std::string_view name)
 
 std::string filepathWithIncreasedNumberCount(std::string_view name)
 {
-    const std::size_t begin = extensionBegin(name);
+    const std::size_t begin = beginOfExtension(name);
     std::string_view stem = name.substr(0, begin);
     std::uint32_t counter = 2;
     if (const auto former = counterOf(stem)) {

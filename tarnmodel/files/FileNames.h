@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -12,5 +13,12 @@ std::string fileNameWithinFolder(std::string_view name);
 
 /// The name with a counter before its extension: "a.png" gives "a (2).png", and that gives "a (3).png".
 std::string filepathWithIncreasedNumberCount(std::string_view name);
+
+/// Where the extension begins, with its point; the length of the name when it has none. What is longer than 32 bytes is
+/// no extension that anybody needs.
+std::size_t beginOfExtension(std::string_view name);
+
+/// The longest beginning of at most `length` bytes that ends between characters.
+std::string_view cutBetweenCharacters(std::string_view text, std::size_t length);
 
 } // namespace tarn

@@ -65,8 +65,13 @@ std::vector<OVNoteFile*> OVNoteFile::noteFilesToUploadInManagedObjectContext(NSM
 {
     auto files
         = filesWhere(NSPredicate::predicateWithFormat("downloaded == YES && uploaded == NO AND note != nil"), context);
-    std::erase_if(files, [](const OVNoteFile* file) { return !isOnDisk(*file); });
+    std::erase_if(files, [](const OVNoteFile* file) { return !file->isToUpload(); });
     return files;
+}
+
+bool OVNoteFile::isToUpload() const
+{
+    return downloadedValue() && !uploadedValue() && note() && isOnDisk(*this);
 }
 
 std::size_t OVNoteFile::numberOfFileToDownloadInManagedObjectContext(NSManagedObjectContext& context)

@@ -37,8 +37,7 @@ bool hasName(std::string_view name, NSError* error)
 
 } // namespace
 
-// Records
-// -----------------------------------------------------------------------------------------------------------------
+// Records ------------------------------------------------------------------------------------------------------------
 
 OVNoteFile* OVNoteFile::factoryNoteFileForFileURL(const FileURL& url, NSManagedObjectContext& context, NSError* error)
 {
@@ -64,8 +63,7 @@ OVNoteFile* OVNoteFile::takeFile(const FileURL& url, NSError* error)
     return this;
 }
 
-// Attachments of a note
-// ---------------------------------------------------------------------------------------------------
+// Attachments of a note ----------------------------------------------------------------------------------------------
 
 std::string OVNoteFile::safeFilenameForFilename(std::string_view filename, const OVNote& note,
     OVNoteFile*& matchedNoteFile, const std::function<NSFileWrapper()>& fileData)

@@ -50,7 +50,7 @@ void removeUnfinishedItems(const fs::path& folder)
 {
     std::error_code failure;
     for (fs::directory_iterator entry(folder, failure), end; !failure && entry != end; entry.increment(failure))
-        if (entry->path().filename().string().starts_with(NSFileManager::unfinishedPrefix))
+        if (isUnfinishedItem(entry->path()))
             NSFileManager::removeItemAtURL(entry->path());
 }
 
@@ -58,7 +58,11 @@ void settleFolder(const RecordFolder& folder, const OVNoteFile* record, const Li
 {
     const fs::path place = folder.url();
     if (!record) {
-        NSFileManager::removeItemAtURL(place);
+        // One that was there before may be of a record that an older copy of the store has not got yet.
+        if (std::ranges::any_of(lines, [](const FileJournal::Line* line) { return line->isNew; }))
+            NSFileManager::removeItemAtURL(place);
+        else if (NSFileManager::fileExistsAtURL(place))
+            moveToStrayFiles(place, folder.identifier);
         return;
     }
     std::vector<fs::path> replaced;

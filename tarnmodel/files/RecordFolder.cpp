@@ -48,12 +48,17 @@ bool fetchRecordsOfFolders(
     return true;
 }
 
+bool isUnfinishedItem(const fs::path& item)
+{
+    return item.filename().native().starts_with(NSFileManager::unfinishedPrefix);
+}
+
 std::vector<fs::path> itemsInFolder(const fs::path& folder)
 {
     std::vector<fs::path> items;
     std::error_code failure;
     for (fs::directory_iterator entry(folder, failure), end; !failure && entry != end; entry.increment(failure))
-        if (!entry->path().filename().string().starts_with(NSFileManager::unfinishedPrefix))
+        if (!isUnfinishedItem(entry->path()))
             items.push_back(entry->path());
     std::ranges::sort(items);
     return items;

@@ -36,6 +36,9 @@ using RecordsOfFolders = std::map<RecordFolder, const OVNoteFile*>;
 bool fetchRecordsOfFolders(
     const std::vector<std::string>& identifiers, NSManagedObjectContext& context, RecordsOfFolders& records);
 
+/// Whether that is a file or folder that was not written whole.
+bool isUnfinishedItem(const std::filesystem::path& item);
+
 /// What lies in a folder, without what is not whole; by name.
 std::vector<std::filesystem::path> itemsInFolder(const std::filesystem::path& folder);
 

@@ -55,8 +55,7 @@ void makeTellable(const fs::path& item, const fs::path& former)
 
 } // namespace
 
-// Whose
-// -----------------------------------------------------------------------------------------------------------------
+// Whose --------------------------------------------------------------------------------------------------------------
 
 UnsavedFileChanges::UnsavedFileChanges(std::string storeUUID) : storeUUID_(std::move(storeUUID)) { }
 UnsavedFileChanges::~UnsavedFileChanges() = default;
@@ -84,8 +83,7 @@ FileJournal* UnsavedFileChanges::journal(NSError* error)
     return journal_.get();
 }
 
-// Changing
-// ----------------------------------------------------------------------------------------------------------------
+// Changing -----------------------------------------------------------------------------------------------------------
 
 void UnsavedFileChanges::add(Change change)
 {
@@ -98,10 +96,10 @@ std::optional<fs::path> UnsavedFileChanges::addFile(
     const RecordFolder& folder, const std::function<std::optional<fs::path>(NSError*)>& bring, NSError* error)
 {
     FileJournal* const noted = journal(error);
-    if (!noted || !noted->note(folder, error))
-        return std::nullopt;
     const fs::path place = folder.url();
     const bool isNew = !NSFileManager::fileExistsAtURL(place);
+    if (!noted || !(isNew ? noted->noteNew(folder, error) : noted->note(folder, error)))
+        return std::nullopt;
     auto file = bring(error);
     if (file)
         add({.kind = Kind::Added, .folder = folder, .place = isNew ? place : *file, .former = {}});
@@ -168,8 +166,7 @@ void UnsavedFileChanges::deleteThumbnailsOnceSaved(fs::path image)
     imagesWithoutRecord_.push_back(std::move(image));
 }
 
-// What becomes of the changes
-// -------------------------------------------------------------------------------------------
+// What becomes of the changes ----------------------------------------------------------------------------------------
 
 bool UnsavedFileChanges::prepareForSave(NSError* error)
 {
@@ -199,8 +196,8 @@ void UnsavedFileChanges::didSave(NSManagedObjectContext& context)
     clear();
 }
 
-/// `living`: the records that are left; null when that could not be found
-/// out. Then nothing is removed that may be wanted.
+/// `living`: the records that are left; null when that could not be found out. Then nothing is removed that may be
+/// wanted.
 void UnsavedFileChanges::finish(const Change& change, const RecordsOfFolders* living)
 {
     if (change.kind == Kind::Added)

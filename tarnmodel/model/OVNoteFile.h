@@ -60,6 +60,9 @@ public:
     static std::vector<OVNoteFile*> noteFilesToDownloadInManagedObjectContext(NSManagedObjectContext& context);
     /// Those of a note whose bytes are here, on disk, and not on the server.
     static std::vector<OVNoteFile*> noteFilesToUploadInManagedObjectContext(NSManagedObjectContext& context);
+    /// Whether it is one of these, and one of those.
+    bool isToDownload() const { return !downloadedValue() && uploadedValue(); }
+    bool isToUpload() const;
     /// How many `noteFilesToDownloadInManagedObjectContext` gives.
     static std::size_t numberOfFileToDownloadInManagedObjectContext(NSManagedObjectContext& context);
     /// How many are marked as here and not on the server: more than are to be uploaded where one has no note, or no

@@ -195,6 +195,29 @@ TEST_P(UnsavedFiles, OfALivingProcessAreLeftAloneByWhoOpensTheStore)
     EXPECT_THAT(foldersOnDisk(), ElementsAre(*file.uniqueIdentifier()));
 }
 
+// An older copy of the store may have been put in place before the next start: what it does not know is not thrown
+// away.
+TEST_P(UnsavedFiles, OfADeadProcessAreRemovedOnlyWhereTheProcessMadeTheFolder)
+{
+    const auto kind = filesRoot() / "Local Files" / "Note Files";
+    for (const char* folder : {"MADE", "RENAMED"}) {
+        std::filesystem::create_directories(kind / folder);
+        std::ofstream(kind / folder / "a.bin") << folder;
+    }
+    const auto journal = filesRoot() / "Local Files" / (".unsaved-" + store().identifier() + "-abcdef");
+    std::filesystem::create_directory(journal);
+    std::ofstream(journal / "journal") << "+\tLocal Files/Note Files\tMADE\n"
+                                          "\tLocal Files/Note Files\tRENAMED\n";
+    OVNoteFile::recoverFilesInManagedObjectContext(context());
+    EXPECT_THAT(foldersOnDisk(), IsEmpty());
+    EXPECT_THAT(besidesTheKinds(), ElementsAre("Lost and Found"));
+    const auto kept = namesIn(filesRoot() / "Local Files" / "Lost and Found");
+    ASSERT_EQ(kept.size(), 1U);
+    EXPECT_EQ(
+        contentsOf(filesRoot() / "Local Files" / "Lost and Found" / kept.front() / "RENAMED" / "a.bin"), "RENAMED");
+    EXPECT_THAT(takeLog(), testing::SizeIs(1));
+}
+
 TEST_P(UnsavedFiles, AreNotTakenBackByASaveThatFails)
 {
     OVNoteFile& file = saved("a.bin", "one");

@@ -193,8 +193,7 @@ TEST_F(DoctorCommand, ExaminesNothingWhereThereIsNoStore)
     EXPECT_EQ(run({"doctor"}).exitCode, 6);
 }
 
-// Files of attachments
-// -------------------------------------------------------------------------------------------------
+// Files of attachments -----------------------------------------------------------------------------------------------
 
 class DoctorOfFiles : public TarnCommandTest {
 protected:

@@ -1,5 +1,6 @@
 #include "tools/tarn/ExportNames.h"
 
+#include "tarnmodel/files/FileNames.h"
 #include "tarnmodel/platform/foundation/text/Folding.h"
 #include "tarnmodel/platform/foundation/text/Normalization.h"
 #include "tarnmodel/platform/foundation/text/UTF.h"
@@ -16,7 +17,6 @@ constexpr std::string_view kIllegal = "<>:\"/\\|?*";
 constexpr std::array<std::string_view, 24> kDevices{"con", "prn", "aux", "nul", "conin$", "conout$", "com1", "com2",
     "com3", "com4", "com5", "com6", "com7", "com8", "com9", "lpt1", "lpt2", "lpt3", "lpt4", "lpt5", "lpt6", "lpt7",
     "lpt8", "lpt9"};
-constexpr std::size_t kLongestKeptExtension = 32;
 /// Room for ".assets" behind the name of a note.
 constexpr std::size_t kLongestNoteName = 240;
 
@@ -32,24 +32,6 @@ std::string withoutIllegalCharacters(std::string_view name)
         at += decoded.length;
     }
     return legal;
-}
-
-/// Where the extension begins, with its point; the length of the name when it has none.
-std::size_t beginOfExtension(std::string_view name)
-{
-    const std::size_t point = name.rfind('.');
-    const bool isExtension
-        = point != std::string_view::npos && point > 0 && name.size() - point <= kLongestKeptExtension;
-    return isExtension ? point : name.size();
-}
-
-std::string_view cutBetweenCodePoints(std::string_view text, std::size_t longest)
-{
-    if (text.size() <= longest)
-        return text;
-    while (longest > 0 && (static_cast<unsigned char>(text[longest]) & 0xC0) == 0x80)
-        --longest;
-    return text.substr(0, longest);
 }
 
 bool isDevice(std::string_view name)
@@ -84,7 +66,7 @@ std::string portableFileName(std::string_view name, std::size_t longest)
     if (portable.size() > longest) {
         const std::string extension = portable.substr(beginOfExtension(portable));
         portable.resize(portable.size() - extension.size());
-        portable = std::string(cutBetweenCodePoints(portable, longest - extension.size())) + extension;
+        portable = std::string(cutBetweenCharacters(portable, longest - extension.size())) + extension;
     }
     if (portable.back() == '.' || portable.back() == ' ')
         portable.back() = '_';
@@ -111,7 +93,7 @@ std::string ExportNames::unique(std::string_view stem, std::string_view extensio
         return name;
     while (true) {
         const std::string end = " (" + std::to_string(++first->second) + ")" + std::string(extension);
-        name = std::string(cutBetweenCodePoints(stem, longest - end.size())) + end;
+        name = std::string(cutBetweenCharacters(stem, longest - end.size())) + end;
         if (counters_.try_emplace(comparedForm(name), 1).second)
             return name;
     }

@@ -2,13 +2,13 @@
 
 #include "tarnmodel/corvel/CVKAST.h"
 #include "tarnmodel/platform/foundation/filesystem/NSFileManager.h"
+#include "tarnmodel/platform/foundation/filesystem/NSFileWrapper.h"
 #include "tarnmodel/platform/foundation/text/PercentEncoding.h"
 #include "tarnmodel/platform/foundation/values/NSData.h"
 #include "tarnmodel/platform/foundation/values/NSException.h"
 #include "tools/tarn/DisplayText.h"
 #include "tools/tarn/FileList.h"
 
-#include <fstream>
 #include <system_error>
 #include <utility>
 
@@ -18,27 +18,11 @@ namespace {
 
 namespace fs = std::filesystem;
 
-bool isThere(const fs::path& path)
-{
-    return NSFileManager::fileExistsAtURL(path);
-}
-
 /// A folder itself, not a link to one, which could lead anywhere.
 bool isFolderItself(const fs::path& path)
 {
     std::error_code failure;
     return fs::is_directory(fs::symlink_status(path, failure));
-}
-
-bool holds(const fs::path& path, const std::string& text)
-{
-    std::error_code failure;
-    if (!fs::is_regular_file(path, failure) || fs::file_size(path, failure) != text.size())
-        return false;
-    std::ifstream stream(path, std::ios::binary);
-    std::string contents(text.size(), '\0');
-    stream.read(contents.data(), static_cast<std::streamsize>(contents.size()));
-    return stream && contents == text;
 }
 
 /// The attachment that a destination names is looked for as a note looks for it.
@@ -71,7 +55,7 @@ void Exporter::leave(const fs::path& path, std::string reason, bool isFailure)
 
 void Exporter::leaveUnwritten(const fs::path& path, const NSError& error)
 {
-    if (isThere(path))
+    if (NSFileManager::fileExistsAtURL(path))
         leave(path, "another file is there");
     else
         leave(path, singleLine(error.localizedDescription()), true);
@@ -121,7 +105,7 @@ Exporter::NamesInText Exporter::exportAttachments(const OVNote& note, const std:
             leave(place, "the attachment is protected by a password");
         else if (!source)
             leave(place, "its bytes are not here");
-        else if (!isThere(folder) && !NSFileManager::createDirectoryAtURL(folder, &error))
+        else if (!NSFileManager::fileExistsAtURL(folder) && !NSFileManager::createDirectoryAtURL(folder, &error))
             leave(place, singleLine(error.localizedDescription()), true);
         else if (!isFolderItself(folder))
             leave(place, folder.string() + " is no folder");
@@ -138,7 +122,7 @@ bool Exporter::exportAttachment(const fs::path& source, const fs::path& place)
         ++result_.files;
         return true;
     }
-    if (isThere(place) && NSFileManager::contentsEqualAtURLs(source, place)) {
+    if (NSFileManager::fileExistsAtURL(place) && NSFileManager::contentsEqualAtURLs(source, place)) {
         ++result_.unchanged;
         return true;
     }
@@ -149,11 +133,12 @@ bool Exporter::exportAttachment(const fs::path& source, const fs::path& place)
 void Exporter::exportText(const OVNote& note, const std::string& text, const fs::path& place)
 {
     NSError error;
-    if (NSFileManager::createFileAtURL(place, NSData::fromText(text), &error)) {
+    const auto contents = NSFileWrapper::withContents(NSData::fromText(text));
+    if (contents.writeToURL(place, &error)) {
         // A text without its date is still the text.
         NSFileManager::setModificationDate(note.modificationDate().value_or(now()), place);
         ++result_.exported;
-    } else if (holds(place, text)) {
+    } else if (contents.hasContentsOfFileAtURL(place)) {
         ++result_.unchanged;
     } else {
         leaveUnwritten(place, error);

@@ -22,13 +22,8 @@ struct FilesOptions {
 
 bool isWanted(const OVNoteFile& file, const FilesOptions& options)
 {
-    const bool here = file.downloadedValue();
-    const bool there = file.uploadedValue();
-    if (options.toUpload && (!here || there || !file.note() || !pathOfFile(file)))
-        return false;
-    if (options.toDownload && (here || !there))
-        return false;
-    return !options.unused || file.isUnused();
+    return (!options.toUpload || file.isToUpload()) && (!options.toDownload || file.isToDownload())
+        && (!options.unused || file.isUnused());
 }
 
 /// By the titles of the notes, within a note as its text names them, unused ones last.

@@ -1,6 +1,7 @@
 #include "tarnmodel/files/thumbnails/ThumbDraft.h"
 
 #include "tarnmodel/files/thumbnails/ImageComment.h"
+#include "tarnmodel/platform/foundation/filesystem/NSFileManager.h"
 #include "tarnmodel/platform/foundation/system/NSUUID.h"
 
 #include <array>
@@ -142,8 +143,7 @@ std::optional<SeenStamp> publishedStamp(const std::filesystem::path& thumb)
 
 void noteSourceSeen(const std::filesystem::path& thumb, NSDate seen)
 {
-    const std::array<timespec, 2> times = timesFor(seen);
-    ::utimensat(AT_FDCWD, thumb.c_str(), times.data(), 0);
+    NSFileManager::setModificationDate(seen, thumb);
 }
 
 } // namespace tarn

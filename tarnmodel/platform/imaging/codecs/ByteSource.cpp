@@ -2,6 +2,7 @@
 
 #include "tarnmodel/platform/imaging/codecs/ByteSource.h"
 
+#include "tarnmodel/platform/foundation/filesystem/FileDescriptorInternal.h"
 #include "tarnmodel/platform/foundation/values/NSError.h"
 #include "tarnmodel/platform/imaging/ImageFile.h"
 
@@ -17,23 +18,6 @@
 namespace tarn {
 
 namespace {
-
-class Descriptor {
-public:
-    explicit Descriptor(int descriptor) : descriptor_(descriptor) { }
-    ~Descriptor()
-    {
-        if (descriptor_ >= 0)
-            ::close(descriptor_);
-    }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-
-    int get() const { return descriptor_; }
-
-private:
-    int descriptor_;
-};
 
 class FileBytes : public ByteSource {
 public:
@@ -68,7 +52,7 @@ public:
     }
 
 private:
-    Descriptor descriptor_;
+    FileDescriptor descriptor_;
     int failure_ = 0;
     std::uint64_t size_ = 0;
 };
@@ -115,7 +99,7 @@ std::unique_ptr<ByteSource> sourceOfBytes(std::span<const std::uint8_t> bytes)
 
 bool writeFile(const std::filesystem::path& path, std::span<const std::uint8_t> bytes, NSError* error)
 {
-    const Descriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
+    const FileDescriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
     bool isWritten = file.get() >= 0;
     while (isWritten && !bytes.empty()) {
         const ssize_t count = ::write(file.get(), bytes.data(), bytes.size());

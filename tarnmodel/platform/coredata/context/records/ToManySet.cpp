@@ -148,8 +148,7 @@ void ToManySet::forgetStored()
         maintenance_->noteForgotten(*this);
 }
 
-// The face
-// -------------------------------------------------------------------------------------------------------------
+// The face -----------------------------------------------------------------------------------------------------------
 
 const std::vector<NSManagedObject*>& UntypedManagedObjectSet::members() const
 {
