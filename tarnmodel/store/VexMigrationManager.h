@@ -4,7 +4,9 @@
 #include "tarnmodel/platform/foundation/values/NSError.h"
 #include "tarnmodel/platform/foundation/values/WeakReference.h"
 
+#include <chrono>
 #include <filesystem>
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
@@ -13,14 +15,18 @@
 
 namespace tarn {
 
+class HeldStoreFile;
 class NSManagedObjectModel;
+class NSMappingModel;
+class NSMigrationManager;
 class VexMigrationManager;
 
 /// Errors of a migration. The numbers are part of the interface.
 inline constexpr std::string_view MigrationErrorDomain = "Kelpa";
 enum MigrationErrorCode : long {
-    MigrationErrorNoPath = 8001,      ///< no version of the library can read this store; it is set aside
-    MigrationErrorNotYetBuilt = 8002, ///< a known older version that this build cannot bring forward; it stays
+    MigrationErrorNoPath = 8001,    ///< no version of the library can read this store
+    MigrationErrorNoSpace = 8002,   ///< the disk has no room for the new store beside the old one; nothing was written
+    MigrationErrorCancelled = 8003, ///< `cancelMigration` was called; the store has the last version that it reached
 };
 
 /// Hears of a migration, on the thread that migrates.
@@ -30,12 +36,17 @@ public:
 
     /// How far the current step is, from 0 to 1.
     virtual void migrationManagerMigrationProgress(VexMigrationManager& manager, float progress);
+    /// The mapping models of a step, instead of the installed one; none keeps that. They are gone through one after the
+    /// other into the same new store, and the end of the last one decides.
+    virtual std::vector<std::shared_ptr<const NSMappingModel>> migrationManagerMappingModelsForSourceModel(
+        VexMigrationManager& manager, const std::shared_ptr<const NSManagedObjectModel>& sourceModel);
 };
 
 /// Brings a store forward to the current model, one version at a time. One manager serves one run, on one thread.
 ///
-/// The steps themselves are not built yet: a store of a known older version fails with `MigrationErrorNotYetBuilt` and
-/// is left alone, a store of a model that this library does not know with `MigrationErrorNoPath`.
+/// Each step makes the store anew in a file beside it ("database.Model 2.sqlite"), under the lock of the old one, and
+/// then exchanges the files without a moment in which there is no store. What it was before stays, until the process
+/// and the next one have ended, in the process's temporary folder.
 class VexMigrationManager {
 public:
     VexMigrationManager();
@@ -49,15 +60,35 @@ public:
 
     /// Whether the store has the final model in the end; it stays at the last version that it reached otherwise.
     virtual bool progressivelyMigrateURL(const std::filesystem::path& storeURL, StoreType type,
-        const NSManagedObjectModel& finalModel, NSError* error = nullptr);
+        const std::shared_ptr<const NSManagedObjectModel>& finalModel, NSError* error = nullptr);
     /// The names of the models that the store was brought to, in order.
     const std::vector<std::string>& migratedVersions() const noexcept { return validMigratedVersions_; }
+    /// Ends the run soon, with `MigrationErrorCancelled`; the step under way leaves nothing behind. Any thread.
+    void cancelMigration();
+    /// Called again and again while a lock of another process is waited for; see `StoreOptions::whileWaiting`.
+    void setWhileWaiting(std::function<bool(std::chrono::milliseconds)> whileWaiting);
 
-    /// The file of every version of the model that is installed, in the order of the versions.
+    // Parts of a step -------------------------------------------------------------------------------------------------
+    /// The file of every version of the model that is installed: first those in the "momd" folders of the resources, in
+    /// the order of the versions, then those at their top.
     static std::vector<std::filesystem::path> modelPaths();
     /// The installed version that a store with this metadata was written with; null when there is none.
     static std::shared_ptr<const NSManagedObjectModel> sourceModelForSourceMetadata(
         const std::map<std::string, std::string>& metadata);
+    /// The first installed model to which an installed mapping model leads. False and an error (domain "Kelpa", 8001)
+    /// when there is none.
+    static bool getDestinationModel(std::shared_ptr<const NSManagedObjectModel>& destinationModel,
+        std::shared_ptr<const NSMappingModel>& mappingModel, std::string& modelName,
+        const NSManagedObjectModel& sourceModel, NSError* error = nullptr);
+    /// Where the new store of a step is made: "database.Model 2.sqlite" beside "database.sqlite".
+    static std::filesystem::path destinationStoreURLWithSourceStoreURL(
+        const std::filesystem::path& sourceStoreURL, std::string_view modelName);
+    /// Puts the file at `destinationStoreURL` in the place of the store, which stays in the process's temporary folder
+    /// under a name of its own. False and an error when that fails; the store is then where it was.
+    bool backupSourceStoreAtURL(const std::filesystem::path& sourceStoreURL,
+        const std::filesystem::path& movingDestinationStoreAtURL, NSError* error = nullptr);
+    /// Tells the delegate of "migrationProgress"; other keys are nobody's.
+    virtual void observeValueForKeyPath(std::string_view keyPath, NSMigrationManager& object, float change);
 
 protected:
     /// For subclasses: the store has come to this version.
@@ -66,6 +97,7 @@ protected:
 private:
     WeakReference<VexMigrationManagerDelegate> delegate_;
     std::vector<std::string> validMigratedVersions_;
+    std::unique_ptr<HeldStoreFile> held_; ///< the store, while a step is under way
 };
 
 } // namespace tarn
