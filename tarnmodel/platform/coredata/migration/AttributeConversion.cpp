@@ -59,6 +59,15 @@ Value numberOfType(const Value& value, NSAttributeType to)
     }
 }
 
+/// SQLite's "round" takes the number below 0.5 for 1. A cast to INTEGER truncates and saturates; a number of 2 to the
+/// 52nd and more is a whole one.
+std::string roundedColumn(const std::string& column)
+{
+    const std::string whole = "CAST(" + column + " AS INTEGER)";
+    return "CASE WHEN abs(" + column + ") < 4503599627370496.0 THEN " + whole + " + (" + column + " - " + whole
+        + " >= 0.5) - (" + column + " - " + whole + " <= -0.5) ELSE " + whole + " END";
+}
+
 } // namespace
 
 bool isConvertible(NSAttributeType from, NSAttributeType to) noexcept
@@ -81,9 +90,7 @@ std::optional<std::string> convertedColumn(const std::string& column, NSAttribut
 {
     if (from == to)
         return column;
-    const bool isRounded = from == NSAttributeType::Double;
-    // A cast to INTEGER saturates; "round" of more than 2 to the 52nd is the number itself.
-    const std::string integer = isRounded ? "CAST(round(" + column + ") AS INTEGER)" : column;
+    const std::string integer = from == NSAttributeType::Double ? roundedColumn(column) : column;
     switch (to) {
     case NSAttributeType::Boolean:
         return "(" + column + " <> 0)";
