@@ -9,8 +9,21 @@
 #include "tarnmodel/platform/coredata/sqlitestore/SQLiteStore.h"
 
 #include <charconv>
+#include <system_error>
 
 namespace tarn {
+
+namespace {
+
+/// 0 for what is no number.
+int numberOf(std::string_view text)
+{
+    int number = 0;
+    const auto [end, failure] = std::from_chars(text.data(), text.data() + text.size(), number);
+    return failure == std::errc() && end == text.data() + text.size() ? number : 0;
+}
+
+} // namespace
 
 NSPersistentStoreCoordinator::NSPersistentStoreCoordinator(std::shared_ptr<const NSManagedObjectModel> model)
     : model_(std::move(model))
@@ -66,18 +79,26 @@ std::optional<NSManagedObjectID> NSPersistentStoreCoordinator::managedObjectIDFo
 }
 
 std::optional<std::map<std::string, std::string>> NSPersistentStoreCoordinator::metadataForPersistentStoreOfType(
-    StoreType type, const std::filesystem::path& file, NSError* error)
+    StoreType type, const std::filesystem::path& file, NSError* error,
+    const std::function<bool(std::chrono::milliseconds)>& whileWaiting)
 {
     std::optional<StoreMetadata> metadata;
     reportingFailure(error, [&] {
         if (type != StoreType::SQLite)
             throw StoreFailure(StoreErrorNotAStore, "A store in memory has no file.");
-        SQLiteConnectionOptions options;
-        options.queryOnly = true;
-        SQLiteConnection connection(file, options);
-        if (contentsOfStoreFile(connection) != StoreFileContents::Store)
-            throw StoreFailure(StoreErrorNotAStore, "The file is not a store.");
-        metadata = readStoreMetadata(connection);
+        for (int attempt = 1; !metadata; ++attempt) {
+            SQLiteConnectionOptions options;
+            options.queryOnly = true;
+            options.whileWaiting = whileWaiting;
+            SQLiteConnection connection(file, options);
+            if (contentsOfStoreFile(connection) == StoreFileContents::Store)
+                metadata = readStoreMetadata(connection);
+            // Who migrated the store while its lock was waited for has left a new file under its name.
+            if (attempt < SQLiteConnection::mostReplacements && connection.hasMovedFile())
+                metadata.reset();
+            else if (!metadata)
+                throw StoreFailure(StoreErrorNotAStore, "The file is not a store.");
+        }
     });
     return metadata;
 }
@@ -86,6 +107,23 @@ bool NSPersistentStoreCoordinator::isModelCompatibleWithStoreMetadata(
     const NSManagedObjectModel& model, const std::map<std::string, std::string>& metadata)
 {
     return isMetadataOfModel(model, metadata);
+}
+
+std::string NSPersistentStoreCoordinator::modelVersionOfStoreMetadata(const StoreMetadata& metadata)
+{
+    const auto found = metadata.find(std::string(StoreModelVersionKey));
+    return found == metadata.end() ? std::string() : found->second;
+}
+
+int NSPersistentStoreCoordinator::formatOfStoreMetadata(const StoreMetadata& metadata)
+{
+    const auto found = metadata.find(std::string(StoreFormatVersionKey));
+    return found == metadata.end() ? 0 : numberOf(found->second);
+}
+
+int NSPersistentStoreCoordinator::currentStoreFormat()
+{
+    return numberOf(currentStoreFormatVersion);
 }
 
 } // namespace tarn
