@@ -1,20 +1,14 @@
 #include "tarnmodel/store/VexMigrationManager.h"
 
 #include "tarnmodel/files/OVLocalFileManager.h"
-#include "tarnmodel/model/Resources.h"
 #include "tarnmodel/platform/coredata/HeldStoreFile.h"
 #include "tarnmodel/platform/coredata/NSManagedObjectModel.h"
-#include "tarnmodel/platform/coredata/NSMappingModel.h"
 #include "tarnmodel/platform/coredata/NSMigrationManager.h"
 #include "tarnmodel/platform/foundation/filesystem/NSFileManager.h"
 #include "tarnmodel/platform/foundation/system/NSUUID.h"
 #include "tarnmodel/store/MigrationSpaceInternal.h"
-#include "tarnmodel/store/VersionNumberInternal.h"
 
-#include <algorithm>
-#include <array>
 #include <cerrno>
-#include <iterator>
 #include <mutex>
 #include <optional>
 #include <system_error>
@@ -26,66 +20,37 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view kModelsFolder = ".momd";
-constexpr std::string_view kModelFile = ".json";
-constexpr std::string_view kMappingFile = ".mapping.json";
-constexpr std::string_view kModelFileAtTheTop = ".model.json";
-constexpr std::string_view kVersionInformation = "VersionInfo.json";
 constexpr std::string_view kProgressKey = "migrationProgress";
-
-NSError migrationError(MigrationErrorCode code, std::string_view description)
-{
-    return {MigrationErrorDomain, code, description};
-}
-
-NSError missingMapping()
-{
-    return migrationError(MigrationErrorNoPath, "No mapping model found in bundle");
-}
 
 NSError cancellation()
 {
-    return migrationError(MigrationErrorCancelled, "The migration was cancelled");
+    return {MigrationErrorDomain, MigrationErrorCancelled, "The migration was cancelled"};
 }
 
-std::string nameOfModelFile(const fs::path& file)
+/// Empty, with an error, when there can be none.
+fs::path folderOfBackups(NSError* error)
 {
-    std::string name = file.filename().string();
-    name.resize(name.size() - (name.ends_with(kModelFileAtTheTop) ? kModelFileAtTheTop : kModelFile).size());
-    return name;
-}
-
-/// What is in the folder and has a name that ends so, in the order of the versions.
-std::vector<fs::path> itemsInFolder(const fs::path& folder, std::string_view ending)
-{
-    std::vector<fs::path> items;
-    std::error_code failure;
-    for (fs::directory_iterator entry(folder, failure), end; !failure && entry != end; entry.increment(failure))
-        if (entry->path().filename().string().ends_with(ending))
-            items.push_back(entry->path());
-    std::ranges::sort(items, [](const fs::path& one, const fs::path& other) {
-        const std::string name = nameOfModelFile(one);
-        const std::string otherName = nameOfModelFile(other);
-        return versionNumberOf(name) < versionNumberOf(otherName);
-    });
-    return items;
-}
-
-bool isVersionOfModel(const fs::path& file)
-{
-    const std::string name = file.filename().string();
-    return name != kVersionInformation && !name.ends_with(kMappingFile);
+    fs::path folder = OVLocalFileManager::temporaryDirectoryURL();
+    if (folder.empty())
+        assignError(error, NSError(NSPOSIXErrorDomain, ENOENT, "There is no folder to keep the old store in"));
+    return folder;
 }
 
 /// The file of a new store while it is made; gone at the end of the scope unless it has got the store's name.
 class SideFile {
 public:
     explicit SideFile(fs::path path) : path_(std::move(path)) { remove(); }
-    ~SideFile() { remove(); }
+    ~SideFile()
+    {
+        if (isOurs_)
+            remove();
+    }
     SideFile(const SideFile&) = delete;
     SideFile& operator=(const SideFile&) = delete;
 
     const fs::path& path() const noexcept { return path_; }
+    /// Its name is free: another process may use it already.
+    void isTheStoreNow() noexcept { isOurs_ = false; }
 
 private:
     /// Files, links and empty folders alone: what somebody keeps in a folder of that name is not for us to delete.
@@ -98,28 +63,25 @@ private:
     }
 
     fs::path path_;
+    bool isOurs_ = true;
 };
 
 /// Turns the progress of several runs into that of the step, from 0 to 1, telling no value twice.
 class StepProgress {
 public:
     StepProgress(std::size_t runs, std::function<void(float)> tell) : runs_(runs), tell_(std::move(tell)) { at(0); }
-    /// Of the run under way.
+    /// Of those before it some may have failed.
+    void beginRun(std::size_t run) { run_ = run; }
     void at(float progress)
     {
-        const float all = (static_cast<float>(runsDone_) + progress) / static_cast<float>(runs_);
+        const float all = (static_cast<float>(run_) + progress) / static_cast<float>(runs_);
         if (std::exchange(last_, all) != all)
             tell_(all);
-    }
-    void finishRun()
-    {
-        at(1);
-        ++runsDone_;
     }
 
 private:
     std::size_t runs_;
-    std::size_t runsDone_ = 0;
+    std::size_t run_ = 0;
     std::optional<float> last_;
     std::function<void(float)> tell_;
 };
@@ -143,13 +105,27 @@ struct VexMigrationManager::Cancellation {
     bool isAskedFor = false;
     NSMigrationManager* running = nullptr;
 
-    void setRunning(NSMigrationManager* manager)
-    {
-        const std::lock_guard lock(mutex);
-        running = manager;
-        if (running && isAskedFor)
-            running->cancelMigrationWithError(cancellation());
-    }
+    /// Makes a run known for a scope.
+    class Run {
+    public:
+        Run(Cancellation& reached, NSMigrationManager& manager) : reached_(reached)
+        {
+            const std::lock_guard lock(reached_.mutex);
+            reached_.running = &manager;
+            if (reached_.isAskedFor)
+                manager.cancelMigrationWithError(cancellation());
+        }
+        ~Run()
+        {
+            const std::lock_guard lock(reached_.mutex);
+            reached_.running = nullptr;
+        }
+        Run(const Run&) = delete;
+        Run& operator=(const Run&) = delete;
+
+    private:
+        Cancellation& reached_;
+    };
 };
 
 VexMigrationManager::VexMigrationManager() : cancellation_(std::make_unique<Cancellation>()) { }
@@ -216,54 +192,39 @@ bool VexMigrationManager::migrateOneStep(
     const fs::path& storeURL, const NSManagedObjectModel& finalModel, NSError* error)
 {
     held_ = HeldStoreFile::hold(storeURL, goesOnWaiting(), error);
-    const std::shared_ptr<void> release(nullptr, [this](void*) { held_.reset(); });
     if (!held_)
         return false;
-    if (NSPersistentStoreCoordinator::isModelCompatibleWithStoreMetadata(finalModel, held_->metadata()))
-        return true;
+    try {
+        const bool isDone
+            = NSPersistentStoreCoordinator::isModelCompatibleWithStoreMetadata(finalModel, held_->metadata())
+            || migrateHeldStore(error);
+        held_.reset();
+        return isDone;
+    } catch (...) {
+        held_.reset();
+        throw;
+    }
+}
+
+bool VexMigrationManager::migrateHeldStore(NSError* error)
+{
     Step step;
     if (!findStep(step, error))
         return false;
-    const SideFile side(destinationStoreURLWithSourceStoreURL(held_->file(), step.modelName));
+    SideFile side(destinationStoreURLWithSourceStoreURL(held_->file(), step.modelName));
     if (!hasSpaceForStep(error) || !runStep(step, side.path(), error)
         || !backupSourceStoreAtURL(held_->file(), side.path(), error))
         return false;
+    side.isTheStoreNow();
     addMigratedVersion(step.modelName);
-    return true;
-}
-
-bool VexMigrationManager::findStep(Step& step, NSError* error)
-{
-    if (modelPaths().empty()) {
-        assignError(error, migrationError(MigrationErrorNoPath, "No models found!"));
-        return false;
-    }
-    step.source = sourceModelForSourceMetadata(held_->metadata());
-    std::shared_ptr<const NSMappingModel> found;
-    const bool isReadable = NSPersistentStoreCoordinator::formatOfStoreMetadata(held_->metadata())
-        == NSPersistentStoreCoordinator::currentStoreFormat();
-    if (!step.source || !isReadable) {
-        assignError(error, missingMapping());
-        return false;
-    }
-    if (!getDestinationModel(step.destination, found, step.modelName, *step.source, error))
-        return false;
-    // Mappings that lead back to where the run has been would go on for ever.
-    if (std::ranges::find(validMigratedVersions_, step.modelName) != validMigratedVersions_.end()) {
-        assignError(error, missingMapping());
-        return false;
-    }
-    if (VexMigrationManagerDelegate* const listener = delegate())
-        step.mappings = listener->migrationManagerMappingModelsForSourceModel(*this, step.source);
-    std::erase(step.mappings, nullptr);
-    if (step.mappings.empty())
-        step.mappings.push_back(std::move(found));
     return true;
 }
 
 bool VexMigrationManager::hasSpaceForStep(NSError* error) const
 {
-    const fs::path backups = OVLocalFileManager::temporaryDirectoryURL();
+    const fs::path backups = folderOfBackups(error);
+    if (backups.empty())
+        return false;
     const bool isCopied = !NSFileManager::areOnOneFileSystem(backups, held_->file());
     const MigrationSpace need = MigrationSpace::forStore(held_->size(), 1, isCopied);
     return hasSpace(need.besideStore, held_->file().parent_path(), error)
@@ -276,13 +237,13 @@ bool VexMigrationManager::runStep(const Step& step, const fs::path& destination,
     StepProgress progress(
         step.mappings.size(), [&](float change) { observeValueForKeyPath(kProgressKey, manager, change); });
     manager.observeMigrationProgress([&](float change) { progress.at(change); });
-    cancellation_->setRunning(&manager);
-    const std::shared_ptr<void> end(nullptr, [&](void*) { cancellation_->setRunning(nullptr); });
+    const Cancellation::Run reached(*cancellation_, manager);
     bool isMigrated = false;
-    for (const auto& mapping : step.mappings) {
-        isMigrated = manager.migrateStore(*held_, *mapping, destination, error);
+    for (std::size_t run = 0; run < step.mappings.size(); ++run) {
+        progress.beginRun(run);
+        isMigrated = manager.migrateStore(*held_, *step.mappings[run], destination, error);
         if (isMigrated)
-            progress.finishRun();
+            progress.at(1);
     }
     return isMigrated && !isCancelled();
 }
@@ -295,53 +256,6 @@ void VexMigrationManager::observeValueForKeyPath(std::string_view keyPath, NSMig
 }
 
 // Parts of a step -----------------------------------------------------------------------------------------------------
-
-std::vector<fs::path> VexMigrationManager::modelPaths()
-{
-    std::vector<fs::path> paths;
-    const auto resources = resourceFolder();
-    if (!resources)
-        return paths;
-    for (const fs::path& folder : itemsInFolder(*resources, kModelsFolder))
-        std::ranges::copy_if(itemsInFolder(folder, kModelFile), std::back_inserter(paths), isVersionOfModel);
-    std::ranges::copy(itemsInFolder(*resources, kModelFileAtTheTop), std::back_inserter(paths));
-    return paths;
-}
-
-std::shared_ptr<const NSManagedObjectModel> VexMigrationManager::sourceModelForSourceMetadata(
-    const std::map<std::string, std::string>& metadata)
-{
-    for (const fs::path& path : modelPaths()) {
-        const auto model = NSManagedObjectModel::modelWithContentsOfFile(path);
-        if (model && NSPersistentStoreCoordinator::isModelCompatibleWithStoreMetadata(*model, metadata))
-            return model;
-    }
-    return nullptr;
-}
-
-bool VexMigrationManager::getDestinationModel(std::shared_ptr<const NSManagedObjectModel>& destinationModel,
-    std::shared_ptr<const NSMappingModel>& mappingModel, std::string& modelName,
-    const NSManagedObjectModel& sourceModel, NSError* error)
-{
-    const std::vector<fs::path> paths = modelPaths();
-    if (paths.empty()) {
-        assignError(error, migrationError(MigrationErrorNoPath, "No models found!"));
-        return false;
-    }
-    const std::array bundles{resourceFolder().value_or(fs::path())};
-    for (const fs::path& path : paths) {
-        std::shared_ptr<const NSManagedObjectModel> model = NSManagedObjectModel::modelWithContentsOfFile(path);
-        auto mapping = model ? NSMappingModel::mappingModelFromBundles(bundles, sourceModel, *model) : nullptr;
-        if (!mapping)
-            continue;
-        destinationModel = std::move(model);
-        mappingModel = std::move(mapping);
-        modelName = nameOfModelFile(path);
-        return true;
-    }
-    assignError(error, missingMapping());
-    return false;
-}
 
 fs::path VexMigrationManager::destinationStoreURLWithSourceStoreURL(
     const fs::path& sourceStoreURL, std::string_view modelName)
@@ -356,16 +270,14 @@ bool VexMigrationManager::backupSourceStoreAtURL(
 {
     std::unique_ptr<HeldStoreFile> heldForThis;
     HeldStoreFile* source = held_.get();
-    if (!source || source->file() != sourceStoreURL) {
+    std::error_code ignored;
+    if (!source || !fs::equivalent(source->file(), sourceStoreURL, ignored)) {
         heldForThis = HeldStoreFile::hold(sourceStoreURL, goesOnWaiting(), error);
         source = heldForThis.get();
     }
-    const fs::path folder = source ? OVLocalFileManager::temporaryDirectoryURL() : fs::path();
-    if (source && folder.empty())
-        assignError(error,
-            NSError(NSPOSIXErrorDomain, ENOENT, "There is no folder for temporary files to keep the old store in"));
-    return source && !folder.empty()
-        && source->replaceWith(movingDestinationStoreAtURL, folder / (newUUIDString() + ".sqlite"), error);
+    const fs::path backups = source ? folderOfBackups(error) : fs::path();
+    return !backups.empty()
+        && source->replaceWith(movingDestinationStoreAtURL, backups / (newUUIDString() + ".sqlite"), error);
 }
 
 } // namespace tarn

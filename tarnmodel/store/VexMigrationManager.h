@@ -110,6 +110,7 @@ private:
     struct Cancellation;
 
     bool migrateOneStep(const std::filesystem::path& storeURL, const NSManagedObjectModel& finalModel, NSError* error);
+    bool migrateHeldStore(NSError* error);
     bool findStep(Step& step, NSError* error);
     bool hasSpaceForStep(NSError* error) const;
     bool runStep(const Step& step, const std::filesystem::path& destination, NSError* error);
