@@ -59,13 +59,14 @@ Value numberOfType(const Value& value, NSAttributeType to)
     }
 }
 
-/// SQLite's "round" takes the number below 0.5 for 1. A cast to INTEGER truncates and saturates; a number of 2 to the
-/// 52nd and more is a whole one.
+/// The same in SQL. A cast to INTEGER drops the fraction and saturates; from 2 to the 52nd on there is none. SQLite's
+/// own "round" takes the number below a half for a half.
 std::string roundedColumn(const std::string& column)
 {
     const std::string whole = "CAST(" + column + " AS INTEGER)";
-    return "CASE WHEN abs(" + column + ") < 4503599627370496.0 THEN " + whole + " + (" + column + " - " + whole
-        + " >= 0.5) - (" + column + " - " + whole + " <= -0.5) ELSE " + whole + " END";
+    const std::string fraction = "(" + column + " - " + whole + ")";
+    return "CASE WHEN abs(" + column + ") < 4503599627370496.0 THEN " + whole + " + (" + fraction + " >= 0.5) - ("
+        + fraction + " <= -0.5) ELSE " + whole + " END";
 }
 
 } // namespace
