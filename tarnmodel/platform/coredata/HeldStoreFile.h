@@ -13,6 +13,7 @@
 namespace tarn {
 
 class SQLiteConnection;
+class StoreFailure;
 
 /// The file of a store under the exclusive lock of one connection, which does all the reading: from when it is held to
 /// its end no other process or thread reads or writes the store. For exchanging a store's file for another.
@@ -31,6 +32,7 @@ public:
     HeldStoreFile(const HeldStoreFile&) = delete;
     HeldStoreFile& operator=(const HeldStoreFile&) = delete;
 
+    /// Where the file really lies: links are followed.
     const std::filesystem::path& file() const noexcept { return file_; }
     /// As it was read under the lock.
     const std::map<std::string, std::string>& metadata() const noexcept { return metadata_; }
@@ -40,17 +42,23 @@ public:
     /// Puts another file in the store's place; the store stays as `backup`, which must not exist. There is no moment
     /// without a store: first the store gets a second name (on another file system: a copy, read through the connection
     /// that holds the lock), then one renaming puts the successor over it. The successor, the copy and the folders are
-    /// on disk when it comes back with true.
+    /// on disk when it comes back with true. Until then the successor's lock is held as well.
     ///
-    /// False and an error when a step fails; the store is then where it was, and `backup` is gone again. `successor`
-    /// lies on the store's file system and no connection has it open.
+    /// False and an error when a step fails; the store is then where it was, and `backup` is gone again. (When neither
+    /// the store's folder can be made durable nor the old store be put back, the new one stays and the error says where
+    /// the old one lies.) `successor` is a store in the store's folder that no connection has open.
     bool replaceWith(const std::filesystem::path& successor, const std::filesystem::path& backup, NSError* error);
 
-    /// For the store's own rooms: the connection, whose main database is the store.
+    /// For the store's own rooms: the connection, whose main database is the store. It makes no files, so what is to
+    /// be attached has to be there (and is let go of before `replaceWith`).
     SQLiteConnection& connection() noexcept { return *connection_; }
 
 private:
     explicit HeldStoreFile(std::filesystem::path file);
+    bool lock(const std::function<bool(std::chrono::milliseconds)>& whileWaiting);
+    void keepAs(const std::filesystem::path& backup);
+    void putBack(
+        const std::filesystem::path& backup, const std::filesystem::path& freeName, const StoreFailure& reason);
 
     std::filesystem::path file_;
     std::unique_ptr<SQLiteConnection> connection_;

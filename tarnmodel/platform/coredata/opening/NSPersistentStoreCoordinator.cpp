@@ -72,12 +72,18 @@ std::optional<std::map<std::string, std::string>> NSPersistentStoreCoordinator::
     reportingFailure(error, [&] {
         if (type != StoreType::SQLite)
             throw StoreFailure(StoreErrorNotAStore, "A store in memory has no file.");
-        SQLiteConnectionOptions options;
-        options.queryOnly = true;
-        SQLiteConnection connection(file, options);
-        if (contentsOfStoreFile(connection) != StoreFileContents::Store)
-            throw StoreFailure(StoreErrorNotAStore, "The file is not a store.");
-        metadata = readStoreMetadata(connection);
+        for (int attempt = 1; !metadata; ++attempt) {
+            SQLiteConnectionOptions options;
+            options.queryOnly = true;
+            SQLiteConnection connection(file, options);
+            if (contentsOfStoreFile(connection) == StoreFileContents::Store)
+                metadata = readStoreMetadata(connection);
+            // Who migrated the store while its lock was waited for has left a new file under its name.
+            if (attempt < SQLiteConnection::mostReplacements && connection.hasMovedFile())
+                metadata.reset();
+            else if (!metadata)
+                throw StoreFailure(StoreErrorNotAStore, "The file is not a store.");
+        }
     });
     return metadata;
 }

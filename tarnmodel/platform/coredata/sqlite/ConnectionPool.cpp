@@ -32,9 +32,13 @@ ReadAccess::~ReadAccess()
 // Pool ----------------------------------------------------------------------------------------------------------------
 
 ConnectionPool::ConnectionPool(const std::filesystem::path& file, const SQLiteConnectionOptions& options)
-    : file_(file.empty() ? file : std::filesystem::absolute(file)), options_(options),
-      writer_(std::make_unique<SQLiteConnection>(file_, options)), identity_(identityOfFile())
-{ }
+    : file_(file.empty() ? file : std::filesystem::absolute(file)), options_(options)
+{
+    do {
+        writer_ = std::make_unique<SQLiteConnection>(file_, options);
+        identity_ = identityOfFile();
+    } while (identity_ && writer_->hasMovedFile());
+}
 
 std::optional<ConnectionPool::FileIdentity> ConnectionPool::identityOfFile() const
 {
@@ -82,6 +86,7 @@ ReadAccess ConnectionPool::lend()
         options.queryOnly = true;
         options.pragmas.erase("journal_mode"); // the writing connection has set it
         connection = std::make_unique<SQLiteConnection>(file_, options);
+        checkFileIsTheSame(); // or this would be the only one that reads the new file
         ++readerCount_;
     }
     SQLiteConnection& lent = *connection;

@@ -357,6 +357,12 @@ bool SQLiteConnection::hasMetCommit() noexcept
     return std::exchange(seenData_, data) != data;
 }
 
+bool SQLiteConnection::hasMovedFile() const noexcept
+{
+    int hasMoved = 0;
+    return sqlite3_file_control(handle_, "main", SQLITE_FCNTL_HAS_MOVED, &hasMoved) == SQLITE_OK && hasMoved != 0;
+}
+
 bool SQLiteConnection::isReadOnly() const noexcept
 {
     return sqlite3_db_readonly(handle_, "main") == 1;

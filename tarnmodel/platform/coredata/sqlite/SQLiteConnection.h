@@ -107,6 +107,10 @@ public:
     bool isWriting() const noexcept;
     /// Whether the system lets this process only read the file. SQLite would begin a "write" transaction all the same.
     bool isReadOnly() const noexcept;
+    /// Whether the file has another name by now, or none: another one may have taken its place.
+    bool hasMovedFile() const noexcept;
+    /// So often may migrations exchange the file of a store while somebody waits for its lock, who then opens it again.
+    static constexpr int mostReplacements = 16;
     /// "PRAGMA data_version", which moves for commits of others; none where that would mean to wait.
     std::optional<std::int64_t> dataVersionAtOnce();
     /// Whether a commit came in below what this connection has read since it was last asked.

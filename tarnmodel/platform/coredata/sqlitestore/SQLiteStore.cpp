@@ -43,9 +43,20 @@ SQLiteConnectionOptions connectionOptions(const StoreOptions& options)
 SQLiteStore::SQLiteStore(
     std::shared_ptr<const NSManagedObjectModel> model, const std::filesystem::path& file, const StoreOptions& options)
     : model_(std::move(model)), file_(file), readOnly_(options.readOnly), schema_(*model_), selects_(schema_, *model_),
-      pool_(std::make_unique<ConnectionPool>(file, connectionOptions(options))), searchIndex_(schema_)
+      searchIndex_(schema_)
 {
-    openFile(options.createIfMissing && !options.readOnly);
+    for (int attempt = 1;; ++attempt) {
+        pool_ = std::make_unique<ConnectionPool>(file, connectionOptions(options));
+        try {
+            openFile(options.createIfMissing && !options.readOnly);
+            pool_->checkFileIsTheSame();
+            return;
+        } catch (const StoreFailure&) {
+            // Who migrated the store while its lock was waited for has left a new file under its name.
+            if (attempt == SQLiteConnection::mostReplacements || !pool_->writer().hasMovedFile())
+                throw;
+        }
+    }
 }
 
 void SQLiteStore::openFile(bool createIfMissing)

@@ -2,8 +2,10 @@
 
 #include "tarnmodel/platform/foundation/values/NSDate.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <span>
 #include <string_view>
@@ -51,6 +53,10 @@ public:
         const std::filesystem::path& backupURL, NSError* error = nullptr);
     /// Writes a new file, for its owner alone, under a hidden name first; fails when the name is taken.
     static bool createFileAtURL(const std::filesystem::path& url, const NSData& contents, NSError* error = nullptr);
+    /// The same, piece by piece: `nextPiece` fills a buffer from its beginning and says how much of it; 0 is the end,
+    /// none gives up, and then `error` is left as it is.
+    static bool createFileAtURL(const std::filesystem::path& url,
+        const std::function<std::optional<std::size_t>(std::span<std::byte>)>& nextPiece, NSError* error = nullptr);
     /// Removes a file, or a folder with all that is in it. Links are removed, not followed. True when there was
     /// nothing.
     static bool removeItemAtURL(const std::filesystem::path& url, NSError* error = nullptr);

@@ -22,6 +22,7 @@
 #include <string>
 #include <system_error>
 #include <utility>
+#include <vector>
 
 namespace tarn {
 
@@ -31,6 +32,7 @@ namespace fs = std::filesystem;
 
 /// From so many on one sync of the whole file system is cheaper than one for each.
 constexpr std::size_t kMostSingleSyncs = 16;
+constexpr std::size_t kPieceSize = std::size_t{1} << 18;
 constexpr std::size_t kCompareSize = std::size_t{1} << 16;
 
 NSDate dateOf(std::int64_t seconds, std::int64_t nanoseconds)
@@ -71,29 +73,58 @@ bool makeUnderHiddenName(const fs::path& destination, const std::function<bool(c
     return failWithSystemError(error, failure, destination, "made");
 }
 
-bool writeContents(const fs::path& file, const NSData& contents, NSError* error)
+/// The number of the error, 0 for none.
+int writeAll(int file, std::span<const std::byte> bytes)
+{
+    while (!bytes.empty()) {
+        const ssize_t count = ::write(file, bytes.data(), bytes.size());
+        if (count < 0 && errno != EINTR)
+            return errno;
+        if (count > 0)
+            bytes = bytes.subspan(static_cast<std::size_t>(count));
+    }
+    return 0;
+}
+
+/// Makes a file that `write` writes, who gives the number of an error, 0 for none; it is gone after a failure.
+bool writeNewFile(const fs::path& file, const std::function<int(int)>& write, NSError* error)
 {
     FileDescriptor descriptor(::open(file.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
     if (!descriptor)
         return failWithSystemError(error, errno, file, "made");
-    const std::byte* bytes = contents.bytes();
-    std::size_t rest = contents.length();
-    int failure = 0;
-    while (rest > 0 && failure == 0) {
-        const ssize_t count = ::write(descriptor.get(), bytes, rest);
-        if (count < 0)
-            failure = errno == EINTR ? 0 : errno;
-        else {
-            bytes += count;
-            rest -= static_cast<std::size_t>(count);
-        }
-    }
+    int failure = write(descriptor.get());
     if (::close(descriptor.release()) != 0 && failure == 0)
         failure = errno;
     if (failure == 0)
         return true;
     ::unlink(file.c_str());
-    return failWithSystemError(error, failure, file, "written");
+    return failure != ECANCELED && failWithSystemError(error, failure, file, "written");
+}
+
+bool writeContents(const fs::path& file, const NSData& contents, NSError* error)
+{
+    return writeNewFile(
+        file,
+        [&](int descriptor) {
+            return writeAll(descriptor, {contents.bytes(), contents.length()});
+        },
+        error);
+}
+
+bool writePieces(const fs::path& file, const std::function<std::optional<std::size_t>(std::span<std::byte>)>& nextPiece,
+    NSError* error)
+{
+    const auto write = [&](int descriptor) {
+        std::vector<std::byte> buffer(kPieceSize);
+        while (const auto count = nextPiece(buffer)) {
+            if (*count == 0)
+                return 0;
+            if (const int failure = writeAll(descriptor, std::span(buffer).first(*count)))
+                return failure;
+        }
+        return ECANCELED; // of the caller's own will
+    };
+    return writeNewFile(file, write, error);
 }
 
 std::size_t readPiece(int file, std::array<char, kCompareSize>& piece, bool& hasFailed)
@@ -222,6 +253,13 @@ bool NSFileManager::createFileAtURL(const fs::path& url, const NSData& contents,
 {
     return makeUnderHiddenName(
         url, [&](const fs::path& hidden) { return writeContents(hidden, contents, error); }, error);
+}
+
+bool NSFileManager::createFileAtURL(const fs::path& url,
+    const std::function<std::optional<std::size_t>(std::span<std::byte>)>& nextPiece, NSError* error)
+{
+    return makeUnderHiddenName(
+        url, [&](const fs::path& hidden) { return writePieces(hidden, nextPiece, error); }, error);
 }
 
 bool NSFileManager::removeItemAtURL(const fs::path& url, NSError* error)
