@@ -199,17 +199,27 @@ TEST_F(NextVersion, IsRefusedWhenItsMappingForgetsSomething)
         return NSMappingModel::mappingModelWithText(text, *source, *model_, &error) != nullptr;
     };
     EXPECT_TRUE(isRead(mapping)) << error;
-    for (const std::string forgotten : {R"~({"name": "summary", "value": "$source.subtitle"},)~",
-             R"~({"name": "wordCount", "value": "FUNCTION($entityPolicy, 'wordCount', $source.text)"})~",
-             R"~({"name": "passwords", "value": "$source.password"})~", R"~("subtitle", )~", R"~(, "password")~",
-             R"~({"kind": "copy", "source": "OVPassword", "destination": "OVPassword"},)~"}) {
-        SCOPED_TRACE(forgotten);
+    struct Omission {
+        std::string mention;
+        std::string inItsPlace;
+        std::string named; ///< in the error
+    };
+    const std::string other = R"({"name": "trashed", "value": "$source.trashed"})";
+    for (const auto& [mention, inItsPlace, named] :
+        {Omission{R"~({"name": "summary", "value": "$source.subtitle"})~", other, "summary"},
+            Omission{R"~({"name": "wordCount", "value": "FUNCTION($entityPolicy, 'wordCount', $source.text)"})~", other,
+                "wordCount"},
+            Omission{R"~({"name": "passwords", "value": "$source.password"})~", "", "passwords"},
+            Omission{R"("subtitle", )", "", "subtitle"}, Omission{R"(, "password")", "", "password"},
+            Omission{R"({"kind": "copy", "source": "OVPassword", "destination": "OVPassword"},)", "", "OVPassword"}}) {
+        SCOPED_TRACE(mention);
         std::string text = mapping;
-        ASSERT_NE(text.find(forgotten), std::string::npos);
-        text.erase(text.find(forgotten), forgotten.size());
+        ASSERT_NE(text.find(mention), std::string::npos);
+        text.replace(text.find(mention), mention.size(), inItsPlace);
         error = {};
         EXPECT_FALSE(isRead(text));
-        EXPECT_EQ(error.code(), StoreErrorInvalidModel) << error;
+        EXPECT_EQ(error.code(), StoreErrorInvalidModel);
+        EXPECT_THAT(error.localizedDescription(), HasSubstr(named));
     }
 }
 
