@@ -146,4 +146,5 @@
 #include "tarnmodel/store/OVCoreDataStackForExtensions.h"
 #include "tarnmodel/store/OVCoreDataStackForWidgets.h"
 #include "tarnmodel/store/OVManagedObjectObserver.h"
+#include "tarnmodel/store/StoreMigrationPlan.h"
 #include "tarnmodel/store/VexMigrationManager.h"

@@ -58,4 +58,16 @@ std::optional<fs::path> resourceNamed(std::string_view name)
     return std::nullopt;
 }
 
+std::optional<fs::path> resourceFolder()
+{
+    if (const auto models = resourceNamed("Model.momd"))
+        return models->parent_path();
+    for (const fs::path& folder : resourceFolders()) {
+        std::error_code failure;
+        if (fs::is_directory(folder, failure))
+            return folder;
+    }
+    return std::nullopt;
+}
+
 } // namespace tarn

@@ -12,5 +12,7 @@ namespace tarn {
 /// folder of the program, then beside that of the library; the source folder of this build; the folder that this build
 /// installs into. Any thread.
 std::optional<std::filesystem::path> resourceNamed(std::string_view name);
+/// The first of these folders that has "Model.momd", else the first one that is there; none when none is. Any thread.
+std::optional<std::filesystem::path> resourceFolder();
 
 } // namespace tarn

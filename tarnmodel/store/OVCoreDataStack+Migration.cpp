@@ -1,3 +1,4 @@
+#include "tarnmodel/files/OVLocalFileManager.h"
 #include "tarnmodel/platform/coredata/StoreErrors.h"
 #include "tarnmodel/platform/coredata/StoreFileMove.h"
 #include "tarnmodel/platform/foundation/events/NSProgress.h"
@@ -39,11 +40,11 @@ std::filesystem::path backupOfStore(const std::filesystem::path& store)
     return store.parent_path() / ("database_backup " + stamp + ".sqlite");
 }
 
-void setStoreAside(const std::filesystem::path& store)
+void moveAside(const std::filesystem::path& store, const std::filesystem::path& place)
 {
     NSError error;
     // What stays in its place cannot be opened, and the delegate hears of that.
-    if (!moveStoreFile(store, backupOfStore(store), &error))
+    if (!moveStoreFile(store, place, &error))
         logMessage("Error while setting the old store aside\n" + error.localizedDescription());
 }
 
@@ -72,6 +73,8 @@ void OVCoreDataStack::migrate()
     if (migrationQueue_)
         return;
     migrationQueue_ = SerialQueue::make("migrationQueue");
+    // A migration that was killed may have left a second name of the store.
+    OVLocalFileManager::removeAbandonedTemporaryDirectories();
     const auto progress = NSProgress::progressWithTotalUnitCount(kProgressUnits);
     if (OVCoreDataStackDelegate* const listener = delegate())
         listener->coreDataStackDidBeginMigrationWithProgress(*this, progress);
@@ -79,34 +82,65 @@ void OVCoreDataStack::migrate()
     migrationQueue_->async([this, progress, makeManager = makeMigrationManager_] {
         MigrationEnd end = [&] {
             const CurrentProgress current(*progress, 0);
-            return runMigration(makeManager);
+            return runMigration(*progress, makeManager);
         }();
+        progress->setCancellationHandler({});
         MainQueue::main().async([this, stack = lifeline(), end = std::move(end)] {
-            if (!stack.expired())
+            if (stack.expired())
+                return;
+            if (isWithoutPath(end.error))
+                setStoreAside(end);
+            else
                 endMigration(end);
         });
     });
 }
 
-OVCoreDataStack::MigrationEnd OVCoreDataStack::runMigration(const MigrationManagerMaker& makeManager)
+OVCoreDataStack::MigrationEnd OVCoreDataStack::runMigration(
+    NSProgress& progress, const MigrationManagerMaker& makeManager)
 {
     MigrationEnd end;
     try {
-        const auto manager = makeManager ? makeManager() : std::make_unique<VexMigrationManager>();
+        const std::shared_ptr<VexMigrationManager> manager
+            = makeManager ? makeManager() : std::make_unique<VexMigrationManager>();
         manager->setDelegate(this);
+        manager->setWhileWaiting(persistentStoreOptions().whileWaiting);
+        progress.setCancellationHandler([manager] { manager->cancelMigration(); });
         NSError error;
         const auto model = managedObjectModel(&error);
-        if (!model || !manager->progressivelyMigrateURL(persistentStoreURL(), persistentStoreType(), *model, &error))
+        if (!model || !manager->progressivelyMigrateURL(persistentStoreURL(), persistentStoreType(), model, &error))
             end.error = error;
         end.migratedVersions = manager->migratedVersions();
-        if (isWithoutPath(end.error)) {
-            setStoreAside(persistentStoreURL());
-            end.error.reset();
-        }
+        if (model && isWithoutPath(end.error))
+            end.standing = StoreMigrationPlan::planForStoreAtURL(persistentStoreURL(), *model).standing;
     } catch (...) {
         end.error = errorOfCurrentException();
     }
     return end;
+}
+
+/// On the main queue, where the delegate can be asked; the store is moved on the migration's. Neither waits for the
+/// other: the main queue may be waiting for the migration to end.
+void OVCoreDataStack::setStoreAside(const MigrationEnd& end)
+{
+    const Lifeline stack = lifeline();
+    const std::filesystem::path place = backupOfStore(persistentStoreURL());
+    OVCoreDataStackDelegate* const listener = delegate();
+    const bool mayMove = !listener || listener->coreDataStackShouldSetStoreAsideAtURL(*this, end.standing, place);
+    if (stack.expired())
+        return;
+    if (!mayMove) {
+        endMigration(end);
+        return;
+    }
+    migrationQueue_->async([this, place, versions = end.migratedVersions] {
+        if (isMigrationNeeded()) // another process may have made good what could not be read
+            moveAside(persistentStoreURL(), place);
+        MainQueue::main().async([this, stack = lifeline(), versions] {
+            if (!stack.expired())
+                endMigration({.error = std::nullopt, .migratedVersions = versions});
+        });
+    });
 }
 
 void OVCoreDataStack::migrationManagerMigrationProgress(VexMigrationManager&, float progress)

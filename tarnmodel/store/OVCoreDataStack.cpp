@@ -45,6 +45,7 @@ void OVCoreDataStack::setDelegate(OVCoreDataStackDelegate* delegate)
 void OVCoreDataStack::setupStackWithDelegate(OVCoreDataStackDelegate* delegate)
 {
     setDelegate(delegate);
+    OVLocalFileManager::removeAbandonedTemporaryDirectories();
     if (isMigrationNeeded())
         migrate();
     else
@@ -58,7 +59,6 @@ void OVCoreDataStack::setupStack()
     if (managedObjectContext_)
         managedObjectContext_->performBlockAndWait(
             [this] { OVNoteFile::recoverFilesInManagedObjectContext(*managedObjectContext_); });
-    OVLocalFileManager::removeAbandonedTemporaryDirectories();
     OVCoreDataStackDelegate* const listener = delegate();
     if (listener && managedObjectContext_)
         listener->coreDataStackDidInitializeManagedObjectContext(*this, *managedObjectContext_);
@@ -82,6 +82,8 @@ bool OVCoreDataStack::openStore(NSManagedObjectContext::ConcurrencyType type, NS
     auto model = managedObjectModel(error);
     if (!model)
         return false;
+    // Before the store is opened: a migration that was killed may have left a second name of it there.
+    OVLocalFileManager::removeAbandonedTemporaryDirectories();
     auto coordinator = std::make_shared<NSPersistentStoreCoordinator>(std::move(model));
     if (!coordinator->addPersistentStoreWithType(
             persistentStoreType(), persistentStoreURL(), persistentStoreOptions(), error))
@@ -296,6 +298,7 @@ StoreOptions OVCoreDataStack::persistentStoreOptions() const
 
 bool OVCoreDataStack::refusesToMigrate(std::string_view domain, NSError* error) const
 {
+    OVLocalFileManager::removeAbandonedTemporaryDirectories(); // before the store is opened to look at it
     if (!isMigrationNeeded())
         return false;
     assignError(error, NSError(domain, kNeedsMigrationCode, kNeedsMigration));

@@ -6,6 +6,7 @@
 #include "tarnmodel/platform/foundation/events/Queue.h"
 #include "tarnmodel/platform/foundation/values/WeakReference.h"
 #include "tarnmodel/store/OVCoreDataStackDelegate.h"
+#include "tarnmodel/store/StoreMigrationPlan.h"
 #include "tarnmodel/store/VexMigrationManager.h"
 
 #include <filesystem>
@@ -100,7 +101,8 @@ public:
     /// Whether there is a store that another version of the model wrote. False without one, or when it is unreadable.
     bool isMigrationNeeded() const;
     /// Migrates the store on a queue of its own, then sets up the stack. A store that cannot be migrated is kept beside
-    /// the new one as "database_backup <time>.sqlite". Does nothing while a migration is under way.
+    /// the new one as "database_backup <time>.sqlite", unless the delegate objects. Does nothing while a migration is
+    /// under way. Who cancels the progress that the delegate gets ends it.
     virtual void migrate();
     /// For tests, and for hosts that bring their own; an empty maker restores the library's. Counts from the next
     /// migration on.
@@ -129,9 +131,11 @@ private:
     struct MigrationEnd {
         std::optional<NSError> error;
         std::vector<std::string> migratedVersions;
+        StoreStanding standing = StoreStanding::Unknown; ///< of a store without a path
     };
 
-    MigrationEnd runMigration(const MigrationManagerMaker& makeManager);
+    MigrationEnd runMigration(NSProgress& progress, const MigrationManagerMaker& makeManager);
+    void setStoreAside(const MigrationEnd& end);
     void endMigration(const MigrationEnd& end);
     void waitForMigration();
     void runInBackground(std::function<void(NSManagedObjectContext&)> block);

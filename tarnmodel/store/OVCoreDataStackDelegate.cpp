@@ -13,6 +13,12 @@ void OVCoreDataStackDelegate::coreDataStackDidEndMigration(
     OVCoreDataStack&, const std::optional<NSError>&, const std::vector<std::string>&)
 { }
 
+bool OVCoreDataStackDelegate::coreDataStackShouldSetStoreAsideAtURL(
+    OVCoreDataStack&, StoreStanding, const std::filesystem::path&)
+{
+    return true;
+}
+
 void OVCoreDataStackDelegate::coreDataStackDidFailToSave(OVCoreDataStack&, const NSError&) { }
 
 bool OVCoreDataStackDelegate::coreDataStackShouldKeepLosingText(OVCoreDataStack&, const MergeConflict&)

@@ -3,6 +3,8 @@
 #include "tarnmodel/platform/foundation/values/NSError.h"
 #include "tarnmodel/platform/foundation/values/WeakReference.h"
 
+#include <cstdint>
+#include <filesystem>
 #include <memory>
 #include <optional>
 #include <string>
@@ -14,6 +16,7 @@ class NSManagedObjectContext;
 class NSProgress;
 class OVNote;
 class OVCoreDataStack;
+enum class StoreStanding : std::uint8_t;
 struct MergeConflict;
 
 /// What a store stack tells its owner, always on the main queue.
@@ -29,13 +32,20 @@ public:
         OVCoreDataStack& stack, NSManagedObjectContext& context);
     /// The store could not be opened; there is no main context.
     virtual void coreDataStackDidFailToInitializeManagedObjectContext(OVCoreDataStack& stack, const NSError& error) = 0;
-    /// A migration begins. Of 100 units; it moves on another thread.
+    /// A migration begins. Of 100 units; it moves on another thread. To cancel it ends the migration with the error
+    /// "Kelpa" 8003; the store then has the last version that it reached.
     virtual void coreDataStackDidBeginMigrationWithProgress(
         OVCoreDataStack& stack, const std::shared_ptr<NSProgress>& progress);
     /// The migration has ended: without an error when the store is current now, or was set aside for a new one.
     /// `migratedVersions`: the models that the store was brought to, in order.
     virtual void coreDataStackDidEndMigration(OVCoreDataStack& stack, const std::optional<NSError>& migrationError,
         const std::vector<std::string>& migratedVersions);
+
+    /// Whether a store that cannot be migrated may be moved to `place`, in the same folder, and a new one be made; its
+    /// standing tells a later version's store from one without a path. False ends the migration with the error "Kelpa"
+    /// 8001, and the store stays where it is.
+    virtual bool coreDataStackShouldSetStoreAsideAtURL(
+        OVCoreDataStack& stack, StoreStanding standing, const std::filesystem::path& place);
 
     /// The stack could not save the main context. Its changes are still there, and the next save tries again.
     virtual void coreDataStackDidFailToSave(OVCoreDataStack& stack, const NSError& error);

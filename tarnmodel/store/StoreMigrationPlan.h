@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -13,7 +14,7 @@ class NSManagedObjectModel;
 
 /// How a store stands to this version of the library.
 enum class StoreStanding : std::uint8_t {
-    Missing,    ///< there is no file
+    Missing,    ///< there is no file, or an empty one: opening makes a store
     Current,    ///< it can be opened
     Older,      ///< it can be migrated
     Newer,      ///< a later version of the library wrote it
@@ -28,13 +29,17 @@ struct StoreMigrationPlan {
     std::string currentVersion;        ///< the model of this library
     std::vector<std::string> versions; ///< the models that it would be brought to, in order
     std::uintmax_t storeSize = 0;      ///< of the file, in bytes
-    std::uintmax_t neededSpace = 0;    ///< room for new store and backup at once, in bytes
-    std::uintmax_t availableSpace = 0; ///< where they would lie, in bytes
+    std::uintmax_t neededSpace = 0;    ///< in the store's folder, for new stores and for backups that lie on its disk
+    std::uintmax_t availableSpace = 0; ///< in the store's folder; 0 when the system does not say
     NSError error;                     ///< why it is unreadable
 
     /// Of the store at this place, for the model that is to open it.
     static StoreMigrationPlan planForStoreAtURL(
         const std::filesystem::path& storeURL, const NSManagedObjectModel& currentModel);
+
+private:
+    void judge(const std::map<std::string, std::string>& metadata, const NSManagedObjectModel& currentModel);
+    void measure(const std::filesystem::path& storeURL);
 };
 
 } // namespace tarn

@@ -45,8 +45,8 @@ public:
 /// Brings a store forward to the current model, one version at a time. One manager serves one run, on one thread.
 ///
 /// Each step makes the store anew in a file beside it ("database.Model 2.sqlite"), under the lock of the old one, and
-/// then exchanges the files without a moment in which there is no store. What it was before stays, until the process
-/// and the next one have ended, in the process's temporary folder.
+/// then exchanges the files without a moment in which there is no store. What it was before stays in the process's
+/// temporary folder, until the process has ended and another one sets up a stack.
 class VexMigrationManager {
 public:
     VexMigrationManager();
@@ -65,12 +65,14 @@ public:
     const std::vector<std::string>& migratedVersions() const noexcept { return validMigratedVersions_; }
     /// Ends the run soon, with `MigrationErrorCancelled`; the step under way leaves nothing behind. Any thread.
     void cancelMigration();
-    /// Called again and again while a lock of another process is waited for; see `StoreOptions::whileWaiting`.
+    /// Called again and again while a lock of another process is waited for; see `StoreOptions::whileWaiting`. Set it
+    /// before the run.
     void setWhileWaiting(std::function<bool(std::chrono::milliseconds)> whileWaiting);
 
     // Parts of a step -------------------------------------------------------------------------------------------------
-    /// The file of every version of the model that is installed: first those in the "momd" folders of the resources, in
-    /// the order of the versions, then those at their top.
+    /// The file of every version of the model that is installed: first those in the "momd" folders of the resources
+    /// ("Model 2.json"), in the order of the versions, then those at the top ("Other 2.model.json"). Their names
+    /// without these endings are the versions' names.
     static std::vector<std::filesystem::path> modelPaths();
     /// The installed version that a store with this metadata was written with; null when there is none.
     static std::shared_ptr<const NSManagedObjectModel> sourceModelForSourceMetadata(
@@ -84,7 +86,8 @@ public:
     static std::filesystem::path destinationStoreURLWithSourceStoreURL(
         const std::filesystem::path& sourceStoreURL, std::string_view modelName);
     /// Puts the file at `destinationStoreURL` in the place of the store, which stays in the process's temporary folder
-    /// under a name of its own. False and an error when that fails; the store is then where it was.
+    /// under a name of its own. Takes the store's lock unless a step has it. False and an error when that fails; the
+    /// store is then where it was.
     bool backupSourceStoreAtURL(const std::filesystem::path& sourceStoreURL,
         const std::filesystem::path& movingDestinationStoreAtURL, NSError* error = nullptr);
     /// Tells the delegate of "migrationProgress"; other keys are nobody's.
@@ -93,11 +96,31 @@ public:
 protected:
     /// For subclasses: the store has come to this version.
     void addMigratedVersion(std::string_view modelName);
+    /// For subclasses: `cancelMigration` was called. Any thread.
+    bool isCancelled() const;
 
 private:
+    /// From one version to the next.
+    struct Step {
+        std::shared_ptr<const NSManagedObjectModel> source;
+        std::shared_ptr<const NSManagedObjectModel> destination;
+        std::vector<std::shared_ptr<const NSMappingModel>> mappings;
+        std::string modelName; ///< of the destination
+    };
+    struct Cancellation;
+
+    bool migrateOneStep(const std::filesystem::path& storeURL, const NSManagedObjectModel& finalModel, NSError* error);
+    bool migrateHeldStore(NSError* error);
+    bool findStep(Step& step, NSError* error);
+    bool hasSpaceForStep(NSError* error) const;
+    bool runStep(const Step& step, const std::filesystem::path& destination, NSError* error);
+    std::function<bool(std::chrono::milliseconds)> goesOnWaiting() const;
+
     WeakReference<VexMigrationManagerDelegate> delegate_;
     std::vector<std::string> validMigratedVersions_;
+    std::function<bool(std::chrono::milliseconds)> whileWaiting_;
     std::unique_ptr<HeldStoreFile> held_; ///< the store, while a step is under way
+    std::unique_ptr<Cancellation> cancellation_;
 };
 
 } // namespace tarn

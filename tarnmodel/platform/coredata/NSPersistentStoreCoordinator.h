@@ -59,12 +59,20 @@ public:
     std::optional<NSManagedObjectID> managedObjectIDForURIRepresentation(std::string_view uri) const;
 
     /// The metadata of a store file without opening it as a store; none and an error when there is none or it is
-    /// unreadable.
-    static std::optional<std::map<std::string, std::string>> metadataForPersistentStoreOfType(
-        StoreType type, const std::filesystem::path& file, NSError* error = nullptr);
+    /// unreadable. `whileWaiting` as in `StoreOptions`.
+    static std::optional<std::map<std::string, std::string>> metadataForPersistentStoreOfType(StoreType type,
+        const std::filesystem::path& file, NSError* error = nullptr,
+        const std::function<bool(std::chrono::milliseconds)>& whileWaiting = {});
     /// Whether rows of a store with this metadata are rows of this model.
     static bool isModelCompatibleWithStoreMetadata(
         const NSManagedObjectModel& model, const std::map<std::string, std::string>& metadata);
+    /// The version identifier of the model that wrote a store with this metadata; empty when it does not say.
+    static std::string modelVersionOfStoreMetadata(const std::map<std::string, std::string>& metadata);
+    /// By which number of layout the tables of a store with this metadata are made; 0 when it does not say. A store of
+    /// another layout than `currentStoreFormat` is refused; a higher one is of a later version of this library.
+    static int formatOfStoreMetadata(const std::map<std::string, std::string>& metadata);
+    /// The layout of the stores that this version makes.
+    static int currentStoreFormat();
 
 private:
     std::shared_ptr<const NSManagedObjectModel> model_;

@@ -9,8 +9,21 @@
 #include "tarnmodel/platform/coredata/sqlitestore/SQLiteStore.h"
 
 #include <charconv>
+#include <system_error>
 
 namespace tarn {
+
+namespace {
+
+/// 0 for what is no number.
+int numberOf(std::string_view text)
+{
+    int number = 0;
+    const auto [end, failure] = std::from_chars(text.data(), text.data() + text.size(), number);
+    return failure == std::errc() && end == text.data() + text.size() ? number : 0;
+}
+
+} // namespace
 
 NSPersistentStoreCoordinator::NSPersistentStoreCoordinator(std::shared_ptr<const NSManagedObjectModel> model)
     : model_(std::move(model))
@@ -66,7 +79,8 @@ std::optional<NSManagedObjectID> NSPersistentStoreCoordinator::managedObjectIDFo
 }
 
 std::optional<std::map<std::string, std::string>> NSPersistentStoreCoordinator::metadataForPersistentStoreOfType(
-    StoreType type, const std::filesystem::path& file, NSError* error)
+    StoreType type, const std::filesystem::path& file, NSError* error,
+    const std::function<bool(std::chrono::milliseconds)>& whileWaiting)
 {
     std::optional<StoreMetadata> metadata;
     reportingFailure(error, [&] {
@@ -75,6 +89,7 @@ std::optional<std::map<std::string, std::string>> NSPersistentStoreCoordinator::
         for (int attempt = 1; !metadata; ++attempt) {
             SQLiteConnectionOptions options;
             options.queryOnly = true;
+            options.whileWaiting = whileWaiting;
             SQLiteConnection connection(file, options);
             if (contentsOfStoreFile(connection) == StoreFileContents::Store)
                 metadata = readStoreMetadata(connection);
@@ -92,6 +107,23 @@ bool NSPersistentStoreCoordinator::isModelCompatibleWithStoreMetadata(
     const NSManagedObjectModel& model, const std::map<std::string, std::string>& metadata)
 {
     return isMetadataOfModel(model, metadata);
+}
+
+std::string NSPersistentStoreCoordinator::modelVersionOfStoreMetadata(const StoreMetadata& metadata)
+{
+    const auto found = metadata.find(std::string(StoreModelVersionKey));
+    return found == metadata.end() ? std::string() : found->second;
+}
+
+int NSPersistentStoreCoordinator::formatOfStoreMetadata(const StoreMetadata& metadata)
+{
+    const auto found = metadata.find(std::string(StoreFormatVersionKey));
+    return found == metadata.end() ? 0 : numberOf(found->second);
+}
+
+int NSPersistentStoreCoordinator::currentStoreFormat()
+{
+    return numberOf(currentStoreFormatVersion);
 }
 
 } // namespace tarn

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <mutex>
+#include <utility>
 #include <vector>
 
 namespace tarn {
@@ -39,6 +40,8 @@ struct NSProgress::State {
     std::vector<Child> children; ///< unfinished ones
     std::weak_ptr<NSProgress> parent;
     NSNotificationCenter observers;
+    bool isCancelled = false;
+    std::function<void()> cancellationHandler;
 };
 
 NSProgress::NSProgress(std::int64_t total) : state_(std::make_unique<State>())
@@ -179,6 +182,44 @@ void NSProgress::childFinished(const NSProgress& child)
         return;
     state_->completed += found->pendingUnits;
     state_->children.erase(found);
+}
+
+// Giving up -----------------------------------------------------------------------------------------------------------
+
+void NSProgress::cancel()
+{
+    std::function<void()> handler;
+    std::vector<State::Child> children;
+    {
+        const std::lock_guard lock(state_->mutex);
+        if (std::exchange(state_->isCancelled, true))
+            return;
+        handler = std::exchange(state_->cancellationHandler, {});
+        children = state_->children;
+    }
+    if (handler)
+        handler();
+    for (const State::Child& child : children)
+        child.progress->cancel();
+}
+
+bool NSProgress::isCancelled() const
+{
+    const std::lock_guard lock(state_->mutex);
+    return state_->isCancelled;
+}
+
+void NSProgress::setCancellationHandler(std::function<void()> handler)
+{
+    {
+        const std::lock_guard lock(state_->mutex);
+        if (!state_->isCancelled) {
+            state_->cancellationHandler.swap(handler);
+            return; // the former one ends outside of the lock
+        }
+    }
+    if (handler)
+        handler();
 }
 
 // Observers -----------------------------------------------------------------------------------------------------------

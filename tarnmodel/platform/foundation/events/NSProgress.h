@@ -42,6 +42,17 @@ public:
     /// All units of a known total are completed.
     bool isFinished() const;
 
+    // Giving up -----------------------------------------------------------------------------------------------------
+    /// Asks whoever does the work to give it up, which is theirs to heed: calls the handler and cancels the unfinished
+    /// children. A second call does nothing.
+    void cancel();
+    /// Whether `cancel` was called. It stays so.
+    bool isCancelled() const;
+    /// Who does the work hears of `cancel` here, once, on the thread that cancels; at once when it was called before.
+    /// An empty handler ends it, but one that is being called may go on.
+    void setCancellationHandler(std::function<void()> handler);
+
+    // Parts ---------------------------------------------------------------------------------------------------------
     /// Makes this the current progress of the calling thread: the next progress that it makes becomes a child that
     /// stands for so many units. Turns nest; each is ended by `resignCurrent` on the same thread.
     void becomeCurrentWithPendingUnitCount(std::int64_t pending);

@@ -87,6 +87,11 @@ std::optional<MachineIdentifier> Environment::machineIdentifier() const
     return providers()->machineIdentifier();
 }
 
+std::optional<std::uintmax_t> Environment::availableSpace(const std::filesystem::path& folder) const
+{
+    return providers()->availableSpace(folder);
+}
+
 EnvironmentOverride::EnvironmentOverride() : previous_(Environment::current().providers()) { }
 
 EnvironmentOverride::~EnvironmentOverride()
@@ -169,6 +174,13 @@ void EnvironmentOverride::setHostName(std::string name)
 void EnvironmentOverride::setMachineIdentifier(std::optional<MachineIdentifier> identifier)
 {
     change([&](EnvironmentProviders& providers) { providers.machineIdentifier = [identifier] { return identifier; }; });
+}
+
+void EnvironmentOverride::setAvailableSpace(std::optional<std::uintmax_t> bytes)
+{
+    change([&](EnvironmentProviders& providers) {
+        providers.availableSpace = [bytes](const std::filesystem::path&) { return bytes; };
+    });
 }
 
 NSDate now()

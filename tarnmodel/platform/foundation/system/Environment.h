@@ -5,6 +5,7 @@
 #include <array>
 #include <chrono>
 #include <cstddef>
+#include <cstdint>
 #include <filesystem>
 #include <functional>
 #include <map>
@@ -31,6 +32,8 @@ struct EnvironmentProviders {
     std::function<std::filesystem::path()> cacheDirectory;                ///< `Environment::cacheDirectory`
     std::function<std::string()> hostName;                                ///< `Environment::hostName`
     std::function<std::optional<MachineIdentifier>()> machineIdentifier;  ///< `Environment::machineIdentifier`
+    std::function<std::optional<std::uintmax_t>(const std::filesystem::path&)>
+        availableSpace; ///< `Environment::availableSpace`
 };
 
 /// The world around the library: the only place that asks the clock, the random source and the process environment.
@@ -66,6 +69,8 @@ public:
     std::string hostName() const;
     /// None when the system has no identifier or a malformed one.
     std::optional<MachineIdentifier> machineIdentifier() const;
+    /// How many bytes this user can still write in a folder; none when the system does not say.
+    std::optional<std::uintmax_t> availableSpace(const std::filesystem::path& folder) const;
 
 private:
     friend class EnvironmentOverride;
@@ -108,6 +113,8 @@ public:
     void setCacheDirectory(std::filesystem::path path);
     void setHostName(std::string name);
     void setMachineIdentifier(std::optional<MachineIdentifier> identifier);
+    /// In every folder.
+    void setAvailableSpace(std::optional<std::uintmax_t> bytes);
 
 private:
     template <typename Change> void change(Change change);

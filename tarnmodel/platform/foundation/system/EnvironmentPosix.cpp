@@ -123,6 +123,13 @@ std::optional<MachineIdentifier> systemMachineIdentifier()
     return identifier ? identifier : read();
 }
 
+std::optional<std::uintmax_t> systemAvailableSpace(const std::filesystem::path& folder)
+{
+    std::error_code failure;
+    const std::filesystem::space_info space = std::filesystem::space(folder, failure);
+    return failure ? std::nullopt : std::optional(space.available);
+}
+
 } // namespace
 
 EnvironmentProviders systemEnvironmentProviders()
@@ -136,7 +143,8 @@ EnvironmentProviders systemEnvironmentProviders()
         .temporaryDirectory = systemTemporaryFolder,
         .cacheDirectory = systemCacheFolder,
         .hostName = systemHostName,
-        .machineIdentifier = systemMachineIdentifier};
+        .machineIdentifier = systemMachineIdentifier,
+        .availableSpace = systemAvailableSpace};
 }
 
 } // namespace tarn

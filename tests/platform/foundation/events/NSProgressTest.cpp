@@ -186,4 +186,54 @@ TEST(NSProgress, MayBeMovedAndWatchedByManyThreads)
     EXPECT_EQ(parent->completedUnitCount(), 4);
 }
 
+TEST(NSProgress, IsCancelledOnce)
+{
+    const auto progress = NSProgress::progressWithTotalUnitCount(2);
+    int calls = 0;
+    progress->setCancellationHandler([&] { ++calls; });
+    EXPECT_FALSE(progress->isCancelled());
+    std::thread([&] { progress->cancel(); }).join();
+    EXPECT_TRUE(progress->isCancelled());
+    EXPECT_EQ(calls, 1);
+    progress->cancel();
+    EXPECT_EQ(calls, 1);
+}
+
+TEST(NSProgress, TellsOfACancellationThatCameBefore)
+{
+    const auto progress = NSProgress::progressWithTotalUnitCount(2);
+    progress->cancel();
+    int calls = 0;
+    progress->setCancellationHandler([&] { ++calls; });
+    EXPECT_EQ(calls, 1);
+}
+
+TEST(NSProgress, ForgetsAHandlerThatWasTakenBack)
+{
+    const auto progress = NSProgress::progressWithTotalUnitCount(2);
+    int calls = 0;
+    progress->setCancellationHandler([&] { ++calls; });
+    progress->setCancellationHandler({});
+    progress->cancel();
+    EXPECT_EQ(calls, 0);
+    EXPECT_TRUE(progress->isCancelled());
+}
+
+TEST(NSProgress, CancelsItsChildrenButNotItsParent)
+{
+    const auto parent = NSProgress::progressWithTotalUnitCount(3);
+    const auto childOf = [&] {
+        parent->becomeCurrentWithPendingUnitCount(1);
+        auto child = NSProgress::progressWithTotalUnitCount(1);
+        parent->resignCurrent();
+        return child;
+    };
+    const auto first = childOf();
+    const auto second = childOf();
+    first->cancel();
+    EXPECT_FALSE(parent->isCancelled());
+    parent->cancel();
+    EXPECT_TRUE(second->isCancelled());
+}
+
 } // namespace

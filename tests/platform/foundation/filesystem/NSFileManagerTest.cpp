@@ -62,6 +62,32 @@ TEST_F(Files, AreNeverCovered)
     EXPECT_THAT(names(), ElementsAre("a", "b", "link")) << "nothing unfinished is left";
 }
 
+TEST_F(Files, AreMadePieceByPiece)
+{
+    int pieces = 0;
+    const auto nextPiece = [&](std::span<std::byte> buffer) -> std::optional<std::size_t> {
+        std::ranges::fill(buffer, std::byte('a' + pieces));
+        return ++pieces == 3 ? 0 : std::size_t{2};
+    };
+    EXPECT_TRUE(NSFileManager::createFileAtURL(folder() / "a", nextPiece));
+    EXPECT_EQ(read("a"), "aabb");
+    NSError error;
+    EXPECT_FALSE(NSFileManager::createFileAtURL(folder() / "a", nextPiece, &error));
+    EXPECT_EQ(error.code(), EEXIST);
+}
+
+TEST_F(Files, AreNotThereWhenTheirPiecesEndEarly)
+{
+    bool hasBegun = false;
+    const auto nextPiece = [&](std::span<std::byte>) -> std::optional<std::size_t> {
+        return std::exchange(hasBegun, true) ? std::nullopt : std::optional<std::size_t>(2);
+    };
+    NSError error("mine", 1, "");
+    EXPECT_FALSE(NSFileManager::createFileAtURL(folder() / "a", nextPiece, &error));
+    EXPECT_EQ(error.domain(), "mine") << "who gave up knows why";
+    EXPECT_THAT(names(), IsEmpty());
+}
+
 TEST_F(Files, AreSaidToBeMissing)
 {
     NSError error;

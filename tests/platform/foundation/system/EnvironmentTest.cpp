@@ -132,4 +132,15 @@ TEST(EnvironmentOverride, SetsWhatItIsTold)
     EXPECT_EQ(environment.hostName(), "bad\uFFFDname");
 }
 
+TEST(Environment, KnowsHowMuchCanBeWritten)
+{
+    const auto space = Environment::current().availableSpace(std::filesystem::temp_directory_path());
+    ASSERT_TRUE(space);
+    EXPECT_GT(*space, 0U);
+    EXPECT_EQ(Environment::current().availableSpace("/no such folder"), std::nullopt);
+    EnvironmentOverride world;
+    world.setAvailableSpace(7);
+    EXPECT_EQ(Environment::current().availableSpace("/no such folder"), 7U);
+}
+
 } // namespace
