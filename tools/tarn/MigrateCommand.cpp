@@ -82,8 +82,11 @@ StoreMigrationPlan planOf(const fs::path& database, WaitForOthers& wait)
     NSError error;
     const StoreOptions options{
         .whileWaiting = [&wait](std::chrono::milliseconds waited) { return wait.goesOn(waited); }};
-    if (fs::exists(database, failure) && !isStoreCurrent(database, options, &error))
-        Interruption::endIfRequested(database.string() + ": interrupted; the store is as it was");
+    if (fs::exists(database, failure) && !isStoreCurrent(database, options, &error)
+        && exitCodeForStoreError(error) == ExitCode::Locked) {
+        Interruption::endIfRequested(database.string() + ": interrupted while another program was using the store");
+        throw failureForStoreError(database.string(), error);
+    }
     StoreMigrationPlan plan = StoreMigrationPlan::planForStoreAtURL(database, *model);
     switch (plan.standing) {
     case StoreStanding::Missing:
@@ -128,6 +131,8 @@ CommandFailure failureOf(const fs::path& database, const MigrationResult& result
     const std::string store = database.string() + ": ";
     if (Interruption::requested())
         return {ExitCode::Interrupted, store + "interrupted; " + placeOf(result)};
+    if (error.domain() == NSPOSIXErrorDomain)
+        return {ExitCode::InputOutput, store + singleLine(error.localizedDescription()) + "; " + placeOf(result)};
     if (error.domain() != MigrationErrorDomain)
         return failureForStoreError(database.string(), error).saying(placeOf(result));
     const std::string what = store + singleLine(error.localizedDescription());
