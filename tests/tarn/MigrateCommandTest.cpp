@@ -188,9 +188,8 @@ TEST_F(MigrateCommand, IsNotAskedForOnAStoreOfAnotherFormat)
     note("# A");
     damage("UPDATE store_metadata SET value = '2' WHERE key = 'formatVersion'");
     fs::remove(database().parent_path() / "tarn.lock");
-    expectRefusedByAllCommands(
-        "the store is of a newer version (Model 3) than this tarn reads (Model 3), and is left as "
-        "it is; use a newer tarn");
+    expectRefusedByAllCommands("the store is of version Model 3 in a newer format than this tarn reads, and is left as "
+                               "it is; use a newer tarn");
     EXPECT_EQ(run({"migrate"}).exitCode, 4);
 }
 
@@ -412,6 +411,49 @@ TEST_F(MigrateCommand, IsInterruptedWithAStoreThatIsWhole)
     EXPECT_EQ(run({"migrate"}).exitCode, 0);
     EXPECT_EQ(json({"list"}).at("total"), kNotes);
     EXPECT_EQ(stored("SELECT count(*) FROM OVNote"), std::to_string(kNotes));
+}
+
+TEST_F(MigrateCommand, SaysBeforehandThatThereIsNoRoom)
+{
+#ifdef TARN_SANITIZED
+    GTEST_SKIP() << "nothing can be loaded before a sanitizer";
+#endif
+    makeStore("Model");
+    const auto before = filesBelow(store());
+    const auto runOnSmallDisk = [this](std::vector<std::string> command) {
+        TarnProcess process(arguments(std::move(command)));
+        prepare(process);
+        process.setVariable("LD_PRELOAD", TARN_SMALL_DISK);
+        process.setVariable("TARN_TEST_FREE_BYTES", "500000");
+        return process.finish();
+    };
+    const TarnResult rehearsal = runOnSmallDisk({"--json", "migrate", "--dry-run"});
+    EXPECT_EQ(rehearsal.exitCode, 6);
+    EXPECT_THAT(rehearsal.errors, HasSubstr("there is not enough room"));
+    const nlohmann::json plan = nlohmann::json::parse(rehearsal.output);
+    EXPECT_EQ(plan.at("fits"), false);
+    EXPECT_GT(plan.at("needed"), plan.at("available"));
+    EXPECT_TRUE(filesBelow(store()) == before);
+
+    const TarnResult result = runOnSmallDisk({"migrate"});
+    EXPECT_EQ(result.exitCode, 6);
+    EXPECT_THAT(result.errors, HasSubstr(" needs "));
+    EXPECT_THAT(result.errors, HasSubstr("make room and try again; the store is as it was, of version Model\n"));
+    EXPECT_EQ(bytesOfFile(database()), before.at(database().string()));
+    EXPECT_THAT(namesBesideStore(), ElementsAre("database.sqlite", "tarn.lock"));
+}
+
+TEST_F(MigrateCommand, SaysThatTheFileIsNoStore)
+{
+    fs::create_directories(database().parent_path());
+    std::ofstream(database()) << std::string(8'192, 'n') << "o database at all";
+    const auto before = filesBelow(store());
+    for (const std::vector<std::string>& command : {std::vector<std::string>{"migrate"}, {"migrate", "--dry-run"}}) {
+        const TarnResult result = run(command);
+        EXPECT_EQ(result.exitCode, 5);
+        EXPECT_THAT(result.errors, StartsWith("tarn: " + database().string() + ": The file is not a store; "));
+        EXPECT_TRUE(filesBelow(store()) == before);
+    }
 }
 
 TEST_F(MigrateCommand, SaysThatTheDiskIsFull)

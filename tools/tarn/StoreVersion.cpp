@@ -13,6 +13,13 @@ std::string versionOr(const StoreMigrationPlan& plan, const char* unknown)
     return plan.storeVersion.empty() ? unknown : plan.storeVersion;
 }
 
+std::string newerVersionOf(const StoreMigrationPlan& plan)
+{
+    if (plan.storeVersion == plan.currentVersion)
+        return "version " + plan.currentVersion + " in a newer format than this tarn reads";
+    return "a newer version (" + versionOr(plan, "unnamed") + ") than this tarn reads (" + plan.currentVersion + ")";
+}
+
 } // namespace
 
 std::shared_ptr<const NSManagedObjectModel> modelOfStores()
@@ -40,9 +47,7 @@ CommandFailure failureForVersionOfStore(const fs::path& database, const StoreMig
     case StoreStanding::Older:
         return {ExitCode::NeedsMigration, store + "version " + plan.storeVersion + "; run 'tarn migrate' first"};
     case StoreStanding::Newer:
-        return {ExitCode::NeedsMigration,
-            store + "a newer version (" + versionOr(plan, "unnamed") + ") than this tarn reads (" + plan.currentVersion
-                + "), and is left as it is; use a newer tarn"};
+        return {ExitCode::NeedsMigration, store + newerVersionOf(plan) + ", and is left as it is; use a newer tarn"};
     case StoreStanding::Unreadable:
         return failureForStoreError(database.string(), plan.error);
     case StoreStanding::Missing:
