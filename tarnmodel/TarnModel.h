@@ -137,6 +137,10 @@
 #include "tarnmodel/diagnosis/StoreStatistics.h"
 
 // Opening the store, and watching records.
+#include "tarnmodel/store/MigrationPolicies.h"
+#include "tarnmodel/store/Model1toModel2OVNoteBackLinkMigrationPolicy.h"
+#include "tarnmodel/store/Model1toModel2OVNoteMigrationPolicy.h"
+#include "tarnmodel/store/Model2toModel3OVNoteMigrationPolicy.h"
 #include "tarnmodel/store/OVCoreDataStack.h"
 #include "tarnmodel/store/OVCoreDataStackDelegate.h"
 #include "tarnmodel/store/OVCoreDataStackForExtensions.h"

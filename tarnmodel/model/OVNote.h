@@ -16,6 +16,7 @@ namespace tarn {
 class NSFileWrapper;
 class CVKAST;
 class CVKWikiLink;
+class MigrationRecord;
 class NSPredicate;
 class OVNoteGenericFile;
 class OVNoteImage;
@@ -325,6 +326,18 @@ public:
     OVNoteFile* addAttachmentFromFileWrapper(const NSFileWrapper& fileWrapper);
     /// Protects an attachment of a protected note with the note's password, when that is at hand. Null: does nothing.
     void encryptFileIfNeeded(OVNoteFile* file);
+
+    // Migration (tarnmodel/notes/OVNote+Migration.cpp) ---------------------------------------------------------------
+    // What a step to a version of the model does to each note besides what its mapping says. The record belongs to that
+    // version of the model, which may be an older one than the library's.
+
+    /// Called for each note that a step to version 2 has made. Does nothing so far.
+    static void migrateManagedObjectToVersion2(MigrationRecord& record);
+    /// Called for each note that a step to version 3 has made and tied to others. Does nothing so far.
+    static void migrateManagedObjectToVersion3(MigrationRecord& record);
+    /// Does both to this note, the one of version 2 first, as for one that came from a device with an older version.
+    /// A protected note is left alone.
+    void migrateDataToCurrentVersion();
 
     // Beside the record, never stored -------------------------------------------------------------------------------
     /// A slot for callers; the model does not use it.

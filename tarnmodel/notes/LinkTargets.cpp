@@ -25,8 +25,12 @@ std::optional<std::vector<OVNote*>> fetchTargets(
 
 std::string linkKeyOf(const OVNote& note)
 {
-    const auto title = note.title();
-    return fold(title && !title->empty() ? *title : note.uniqueIdentifier().value_or(""));
+    return linkKeyOf(note.title(), note.uniqueIdentifier());
+}
+
+std::string linkKeyOf(const std::optional<std::string>& title, const std::optional<std::string>& uniqueIdentifier)
+{
+    return fold(title && !title->empty() ? *title : uniqueIdentifier.value_or(""));
 }
 
 OVNote* LinkTargets::knownTarget(const std::string& key) const

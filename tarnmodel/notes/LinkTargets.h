@@ -4,6 +4,7 @@
 #include "tarnmodel/model/OVNote.h"
 #include "tarnmodel/model/OVNoteCaches.h"
 
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -43,5 +44,7 @@ private:
 
 /// By which links find the note: its folded title, or its folded identifier where it has none.
 std::string linkKeyOf(const OVNote& note);
+/// The same for a note of this title and this identifier.
+std::string linkKeyOf(const std::optional<std::string>& title, const std::optional<std::string>& uniqueIdentifier);
 
 } // namespace tarn
