@@ -244,7 +244,7 @@ bool VexMigrationManager::runStep(const Step& step, const fs::path& destination,
     StepProgress progress(
         step.mappings.size(), [&](float change) { observeValueForKeyPath(kProgressKey, manager, change); });
     manager.observeMigrationProgress([&](float change) { progress.at(change); });
-    const Cancellation::Run run(*cancellation_, manager);
+    const Cancellation::Run reached(*cancellation_, manager);
     bool isMigrated = false;
     for (std::size_t index = 0; index < step.mappings.size(); ++index) {
         progress.beginRun(index);
