@@ -155,11 +155,13 @@ void StackFixture::makeStore(
     NSError error;
     auto coordinator = std::make_shared<NSPersistentStoreCoordinator>(model);
     ASSERT_TRUE(coordinator->addPersistentStoreWithType(StoreType::SQLite, storeFile(), {}, &error)) << error;
-    NSManagedObjectContext context(NSManagedObjectContext::ConcurrencyType::MainQueue);
+    NSManagedObjectContext context(NSManagedObjectContext::ConcurrencyType::PrivateQueue);
     context.setPersistentStoreCoordinator(coordinator);
-    for (const std::string& title : titles)
-        context.insertObject("OVNote").setValueForKey("title", Value(title));
-    ASSERT_TRUE(context.save(&error)) << error;
+    context.performBlockAndWait([&] {
+        for (const std::string& title : titles)
+            context.insertObject("OVNote").setValueForKey("title", Value(title));
+        EXPECT_TRUE(context.save(&error)) << error;
+    });
 }
 
 std::string StackFixture::versionOfStore() const

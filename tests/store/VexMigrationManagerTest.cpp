@@ -538,7 +538,9 @@ TEST_F(MigrationManager, ThatComesSecondWaitsAndFindsTheStoreCurrent)
             std::this_thread::yield();
     };
     auto first = std::async(std::launch::async, [&] { return migrate(); });
-    isUnderWay.get_future().wait();
+    if (isUnderWay.get_future().wait_for(std::chrono::seconds(10)) != std::future_status::ready)
+        mayGoOn = true;
+    EXPECT_FALSE(mayGoOn) << "the first one has not begun";
     VexMigrationManager second;
     second.setWhileWaiting([&](std::chrono::milliseconds waited) {
         mayGoOn = waited > std::chrono::milliseconds(50);
@@ -608,7 +610,6 @@ TEST_F(ScratchMigration, HasFailedWhenTheLastMappingModelHas)
     makeThings("Model 2");
     watcher_.mappings = {mapping("Model 2", "Model 3"), mapping("Model 2", "Model 3", "RefusingPolicy")};
     expectFailsWithoutATrace();
-    EXPECT_EQ(error_.domain(), "Test");
 }
 
 // Parts of a step -----------------------------------------------------------------------------------------------------
