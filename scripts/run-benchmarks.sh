@@ -22,6 +22,7 @@ for program in "${programs[@]}"; do
     # Whole stores, measured beside the machine's own work.
     bench_notes) "$program" 100000 ${TARN_CORPUS:+"$TARN_CORPUS"} | tee "$build/results/$name.txt" ;;
     bench_files) "$program" | tee "$build/results/$name.txt" ;;
+    bench_migration) "$program" 10000 100000 | tee "$build/results/$name.txt" ;;
     bench_sync) "$program" | tee "$build/results/$name.txt" ;;
     bench_search) "$program" ${TARN_CORPUS:+"$TARN_CORPUS"} | tee "$build/results/$name.txt" ;;
     *) "$program" --benchmark_filter="$filter" --benchmark_out="$build/results/$name.json" --benchmark_out_format=json ;;

@@ -23,7 +23,7 @@ ANSWERED = [
     "merge 'Week notes' Bicycle", "list", "search pears", "predicate pears", "highlight pears", "tags", "tag add extra Packliste",
     "links 'Start here'", "backlinks 'Café-Ecke'", "unresolved", "orphans", "url Packliste", "trash Packliste",
     "restore Packliste", "archive Packliste", "unarchive Packliste", "pin Packliste", "unpin Packliste",
-    "readonly Packliste", "editable Packliste", "delete --yes Packliste", "baseline", "changes", "stats", "doctor",
+    "readonly Packliste", "editable Packliste", "delete --yes Packliste", "baseline", "changes", "stats", "doctor", "migrate",
     "parse notes/Start\\ here.md", "attach 'A note' notes/Home/attachments/dynamo.svg", "files",
     "file rename 'A note' dynamo.svg light.svg", "file prune", "thumb 'House manual' --size 20x20", "export out",
 ]

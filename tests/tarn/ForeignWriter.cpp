@@ -4,6 +4,7 @@
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sqlite3.h>
 #include <sys/file.h>
 #include <unistd.h>
 
@@ -28,6 +29,17 @@ void ForeignWriter::changeTextWhileLocked(
             &error);
         EXPECT_TRUE(saved) << error;
     });
+}
+
+LockedDatabase::LockedDatabase(const std::filesystem::path& database)
+{
+    EXPECT_EQ(sqlite3_open(database.c_str(), &connection_), SQLITE_OK);
+    EXPECT_EQ(sqlite3_exec(connection_, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr), SQLITE_OK);
+}
+
+LockedDatabase::~LockedDatabase()
+{
+    sqlite3_close(connection_);
 }
 
 HeldLock::HeldLock(const std::filesystem::path& file) : descriptor_(::open(file.c_str(), O_RDWR | O_CLOEXEC))

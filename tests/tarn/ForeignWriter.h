@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+struct sqlite3;
+
 namespace tarn::test {
 
 /// A program on the store that knows nothing of the command line's lock file, as an application is one: it opens
@@ -22,6 +24,18 @@ public:
 
 private:
     std::filesystem::path database_;
+};
+
+/// The lock of the database, held by the test: nobody reads it, nobody writes it.
+class LockedDatabase {
+public:
+    explicit LockedDatabase(const std::filesystem::path& database);
+    ~LockedDatabase();
+    LockedDatabase(const LockedDatabase&) = delete;
+    LockedDatabase& operator=(const LockedDatabase&) = delete;
+
+private:
+    sqlite3* connection_ = nullptr;
 };
 
 /// The lock file of the command line, held by the test.

@@ -15,6 +15,8 @@ namespace tarn::test {
 
 namespace {
 
+constexpr uid_t kNobody = 65534;
+
 void closeDescriptor(int& descriptor)
 {
     if (descriptor >= 0)
@@ -89,6 +91,15 @@ void TarnProcess::runInChild(int input, int output, int errors) const
     ::alarm(seconds_);
     const rlimit limit{addressSpace_, addressSpace_};
     if (addressSpace_ > 0 && ::setrlimit(RLIMIT_AS, &limit) != 0)
+        ::_exit(126);
+    // Without this the limit would end the program by a signal.
+    ::signal(SIGXFSZ, SIG_IGN);
+    const rlimit fileLimit{largestFile_, largestFile_};
+    if (largestFile_ > 0 && ::setrlimit(RLIMIT_FSIZE, &fileLimit) != 0)
+        ::_exit(126);
+    if (!startFolder_.empty() && ::chdir(startFolder_.c_str()) != 0)
+        ::_exit(126);
+    if (ordinaryUser_ && ::geteuid() == 0 && (::setgid(kNobody) != 0 || ::setuid(kNobody) != 0))
         ::_exit(126);
     ::execve(values[0], values.data(), environment.data());
     ::_exit(127);

@@ -41,6 +41,12 @@ public:
         addressSpace_ = addressSpace;
         seconds_ = seconds;
     }
+    /// No file of it may grow beyond so many bytes: a write is refused, as on a disk that is full.
+    void setLargestFile(std::size_t bytes) { largestFile_ = bytes; }
+    /// Starts it in this folder.
+    void setFolder(const std::filesystem::path& folder) { startFolder_ = folder; }
+    /// Starts it as a user that may not write everything, should the tester be the superuser.
+    void runAsOrdinaryUser() { ordinaryUser_ = true; }
     /// Starts it on a terminal of its own: what is fed is typed, and what it prints, errors as well, is its output.
     void useTerminal() { onTerminal_ = true; }
     /// Standard output goes to this file instead.
@@ -65,11 +71,14 @@ private:
     std::map<std::string, std::string> variables_;
     std::string input_;
     std::filesystem::path outputFile_;
-    std::size_t addressSpace_ = 0; ///< 0: no limit
-    unsigned seconds_ = 0;         ///< 0: no limit
+    std::filesystem::path startFolder_; ///< empty: the tester's
+    std::size_t addressSpace_ = 0;      ///< 0: no limit
+    std::size_t largestFile_ = 0;       ///< 0: no limit
+    unsigned seconds_ = 0;              ///< 0: no limit
     bool closed_ = false;
     bool terminal_ = false;
     bool onTerminal_ = false;
+    bool ordinaryUser_ = false;
     std::atomic<pid_t> pid_ = -1;
     int inputPipe_ = -1;
     int outputPipe_ = -1;

@@ -22,8 +22,7 @@ struct StoreErrorMeaning {
 
 constexpr std::array kMeanings{
     StoreErrorMeaning{StoreErrorBusy, ExitCode::Locked, "try again when the other program is done"},
-    StoreErrorMeaning{StoreErrorIncompatible, ExitCode::NeedsMigration,
-        "the store was written by another version and has to be migrated first"},
+    StoreErrorMeaning{StoreErrorIncompatible, ExitCode::NeedsMigration, "'tarn migrate' tells of which version it is"},
     StoreErrorMeaning{StoreErrorCorrupt, ExitCode::Corrupt, "run 'tarn doctor', and keep a copy of the file"},
     StoreErrorMeaning{StoreErrorNotAStore, ExitCode::Corrupt, "move it away or name another folder"},
     StoreErrorMeaning{StoreErrorReadOnly, ExitCode::InputOutput, "check the permissions of the folder"},

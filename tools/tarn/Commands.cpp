@@ -32,6 +32,7 @@ void addCommands(CommandLine& commandLine)
     addBaselineCommand(commandLine);
     addStatsCommand(commandLine);
     addDoctorCommand(commandLine);
+    addMigrateCommand(commandLine);
     addParseCommand(commandLine);
 }
 

@@ -43,5 +43,6 @@ void addChangesCommand(CommandLine& commandLine);
 void addBaselineCommand(CommandLine& commandLine);
 void addStatsCommand(CommandLine& commandLine);
 void addDoctorCommand(CommandLine& commandLine);
+void addMigrateCommand(CommandLine& commandLine);
 
 } // namespace tarn

@@ -1,13 +1,14 @@
 #include "tools/tarn/StoreSession.h"
 
 #include "tarnmodel/files/OVLocalFileManager.h"
-#include "tarnmodel/model/ManagedObjectModel.h"
 #include "tarnmodel/model/OVChange.h"
 #include "tarnmodel/platform/foundation/events/Queue.h"
 #include "tarnmodel/platform/foundation/filesystem/PrivateFolder.h"
 #include "tarnmodel/platform/foundation/system/Environment.h"
 #include "tools/tarn/Interruption.h"
+#include "tools/tarn/StoreVersion.h"
 
+#include <chrono>
 #include <system_error>
 
 namespace tarn {
@@ -17,6 +18,11 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::size_t kNotesAtATime = 500;
+
+bool isOfOtherVersion(const NSError& error)
+{
+    return error.domain() == TarnStoreErrorDomain && error.code() == StoreErrorIncompatible;
+}
 
 } // namespace
 
@@ -34,68 +40,76 @@ fs::path storeFolderOf(const Invocation& invocation)
 }
 
 StoreSession::StoreSession(const Invocation& invocation, Access access)
-    : folder_(storeFolderOf(invocation)), database_(OVLocalFileManager::databaseURLInGroupFolder(folder_))
+    : folder_(storeFolderOf(invocation)), database_(OVLocalFileManager::databaseURLInGroupFolder(folder_)),
+      wait_(database_)
 {
-    if (access == Access::Write) {
-        const fs::path folder = fs::absolute(database_.parent_path());
-        if (const std::error_code failure = createPrivateFolder(folder))
-            throw failureForSystemError("cannot make the folder " + folder.string(), failure.value());
-        lock_ = std::make_unique<StoreLock>(database_.parent_path() / "tarn.lock", StoreLock::limitOfEnvironment());
-    } else {
-        std::error_code error;
-        exists_ = fs::exists(database_, error);
-        if (error)
-            throw failureForSystemError(database_.string(), error.value());
-        // A tarn that makes the store at this moment begins with an empty file.
-        if (fs::is_regular_file(database_, error) && fs::file_size(database_, error) == 0)
-            exists_ = false;
-        if (!exists_)
-            tellOnStandardError(
-                "there is no store in " + folder_.string() + " yet; 'tarn new' and 'tarn import' make one");
-    }
     OVLocalFileManager::setApplicationGroupURL(fs::absolute(folder_));
-    open(access);
     if (access == Access::Write)
-        tidyUp();
+        prepareForWriting();
+    else
+        findForReading();
+    open(access);
+    // After programs that died: under the lock of the store, so that no other tarn is at it.
+    if (access == Access::Write) {
+        OVNoteFile::recoverFilesInManagedObjectContext(*context_);
+        context_->reset();
+    }
 }
 
 StoreSession::~StoreSession() = default;
 
-/// After programs that died: under the lock of the store, so that no other tarn is at it.
-void StoreSession::tidyUp()
+void StoreSession::findForReading()
 {
-    OVNoteFile::recoverFilesInManagedObjectContext(*context_);
-    context_->reset();
+    std::error_code error;
+    exists_ = fs::exists(database_, error);
+    if (error)
+        throw failureForSystemError(database_.string(), error.value());
+    // A tarn that makes the store at this moment begins with an empty file.
+    if (fs::is_regular_file(database_, error) && fs::file_size(database_, error) == 0)
+        exists_ = false;
+    if (!exists_)
+        tellOnStandardError("there is no store in " + folder_.string() + " yet; 'tarn new' and 'tarn import' make one");
+}
+
+void StoreSession::prepareForWriting()
+{
+    // A migration that died may have left a second name of the store, which goes before anybody opens it.
     OVLocalFileManager::removeAbandonedTemporaryDirectories();
+    refuseOtherVersions();
+    const fs::path folder = fs::absolute(database_.parent_path());
+    if (const std::error_code failure = createPrivateFolder(folder))
+        throw failureForSystemError("cannot make the folder " + folder.string(), failure.value());
+    lock_ = std::make_unique<StoreLock>(database_.parent_path() / "tarn.lock", StoreLock::limitOfEnvironment());
+}
+
+/// Before there is even a file for the lock. What another program has locked, or what is no store, is met again when
+/// the store is opened.
+void StoreSession::refuseOtherVersions() const
+{
+    std::error_code failure;
+    NSError error;
+    if (!fs::is_regular_file(database_, failure) || fs::file_size(database_, failure) == 0)
+        return;
+    const StoreOptions atOnce{.whileWaiting = [](std::chrono::milliseconds) { return false; }};
+    if (!isStoreCurrent(database_, atOnce, &error) && isOfOtherVersion(error))
+        throw failureForVersionOfStore(database_, error);
 }
 
 void StoreSession::open(Access access)
 {
     NSError error;
-    const std::shared_ptr<const NSManagedObjectModel> model = OVManagedObjectModel::current(&error);
-    if (!model)
-        throw CommandFailure(ExitCode::Failed,
-            "cannot read the model of the store: " + error.localizedDescription()
-                + "; set TARN_RESOURCES to the folder of the resources");
-    coordinator_ = std::make_shared<NSPersistentStoreCoordinator>(model);
+    coordinator_ = std::make_shared<NSPersistentStoreCoordinator>(modelOfStores());
     const StoreOptions options{.createIfMissing = access == Access::Write,
-        .whileWaiting = [this](std::chrono::milliseconds waited) { return goesOnWaiting(waited); }};
+        .whileWaiting = [this](std::chrono::milliseconds waited) { return wait_.goesOn(waited); }};
     store_ = coordinator_->addPersistentStoreWithType(
         exists_ ? StoreType::SQLite : StoreType::InMemory, database_, options, &error);
     if (!store_)
-        throw failure(database_.string(), error);
+        throw isOfOtherVersion(error) ? failureForVersionOfStore(database_, error) : failure(database_.string(), error);
     MainQueue::main(); // this thread is its owner
     context_ = std::make_unique<NSManagedObjectContext>(NSManagedObjectContext::ConcurrencyType::MainQueue);
     context_->setPersistentStoreCoordinator(coordinator_);
     changeLog_ = NSNotificationCenter::defaultCenter().addObserver(NSManagedObjectContextWillSaveNotification,
         context_.get(), [this](const NSNotification&) { OVChange::updateChangesInInManagedObjectContext(*context_); });
-}
-
-bool StoreSession::goesOnWaiting(std::chrono::milliseconds waited)
-{
-    if (waited >= kSilentWait && !toldOfWait_.exchange(true))
-        tellOnStandardError("waiting for another program, which is using " + database_.string());
-    return !Interruption::requested();
 }
 
 CommandFailure StoreSession::failure(const std::string& what, const NSError& error) const

@@ -10,9 +10,8 @@
 #include "tools/tarn/CommandFailure.h"
 #include "tools/tarn/CommandLine.h"
 #include "tools/tarn/StoreLock.h"
+#include "tools/tarn/WaitForOthers.h"
 
-#include <atomic>
-#include <chrono>
 #include <cstddef>
 #include <filesystem>
 #include <functional>
@@ -30,9 +29,9 @@ std::filesystem::path storeFolderOf(const Invocation& invocation);
 ///
 /// A reading command of a store that is not there yet finds no notes, and makes nothing. A writing one holds the
 /// store's lock as long as the session lives, and first brings in step what a program left that died over attachments.
-/// These lie in the store's folder while there is a session. Everything that fails raises `CommandFailure`, so that an
-/// empty answer is an answer. Who waits longer than a second for another program says so on standard error. Main
-/// thread.
+/// These lie in the store's folder while there is a session. A store of another version is looked at and nothing else:
+/// no file is changed or made. Everything that fails raises `CommandFailure`, so that an empty answer is an answer. Who
+/// waits longer than a second for another program says so on standard error. Main thread.
 ///
 ///     StoreSession session(invocation, StoreSession::Access::Write);
 ///     session.write([&] { OVNote::noteWithText(text, session.context()); });
@@ -80,15 +79,16 @@ public:
     void write(const std::function<void()>& work);
 
 private:
+    void findForReading();
+    void prepareForWriting();
+    void refuseOtherVersions() const;
     void open(Access access);
-    void tidyUp();
-    bool goesOnWaiting(std::chrono::milliseconds waited);
     template <typename Record> std::vector<Record*> records(const NSFetchRequest& request);
 
     std::filesystem::path folder_;
     std::filesystem::path database_;
     bool exists_ = true;
-    std::atomic<bool> toldOfWait_ = false;
+    WaitForOthers wait_;
     std::unique_ptr<StoreLock> lock_; ///< declared before the store: given back after it was closed
     std::shared_ptr<NSPersistentStoreCoordinator> coordinator_;
     NSPersistentStore* store_ = nullptr;

@@ -4,7 +4,7 @@ _tarn()
 {
     local commands="import new show append prepend replace edit duplicate merge list search predicate highlight tags tag links backlinks
         unresolved orphans url conflicts conflict trash restore archive unarchive pin unpin readonly editable delete
-        attach files file thumb export changes baseline stats doctor parse"
+        attach files file thumb export changes baseline stats doctor migrate parse"
     local global="--store --json --help --version"
     local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} command="" word index
     COMPREPLY=()
@@ -48,6 +48,7 @@ _tarn()
         delete) options="--yes --latest" ;;
         changes) options="--since" ;;
         doctor) options="--repair" ;;
+        migrate) options="--dry-run" ;;
     esac
     if [[ -z $command || $current == -* ]]; then
         [[ -n $command ]] && options="$options $global"

@@ -1,6 +1,6 @@
 # Completion of tarn for fish.
 
-set -l commands import new show append prepend replace edit duplicate merge list search predicate highlight tags tag links backlinks unresolved orphans url conflicts conflict trash restore archive unarchive pin unpin readonly editable delete attach files file thumb export changes baseline stats doctor parse
+set -l commands import new show append prepend replace edit duplicate merge list search predicate highlight tags tag links backlinks unresolved orphans url conflicts conflict trash restore archive unarchive pin unpin readonly editable delete attach files file thumb export changes baseline stats doctor migrate parse
 
 complete -c tarn -f
 complete -c tarn -l store -r -a '(__fish_complete_directories)' -d 'The folder of the store'
@@ -48,6 +48,7 @@ complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a changes -d 'L
 complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a baseline -d 'Fold the change log into one change'
 complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a stats -d 'Count what is in the store'
 complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a doctor -d 'Examine the store'
+complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a migrate -d 'Bring an old store forward to the current version'
 complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a parse -d 'Show what the Markdown parser sees'
 
 complete -c tarn -n '__fish_seen_subcommand_from import parse attach thumb export' -F
@@ -89,3 +90,4 @@ complete -c tarn -n '__fish_seen_subcommand_from append prepend replace edit dup
 complete -c tarn -n '__fish_seen_subcommand_from edit' -l allow-empty -d 'Save also a text that came back empty'
 complete -c tarn -n '__fish_seen_subcommand_from delete' -l yes -d 'Do not ask'
 complete -c tarn -n '__fish_seen_subcommand_from doctor' -l repair -d 'Derive wrong fields anew'
+complete -c tarn -n '__fish_seen_subcommand_from migrate' -l dry-run -d 'Change nothing'

@@ -166,7 +166,7 @@ void MigrationDestination::relate(const NSEntityDescription& entity, const NSRel
             found.push_back(target);
     if (relationship.storage() == RelationshipStorage::Column)
         return setColumn(entity, relationship.name(), key,
-            found.empty() ? std::nullopt : std::optional<std::int64_t>(found.front()));
+            found.empty() ? std::nullopt : std::optional<std::int64_t>(std::ranges::min(found)));
     const std::vector<RelatedKey> present = selects_.related(connection_, relationship, key);
     const bool isJoined = relationship.storage() == RelationshipStorage::JoinTable;
     const auto change = [&](std::int64_t other, bool added) {
@@ -230,7 +230,8 @@ void MigrationDestination::clearColumn(const StoreTable& table, const StoreColum
     const std::string name = quotedIdentifier(column.name);
     connection_.execute("UPDATE " + quotedIdentifier(table.name) + " SET " + name + " = NULL WHERE " + name
         + " IS NOT NULL AND NOT EXISTS (SELECT 1 FROM " + quotedIdentifier(column.target->name)
-        + " AS t WHERE t.\"pk\" = " + name + andEntityIs(relationship.destinationEntity(), true, "t") + ")");
+        + " AS t WHERE t.\"pk\" = " + quotedIdentifier(table.name) + "." + name
+        + andEntityIs(relationship.destinationEntity(), true, "t") + ")");
 }
 
 void MigrationDestination::completeDerivedValues(const std::function<void(std::size_t)>& madeSome)

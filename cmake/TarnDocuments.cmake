@@ -1,0 +1,20 @@
+# tarn_code_of_document(<result> <document> <name>)
+#
+# The C++ of a document that stands between its markers `<!-- name: begin -->` and `<!-- name: end -->`: what is shown to
+# readers is compiled.
+function(tarn_code_of_document result document name)
+  set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${document}")
+  file(READ "${document}" text)
+  set(begin "<!-- ${name}: begin -->\n```cpp\n")
+  set(end "```\n<!-- ${name}: end -->")
+  string(FIND "${text}" "${begin}" first)
+  string(FIND "${text}" "${end}" last)
+  if(first LESS 0 OR last LESS first)
+    message(FATAL_ERROR "${document} has no ${name} between its markers")
+  endif()
+  string(LENGTH "${begin}" length)
+  math(EXPR first "${first} + ${length}")
+  math(EXPR length "${last} - ${first}")
+  string(SUBSTRING "${text}" ${first} ${length} code)
+  set(${result} "${code}" PARENT_SCOPE)
+endfunction()
