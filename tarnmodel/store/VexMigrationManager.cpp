@@ -6,6 +6,7 @@
 #include "tarnmodel/platform/coredata/NSMigrationManager.h"
 #include "tarnmodel/platform/foundation/filesystem/NSFileManager.h"
 #include "tarnmodel/platform/foundation/system/NSUUID.h"
+#include "tarnmodel/store/MigrationPolicies.h"
 #include "tarnmodel/store/MigrationSpaceInternal.h"
 
 #include <cerrno>
@@ -128,7 +129,10 @@ struct VexMigrationManager::Cancellation {
     };
 };
 
-VexMigrationManager::VexMigrationManager() : cancellation_(std::make_unique<Cancellation>()) { }
+VexMigrationManager::VexMigrationManager() : cancellation_(std::make_unique<Cancellation>())
+{
+    registerMigrationPolicies();
+}
 VexMigrationManager::~VexMigrationManager() = default;
 
 void VexMigrationManager::cancelMigration()
