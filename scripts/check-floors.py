@@ -50,6 +50,7 @@ FLOORS = [
     {f"{COREDATA}/context"},
     {f"{COREDATA}/context/child"},
     {f"{COREDATA}/opening"},
+    {f"{COREDATA}/migration"},
     {"tools/modelgen"},
     {f"{LIBRARY}/encryption"},
     {f"{LIBRARY}/model"},

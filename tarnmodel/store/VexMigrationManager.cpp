@@ -237,7 +237,7 @@ bool VexMigrationManager::runStep(const Step& step, const fs::path& destination,
     StepProgress progress(
         step.mappings.size(), [&](float change) { observeValueForKeyPath(kProgressKey, manager, change); });
     manager.observeMigrationProgress([&](float change) { progress.at(change); });
-    const Cancellation::Run run(*cancellation_, manager);
+    const Cancellation::Run reached(*cancellation_, manager);
     bool isMigrated = false;
     for (std::size_t run = 0; run < step.mappings.size(); ++run) {
         progress.beginRun(run);

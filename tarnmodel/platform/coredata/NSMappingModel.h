@@ -30,7 +30,8 @@ class NSManagedObjectModel;
 ///
 /// What has the same name and kind on both sides stays without being mentioned. Everything else has to be: a property
 /// that is new (its value), one that goes ("dropped"), one whose type changes. So nothing is lost by forgetting it.
-/// Only with `"partial": true` may entities be left out, whose records are then not touched by this mapping model.
+/// Only with `"partial": true` may entities be left out, whose records are then not touched by this mapping model; what has
+/// relationships with each other belongs into one.
 ///
 /// Immutable; any thread.
 class NSMappingModel {
@@ -54,6 +55,8 @@ public:
     /// The version identifiers that it leads from and to.
     const std::string& sourceVersion() const noexcept { return sourceVersion_; }
     const std::string& destinationVersion() const noexcept { return destinationVersion_; }
+    /// Whether it leaves entities out on purpose.
+    bool isPartial() const noexcept { return isPartial_; }
     /// In the order of the file, which is the order in which they are migrated.
     const std::vector<std::unique_ptr<const NSEntityMapping>>& entityMappings() const noexcept { return mappings_; }
     /// Null for an unknown name.
@@ -64,6 +67,7 @@ private:
     NSMappingModel();
     std::string sourceVersion_;
     std::string destinationVersion_;
+    bool isPartial_ = false;
     std::vector<std::unique_ptr<const NSEntityMapping>> mappings_;
 };
 

@@ -14,7 +14,9 @@
 namespace tarn {
 
 class HeldStoreFile;
+class MigrationProgress;
 class MigrationRecord;
+class MigrationRun;
 class NSManagedObjectModel;
 class NSMappingModel;
 
@@ -77,14 +79,14 @@ public:
         std::string_view entityName, std::string_view attribute, std::string_view text);
 
 private:
-    class Run;
     friend class NSEntityMigrationPolicy;
+
+    MigrationRun& run();
 
     std::shared_ptr<const NSManagedObjectModel> sourceModel_;
     std::shared_ptr<const NSManagedObjectModel> destinationModel_;
-    struct Shared;
-    std::unique_ptr<Shared> shared_; ///< progress and cancellation, which other threads see
-    std::unique_ptr<Run> run_;       ///< while one is under way
+    std::unique_ptr<MigrationProgress> progress_;
+    std::unique_ptr<MigrationRun> run_; ///< while one is under way
 };
 
 } // namespace tarn

@@ -1,6 +1,6 @@
 #include "tarnmodel/platform/coredata/description/ModelFile.h"
 
-#include <nlohmann/json.hpp>
+#include "tarnmodel/platform/coredata/description/Declaration.h"
 
 #include <fmt/format.h>
 
@@ -16,137 +16,32 @@ namespace {
 
 using Json = nlohmann::json;
 
-template <typename Meaning> using Word = std::pair<std::string_view, Meaning>;
-
 constexpr std::array kTypes{
-    Word<NSAttributeType>{"bool", NSAttributeType::Boolean},
-    Word<NSAttributeType>{"int16", NSAttributeType::Integer16},
-    Word<NSAttributeType>{"int64", NSAttributeType::Integer64},
-    Word<NSAttributeType>{"double", NSAttributeType::Double},
-    Word<NSAttributeType>{"string", NSAttributeType::String},
-    Word<NSAttributeType>{"date", NSAttributeType::Date},
-    Word<NSAttributeType>{"data", NSAttributeType::Data},
+    NamedMeaning<NSAttributeType>{"bool", NSAttributeType::Boolean},
+    NamedMeaning<NSAttributeType>{"int16", NSAttributeType::Integer16},
+    NamedMeaning<NSAttributeType>{"int64", NSAttributeType::Integer64},
+    NamedMeaning<NSAttributeType>{"double", NSAttributeType::Double},
+    NamedMeaning<NSAttributeType>{"string", NSAttributeType::String},
+    NamedMeaning<NSAttributeType>{"date", NSAttributeType::Date},
+    NamedMeaning<NSAttributeType>{"data", NSAttributeType::Data},
 };
 
 constexpr std::array kDeleteRules{
-    Word<NSDeleteRule>{"none", NSDeleteRule::NoAction},
-    Word<NSDeleteRule>{"nullify", NSDeleteRule::Nullify},
-    Word<NSDeleteRule>{"cascade", NSDeleteRule::Cascade},
-    Word<NSDeleteRule>{"deny", NSDeleteRule::Deny},
+    NamedMeaning<NSDeleteRule>{"none", NSDeleteRule::NoAction},
+    NamedMeaning<NSDeleteRule>{"nullify", NSDeleteRule::Nullify},
+    NamedMeaning<NSDeleteRule>{"cascade", NSDeleteRule::Cascade},
+    NamedMeaning<NSDeleteRule>{"deny", NSDeleteRule::Deny},
 };
 
-constexpr std::array kStorages{Word<bool>{"row", false}, Word<bool>{"large", true}};
+constexpr std::array kStorages{NamedMeaning<bool>{"row", false}, NamedMeaning<bool>{"large", true}};
 constexpr std::array kGroups{
-    Word<PropertyGroup>{"text", PropertyGroup::Text}, Word<PropertyGroup>{"encryption", PropertyGroup::Encryption}};
+    NamedMeaning<PropertyGroup>{"text", PropertyGroup::Text}, NamedMeaning<PropertyGroup>{"encryption", PropertyGroup::Encryption}};
 
 constexpr std::array kIndexHints{
-    Word<bool ModelFile::Attribute::*>{"value", &ModelFile::Attribute::indexed},
-    Word<bool ModelFile::Attribute::*>{"folded", &ModelFile::Attribute::folded},
-    Word<bool ModelFile::Attribute::*>{"substring", &ModelFile::Attribute::substringIndexed},
-    Word<bool ModelFile::Attribute::*>{"flag", &ModelFile::Attribute::flagIndexed},
-};
-
-/// One JSON object of the file, read key by key; remembers which keys were asked for, so that a misspelt one is found.
-class Declaration {
-public:
-    Declaration(const Json& json, std::string place) : json_(json), place_(std::move(place))
-    {
-        if (!json.is_object())
-            fail("must be an object");
-    }
-
-    [[noreturn]] void fail(std::string_view what) const { throw ModelError(fmt::format("{}: {}", place_, what)); }
-
-    void setPlace(std::string place) { place_ = std::move(place); }
-    const std::string& place() const { return place_; }
-
-    /// Null when the key is not there.
-    const Json* find(std::string_view key)
-    {
-        known_.insert(std::string(key));
-        auto found = json_.find(std::string(key));
-        return found == json_.end() ? nullptr : &*found;
-    }
-
-    std::string string(std::string_view key)
-    {
-        const Json* value = find(key);
-        if (!value)
-            return {};
-        if (!value->is_string())
-            fail(fmt::format("\"{}\" must be a string", key));
-        return value->get<std::string>();
-    }
-
-    std::string requiredString(std::string_view key)
-    {
-        std::string value = string(key);
-        if (value.empty())
-            fail(fmt::format("\"{}\" is missing", key));
-        return value;
-    }
-
-    /// A name fit for a class, a column and an accessor: ASCII letters and digits. The underscore belongs to the store.
-    std::string requiredName(std::string_view key)
-    {
-        std::string value = requiredString(key);
-        auto isLetter = [](char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); };
-        auto isLetterOrDigit = [&](char c) { return isLetter(c) || (c >= '0' && c <= '9'); };
-        if (!isLetter(value.front()) || !std::all_of(value.begin(), value.end(), isLetterOrDigit))
-            fail(fmt::format("\"{}\" is no name", value));
-        return value;
-    }
-
-    bool boolean(std::string_view key, bool otherwise)
-    {
-        const Json* value = find(key);
-        if (!value)
-            return otherwise;
-        if (!value->is_boolean())
-            fail(fmt::format("\"{}\" must be true or false", key));
-        return value->get<bool>();
-    }
-
-    template <typename Meaning>
-    Meaning word(std::string_view key, std::span<const Word<Meaning>> words, Meaning otherwise)
-    {
-        std::string value = string(key);
-        return value.empty() ? otherwise : meaning(key, value, words);
-    }
-
-    template <typename Meaning>
-    Meaning meaning(std::string_view key, std::string_view value, std::span<const Word<Meaning>> words) const
-    {
-        auto found = std::find_if(words.begin(), words.end(), [&](const auto& word) { return word.first == value; });
-        if (found == words.end())
-            fail(fmt::format("unknown {} \"{}\"", key, value));
-        return found->second;
-    }
-
-    /// Empty when the key is not there.
-    Json array(std::string_view key)
-    {
-        const Json* value = find(key);
-        if (!value)
-            return Json::array();
-        if (!value->is_array())
-            fail(fmt::format("\"{}\" must be an array", key));
-        return *value;
-    }
-
-    /// To be called once every key was asked for.
-    void refuseOtherKeys() const
-    {
-        for (const auto& item : json_.items()) {
-            if (!known_.contains(item.key()))
-                fail(fmt::format("unknown key \"{}\"", item.key()));
-        }
-    }
-
-private:
-    const Json& json_;
-    std::string place_;
-    std::set<std::string> known_;
+    NamedMeaning<bool ModelFile::Attribute::*>{"value", &ModelFile::Attribute::indexed},
+    NamedMeaning<bool ModelFile::Attribute::*>{"folded", &ModelFile::Attribute::folded},
+    NamedMeaning<bool ModelFile::Attribute::*>{"substring", &ModelFile::Attribute::substringIndexed},
+    NamedMeaning<bool ModelFile::Attribute::*>{"flag", &ModelFile::Attribute::flagIndexed},
 };
 
 Value integerDefault(const Declaration& declaration, const Json& json, std::int64_t least, std::int64_t greatest)
@@ -295,42 +190,11 @@ ModelFile::Entity readEntity(const Json& json)
     return entity;
 }
 
-/// The parser would silently keep the last of two equal keys.
-class DuplicateKeys {
-public:
-    bool operator()(int, Json::parse_event_t event, Json& parsed)
-    {
-        if (event == Json::parse_event_t::object_start)
-            open_.emplace_back();
-        else if (event == Json::parse_event_t::object_end)
-            open_.pop_back();
-        else if (event == Json::parse_event_t::key && !open_.back().insert(parsed.get<std::string>()).second)
-            throw ModelError(fmt::format("key \"{}\" stands twice in one object", parsed.get<std::string>()));
-        return true;
-    }
-
-private:
-    std::vector<std::set<std::string>> open_;
-};
-
-Json parseJson(std::string_view text)
-{
-    constexpr bool kExceptions = true;
-    constexpr bool kIgnoreComments = true;
-    try {
-        // The callback is copied by the parser, hence the reference.
-        DuplicateKeys duplicates;
-        return Json::parse(text, std::ref(duplicates), kExceptions, kIgnoreComments);
-    } catch (const Json::exception& error) {
-        throw ModelError(fmt::format("not JSON: {}", error.what()));
-    }
-}
-
 } // namespace
 
 ModelFile parseModelFile(std::string_view text)
 {
-    const Json json = parseJson(text);
+    const Json json = parseDeclarations(text);
     Declaration declaration(json, "model");
     ModelFile file;
     file.version = declaration.requiredString("version");

@@ -135,7 +135,7 @@ const SQLiteRowWriter::InsertPlan& SQLiteRowWriter::insertPlan(const NSEntityDes
     plan.columns = columnsOf(table.columns, entity, ~PropertyMask{0});
     plan.largeColumns = columnsOf(table.largeColumns, entity, ~PropertyMask{0});
     std::string names = "\"pk\", \"rowVersion\"";
-    std::string parameters = "?, 1";
+    std::string parameters = "?, ?";
     const auto add = [&](const std::string& name) {
         names += ", " + name;
         parameters += ", ?";
@@ -153,6 +153,16 @@ const SQLiteRowWriter::InsertPlan& SQLiteRowWriter::insertPlan(const NSEntityDes
 
 void SQLiteRowWriter::insert(const StoreRow& row)
 {
+    insertRow(row, 1, true);
+}
+
+void SQLiteRowWriter::insertUnsigned(const StoreRow& row)
+{
+    insertRow(row, row.version, false);
+}
+
+void SQLiteRowWriter::insertRow(const StoreRow& row, std::int64_t version, bool isSigned)
+{
     const StoreTable& table = schema_.table(*row.entity);
     const InsertPlan& plan = insertPlan(*row.entity);
     foldedTexts_.clear();
@@ -161,6 +171,7 @@ void SQLiteRowWriter::insert(const StoreRow& row)
         SQLiteStatement statement = connection_.prepare(plan.sql);
         int parameter = 1;
         statement.bindInteger(parameter++, row.key);
+        statement.bindInteger(parameter++, version);
         if (table.hasDiscriminator)
             statement.bindText(parameter++, row.entity->name());
         for (const StoreColumn* column : plan.columns)
@@ -176,9 +187,10 @@ void SQLiteRowWriter::insert(const StoreRow& row)
     }
     awaitTargets(table, plan.columns, row);
     const auto isSet = [&](const StoreColumn* column) { return hasValue(*column, row); };
-    writeSignaturesOfNewRow(table, table.name, row);
+    if (isSigned)
+        writeSignaturesOfNewRow(table, table.name, row);
     if (std::any_of(plan.largeColumns.begin(), plan.largeColumns.end(), isSet))
-        insertLarge(table, plan.largeColumns, row);
+        insertLarge(table, plan.largeColumns, row, isSigned);
 }
 
 bool SQLiteRowWriter::findsInsertedRows()
@@ -229,7 +241,7 @@ void SQLiteRowWriter::removeSignatures(const StoreTable& table, const std::strin
 }
 
 void SQLiteRowWriter::insertLarge(
-    const StoreTable& table, const std::vector<const StoreColumn*>& columns, const StoreRow& row)
+    const StoreTable& table, const std::vector<const StoreColumn*>& columns, const StoreRow& row, bool isSigned)
 {
     std::string names = "\"pk\"";
     std::string parameters = "?";
@@ -244,7 +256,8 @@ void SQLiteRowWriter::insertLarge(
     for (const StoreColumn* column : columns)
         bind(statement, parameter++, *column, row);
     statement.run();
-    writeSignaturesOfNewRow(table, table.largeName, row);
+    if (isSigned)
+        writeSignaturesOfNewRow(table, table.largeName, row);
 }
 
 /// The row of large attributes is made when the first of them gets a value.

@@ -34,7 +34,10 @@ public:
     /// Whether it has written to attributes with signatures.
     bool hasWrittenSignatures() const noexcept { return hasWrittenSignatures_; }
 
+    /// Its version becomes 1.
     void insert(const StoreRow& row);
+    /// The same with the version that it has, and without signatures: who makes a whole store makes those at the end.
+    void insertUnsigned(const StoreRow& row);
     RowWriteResult update(const StoreRow& row, PropertyMask changed);
     RowWriteResult remove(const NSEntityDescription& entity, std::int64_t key, std::int64_t version);
     void changeJoins(std::span<const JoinChange> changes);
@@ -58,11 +61,13 @@ private:
         std::int64_t target;
     };
 
+    void insertRow(const StoreRow& row, std::int64_t version, bool isSigned);
     const InsertPlan& insertPlan(const NSEntityDescription& entity);
     void bind(SQLiteStatement& statement, int parameter, const StoreColumn& column, const StoreRow& row);
     void bindShadow(SQLiteStatement& statement, int parameter, const StoreColumn& column, const StoreRow& row);
     void awaitTargets(const StoreTable& table, const std::vector<const StoreColumn*>& columns, const StoreRow& row);
-    void insertLarge(const StoreTable& table, const std::vector<const StoreColumn*>& columns, const StoreRow& row);
+    void insertLarge(const StoreTable& table, const std::vector<const StoreColumn*>& columns, const StoreRow& row,
+        bool isSigned = true);
     void writeLarge(const StoreTable& table, const std::vector<const StoreColumn*>& columns, const StoreRow& row);
     /// Writes nil where the column names the target: in every row, or in one.
     void clearColumn(

@@ -5,6 +5,7 @@
 #include "tarnmodel/platform/coredata/sqlite/SubstringSignature.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace tarn {
 
@@ -116,6 +117,46 @@ void forgetSignatures(SQLiteConnection& connection, const StoreSchema& schema)
             connection.execute("UPDATE " + quotedIdentifier(signature->name)
                 + " SET \"signature\" = NULL WHERE \"signature\" IS NOT NULL");
             noteEveryRow(connection, *signature);
+        }
+    }
+}
+
+static void completeSignaturesOf(
+    SQLiteConnection& connection, const SignatureTable& table, const std::function<void(std::size_t)>& madeSome)
+{
+    constexpr std::size_t kPage = 256;
+    std::int64_t key = std::numeric_limits<std::int64_t>::min();
+    while (true) {
+        std::vector<std::pair<std::int64_t, std::string>> page;
+        {
+            SQLiteStatement statement = connection.prepare(
+                selectOfRows(table) + " WHERE t.\"pk\" > ?1 AND s.\"signature\" IS NULL ORDER BY t.\"pk\" LIMIT ?2");
+            statement.bindInteger(1, key);
+            statement.bindInteger(2, static_cast<std::int64_t>(kPage));
+            while (statement.step())
+                page.emplace_back(statement.integer(0), signatureOfColumn(statement, 1));
+        }
+        for (const auto& [row, signature] : page) {
+            SQLiteStatement statement = connection.prepare("INSERT INTO " + quotedIdentifier(table.name)
+                + " (\"pk\", \"signature\") VALUES (?1, ?2) ON CONFLICT (\"pk\") DO UPDATE SET \"signature\" = ?2");
+            statement.bindInteger(1, row);
+            statement.bindBlob(2, signature);
+            statement.run();
+        }
+        madeSome(page.size());
+        if (page.size() < kPage)
+            return;
+        key = page.back().first;
+    }
+}
+
+void completeSignatures(
+    SQLiteConnection& connection, const StoreSchema& schema, const std::function<void(std::size_t)>& madeSome)
+{
+    for (const auto& table : schema.tables()) {
+        for (const auto& signature : table->signatures) {
+            completeSignaturesOf(connection, *signature, madeSome);
+            connection.execute("DELETE FROM " + quotedIdentifier(signature->changesName));
         }
     }
 }

@@ -1,0 +1,376 @@
+#include "tarnmodel/platform/coredata/migration/InstanceStatements.h"
+
+#include "tarnmodel/platform/coredata/NSManagedObjectModel.h"
+#include "tarnmodel/platform/coredata/migration/AttributeConversion.h"
+#include "tarnmodel/platform/coredata/migration/MigrationDestination.h"
+#include "tarnmodel/platform/coredata/migration/MigrationSource.h"
+#include "tarnmodel/platform/coredata/migration/PolicyFunctions.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <map>
+#include <optional>
+#include <set>
+
+namespace tarn {
+
+namespace {
+
+std::string inMain(const std::string& table)
+{
+    return "main." + quotedIdentifier(table);
+}
+
+std::string inSide(const std::string& table)
+{
+    return "side." + quotedIdentifier(table);
+}
+
+std::string andEntityIs(const NSEntityDescription& entity, bool includesSubentities, std::string_view alias)
+{
+    const std::string condition = entityCondition(entity, includesSubentities, alias);
+    return condition.empty() ? condition : " AND " + condition;
+}
+
+std::string withOffset(const std::string& key, std::int64_t offset)
+{
+    return offset == 0 ? key : fmt::format("{} + {}", key, offset);
+}
+
+/// A value as SQL writes it, whatever a text holds.
+std::string literal(const Value& value)
+{
+    switch (value.kind()) {
+    case Value::Kind::Bool:
+        return value.asBool() ? "1" : "0";
+    case Value::Kind::Integer:
+        return std::to_string(value.asInteger());
+    case Value::Kind::Double:
+        return fmt::format("{:.17e}", value.asDouble());
+    case Value::Kind::String: {
+        std::string hexadecimal;
+        for (const char c : value.asString())
+            hexadecimal += fmt::format("{:02X}", static_cast<unsigned char>(c));
+        return "CAST(x'" + hexadecimal + "' AS TEXT)";
+    }
+    default:
+        return "NULL";
+    }
+}
+
+/// A column of the source: "s" is its table, "l" the one with the large attributes.
+std::string sourceColumn(const NSAttributeDescription& attribute)
+{
+    return (attribute.isLarge() ? "l." : "s.") + quotedIdentifier(attribute.name());
+}
+
+const NSPropertyMapping& mappingOf(const std::vector<NSPropertyMapping>& mappings, const std::string& name)
+{
+    return *std::ranges::find(mappings, name, &NSPropertyMapping::name);
+}
+
+/// A relationship of the destination that is in a column, and was in one.
+const NSRelationshipDescription* sourceOfColumn(const EntityStep& step, const NSRelationshipDescription& relationship)
+{
+    const MappingExpression& expression
+        = mappingOf(step.mapping->relationshipMappings(), relationship.name()).valueExpression;
+    if (expression.kind() != MappingExpression::Kind::SourceKey)
+        return nullptr;
+    const NSRelationshipDescription* source = step.from->relationshipNamed(expression.name());
+    const bool isColumn
+        = source->storage() == RelationshipStorage::Column && relationship.storage() == RelationshipStorage::Column;
+    return isColumn ? source : nullptr;
+}
+
+/// What the records that a relationship names become: entities of the source by what is added to their keys.
+std::map<std::int64_t, std::set<const NSEntityDescription*>> targetOffsets(
+    const NSRelationshipDescription& from, const NSRelationshipDescription& to, EntitySteps& steps)
+{
+    std::map<std::int64_t, std::set<const NSEntityDescription*>> offsets;
+    for (const EntityStep& step : steps.all())
+        if (step.hasBoth() && step.keyOffset && step.from->isKindOfEntity(from.destinationEntity())
+            && step.to->isKindOfEntity(to.destinationEntity()))
+            offsets[*step.keyOffset].insert(step.from);
+    return offsets;
+}
+
+} // namespace
+
+bool isMadeBySQL(const EntityStep& step)
+{
+    const auto isSQL = [&](const NSPropertyMapping& property) {
+        if (property.valueExpression.kind() != MappingExpression::Kind::SourceKey)
+            return true;
+        const NSAttributeDescription& from = *step.from->attributeNamed(property.valueExpression.name());
+        return convertedColumn("", from.type(), step.to->attributeNamed(property.name)->type()).has_value();
+    };
+    return step.keyOffset && std::ranges::all_of(step.mapping->attributeMappings(), isSQL);
+}
+
+namespace {
+
+/// Puts together the statements of one entity mapping.
+class InstanceStatementBuilder {
+public:
+    InstanceStatementBuilder(const EntityStep& step, const MigrationSource& source,
+        const MigrationDestination& destination, EntitySteps& steps, PolicyFunctions& functions)
+        : step_(step), source_(source), from_(source.schema().table(*step.from)),
+          to_(destination.schema().table(*step.to)), steps_(steps), functions_(functions)
+    { }
+
+    std::vector<std::string> statements(bool withReferences)
+    {
+        std::vector<std::string> all{rowStatement(withReferences)};
+        if (!to_.largeColumns.empty())
+            all.push_back(largeRowStatement());
+        for (const auto& signature : to_.signatures)
+            if (auto statement = signatureStatement(*signature))
+                all.push_back(std::move(*statement));
+        return all;
+    }
+
+private:
+    bool isOwn(const StoreColumn& column) const { return step_.to->isKindOfEntity(column.property->declaringEntity()); }
+
+    const MappingExpression& expressionOf(const NSAttributeDescription& attribute) const
+    {
+        return mappingOf(step_.mapping->attributeMappings(), attribute.name()).valueExpression;
+    }
+
+    /// The attribute whose values it takes as they are; null for any other expression.
+    const NSAttributeDescription* takenFrom(const NSAttributeDescription& attribute) const
+    {
+        const MappingExpression& expression = expressionOf(attribute);
+        if (expression.kind() != MappingExpression::Kind::SourceKey)
+            return nullptr;
+        const NSAttributeDescription* from = step_.from->attributeNamed(expression.name());
+        return from->type() == attribute.type() ? from : nullptr;
+    }
+
+    std::string valueOf(const NSAttributeDescription& attribute)
+    {
+        const MappingExpression& expression = expressionOf(attribute);
+        switch (expression.kind()) {
+        case MappingExpression::Kind::Default:
+            return literal(attribute.defaultValue());
+        case MappingExpression::Kind::Constant:
+            return literal(convertedValue(expression.constant(), attribute.type()));
+        case MappingExpression::Kind::SourceKey: {
+            const NSAttributeDescription& from = *step_.from->attributeNamed(expression.name());
+            return convertedColumn(sourceColumn(from), from.type(), attribute.type()).value();
+        }
+        case MappingExpression::Kind::PolicyFunction:
+            break;
+        }
+        std::string call = fmt::format("migration_function({}", functions_.add(step_, expression, attribute));
+        for (const MappingExpression& argument : expression.arguments())
+            if (argument.kind() == MappingExpression::Kind::SourceKey)
+                call += ", " + sourceColumn(*step_.from->attributeNamed(argument.name()));
+        return call + ")";
+    }
+
+    std::string shadowOf(const NSAttributeDescription& attribute)
+    {
+        const NSAttributeDescription* from = takenFrom(attribute);
+        if (from && source_.hasCurrentShadow(*from))
+            // What another program has left stale is NULL.
+            return fmt::format(
+                "coalesce(s.{}, fold({}))", quotedIdentifier(shadowColumnName(*from)), sourceColumn(*from));
+        return "fold(" + valueOf(attribute) + ")";
+    }
+
+    std::optional<std::string> referenceOf(const NSRelationshipDescription& relationship)
+    {
+        const NSRelationshipDescription* from = sourceOfColumn(step_, relationship);
+        if (!from)
+            return std::nullopt;
+        const auto offsets = targetOffsets(*from, relationship, steps_);
+        if (offsets.size() != 1)
+            return std::nullopt;
+        return withOffset("s." + quotedIdentifier(from->name()), offsets.begin()->first);
+    }
+
+    /// "FROM" and what follows; the large attributes with it where they are needed.
+    std::string sourceRows(const std::string& values) const
+    {
+        const bool readsLarge = values.find("l.\"") != std::string::npos;
+        return " FROM " + inMain(from_.name) + " AS s"
+            + (readsLarge ? " LEFT JOIN " + inMain(from_.largeName) + " AS l ON l.\"pk\" = s.\"pk\"" : "")
+            + " WHERE s.\"pk\" > ?1 AND s.\"pk\" <= ?2" + andEntityIs(*step_.from, false, "s");
+    }
+
+    std::string rowStatement(bool withReferences)
+    {
+        std::string names = "\"pk\", \"rowVersion\"";
+        std::string values = withOffset("s.\"pk\"", *step_.keyOffset) + ", s.\"rowVersion\"";
+        const auto add = [&](const std::string& name, const std::string& value) {
+            names += ", " + quotedIdentifier(name);
+            values += ", " + value;
+        };
+        if (to_.hasDiscriminator)
+            add("entity", literal(Value(step_.to->name())));
+        for (const StoreColumn& column : to_.columns) {
+            if (!isOwn(column))
+                continue;
+            if (const NSAttributeDescription* attribute = column.attribute()) {
+                add(column.name, valueOf(*attribute));
+                if (hasShadowColumn(*attribute))
+                    add(shadowColumnName(*attribute), shadowOf(*attribute));
+            } else if (withReferences) {
+                const auto& relationship = static_cast<const NSRelationshipDescription&>(*column.property);
+                if (const auto reference = referenceOf(relationship))
+                    add(column.name, *reference);
+            }
+        }
+        return "INSERT INTO " + inSide(to_.name) + " (" + names + ") SELECT " + values + sourceRows(values)
+            + " ORDER BY s.\"pk\"";
+    }
+
+    /// A record has a row of large attributes when one of them has a value.
+    std::string largeRowStatement()
+    {
+        std::string names = "\"pk\"";
+        std::string values = withOffset("s.\"pk\"", *step_.keyOffset);
+        std::string isSet;
+        for (const StoreColumn& column : to_.largeColumns) {
+            if (!isOwn(column))
+                continue;
+            const std::string value = valueOf(*column.attribute());
+            names += ", " + quotedIdentifier(column.name);
+            values += ", " + value;
+            if (value != "NULL")
+                isSet += (isSet.empty() ? "" : " OR ") + value + " IS NOT NULL";
+        }
+        return "INSERT INTO " + inSide(to_.largeName) + " (" + names + ") SELECT " + values + sourceRows(values)
+            + " AND (" + (isSet.empty() ? "0" : isSet) + ") ORDER BY s.\"pk\"";
+    }
+
+    /// Of texts that stay as they are.
+    std::optional<std::string> signatureStatement(const SignatureTable& signature)
+    {
+        const NSAttributeDescription& attribute = *signature.attribute;
+        if (!step_.to->isKindOfEntity(attribute.declaringEntity()))
+            return std::nullopt;
+        const NSAttributeDescription* from = takenFrom(attribute);
+        const SignatureTable* old = from ? source_.currentSignatures(*from) : nullptr;
+        if (!old || from->isLarge() != attribute.isLarge())
+            return std::nullopt;
+        const std::string key = withOffset("g.\"pk\"", *step_.keyOffset);
+        return "INSERT INTO " + inSide(signature.name) + " (\"pk\", \"signature\") SELECT " + key
+            + ", g.\"signature\" FROM " + inMain(from_.name) + " AS s JOIN " + inMain(old->name)
+            + " AS g ON g.\"pk\" = s.\"pk\" WHERE s.\"pk\" > ?1 AND s.\"pk\" <= ?2"
+            + andEntityIs(*step_.from, false, "s") + " AND g.\"signature\" IS NOT NULL AND EXISTS (SELECT 1 FROM "
+            + inSide(signature.columnTable()) + " AS c WHERE c.\"pk\" = " + key + ") ORDER BY s.\"pk\"";
+    }
+
+    const EntityStep& step_;
+    const MigrationSource& source_;
+    const StoreTable& from_;
+    const StoreTable& to_;
+    EntitySteps& steps_;
+    PolicyFunctions& functions_;
+};
+
+} // namespace
+
+std::vector<std::string> instanceStatements(const EntityStep& step, const MigrationSource& source,
+    const MigrationDestination& destination, EntitySteps& steps, PolicyFunctions& functions, bool withReferences)
+{
+    return InstanceStatementBuilder(step, source, destination, steps, functions).statements(withReferences);
+}
+
+// Relationships -------------------------------------------------------------------------------------------------------
+
+namespace {
+
+/// A SELECT of "owner" and "target", both keys of the source.
+std::string sourcePairs(const NSRelationshipDescription& relationship, const StoreSchema& schema)
+{
+    const std::string table = inMain(schema.table(relationship.declaringEntity()).name);
+    if (relationship.storage() == RelationshipStorage::Column)
+        return "SELECT p.\"pk\" AS \"owner\", p." + quotedIdentifier(relationship.name()) + " AS \"target\" FROM "
+            + table + " AS p WHERE p." + quotedIdentifier(relationship.name()) + " IS NOT NULL";
+    const NSRelationshipDescription& inverse = relationship.inverseRelationship();
+    if (relationship.storage() == RelationshipStorage::InverseColumn)
+        return "SELECT p." + quotedIdentifier(inverse.name()) + " AS \"owner\", p.\"pk\" AS \"target\" FROM "
+            + inMain(schema.table(inverse.declaringEntity()).name) + " AS p WHERE p." + quotedIdentifier(inverse.name())
+            + " IS NOT NULL";
+    const JoinDirection direction = joinDirection(schema, relationship);
+    return fmt::format("SELECT p.\"{}\" AS \"owner\", p.\"{}\" AS \"target\" FROM {} AS p WHERE 1", direction.from,
+        direction.to, inMain(direction.table->name));
+}
+
+std::string namesOf(const std::set<const NSEntityDescription*>& entities)
+{
+    std::string names;
+    for (const NSEntityDescription* entity : entities)
+        names += (names.empty() ? "" : ", ") + literal(Value(entity->name()));
+    return names;
+}
+
+} // namespace
+
+std::vector<std::string> relationshipSelects(
+    const EntityStep& step, const NSPropertyMapping& property, const MigrationSource& source, EntitySteps& steps)
+{
+    const NSRelationshipDescription& to = *step.to->relationshipNamed(property.name);
+    const NSRelationshipDescription& from = *step.from->relationshipNamed(property.valueExpression.name());
+    const StoreSchema& schema = source.schema();
+    const StoreTable& owners = schema.table(*step.from);
+    const StoreTable& targets = schema.table(from.destinationEntity());
+    const auto offsets = targetOffsets(from, to, steps);
+    std::string owned = "SELECT \"owner\", \"target\" FROM (" + sourcePairs(from, schema)
+        + ") WHERE \"owner\" > ?1 AND \"owner\" <= ?2";
+    if (owners.hasDiscriminator)
+        owned += " AND EXISTS (SELECT 1 FROM " + inMain(owners.name) + " AS s WHERE s.\"pk\" = \"owner\""
+            + andEntityIs(*step.from, false, "s") + ")";
+    std::vector<std::string> selects;
+    for (const auto& [offset, entities] : offsets) {
+        std::string select
+            = "SELECT \"owner\", " + withOffset("\"target\"", offset) + " AS \"target\" FROM (" + owned + ")";
+        if (offsets.size() > 1)
+            select += " WHERE EXISTS (SELECT 1 FROM " + inMain(targets.name) + " AS t WHERE t.\"pk\" = \"target\""
+                + (targets.hasDiscriminator ? " AND t.\"entity\" IN (" + namesOf(entities) + ")" : "") + ")";
+        selects.push_back(std::move(select));
+    }
+    return selects;
+}
+
+std::vector<std::string> relationshipStatements(const EntityStep& step, const NSPropertyMapping& property,
+    const MigrationSource& source, const MigrationDestination& destination, EntitySteps& steps)
+{
+    const NSRelationshipDescription& to = *step.to->relationshipNamed(property.name);
+    const StoreSchema& schema = destination.schema();
+    const bool isColumn = to.storage() == RelationshipStorage::Column;
+    const bool isJoined = to.storage() == RelationshipStorage::JoinTable && to.ownsJoinTable();
+    std::vector<std::string> statements;
+    if (property.valueExpression.kind() != MappingExpression::Kind::SourceKey || (!isColumn && !isJoined))
+        return statements;
+    const std::vector<std::string> selects = relationshipSelects(step, property, source, steps);
+    const NSRelationshipDescription* fromColumn = isColumn ? sourceOfColumn(step, to) : nullptr;
+    if (fromColumn && selects.size() == 1 && isMadeBySQL(step) && !step.passes.createsInstances)
+        return statements; // written along with the rows
+    const auto isThere = [](const StoreTable& table, const std::string& key, const std::string& condition) {
+        return " EXISTS (SELECT 1 FROM " + inSide(table.name) + " AS t WHERE t.\"pk\" = " + key + condition + ")";
+    };
+    const StoreTable& owners = schema.table(*step.to);
+    const std::string owner = withOffset("\"owner\"", *step.keyOffset);
+    const std::string targetIsThere
+        = isThere(schema.table(to.destinationEntity()), "p.\"target\"", andEntityIs(to.destinationEntity(), true, "t"));
+    for (const std::string& select : selects) {
+        const std::string pairs = "(SELECT " + owner + " AS \"owner\", \"target\" FROM (" + select + ")) AS p";
+        if (isColumn)
+            statements.push_back("UPDATE " + inSide(owners.name) + " SET " + quotedIdentifier(to.name())
+                + " = p.\"target\" FROM " + pairs + " WHERE " + quotedIdentifier(owners.name)
+                + ".\"pk\" = p.\"owner\" AND" + targetIsThere);
+        else
+            statements.push_back("INSERT OR IGNORE INTO " + inSide(schema.join(to).name)
+                + " (\"owner\", \"member\") SELECT p.\"owner\", p.\"target\" FROM " + pairs + " WHERE"
+                + isThere(owners, "p.\"owner\"", andEntityIs(*step.to, false, "t")) + " AND" + targetIsThere
+                + " ORDER BY p.\"owner\", p.\"target\"");
+    }
+    return statements;
+}
+
+} // namespace tarn

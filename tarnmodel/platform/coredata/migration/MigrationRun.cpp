@@ -1,0 +1,474 @@
+#include "tarnmodel/platform/coredata/migration/MigrationRun.h"
+
+#include "tarnmodel/platform/coredata/HeldStoreFile.h"
+#include "tarnmodel/platform/coredata/NSManagedObjectModel.h"
+#include "tarnmodel/platform/coredata/NSMigrationManager.h"
+#include "tarnmodel/platform/coredata/migration/InstanceStatements.h"
+#include "tarnmodel/platform/coredata/migration/MigrationProgress.h"
+#include "tarnmodel/platform/coredata/rows/StoreFailure.h"
+#include "tarnmodel/platform/coredata/sqlite/TransactionGuards.h"
+
+#include <sqlite3.h>
+
+#include <algorithm>
+#include <limits>
+#include <set>
+
+namespace tarn {
+
+namespace {
+
+/// How many records one statement makes, between two looks at whether the run is to end.
+constexpr std::size_t kPortion = 2048;
+constexpr std::size_t kPage = 256;
+constexpr std::int64_t kBeforeAllKeys = std::numeric_limits<std::int64_t>::min();
+
+/// Lets a statement that takes long be cancelled, for a scope.
+class Interruptible {
+public:
+    Interruptible(SQLiteConnection& connection, const MigrationProgress& progress) : connection_(connection)
+    {
+        constexpr int kInstructions = 20'000;
+        const auto isToEnd
+            = [](void* seen) { return static_cast<const MigrationProgress*>(seen)->isCancelled() ? 1 : 0; };
+        sqlite3_progress_handler(
+            connection_.handle(), kInstructions, isToEnd, const_cast<MigrationProgress*>(&progress));
+    }
+    ~Interruptible() { sqlite3_progress_handler(connection_.handle(), 0, nullptr, nullptr); }
+    Interruptible(const Interruptible&) = delete;
+    Interruptible& operator=(const Interruptible&) = delete;
+
+private:
+    SQLiteConnection& connection_;
+};
+
+} // namespace
+
+MigrationRun::MigrationRun(HeldStoreFile& source, const NSMappingModel& mapping,
+    const std::filesystem::path& destination, NSMigrationManager& manager, MigrationProgress& progress)
+    : manager_(manager), progress_(progress), mapping_(mapping), source_(source, *manager.sourceModel()),
+      destination_(destination, *manager.destinationModel()), sourceKeys_(source_.nextKeys()),
+      steps_(mapping, *manager.sourceModel(), *manager.destinationModel(), sourceKeys_),
+      functions_(source_.connection())
+{
+    for (const auto& [root, next] : destination_.nextKeys())
+        steps_.reserveKeys(*root, next);
+}
+
+void MigrationRun::run()
+{
+    const Interruptible source(source_.connection(), progress_);
+    const Interruptible destination(destination_.connection(), progress_);
+    checkNothingIsUnknown();
+    std::size_t total = 0;
+    for (EntityStep& step : steps_.all()) {
+        step.recordCount = step.from ? source_.countOf(*step.from) : 0;
+        total += step.recordCount;
+    }
+    constexpr std::size_t kPhases = 3; // records, indexes, relationships
+    progress_.begin(total * kPhases);
+    for (EntityStep& step : steps_.all())
+        makeInstances(step);
+    addIndexes();
+    isFirstPass_ = false;
+    for (EntityStep& step : steps_.all())
+        makeRelationships(step);
+    finish();
+    progress_.finish();
+}
+
+/// What no entity mapping looks at would be lost without a word.
+void MigrationRun::checkNothingIsUnknown()
+{
+    std::set<std::string_view> mentioned;
+    for (const EntityStep& step : steps_.all())
+        if (step.from)
+            mentioned.insert(step.from->name());
+    std::map<const NSEntityDescription*, std::size_t> known; // by root
+    for (const NSEntityDescription* entity : manager_.sourceModel()->entities()) {
+        const std::size_t count = source_.countOf(*entity);
+        known[&entity->rootEntity()] += count;
+        if (count > 0 && !mapping_.isPartial() && !mentioned.contains(entity->name()))
+            throw StoreFailure(StoreErrorValidation,
+                "The store has records of \"" + entity->name()
+                    + "\", of which no entity mapping says what they become.");
+    }
+    for (const auto& [root, count] : known)
+        if (source_.rowCountOf(*root) != count)
+            throw StoreFailure(
+                StoreErrorCorrupt, "The store has rows in \"" + root->name() + "\" that are of no known entity.");
+}
+
+void MigrationRun::callHook(EntityStep& step, Hook hook)
+{
+    if (!step.hasBoth())
+        return;
+    NSError error;
+    const bool isFine = (*step.policy.*hook)(*step.mapping, manager_, &error);
+    checkEnd(step, isFine, error);
+}
+
+void MigrationRun::checkEnd(const EntityStep& step, bool isFine, const NSError& error)
+{
+    if (isFine)
+        return;
+    if (!error.localizedDescription().empty())
+        throw StoreFailure(error);
+    throw StoreFailure(
+        StoreErrorGeneric, "The policy of the entity mapping \"" + step.mapping->name() + "\" ended the migration.");
+}
+
+// First pass: records -------------------------------------------------------------------------------------------------
+
+void MigrationRun::makeInstances(EntityStep& step)
+{
+    if (!step.hasBoth())
+        return progress_.advance(step.recordCount);
+    callHook(step, &NSEntityMigrationPolicy::beginEntityMapping);
+    if (isMadeBySQL(step) && !step.passes.createsInstances)
+        makeInstancesBySQL(step);
+    else
+        makeInstancesOneByOne(step);
+    callHook(step, &NSEntityMigrationPolicy::endInstanceCreationForEntityMapping);
+}
+
+void MigrationRun::makeInstancesBySQL(EntityStep& step)
+{
+    const std::vector<std::string> statements
+        = instanceStatements(step, source_, destination_, steps_, functions_, !step.passes.createsRelationships);
+    runInPortions(step, statements);
+}
+
+void MigrationRun::runInPortions(const EntityStep& step, const std::vector<std::string>& statements)
+{
+    if (statements.empty() || step.recordCount == 0)
+        return progress_.advance(step.recordCount);
+    const MigrationSource::Attachment attachment(source_, destination_.file());
+    SQLiteConnection& connection = source_.connection();
+    WriteTransaction transaction(connection, WriteTransaction::Lock::Immediate);
+    std::size_t left = step.recordCount;
+    for (std::int64_t key = kBeforeAllKeys; left > 0;) {
+        const std::int64_t last = source_.lastKeyOfNext(*step.from, key, kPortion);
+        for (const std::string& sql : statements) {
+            SQLiteStatement statement = connection.prepare(sql);
+            statement.bindInteger(1, key);
+            statement.bindInteger(2, last);
+            statement.run();
+        }
+        const std::size_t done = std::min(left, kPortion);
+        left -= done;
+        key = last;
+        progress_.advance(done);
+    }
+    transaction.commit();
+}
+
+void MigrationRun::makeInstancesOneByOne(EntityStep& step)
+{
+    WriteTransaction sourceTransaction(source_.connection(), WriteTransaction::Lock::Immediate);
+    WriteTransaction transaction(destination_.connection(), WriteTransaction::Lock::Immediate);
+    std::int64_t key = kBeforeAllKeys;
+    for (auto keys = source_.keysAfter(*step.from, key, kPage); !keys.empty();
+         keys = source_.keysAfter(*step.from, key, kPage)) {
+        for (const std::int64_t next : keys) {
+            makeInstancesOf(step, next);
+            progress_.advance(1);
+        }
+        key = keys.back();
+    }
+    transaction.commit();
+    sourceTransaction.commit();
+}
+
+void MigrationRun::makeInstancesOf(EntityStep& step, std::int64_t key)
+{
+    auto row = source_.selects().row(source_.connection(), *step.from, key, RowContents::WholeRow);
+    if (!row)
+        throw StoreFailure(StoreErrorCorrupt, "A row of \"" + step.from->name() + "\" cannot be read.");
+    stepInHand_ = &step;
+    sourceKeyInHand_ = key;
+    sourceVersionInHand_ = row->version;
+    const SourceMigrationRecord source(source_, std::move(*row));
+    NSError error;
+    const bool isFine
+        = step.policy->createDestinationInstancesForSourceInstance(source, *step.mapping, manager_, &error);
+    checkEnd(step, isFine, error);
+    writeRecordsInHand();
+}
+
+void MigrationRun::writeRecordsInHand()
+{
+    for (const auto& record : recordsInHand_)
+        record->write();
+    recordsInHand_.clear();
+    sourceLookedAt_.reset();
+}
+
+MigrationRecord& MigrationRun::insert(
+    const NSEntityMapping& mapping, std::string_view entityName, const MigrationRecord& source)
+{
+    EntityStep& step = steps_.named(mapping.name());
+    const NSEntityDescription* entity = manager_.destinationModel()->entityNamed(entityName);
+    const std::int64_t sourceKey = source.objectID().key();
+    if (!entity || !isFirstPass_ || stepInHand_ != &step || sourceKey != sourceKeyInHand_)
+        throw StoreFailure(StoreErrorGeneric,
+            "A record of \"" + std::string(entityName)
+                + "\" can only be made in the first pass, for the source's record in hand.");
+    StoreRow row{entity, 0, sourceVersionInHand_, PropertyValues(*entity)};
+    for (const NSAttributeDescription* attribute : entity->attributes())
+        row.values.setAttributeValue(attribute->index(), attribute->defaultValue());
+    const auto isTaken = [&](std::int64_t key) {
+        return std::ranges::any_of(recordsInHand_,
+            [&](const auto& record) { return record->key() == key && record->entity().isKindOfEntity(*step.to); });
+    };
+    if (step.keyOffset && entity == step.to && !isTaken(step.destinationKey(sourceKey))) {
+        row.key = step.destinationKey(sourceKey);
+    } else {
+        row.key = steps_.takeKey(entity->rootEntity());
+        source_.associate(step, sourceKey, row.key);
+    }
+    recordsInHand_.push_back(std::make_unique<DestinationMigrationRecord>(
+        source_.identity(), destination_, std::move(row), DestinationMigrationRecord::Kind::New));
+    return *recordsInHand_.back();
+}
+
+void MigrationRun::createInstance(const MigrationRecord& source, const NSEntityMapping& mapping)
+{
+    const EntityStep& step = steps_.named(mapping.name());
+    MigrationRecord& record = insert(mapping, mapping.destinationEntityName(), source);
+    for (const NSPropertyMapping& property : mapping.attributeMappings())
+        if (property.valueExpression.kind() != MappingExpression::Kind::Default)
+            record.setValueForKey(property.name,
+                valueOfExpression(property.valueExpression, source, step, *step.to->attributeNamed(property.name)));
+}
+
+void MigrationRun::addIndexes()
+{
+    WriteTransaction transaction(destination_.connection(), WriteTransaction::Lock::Immediate);
+    for (const auto& table : destination_.schema().tables()) {
+        destination_.addIndexes(*table);
+        for (const EntityStep& step : steps_.all())
+            if (step.to && &step.to->rootEntity() == table->root)
+                progress_.advance(step.recordCount);
+    }
+    transaction.commit();
+}
+
+// Second pass: relationships ------------------------------------------------------------------------------------------
+
+void MigrationRun::makeRelationships(EntityStep& step)
+{
+    if (!step.hasBoth())
+        return progress_.advance(step.recordCount);
+    if (step.passes.createsRelationships || !step.keyOffset)
+        makeRelationshipsOneByOne(step);
+    else
+        makeRelationshipsBySQL(step);
+    callHook(step, &NSEntityMigrationPolicy::endRelationshipCreationForEntityMapping);
+}
+
+void MigrationRun::makeRelationshipsBySQL(EntityStep& step)
+{
+    std::vector<std::string> statements;
+    for (const NSPropertyMapping& property : step.mapping->relationshipMappings())
+        for (std::string& statement : relationshipStatements(step, property, source_, destination_, steps_))
+            statements.push_back(std::move(statement));
+    runInPortions(step, statements);
+}
+
+void MigrationRun::makeRelationshipsOneByOne(EntityStep& step)
+{
+    WriteTransaction transaction(destination_.connection(), WriteTransaction::Lock::Immediate);
+    stepInHand_ = &step;
+    if (step.keyOffset) {
+        const std::int64_t last = step.destinationKey(sourceKeys_.at(&step.from->rootEntity()) - 1);
+        std::int64_t key = step.destinationKey(0);
+        // Keys that another program gave may be below 1.
+        if (*step.keyOffset == 0)
+            key = kBeforeAllKeys;
+        for (auto keys = destination_.keysBetween(*step.to, key, last, kPage); !keys.empty();
+             keys = destination_.keysBetween(*step.to, key, last, kPage)) {
+            for (const std::int64_t next : keys)
+                if (isMadeOf(step, next - *step.keyOffset))
+                    makeRelationshipsOf(step, next - *step.keyOffset, next);
+            key = keys.back();
+        }
+    }
+    std::int64_t key = kBeforeAllKeys;
+    for (auto pairs = source_.associationsAfter(step, key, kPage); !pairs.empty();
+         pairs = source_.associationsAfter(step, key, kPage)) {
+        for (const auto& [sourceKey, destinationKey] : pairs)
+            makeRelationshipsOf(step, sourceKey, destinationKey);
+        key = pairs.back().second;
+    }
+    stepInHand_ = nullptr;
+    transaction.commit();
+}
+
+/// Records of several entities of the source may have become records of one.
+bool MigrationRun::isMadeOf(const EntityStep& step, std::int64_t sourceKey)
+{
+    if (!source_.schema().table(*step.from).hasDiscriminator)
+        return true;
+    const auto row = source_.selects().row(source_.connection(), step.from->rootEntity(), sourceKey, RowContents::Keys);
+    return row && row->entity == step.from;
+}
+
+void MigrationRun::makeRelationshipsOf(EntityStep& step, std::int64_t sourceKey, std::int64_t destinationKey)
+{
+    const NSEntityDescription* root = &step.to->rootEntity();
+    if (!destination_.entityOf(*root, destinationKey))
+        return progress_.advance(1); // a policy made it of another table
+    auto row = destination_.selects().row(destination_.connection(), *root, destinationKey, RowContents::Row);
+    sourceKeyInHand_ = sourceKey;
+    recordsInHand_.push_back(std::make_unique<DestinationMigrationRecord>(
+        source_.identity(), destination_, std::move(*row), DestinationMigrationRecord::Kind::Written));
+    NSError error;
+    const bool isFine = step.policy->createRelationshipsForDestinationInstance(
+        *recordsInHand_.front(), *step.mapping, manager_, &error);
+    checkEnd(step, isFine, error);
+    writeRecordsInHand();
+    progress_.advance(1);
+}
+
+const std::vector<std::string>& MigrationRun::selectsOf(const EntityStep& step, const NSPropertyMapping& property)
+{
+    const auto [found, isNew] = selects_.try_emplace(&property);
+    if (isNew)
+        found->second = relationshipSelects(step, property, source_, steps_);
+    return found->second;
+}
+
+void MigrationRun::createRelationships(MigrationRecord& destination, const NSEntityMapping& mapping)
+{
+    const EntityStep& step = steps_.named(mapping.name());
+    const NSManagedObjectID source = sourceOf(mapping.name(), destination.objectID());
+    for (const NSPropertyMapping& property : mapping.relationshipMappings()) {
+        const NSRelationshipDescription* relationship = destination.entity().relationshipNamed(property.name);
+        const bool isKept = relationship && relationship->storage() != RelationshipStorage::InverseColumn
+            && (relationship->storage() == RelationshipStorage::Column || relationship->ownsJoinTable());
+        if (property.valueExpression.kind() != MappingExpression::Kind::SourceKey || !isKept || !source)
+            continue;
+        std::vector<std::int64_t> targets;
+        for (const std::string& sql : selectsOf(step, property)) {
+            SQLiteStatement statement = source_.connection().prepare(sql);
+            statement.bindInteger(1, source.key() - 1);
+            statement.bindInteger(2, source.key());
+            while (statement.step())
+                targets.push_back(statement.integer(1));
+        }
+        if (!targets.empty())
+            destination_.relate(destination.entity(), *relationship, destination.objectID().key(), targets);
+    }
+}
+
+// The end -------------------------------------------------------------------------------------------------------------
+
+void MigrationRun::finish()
+{
+    {
+        WriteTransaction transaction(destination_.connection(), WriteTransaction::Lock::Immediate);
+        destination_.addJoinIndexes();
+        destination_.clearDanglingReferences();
+        transaction.commit();
+    }
+    for (EntityStep& step : steps_.all())
+        callHook(step, &NSEntityMigrationPolicy::performCustomValidationForEntityMapping);
+    WriteTransaction transaction(destination_.connection(), WriteTransaction::Lock::Immediate);
+    for (EntityStep& step : steps_.all())
+        callHook(step, &NSEntityMigrationPolicy::endEntityMapping);
+    destination_.completeDerivedValues([this](std::size_t) { progress_.checkIsNotCancelled(); });
+    destination_.checkReferences();
+    destination_.writeMetadata(*manager_.destinationModel(), source_.metadata(), steps_.nextKeys());
+    progress_.checkIsNotCancelled();
+    transaction.commit();
+}
+
+// Lookups of policies -------------------------------------------------------------------------------------------------
+
+NSManagedObjectID MigrationRun::sourceID(const EntityStep& step, std::int64_t key) const
+{
+    return {source_.identity(), *step.from, key};
+}
+
+std::vector<NSManagedObjectID> MigrationRun::destinationsOf(
+    std::string_view mappingName, const NSManagedObjectID& source)
+{
+    const EntityStep& step = steps_.named(mappingName);
+    std::vector<NSManagedObjectID> found;
+    if (!step.hasBoth() || !source)
+        return found;
+    if (isFirstPass_ && stepInHand_ == &step && source.key() == sourceKeyInHand_ && !recordsInHand_.empty()) {
+        for (const auto& record : recordsInHand_)
+            found.push_back(record->objectID());
+        return found;
+    }
+    const auto add = [&](std::int64_t key) {
+        if (const NSEntityDescription* entity = destination_.entityOf(step.to->rootEntity(), key))
+            found.emplace_back(source_.identity(), *entity, key);
+    };
+    if (step.keyOffset && isMadeOf(step, source.key()))
+        add(step.destinationKey(source.key()));
+    for (const std::int64_t key : source_.associatedDestinations(step, source.key()))
+        add(key);
+    return found;
+}
+
+NSManagedObjectID MigrationRun::sourceOf(std::string_view mappingName, const NSManagedObjectID& destination)
+{
+    const EntityStep& step = steps_.named(mappingName);
+    if (!step.hasBoth() || !destination)
+        return {};
+    if (const auto key = source_.associatedSource(step, destination.key()))
+        return sourceID(step, *key);
+    if (!step.keyOffset)
+        return {};
+    const std::int64_t key = destination.key() - *step.keyOffset;
+    const auto row = source_.selects().row(source_.connection(), *step.from, key, RowContents::Keys);
+    return row && row->entity == step.from ? sourceID(step, key) : NSManagedObjectID();
+}
+
+const MigrationRecord* MigrationRun::sourceRecord(const NSManagedObjectID& objectID)
+{
+    sourceLookedAt_.reset();
+    if (!objectID || &objectID.entity().model() != manager_.sourceModel().get())
+        return nullptr;
+    auto row = source_.selects().row(source_.connection(), objectID.entity(), objectID.key(), RowContents::Row);
+    if (row)
+        sourceLookedAt_ = std::make_unique<SourceMigrationRecord>(source_, std::move(*row));
+    return sourceLookedAt_.get();
+}
+
+MigrationRecord* MigrationRun::destinationRecord(const NSManagedObjectID& objectID)
+{
+    if (!objectID || &objectID.entity().model() != manager_.destinationModel().get())
+        return nullptr;
+    for (const auto& record : recordsInHand_)
+        if (record->objectID() == objectID)
+            return record.get();
+    if (isFirstPass_)
+        return nullptr;
+    auto row = destination_.selects().row(
+        destination_.connection(), objectID.entity().rootEntity(), objectID.key(), RowContents::Row);
+    if (!row)
+        return nullptr;
+    recordsInHand_.push_back(std::make_unique<DestinationMigrationRecord>(
+        source_.identity(), destination_, std::move(*row), DestinationMigrationRecord::Kind::Written));
+    return recordsInHand_.back().get();
+}
+
+std::vector<NSManagedObjectID> MigrationRun::destinationsWithFoldedValue(
+    std::string_view entityName, std::string_view attributeName, std::string_view text)
+{
+    const NSEntityDescription* entity = manager_.destinationModel()->entityNamed(entityName);
+    const NSAttributeDescription* attribute = entity ? entity->attributeNamed(attributeName) : nullptr;
+    if (!attribute || attribute->type() != NSAttributeType::String)
+        throw StoreFailure(StoreErrorGeneric,
+            "\"" + std::string(entityName) + "\" has no text \"" + std::string(attributeName) + "\".");
+    std::vector<NSManagedObjectID> found;
+    for (const std::int64_t key : destination_.keysOfFoldedValue(*entity, *attribute, text))
+        found.emplace_back(source_.identity(), *destination_.entityOf(entity->rootEntity(), key), key);
+    return found;
+}
+
+} // namespace tarn
