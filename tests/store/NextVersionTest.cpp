@@ -210,8 +210,8 @@ TEST_F(NextVersion, IsRefusedWhenItsMappingForgetsSomething)
             Omission{R"~({"name": "wordCount", "value": "FUNCTION($entityPolicy, 'wordCount', $source.text)"})~", other,
                 "wordCount"},
             Omission{R"~({"name": "passwords", "value": "$source.password"})~", "", "passwords"},
-            Omission{R"("subtitle", )", "", "subtitle"}, Omission{R"(, "password")", "", "password"},
-            Omission{R"({"kind": "copy", "source": "OVPassword", "destination": "OVPassword"},)", "", "OVPassword"}}) {
+            Omission{R"({"name": "notes", "value": "$source.notes"})", "", "notes"},
+            Omission{R"({"kind": "copy", "source": "OVChange", "destination": "OVChange"},)", "", "OVChange"}}) {
         SCOPED_TRACE(mention);
         std::string text = mapping;
         ASSERT_NE(text.find(mention), std::string::npos);
