@@ -77,6 +77,7 @@ class NextVersion : public StackFixture {
 protected:
     void SetUp() override
     {
+        fs::create_directories(models().parent_path());
         fs::copy(OVManagedObjectModel::modelURL().value(), models());
         const std::string text = contentsOfFile(models() / "Model 3.json");
         write("Model 4.json", changed(text, blockOfPage("### 1. The model", "diff")));

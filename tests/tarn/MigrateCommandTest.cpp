@@ -231,7 +231,7 @@ TEST_F(MigrateCommand, BringsAStoreForward)
     EXPECT_THAT(namesBesideStore(), ElementsAre("database.sqlite", "tarn.lock"));
     EXPECT_THAT(titlesOf(json({"list"})), SizeIs(3));
     EXPECT_THAT(output({"show", "Old 2"}), StartsWith("# Old 2\n\npears x"));
-    EXPECT_EQ(json({"search", "pears"}).at("total"), 3);
+    EXPECT_EQ(json({"search", "pears"}).at("count"), 3);
     note("# New");
     EXPECT_EQ(json({"list"}).at("total"), 4);
 }
