@@ -72,7 +72,8 @@ bool Model1toModel2OVNoteBackLinkMigrationPolicy::createDestinationInstancesForS
     const Value text = source.valueForKey("text");
     if (text.isNil() || !containsBytes(text.asString(), kStartOfLink))
         return true;
-    for (const CVKWikiLink& link : CVKAST::fromMarkdown(text.asString()).textSummary().wikiLinks) {
+    const CVKAST document = CVKAST::fromMarkdown(text.asString());
+    for (const CVKWikiLink& link : document.textSummary().wikiLinks) {
         if (link.decodedTitle().empty())
             continue;
         MigrationRecord& record = manager.insertDestinationInstance(mapping, mapping.destinationEntityName(), source);

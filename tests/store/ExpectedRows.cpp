@@ -5,6 +5,7 @@
 #include "tarnmodel/platform/coredata/NSManagedObjectModel.h"
 #include "tarnmodel/platform/foundation/text/Folding.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 #include <limits>
@@ -75,6 +76,9 @@ void setVersion(StoreRows& rows, const std::string& version)
     std::erase_if(rows.metadata, [](const auto& entry) { return entry.first.starts_with("entityHash."); });
     for (const auto& [name, hash] : model->entityVersionHashes())
         rows.metadata["entityHash." + name] = hash;
+    // No key is given twice, and each table says so.
+    for (const auto& [name, table] : rows.tables)
+        rows.keys[name] = std::max(rows.keys[name], table.empty() ? 1 : table.rbegin()->first + 1);
     rows.metadata["modelVersion"] = version;
     rows.metadata["foldingVersion"] = std::to_string(foldingVersion());
 }
@@ -125,7 +129,7 @@ void addLinks(StoreRows& rows)
                 continue;
             if (!targets.contains(title))
                 targets[title] = noteThatIsCalled(title, rows);
-            links[static_cast<std::int64_t>(links.size()) + 1] = {{"rowVersion", "1"},
+            links[static_cast<std::int64_t>(links.size()) + 1] = {{"rowVersion", row.at("rowVersion")},
                 {"title", StoreRows::cellOfText(title)}, {"title_folded", StoreRows::cellOfText(fold(title))},
                 {"location", std::to_string(link.offset())}, {"version", "3"}, {"serverData", kNil},
                 {"linkedBy", std::to_string(key)}, {"linkingTo", targets[title]}};

@@ -143,7 +143,7 @@ TEST_P(EachGoldenStore, IsAStoreOfItsModel)
         for (const std::string& statement : StoreSchema(*model).laterStatements())
             EXPECT_EQ(schema.erase(keyOfStatement(statement)), 1U) << statement;
     }
-    EXPECT_EQ(StoreRows::schemaOfFile(file_), schema);
+    EXPECT_THAT(differences(schema, StoreRows::schemaOfFile(file_)), IsEmpty());
 }
 
 // Rows ----------------------------------------------------------------------------------------------------------------
@@ -154,19 +154,15 @@ TEST_F(GoldenStores, OfVersion1ComeToVersion2RowByRow)
     ASSERT_NO_FATAL_FAILURE(migrateTo("Model 2", {"Model 2"}));
     StoreRows actual = rows();
     actual.makeNewLinksComparable();
-    actual.keys["OVNoteBackLink"] = 0; // the first of these
-    StoreRows counted = expected;
-    counted.keys["OVNoteBackLink"] = 0;
-    EXPECT_THAT(differences(counted, actual), IsEmpty());
+    EXPECT_THAT(differences(expected, actual), IsEmpty());
 }
 
 TEST_F(GoldenStores, OfVersion1ComeToVersion3RowByRow)
 {
-    StoreRows expected = rowsAfterStepToVersion3(rowsAfterStepToVersion2(StoreRows::ofFile(makeStore("Model"))));
+    const StoreRows expected = rowsAfterStepToVersion3(rowsAfterStepToVersion2(StoreRows::ofFile(makeStore("Model"))));
     ASSERT_NO_FATAL_FAILURE(migrateTo("Model 3", {"Model 2", "Model 3"}));
     StoreRows actual = rows();
     actual.makeNewLinksComparable();
-    actual.keys["OVNoteBackLink"] = expected.keys["OVNoteBackLink"] = 0;
     EXPECT_THAT(differences(expected, actual), IsEmpty());
 }
 
@@ -230,7 +226,7 @@ TEST_P(EachGoldenStore, GetsTheSchemaOfAFreshStore)
     const auto migrated = StoreRows::schemaOfFile(file_);
     TestStore fresh(StoreType::SQLite);
     fresh.open();
-    EXPECT_EQ(migrated, StoreRows::schemaOfFile(fresh.storeFile()));
+    EXPECT_THAT(differences(StoreRows::schemaOfFile(fresh.storeFile()), migrated), IsEmpty());
 }
 
 TEST_F(GoldenStores, HaveTheSchemaOfVersion2OnTheWay)
@@ -240,7 +236,7 @@ TEST_F(GoldenStores, HaveTheSchemaOfVersion2OnTheWay)
     const fs::path fresh = file_.parent_path() / "fresh.sqlite";
     NSPersistentStoreCoordinator coordinator(modelOfVersion("Model 2"));
     ASSERT_TRUE(coordinator.addPersistentStoreWithType(StoreType::SQLite, fresh, {}));
-    EXPECT_EQ(StoreRows::schemaOfFile(file_), StoreRows::schemaOfFile(fresh));
+    EXPECT_THAT(differences(StoreRows::schemaOfFile(fresh), StoreRows::schemaOfFile(file_)), IsEmpty());
 }
 
 TEST_P(EachGoldenStore, IsSound)
@@ -265,7 +261,8 @@ TEST_P(EachGoldenStore, IsSearchedByItsIndexes)
 {
     ASSERT_NO_FATAL_FAILURE(migrate(GetParam()));
     std::int64_t expected = 0;
-    for (const auto& [key, row] : rows().tables.at("OVNote"))
+    const StoreRows migrated = rows();
+    for (const auto& [key, row] : migrated.tables.at("OVNote"))
         expected += StoreRows::isText(row.at("text")) && foldedContains(StoreRows::textOf(row.at("text")), "quince");
     ASSERT_GT(expected, 0);
 
@@ -293,15 +290,15 @@ TEST_P(EachGoldenStore, IsEditedAsAnyOther)
     OVNote& groceries = noteCalled("Groceries");
     const std::size_t linking = groceries.linkedByNotes().size();
     ASSERT_GT(linking, 3U);
-    groceries.updateNoteWithText("# Shopping\n\n#home/kitchen\n\n- [ ] milk\n\n```\ncode\n```\n");
+    groceries.updateNoteWithText("# Errands\n\n#home/kitchen\n\n- [ ] milk\n\n```\ncode\n```\n");
     store_.reopen();
 
-    OVNote& shopping = noteCalled("Shopping");
-    EXPECT_EQ(shopping.linkedByNotes().size(), linking - 1) << "but for the note's own link, all followed its title";
-    EXPECT_THAT(shopping.tagsStrings(), testing::UnorderedElementsAre("home", "home/kitchen"));
-    EXPECT_EQ(shopping.todoIncompletedValue(), 1);
-    EXPECT_TRUE(shopping.hasSourceCodeValue());
-    EXPECT_EQ(noteCalled("To Shopping").text(), "# To [[Shopping]]\n\na link in a title");
+    OVNote& errands = noteCalled("Errands");
+    EXPECT_EQ(errands.linkedByNotes().size(), linking - 1) << "but for the note's own link, all followed its title";
+    EXPECT_THAT(errands.tagsStrings(), testing::UnorderedElementsAre("home", "home/kitchen"));
+    EXPECT_EQ(errands.todoIncompletedValue(), 1);
+    EXPECT_TRUE(errands.hasSourceCodeValue());
+    EXPECT_EQ(noteCalled("To Errands").text(), "# To [[Errands]]\n\na link in a title");
     NSError error;
     EXPECT_TRUE(StoreDoctor(store_.context()).examine(&error)->isSound()) << error;
 }
@@ -311,7 +308,8 @@ TEST_F(GoldenStores, HaveLinksThatLeadWhereTheNextParseWouldLead)
     ASSERT_NO_FATAL_FAILURE(openMigrated("Model"));
     std::size_t count = 0;
     for (OVNote* note : OVNote::allNotesInManagedObjectContext(store_.context())) {
-        const auto& links = CVKAST::fromMarkdown(note->text().value_or("")).textSummary().wikiLinks;
+        const CVKAST document = CVKAST::fromMarkdown(note->text().value_or(""));
+        const std::vector<CVKWikiLink>& links = document.textSummary().wikiLinks;
         LinkTargets targets(store_.context(), nullptr);
         ASSERT_TRUE(targets.lookUp(links));
         std::map<std::int64_t, const OVNote*> expected;

@@ -12,7 +12,7 @@ namespace tarn {
 namespace {
 
 constexpr std::size_t kMostDifferences = 20;
-constexpr std::size_t kLongestShownCell = 80;
+constexpr std::size_t kLongestShownCell = 300;
 
 class PlainDatabase {
 public:
@@ -117,6 +117,16 @@ void compare(const std::map<Key, Mapped>& expected, const std::map<Key, Mapped>&
             found.push_back(name(key) + " is too much");
 }
 
+std::vector<std::string> shortened(std::vector<std::string> found)
+{
+    if (found.size() > kMostDifferences) {
+        const std::size_t count = found.size();
+        found.resize(kMostDifferences);
+        found.push_back(fmt::format("... {} in all", count));
+    }
+    return found;
+}
+
 } // namespace
 
 StoreRows StoreRows::ofFile(const std::filesystem::path& file)
@@ -197,12 +207,15 @@ std::vector<std::string> differences(const StoreRows& expected, const StoreRows&
                 actual.joins.contains(name) ? actual.joins.at(name).size() : 0, pairs.size()));
         found.push_back(fmt::format("there are {} join tables", actual.joins.size()));
     }
-    if (found.size() > kMostDifferences) {
-        const std::size_t count = found.size();
-        found.resize(kMostDifferences);
-        found.push_back(fmt::format("... {} in all", count));
-    }
-    return found;
+    return shortened(std::move(found));
+}
+
+std::vector<std::string> differences(
+    const std::map<std::string, std::string>& expected, const std::map<std::string, std::string>& actual)
+{
+    std::vector<std::string> found;
+    compare(expected, actual, found, "");
+    return shortened(std::move(found));
 }
 
 } // namespace tarn

@@ -42,5 +42,8 @@ struct StoreRows {
 
 /// What differs between two stores, the first few in words; empty when nothing does.
 std::vector<std::string> differences(const StoreRows& expected, const StoreRows& actual);
+/// The same of two schemas.
+std::vector<std::string> differences(
+    const std::map<std::string, std::string>& expected, const std::map<std::string, std::string>& actual);
 
 } // namespace tarn

@@ -59,6 +59,16 @@ Value numberOfType(const Value& value, NSAttributeType to)
     }
 }
 
+/// The same in SQL. A cast to INTEGER drops the fraction and saturates; from 2 to the 52nd on there is none. SQLite's
+/// own "round" takes the number below a half for a half.
+std::string roundedColumn(const std::string& column)
+{
+    const std::string whole = "CAST(" + column + " AS INTEGER)";
+    const std::string fraction = "(" + column + " - " + whole + ")";
+    return "CASE WHEN abs(" + column + ") < 4503599627370496.0 THEN " + whole + " + (" + fraction + " >= 0.5) - ("
+        + fraction + " <= -0.5) ELSE " + whole + " END";
+}
+
 } // namespace
 
 bool isConvertible(NSAttributeType from, NSAttributeType to) noexcept
@@ -81,9 +91,7 @@ std::optional<std::string> convertedColumn(const std::string& column, NSAttribut
 {
     if (from == to)
         return column;
-    const bool isRounded = from == NSAttributeType::Double;
-    // A cast to INTEGER saturates; "round" of more than 2 to the 52nd is the number itself.
-    const std::string integer = isRounded ? "CAST(round(" + column + ") AS INTEGER)" : column;
+    const std::string integer = from == NSAttributeType::Double ? roundedColumn(column) : column;
     switch (to) {
     case NSAttributeType::Boolean:
         return "(" + column + " <> 0)";

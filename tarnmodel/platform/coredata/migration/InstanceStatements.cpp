@@ -360,10 +360,11 @@ std::vector<std::string> relationshipStatements(const EntityStep& step, const NS
         = isThere(schema.table(to.destinationEntity()), "p.\"target\"", andEntityIs(to.destinationEntity(), true, "t"));
     for (const std::string& select : selects) {
         const std::string pairs = "(SELECT " + owner + " AS \"owner\", \"target\" FROM (" + select + ")) AS p";
-        if (isColumn)
+        if (isColumn) // the first of several records that name the same
             statements.push_back("UPDATE " + inSide(owners.name) + " SET " + quotedIdentifier(to.name())
-                + " = p.\"target\" FROM " + pairs + " WHERE " + quotedIdentifier(owners.name)
-                + ".\"pk\" = p.\"owner\" AND" + targetIsThere);
+                + " = q.\"target\" FROM (SELECT p.\"owner\", min(p.\"target\") AS \"target\" FROM " + pairs + " WHERE"
+                + targetIsThere + " GROUP BY p.\"owner\") AS q WHERE " + quotedIdentifier(owners.name)
+                + ".\"pk\" = q.\"owner\"");
         else
             statements.push_back("INSERT OR IGNORE INTO " + inSide(schema.join(to).name)
                 + " (\"owner\", \"member\") SELECT p.\"owner\", p.\"target\" FROM " + pairs + " WHERE"

@@ -20,6 +20,19 @@ bool isTable(const std::string& statement)
     return statement.starts_with(kTable);
 }
 
+/// The kind of what a CREATE INDEX or CREATE TRIGGER statement makes, as the schema names it.
+std::string_view kindMadeBy(const std::string& statement)
+{
+    return statement.starts_with("CREATE TRIGGER ") ? "trigger" : "index";
+}
+
+/// Its name: the first quoted one.
+std::string_view nameMadeBy(std::string_view statement)
+{
+    const std::size_t start = statement.find('"') + 1;
+    return statement.substr(start, statement.find('"', start) - start);
+}
+
 /// What a CREATE INDEX or CREATE TRIGGER statement is for.
 bool isOn(const std::string& statement, const std::string& table)
 {
@@ -153,7 +166,7 @@ void MigrationDestination::relate(const NSEntityDescription& entity, const NSRel
             found.push_back(target);
     if (relationship.storage() == RelationshipStorage::Column)
         return setColumn(entity, relationship.name(), key,
-            found.empty() ? std::nullopt : std::optional<std::int64_t>(found.front()));
+            found.empty() ? std::nullopt : std::optional<std::int64_t>(std::ranges::min(found)));
     const std::vector<RelatedKey> present = selects_.related(connection_, relationship, key);
     const bool isJoined = relationship.storage() == RelationshipStorage::JoinTable;
     const auto change = [&](std::int64_t other, bool added) {
@@ -174,10 +187,17 @@ void MigrationDestination::relate(const NSEntityDescription& entity, const NSRel
 
 // Making it a store ---------------------------------------------------------------------------------------------------
 
-/// Another mapping model may have made it before.
+/// Another mapping model may have made it before. An index and a trigger can have one name.
 void MigrationDestination::executeOnce(const std::string& statement)
 {
-    if (!isTable(statement) && !holdsAll(connection_, {statement}))
+    if (isTable(statement))
+        return;
+    SQLiteStatement made = connection_.prepare("SELECT 1 FROM sqlite_schema WHERE \"type\" = ?1 AND \"name\" = ?2");
+    made.bindText(1, kindMadeBy(statement));
+    made.bindText(2, nameMadeBy(statement));
+    const bool isMade = made.step();
+    made.reset();
+    if (!isMade)
         connection_.execute(statement);
 }
 
@@ -210,7 +230,8 @@ void MigrationDestination::clearColumn(const StoreTable& table, const StoreColum
     const std::string name = quotedIdentifier(column.name);
     connection_.execute("UPDATE " + quotedIdentifier(table.name) + " SET " + name + " = NULL WHERE " + name
         + " IS NOT NULL AND NOT EXISTS (SELECT 1 FROM " + quotedIdentifier(column.target->name)
-        + " AS t WHERE t.\"pk\" = " + name + andEntityIs(relationship.destinationEntity(), true, "t") + ")");
+        + " AS t WHERE t.\"pk\" = " + quotedIdentifier(table.name) + "." + name
+        + andEntityIs(relationship.destinationEntity(), true, "t") + ")");
 }
 
 void MigrationDestination::completeDerivedValues(const std::function<void(std::size_t)>& madeSome)

@@ -225,7 +225,7 @@ MigrationRecord& MigrationRun::insert(
         row.key = step.destinationKey(sourceKey);
     } else {
         row.key = steps_.takeKey(entity->rootEntity());
-        source_.associate(step, sourceKey, row.key);
+        source_.associate(step, {sourceKey, &entity->rootEntity(), row.key});
     }
     recordsInHand_.push_back(std::make_unique<DestinationMigrationRecord>(
         source_.identity(), destination_, std::move(row), DestinationMigrationRecord::Kind::New));
@@ -290,16 +290,18 @@ void MigrationRun::makeRelationshipsOneByOne(EntityStep& step)
              keys = destination_.keysBetween(*step.to, key, last, kPage)) {
             for (const std::int64_t next : keys)
                 if (isMadeOf(step, next - *step.keyOffset))
-                    makeRelationshipsOf(step, next - *step.keyOffset, next);
+                    makeRelationshipsOf(step, next - *step.keyOffset, step.to->rootEntity(), next);
             key = keys.back();
         }
     }
-    std::int64_t key = kBeforeAllKeys;
-    for (auto pairs = source_.associationsAfter(step, key, kPage); !pairs.empty();
-         pairs = source_.associationsAfter(step, key, kPage)) {
-        for (const auto& [sourceKey, destinationKey] : pairs)
-            makeRelationshipsOf(step, sourceKey, destinationKey);
-        key = pairs.back().second;
+    for (const auto& table : destination_.schema().tables()) {
+        std::int64_t key = kBeforeAllKeys;
+        for (auto made = source_.associationsAfter(step, *table->root, key, kPage); !made.empty();
+             made = source_.associationsAfter(step, *table->root, key, kPage)) {
+            for (const MigrationSource::Association& one : made)
+                makeRelationshipsOf(step, one.source, *one.root, one.destination);
+            key = made.back().destination;
+        }
     }
     stepInHand_ = nullptr;
     transaction.commit();
@@ -314,12 +316,12 @@ bool MigrationRun::isMadeOf(const EntityStep& step, std::int64_t sourceKey)
     return row && row->entity == step.from;
 }
 
-void MigrationRun::makeRelationshipsOf(EntityStep& step, std::int64_t sourceKey, std::int64_t destinationKey)
+void MigrationRun::makeRelationshipsOf(
+    EntityStep& step, std::int64_t sourceKey, const NSEntityDescription& root, std::int64_t destinationKey)
 {
-    const NSEntityDescription* root = &step.to->rootEntity();
-    if (!destination_.entityOf(*root, destinationKey))
-        return progress_.advance(1); // a policy made it of another table
-    auto row = destination_.selects().row(destination_.connection(), *root, destinationKey, RowContents::Row);
+    auto row = destination_.selects().row(destination_.connection(), root, destinationKey, RowContents::Row);
+    if (!row)
+        throw StoreFailure(StoreErrorCorrupt, "A row of \"" + root.name() + "\" of the new store is gone.");
     sourceKeyInHand_ = sourceKey;
     recordsInHand_.push_back(std::make_unique<DestinationMigrationRecord>(
         source_.identity(), destination_, std::move(*row), DestinationMigrationRecord::Kind::Written));
@@ -403,14 +405,14 @@ std::vector<NSManagedObjectID> MigrationRun::destinationsOf(
             found.push_back(record->objectID());
         return found;
     }
-    const auto add = [&](std::int64_t key) {
-        if (const NSEntityDescription* entity = destination_.entityOf(step.to->rootEntity(), key))
+    const auto add = [&](const NSEntityDescription& root, std::int64_t key) {
+        if (const NSEntityDescription* entity = destination_.entityOf(root, key))
             found.emplace_back(source_.identity(), *entity, key);
     };
     if (step.keyOffset && isMadeOf(step, source.key()))
-        add(step.destinationKey(source.key()));
-    for (const std::int64_t key : source_.associatedDestinations(step, source.key()))
-        add(key);
+        add(step.to->rootEntity(), step.destinationKey(source.key()));
+    for (const MigrationSource::Association& made : source_.associationsOf(step, source.key()))
+        add(*made.root, made.destination);
     return found;
 }
 
@@ -419,9 +421,9 @@ NSManagedObjectID MigrationRun::sourceOf(std::string_view mappingName, const NSM
     const EntityStep& step = steps_.named(mappingName);
     if (!step.hasBoth() || !destination)
         return {};
-    if (const auto key = source_.associatedSource(step, destination.key()))
+    if (const auto key = source_.associatedSource(step, *destination.root(), destination.key()))
         return sourceID(step, *key);
-    if (!step.keyOffset)
+    if (!step.keyOffset || destination.root() != &step.to->rootEntity())
         return {};
     const std::int64_t key = destination.key() - *step.keyOffset;
     const auto row = source_.selects().row(source_.connection(), *step.from, key, RowContents::Keys);

@@ -52,7 +52,8 @@ private:
     void makeRelationships(EntityStep& step);
     void makeRelationshipsBySQL(EntityStep& step);
     void makeRelationshipsOneByOne(EntityStep& step);
-    void makeRelationshipsOf(EntityStep& step, std::int64_t sourceKey, std::int64_t destinationKey);
+    void makeRelationshipsOf(
+        EntityStep& step, std::int64_t sourceKey, const NSEntityDescription& root, std::int64_t destinationKey);
     bool isMadeOf(const EntityStep& step, std::int64_t sourceKey);
     void finish();
     /// Runs statements for the records of the source in portions, and tells how far that is.

@@ -20,6 +20,17 @@ std::string andEntityIs(const NSEntityDescription& entity, std::string_view alia
     return condition.empty() ? condition : " AND " + condition;
 }
 
+/// An entity as a number: its place in its model.
+std::int64_t numberOf(const NSEntityDescription& entity)
+{
+    return std::ranges::find(entity.model().entities(), &entity) - entity.model().entities().begin();
+}
+
+const NSEntityDescription* entityAt(const NSManagedObjectModel& model, std::int64_t number)
+{
+    return model.entities().at(static_cast<std::size_t>(number));
+}
+
 const StoreIdentity& identityIn(const StoreMetadata& metadata)
 {
     const auto uuid = metadata.find(std::string(StoreUUIDKey));
@@ -41,10 +52,10 @@ MigrationSource::MigrationSource(HeldStoreFile& held, const NSManagedObjectModel
     // Foreign keys are looked at once in the end. What policies make may be more than memory should hold.
     connection_.execute(
         "PRAGMA foreign_keys = OFF; PRAGMA temp_store = FILE;"
-        "CREATE TEMP TABLE \"migration_made\" (\"mapping\" INTEGER, \"source\" INTEGER, "
-        "\"destination\" INTEGER, PRIMARY KEY (\"mapping\", \"source\", \"destination\")) WITHOUT ROWID;"
+        "CREATE TEMP TABLE \"migration_made\" (\"mapping\" INTEGER, \"source\" INTEGER, \"root\" INTEGER, "
+        "\"destination\" INTEGER, PRIMARY KEY (\"mapping\", \"source\", \"root\", \"destination\")) WITHOUT ROWID;"
         "CREATE INDEX temp.\"migration_made_destination\" ON \"migration_made\" "
-        "(\"mapping\", \"destination\");");
+        "(\"mapping\", \"root\", \"destination\");");
 }
 
 MigrationSource::~MigrationSource()
@@ -150,50 +161,57 @@ const SignatureTable* MigrationSource::currentSignatures(const NSAttributeDescri
 
 // Associations --------------------------------------------------------------------------------------------------------
 
-void MigrationSource::associate(const EntityStep& step, std::int64_t sourceKey, std::int64_t destinationKey)
+void MigrationSource::associate(const EntityStep& step, const Association& association)
 {
     SQLiteStatement statement = connection_.prepare(
-        "INSERT INTO temp.\"migration_made\" (\"mapping\", \"source\", \"destination\") VALUES (?1, ?2, ?3)");
+        "INSERT INTO temp.\"migration_made\" (\"mapping\", \"source\", \"root\", \"destination\") "
+        "VALUES (?1, ?2, ?3, ?4)");
     statement.bindInteger(1, step.number);
-    statement.bindInteger(2, sourceKey);
-    statement.bindInteger(3, destinationKey);
+    statement.bindInteger(2, association.source);
+    statement.bindInteger(3, numberOf(*association.root));
+    statement.bindInteger(4, association.destination);
     statement.run();
 }
 
-std::vector<std::int64_t> MigrationSource::associatedDestinations(const EntityStep& step, std::int64_t sourceKey) const
-{
-    SQLiteStatement statement = connection_.prepare("SELECT \"destination\" FROM temp.\"migration_made\" WHERE "
-                                                    "\"mapping\" = ?1 AND \"source\" = ?2 ORDER BY \"destination\"");
-    statement.bindInteger(1, step.number);
-    statement.bindInteger(2, sourceKey);
-    std::vector<std::int64_t> keys;
-    while (statement.step())
-        keys.push_back(statement.integer(0));
-    return keys;
-}
-
-std::optional<std::int64_t> MigrationSource::associatedSource(const EntityStep& step, std::int64_t destinationKey) const
+std::vector<MigrationSource::Association> MigrationSource::associationsOf(
+    const EntityStep& step, std::int64_t sourceKey) const
 {
     SQLiteStatement statement = connection_.prepare(
-        "SELECT \"source\" FROM temp.\"migration_made\" WHERE \"mapping\" = ?1 AND \"destination\" = ?2");
+        "SELECT \"root\", \"destination\" FROM temp.\"migration_made\" WHERE \"mapping\" = ?1 AND \"source\" = ?2 "
+        "ORDER BY \"root\", \"destination\"");
     statement.bindInteger(1, step.number);
-    statement.bindInteger(2, destinationKey);
+    statement.bindInteger(2, sourceKey);
+    std::vector<Association> found;
+    while (statement.step())
+        found.push_back({sourceKey, entityAt(step.to->model(), statement.integer(0)), statement.integer(1)});
+    return found;
+}
+
+std::optional<std::int64_t> MigrationSource::associatedSource(
+    const EntityStep& step, const NSEntityDescription& root, std::int64_t destinationKey) const
+{
+    SQLiteStatement statement = connection_.prepare("SELECT \"source\" FROM temp.\"migration_made\" WHERE "
+                                                    "\"mapping\" = ?1 AND \"root\" = ?2 AND \"destination\" = ?3");
+    statement.bindInteger(1, step.number);
+    statement.bindInteger(2, numberOf(root));
+    statement.bindInteger(3, destinationKey);
     return statement.step() ? std::optional<std::int64_t>(statement.integer(0)) : std::nullopt;
 }
 
-std::vector<std::pair<std::int64_t, std::int64_t>> MigrationSource::associationsAfter(
-    const EntityStep& step, std::int64_t destinationKey, std::size_t most) const
+std::vector<MigrationSource::Association> MigrationSource::associationsAfter(
+    const EntityStep& step, const NSEntityDescription& root, std::int64_t destinationKey, std::size_t most) const
 {
-    SQLiteStatement statement
-        = connection_.prepare("SELECT \"source\", \"destination\" FROM temp.\"migration_made\" WHERE \"mapping\" = ?1 "
-                              "AND \"destination\" > ?2 ORDER BY \"destination\" LIMIT ?3");
+    SQLiteStatement statement = connection_.prepare(
+        "SELECT \"source\", \"destination\" FROM temp.\"migration_made\" WHERE \"mapping\" = ?1 AND \"root\" = ?2 "
+        "AND \"destination\" > ?3 ORDER BY \"destination\" LIMIT ?4");
     statement.bindInteger(1, step.number);
-    statement.bindInteger(2, destinationKey);
-    statement.bindInteger(3, static_cast<std::int64_t>(most));
-    std::vector<std::pair<std::int64_t, std::int64_t>> pairs;
+    statement.bindInteger(2, numberOf(root));
+    statement.bindInteger(3, destinationKey);
+    statement.bindInteger(4, static_cast<std::int64_t>(most));
+    std::vector<Association> found;
     while (statement.step())
-        pairs.emplace_back(statement.integer(0), statement.integer(1));
-    return pairs;
+        found.push_back({statement.integer(0), &root, statement.integer(1)});
+    return found;
 }
 
 // The new store beside it ---------------------------------------------------------------------------------------------

@@ -48,13 +48,21 @@ public:
     /// The same for signatures; null when they are not.
     const SignatureTable* currentSignatures(const NSAttributeDescription& attribute) const;
 
-    /// What policies made of records beside the ones that keep their keys; kept in a temporary file.
-    void associate(const EntityStep& step, std::int64_t sourceKey, std::int64_t destinationKey);
-    std::vector<std::int64_t> associatedDestinations(const EntityStep& step, std::int64_t sourceKey) const;
-    std::optional<std::int64_t> associatedSource(const EntityStep& step, std::int64_t destinationKey) const;
-    /// Pairs of source and destination behind a key of the destination, ascending by that.
-    std::vector<std::pair<std::int64_t, std::int64_t>> associationsAfter(
-        const EntityStep& step, std::int64_t destinationKey, std::size_t most) const;
+    /// A record that a policy made of another, beside the one that keeps its key.
+    struct Association {
+        std::int64_t source = 0;
+        const NSEntityDescription* root = nullptr; ///< of the destination
+        std::int64_t destination = 0;
+    };
+    /// Associations are kept in a temporary file.
+    void associate(const EntityStep& step, const Association& association);
+    /// In the order of the keys.
+    std::vector<Association> associationsOf(const EntityStep& step, std::int64_t sourceKey) const;
+    std::optional<std::int64_t> associatedSource(
+        const EntityStep& step, const NSEntityDescription& root, std::int64_t destinationKey) const;
+    /// Those with a destination of this table and a key behind this one, in the order of the keys.
+    std::vector<Association> associationsAfter(
+        const EntityStep& step, const NSEntityDescription& root, std::int64_t destinationKey, std::size_t most) const;
 
     /// Makes the new store part of the connection for a scope; nobody else may write to it in that.
     class Attachment {
