@@ -9,6 +9,7 @@
 #include "tarnmodel/platform/coredata/NSMappingModel.h"
 #include "tarnmodel/platform/coredata/NSPersistentStore.h"
 #include "tarnmodel/store/VexMigrationManager.h"
+#include "tests/store/NextVersionPolicy.h"
 #include "tests/store/StackFixture.h"
 #include "tests/support/PlainStore.h"
 
@@ -16,8 +17,6 @@
 #include <iterator>
 #include <map>
 #include <sstream>
-
-#include "NextVersionPolicy.h"
 
 namespace tarn {
 namespace {
