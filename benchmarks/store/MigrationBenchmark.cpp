@@ -167,8 +167,7 @@ std::shared_ptr<const NSMappingModel> twinMapping(
         text += fmt::format("{}{{\"kind\": \"{}\", \"source\": \"{}\", \"destination\": \"{}\"", separator,
             isChanged ? "transform" : "copy", entity->name(), entity->name());
         if (isChanged)
-            text += fmt::format(
-                ", \"attributes\": [{{\"name\": \"{}\", \"value\": \"$source.{}\"}}]", to, from);
+            text += fmt::format(", \"attributes\": [{{\"name\": \"{}\", \"value\": \"$source.{}\"}}]", to, from);
         text += "}";
         separator = ", ";
     }
