@@ -6,6 +6,7 @@
 #include "tarnmodel/platform/coredata/NSMigrationManager.h"
 #include "tarnmodel/platform/foundation/filesystem/NSFileManager.h"
 #include "tarnmodel/platform/foundation/system/NSUUID.h"
+#include "tarnmodel/store/MigrationPolicies.h"
 #include "tarnmodel/store/MigrationSpaceInternal.h"
 
 #include <cerrno>
@@ -128,7 +129,13 @@ struct VexMigrationManager::Cancellation {
     };
 };
 
-VexMigrationManager::VexMigrationManager() : cancellation_(std::make_unique<Cancellation>()) { }
+VexMigrationManager::VexMigrationManager() : cancellation_(std::make_unique<Cancellation>())
+{
+    // Once: a host that has another policy of such a name registers it after its first manager.
+    static std::once_flag once;
+    std::call_once(once, registerMigrationPolicies);
+}
+
 VexMigrationManager::~VexMigrationManager() = default;
 
 void VexMigrationManager::cancelMigration()
@@ -239,9 +246,9 @@ bool VexMigrationManager::runStep(const Step& step, const fs::path& destination,
     manager.observeMigrationProgress([&](float change) { progress.at(change); });
     const Cancellation::Run reached(*cancellation_, manager);
     bool isMigrated = false;
-    for (std::size_t run = 0; run < step.mappings.size(); ++run) {
-        progress.beginRun(run);
-        isMigrated = manager.migrateStore(*held_, *step.mappings[run], destination, error);
+    for (std::size_t index = 0; index < step.mappings.size(); ++index) {
+        progress.beginRun(index);
+        isMigrated = manager.migrateStore(*held_, *step.mappings[index], destination, error);
         if (isMigrated)
             progress.at(1);
     }

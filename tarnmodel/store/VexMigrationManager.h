@@ -49,6 +49,7 @@ public:
 /// temporary folder, until the process has ended and another one sets up a stack.
 class VexMigrationManager {
 public:
+    /// The first one of a process registers the policies that the installed mapping models name.
     VexMigrationManager();
     virtual ~VexMigrationManager();
     VexMigrationManager(const VexMigrationManager&) = delete;

@@ -5,7 +5,9 @@
 
 #include <atomic>
 #include <fstream>
+#include <sqlite3.h>
 #include <thread>
+#include <utility>
 
 namespace tarn {
 namespace {
@@ -21,14 +23,15 @@ public:
     explicit ScriptedMigration(Script script) : script_(std::move(script)) { }
 
     bool progressivelyMigrateURL(const std::filesystem::path& storeURL, StoreType type,
-        const NSManagedObjectModel& finalModel, NSError* error) override
+        const std::shared_ptr<const NSManagedObjectModel>& finalModel, NSError* error) override
     {
         EXPECT_EQ(type, StoreType::SQLite);
-        EXPECT_EQ(finalModel.versionIdentifier(), "Model 3");
+        EXPECT_EQ(finalModel->versionIdentifier(), "Model 3");
         return script_(*this, storeURL, error);
     }
     void tellProgress(float progress) { delegate()->migrationManagerMigrationProgress(*this, progress); }
     using VexMigrationManager::addMigratedVersion;
+    using VexMigrationManager::isCancelled;
 
 private:
     Script script_;
@@ -188,6 +191,28 @@ TEST_F(StoreMigration, ThatThrowsHasFailed)
     EXPECT_EQ(listener_.error->localizedDescription(), "out of order");
 }
 
+TEST_F(StoreMigration, HearsOfACancellationAtAnyTime)
+{
+    for (const bool isEarly : {true, false}) {
+        listener_.events.clear();
+        stack_ = std::make_unique<OVCoreDataStack>();
+        std::filesystem::remove(storeFile());
+        makeStoreOfVersion("Model 2");
+        listener_.onBegin = [&](NSProgress& progress) {
+            if (isEarly)
+                progress.cancel();
+        };
+        migrate([&](ScriptedMigration& manager, const auto&, NSError* error) {
+            EXPECT_EQ(manager.isCancelled(), isEarly);
+            std::thread([&] { listener_.progress->cancel(); }).join();
+            EXPECT_TRUE(manager.isCancelled());
+            return fail(error, "Kelpa", 8003);
+        });
+        EXPECT_THAT(listener_.events, ElementsAre("migration of 100", "migration failed:"));
+        listener_.progress->cancel();
+    }
+}
+
 TEST_F(StoreMigration, ThatFailsUnheardIsLogged)
 {
     makeStoreOfVersion("Model 2");
@@ -244,24 +269,49 @@ TEST_F(StoreMigration, IsWaitedForByAStackThatEnds)
 
 // The library's own migration -----------------------------------------------------------------------------------------
 
-TEST_F(StoreMigration, LeavesAKnownOlderStoreToALaterRelease)
+TEST_F(StoreMigration, BringsAnOlderStoreToTheCurrentModel)
 {
-    for (const std::string version : {"Model", "Model 2"}) {
+    const std::vector<std::string> titles{"Groceries", "Rome"};
+    for (const auto& [version, end] :
+        {std::pair("Model", "migrated: Model 2 Model 3"), std::pair("Model 2", "migrated: Model 3")}) {
         listener_.events.clear();
         stack_ = std::make_unique<OVCoreDataStack>();
-        makeStoreOfVersion(version);
-        const UntouchedFile store(storeFile());
+        makeStoreOfVersion(version, titles);
         migrate();
 
-        EXPECT_THAT(listener_.events, ElementsAre("migration of 100", "migration failed:"));
-        EXPECT_EQ(listener_.error->domain(), "Kelpa");
-        EXPECT_EQ(listener_.error->code(), 8002);
-        EXPECT_THAT(listener_.error->localizedDescription(), HasSubstr('"' + version + '"'));
-        EXPECT_FALSE(stack_->managedObjectContext());
-        store.expectUntouched();
+        EXPECT_THAT(listener_.events, ElementsAre("migration of 100", end, "initialized"));
+        EXPECT_FALSE(listener_.error) << *listener_.error;
+        ASSERT_TRUE(stack_->managedObjectContext());
+        EXPECT_EQ(titlesIn(*stack_->managedObjectContext()), titles);
         EXPECT_THAT(files(), ElementsAre("database.sqlite"));
+        EXPECT_EQ(listener_.progress->completedUnitCount(), 100);
+        EXPECT_THAT(listener_.asides, IsEmpty());
+        stack_.reset();
         std::filesystem::remove(storeFile());
     }
+}
+
+TEST_F(StoreMigration, ThatHasNoSpaceLeavesTheStore)
+{
+    makeStoreOfVersion("Model 2", {"Groceries"});
+    const UntouchedFile store(storeFile());
+    world_.setAvailableSpace(1);
+    migrate();
+    EXPECT_THAT(listener_.events, ElementsAre("migration of 100", "migration failed:"));
+    EXPECT_EQ(listener_.error->code(), 8002);
+    EXPECT_FALSE(stack_->managedObjectContext());
+    store.expectUntouched();
+}
+
+TEST_F(StoreMigration, IsCancelledByWhoeverHasItsProgress)
+{
+    makeStoreOfVersion("Model", {"Groceries"});
+    const UntouchedFile store(storeFile());
+    listener_.onBegin = [](NSProgress& progress) { progress.cancel(); };
+    migrate();
+    EXPECT_THAT(listener_.events, ElementsAre("migration of 100", "migration failed:"));
+    EXPECT_EQ(*listener_.error, NSError("Kelpa", 8003, "The migration was cancelled"));
+    store.expectUntouched();
 }
 
 TEST_F(StoreMigration, SetsAStoreOfAnUnknownModelAside)
@@ -273,6 +323,122 @@ TEST_F(StoreMigration, SetsAStoreOfAnUnknownModelAside)
     EXPECT_THAT(listener_.events, ElementsAre("migration of 100", "migrated:", "initialized"));
     EXPECT_THAT(files(), ElementsAre("database.sqlite", backupName));
     EXPECT_TRUE(bytesOf(folder() / backupName) == bytes);
+    EXPECT_THAT(listener_.asides, ElementsAre(std::pair(StoreStanding::Unknown, folder() / backupName)));
+}
+
+TEST_F(StoreMigration, SetsNoStoreAsideAgainstTheWillOfItsDelegate)
+{
+    listener_.letsSetAside = false;
+    makeStoreOfUnknownModel();
+    const UntouchedFile store(storeFile());
+    migrate();
+
+    EXPECT_THAT(listener_.events, ElementsAre("migration of 100", "migration failed:"));
+    EXPECT_EQ(*listener_.error, NSError("Kelpa", 8001, "No mapping model found in bundle"));
+    EXPECT_FALSE(stack_->managedObjectContext());
+    EXPECT_THAT(files(), ElementsAre("database.sqlite"));
+    store.expectUntouched();
+}
+
+TEST_F(StoreMigration, TellsTheDelegateOfANewerStoreBeforeItIsSetAside)
+{
+    makeStoreOfUnknownModel();
+    sqlite3* other = nullptr;
+    ASSERT_EQ(sqlite3_open(storeFile().c_str(), &other), SQLITE_OK);
+    ASSERT_EQ(sqlite3_exec(other, "UPDATE store_metadata SET value = 'Model 4' WHERE key = 'modelVersion'", nullptr,
+                  nullptr, nullptr),
+        SQLITE_OK);
+    sqlite3_close(other);
+    listener_.letsSetAside = false;
+    const UntouchedFile store(storeFile());
+    migrate();
+
+    EXPECT_THAT(listener_.asides, ElementsAre(std::pair(StoreStanding::Newer, folder() / backupName)));
+    store.expectUntouched();
+}
+
+TEST_F(StoreMigration, SetsAsideWithoutADelegate)
+{
+    makeStoreOfUnknownModel();
+    stack_->setupStackWithDelegate(nullptr);
+    runUntil([&] { return stack_->managedObjectContext() != nullptr; });
+    EXPECT_THAT(files(), ElementsAre("database.sqlite", backupName));
+}
+
+TEST_F(StoreMigration, SetsNoStoreAsideThatAnotherProgramHasMigratedMeanwhile)
+{
+    makeStoreOfUnknownModel();
+    listener_.onAside = [this] {
+        std::filesystem::remove(storeFile());
+        makeStoreOfVersion("Model 3", {"Groceries"});
+    };
+    migrate();
+    EXPECT_THAT(files(), ElementsAre("database.sqlite"));
+    EXPECT_THAT(titlesIn(*stack_->managedObjectContext()), ElementsAre("Groceries"));
+}
+
+TEST_F(StoreMigration, ThatWaitsForAnAnswerDoesNotKeepTheStackFromEnding)
+{
+    makeStoreOfUnknownModel();
+    const UntouchedFile store(storeFile());
+    std::atomic<bool> hasRun = false;
+    stack_->setMigrationManagerMaker([&] {
+        return std::make_unique<ScriptedMigration>([&](auto&, const auto&, NSError* error) {
+            hasRun = true;
+            return fail(error, "Kelpa", 8001);
+        });
+    });
+    stack_->setupStackWithDelegate(&listener_);
+    while (!hasRun)
+        std::this_thread::yield();
+    stack_.reset();
+    MainQueue::main().drain();
+    EXPECT_THAT(listener_.asides, IsEmpty());
+    store.expectUntouched();
+}
+
+TEST_F(StoreMigration, MayEndTheStackInItsQuestion)
+{
+    makeStoreOfUnknownModel();
+    const UntouchedFile store(storeFile());
+    stack_->setupStackWithDelegate(&listener_);
+    listener_.onAside = [this] { stack_.reset(); };
+    runUntil([&] { return !stack_; });
+    store.expectUntouched();
+    EXPECT_THAT(listener_.events, ElementsAre("migration of 100"));
+}
+
+// What the last process left ------------------------------------------------------------------------------------------
+
+class LeftByAMigration : public StoreMigration {
+protected:
+    /// A second name of the store in the temporary folder of a process that has ended.
+    std::filesystem::path secondName()
+    {
+        const auto place = OVLocalFileManager::temporaryDirectoryURL().parent_path() / "Process.ended";
+        std::filesystem::create_directory(place);
+        std::filesystem::create_hard_link(storeFile(), place / "second.sqlite");
+        return place / "second.sqlite";
+    }
+};
+
+TEST_F(LeftByAMigration, IsGoneWhenTheStoreIsOpened)
+{
+    makeStoreOfVersion("Model 3", {"Groceries"});
+    const auto second = secondName();
+    stack_->setupStackWithDelegate(&listener_);
+    EXPECT_FALSE(std::filesystem::exists(second));
+    EXPECT_THAT(titlesIn(*stack_->managedObjectContext()), ElementsAre("Groceries"));
+}
+
+TEST_F(LeftByAMigration, IsGoneBeforeTheNextOneBegins)
+{
+    makeStoreOfVersion("Model 2");
+    const auto second = secondName();
+    migrate([&](auto&, const auto&, NSError* error) {
+        EXPECT_FALSE(std::filesystem::exists(second));
+        return fail(error, "Kelpa", 8002);
+    });
 }
 
 } // namespace

@@ -48,6 +48,8 @@ void StackListener::coreDataStackDidBeginMigrationWithProgress(
     EXPECT_FALSE(stack.managedObjectContext());
     progress = begun;
     events.push_back("migration of " + std::to_string(begun->totalUnitCount()));
+    if (onBegin)
+        onBegin(*begun);
 }
 
 void StackListener::coreDataStackDidEndMigration(OVCoreDataStack& stack, const std::optional<NSError>& migrationError,
@@ -60,6 +62,16 @@ void StackListener::coreDataStackDidEndMigration(OVCoreDataStack& stack, const s
     for (const std::string& version : migratedVersions)
         event += " " + version;
     events.push_back(event);
+}
+
+bool StackListener::coreDataStackShouldSetStoreAsideAtURL(
+    OVCoreDataStack&, StoreStanding standing, const std::filesystem::path& place)
+{
+    expectMainQueue();
+    asides.emplace_back(standing, place);
+    if (onAside)
+        onAside();
+    return letsSetAside;
 }
 
 void StackListener::coreDataStackDidFailToSave(OVCoreDataStack&, const NSError& failure)
@@ -82,6 +94,7 @@ void StackListener::coreDataStackDidMergeConflict(OVCoreDataStack&, const MergeC
 
 StackFixture::StackFixture()
     : folder_(fs::temp_directory_path() / ("tarn stäck " + newUUIDString())),
+      caches_(fs::temp_directory_path() / ("tarn stäck cache " + newUUIDString())),
       previousHost_(setHostUUIDProvider([](std::chrono::seconds) {
           return HostUUID{HostUUIDStatus::Known, *bytesOfUUIDString("01020304-0506-4708-890A-0B0C0D0E0F10")};
       }))
@@ -89,6 +102,7 @@ StackFixture::StackFixture()
     MainQueue::main();                                                   // this thread is its owner
     world_.setNow(dateWithMicrosecondsSince1970(1'580'465'700'250'000)); // 2020-01-31 10:15:00.25
     world_.setTimeZoneIdentifier("Europe/Berlin");
+    world_.setCacheDirectory(caches_);
     fs::create_directories(folder_);
     OVLocalFileManager::setApplicationPersistentDataTestURL(folder_);
 }
@@ -99,6 +113,7 @@ StackFixture::~StackFixture()
     setHostUUIDProvider(previousHost_);
     std::error_code failure;
     fs::remove_all(folder_, failure);
+    fs::remove_all(caches_, failure);
 }
 
 void StackFixture::TearDown()
@@ -116,6 +131,17 @@ std::vector<std::string> StackFixture::files() const
     return names;
 }
 
+std::vector<fs::path> StackFixture::filesBelow(const fs::path& folder)
+{
+    std::vector<fs::path> found;
+    std::error_code failure;
+    for (fs::recursive_directory_iterator entry(folder, failure), end; !failure && entry != end;
+         entry.increment(failure))
+        if (entry->is_regular_file())
+            found.push_back(entry->path());
+    return found;
+}
+
 std::string StackFixture::bytesOf(const fs::path& file)
 {
     std::ifstream stream(file, std::ios::binary);
@@ -123,21 +149,38 @@ std::string StackFixture::bytesOf(const fs::path& file)
     return {std::istreambuf_iterator<char>(stream), {}};
 }
 
-void StackFixture::makeStore(const std::shared_ptr<const NSManagedObjectModel>& model)
+void StackFixture::makeStore(
+    const std::shared_ptr<const NSManagedObjectModel>& model, const std::vector<std::string>& titles)
 {
     NSError error;
-    NSPersistentStoreCoordinator coordinator(model);
-    ASSERT_TRUE(coordinator.addPersistentStoreWithType(StoreType::SQLite, storeFile(), {}, &error)) << error;
+    auto coordinator = std::make_shared<NSPersistentStoreCoordinator>(model);
+    ASSERT_TRUE(coordinator->addPersistentStoreWithType(StoreType::SQLite, storeFile(), {}, &error)) << error;
+    NSManagedObjectContext context(NSManagedObjectContext::ConcurrencyType::PrivateQueue);
+    context.setPersistentStoreCoordinator(coordinator);
+    context.performBlockAndWait([&] {
+        for (const std::string& title : titles)
+            context.insertObject("OVNote").setValueForKey("title", Value(title));
+        EXPECT_TRUE(context.save(&error)) << error;
+    });
 }
 
-void StackFixture::makeStoreOfVersion(std::string_view version)
+std::string StackFixture::versionOfStore() const
+{
+    NSError error;
+    const auto metadata
+        = NSPersistentStoreCoordinator::metadataForPersistentStoreOfType(StoreType::SQLite, storeFile(), &error);
+    return metadata ? NSPersistentStoreCoordinator::modelVersionOfStoreMetadata(*metadata)
+                    : error.localizedDescription();
+}
+
+void StackFixture::makeStoreOfVersion(std::string_view version, const std::vector<std::string>& titles)
 {
     NSError error;
     const auto file = OVManagedObjectModel::modelURLForVersion(version);
     ASSERT_TRUE(file) << version;
     const auto model = NSManagedObjectModel::modelWithContentsOfFile(*file, &error);
     ASSERT_TRUE(model) << error;
-    makeStore(model);
+    makeStore(model, titles);
 }
 
 void StackFixture::makeStoreOfUnknownModel()

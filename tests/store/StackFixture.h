@@ -15,6 +15,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace tarn {
@@ -27,7 +28,11 @@ class StackListener : public OVCoreDataStackDelegate {
 public:
     std::vector<std::string> events;
     std::shared_ptr<NSProgress> progress;
-    std::optional<NSError> error; ///< the last one
+    std::optional<NSError> error;                                        ///< the last one
+    std::vector<std::pair<StoreStanding, std::filesystem::path>> asides; ///< what it was asked to set aside, and where
+    bool letsSetAside = true;
+    std::function<void(NSProgress&)> onBegin; ///< when a migration begins
+    std::function<void()> onAside;            ///< when it is asked
 
     void coreDataStackDidInitializeManagedObjectContext(
         OVCoreDataStack& stack, NSManagedObjectContext& context) override;
@@ -36,6 +41,8 @@ public:
         OVCoreDataStack& stack, const std::shared_ptr<NSProgress>& begun) override;
     void coreDataStackDidEndMigration(OVCoreDataStack& stack, const std::optional<NSError>& migrationError,
         const std::vector<std::string>& migratedVersions) override;
+    bool coreDataStackShouldSetStoreAsideAtURL(
+        OVCoreDataStack& stack, StoreStanding standing, const std::filesystem::path& place) override;
     void coreDataStackDidFailToSave(OVCoreDataStack& stack, const NSError& failure) override;
     void coreDataStackDidMergeConflict(OVCoreDataStack& stack, const MergeConflict& conflict) override;
 };
@@ -51,12 +58,18 @@ protected:
 
     const std::filesystem::path& folder() const { return folder_; }
     std::filesystem::path storeFile() const { return folder_ / "database.sqlite"; }
+    /// The user's cache folder, in which the temporary folders lie.
+    const std::filesystem::path& caches() const { return caches_; }
+    /// All files below a folder.
+    static std::vector<std::filesystem::path> filesBelow(const std::filesystem::path& folder);
     /// The names of all files in the folder, sorted.
     std::vector<std::string> files() const;
     static std::string bytesOf(const std::filesystem::path& file);
 
-    /// Makes the store with an installed version of the model ("Model 2").
-    void makeStoreOfVersion(std::string_view version);
+    /// Makes the store with an installed version of the model ("Model 2"), and notes in it.
+    void makeStoreOfVersion(std::string_view version, const std::vector<std::string>& titles = {});
+    /// What the store says of the model that it has.
+    std::string versionOfStore() const;
     /// Makes the store with a model that this library has never had.
     void makeStoreOfUnknownModel();
 
@@ -78,9 +91,11 @@ protected:
     StackListener listener_;
 
 private:
-    void makeStore(const std::shared_ptr<const NSManagedObjectModel>& model);
+    void makeStore(
+        const std::shared_ptr<const NSManagedObjectModel>& model, const std::vector<std::string>& titles = {});
 
     std::filesystem::path folder_;
+    std::filesystem::path caches_;
     HostUUIDProvider previousHost_;
     LogCapture log_;
 };
