@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <functional>
 #include <span>
+#include <string_view>
 #include <tuple>
 #include <vector>
 

@@ -1,6 +1,10 @@
 #pragma once
 
 #include "tarnmodel/platform/coredata/NSEntityMigrationPolicy.h"
+#include "tarnmodel/platform/foundation/values/Value.h"
+
+#include <span>
+#include <string_view>
 
 namespace tarn {
 

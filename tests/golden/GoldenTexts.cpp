@@ -63,6 +63,7 @@ std::vector<std::string> unusualTexts()
         "# Back\\slash \\\\ C:\\new\\table\n\n\\n \\0 \\' %s %d {} {0} ?1 :name @name $name",
         "# NUL \0 in a title\n\nand \0\0 in a text"s,
         "\0"s,
+        "# NUL \0 and then\n\n#behind/nul [[Groceries]]\n\n- [ ] milk \0\n\n```\ncode \0\n```\n"s,
         "# Controls \x01\x02\x1B[0m\x7F\n\nbell \a, form feed \f, vertical tab \v",
         "# Line ends\r\n\r\nof another system\r\n- [ ] one\r\n- [x] two\r\n#windows\r\n",
         "# Old line ends\r\rof a third\r- [ ] one",

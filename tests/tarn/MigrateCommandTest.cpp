@@ -1,3 +1,4 @@
+#include "tests/support/GoldenStore.h"
 #include "tests/support/PlainStore.h"
 #include "tests/tarn/ForeignWriter.h"
 #include "tests/tarn/TarnCommandTest.h"
@@ -231,9 +232,24 @@ TEST_F(MigrateCommand, BringsAStoreForward)
     EXPECT_THAT(namesBesideStore(), ElementsAre("database.sqlite", "tarn.lock"));
     EXPECT_THAT(titlesOf(json({"list"})), SizeIs(3));
     EXPECT_THAT(output({"show", "Old 2"}), StartsWith("# Old 2\n\npears x"));
-    EXPECT_EQ(json({"search", "pears"}).at("total"), 3);
+    EXPECT_EQ(json({"search", "pears"}).at("count"), 3);
     note("# New");
     EXPECT_EQ(json({"list"}).at("total"), 4);
+}
+
+TEST_F(MigrateCommand, LeavesNothingForTheDoctorToFind)
+{
+    for (const std::string version : {"Model", "Model 2"}) {
+        SCOPED_TRACE(version);
+        fs::create_directories(database().parent_path());
+        makeGoldenStore(database(), version);
+        EXPECT_EQ(run({"migrate"}).exitCode, 0);
+        const nlohmann::json report = json({"doctor"});
+        for (const auto& check : report.at("checks"))
+            EXPECT_TRUE(check.at("ok") || check.at("name") == "files") << check;
+        EXPECT_GT(json({"stats"}).at("notes"), 100);
+        fs::remove_all(store());
+    }
 }
 
 TEST_F(MigrateCommand, AnswersInJSON)
