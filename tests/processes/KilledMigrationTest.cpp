@@ -4,6 +4,7 @@
 #include "tests/processes/SharedStore.h"
 #include "tests/processes/Worker.h"
 
+#include "tarnmodel/platform/foundation/filesystem/NSFileManager.h"
 #include "tarnmodel/platform/foundation/system/Environment.h"
 
 #include <fmt/format.h>
@@ -12,6 +13,7 @@
 
 #include <array>
 #include <chrono>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -23,6 +25,7 @@ namespace {
 
 using testing::AnyOf;
 using testing::Eq;
+using testing::HasSubstr;
 using testing::IsEmpty;
 
 namespace fs = std::filesystem;
@@ -84,8 +87,9 @@ protected:
 
     static WorkerResult run(const StoreFolder& folder, const std::string& work, const std::string& injection = "")
     {
-        WorkerResult result
-            = WorkerProcess({"migration", folder.file().parent_path().string(), work}, injection).finish();
+        WorkerResult result = WorkerProcess({"migration", folder.file().parent_path().string(), work},
+            injection.empty() ? std::vector<std::string>() : std::vector{injection})
+                                  .finish();
         EXPECT_TRUE(!injection.empty() || result.exitCode == 0) << work << ": " << result.output;
         return result;
     }
@@ -170,6 +174,88 @@ TEST_P(BrokenMigration, LeavesAWholeStore)
 
 INSTANTIATE_TEST_SUITE_P(Calls, BrokenMigration, testing::ValuesIn(kDisturbances),
     [](const auto& disturbance) { return std::string(disturbance.param.name); });
+
+// The exchange of the files
+// --------------------------------------------------------------------------------------------
+
+/// Beside the store, where the backup is a second name of it, or on another file system, where it is a copy.
+class BrokenExchange : public MigrationOfOthers, public testing::WithParamInterface<bool> {
+protected:
+    void SetUp() override
+    {
+        if (!WorkerProcess::canBeTraced())
+            GTEST_SKIP() << "this system does not let one process look at another";
+        MigrationOfOthers::SetUp();
+        if (!GetParam())
+            return;
+        std::string name = "/dev/shm/tarn-exchange-XXXXXX";
+        if (!::mkdtemp(name.data()) || NSFileManager::areOnOneFileSystem(name, versions_[0].file()))
+            GTEST_SKIP() << "there is no other file system";
+        elsewhere_ = name;
+    }
+    void TearDown() override
+    {
+        std::error_code ignored;
+        if (!elsewhere_.empty())
+            fs::remove_all(elsewhere_, ignored);
+    }
+    /// With the store of version 1, which that of version 3 is to replace.
+    WorkerResult exchange(const StoreFolder& folder, const std::vector<std::string>& injections) const
+    {
+        folder.copyFrom(versions_[0]);
+        fs::copy_file(versions_[2].file(), next(folder));
+        return WorkerProcess(
+            {"migration", folder.file().parent_path().string(), "exchange " + backup(folder).string()}, injections)
+            .finish();
+    }
+    static fs::path next(const StoreFolder& folder) { return folder.file().parent_path() / "next.sqlite"; }
+    fs::path backup(const StoreFolder& folder) const
+    {
+        return (GetParam() ? elsewhere_ : folder.file().parent_path()) / "backup.sqlite";
+    }
+
+    fs::path elsewhere_;
+};
+
+TEST_P(BrokenExchange, TakesBackWhatItDidWhenAFolderCannotBeMadeDurable)
+{
+    const int syncs = GetParam() ? 4 : 3; // of the new store, the copy, its folder and the store's folder
+    for (int time = 1; time <= syncs; ++time) {
+        SCOPED_TRACE(time);
+        const StoreFolder folder;
+        const WorkerResult result = exchange(folder, {fmt::format("inject=fsync:error=EIO:when={}", time)});
+        EXPECT_EQ(result.exitCode, 3);
+        EXPECT_THAT(result.output, HasSubstr("cannot be made durable: Input/output error"));
+        EXPECT_TRUE(bytesOfStore(folder.file()) == bytesOfStore(versions_[0].file()));
+        EXPECT_FALSE(fs::exists(backup(folder)));
+        EXPECT_EQ(fs::hard_link_count(folder.file()), 1U);
+    }
+    const StoreFolder folder;
+    EXPECT_EQ(exchange(folder, {fmt::format("inject=fsync:error=EIO:when={}", syncs + 1)}).exitCode, 0);
+}
+
+TEST_P(BrokenExchange, TellsWhereTheOldStoreLiesWhenItCannotBePutBack)
+{
+    const StoreFolder folder;
+    const WorkerResult result = exchange(
+        folder, {fmt::format("inject=fsync:error=EIO:when={}", GetParam() ? 4 : 3), "inject=rename:error=EIO:when=2+"});
+    EXPECT_EQ(result.exitCode, 3);
+    EXPECT_THAT(result.output, HasSubstr("the old one lies at \"" + backup(folder).string() + "\""));
+    EXPECT_TRUE(bytesOfStore(backup(folder)) == bytesOfStore(versions_[0].file()));
+    EXPECT_TRUE(bytesOfStore(folder.file()) == bytesOfStore(versions_[2].file()));
+}
+
+TEST_P(BrokenExchange, KeepsACopyThatIsTheStoreByteByByte)
+{
+    const StoreFolder folder;
+    EXPECT_EQ(exchange(folder, {}).exitCode, 0);
+    EXPECT_TRUE(bytesOfStore(backup(folder)) == bytesOfStore(versions_[0].file()));
+    EXPECT_TRUE(bytesOfStore(folder.file()) == bytesOfStore(versions_[2].file()));
+    EXPECT_FALSE(fs::exists(next(folder)));
+}
+
+INSTANTIATE_TEST_SUITE_P(Backups, BrokenExchange, testing::Bool(),
+    [](const auto& backup) { return backup.param ? "OnAnotherFileSystem" : "BesideTheStore"; });
 
 // Others meanwhile ----------------------------------------------------------------------------------------------------
 

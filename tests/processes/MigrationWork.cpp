@@ -3,6 +3,7 @@
 #include "tarnmodel/files/OVLocalFileManager.h"
 #include "tarnmodel/model/ManagedObjectModel.h"
 #include "tarnmodel/model/OVNote.h"
+#include "tarnmodel/platform/coredata/HeldStoreFile.h"
 #include "tarnmodel/platform/foundation/events/Queue.h"
 #include "tarnmodel/store/OVCoreDataStack.h"
 #include "tarnmodel/store/OVCoreDataStackForExtensions.h"
@@ -64,6 +65,14 @@ void bringToVersion2()
     require(manager.progressivelyMigrateURL(
                 OVLocalFileManager::databaseURL(), StoreType::SQLite, modelOfVersion("Model 2"), &error),
         error);
+}
+
+void exchangeFiles(const fs::path& backup)
+{
+    NSError error;
+    const fs::path store = OVLocalFileManager::databaseURL();
+    const auto held = HeldStoreFile::hold(store, {}, &error);
+    require(held && held->replaceWith(store.parent_path() / "next.sqlite", backup, &error), error);
 }
 
 /// Stops in the middle of a step until it is told to go on.
@@ -161,6 +170,8 @@ void workOnMigration(std::span<const std::string_view> arguments)
         makeOldStore();
     else if (work == "step")
         bringToVersion2();
+    else if (work.starts_with("exchange "))
+        exchangeFiles(work.substr(9));
     else if (work == "extension")
         openAsExtension();
     else if (work == "widget")
