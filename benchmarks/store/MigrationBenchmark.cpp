@@ -168,8 +168,7 @@ std::shared_ptr<const NSMappingModel> twinMapping(
             isChanged ? "transform" : "copy", entity->name(), entity->name());
         if (isChanged)
             text += fmt::format(
-                ", \"attributes\": [{{\"name\": \"{}\", \"value\": \"$source.{}\"}}], \"dropped\": [\"{}\"]", to, from,
-                from);
+                ", \"attributes\": [{{\"name\": \"{}\", \"value\": \"$source.{}\"}}]", to, from);
         text += "}";
         separator = ", ";
     }
