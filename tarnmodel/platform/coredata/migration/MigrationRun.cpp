@@ -135,12 +135,12 @@ void MigrationRun::makeInstances(EntityStep& step)
 
 void MigrationRun::makeInstancesBySQL(EntityStep& step)
 {
-    const std::vector<std::string> statements
+    const std::vector<BulkStatement> statements
         = instanceStatements(step, source_, destination_, steps_, functions_, !step.passes.createsRelationships);
     runInPortions(step, statements);
 }
 
-void MigrationRun::runInPortions(const EntityStep& step, const std::vector<std::string>& statements)
+void MigrationRun::runInPortions(const EntityStep& step, const std::vector<BulkStatement>& statements)
 {
     if (statements.empty() || step.recordCount == 0)
         return progress_.advance(step.recordCount);
@@ -150,11 +150,12 @@ void MigrationRun::runInPortions(const EntityStep& step, const std::vector<std::
     std::size_t left = step.recordCount;
     for (std::int64_t key = kBeforeAllKeys; left > 0;) {
         const std::int64_t last = source_.lastKeyOfNext(*step.from, key, kPortion);
-        for (const std::string& sql : statements) {
-            SQLiteStatement statement = connection.prepare(sql);
+        for (const BulkStatement& bulk : statements) {
+            SQLiteStatement statement = connection.prepare(bulk.sql);
             statement.bindInteger(1, key);
             statement.bindInteger(2, last);
             statement.run();
+            destination_.noteRows(bulk.table, connection.changedRowCount());
         }
         const std::size_t done = std::min(left, kPortion);
         left -= done;
@@ -240,9 +241,9 @@ void MigrationRun::makeRelationships(EntityStep& step)
 
 void MigrationRun::makeRelationshipsBySQL(EntityStep& step)
 {
-    std::vector<std::string> statements;
+    std::vector<BulkStatement> statements;
     for (const NSPropertyMapping& property : step.mapping->relationshipMappings())
-        for (std::string& statement : relationshipStatements(step, property, source_, destination_, steps_))
+        for (BulkStatement& statement : relationshipStatements(step, property, source_, destination_, steps_))
             statements.push_back(std::move(statement));
     runInPortions(step, statements);
 }
@@ -319,7 +320,7 @@ void MigrationRun::finish()
     WriteTransaction transaction(destination_.connection(), WriteTransaction::Lock::Immediate);
     for (EntityStep& step : steps_.all())
         callHook(step, &NSEntityMigrationPolicy::endEntityMapping);
-    destination_.completeDerivedValues([this](std::size_t) { progress_.checkIsNotCancelled(); });
+    destination_.completeDerivedValues([this] { progress_.checkIsNotCancelled(); });
     destination_.checkReferences();
     destination_.writeMetadata(*manager_.destinationModel(), source_.metadata(), steps_.nextKeys());
     progress_.checkIsNotCancelled();

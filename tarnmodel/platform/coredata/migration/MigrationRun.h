@@ -15,6 +15,7 @@
 
 namespace tarn {
 
+struct BulkStatement;
 class HeldStoreFile;
 class MigrationProgress;
 class NSMigrationManager;
@@ -57,7 +58,7 @@ private:
     bool isMadeOf(const EntityStep& step, std::int64_t sourceKey);
     void finish();
     /// Runs statements for the records of the source in portions, and tells how far that is.
-    void runInPortions(const EntityStep& step, const std::vector<std::string>& statements);
+    void runInPortions(const EntityStep& step, const std::vector<BulkStatement>& statements);
     void callHook(EntityStep& step, Hook hook);
     /// What a policy has come back with.
     void checkEnd(const EntityStep& step, bool isFine, const NSError& error);
