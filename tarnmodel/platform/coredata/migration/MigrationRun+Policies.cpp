@@ -145,15 +145,15 @@ MigrationRecord* MigrationRun::destinationRecord(const NSManagedObjectID& object
     for (const auto& record : recordsInHand_)
         if (record->objectID() == objectID)
             return record.get();
+    writeRecordLookedAt();
     if (isFirstPass_)
         return nullptr;
     auto row = destination_.selects().row(
         destination_.connection(), objectID.entity().rootEntity(), objectID.key(), RowContents::Row);
-    if (!row)
-        return nullptr;
-    recordsInHand_.push_back(std::make_unique<DestinationMigrationRecord>(
-        source_.identity(), destination_, std::move(*row), DestinationMigrationRecord::Kind::Written));
-    return recordsInHand_.back().get();
+    if (row)
+        destinationLookedAt_ = std::make_unique<DestinationMigrationRecord>(
+            source_.identity(), destination_, std::move(*row), DestinationMigrationRecord::Kind::Written);
+    return destinationLookedAt_.get();
 }
 
 std::vector<NSManagedObjectID> MigrationRun::destinationsWithFoldedValue(

@@ -106,6 +106,7 @@ void MigrationRun::callHook(EntityStep& step, Hook hook)
     NSError error;
     const bool isFine = (*step.policy.*hook)(*step.mapping, manager_, &error);
     checkEnd(step, isFine, error);
+    writeRecordsInHand();
 }
 
 void MigrationRun::checkEnd(const EntityStep& step, bool isFine, const NSError& error)
@@ -198,10 +199,18 @@ void MigrationRun::makeInstancesOf(EntityStep& step, std::int64_t key)
 
 void MigrationRun::writeRecordsInHand()
 {
+    writeRecordLookedAt();
     for (const auto& record : recordsInHand_)
         record->write();
     recordsInHand_.clear();
     sourceLookedAt_.reset();
+}
+
+void MigrationRun::writeRecordLookedAt()
+{
+    if (destinationLookedAt_)
+        destinationLookedAt_->write();
+    destinationLookedAt_.reset();
 }
 
 void MigrationRun::addIndexes()

@@ -62,6 +62,7 @@ private:
     /// What a policy has come back with.
     void checkEnd(const EntityStep& step, bool isFine, const NSError& error);
     void writeRecordsInHand();
+    void writeRecordLookedAt();
     NSManagedObjectID sourceID(const EntityStep& step, std::int64_t key) const;
     const std::vector<std::string>& selectsOf(const EntityStep& step, const NSPropertyMapping& property);
 
@@ -81,6 +82,7 @@ private:
     std::int64_t sourceVersionInHand_ = 0;
     std::vector<std::unique_ptr<DestinationMigrationRecord>> recordsInHand_;
     std::unique_ptr<SourceMigrationRecord> sourceLookedAt_;
+    std::unique_ptr<DestinationMigrationRecord> destinationLookedAt_;
     std::map<const NSPropertyMapping*, std::vector<std::string>> selects_;
 };
 
