@@ -45,8 +45,8 @@ MigrationDestination::MigrationDestination(const std::filesystem::path& file, co
     : file_(file), connection_(file, {.create = true}), schema_(model), selects_(schema_, model),
       writer_(schema_, connection_)
 {
-    // The file is thrown away when something fails, and synced as a whole in the end. What is sorted for an index may be
-    // more than memory should hold.
+    // The file is thrown away when something fails, and synced as a whole in the end. What is sorted for an index may
+    // be more than memory should hold.
     connection_.execute("PRAGMA journal_mode = OFF; PRAGMA synchronous = OFF; PRAGMA secure_delete = OFF;"
                         "PRAGMA cache_spill = 1; PRAGMA foreign_keys = OFF; PRAGMA temp_store = FILE;");
     const StoreFileContents contents = contentsOfStoreFile(connection_);
