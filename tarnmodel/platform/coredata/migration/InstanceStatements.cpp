@@ -27,12 +27,6 @@ std::string inSide(const std::string& table)
     return "side." + quotedIdentifier(table);
 }
 
-std::string andEntityIs(const NSEntityDescription& entity, bool includesSubentities, std::string_view alias)
-{
-    const std::string condition = entityCondition(entity, includesSubentities, alias);
-    return condition.empty() ? condition : " AND " + condition;
-}
-
 std::string withOffset(const std::string& key, std::int64_t offset)
 {
     return offset == 0 ? key : fmt::format("{} + {}", key, offset);

@@ -39,12 +39,6 @@ bool isOn(const std::string& statement, const std::string& table)
     return statement.find(" ON " + quotedIdentifier(table) + " ") != std::string::npos;
 }
 
-std::string andEntityIs(const NSEntityDescription& entity, bool includesSubentities, std::string_view alias)
-{
-    const std::string condition = entityCondition(entity, includesSubentities, alias);
-    return condition.empty() ? condition : " AND " + condition;
-}
-
 } // namespace
 
 MigrationDestination::MigrationDestination(const std::filesystem::path& file, const NSManagedObjectModel& model)
