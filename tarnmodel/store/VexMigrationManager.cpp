@@ -54,10 +54,11 @@ public:
     void isTheStoreNow() noexcept { isOurs_ = false; }
 
 private:
-    /// Files, links and empty folders alone: what somebody keeps in a folder of that name is not for us to delete.
+    /// With what SQLite and a second mapping model leave beside it. Files, links and empty folders alone: what somebody
+    /// keeps in a folder of that name is not for us to delete.
     void remove() const noexcept
     {
-        for (const std::string_view ending : {"", "-journal", "-wal", "-shm"}) {
+        for (const std::string_view ending : {"", "-journal", "-wal", "-shm", "-before"}) {
             std::error_code ignored;
             fs::remove(fs::path(path_) += ending, ignored);
         }

@@ -73,7 +73,9 @@ protected:
 
     static WorkerResult run(const fs::path& folder, std::string_view work, const std::string& injection)
     {
-        return WorkerProcess({"attachments", folder.string(), std::string(work)}, injection).finish();
+        return WorkerProcess({"attachments", folder.string(), std::string(work)},
+            injection.empty() ? std::vector<std::string>() : std::vector{injection})
+            .finish();
     }
 
     /// At each of its calls, or at every third one.

@@ -5,6 +5,7 @@
 #include "tests/processes/AttachmentWork.h"
 #include "tests/processes/CommonLife.h"
 #include "tests/processes/KnownWorld.h"
+#include "tests/processes/MigrationWork.h"
 #include "tests/processes/SharedStore.h"
 #include "tests/processes/Workload.h"
 #include "tests/support/FaultyDisk.h"
@@ -78,6 +79,7 @@ constexpr std::array kParts{
     Part{"reader", 3, liveAsReader},
     Part{"append", 2, append},
     Part{"attachments", 2, workWithAttachments},
+    Part{"migration", 2, workOnMigration},
 };
 
 } // namespace

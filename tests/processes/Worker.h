@@ -33,8 +33,8 @@ struct WorkerResult {
 /// Another process of this program that runs as a worker. It never outlives this object.
 class WorkerProcess {
 public:
-    /// `injection`, where there is one, is what `strace -e` is to do to its calls of the system.
-    explicit WorkerProcess(const std::vector<std::string>& arguments, const std::string& injection = "");
+    /// `injections`, where there are some, are what `strace -e` is to do to its calls of the system.
+    explicit WorkerProcess(const std::vector<std::string>& arguments, const std::vector<std::string>& injections = {});
     /// Whether this system lets us inject anything.
     static bool canBeTraced();
     ~WorkerProcess();

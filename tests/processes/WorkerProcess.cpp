@@ -14,7 +14,7 @@
 
 namespace tarn {
 
-WorkerProcess::WorkerProcess(const std::vector<std::string>& arguments, const std::string& injection)
+WorkerProcess::WorkerProcess(const std::vector<std::string>& arguments, const std::vector<std::string>& injections)
 {
     std::array<int, 2> pipe{};
     if (::pipe2(pipe.data(), O_CLOEXEC) != 0)
@@ -22,10 +22,12 @@ WorkerProcess::WorkerProcess(const std::vector<std::string>& arguments, const st
     pipe_ = pipe[0];
     std::vector<std::string> all{"test_processes", "worker"};
     const char* program = "/proc/self/exe";
-    if (!injection.empty()) {
+    if (!injections.empty()) {
         program = "strace";
-        all = {"strace", "-f", "-qq", "-o", "/dev/null", "-e", injection,
-            std::filesystem::read_symlink("/proc/self/exe"), "worker"};
+        all = {"strace", "-f", "-qq", "-o", "/dev/null"};
+        for (const std::string& injection : injections)
+            all.insert(all.end(), {"-e", injection});
+        all.insert(all.end(), {std::filesystem::read_symlink("/proc/self/exe"), "worker"});
     }
     all.insert(all.end(), arguments.begin(), arguments.end());
     std::vector<char*> values;
@@ -45,7 +47,7 @@ WorkerProcess::WorkerProcess(const std::vector<std::string>& arguments, const st
 
 bool WorkerProcess::canBeTraced()
 {
-    static const bool isPossible = WorkerProcess({"none"}, "trace=none").finish().output == "no such part\n";
+    static const bool isPossible = WorkerProcess({"none"}, {"trace=none"}).finish().output == "no such part\n";
     return isPossible;
 }
 

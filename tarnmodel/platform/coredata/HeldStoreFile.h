@@ -42,7 +42,8 @@ public:
     /// Puts another file in the store's place; the store stays as `backup`, which must not exist. There is no moment
     /// without a store: first the store gets a second name (on another file system: a copy, read through the connection
     /// that holds the lock), then one renaming puts the successor over it. The successor, the copy and the folders are
-    /// on disk when it comes back with true. Until then the successor's lock is held as well.
+    /// on disk when it comes back with true. Until then the successor's lock is held as well. It gets the store's
+    /// permissions.
     ///
     /// False and an error when a step fails; the store is then where it was, and `backup` is gone again. (When neither
     /// the store's folder can be made durable nor the old store be put back, the new one stays and the error says where

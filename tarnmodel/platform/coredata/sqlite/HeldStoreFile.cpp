@@ -35,6 +35,13 @@ void synchronize(const fs::path& fileOrFolder)
         throw StoreFailure(error);
 }
 
+void giveAccess(const fs::path& file, const fs::path& store)
+{
+    NSError error;
+    if (!NSFileManager::setAccess(file, store, &error))
+        throw StoreFailure(error);
+}
+
 void moveFile(const fs::path& from, const fs::path& to)
 {
     std::error_code failure;
@@ -156,6 +163,7 @@ bool HeldStoreFile::lock(const std::function<bool(std::chrono::milliseconds)>& w
 bool HeldStoreFile::replaceWith(const fs::path& successor, const fs::path& backup, NSError* error)
 {
     return reportingFailure(error, [&] {
+        giveAccess(successor, file_);
         synchronize(successor);
         // Nobody writes to the new store either before its name is on disk: it might have to go again.
         SQLiteConnection next(successor, {.pragmas = {{"journal_mode", "DELETE"}}});

@@ -38,6 +38,9 @@ public:
         const std::filesystem::path& url, NSError* error = nullptr);
     /// Gives a file or folder another date of modification.
     static bool setModificationDate(NSDate date, const std::filesystem::path& ofItemAtURL, NSError* error = nullptr);
+    /// Gives a file the permissions of another one, and its owner and group where this user may.
+    static bool setAccess(
+        const std::filesystem::path& ofItemAtURL, const std::filesystem::path& likeItemAtURL, NSError* error = nullptr);
     /// Copies a file, or a folder with all that is in it, under a new name; fails when that is taken. The copy is for
     /// its owner alone and has the original's modification date; until it is whole it has another, hidden name in the
     /// same folder. Blocks are shared where the file system can, and holes stay holes. A link is followed, but those

@@ -216,6 +216,25 @@ bool NSFileManager::setModificationDate(NSDate date, const fs::path& ofItemAtURL
         || failWithSystemError(error, errno, ofItemAtURL, "dated");
 }
 
+bool NSFileManager::setAccess(const fs::path& ofItemAtURL, const fs::path& likeItemAtURL, NSError* error)
+{
+    constexpr mode_t kPermissions = 07777;
+    struct stat wanted { };
+    struct stat present { };
+    if (::stat(likeItemAtURL.c_str(), &wanted) != 0)
+        return failWithSystemError(error, errno, likeItemAtURL, "read");
+    if (::stat(ofItemAtURL.c_str(), &present) != 0)
+        return failWithSystemError(error, errno, ofItemAtURL, "read");
+    // Who may not give files away keeps them: what counts is who can read them.
+    if ((present.st_uid != wanted.st_uid || present.st_gid != wanted.st_gid)
+        && ::chown(ofItemAtURL.c_str(), wanted.st_uid, wanted.st_gid) != 0 && errno != EPERM)
+        return failWithSystemError(error, errno, ofItemAtURL, "given to its owner");
+    if ((present.st_mode & kPermissions) == (wanted.st_mode & kPermissions))
+        return true;
+    return ::chmod(ofItemAtURL.c_str(), wanted.st_mode & kPermissions) == 0
+        || failWithSystemError(error, errno, ofItemAtURL, "given its permissions");
+}
+
 bool NSFileManager::copyItemAtURL(const fs::path& source, const fs::path& destination, NSError* error)
 {
     return makeUnderHiddenName(

@@ -222,6 +222,17 @@ TEST_F(HeldFile, MakesPlaceForAnotherAndStaysAsABackup)
     EXPECT_EQ(std::distance(fs::directory_iterator(folder_.path()), {}), 2) << "nothing else lies there";
 }
 
+TEST_F(HeldFile, HandsItsPermissionsDown)
+{
+    const fs::perms permissions = fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read;
+    fs::permissions(file_, permissions);
+    fs::permissions(successor_, fs::perms::owner_all | fs::perms::others_read);
+    const auto held = hold();
+    ASSERT_TRUE(replace(*held)) << error_;
+    EXPECT_EQ(fs::status(file_).permissions(), permissions);
+    EXPECT_EQ(fs::status(backup_).permissions(), permissions);
+}
+
 TEST_F(HeldFile, IsCopiedToAnotherFileSystem)
 {
     std::string name = "/dev/shm/tarn-held-XXXXXX";
