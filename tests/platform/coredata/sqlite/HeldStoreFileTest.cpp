@@ -359,6 +359,30 @@ TEST_F(HeldFile, AReaderThatWaitedReadsTheWholeOldStoreOnce)
     EXPECT_EQ(error.code(), StoreErrorReplaced);
 }
 
+TEST_F(HeldFile, IsOpenedWholeHoweverOftenItIsExchanged)
+{
+    constexpr int kOpenings = 60;
+    std::atomic<int> openings = 0;
+    auto exchanges = std::async(std::launch::async, [&] {
+        for (int seen = 0; openings < kOpenings; seen = openings) {
+            const fs::path next = folder_.path() / "next.sqlite";
+            fs::copy_file(successor_, next);
+            NSError error;
+            auto held = HeldStoreFile::hold(file_, {}, &error);
+            EXPECT_TRUE(held && held->replaceWith(next, backup_, &error)) << error;
+            held.reset();
+            fs::remove(backup_);
+            while (openings == seen) // one for each opening, at any moment of it
+                std::this_thread::yield();
+        }
+    });
+    for (; openings < kOpenings; ++openings) {
+        const OpenStore store(StoreType::SQLite, file_);
+        EXPECT_TRUE(store) << store.error();
+    }
+    exchanges.wait();
+}
+
 TEST_F(HeldFile, WhoOpensMeanwhileSeesTheNewStore)
 {
     auto held = hold();
