@@ -167,8 +167,7 @@ std::shared_ptr<const NSMappingModel> twinMapping(
         text += fmt::format("{}{{\"kind\": \"{}\", \"source\": \"{}\", \"destination\": \"{}\"", separator,
             isChanged ? "transform" : "copy", entity->name(), entity->name());
         if (isChanged)
-            text += fmt::format(
-                ", \"attributes\": [{{\"name\": \"{}\", \"value\": \"$source.{}\"}}]", to, from);
+            text += fmt::format(", \"attributes\": [{{\"name\": \"{}\", \"value\": \"$source.{}\"}}]", to, from);
         text += "}";
         separator = ", ";
     }
@@ -209,14 +208,20 @@ void migrateInPlace(const fs::path& store)
 class Report {
 public:
     explicit Report(std::size_t notes) : notes_(notes) { }
+    /// The version of the store that the next rows are about.
+    void beginVersion(const std::string& version, double megabytes)
+    {
+        version_ = version;
+        fmt::print("{}, {:.1f} MB\n", version, megabytes);
+    }
     void add(const std::string& name, const Cost& cost, const Cost& copy)
     {
         const double each = cost.seconds / static_cast<double>(notes_);
-        const auto earlier = former().find(name);
+        const auto earlier = former().find(version_ + name);
         const std::string growth = earlier == former().end() ? "" : fmt::format("{:>6.2f}", each / earlier->second);
         fmt::print("{:<44} {:>10.0f} ms {:>7.2f} x VACUUM {:>8.1f} us a note {:>7.1f} MiB  {}\n", name,
             cost.seconds * 1000, cost.seconds / copy.seconds, each * 1e6, cost.peak, growth);
-        former()[name] = each;
+        former()[version_ + name] = each;
     }
 
 private:
@@ -226,6 +231,7 @@ private:
         return secondsForEach;
     }
     std::size_t notes_;
+    std::string version_;
 };
 
 /// Times both copies of a store; the plain one is the yardstick.
@@ -269,7 +275,7 @@ void measure(std::size_t notes)
     fmt::print("{} notes; time, times a copy, for each note, memory at most, growth for each note\n", notes);
     const fs::path whole = folder.path() / "whole.sqlite";
     for (std::size_t step = 0; step < versions.size(); ++step) {
-        fmt::print("{}, {:.1f} MB\n", versions[step], megabytesOf(store));
+        report.beginVersion(versions[step], megabytesOf(store));
         const Cost copy = measureCopies(report, store, folder.path());
         const Model from = installedModel(versions[step]);
         if (step == 0)

@@ -26,7 +26,7 @@ enum class StoreStanding : std::uint8_t {
 
 /// What a migration of a store would be. Reads the metadata; changes nothing. A plain value type.
 struct StoreMigrationPlan {
-    StoreStanding standing = StoreStanding::Missing;
+    StoreStanding standing = StoreStanding::Missing; ///< what can be done with it
     std::string storeVersion;          ///< the model of the store, "Model 2", by its own word; empty without one
     std::string currentVersion;        ///< the model of this library
     std::vector<std::string> versions; ///< the models that it would be brought to, in order

@@ -22,7 +22,7 @@ using Row = StoreRows::Row;
 
 const Cell kNil(StoreRows::nil);
 
-void rename(Row& row, const std::string& from, const std::string& to)
+void renameColumn(Row& row, const std::string& from, const std::string& to)
 {
     auto cell = row.extract(from);
     cell.key() = to;
@@ -69,7 +69,7 @@ void foldTitles(StoreRows& rows, const std::string& table)
 }
 
 /// What the store says of itself: its identifier and what the host keeps stay.
-void setVersion(StoreRows& rows, const std::string& version)
+void becomeStoreOf(StoreRows& rows, const std::string& version)
 {
     const auto model
         = NSManagedObjectModel::modelWithContentsOfFile(*OVManagedObjectModel::modelURLForVersion(version));
@@ -85,14 +85,14 @@ void setVersion(StoreRows& rows, const std::string& version)
 
 // Links ---------------------------------------------------------------------------------------------------------------
 
-std::optional<std::string> text(const Row& row, const std::string& column)
+std::optional<std::string> textOfColumn(const Row& row, const std::string& column)
 {
     const Cell& cell = row.at(column);
     return cell == kNil ? std::nullopt : std::optional(StoreRows::textOf(cell));
 }
 
 /// Nil stands before every number.
-std::pair<bool, std::int64_t> number(const Row& row, const std::string& column)
+std::pair<bool, std::int64_t> rankOfColumn(const Row& row, const std::string& column)
 {
     const Cell& cell = row.at(column);
     return cell == kNil ? std::pair(false, std::int64_t{0}) : std::pair(true, std::int64_t{std::stoll(cell)});
@@ -105,12 +105,12 @@ Cell noteThatIsCalled(const std::string& title, const StoreRows& rows)
     using Rank = std::tuple<std::pair<bool, std::int64_t>, std::pair<bool, std::int64_t>, std::int64_t>;
     std::optional<Rank> best;
     for (const auto& [key, row] : rows.tables.at("OVNote")) {
-        const std::string ownTitle = text(row, "title").value_or("");
-        const auto identifier = text(row, "uniqueIdentifier");
+        const std::string ownTitle = textOfColumn(row, "title").value_or("");
+        const auto identifier = textOfColumn(row, "uniqueIdentifier");
         const bool isCalledSo = ownTitle.empty() ? identifier && *identifier == title : fold(ownTitle) == fold(title);
         if (!isCalledSo)
             continue;
-        const Rank rank{number(row, "trashed"), number(row, "creationDate"), key};
+        const Rank rank{rankOfColumn(row, "trashed"), rankOfColumn(row, "creationDate"), key};
         if (!best || rank < *best)
             best = rank;
     }
@@ -122,7 +122,7 @@ void addLinks(StoreRows& rows)
     std::map<std::string, Cell> targets;
     auto& links = rows.tables["OVNoteBackLink"];
     for (const auto& [key, row] : rows.tables.at("OVNote")) {
-        const CVKAST document = CVKAST::fromMarkdown(text(row, "text").value_or(""));
+        const CVKAST document = CVKAST::fromMarkdown(textOfColumn(row, "text").value_or(""));
         for (const CVKWikiLink& link : document.textSummary().wikiLinks) {
             const std::string& title = link.decodedTitle();
             if (title.empty())
@@ -155,7 +155,7 @@ StoreRows rowsAfterStepToVersion2(StoreRows rows)
         row["pinnedInTag"] = row["password"] = kNil;
     }
     for (auto& [key, row] : rows.tables.at("OVNoteTag")) {
-        rename(row, "name", "title");
+        renameColumn(row, "name", "title");
         row.erase("name_folded");
         row["pinnedNotesDate"] = row["icon"] = row["iconDate"] = kNil;
     }
@@ -170,7 +170,7 @@ StoreRows rowsAfterStepToVersion2(StoreRows rows)
     addLinks(rows);
     foldTitles(rows, "OVNote");
     foldTitles(rows, "OVNoteTag");
-    setVersion(rows, "Model 2");
+    becomeStoreOf(rows, "Model 2");
     return rows;
 }
 
@@ -191,13 +191,13 @@ StoreRows rowsAfterStepToVersion3(StoreRows rows)
         if (tag != kNil && rows.tables.at("OVNoteTag").contains(std::stoll(tag)))
             pinned.emplace(key, std::stoll(tag));
         row.erase("pinnedInTag");
-        const CVKAST document = CVKAST::fromMarkdown(text(row, "text").value_or(""));
+        const CVKAST document = CVKAST::fromMarkdown(textOfColumn(row, "text").value_or(""));
         row["hasSourceCode"] = document.textSummary().codeBlockCount > 0 ? "1" : "0";
         row["conflictUniqueIdentifier"] = row["conflictUniqueIdentifierDate"] = row["vectorClock"] = kNil;
     }
     for (auto& [key, row] : rows.tables.at("OVNoteTag")) {
-        rename(row, "icon", "tagcon");
-        rename(row, "iconDate", "tagconDate");
+        renameColumn(row, "icon", "tagcon");
+        renameColumn(row, "iconDate", "tagconDate");
         row["hideSubtagsNotes"] = row["encrypted"] = "0";
         row["hideSubtagsNotesDate"] = row["encryptedDate"] = kNil;
     }
@@ -206,7 +206,7 @@ StoreRows rowsAfterStepToVersion3(StoreRows rows)
     foldTitles(rows, "OVNote");
     foldTitles(rows, "OVNoteTag");
     foldTitles(rows, "OVNoteBackLink");
-    setVersion(rows, "Model 3");
+    becomeStoreOf(rows, "Model 3");
     return rows;
 }
 

@@ -15,6 +15,12 @@
 #include "tests/support/StoreFixture.h"
 
 #include <algorithm>
+#include <filesystem>
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
 
 namespace tarn {
 namespace {

@@ -110,12 +110,27 @@ protected:
     }
 };
 
+/// Asks for relationships of a mapping that is not there before those of the note's own.
+class ProbeOfAFailure : public ProbeOfVersion3 {
+public:
+    bool createRelationshipsForDestinationInstance(MigrationRecord& destination, const NSEntityMapping& mapping,
+        NSMigrationManager& manager, NSError* error) override
+    {
+        NSError failure;
+        EXPECT_FALSE(ProbeOfVersion3::createRelationshipsForDestinationInstance(
+            destination, NSEntityMapping(), manager, &failure));
+        EXPECT_NE(failure, NSError()) << "what is inherited says why";
+        return ProbeOfVersion3::createRelationshipsForDestinationInstance(destination, mapping, manager, error);
+    }
+};
+
 class PolicyOfVersion3 : public PolicyProbe {
 protected:
     PolicyOfVersion3() : PolicyProbe("Model 2", "Model 3")
     {
         registerMigrationPolicies();
         NSEntityMigrationPolicy::registerClass<ProbeOfVersion3>("ProbeOfVersion3");
+        NSEntityMigrationPolicy::registerClass<ProbeOfAFailure>("ProbeOfAFailure");
         seenByVersion3 = {};
         makeGoldenStore(source_, "Model 2");
     }
@@ -139,6 +154,14 @@ TEST_F(PolicyOfVersion3, HandsOverEachNoteThatIsTiedToOthers)
     for (const auto& [note, tag] : after.joins.at("OVNote_tags"))
         ++tagsByNote[note];
     EXPECT_EQ(seenByVersion3.tagsByNote, tagsByNote);
+}
+
+TEST_F(PolicyOfVersion3, HandsOverNotesThatCouldNotBeTiedToo)
+{
+    replace("\"Model2toModel3OVNoteMigrationPolicy\"", "\"ProbeOfAFailure\"");
+    NSError error;
+    ASSERT_TRUE(migrate(&error)) << error;
+    EXPECT_EQ(seenByVersion3.notes, 2 * StoreRows::ofFile(source_).tables.at("OVNote").size());
 }
 
 } // namespace

@@ -5,7 +5,7 @@
 #include <sqlite3.h>
 
 #include <functional>
-#include <memory>
+#include <type_traits>
 
 namespace tarn {
 

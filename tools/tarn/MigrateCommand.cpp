@@ -80,9 +80,8 @@ StoreMigrationPlan planOf(const fs::path& database, WaitForOthers& wait)
     const auto model = modelOfStores();
     std::error_code failure;
     NSError error;
-    const StoreOptions options{
-        .whileWaiting = [&wait](std::chrono::milliseconds waited) { return wait.goesOn(waited); }};
-    if (fs::exists(database, failure) && !isStoreCurrent(database, options, &error)
+    const auto goesOn = [&wait](std::chrono::milliseconds waited) { return wait.goesOn(waited); };
+    if (fs::exists(database, failure) && !isStoreOfOtherVersion(database, goesOn, &error)
         && exitCodeForStoreError(error) == ExitCode::Locked) {
         Interruption::endIfRequested(database.string() + ": interrupted while another program was using the store");
         throw failureForStoreError(database.string(), error);

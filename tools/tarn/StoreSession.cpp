@@ -87,12 +87,14 @@ void StoreSession::prepareForWriting()
 void StoreSession::refuseOtherVersions() const
 {
     std::error_code failure;
-    NSError error;
     if (!fs::is_regular_file(database_, failure) || fs::file_size(database_, failure) == 0)
         return;
-    const StoreOptions atOnce{.whileWaiting = [](std::chrono::milliseconds) { return false; }};
-    if (!isStoreCurrent(database_, atOnce, &error) && isOfOtherVersion(error))
-        throw failureForVersionOfStore(database_, error);
+    if (!isStoreOfOtherVersion(database_, [](std::chrono::milliseconds) { return false; }))
+        return;
+    const StoreMigrationPlan plan = StoreMigrationPlan::planForStoreAtURL(database_, *modelOfStores());
+    // Another program may have migrated it this very moment.
+    if (plan.standing != StoreStanding::Current)
+        throw failureForVersionOfStore(database_, plan);
 }
 
 void StoreSession::open(Access access)

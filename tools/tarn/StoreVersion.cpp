@@ -1,6 +1,7 @@
 #include "tools/tarn/StoreVersion.h"
 
 #include "tarnmodel/model/ManagedObjectModel.h"
+#include "tarnmodel/platform/coredata/NSPersistentStoreCoordinator.h"
 
 namespace tarn {
 
@@ -33,11 +34,15 @@ std::shared_ptr<const NSManagedObjectModel> modelOfStores()
     return model;
 }
 
-bool isStoreCurrent(const fs::path& database, const StoreOptions& options, NSError* error)
+bool isStoreOfOtherVersion(
+    const fs::path& database, const std::function<bool(std::chrono::milliseconds)>& whileWaiting, NSError* error)
 {
-    NSPersistentStoreCoordinator coordinator(modelOfStores());
-    const StoreOptions looking{.readOnly = true, .createIfMissing = false, .whileWaiting = options.whileWaiting};
-    return coordinator.addPersistentStoreWithType(StoreType::SQLite, database, looking, error) != nullptr;
+    using Coordinator = NSPersistentStoreCoordinator;
+    const auto metadata
+        = Coordinator::metadataForPersistentStoreOfType(StoreType::SQLite, database, error, whileWaiting);
+    return metadata
+        && (Coordinator::formatOfStoreMetadata(*metadata) != Coordinator::currentStoreFormat()
+            || !Coordinator::isModelCompatibleWithStoreMetadata(*modelOfStores(), *metadata));
 }
 
 CommandFailure failureForVersionOfStore(const fs::path& database, const StoreMigrationPlan& plan)

@@ -1,11 +1,12 @@
 #pragma once
 
 #include "tarnmodel/platform/coredata/NSManagedObjectModel.h"
-#include "tarnmodel/platform/coredata/NSPersistentStoreCoordinator.h"
 #include "tarnmodel/store/StoreMigrationPlan.h"
 #include "tools/tarn/CommandFailure.h"
 
+#include <chrono>
 #include <filesystem>
+#include <functional>
 #include <memory>
 
 namespace tarn {
@@ -13,9 +14,10 @@ namespace tarn {
 /// The model of the stores that this program reads and writes. Raises `CommandFailure` when its file is not there.
 std::shared_ptr<const NSManagedObjectModel> modelOfStores();
 
-/// Opens a store to read its version, and closes it again; changes nothing, and makes no file. Of the options only
-/// `whileWaiting` counts. False and an error when it cannot be opened.
-bool isStoreCurrent(const std::filesystem::path& database, const StoreOptions& options, NSError* error);
+/// Whether a store is of another version than this program's. Changes nothing, makes no file, and costs less than to
+/// open it. False and an error when it cannot be read; `whileWaiting` as in `StoreOptions`.
+bool isStoreOfOtherVersion(const std::filesystem::path& database,
+    const std::function<bool(std::chrono::milliseconds)>& whileWaiting, NSError* error = nullptr);
 
 /// What to raise for a store that is not of this program's version: which version it is of, and what to do.
 CommandFailure failureForVersionOfStore(const std::filesystem::path& database, const StoreMigrationPlan& plan);

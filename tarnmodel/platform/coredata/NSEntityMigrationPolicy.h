@@ -51,16 +51,16 @@ public:
         const NSEntityMapping& mapping, NSMigrationManager& manager, NSError* error);
     /// At the end.
     virtual bool endEntityMapping(const NSEntityMapping& mapping, NSMigrationManager& manager, NSError* error);
-    /// What `FUNCTION($entityPolicy, 'name', ...)` stands for in a value expression; an answer that does not fit the
-    /// attribute ends the migration. The base raises `NSInvalidArgumentException`: it has no functions.
+    /// What a function of the policy in a value expression stands for; an answer that does not fit the attribute ends
+    /// the migration. The base raises `NSInvalidArgumentException`: it has no functions.
     virtual Value valueOfFunction(
         std::string_view name, std::span<const Value> arguments, const NSEntityMapping& mapping);
 
     // By name -----------------------------------------------------------------------------------------------------
     /// Which of the two passes a policy has its own way of. The others are done for many records at once.
     struct Passes {
-        bool createsInstances = true;
-        bool createsRelationships = true;
+        bool createsInstances = true;     ///< the first
+        bool createsRelationships = true; ///< the second
     };
     /// Makes `Policy` known under a name, for the life of the process; the last one of a name counts. Any thread.
     template <typename Policy> static void registerClass(std::string_view name)

@@ -30,8 +30,8 @@ class NSManagedObjectModel;
 ///
 /// What has the same name and kind on both sides stays without being mentioned. Everything else has to be: a property
 /// that is new (its value), one that goes ("dropped"), one whose type changes. So nothing is lost by forgetting it.
-/// Only with `"partial": true` may entities be left out, whose records are then not touched by this mapping model; what has
-/// relationships with each other belongs into one.
+/// Only with `"partial": true` may entities be left out, whose records are then not touched by this mapping model; what
+/// has relationships with each other belongs into one.
 ///
 /// Immutable; any thread.
 class NSMappingModel {

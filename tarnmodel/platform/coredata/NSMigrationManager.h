@@ -71,7 +71,8 @@ public:
         std::string_view mappingName, const NSManagedObjectID& destination);
     /// A record of the source, or of the destination, for reading; null when there is none. Good until the next call.
     const MigrationRecord* sourceInstanceWithID(const NSManagedObjectID& objectID);
-    /// One of the destination to read and write: in the first pass only those made of the source's record in hand.
+    /// One of the destination to read and write: in the first pass only those made of the source's record in hand. Good
+    /// until the next call, and those in hand until the policy comes back.
     MigrationRecord* destinationInstanceWithID(const NSManagedObjectID& objectID);
     /// The records of an entity of the destination whose string attribute, folded, is this text folded; ascending by
     /// key. Once all records are there, that is in the second pass.

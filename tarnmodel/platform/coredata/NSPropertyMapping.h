@@ -29,6 +29,7 @@ public:
     /// `$source.key`.
     static MappingExpression sourceKey(std::string_view key);
 
+    /// Which of these it is.
     Kind kind() const noexcept { return kind_; }
     /// The key of the source, or the name of the policy's function; empty for the others.
     const std::string& name() const noexcept { return name_; }
@@ -49,8 +50,8 @@ private:
 ///
 /// A relationship's expression is a key of the source: the records that those at the other end became.
 struct NSPropertyMapping {
-    std::string name; ///< of the destination's property
-    MappingExpression valueExpression;
+    std::string name;                  ///< of the destination's property
+    MappingExpression valueExpression; ///< where its value comes from
 };
 
 } // namespace tarn

@@ -34,8 +34,8 @@ constexpr std::array kDeleteRules{
 };
 
 constexpr std::array kStorages{NamedMeaning<bool>{"row", false}, NamedMeaning<bool>{"large", true}};
-constexpr std::array kGroups{
-    NamedMeaning<PropertyGroup>{"text", PropertyGroup::Text}, NamedMeaning<PropertyGroup>{"encryption", PropertyGroup::Encryption}};
+constexpr std::array kGroups{NamedMeaning<PropertyGroup>{"text", PropertyGroup::Text},
+    NamedMeaning<PropertyGroup>{"encryption", PropertyGroup::Encryption}};
 
 constexpr std::array kIndexHints{
     NamedMeaning<bool ModelFile::Attribute::*>{"value", &ModelFile::Attribute::indexed},

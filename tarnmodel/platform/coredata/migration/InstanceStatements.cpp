@@ -27,12 +27,6 @@ std::string inSide(const std::string& table)
     return "side." + quotedIdentifier(table);
 }
 
-std::string andEntityIs(const NSEntityDescription& entity, bool includesSubentities, std::string_view alias)
-{
-    const std::string condition = entityCondition(entity, includesSubentities, alias);
-    return condition.empty() ? condition : " AND " + condition;
-}
-
 std::string withOffset(const std::string& key, std::int64_t offset)
 {
     return offset == 0 ? key : fmt::format("{} + {}", key, offset);
@@ -119,14 +113,14 @@ public:
           to_(destination.schema().table(*step.to)), steps_(steps), functions_(functions)
     { }
 
-    std::vector<std::string> statements(bool withReferences)
+    std::vector<BulkStatement> statements(bool withReferences)
     {
-        std::vector<std::string> all{rowStatement(withReferences)};
+        std::vector<BulkStatement> all{{rowStatement(withReferences), to_.name}};
         if (!to_.largeColumns.empty())
-            all.push_back(largeRowStatement());
+            all.push_back({largeRowStatement(), to_.largeName});
         for (const auto& signature : to_.signatures)
             if (auto statement = signatureStatement(*signature))
-                all.push_back(std::move(*statement));
+                all.push_back({std::move(*statement), signature->name});
         return all;
     }
 
@@ -274,7 +268,7 @@ private:
 
 } // namespace
 
-std::vector<std::string> instanceStatements(const EntityStep& step, const MigrationSource& source,
+std::vector<BulkStatement> instanceStatements(const EntityStep& step, const MigrationSource& source,
     const MigrationDestination& destination, EntitySteps& steps, PolicyFunctions& functions, bool withReferences)
 {
     return InstanceStatementBuilder(step, source, destination, steps, functions).statements(withReferences);
@@ -337,14 +331,14 @@ std::vector<std::string> relationshipSelects(
     return selects;
 }
 
-std::vector<std::string> relationshipStatements(const EntityStep& step, const NSPropertyMapping& property,
+std::vector<BulkStatement> relationshipStatements(const EntityStep& step, const NSPropertyMapping& property,
     const MigrationSource& source, const MigrationDestination& destination, EntitySteps& steps)
 {
     const NSRelationshipDescription& to = *step.to->relationshipNamed(property.name);
     const StoreSchema& schema = destination.schema();
     const bool isColumn = to.storage() == RelationshipStorage::Column;
     const bool isJoined = to.storage() == RelationshipStorage::JoinTable && to.ownsJoinTable();
-    std::vector<std::string> statements;
+    std::vector<BulkStatement> statements;
     if (property.valueExpression.kind() != MappingExpression::Kind::SourceKey || (!isColumn && !isJoined))
         return statements;
     const std::vector<std::string> selects = relationshipSelects(step, property, source, steps);
@@ -361,15 +355,17 @@ std::vector<std::string> relationshipStatements(const EntityStep& step, const NS
     for (const std::string& select : selects) {
         const std::string pairs = "(SELECT " + owner + " AS \"owner\", \"target\" FROM (" + select + ")) AS p";
         if (isColumn) // the first of several records that name the same
-            statements.push_back("UPDATE " + inSide(owners.name) + " SET " + quotedIdentifier(to.name())
-                + " = q.\"target\" FROM (SELECT p.\"owner\", min(p.\"target\") AS \"target\" FROM " + pairs + " WHERE"
-                + targetIsThere + " GROUP BY p.\"owner\") AS q WHERE " + quotedIdentifier(owners.name)
-                + ".\"pk\" = q.\"owner\"");
+            statements.push_back({"UPDATE " + inSide(owners.name) + " SET " + quotedIdentifier(to.name())
+                    + " = q.\"target\" FROM (SELECT p.\"owner\", min(p.\"target\") AS \"target\" FROM " + pairs
+                    + " WHERE" + targetIsThere + " GROUP BY p.\"owner\") AS q WHERE " + quotedIdentifier(owners.name)
+                    + ".\"pk\" = q.\"owner\"",
+                owners.name});
         else
-            statements.push_back("INSERT OR IGNORE INTO " + inSide(schema.join(to).name)
-                + " (\"owner\", \"member\") SELECT p.\"owner\", p.\"target\" FROM " + pairs + " WHERE"
-                + isThere(owners, "p.\"owner\"", andEntityIs(*step.to, false, "t")) + " AND" + targetIsThere
-                + " ORDER BY p.\"owner\", p.\"target\"");
+            statements.push_back({"INSERT OR IGNORE INTO " + inSide(schema.join(to).name)
+                    + " (\"owner\", \"member\") SELECT p.\"owner\", p.\"target\" FROM " + pairs + " WHERE"
+                    + isThere(owners, "p.\"owner\"", andEntityIs(*step.to, false, "t")) + " AND" + targetIsThere
+                    + " ORDER BY p.\"owner\", p.\"target\"",
+                schema.join(to).name});
     }
     return statements;
 }

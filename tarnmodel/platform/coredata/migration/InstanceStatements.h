@@ -11,14 +11,19 @@ class MigrationDestination;
 class MigrationSource;
 class PolicyFunctions;
 
-/// The statements that make the records of an entity mapping, many at once: each for the records of the source whose
-/// keys are in (?1, ?2]. None where SQL cannot say what a value becomes.
+/// A statement that writes to a table of the destination for the records of the source whose keys are in (?1, ?2].
+struct BulkStatement {
+    std::string sql;
+    std::string table;
+};
+
+/// The statements that make the records of an entity mapping, many at once. Only where `isMadeBySQL` says so.
 ///
 /// With `withReferences` a to-one that stands in a column on both sides is written along; `clearDanglingReferences`
 /// takes away what leads nowhere.
-std::vector<std::string> instanceStatements(const EntityStep& step, const MigrationSource& source,
+std::vector<BulkStatement> instanceStatements(const EntityStep& step, const MigrationSource& source,
     const MigrationDestination& destination, EntitySteps& steps, PolicyFunctions& functions, bool withReferences);
-/// Whether there are such statements.
+/// Whether SQL can say what each value becomes.
 bool isMadeBySQL(const EntityStep& step);
 
 /// One way from records of the source to those that they name, with the keys that these have in the destination:
@@ -27,7 +32,7 @@ std::vector<std::string> relationshipSelects(
     const EntityStep& step, const NSPropertyMapping& property, const MigrationSource& source, EntitySteps& steps);
 /// The statements that make a relationship for many records at once, in the same way; none when its inverse keeps it.
 /// Without those that `instanceStatements` has written along already.
-std::vector<std::string> relationshipStatements(const EntityStep& step, const NSPropertyMapping& property,
+std::vector<BulkStatement> relationshipStatements(const EntityStep& step, const NSPropertyMapping& property,
     const MigrationSource& source, const MigrationDestination& destination, EntitySteps& steps);
 
 } // namespace tarn

@@ -39,21 +39,16 @@ bool isOn(const std::string& statement, const std::string& table)
     return statement.find(" ON " + quotedIdentifier(table) + " ") != std::string::npos;
 }
 
-std::string andEntityIs(const NSEntityDescription& entity, bool includesSubentities, std::string_view alias)
-{
-    const std::string condition = entityCondition(entity, includesSubentities, alias);
-    return condition.empty() ? condition : " AND " + condition;
-}
-
 } // namespace
 
 MigrationDestination::MigrationDestination(const std::filesystem::path& file, const NSManagedObjectModel& model)
     : file_(file), connection_(file, {.create = true}), schema_(model), selects_(schema_, model),
       writer_(schema_, connection_)
 {
-    // The file is thrown away when something fails, and synced as a whole in the end.
+    // The file is thrown away when something fails, and synced as a whole in the end. What is sorted for an index may
+    // be more than memory should hold.
     connection_.execute("PRAGMA journal_mode = OFF; PRAGMA synchronous = OFF; PRAGMA secure_delete = OFF;"
-                        "PRAGMA cache_spill = 1; PRAGMA foreign_keys = OFF;");
+                        "PRAGMA cache_spill = 1; PRAGMA foreign_keys = OFF; PRAGMA temp_store = FILE;");
     const StoreFileContents contents = contentsOfStoreFile(connection_);
     if (contents == StoreFileContents::Nothing)
         makeTables();
@@ -71,9 +66,18 @@ void MigrationDestination::makeTables()
         if (isTable(statement))
             connection_.execute(statement);
     transaction.commit();
+    isNew_ = true;
 }
 
 // Rows ----------------------------------------------------------------------------------------------------------------
+
+void MigrationDestination::insert(const StoreRow& row)
+{
+    const StoreTable& table = schema_.table(*row.entity);
+    noteRows(table.name, 1);
+    noteRows(table.largeName, 1);
+    writer_.insertUnsigned(row);
+}
 
 bool MigrationDestination::exists(const NSEntityDescription& entity, std::int64_t key)
 {
@@ -234,12 +238,28 @@ void MigrationDestination::clearColumn(const StoreTable& table, const StoreColum
         + andEntityIs(relationship.destinationEntity(), true, "t") + ")");
 }
 
-void MigrationDestination::completeDerivedValues(const std::function<void(std::size_t)>& madeSome)
+void MigrationDestination::completeDerivedValues(const std::function<void()>& madeSome)
 {
     foldStale(connection_, schema_);
     for (const std::string& statement : schema_.laterStatements())
         connection_.execute(statement);
-    completeSignatures(connection_, schema_, madeSome);
+    for (const auto& table : schema_.tables()) {
+        for (const auto& signature : table->signatures) {
+            if (!isSigned(*signature))
+                completeSignatures(connection_, *signature, madeSome);
+            connection_.execute("DELETE FROM " + quotedIdentifier(signature->changesName));
+        }
+    }
+}
+
+/// Whether as many signatures came along as rows: then nobody has to read all texts to find one that is missing.
+bool MigrationDestination::isSigned(const SignatureTable& signature) const
+{
+    const auto count = [this](const std::string& table) {
+        const auto found = rowCounts_.find(table);
+        return found == rowCounts_.end() ? 0 : found->second;
+    };
+    return isNew_ && count(signature.name) == count(signature.columnTable());
 }
 
 void MigrationDestination::writeMetadata(
@@ -271,13 +291,21 @@ EntitySteps::NextKeys MigrationDestination::nextKeys()
     return keys;
 }
 
+/// The rows of large attributes were made from rows that are there.
 void MigrationDestination::checkReferences()
 {
-    SQLiteStatement check = connection_.prepare("PRAGMA foreign_key_check");
-    if (check.step())
-        throw StoreFailure(StoreErrorValidation,
-            "A row of \"" + std::string(check.bytes(0)) + "\" of the new store points at a missing row of \""
-                + std::string(check.bytes(2)) + "\".");
+    std::vector<std::string> tables;
+    for (const auto& table : schema_.tables())
+        tables.push_back(table->name);
+    for (const auto& join : schema_.joins())
+        tables.push_back(join->name);
+    for (const std::string& table : tables) {
+        SQLiteStatement check = connection_.prepare("PRAGMA foreign_key_check(" + quotedIdentifier(table) + ")");
+        if (check.step())
+            throw StoreFailure(StoreErrorValidation,
+                "A row of \"" + table + "\" of the new store points at a missing row of \""
+                    + std::string(check.bytes(2)) + "\".");
+    }
 }
 
 } // namespace tarn

@@ -10,7 +10,10 @@
 #include <cstddef>
 #include <filesystem>
 #include <functional>
+#include <map>
 #include <optional>
+#include <span>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -33,6 +36,10 @@ public:
     SQLiteRowWriter& writer() noexcept { return writer_; }
 
     // Rows ------------------------------------------------------------------------------------------------------------
+    /// Without signatures, which are made at the end.
+    void insert(const StoreRow& row);
+    /// A statement has written so many rows to a table.
+    void noteRows(const std::string& table, std::int64_t count) { rowCounts_[table] += count; }
     bool exists(const NSEntityDescription& entity, std::int64_t key);
     /// The concrete entity of a row; null when there is none.
     const NSEntityDescription* entityOf(const NSEntityDescription& root, std::int64_t key);
@@ -54,7 +61,7 @@ public:
     /// Takes references to records away that are not there, or of an entity that does not fit.
     void clearDanglingReferences();
     /// Folded values and signatures of all rows, and the triggers that keep them.
-    void completeDerivedValues(const std::function<void(std::size_t)>& madeSome);
+    void completeDerivedValues(const std::function<void()>& madeSome);
     /// Its hashes and versions, with the identifier and the host's own values of the old store.
     void writeMetadata(const NSManagedObjectModel& model, const StoreMetadata& old, const EntitySteps::NextKeys& keys);
     /// By root entity.
@@ -64,6 +71,7 @@ public:
 
 private:
     void makeTables();
+    bool isSigned(const SignatureTable& signature) const;
     void executeOnce(const std::string& statement);
     bool isOfEntity(const NSEntityDescription& entity, std::int64_t key);
     void clearColumn(const StoreTable& table, const StoreColumn& column);
@@ -75,6 +83,8 @@ private:
     StoreSchema schema_;
     StoreSelects selects_;
     SQLiteRowWriter writer_;
+    bool isNew_ = false;
+    std::map<std::string, std::int64_t> rowCounts_; ///< by table, of this run
 };
 
 } // namespace tarn

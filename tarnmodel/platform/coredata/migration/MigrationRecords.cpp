@@ -164,7 +164,7 @@ void DestinationMigrationRecord::setRelatedObjectIDs(
 void DestinationMigrationRecord::write()
 {
     if (kind_ == Kind::New)
-        destination_.writer().insertUnsigned(row_);
+        destination_.insert(row_);
     else if (changed_ != 0)
         destination_.writer().update(row_, changed_);
     kind_ = Kind::Written;

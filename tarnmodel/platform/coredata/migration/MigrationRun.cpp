@@ -106,6 +106,7 @@ void MigrationRun::callHook(EntityStep& step, Hook hook)
     NSError error;
     const bool isFine = (*step.policy.*hook)(*step.mapping, manager_, &error);
     checkEnd(step, isFine, error);
+    writeRecordsInHand();
 }
 
 void MigrationRun::checkEnd(const EntityStep& step, bool isFine, const NSError& error)
@@ -134,12 +135,12 @@ void MigrationRun::makeInstances(EntityStep& step)
 
 void MigrationRun::makeInstancesBySQL(EntityStep& step)
 {
-    const std::vector<std::string> statements
+    const std::vector<BulkStatement> statements
         = instanceStatements(step, source_, destination_, steps_, functions_, !step.passes.createsRelationships);
     runInPortions(step, statements);
 }
 
-void MigrationRun::runInPortions(const EntityStep& step, const std::vector<std::string>& statements)
+void MigrationRun::runInPortions(const EntityStep& step, const std::vector<BulkStatement>& statements)
 {
     if (statements.empty() || step.recordCount == 0)
         return progress_.advance(step.recordCount);
@@ -149,11 +150,12 @@ void MigrationRun::runInPortions(const EntityStep& step, const std::vector<std::
     std::size_t left = step.recordCount;
     for (std::int64_t key = kBeforeAllKeys; left > 0;) {
         const std::int64_t last = source_.lastKeyOfNext(*step.from, key, kPortion);
-        for (const std::string& sql : statements) {
-            SQLiteStatement statement = connection.prepare(sql);
+        for (const BulkStatement& bulk : statements) {
+            SQLiteStatement statement = connection.prepare(bulk.sql);
             statement.bindInteger(1, key);
             statement.bindInteger(2, last);
             statement.run();
+            destination_.noteRows(bulk.table, connection.changedRowCount());
         }
         const std::size_t done = std::min(left, kPortion);
         left -= done;
@@ -198,48 +200,18 @@ void MigrationRun::makeInstancesOf(EntityStep& step, std::int64_t key)
 
 void MigrationRun::writeRecordsInHand()
 {
+    writeRecordLookedAt();
     for (const auto& record : recordsInHand_)
         record->write();
     recordsInHand_.clear();
     sourceLookedAt_.reset();
 }
 
-MigrationRecord& MigrationRun::insert(
-    const NSEntityMapping& mapping, std::string_view entityName, const MigrationRecord& source)
+void MigrationRun::writeRecordLookedAt()
 {
-    EntityStep& step = steps_.named(mapping.name());
-    const NSEntityDescription* entity = manager_.destinationModel()->entityNamed(entityName);
-    const std::int64_t sourceKey = source.objectID().key();
-    if (!entity || !isFirstPass_ || stepInHand_ != &step || sourceKey != sourceKeyInHand_)
-        throw StoreFailure(StoreErrorGeneric,
-            "A record of \"" + std::string(entityName)
-                + "\" can only be made in the first pass, for the source's record in hand.");
-    StoreRow row{entity, 0, sourceVersionInHand_, PropertyValues(*entity)};
-    for (const NSAttributeDescription* attribute : entity->attributes())
-        row.values.setAttributeValue(attribute->index(), attribute->defaultValue());
-    const auto isTaken = [&](std::int64_t key) {
-        return std::ranges::any_of(recordsInHand_,
-            [&](const auto& record) { return record->key() == key && record->entity().isKindOfEntity(*step.to); });
-    };
-    if (step.keyOffset && entity == step.to && !isTaken(step.destinationKey(sourceKey))) {
-        row.key = step.destinationKey(sourceKey);
-    } else {
-        row.key = steps_.takeKey(entity->rootEntity());
-        source_.associate(step, {sourceKey, &entity->rootEntity(), row.key});
-    }
-    recordsInHand_.push_back(std::make_unique<DestinationMigrationRecord>(
-        source_.identity(), destination_, std::move(row), DestinationMigrationRecord::Kind::New));
-    return *recordsInHand_.back();
-}
-
-void MigrationRun::createInstance(const MigrationRecord& source, const NSEntityMapping& mapping)
-{
-    const EntityStep& step = steps_.named(mapping.name());
-    MigrationRecord& record = insert(mapping, mapping.destinationEntityName(), source);
-    for (const NSPropertyMapping& property : mapping.attributeMappings())
-        if (property.valueExpression.kind() != MappingExpression::Kind::Default)
-            record.setValueForKey(property.name,
-                valueOfExpression(property.valueExpression, source, step, *step.to->attributeNamed(property.name)));
+    if (destinationLookedAt_)
+        destinationLookedAt_->write();
+    destinationLookedAt_.reset();
 }
 
 void MigrationRun::addIndexes()
@@ -269,9 +241,9 @@ void MigrationRun::makeRelationships(EntityStep& step)
 
 void MigrationRun::makeRelationshipsBySQL(EntityStep& step)
 {
-    std::vector<std::string> statements;
+    std::vector<BulkStatement> statements;
     for (const NSPropertyMapping& property : step.mapping->relationshipMappings())
-        for (std::string& statement : relationshipStatements(step, property, source_, destination_, steps_))
+        for (BulkStatement& statement : relationshipStatements(step, property, source_, destination_, steps_))
             statements.push_back(std::move(statement));
     runInPortions(step, statements);
 }
@@ -333,37 +305,6 @@ void MigrationRun::makeRelationshipsOf(
     progress_.advance(1);
 }
 
-const std::vector<std::string>& MigrationRun::selectsOf(const EntityStep& step, const NSPropertyMapping& property)
-{
-    const auto [found, isNew] = selects_.try_emplace(&property);
-    if (isNew)
-        found->second = relationshipSelects(step, property, source_, steps_);
-    return found->second;
-}
-
-void MigrationRun::createRelationships(MigrationRecord& destination, const NSEntityMapping& mapping)
-{
-    const EntityStep& step = steps_.named(mapping.name());
-    const NSManagedObjectID source = sourceOf(mapping.name(), destination.objectID());
-    for (const NSPropertyMapping& property : mapping.relationshipMappings()) {
-        const NSRelationshipDescription* relationship = destination.entity().relationshipNamed(property.name);
-        const bool isKept = relationship && relationship->storage() != RelationshipStorage::InverseColumn
-            && (relationship->storage() == RelationshipStorage::Column || relationship->ownsJoinTable());
-        if (property.valueExpression.kind() != MappingExpression::Kind::SourceKey || !isKept || !source)
-            continue;
-        std::vector<std::int64_t> targets;
-        for (const std::string& sql : selectsOf(step, property)) {
-            SQLiteStatement statement = source_.connection().prepare(sql);
-            statement.bindInteger(1, source.key() - 1);
-            statement.bindInteger(2, source.key());
-            while (statement.step())
-                targets.push_back(statement.integer(1));
-        }
-        if (!targets.empty())
-            destination_.relate(destination.entity(), *relationship, destination.objectID().key(), targets);
-    }
-}
-
 // The end -------------------------------------------------------------------------------------------------------------
 
 void MigrationRun::finish()
@@ -379,98 +320,11 @@ void MigrationRun::finish()
     WriteTransaction transaction(destination_.connection(), WriteTransaction::Lock::Immediate);
     for (EntityStep& step : steps_.all())
         callHook(step, &NSEntityMigrationPolicy::endEntityMapping);
-    destination_.completeDerivedValues([this](std::size_t) { progress_.checkIsNotCancelled(); });
+    destination_.completeDerivedValues([this] { progress_.checkIsNotCancelled(); });
     destination_.checkReferences();
     destination_.writeMetadata(*manager_.destinationModel(), source_.metadata(), steps_.nextKeys());
     progress_.checkIsNotCancelled();
     transaction.commit();
-}
-
-// Lookups of policies -------------------------------------------------------------------------------------------------
-
-NSManagedObjectID MigrationRun::sourceID(const EntityStep& step, std::int64_t key) const
-{
-    return {source_.identity(), *step.from, key};
-}
-
-std::vector<NSManagedObjectID> MigrationRun::destinationsOf(
-    std::string_view mappingName, const NSManagedObjectID& source)
-{
-    const EntityStep& step = steps_.named(mappingName);
-    std::vector<NSManagedObjectID> found;
-    if (!step.hasBoth() || !source)
-        return found;
-    if (isFirstPass_ && stepInHand_ == &step && source.key() == sourceKeyInHand_ && !recordsInHand_.empty()) {
-        for (const auto& record : recordsInHand_)
-            found.push_back(record->objectID());
-        return found;
-    }
-    const auto add = [&](const NSEntityDescription& root, std::int64_t key) {
-        if (const NSEntityDescription* entity = destination_.entityOf(root, key))
-            found.emplace_back(source_.identity(), *entity, key);
-    };
-    if (step.keyOffset && isMadeOf(step, source.key()))
-        add(step.to->rootEntity(), step.destinationKey(source.key()));
-    for (const MigrationSource::Association& made : source_.associationsOf(step, source.key()))
-        add(*made.root, made.destination);
-    return found;
-}
-
-NSManagedObjectID MigrationRun::sourceOf(std::string_view mappingName, const NSManagedObjectID& destination)
-{
-    const EntityStep& step = steps_.named(mappingName);
-    if (!step.hasBoth() || !destination)
-        return {};
-    if (const auto key = source_.associatedSource(step, *destination.root(), destination.key()))
-        return sourceID(step, *key);
-    if (!step.keyOffset || destination.root() != &step.to->rootEntity())
-        return {};
-    const std::int64_t key = destination.key() - *step.keyOffset;
-    const auto row = source_.selects().row(source_.connection(), *step.from, key, RowContents::Keys);
-    return row && row->entity == step.from ? sourceID(step, key) : NSManagedObjectID();
-}
-
-const MigrationRecord* MigrationRun::sourceRecord(const NSManagedObjectID& objectID)
-{
-    sourceLookedAt_.reset();
-    if (!objectID || &objectID.entity().model() != manager_.sourceModel().get())
-        return nullptr;
-    auto row = source_.selects().row(source_.connection(), objectID.entity(), objectID.key(), RowContents::Row);
-    if (row)
-        sourceLookedAt_ = std::make_unique<SourceMigrationRecord>(source_, std::move(*row));
-    return sourceLookedAt_.get();
-}
-
-MigrationRecord* MigrationRun::destinationRecord(const NSManagedObjectID& objectID)
-{
-    if (!objectID || &objectID.entity().model() != manager_.destinationModel().get())
-        return nullptr;
-    for (const auto& record : recordsInHand_)
-        if (record->objectID() == objectID)
-            return record.get();
-    if (isFirstPass_)
-        return nullptr;
-    auto row = destination_.selects().row(
-        destination_.connection(), objectID.entity().rootEntity(), objectID.key(), RowContents::Row);
-    if (!row)
-        return nullptr;
-    recordsInHand_.push_back(std::make_unique<DestinationMigrationRecord>(
-        source_.identity(), destination_, std::move(*row), DestinationMigrationRecord::Kind::Written));
-    return recordsInHand_.back().get();
-}
-
-std::vector<NSManagedObjectID> MigrationRun::destinationsWithFoldedValue(
-    std::string_view entityName, std::string_view attributeName, std::string_view text)
-{
-    const NSEntityDescription* entity = manager_.destinationModel()->entityNamed(entityName);
-    const NSAttributeDescription* attribute = entity ? entity->attributeNamed(attributeName) : nullptr;
-    if (!attribute || attribute->type() != NSAttributeType::String)
-        throw StoreFailure(StoreErrorGeneric,
-            "\"" + std::string(entityName) + "\" has no text \"" + std::string(attributeName) + "\".");
-    std::vector<NSManagedObjectID> found;
-    for (const std::int64_t key : destination_.keysOfFoldedValue(*entity, *attribute, text))
-        found.emplace_back(source_.identity(), *destination_.entityOf(entity->rootEntity(), key), key);
-    return found;
 }
 
 } // namespace tarn

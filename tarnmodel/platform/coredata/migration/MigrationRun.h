@@ -15,6 +15,7 @@
 
 namespace tarn {
 
+struct BulkStatement;
 class HeldStoreFile;
 class MigrationProgress;
 class NSMigrationManager;
@@ -57,11 +58,12 @@ private:
     bool isMadeOf(const EntityStep& step, std::int64_t sourceKey);
     void finish();
     /// Runs statements for the records of the source in portions, and tells how far that is.
-    void runInPortions(const EntityStep& step, const std::vector<std::string>& statements);
+    void runInPortions(const EntityStep& step, const std::vector<BulkStatement>& statements);
     void callHook(EntityStep& step, Hook hook);
     /// What a policy has come back with.
     void checkEnd(const EntityStep& step, bool isFine, const NSError& error);
     void writeRecordsInHand();
+    void writeRecordLookedAt();
     NSManagedObjectID sourceID(const EntityStep& step, std::int64_t key) const;
     const std::vector<std::string>& selectsOf(const EntityStep& step, const NSPropertyMapping& property);
 
@@ -81,6 +83,7 @@ private:
     std::int64_t sourceVersionInHand_ = 0;
     std::vector<std::unique_ptr<DestinationMigrationRecord>> recordsInHand_;
     std::unique_ptr<SourceMigrationRecord> sourceLookedAt_;
+    std::unique_ptr<DestinationMigrationRecord> destinationLookedAt_;
     std::map<const NSPropertyMapping*, std::vector<std::string>> selects_;
 };
 

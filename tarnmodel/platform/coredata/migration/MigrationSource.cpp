@@ -13,13 +13,6 @@ namespace tarn {
 
 namespace {
 
-/// `AND` and the condition, or nothing.
-std::string andEntityIs(const NSEntityDescription& entity, std::string_view alias)
-{
-    const std::string condition = entityCondition(entity, false, alias);
-    return condition.empty() ? condition : " AND " + condition;
-}
-
 /// An entity as a number: its place in its model.
 std::int64_t numberOf(const NSEntityDescription& entity)
 {
@@ -104,7 +97,7 @@ std::vector<std::int64_t> MigrationSource::keysAfter(
 {
     SQLiteStatement statement
         = connection_.prepare("SELECT s.\"pk\" FROM main." + quotedIdentifier(schema_.table(entity).name)
-            + " AS s WHERE s.\"pk\" > ?1" + andEntityIs(entity, "s") + " ORDER BY s.\"pk\" LIMIT ?2");
+            + " AS s WHERE s.\"pk\" > ?1" + andEntityIs(entity, false, "s") + " ORDER BY s.\"pk\" LIMIT ?2");
     statement.bindInteger(1, key);
     statement.bindInteger(2, static_cast<std::int64_t>(most));
     std::vector<std::int64_t> keys;
@@ -116,7 +109,7 @@ std::vector<std::int64_t> MigrationSource::keysAfter(
 std::int64_t MigrationSource::lastKeyOfNext(const NSEntityDescription& entity, std::int64_t key, std::size_t most) const
 {
     SQLiteStatement statement = connection_.prepare("SELECT coalesce(max(\"pk\"), ?1) FROM (SELECT s.\"pk\" FROM main."
-        + quotedIdentifier(schema_.table(entity).name) + " AS s WHERE s.\"pk\" > ?1" + andEntityIs(entity, "s")
+        + quotedIdentifier(schema_.table(entity).name) + " AS s WHERE s.\"pk\" > ?1" + andEntityIs(entity, false, "s")
         + " ORDER BY s.\"pk\" LIMIT ?2)");
     statement.bindInteger(1, key);
     statement.bindInteger(2, static_cast<std::int64_t>(most));

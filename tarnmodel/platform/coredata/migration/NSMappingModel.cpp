@@ -32,7 +32,8 @@ std::optional<std::string> textOfFile(const fs::path& file)
     std::ifstream stream(file, std::ios::binary);
     std::ostringstream text;
     text << stream.rdbuf(); // fails, and does not throw, on a folder
-    if (!stream.is_open() || text.bad())
+    // Nothing read is a failure too: an empty file is no mapping.
+    if (!stream.is_open() || text.fail())
         return std::nullopt;
     return text.str();
 }

@@ -121,8 +121,8 @@ void forgetSignatures(SQLiteConnection& connection, const StoreSchema& schema)
     }
 }
 
-static void completeSignaturesOf(
-    SQLiteConnection& connection, const SignatureTable& table, const std::function<void(std::size_t)>& madeSome)
+void completeSignatures(
+    SQLiteConnection& connection, const SignatureTable& table, const std::function<void()>& madeSome)
 {
     constexpr std::size_t kPage = 256;
     std::int64_t key = std::numeric_limits<std::int64_t>::min();
@@ -143,21 +143,10 @@ static void completeSignaturesOf(
             statement.bindBlob(2, signature);
             statement.run();
         }
-        madeSome(page.size());
+        madeSome();
         if (page.size() < kPage)
             return;
         key = page.back().first;
-    }
-}
-
-void completeSignatures(
-    SQLiteConnection& connection, const StoreSchema& schema, const std::function<void(std::size_t)>& madeSome)
-{
-    for (const auto& table : schema.tables()) {
-        for (const auto& signature : table->signatures) {
-            completeSignaturesOf(connection, *signature, madeSome);
-            connection.execute("DELETE FROM " + quotedIdentifier(signature->changesName));
-        }
     }
 }
 

@@ -29,10 +29,10 @@ void writeSignature(SQLiteConnection& connection, const SignatureTable& table, s
 void removeSignature(SQLiteConnection& connection, const SignatureTable& table, std::int64_t key);
 /// Makes all signatures stale. Inside a transaction.
 void forgetSignatures(SQLiteConnection& connection, const StoreSchema& schema);
-/// Makes the signatures of all rows that have none, and empties the list of changes: for a file that nobody else has
-/// open yet. `madeSome` is called with how many rows were looked at since the last call. Inside a transaction.
+/// Makes the signatures of all rows that have none, and notes nothing: for a file that nobody else has open yet.
+/// `madeSome` is called now and then. Inside a transaction.
 void completeSignatures(
-    SQLiteConnection& connection, const StoreSchema& schema, const std::function<void(std::size_t)>& madeSome);
+    SQLiteConnection& connection, const SignatureTable& table, const std::function<void()>& madeSome);
 /// Cuts the list of changes when it has become long. Inside a transaction.
 void trimChanges(SQLiteConnection& connection, const SignatureTable& table);
 

@@ -365,6 +365,12 @@ std::string entityCondition(const NSEntityDescription& entity, bool includesSube
     return std::string(alias) + ".\"entity\" IN (" + names + ")";
 }
 
+std::string andEntityIs(const NSEntityDescription& entity, bool includesSubentities, std::string_view alias)
+{
+    const std::string condition = entityCondition(entity, includesSubentities, alias);
+    return condition.empty() ? condition : " AND " + condition;
+}
+
 std::vector<std::string> StoreSchema::creationStatements() const
 {
     std::vector<std::string> all{

@@ -91,6 +91,8 @@ inline bool hasSignature(const NSAttributeDescription& attribute) noexcept
 
 /// `"entity" IN (...)` for the rows of an entity; empty when every row of the table is one.
 std::string entityCondition(const NSEntityDescription& entity, bool includesSubentities, std::string_view alias);
+/// The same after " AND ".
+std::string andEntityIs(const NSEntityDescription& entity, bool includesSubentities, std::string_view alias);
 
 /// How a model lies in SQLite: tables, columns, join tables, and the statements that make them.
 ///

@@ -128,7 +128,11 @@ TEST(MappingModels, AreRefusedForValuesThatDoNotFit)
         refusalWith(R"({"name": "shelves", "value": "$source.shelf"})",
             R"({"name": "shelves", "value": "$source.shelf"}, {"name": "sequel", "value": "$source.prequels"})"),
         HasSubstr("many records do not become one by themselves"));
-    EXPECT_THAT(refusalWith("$source.shelf", "$source.topics"), HasSubstr("no \"Topic\" becomes a \"Shelf\""));
+    EXPECT_THAT(refusalWith(R"("$source.shelf"}],
+     "dropped": ["opened"])",
+                    R"("$source.topics"}],
+     "dropped": ["opened", "shelf"])"),
+        HasSubstr("no \"Topic\" becomes a \"Shelf\""));
 }
 
 TEST(MappingModels, AreRefusedForWhatHasNoEffect)

@@ -467,8 +467,17 @@ public:
         EXPECT_THAT(destination.relatedObjectIDs("shelves"), SizeIs(1));
         destination.setValueForKey("title", Value("New " + destination.valueForKey("title").asString()));
         destination.setValueForKey("text", Value("new text"));
+        last_ = destination.objectID();
         return true;
     }
+    bool endEntityMapping(const NSEntityMapping&, NSMigrationManager& manager, NSError*) override
+    {
+        manager.destinationInstanceWithID(last_)->setValueForKey("origin", Value("the last one"));
+        return true;
+    }
+
+private:
+    NSManagedObjectID last_;
 };
 
 TEST_F(StoreMigrationManager, LetsPoliciesMakeWhatTheyLike)
@@ -478,7 +487,8 @@ TEST_F(StoreMigrationManager, LetsPoliciesMakeWhatTheyLike)
     migrate(libraryMappingText(R"("policy": "Reader",)"));
     EXPECT_THAT(
         rows("SELECT pk, rowVersion, title, title_folded, text FROM Book JOIN Book_large USING (pk) ORDER BY pk"),
-        ElementsAre("1|6|New Élan|new elan|new text", "40|2|New Last|new last|new text"));
+        ElementsAre("1|6|New Élan|new elan|new text", "40|3|New Last|new last|new text"));
+    EXPECT_THAT(rows("SELECT origin FROM Book ORDER BY pk"), ElementsAre("it's old", "the last one"));
     EXPECT_THAT(rows("SELECT pk, name FROM Reader ORDER BY pk"), ElementsAre("1|reader of Élan", "2|reader of Last"));
     EXPECT_THAT(rows("SELECT * FROM Book_shelves ORDER BY 1"), ElementsAre("1|1", "40|1"));
     EXPECT_THAT(rows("SELECT pk, sequel FROM Book ORDER BY 1"), ElementsAre("1|NULL", "40|1"))
