@@ -45,8 +45,8 @@ std::vector<std::string> pathFrom(const Metadata& metadata, const NSManagedObjec
 
 } // namespace
 
-StoreMigrationPlan StoreMigrationPlan::planForStoreAtURL(
-    const fs::path& storeURL, const NSManagedObjectModel& currentModel)
+StoreMigrationPlan StoreMigrationPlan::planForStoreAtURL(const fs::path& storeURL,
+    const NSManagedObjectModel& currentModel, const std::function<bool(std::chrono::milliseconds)>& whileWaiting)
 {
     StoreMigrationPlan plan;
     plan.currentVersion = currentModel.versionIdentifier();
@@ -55,8 +55,8 @@ StoreMigrationPlan StoreMigrationPlan::planForStoreAtURL(
     if (failure == std::errc::no_such_file_or_directory || (!failure && size == 0))
         return plan;
     plan.storeSize = failure ? 0 : size;
-    const auto metadata
-        = NSPersistentStoreCoordinator::metadataForPersistentStoreOfType(StoreType::SQLite, storeURL, &plan.error);
+    const auto metadata = NSPersistentStoreCoordinator::metadataForPersistentStoreOfType(
+        StoreType::SQLite, storeURL, &plan.error, whileWaiting);
     if (!metadata) {
         plan.standing = StoreStanding::Unreadable;
         return plan;

@@ -2,8 +2,10 @@
 
 #include "tarnmodel/platform/foundation/values/NSError.h"
 
+#include <chrono>
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <map>
 #include <string>
 #include <vector>
@@ -33,9 +35,11 @@ struct StoreMigrationPlan {
     std::uintmax_t availableSpace = 0; ///< in the store's folder; 0 when the system does not say
     NSError error;                     ///< why it is unreadable
 
-    /// Of the store at this place, for the model that is to open it.
-    static StoreMigrationPlan planForStoreAtURL(
-        const std::filesystem::path& storeURL, const NSManagedObjectModel& currentModel);
+    /// Of the store at this place, for the model that is to open it. Waits up to 30 seconds for a lock of others;
+    /// `whileWaiting` as in `StoreOptions`.
+    static StoreMigrationPlan planForStoreAtURL(const std::filesystem::path& storeURL,
+        const NSManagedObjectModel& currentModel,
+        const std::function<bool(std::chrono::milliseconds)>& whileWaiting = {});
 
 private:
     void judge(const std::map<std::string, std::string>& metadata, const NSManagedObjectModel& currentModel);

@@ -1,6 +1,8 @@
 #include "tarnmodel/platform/foundation/events/NSNotificationCenter.h"
 #include "tarnmodel/platform/foundation/events/NSProgress.h"
 #include "tarnmodel/store/OVCoreDataStack.h"
+#include "tarnmodel/store/OVCoreDataStackForExtensions.h"
+#include "tarnmodel/store/OVCoreDataStackForWidgets.h"
 #include "tests/store/StackFixture.h"
 
 #include <atomic>
@@ -410,31 +412,33 @@ TEST_F(StoreMigration, MayEndTheStackInItsQuestion)
 
 // What the last process left ------------------------------------------------------------------------------------------
 
-class LeftByAMigration : public StoreMigration {
-protected:
-    /// A second name of the store in the temporary folder of a process that has ended.
-    std::filesystem::path secondName()
-    {
-        const auto place = OVLocalFileManager::temporaryDirectoryURL().parent_path() / "Process.ended";
-        std::filesystem::create_directory(place);
-        std::filesystem::create_hard_link(storeFile(), place / "second.sqlite");
-        return place / "second.sqlite";
-    }
-};
+using LeftByAMigration = StoreMigration;
 
 TEST_F(LeftByAMigration, IsGoneWhenTheStoreIsOpened)
 {
     makeStoreOfVersion("Model 3", {"Groceries"});
-    const auto second = secondName();
+    const auto second = leaveSecondName();
     stack_->setupStackWithDelegate(&listener_);
     EXPECT_FALSE(std::filesystem::exists(second));
     EXPECT_THAT(titlesIn(*stack_->managedObjectContext()), ElementsAre("Groceries"));
 }
 
+TEST_F(LeftByAMigration, IsGoneWhenAnExtensionOrAWidgetOpensTheStore)
+{
+    makeStoreOfVersion("Model 3", {"Groceries"});
+    const auto second = leaveSecondName();
+    const auto extension = OVCoreDataStackForExtensions::initStackOutputError(nullptr);
+    EXPECT_FALSE(std::filesystem::exists(second));
+    leaveSecondName();
+    const auto widget = OVCoreDataStackForWidgets::initStack(nullptr);
+    EXPECT_FALSE(std::filesystem::exists(second));
+    EXPECT_EQ(std::filesystem::hard_link_count(storeFile()), 1U);
+}
+
 TEST_F(LeftByAMigration, IsGoneBeforeTheNextOneBegins)
 {
     makeStoreOfVersion("Model 2");
-    const auto second = secondName();
+    const auto second = leaveSecondName();
     migrate([&](auto&, const auto&, NSError* error) {
         EXPECT_FALSE(std::filesystem::exists(second));
         return fail(error, "Kelpa", 8002);

@@ -164,6 +164,14 @@ void StackFixture::makeStore(
     });
 }
 
+fs::path StackFixture::leaveSecondName() const
+{
+    const fs::path place = OVLocalFileManager::temporaryDirectoryURL().parent_path() / "Process.ended";
+    fs::create_directory(place);
+    fs::create_hard_link(storeFile(), place / "second.sqlite");
+    return place / "second.sqlite";
+}
+
 std::string StackFixture::versionOfStore() const
 {
     NSError error;

@@ -68,6 +68,9 @@ protected:
 
     /// Makes the store with an installed version of the model ("Model 2"), and notes in it.
     void makeStoreOfVersion(std::string_view version, const std::vector<std::string>& titles = {});
+    /// A second name of the store, as a migration leaves it that was killed, in the temporary folder of a process that
+    /// has ended.
+    std::filesystem::path leaveSecondName() const;
     /// What the store says of the model that it has.
     std::string versionOfStore() const;
     /// Makes the store with a model that this library has never had.

@@ -339,6 +339,50 @@ TEST_F(HeldFile, AWriterThatWaitedNeverWritesIntoTheBackup)
     EXPECT_EQ(bytesOfFile(file_), old);
 }
 
+TEST_F(HeldFile, AReaderThatWaitedReadsTheWholeOldStoreOnce)
+{
+    const OpenStore open(StoreType::SQLite, file_);
+    ASSERT_EQ(open.value("Label", key_, "name"), Value("old")); // which opens a connection for reading
+    auto held = hold();
+    auto reader = std::async(std::launch::async, [&] {
+        std::vector<StoreRow> rows;
+        EXPECT_TRUE(open->rowsForKeys(open.entity("Label"), std::span(&key_, 1), RowContents::WholeRow, rows, nullptr));
+        return rows.size();
+    });
+    std::this_thread::sleep_for(milliseconds(50));
+    ASSERT_TRUE(replace(*held)) << error_;
+    held.reset();
+    EXPECT_EQ(reader.get(), 1U);
+    NSError error;
+    std::vector<StoreRow> rows;
+    EXPECT_FALSE(open->rowsForKeys(open.entity("Label"), std::span(&key_, 1), RowContents::WholeRow, rows, &error));
+    EXPECT_EQ(error.code(), StoreErrorReplaced);
+}
+
+TEST_F(HeldFile, IsOpenedWholeHoweverOftenItIsExchanged)
+{
+    constexpr int kOpenings = 60;
+    std::atomic<int> openings = 0;
+    auto exchanges = std::async(std::launch::async, [&] {
+        for (int seen = 0; openings < kOpenings; seen = openings) {
+            const fs::path next = folder_.path() / "next.sqlite";
+            fs::copy_file(successor_, next);
+            NSError error;
+            auto held = HeldStoreFile::hold(file_, {}, &error);
+            EXPECT_TRUE(held && held->replaceWith(next, backup_, &error)) << error;
+            held.reset();
+            fs::remove(backup_);
+            while (openings == seen) // one for each opening, at any moment of it
+                std::this_thread::yield();
+        }
+    });
+    for (; openings < kOpenings; ++openings) {
+        const OpenStore store(StoreType::SQLite, file_);
+        EXPECT_TRUE(store) << store.error();
+    }
+    exchanges.wait();
+}
+
 TEST_F(HeldFile, WhoOpensMeanwhileSeesTheNewStore)
 {
     auto held = hold();
