@@ -1,11 +1,10 @@
 #include "tarnmodel/store/MigrationSpaceInternal.h"
 
 #include "tarnmodel/platform/foundation/system/Environment.h"
+#include "tarnmodel/platform/foundation/text/ByteCount.h"
 #include "tarnmodel/store/VexMigrationManager.h"
 
-#include <array>
 #include <string>
-#include <string_view>
 
 namespace tarn {
 
@@ -15,19 +14,6 @@ namespace {
 // the records of links: by a tenth for 30,000 notes, by a sixth for 1,000. An almost empty one grows by some pages.
 constexpr std::uintmax_t kGrowthDivisor = 2;
 constexpr std::uintmax_t kLeastGrowth = 1'000'000;
-
-/// "12.3 MB", in steps of a thousand.
-std::string readableSize(std::uintmax_t bytes)
-{
-    constexpr std::array<std::string_view, 4> kUnits{"kB", "MB", "GB", "TB"};
-    if (bytes < 1'000)
-        return std::to_string(bytes) + " bytes";
-    std::size_t unit = 0;
-    std::uintmax_t tenths = (bytes + 50) / 100;
-    for (; tenths >= 10'000 && unit + 1 < kUnits.size(); ++unit)
-        tenths = (tenths + 500) / 1'000;
-    return std::to_string(tenths / 10) + "." + std::to_string(tenths % 10) + " " + std::string(kUnits.at(unit));
-}
 
 } // namespace
 
@@ -46,8 +32,8 @@ bool hasSpace(std::uintmax_t need, const std::filesystem::path& folder, NSError*
         return true;
     assignError(error,
         NSError(MigrationErrorDomain, MigrationErrorNoSpace,
-            "The migration of the store needs " + readableSize(need) + " in \"" + folder.string() + "\", where "
-                + readableSize(*room) + " are left; nothing was written"));
+            "The migration of the store needs " + stringFromByteCount(need) + " in \"" + folder.string() + "\", where "
+                + stringFromByteCount(*room) + " are left; nothing was written"));
     return false;
 }
 

@@ -56,7 +56,7 @@ TEST(MigrationSpace, IsToldInSizesThatPeopleRead)
             std::pair(std::uintmax_t{999'950}, "needs 1.0 MB in"),
             std::pair(std::uintmax_t{12'345'678}, "needs 12.3 MB in"),
             std::pair(std::uintmax_t{7'000'000'000}, "needs 7.0 GB in"),
-            std::pair(std::uintmax_t{7'000'000'000'000'000}, "needs 7000.0 TB in")}) {
+            std::pair(std::uintmax_t{7'000'000'000'000'000}, "needs 7.0 PB in")}) {
         NSError error;
         EXPECT_FALSE(hasSpace(bytes, "/", &error));
         EXPECT_THAT(error.localizedDescription(), HasSubstr(text));

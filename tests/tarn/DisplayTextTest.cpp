@@ -40,16 +40,4 @@ TEST(TextPaddedToWidth, FillsUpToTheColumn)
     EXPECT_EQ(textPaddedToWidth("long", 2), "long");
 }
 
-TEST(TextOfSize, IsShortAndRounded)
-{
-    EXPECT_EQ(textOfSize(0), "0 bytes");
-    EXPECT_EQ(textOfSize(1), "1 byte");
-    EXPECT_EQ(textOfSize(999), "999 bytes");
-    EXPECT_EQ(textOfSize(1'000), "1.0 kB");
-    EXPECT_EQ(textOfSize(3'449'999), "3.4 MB");
-    EXPECT_EQ(textOfSize(999'949'999), "999.9 MB");
-    EXPECT_EQ(textOfSize(999'950'000), "1.0 GB");
-    EXPECT_EQ(textOfSize(18'446'744'073'709'551'615U), "18.4 EB");
-}
-
 } // namespace tarn

@@ -5,8 +5,6 @@
 #include <unicode/uchar.h>
 
 #include <algorithm>
-#include <array>
-#include <cstdio>
 
 namespace tarn {
 
@@ -130,23 +128,6 @@ std::string singleLine(std::string text)
 std::string numbered(std::size_t count, std::string_view thing)
 {
     return std::to_string(count) + ' ' + std::string(thing) + (count == 1 ? "" : "s");
-}
-
-std::string textOfSize(std::uintmax_t bytes)
-{
-    constexpr std::array kUnits{"kB", "MB", "GB", "TB", "PB", "EB"};
-    if (bytes < 1'000)
-        return numbered(bytes, "byte");
-    double size = static_cast<double>(bytes) / 1'000;
-    std::size_t unit = 0;
-    // What would be rounded to a thousand is one of the next unit.
-    while (size >= 999.95 && unit + 1 < kUnits.size()) {
-        size /= 1'000;
-        ++unit;
-    }
-    std::array<char, 32> number{};
-    std::snprintf(number.data(), number.size(), "%.1f ", size);
-    return number.data() + std::string(kUnits[unit]);
 }
 
 } // namespace tarn

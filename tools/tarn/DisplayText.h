@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -25,8 +24,5 @@ std::string singleLine(std::string text);
 
 /// "1 note", "2 notes".
 std::string numbered(std::size_t count, std::string_view thing);
-
-/// "512 bytes", "3.4 MB": powers of a thousand, one digit behind the point.
-std::string textOfSize(std::uintmax_t bytes);
 
 } // namespace tarn

@@ -1,4 +1,5 @@
 #include "tarnmodel/files/OVLocalFileManager.h"
+#include "tarnmodel/platform/foundation/text/ByteCount.h"
 #include "tarnmodel/platform/foundation/text/UTF.h"
 #include "tarnmodel/store/StoreMigrationPlan.h"
 #include "tarnmodel/store/VexMigrationManager.h"
@@ -199,9 +200,9 @@ ExitCode tellOfPlan(const Invocation& invocation, const fs::path& database, cons
         tell("from", plan.storeVersion);
         for (const std::string& version : plan.versions)
             tell("to", version);
-        tell("size", textOfSize(plan.storeSize));
-        tell("needed space", textOfSize(plan.neededSpace));
-        tell("free space", textOfSize(plan.availableSpace));
+        tell("size", stringFromByteCount(plan.storeSize));
+        tell("needed space", stringFromByteCount(plan.neededSpace));
+        tell("free space", stringFromByteCount(plan.availableSpace));
     }
     if (!fits)
         tellOnStandardError("there is not enough room for the new store beside the old one; make room first");
