@@ -245,6 +245,30 @@ TEST_P(BrokenExchange, TellsWhereTheOldStoreLiesWhenItCannotBePutBack)
     EXPECT_TRUE(bytesOfStore(folder.file()) == bytesOfStore(versions_[2].file()));
 }
 
+TEST_P(BrokenExchange, KilledAtAnyCallLeavesOneOfTheTwoStores)
+{
+    int deaths = 0;
+    int exchanged = 0;
+    for (const std::string_view call : {"link", "write", "fsync", "renameat2", "rename", "unlink"})
+        for (int time = 1; !HasFailure(); ++time) {
+            const StoreFolder folder;
+            const WorkerResult result = exchange(folder, {fmt::format("inject={}:signal=KILL:when={}", call, time)});
+            const std::string found = bytesOfStore(folder.file());
+            const bool isNew = found == bytesOfStore(versions_[2].file());
+            EXPECT_TRUE(isNew || found == bytesOfStore(versions_[0].file())) << call << " number " << time;
+            for (const auto& left : fs::directory_iterator(backup(folder).parent_path()))
+                fs::remove(left.path());
+            if (result.signal == 0) {
+                EXPECT_TRUE(isNew) << call << " number " << time << ": " << result.output;
+                break;
+            }
+            ++deaths;
+            exchanged += isNew;
+        }
+    EXPECT_GE(deaths, GetParam() ? 8 : 5);
+    EXPECT_GE(exchanged, 1) << "at the last sync";
+}
+
 TEST_P(BrokenExchange, KeepsACopyThatIsTheStoreByteByByte)
 {
     const StoreFolder folder;
