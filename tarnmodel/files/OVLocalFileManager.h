@@ -95,7 +95,8 @@ public:
     /// Removes all that is in the process's own folder, and what processes left that ended; never what a living
     /// process uses. Call it when nothing is being imported. Failures are ignored.
     static void deleteTemporaryDirectoryContent();
-    /// Removes only what processes left that ended. A store stack does it when it is set up.
+    /// Removes only what processes left that ended. A store stack does it before it opens the store: a migration that
+    /// was killed may have left a second name of it there.
     static void removeAbandonedTemporaryDirectories();
 
     // One folder of attachments ---------------------------------------------------------------------------------------

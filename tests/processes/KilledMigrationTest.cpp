@@ -43,20 +43,20 @@ constexpr std::array kDisturbances{
     Disturbance{"KilledAtALink", "link", "signal=KILL", 1},
     Disturbance{"KilledAtARenaming", "rename", "signal=KILL", 1},
     Disturbance{"KilledAtASync", "fsync", "signal=KILL", 2},
-    Disturbance{"KilledAtAWrite", "pwrite64", "signal=KILL", 20, 3},
+    Disturbance{"KilledAtAWrite", "pwrite64", "signal=KILL", 10, 7},
     Disturbance{"KilledAtARemoval", "unlink", "signal=KILL", 2},
     Disturbance{"KilledAtANewFolder", "mkdir", "signal=KILL", 1},
-    Disturbance{"KilledAtAnOpening", "openat", "signal=KILL", 10, 5},
+    Disturbance{"KilledAtAnOpening", "openat", "signal=KILL", 5, 11},
     Disturbance{"FullAtALink", "link", "error=ENOSPC", 1},
     Disturbance{"FullAtARenaming", "rename", "error=ENOSPC", 1},
     Disturbance{"FullAtASync", "fsync", "error=ENOSPC", 2},
-    Disturbance{"FullAtAWrite", "pwrite64", "error=ENOSPC", 20, 3},
+    Disturbance{"FullAtAWrite", "pwrite64", "error=ENOSPC", 10, 7},
     Disturbance{"BrokenAtALink", "link", "error=EIO", 1},
     Disturbance{"BrokenAtARenaming", "rename", "error=EIO", 1},
     Disturbance{"BrokenAtASync", "fsync", "error=EIO", 2},
-    Disturbance{"BrokenAtAWrite", "pwrite64", "error=EIO", 20, 3},
-    Disturbance{"BrokenAtARead", "pread64", "error=EIO", 5, 5, 8},
-    Disturbance{"BrokenAtAnOpening", "openat", "error=EIO", 5, 5, 8},
+    Disturbance{"BrokenAtAWrite", "pwrite64", "error=EIO", 10, 7},
+    Disturbance{"BrokenAtARead", "pread64", "error=EIO", 3, 11, 8},
+    Disturbance{"BrokenAtAnOpening", "openat", "error=EIO", 3, 11, 8},
 };
 
 std::ostream& operator<<(std::ostream& stream, const Disturbance& disturbance)
@@ -243,6 +243,30 @@ TEST_P(BrokenExchange, TellsWhereTheOldStoreLiesWhenItCannotBePutBack)
     EXPECT_THAT(result.output, HasSubstr("the old one lies at \"" + backup(folder).string() + "\""));
     EXPECT_TRUE(bytesOfStore(backup(folder)) == bytesOfStore(versions_[0].file()));
     EXPECT_TRUE(bytesOfStore(folder.file()) == bytesOfStore(versions_[2].file()));
+}
+
+TEST_P(BrokenExchange, KilledAtAnyCallLeavesOneOfTheTwoStores)
+{
+    int deaths = 0;
+    int exchanged = 0;
+    for (const std::string_view call : {"link", "write", "fsync", "renameat2", "rename", "unlink"})
+        for (int time = 1; !HasFailure(); ++time) {
+            const StoreFolder folder;
+            const WorkerResult result = exchange(folder, {fmt::format("inject={}:signal=KILL:when={}", call, time)});
+            const std::string found = bytesOfStore(folder.file());
+            const bool isNew = found == bytesOfStore(versions_[2].file());
+            EXPECT_TRUE(isNew || found == bytesOfStore(versions_[0].file())) << call << " number " << time;
+            for (const auto& left : fs::directory_iterator(backup(folder).parent_path()))
+                fs::remove(left.path());
+            if (result.signal == 0) {
+                EXPECT_TRUE(isNew) << call << " number " << time << ": " << result.output;
+                break;
+            }
+            ++deaths;
+            exchanged += isNew;
+        }
+    EXPECT_GE(deaths, GetParam() ? 8 : 5);
+    EXPECT_GE(exchanged, 1) << "at the last sync";
 }
 
 TEST_P(BrokenExchange, KeepsACopyThatIsTheStoreByteByByte)

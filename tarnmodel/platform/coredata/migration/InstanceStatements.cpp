@@ -9,7 +9,6 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <map>
 #include <optional>
 #include <set>
 
@@ -77,15 +76,16 @@ const NSRelationshipDescription* sourceOfColumn(const EntityStep& step, const NS
     return isColumn ? source : nullptr;
 }
 
-/// What the records that a relationship names become: entities of the source by what is added to their keys.
-std::map<std::int64_t, std::set<const NSEntityDescription*>> targetOffsets(
+/// What is added to the keys of the records that a relationship names: once for each entity mapping that makes
+/// something of them. Where a record was not made there is nothing at its key.
+std::set<std::int64_t> targetOffsets(
     const NSRelationshipDescription& from, const NSRelationshipDescription& to, EntitySteps& steps)
 {
-    std::map<std::int64_t, std::set<const NSEntityDescription*>> offsets;
+    std::set<std::int64_t> offsets;
     for (const EntityStep& step : steps.all())
         if (step.hasBoth() && step.keyOffset && step.from->isKindOfEntity(from.destinationEntity())
             && step.to->isKindOfEntity(to.destinationEntity()))
-            offsets[*step.keyOffset].insert(step.from);
+            offsets.insert(*step.keyOffset);
     return offsets;
 }
 
@@ -182,7 +182,7 @@ private:
         const auto offsets = targetOffsets(*from, relationship, steps_);
         if (offsets.size() != 1)
             return std::nullopt;
-        return withOffset("s." + quotedIdentifier(from->name()), offsets.begin()->first);
+        return withOffset("s." + quotedIdentifier(from->name()), *offsets.begin());
     }
 
     /// "FROM" and what follows; the large attributes with it where they are needed.
@@ -295,79 +295,70 @@ std::string sourcePairs(const NSRelationshipDescription& relationship, const Sto
         direction.to, inMain(direction.table->name));
 }
 
-std::string namesOf(const std::set<const NSEntityDescription*>& entities)
-{
-    std::string names;
-    for (const NSEntityDescription* entity : entities)
-        names += (names.empty() ? "" : ", ") + literal(Value(entity->name()));
-    return names;
-}
-
 } // namespace
 
-std::vector<std::string> relationshipSelects(
+std::string relationshipSelect(
     const EntityStep& step, const NSPropertyMapping& property, const MigrationSource& source, EntitySteps& steps)
 {
     const NSRelationshipDescription& to = *step.to->relationshipNamed(property.name);
     const NSRelationshipDescription& from = *step.from->relationshipNamed(property.valueExpression.name());
     const StoreSchema& schema = source.schema();
     const StoreTable& owners = schema.table(*step.from);
-    const StoreTable& targets = schema.table(from.destinationEntity());
-    const auto offsets = targetOffsets(from, to, steps);
     std::string owned = "SELECT \"owner\", \"target\" FROM (" + sourcePairs(from, schema)
         + ") WHERE \"owner\" > ?1 AND \"owner\" <= ?2";
     if (owners.hasDiscriminator)
         owned += " AND EXISTS (SELECT 1 FROM " + inMain(owners.name) + " AS s WHERE s.\"pk\" = \"owner\""
             + andEntityIs(*step.from, false, "s") + ")";
-    std::vector<std::string> selects;
-    for (const auto& [offset, entities] : offsets) {
-        std::string select
-            = "SELECT \"owner\", " + withOffset("\"target\"", offset) + " AS \"target\" FROM (" + owned + ")";
-        if (offsets.size() > 1)
-            select += " WHERE EXISTS (SELECT 1 FROM " + inMain(targets.name) + " AS t WHERE t.\"pk\" = \"target\""
-                + (targets.hasDiscriminator ? " AND t.\"entity\" IN (" + namesOf(entities) + ")" : "") + ")";
-        selects.push_back(std::move(select));
-    }
-    return selects;
+    std::string select;
+    for (const std::int64_t offset : targetOffsets(from, to, steps))
+        select += (select.empty() ? "" : " UNION ALL ")
+            + ("SELECT \"owner\", " + withOffset("\"target\"", offset) + " AS \"target\" FROM (" + owned + ")");
+    return select;
 }
 
-std::vector<BulkStatement> relationshipStatements(const EntityStep& step, const NSPropertyMapping& property,
+namespace {
+
+std::string isThere(const StoreTable& table, const std::string& key, const std::string& condition)
+{
+    return " EXISTS (SELECT 1 FROM " + inSide(table.name) + " AS t WHERE t.\"pk\" = " + key + condition + ")";
+}
+
+bool isWrittenAlong(const EntityStep& step, const NSRelationshipDescription& relationship, EntitySteps& steps)
+{
+    const NSRelationshipDescription* from = sourceOfColumn(step, relationship);
+    return from && targetOffsets(*from, relationship, steps).size() == 1 && isMadeBySQL(step)
+        && !step.passes.createsInstances;
+}
+
+} // namespace
+
+std::optional<BulkStatement> relationshipStatement(const EntityStep& step, const NSPropertyMapping& property,
     const MigrationSource& source, const MigrationDestination& destination, EntitySteps& steps)
 {
     const NSRelationshipDescription& to = *step.to->relationshipNamed(property.name);
     const StoreSchema& schema = destination.schema();
     const bool isColumn = to.storage() == RelationshipStorage::Column;
-    const bool isJoined = to.storage() == RelationshipStorage::JoinTable && to.ownsJoinTable();
-    std::vector<BulkStatement> statements;
-    if (property.valueExpression.kind() != MappingExpression::Kind::SourceKey || (!isColumn && !isJoined))
-        return statements;
-    const std::vector<std::string> selects = relationshipSelects(step, property, source, steps);
-    const NSRelationshipDescription* fromColumn = isColumn ? sourceOfColumn(step, to) : nullptr;
-    if (fromColumn && selects.size() == 1 && isMadeBySQL(step) && !step.passes.createsInstances)
-        return statements; // written along with the rows
-    const auto isThere = [](const StoreTable& table, const std::string& key, const std::string& condition) {
-        return " EXISTS (SELECT 1 FROM " + inSide(table.name) + " AS t WHERE t.\"pk\" = " + key + condition + ")";
-    };
+    const bool isKept = isColumn || (to.storage() == RelationshipStorage::JoinTable && to.ownsJoinTable());
+    if (property.valueExpression.kind() != MappingExpression::Kind::SourceKey || !isKept
+        || (isColumn && isWrittenAlong(step, to, steps)))
+        return std::nullopt;
     const StoreTable& owners = schema.table(*step.to);
-    const std::string owner = withOffset("\"owner\"", *step.keyOffset);
+    const std::string pairs = "(SELECT " + withOffset("\"owner\"", *step.keyOffset) + " AS \"owner\", \"target\" FROM ("
+        + relationshipSelect(step, property, source, steps) + ")) AS p";
     const std::string targetIsThere
         = isThere(schema.table(to.destinationEntity()), "p.\"target\"", andEntityIs(to.destinationEntity(), true, "t"));
-    for (const std::string& select : selects) {
-        const std::string pairs = "(SELECT " + owner + " AS \"owner\", \"target\" FROM (" + select + ")) AS p";
-        if (isColumn) // the first of several records that name the same
-            statements.push_back({"UPDATE " + inSide(owners.name) + " SET " + quotedIdentifier(to.name())
-                    + " = q.\"target\" FROM (SELECT p.\"owner\", min(p.\"target\") AS \"target\" FROM " + pairs
-                    + " WHERE" + targetIsThere + " GROUP BY p.\"owner\") AS q WHERE " + quotedIdentifier(owners.name)
-                    + ".\"pk\" = q.\"owner\"",
-                owners.name});
-        else
-            statements.push_back({"INSERT OR IGNORE INTO " + inSide(schema.join(to).name)
-                    + " (\"owner\", \"member\") SELECT p.\"owner\", p.\"target\" FROM " + pairs + " WHERE"
-                    + isThere(owners, "p.\"owner\"", andEntityIs(*step.to, false, "t")) + " AND" + targetIsThere
-                    + " ORDER BY p.\"owner\", p.\"target\"",
-                schema.join(to).name});
-    }
-    return statements;
+    if (isColumn) // the first of several records that name the same
+        return BulkStatement{"UPDATE " + inSide(owners.name) + " SET " + quotedIdentifier(to.name())
+                + " = q.\"target\" FROM (SELECT p.\"owner\", min(p.\"target\") AS \"target\" FROM " + pairs + " WHERE"
+                + targetIsThere + " GROUP BY p.\"owner\") AS q WHERE " + quotedIdentifier(owners.name)
+                + ".\"pk\" = q.\"owner\"",
+            owners.name};
+    const std::string& join = schema.join(to).name;
+    return BulkStatement{"INSERT OR IGNORE INTO " + inSide(join)
+            + " (\"owner\", \"member\") SELECT p.\"owner\", p.\"target\" FROM " + pairs + " WHERE"
+            + isThere(owners, "p.\"owner\"", andEntityIs(*step.to, false, "t")) + " AND" + targetIsThere
+            + " ORDER BY p.\"owner\", p.\"target\"",
+        join};
 }
 
 } // namespace tarn

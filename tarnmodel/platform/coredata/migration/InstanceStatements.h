@@ -2,6 +2,7 @@
 
 #include "tarnmodel/platform/coredata/migration/EntityStep.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -26,13 +27,13 @@ std::vector<BulkStatement> instanceStatements(const EntityStep& step, const Migr
 /// Whether SQL can say what each value becomes.
 bool isMadeBySQL(const EntityStep& step);
 
-/// One way from records of the source to those that they name, with the keys that these have in the destination:
-/// a SELECT of "owner", the source's key in (?1, ?2], and "target".
-std::vector<std::string> relationshipSelects(
+/// From records of the source to those that they name, with the keys that these have in the destination: a SELECT of
+/// "owner", the source's key in (?1, ?2], and "target".
+std::string relationshipSelect(
     const EntityStep& step, const NSPropertyMapping& property, const MigrationSource& source, EntitySteps& steps);
-/// The statements that make a relationship for many records at once, in the same way; none when its inverse keeps it.
-/// Without those that `instanceStatements` has written along already.
-std::vector<BulkStatement> relationshipStatements(const EntityStep& step, const NSPropertyMapping& property,
+/// The statement that makes a relationship for many records at once, in the same way. None when its inverse keeps it,
+/// or when `instanceStatements` has written it along.
+std::optional<BulkStatement> relationshipStatement(const EntityStep& step, const NSPropertyMapping& property,
     const MigrationSource& source, const MigrationDestination& destination, EntitySteps& steps);
 
 } // namespace tarn

@@ -240,7 +240,6 @@ void MigrationDestination::clearColumn(const StoreTable& table, const StoreColum
 
 void MigrationDestination::completeDerivedValues(const std::function<void()>& madeSome)
 {
-    foldStale(connection_, schema_);
     for (const std::string& statement : schema_.laterStatements())
         connection_.execute(statement);
     for (const auto& table : schema_.tables()) {

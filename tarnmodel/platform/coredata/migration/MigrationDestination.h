@@ -60,7 +60,7 @@ public:
     void addJoinIndexes();
     /// Takes references to records away that are not there, or of an entity that does not fit.
     void clearDanglingReferences();
-    /// Folded values and signatures of all rows, and the triggers that keep them.
+    /// The signatures of all texts, and the triggers that keep them and the folded values.
     void completeDerivedValues(const std::function<void()>& madeSome);
     /// Its hashes and versions, with the identifier and the host's own values of the old store.
     void writeMetadata(const NSManagedObjectModel& model, const StoreMetadata& old, const EntitySteps::NextKeys& keys);

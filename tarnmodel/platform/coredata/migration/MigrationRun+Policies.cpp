@@ -52,11 +52,11 @@ void MigrationRun::createInstance(const MigrationRecord& source, const NSEntityM
 
 // Making relationships ------------------------------------------------------------------------------------------------
 
-const std::vector<std::string>& MigrationRun::selectsOf(const EntityStep& step, const NSPropertyMapping& property)
+const std::string& MigrationRun::selectOf(const EntityStep& step, const NSPropertyMapping& property)
 {
     const auto [found, isNew] = selects_.try_emplace(&property);
     if (isNew)
-        found->second = relationshipSelects(step, property, source_, steps_);
+        found->second = relationshipSelect(step, property, source_, steps_);
     return found->second;
 }
 
@@ -71,13 +71,11 @@ void MigrationRun::createRelationships(MigrationRecord& destination, const NSEnt
         if (property.valueExpression.kind() != MappingExpression::Kind::SourceKey || !isKept || !source)
             continue;
         std::vector<std::int64_t> targets;
-        for (const std::string& sql : selectsOf(step, property)) {
-            SQLiteStatement statement = source_.connection().prepare(sql);
-            statement.bindInteger(1, source.key() - 1);
-            statement.bindInteger(2, source.key());
-            while (statement.step())
-                targets.push_back(statement.integer(1));
-        }
+        SQLiteStatement statement = source_.connection().prepare(selectOf(step, property));
+        statement.bindInteger(1, source.key() - 1);
+        statement.bindInteger(2, source.key());
+        while (statement.step())
+            targets.push_back(statement.integer(1));
         if (!targets.empty())
             destination_.relate(destination.entity(), *relationship, destination.objectID().key(), targets);
     }

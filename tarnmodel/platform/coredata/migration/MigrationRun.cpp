@@ -243,8 +243,8 @@ void MigrationRun::makeRelationshipsBySQL(EntityStep& step)
 {
     std::vector<BulkStatement> statements;
     for (const NSPropertyMapping& property : step.mapping->relationshipMappings())
-        for (BulkStatement& statement : relationshipStatements(step, property, source_, destination_, steps_))
-            statements.push_back(std::move(statement));
+        if (auto statement = relationshipStatement(step, property, source_, destination_, steps_))
+            statements.push_back(std::move(*statement));
     runInPortions(step, statements);
 }
 

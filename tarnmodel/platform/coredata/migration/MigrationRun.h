@@ -65,7 +65,7 @@ private:
     void writeRecordsInHand();
     void writeRecordLookedAt();
     NSManagedObjectID sourceID(const EntityStep& step, std::int64_t key) const;
-    const std::vector<std::string>& selectsOf(const EntityStep& step, const NSPropertyMapping& property);
+    const std::string& selectOf(const EntityStep& step, const NSPropertyMapping& property);
 
     NSMigrationManager& manager_;
     MigrationProgress& progress_;
@@ -84,7 +84,7 @@ private:
     std::vector<std::unique_ptr<DestinationMigrationRecord>> recordsInHand_;
     std::unique_ptr<SourceMigrationRecord> sourceLookedAt_;
     std::unique_ptr<DestinationMigrationRecord> destinationLookedAt_;
-    std::map<const NSPropertyMapping*, std::vector<std::string>> selects_;
+    std::map<const NSPropertyMapping*, std::string> selects_;
 };
 
 } // namespace tarn

@@ -192,6 +192,16 @@ void MigrationFixture::fill(const std::string& sql) const
     OtherProgram(oldFile()).run("PRAGMA foreign_keys = OFF; BEGIN; " + sql + "; COMMIT");
 }
 
+void MigrationFixture::signOldStore() const
+{
+    NSError error;
+    std::size_t repaired = 0;
+    NSPersistentStoreCoordinator coordinator(oldLibraryModel());
+    NSPersistentStore* store = coordinator.addPersistentStoreWithType(StoreType::SQLite, oldFile(), {}, &error);
+    EXPECT_TRUE(store && store->repairSearchIndex(repaired, &error)) << error;
+    EXPECT_GT(repaired, 0U);
+}
+
 std::shared_ptr<const NSMappingModel> MigrationFixture::mapping(const std::string& text) const
 {
     NSError error;

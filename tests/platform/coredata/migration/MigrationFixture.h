@@ -42,6 +42,8 @@ protected:
     std::filesystem::path newFile() const { return folder_.path() / "new.sqlite"; }
     /// Runs SQL on the old store, without a look at references.
     void fill(const std::string& sql) const;
+    /// Brings the folded values and the search index of the old store up to date.
+    void signOldStore() const;
     std::shared_ptr<const NSMappingModel> mapping(const std::string& text) const;
     /// Into `newFile`, or another one.
     bool migrate(const NSMappingModel& mapping, const std::filesystem::path& file = {});

@@ -513,5 +513,62 @@ TEST_F(StoreMigrationManager, MovesTheKeysOfASecondTableBehindThoseOfTheFirst)
     EXPECT_THAT(problemsOfNewStore(), IsEmpty());
 }
 
+TEST_F(StoreMigrationManager, LeadsToAllThatARecordHasBecome)
+{
+    fill(std::string(kThreeBooks));
+    std::string text = libraryMappingText();
+    const std::string add = R"({"kind": "add", "destination": "Reader"})";
+    text.replace(text.find(add), add.size(),
+        add + R"(, {"kind": "transform", "source": "Shelf", "destination": "Shelf", "name": "again",
+            "attributes": [{"name": "title", "value": "'again'"}],
+            "relationships": [{"name": "books", "value": "$default"}, {"name": "above", "value": "$default"},
+                {"name": "below", "value": "$default"}], "dropped": ["title", "books", "above", "below"]})");
+    for (const std::string_view policy : {R"("policy": "LibraryFunctions",)", R"("policy": "Listening",)"}) {
+        NSEntityMigrationPolicy::registerClass<ListeningPolicy>("Listening");
+        std::string mappings = text;
+        mappings.replace(mappings.find(R"("policy": "LibraryFunctions",)"), 29, policy);
+        migrate(mappings);
+        EXPECT_THAT(rows("SELECT pk, title, above FROM Shelf ORDER BY pk"),
+            ElementsAre("1|Über|NULL", "4|NULL|1", "5|again|NULL", "8|again|NULL"))
+            << "of several a to-one names the first";
+        EXPECT_THAT(
+            rows("SELECT owner, member FROM Book_shelves ORDER BY 1, 2"), ElementsAre("1|1", "1|5", "2|4", "2|8"));
+        EXPECT_THAT(problemsOfNewStore(), IsEmpty());
+        fs::remove(newFile());
+    }
+}
+
+/// Says of which entity of the source a medium was made.
+class MediumPolicy : public ListeningPolicy {
+public:
+    bool createRelationshipsForDestinationInstance(MigrationRecord& destination, const NSEntityMapping& mapping,
+        NSMigrationManager& manager, NSError* error) override
+    {
+        const NSManagedObjectID source
+            = manager.sourceInstanceForEntityMappingNamed(mapping.name(), destination.objectID());
+        EXPECT_TRUE(source) << mapping.name();
+        if (source && destination.entity().name() == "Picture")
+            destination.setValueForKey("title", Value("was a " + source.entity().name()));
+        return ListeningPolicy::createRelationshipsForDestinationInstance(destination, mapping, manager, error);
+    }
+};
+
+TEST_F(StoreMigrationManager, MakesRecordsOfOneEntityOfSeveral)
+{
+    fill(std::string(kThreeBooks));
+    NSEntityMigrationPolicy::registerClass<MediumPolicy>("Medium");
+    ListeningPolicy::calls().clear();
+    std::string text = libraryMappingText({R"("policy": "LibraryFunctions",)"}, R"("policy": "Medium",)");
+    const std::string sound = R"("source": "Sound", "destination": "Sound", "policy": "Medium", "attributes": [])";
+    text.replace(text.find(sound), sound.size(), R"("source": "Sound", "destination": "Picture", "policy": "Medium",
+        "attributes": [{"name": "width", "value": "$source.length"}]}, {"kind": "add", "destination": "Sound")");
+    migrate(text);
+    EXPECT_THAT(rows("SELECT pk, entity, title, width, book FROM Medium ORDER BY pk"),
+        ElementsAre("1|Picture|was a Picture|10|1", "2|Picture|was a Sound|2|1", "3|Picture|was a Picture|NULL|40"));
+    EXPECT_EQ(std::ranges::count(ListeningPolicy::calls(), "relate 2 SoundToPicture"), 1);
+    EXPECT_EQ(std::ranges::count(ListeningPolicy::calls(), "relate 2 PictureToPicture"), 0);
+    EXPECT_THAT(problemsOfNewStore(), IsEmpty());
+}
+
 } // namespace
 } // namespace tarn
