@@ -318,9 +318,18 @@ std::string relationshipSelect(
 
 namespace {
 
-std::string isThere(const StoreTable& table, const std::string& key, const std::string& condition)
+/// `AND` and that the row of a key is there, and of this entity.
+std::string andIsThere(const StoreTable& table, const std::string& key, const std::string& andIsOfEntity)
 {
-    return " EXISTS (SELECT 1 FROM " + inSide(table.name) + " AS t WHERE t.\"pk\" = " + key + condition + ")";
+    return " AND EXISTS (SELECT 1 FROM " + inSide(table.name) + " AS t WHERE t.\"pk\" = " + key + andIsOfEntity + ")";
+}
+
+/// The same where an entity has a part of a table only: what is in no table at all is found at the end.
+std::string andIsOfEntity(
+    const NSEntityDescription& entity, const StoreTable& table, const std::string& key, bool includesSubentities)
+{
+    const std::string condition = andEntityIs(entity, includesSubentities, "t");
+    return condition.empty() ? condition : andIsThere(table, key, condition);
 }
 
 bool isWrittenAlong(const EntityStep& step, const NSRelationshipDescription& relationship, EntitySteps& steps)
@@ -343,21 +352,20 @@ std::optional<BulkStatement> relationshipStatement(const EntityStep& step, const
         || (isColumn && isWrittenAlong(step, to, steps)))
         return std::nullopt;
     const StoreTable& owners = schema.table(*step.to);
+    const NSEntityDescription& target = to.destinationEntity();
     const std::string pairs = "(SELECT " + withOffset("\"owner\"", *step.keyOffset) + " AS \"owner\", \"target\" FROM ("
-        + relationshipSelect(step, property, source, steps) + ")) AS p";
-    const std::string targetIsThere
-        = isThere(schema.table(to.destinationEntity()), "p.\"target\"", andEntityIs(to.destinationEntity(), true, "t"));
+        + relationshipSelect(step, property, source, steps) + ")) AS p WHERE 1";
     if (isColumn) // the first of several records that name the same
         return BulkStatement{"UPDATE " + inSide(owners.name) + " SET " + quotedIdentifier(to.name())
-                + " = q.\"target\" FROM (SELECT p.\"owner\", min(p.\"target\") AS \"target\" FROM " + pairs + " WHERE"
-                + targetIsThere + " GROUP BY p.\"owner\") AS q WHERE " + quotedIdentifier(owners.name)
-                + ".\"pk\" = q.\"owner\"",
+                + " = q.\"target\" FROM (SELECT p.\"owner\", min(p.\"target\") AS \"target\" FROM " + pairs
+                + andIsThere(schema.table(target), "p.\"target\"", andEntityIs(target, true, "t"))
+                + " GROUP BY p.\"owner\") AS q WHERE " + quotedIdentifier(owners.name) + ".\"pk\" = q.\"owner\"",
             owners.name};
     const std::string& join = schema.join(to).name;
     return BulkStatement{"INSERT OR IGNORE INTO " + inSide(join)
-            + " (\"owner\", \"member\") SELECT p.\"owner\", p.\"target\" FROM " + pairs + " WHERE"
-            + isThere(owners, "p.\"owner\"", andEntityIs(*step.to, false, "t")) + " AND" + targetIsThere
-            + " ORDER BY p.\"owner\", p.\"target\"",
+            + " (\"owner\", \"member\") SELECT p.\"owner\", p.\"target\" FROM " + pairs
+            + andIsOfEntity(*step.to, owners, "p.\"owner\"", false)
+            + andIsOfEntity(target, schema.table(target), "p.\"target\"", true) + " ORDER BY p.\"owner\", p.\"target\"",
         join};
 }
 

@@ -226,6 +226,25 @@ void MigrationDestination::clearDanglingReferences()
         for (const StoreColumn& column : table->columns)
             if (column.target)
                 clearColumn(*table, column);
+    for (const auto& join : schema_.joins())
+        if (missingTarget(join->name))
+            clearJoins(*join);
+}
+
+void MigrationDestination::clearJoins(const JoinTable& join)
+{
+    const auto isMissing = [](const StoreTable& table, std::string_view column) {
+        return "NOT EXISTS (SELECT 1 FROM " + quotedIdentifier(table.name) + " AS t WHERE t.\"pk\" = j."
+            + quotedIdentifier(column) + ")";
+    };
+    connection_.execute("DELETE FROM " + quotedIdentifier(join.name) + " AS j WHERE " + isMissing(*join.owner, "owner")
+        + " OR " + isMissing(*join.member, "member"));
+}
+
+std::optional<std::string> MigrationDestination::missingTarget(const std::string& table)
+{
+    SQLiteStatement check = connection_.prepare("PRAGMA foreign_key_check(" + quotedIdentifier(table) + ")");
+    return check.step() ? std::optional(std::string(check.bytes(2))) : std::nullopt;
 }
 
 void MigrationDestination::clearColumn(const StoreTable& table, const StoreColumn& column)
@@ -298,13 +317,10 @@ void MigrationDestination::checkReferences()
         tables.push_back(table->name);
     for (const auto& join : schema_.joins())
         tables.push_back(join->name);
-    for (const std::string& table : tables) {
-        SQLiteStatement check = connection_.prepare("PRAGMA foreign_key_check(" + quotedIdentifier(table) + ")");
-        if (check.step())
+    for (const std::string& table : tables)
+        if (const auto target = missingTarget(table))
             throw StoreFailure(StoreErrorValidation,
-                "A row of \"" + table + "\" of the new store points at a missing row of \""
-                    + std::string(check.bytes(2)) + "\".");
-    }
+                "A row of \"" + table + "\" of the new store points at a missing row of \"" + *target + "\".");
 }
 
 } // namespace tarn

@@ -58,7 +58,8 @@ public:
     void addIndexes(const StoreTable& table);
     /// What join tables are read from their other end by.
     void addJoinIndexes();
-    /// Takes references to records away that are not there, or of an entity that does not fit.
+    /// Takes references to records away that are not there, or of an entity that does not fit. Join tables have their
+    /// indexes.
     void clearDanglingReferences();
     /// The signatures of all texts, and the triggers that keep them and the folded values.
     void completeDerivedValues(const std::function<void()>& madeSome);
@@ -75,6 +76,9 @@ private:
     void executeOnce(const std::string& statement);
     bool isOfEntity(const NSEntityDescription& entity, std::int64_t key);
     void clearColumn(const StoreTable& table, const StoreColumn& column);
+    void clearJoins(const JoinTable& join);
+    /// The table of the row that a row of this table points at in vain; none when there is no such row.
+    std::optional<std::string> missingTarget(const std::string& table);
     void setColumn(const NSEntityDescription& entity, std::string_view column, std::int64_t key,
         std::optional<std::int64_t> target);
 

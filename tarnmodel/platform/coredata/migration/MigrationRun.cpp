@@ -321,7 +321,11 @@ void MigrationRun::finish()
     for (EntityStep& step : steps_.all())
         callHook(step, &NSEntityMigrationPolicy::endEntityMapping);
     destination_.completeDerivedValues([this] { progress_.checkIsNotCancelled(); });
-    destination_.checkReferences();
+    // What SQL has made alone has been looked through.
+    const auto hasPolicy
+        = [](const EntityStep& step) { return !step.mapping->entityMigrationPolicyClassName().empty(); };
+    if (std::ranges::any_of(steps_.all(), hasPolicy))
+        destination_.checkReferences();
     destination_.writeMetadata(*manager_.destinationModel(), source_.metadata(), steps_.nextKeys());
     progress_.checkIsNotCancelled();
     transaction.commit();
