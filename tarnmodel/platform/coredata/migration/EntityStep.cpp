@@ -9,6 +9,36 @@
 
 namespace tarn {
 
+namespace {
+
+const MappingExpression& expressionNamed(const std::vector<NSPropertyMapping>& mappings, const std::string& name)
+{
+    return std::ranges::find(mappings, name, &NSPropertyMapping::name)->valueExpression;
+}
+
+} // namespace
+
+const MappingExpression& EntityStep::attributeExpression(const NSAttributeDescription& attribute) const
+{
+    return expressionNamed(mapping->attributeMappings(), attribute.name());
+}
+
+const MappingExpression& EntityStep::relationshipExpression(const NSRelationshipDescription& relationship) const
+{
+    return expressionNamed(mapping->relationshipMappings(), relationship.name());
+}
+
+std::set<std::int64_t> targetOffsets(
+    const NSRelationshipDescription& from, const NSRelationshipDescription& to, EntitySteps& steps)
+{
+    std::set<std::int64_t> offsets;
+    for (const EntityStep& step : steps.all())
+        if (step.hasBoth() && step.keyOffset && step.from->isKindOfEntity(from.destinationEntity())
+            && step.to->isKindOfEntity(to.destinationEntity()))
+            offsets.insert(*step.keyOffset);
+    return offsets;
+}
+
 EntitySteps::EntitySteps(const NSMappingModel& mapping, const NSManagedObjectModel& source,
     const NSManagedObjectModel& destination, const NextKeys& nextKeys)
 {

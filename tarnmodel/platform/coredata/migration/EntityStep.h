@@ -8,13 +8,16 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string_view>
 #include <vector>
 
 namespace tarn {
 
+class NSAttributeDescription;
 class NSEntityDescription;
 class NSManagedObjectModel;
+class NSRelationshipDescription;
 
 /// One entity mapping with what it means in the two models at hand.
 struct EntityStep {
@@ -30,6 +33,9 @@ struct EntityStep {
 
     /// Whether there are records to be made of records.
     bool hasBoth() const noexcept { return from && to; }
+    /// How a property of `to` gets its value.
+    const MappingExpression& attributeExpression(const NSAttributeDescription& attribute) const;
+    const MappingExpression& relationshipExpression(const NSRelationshipDescription& relationship) const;
     /// The record of the destination that a source's record becomes by itself.
     std::int64_t destinationKey(std::int64_t sourceKey) const { return sourceKey + *keyOffset; }
 };
@@ -71,5 +77,10 @@ private:
     std::map<const NSEntityDescription*, std::vector<Lane>> lanes_; ///< by root of the destination
     NextKeys nextKeys_;
 };
+
+/// What is added to the keys of the records that a relationship names: once for each entity mapping that makes
+/// something of them. Where a record was not made there is nothing at its key.
+std::set<std::int64_t> targetOffsets(
+    const NSRelationshipDescription& from, const NSRelationshipDescription& to, EntitySteps& steps);
 
 } // namespace tarn

@@ -10,7 +10,6 @@
 
 #include <algorithm>
 #include <optional>
-#include <set>
 
 namespace tarn {
 
@@ -58,35 +57,16 @@ std::string sourceColumn(const NSAttributeDescription& attribute)
     return (attribute.isLarge() ? "l." : "s.") + quotedIdentifier(attribute.name());
 }
 
-const NSPropertyMapping& mappingOf(const std::vector<NSPropertyMapping>& mappings, const std::string& name)
-{
-    return *std::ranges::find(mappings, name, &NSPropertyMapping::name);
-}
-
 /// A relationship of the destination that is in a column, and was in one.
 const NSRelationshipDescription* sourceOfColumn(const EntityStep& step, const NSRelationshipDescription& relationship)
 {
-    const MappingExpression& expression
-        = mappingOf(step.mapping->relationshipMappings(), relationship.name()).valueExpression;
+    const MappingExpression& expression = step.relationshipExpression(relationship);
     if (expression.kind() != MappingExpression::Kind::SourceKey)
         return nullptr;
     const NSRelationshipDescription* source = step.from->relationshipNamed(expression.name());
     const bool isColumn
         = source->storage() == RelationshipStorage::Column && relationship.storage() == RelationshipStorage::Column;
     return isColumn ? source : nullptr;
-}
-
-/// What is added to the keys of the records that a relationship names: once for each entity mapping that makes
-/// something of them. Where a record was not made there is nothing at its key.
-std::set<std::int64_t> targetOffsets(
-    const NSRelationshipDescription& from, const NSRelationshipDescription& to, EntitySteps& steps)
-{
-    std::set<std::int64_t> offsets;
-    for (const EntityStep& step : steps.all())
-        if (step.hasBoth() && step.keyOffset && step.from->isKindOfEntity(from.destinationEntity())
-            && step.to->isKindOfEntity(to.destinationEntity()))
-            offsets.insert(*step.keyOffset);
-    return offsets;
 }
 
 } // namespace
@@ -127,15 +107,10 @@ public:
 private:
     bool isOwn(const StoreColumn& column) const { return step_.to->isKindOfEntity(column.property->declaringEntity()); }
 
-    const MappingExpression& expressionOf(const NSAttributeDescription& attribute) const
-    {
-        return mappingOf(step_.mapping->attributeMappings(), attribute.name()).valueExpression;
-    }
-
     /// The attribute whose values it takes as they are; null for any other expression.
     const NSAttributeDescription* takenFrom(const NSAttributeDescription& attribute) const
     {
-        const MappingExpression& expression = expressionOf(attribute);
+        const MappingExpression& expression = step_.attributeExpression(attribute);
         if (expression.kind() != MappingExpression::Kind::SourceKey)
             return nullptr;
         const NSAttributeDescription* from = step_.from->attributeNamed(expression.name());
@@ -144,7 +119,7 @@ private:
 
     std::string valueOf(const NSAttributeDescription& attribute)
     {
-        const MappingExpression& expression = expressionOf(attribute);
+        const MappingExpression& expression = step_.attributeExpression(attribute);
         switch (expression.kind()) {
         case MappingExpression::Kind::Default:
             return literal(attribute.defaultValue());

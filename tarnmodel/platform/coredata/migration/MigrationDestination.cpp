@@ -48,7 +48,8 @@ MigrationDestination::MigrationDestination(const std::filesystem::path& file, co
     // The file is thrown away when something fails, and synced as a whole in the end. What is sorted for an index may
     // be more than memory should hold.
     connection_.execute("PRAGMA journal_mode = OFF; PRAGMA synchronous = OFF; PRAGMA secure_delete = OFF;"
-                        "PRAGMA cache_spill = 1; PRAGMA foreign_keys = OFF; PRAGMA temp_store = FILE;");
+                        "PRAGMA cache_size = -4000; PRAGMA cache_spill = 1; PRAGMA foreign_keys = OFF;"
+                        "PRAGMA temp_store = FILE;");
     const StoreFileContents contents = contentsOfStoreFile(connection_);
     if (contents == StoreFileContents::Nothing)
         makeTables();
@@ -218,6 +219,28 @@ void MigrationDestination::addJoinIndexes()
         for (const auto& join : schema_.joins())
             if (isOn(statement, join->name))
                 executeOnce(statement);
+}
+
+std::vector<std::string> MigrationDestination::indexStatements(const std::string& table) const
+{
+    constexpr std::string_view kCondition = "IF NOT EXISTS ";
+    std::vector<std::string> statements;
+    for (std::string statement : schema_.creationStatements()) {
+        if (!isOn(statement, table) || kindMadeBy(statement) != "index")
+            continue;
+        if (const std::size_t place = statement.find(kCondition); place != std::string::npos)
+            statement.erase(place, kCondition.size());
+        statements.push_back(std::move(statement));
+    }
+    std::ranges::sort(statements);
+    return statements;
+}
+
+void MigrationDestination::addIndexesOf(const std::string& table)
+{
+    for (const std::string& statement : schema_.creationStatements())
+        if (isOn(statement, table) && kindMadeBy(statement) == "index")
+            executeOnce(statement);
 }
 
 void MigrationDestination::clearDanglingReferences()

@@ -30,6 +30,8 @@ public:
     MigrationDestination& operator=(const MigrationDestination&) = delete;
 
     const std::filesystem::path& file() const noexcept { return file_; }
+    /// Whether this run has made the file.
+    bool isNew() const noexcept { return isNew_; }
     SQLiteConnection& connection() noexcept { return connection_; }
     const StoreSchema& schema() const noexcept { return schema_; }
     const StoreSelects& selects() const noexcept { return selects_; }
@@ -58,6 +60,10 @@ public:
     void addIndexes(const StoreTable& table);
     /// What join tables are read from their other end by.
     void addJoinIndexes();
+    /// What will make the indexes of a table, as SQLite keeps it, sorted.
+    std::vector<std::string> indexStatements(const std::string& table) const;
+    /// Makes them now.
+    void addIndexesOf(const std::string& table);
     /// Takes references to records away that are not there, or of an entity that does not fit. Join tables have their
     /// indexes.
     void clearDanglingReferences();

@@ -5,6 +5,7 @@
 #include "tarnmodel/platform/coredata/rows/StoreFailure.h"
 
 #include <algorithm>
+#include <limits>
 
 // What a run does for policies, and for those that have no way of their own.
 
@@ -55,8 +56,16 @@ void MigrationRun::createInstance(const MigrationRecord& source, const NSEntityM
 const std::string& MigrationRun::selectOf(const EntityStep& step, const NSPropertyMapping& property)
 {
     const auto [found, isNew] = selects_.try_emplace(&property);
-    if (isNew)
-        found->second = relationshipSelect(step, property, source_, steps_);
+    if (!isNew)
+        return found->second;
+    std::string select = relationshipSelect(step, property, source_, steps_);
+    // Many relationships are empty from one end of a store to the other.
+    SQLiteStatement any = source_.connection().prepare("SELECT EXISTS (" + select + ")");
+    any.bindInteger(1, std::numeric_limits<std::int64_t>::min());
+    any.bindInteger(2, std::numeric_limits<std::int64_t>::max());
+    any.step();
+    if (any.integer(0) != 0)
+        found->second = std::move(select);
     return found->second;
 }
 
@@ -71,7 +80,10 @@ void MigrationRun::createRelationships(MigrationRecord& destination, const NSEnt
         if (property.valueExpression.kind() != MappingExpression::Kind::SourceKey || !isKept || !source)
             continue;
         std::vector<std::int64_t> targets;
-        SQLiteStatement statement = source_.connection().prepare(selectOf(step, property));
+        const std::string& select = selectOf(step, property);
+        if (select.empty())
+            continue;
+        SQLiteStatement statement = source_.connection().prepare(select);
         statement.bindInteger(1, source.key() - 1);
         statement.bindInteger(2, source.key());
         while (statement.step())

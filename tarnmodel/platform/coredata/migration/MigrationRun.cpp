@@ -5,6 +5,7 @@
 #include "tarnmodel/platform/coredata/NSMigrationManager.h"
 #include "tarnmodel/platform/coredata/migration/InstanceStatements.h"
 #include "tarnmodel/platform/coredata/migration/MigrationProgress.h"
+#include "tarnmodel/platform/coredata/migration/WholeTableCopy.h"
 #include "tarnmodel/platform/coredata/rows/StoreFailure.h"
 #include "tarnmodel/platform/coredata/sqlite/TransactionGuards.h"
 
@@ -135,9 +136,45 @@ void MigrationRun::makeInstances(EntityStep& step)
 
 void MigrationRun::makeInstancesBySQL(EntityStep& step)
 {
-    const std::vector<BulkStatement> statements
+    std::vector<BulkStatement> statements
         = instanceStatements(step, source_, destination_, steps_, functions_, !step.passes.createsRelationships);
+    if (isCopiedWhole(destination_.schema().table(*step.to)))
+        statements.erase(statements.begin()); // the one that makes the rows
     runInPortions(step, statements);
+}
+
+bool MigrationRun::isCopiedWhole(const StoreTable& table)
+{
+    const auto [found, isNew] = copiedWhole_.try_emplace(table.name, false);
+    if (isNew)
+        if (const auto statement = wholeTableStatement(table, source_, destination_, steps_)) {
+            copyWhole(*statement);
+            found->second = true;
+        }
+    return found->second;
+}
+
+bool MigrationRun::isCopiedWhole(const JoinTable& join)
+{
+    const auto [found, isNew] = copiedWhole_.try_emplace(join.name, false);
+    if (isNew)
+        if (const auto statement = wholeJoinStatement(join, source_, destination_, steps_)) {
+            copyWhole(*statement);
+            found->second = true;
+        }
+    return found->second;
+}
+
+void MigrationRun::copyWhole(const BulkStatement& statement)
+{
+    // Of a table with the same name: with others an index would be another one.
+    if (source_.indexStatements(statement.table) == destination_.indexStatements(statement.table))
+        destination_.addIndexesOf(statement.table);
+    const MigrationSource::Attachment attachment(source_, destination_.file());
+    WriteTransaction transaction(source_.connection(), WriteTransaction::Lock::Immediate);
+    source_.connection().execute(statement.sql);
+    destination_.noteRows(statement.table, source_.connection().changedRowCount());
+    transaction.commit();
 }
 
 void MigrationRun::runInPortions(const EntityStep& step, const std::vector<BulkStatement>& statements)
@@ -242,9 +279,15 @@ void MigrationRun::makeRelationships(EntityStep& step)
 void MigrationRun::makeRelationshipsBySQL(EntityStep& step)
 {
     std::vector<BulkStatement> statements;
-    for (const NSPropertyMapping& property : step.mapping->relationshipMappings())
+    for (const NSPropertyMapping& property : step.mapping->relationshipMappings()) {
+        const NSRelationshipDescription& relationship = *step.to->relationshipNamed(property.name);
+        const bool isKeptHere
+            = relationship.storage() == RelationshipStorage::JoinTable && relationship.ownsJoinTable();
+        if (isKeptHere && isCopiedWhole(destination_.schema().join(relationship)))
+            continue;
         if (auto statement = relationshipStatement(step, property, source_, destination_, steps_))
             statements.push_back(std::move(*statement));
+    }
     runInPortions(step, statements);
 }
 

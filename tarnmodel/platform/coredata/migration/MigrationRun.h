@@ -47,6 +47,10 @@ private:
     void checkNothingIsUnknown();
     void makeInstances(EntityStep& step);
     void makeInstancesBySQL(EntityStep& step);
+    /// Fills a table at once where that is possible, the first time; whether it was.
+    bool isCopiedWhole(const StoreTable& table);
+    bool isCopiedWhole(const JoinTable& join);
+    void copyWhole(const BulkStatement& statement);
     void makeInstancesOneByOne(EntityStep& step);
     void makeInstancesOf(EntityStep& step, std::int64_t key);
     void addIndexes();
@@ -65,6 +69,7 @@ private:
     void writeRecordsInHand();
     void writeRecordLookedAt();
     NSManagedObjectID sourceID(const EntityStep& step, std::int64_t key) const;
+    /// Empty when no record of the source names another one.
     const std::string& selectOf(const EntityStep& step, const NSPropertyMapping& property);
 
     NSMigrationManager& manager_;
@@ -85,6 +90,7 @@ private:
     std::unique_ptr<SourceMigrationRecord> sourceLookedAt_;
     std::unique_ptr<DestinationMigrationRecord> destinationLookedAt_;
     std::map<const NSPropertyMapping*, std::string> selects_;
+    std::map<std::string, bool> copiedWhole_; ///< tables of the destination that were asked about
 };
 
 } // namespace tarn

@@ -141,6 +141,36 @@ bool MigrationSource::hasCurrentShadow(const NSAttributeDescription& attribute) 
         && hasColumn(schema_.table(attribute.declaringEntity()).name, shadowColumnName(attribute));
 }
 
+bool MigrationSource::hasStaleShadow(const NSAttributeDescription& attribute) const
+{
+    return connection_.integerOf("SELECT EXISTS (SELECT 1 FROM main."
+               + quotedIdentifier(schema_.table(attribute.declaringEntity()).name) + " WHERE "
+               + quotedIdentifier(shadowColumnName(attribute)) + " IS NULL AND " + quotedIdentifier(attribute.name())
+               + " IS NOT NULL)")
+        != 0;
+}
+
+std::vector<std::string> MigrationSource::columnNames(const std::string& table) const
+{
+    SQLiteStatement statement = connection_.prepare("SELECT name FROM pragma_table_info(?1, 'main') ORDER BY cid");
+    statement.bindText(1, table);
+    std::vector<std::string> names;
+    while (statement.step())
+        names.emplace_back(statement.bytes(0));
+    return names;
+}
+
+std::vector<std::string> MigrationSource::indexStatements(const std::string& table) const
+{
+    SQLiteStatement statement = connection_.prepare("SELECT sql FROM main.sqlite_schema WHERE type = 'index' AND "
+                                                    "tbl_name = ?1 AND sql IS NOT NULL ORDER BY sql");
+    statement.bindText(1, table);
+    std::vector<std::string> statements;
+    while (statement.step())
+        statements.emplace_back(statement.bytes(0));
+    return statements;
+}
+
 const SignatureTable* MigrationSource::currentSignatures(const NSAttributeDescription& attribute) const
 {
     if (!hasCurrentFolding_)
@@ -221,7 +251,7 @@ MigrationSource::Attachment::Attachment(MigrationSource& source, const std::file
     // The file is thrown away when something fails, and synced as a whole in the end.
     connection_.execute(
         "PRAGMA side.journal_mode = OFF; PRAGMA side.synchronous = OFF; PRAGMA side.secure_delete = OFF;"
-        "PRAGMA side.cache_size = -12000; PRAGMA side.cache_spill = 1;");
+        "PRAGMA side.cache_size = -8000; PRAGMA side.cache_spill = 1;");
 }
 
 MigrationSource::Attachment::~Attachment()

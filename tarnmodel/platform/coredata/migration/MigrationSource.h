@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <span>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -45,7 +46,13 @@ public:
     std::int64_t lastKeyOfNext(const NSEntityDescription& entity, std::int64_t key, std::size_t most) const;
     /// Whether folded values of the attribute are there, made as this version of the library makes them.
     bool hasCurrentShadow(const NSAttributeDescription& attribute) const;
-    /// The same for signatures; null when they are not.
+    /// Whether some of those have to be made again.
+    bool hasStaleShadow(const NSAttributeDescription& attribute) const;
+    /// The columns of a table as they are in the file, in their order.
+    std::vector<std::string> columnNames(const std::string& table) const;
+    /// What made the indexes of a table, sorted.
+    std::vector<std::string> indexStatements(const std::string& table) const;
+    /// The current signatures of an attribute; null when there are none.
     const SignatureTable* currentSignatures(const NSAttributeDescription& attribute) const;
 
     /// A record that a policy made of another, beside the one that keeps its key.

@@ -40,7 +40,10 @@ constexpr std::string_view kOldLibrary = R"({
        {"name": "below", "to": "Shelf", "many": true, "inverse": "above"}]},
     {"name": "Topic",
      "attributes": [{"name": "title", "type": "string", "index": ["folded", "substring"]}],
-     "relationships": [{"name": "books", "to": "Book", "many": true, "inverse": "topics"}]},
+     "relationships": [
+       {"name": "books", "to": "Book", "many": true, "inverse": "topics"},
+       {"name": "related", "to": "Topic", "many": true, "inverse": "relatedTo", "owner": true},
+       {"name": "relatedTo", "to": "Topic", "many": true, "inverse": "related"}]},
     {"name": "Medium", "abstract": true,
      "attributes": [{"name": "title", "type": "string"}, {"name": "words", "type": "string", "storage": "large",
                      "index": ["substring"]}],
@@ -87,7 +90,10 @@ constexpr std::string_view kNewLibrary = R"({
        {"name": "below", "to": "Shelf", "many": true, "inverse": "above"}]},
     {"name": "Topic",
      "attributes": [{"name": "title", "type": "string", "index": ["folded", "substring"]}],
-     "relationships": [{"name": "books", "to": "Book", "many": true, "inverse": "topics", "owner": true}]},
+     "relationships": [
+       {"name": "books", "to": "Book", "many": true, "inverse": "topics", "owner": true},
+       {"name": "related", "to": "Topic", "many": true, "inverse": "relatedTo", "owner": true},
+       {"name": "relatedTo", "to": "Topic", "many": true, "inverse": "related"}]},
     {"name": "Medium", "abstract": true,
      "attributes": [{"name": "title", "type": "string"}, {"name": "words", "type": "string", "storage": "large",
                      "index": ["substring"]}],

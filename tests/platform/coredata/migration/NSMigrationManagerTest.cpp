@@ -115,6 +115,7 @@ TEST_F(StoreMigrationManager, LetsGoOfReferencesThatLeadNowhere)
         INSERT INTO Shelf (pk, rowVersion, above) VALUES (1, 1, 55);
         INSERT INTO Topic (pk, rowVersion) VALUES (1, 1);
         INSERT INTO Book_topics (owner, member) VALUES (1, 66), (66, 1), (2, 1);
+        INSERT INTO Topic_related (owner, member) VALUES (1, 66), (66, 1), (1, 1), (66, 67);
         INSERT INTO Medium (pk, rowVersion, entity, book) VALUES (1, 1, 'Sound', 99))");
     for (const std::string_view policy : {"", R"("policy": "Plain",)"}) {
         NSEntityMigrationPolicy::registerClass<LibraryFunctions>("Plain");
@@ -124,6 +125,7 @@ TEST_F(StoreMigrationManager, LetsGoOfReferencesThatLeadNowhere)
         EXPECT_THAT(rows("SELECT above FROM Shelf"), ElementsAre("NULL"));
         EXPECT_THAT(rows("SELECT book FROM Medium"), ElementsAre("NULL"));
         EXPECT_THAT(rows("SELECT * FROM Topic_books"), ElementsAre("1|2"));
+        EXPECT_THAT(rows("SELECT * FROM Topic_related"), ElementsAre("1|1"));
         EXPECT_THAT(rows("SELECT * FROM Book_shelves"), IsEmpty());
         EXPECT_THAT(problemsOfNewStore(), IsEmpty());
         fs::remove(newFile());

@@ -40,6 +40,9 @@ public:
             all += fmt::format("INSERT INTO Shelf (pk, rowVersion, title, room, above) VALUES ({}, {}, {}, {}, {});",
                 key, number(1, 9), data(), text(), reference());
             all += fmt::format("INSERT INTO Topic (pk, rowVersion, title) VALUES ({}, 1, {});", key, text());
+            for (int other = 0; other < number(0, 3); ++other)
+                all += fmt::format(
+                    "INSERT OR IGNORE INTO Topic_related VALUES ({}, {});", number(1, 45), number(1, 45));
             all += fmt::format("INSERT INTO Card (pk, rowVersion, number) VALUES ({}, 2, {});", key, text());
             all += fmt::format("INSERT INTO Setting (pk, rowVersion, value) VALUES ({}, 1, {});", key, text());
             all += fmt::format(
@@ -116,7 +119,8 @@ TEST_F(RandomMigration, IsTheSameBySQLAndRecordByRecord)
     const auto slowAll = mapping(libraryMappingText(slow, slow, slow));
     for (unsigned seed = 1; seed <= 12; ++seed) {
         SCOPED_TRACE(seed);
-        fill("DELETE FROM Book; DELETE FROM Book_large; DELETE FROM Book_topics; DELETE FROM Shelf; DELETE FROM Topic;"
+        fill("DELETE FROM Book; DELETE FROM Book_large; DELETE FROM Book_topics; DELETE FROM Topic_related; DELETE "
+             "FROM Shelf; DELETE FROM Topic;"
              "DELETE FROM Card; DELETE FROM Setting; DELETE FROM Medium;"
             + RandomLibrary(seed).sql());
         if (seed % 3 != 0)
