@@ -37,7 +37,9 @@ public:
     NSMigrationManager(const NSMigrationManager&) = delete;
     NSMigrationManager& operator=(const NSMigrationManager&) = delete;
 
+    /// The model of the stores that it reads.
     const std::shared_ptr<const NSManagedObjectModel>& sourceModel() const noexcept { return sourceModel_; }
+    /// The model of those that it makes.
     const std::shared_ptr<const NSManagedObjectModel>& destinationModel() const noexcept { return destinationModel_; }
 
     /// Migrates the store at one place into a store at another, which is made where there is none and added to
