@@ -93,7 +93,7 @@ void StoreMigrationPlan::measure(const fs::path& storeURL)
     // Temporary folders lie where the group folder does, and are not made for a mere look.
     const bool isBackupCopied = !NSFileManager::areOnOneFileSystem(OVLocalFileManager::applicationGroupURL(), storeURL);
     neededSpace = MigrationSpace::forStore(storeSize, versions.size(), isBackupCopied).besideStore;
-    availableSpace = Environment::current().availableSpace(storeURL.parent_path()).value_or(0);
+    availableSpace = Environment::current().availableSpace(storeURL.parent_path());
 }
 
 } // namespace tarn

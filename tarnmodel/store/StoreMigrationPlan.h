@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -32,8 +33,11 @@ struct StoreMigrationPlan {
     std::vector<std::string> versions; ///< the models that it would be brought to, in order
     std::uintmax_t storeSize = 0;      ///< of the file, in bytes
     std::uintmax_t neededSpace = 0;    ///< in the store's folder, for new stores and for backups that lie on its disk
-    std::uintmax_t availableSpace = 0; ///< in the store's folder; 0 when the system does not say
-    NSError error;                     ///< why it is unreadable
+    std::optional<std::uintmax_t> availableSpace; ///< in the store's folder; none when the system does not say
+    NSError error;                                ///< why it is unreadable
+
+    /// Whether there is room for it, as far as the system says.
+    bool fits() const noexcept { return !availableSpace || neededSpace <= *availableSpace; }
 
     /// Of the store at this place, for the model that is to open it. Waits up to 30 seconds for a lock of others;
     /// `whileWaiting` as in `StoreOptions`.

@@ -175,8 +175,7 @@ TEST_P(BrokenMigration, LeavesAWholeStore)
 INSTANTIATE_TEST_SUITE_P(Calls, BrokenMigration, testing::ValuesIn(kDisturbances),
     [](const auto& disturbance) { return std::string(disturbance.param.name); });
 
-// The exchange of the files
-// --------------------------------------------------------------------------------------------
+// The exchange of the files -------------------------------------------------------------------------------------------
 
 /// Beside the store, where the backup is a second name of it, or on another file system, where it is a copy.
 class BrokenExchange : public MigrationOfOthers, public testing::WithParamInterface<bool> {

@@ -72,8 +72,14 @@ TEST_F(MigrationPlan, NamesTheStepsOfAnOlderStoreAndWhatTheyNeed)
     makeStoreOfVersion("Model 2");
     EXPECT_THAT(plan().versions, ElementsAre("Model 3"));
     EXPECT_LT(plan().neededSpace, both.neededSpace);
+    EXPECT_TRUE(plan().fits());
+    world_.setAvailableSpace(plan().neededSpace);
+    EXPECT_TRUE(plan().fits());
+    world_.setAvailableSpace(plan().neededSpace - 1);
+    EXPECT_FALSE(plan().fits());
     world_.setAvailableSpace(std::nullopt);
-    EXPECT_EQ(plan().availableSpace, 0U);
+    EXPECT_EQ(plan().availableSpace, std::nullopt);
+    EXPECT_TRUE(plan().fits()) << "as the migration itself takes it";
 }
 
 TEST_F(MigrationPlan, TellsANewerStoreFromOneWithoutAPath)

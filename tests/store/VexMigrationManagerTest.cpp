@@ -1,20 +1,12 @@
-#include "tarnmodel/store/VexMigrationManager.h"
+#include "tests/store/MigrationManagerFixture.h"
 
-#include "tarnmodel/model/ManagedObjectModel.h"
 #include "tarnmodel/platform/coredata/HeldStoreFile.h"
-#include "tarnmodel/platform/coredata/MigrationRecord.h"
-#include "tarnmodel/platform/coredata/NSEntityMigrationPolicy.h"
-#include "tarnmodel/platform/coredata/NSMappingModel.h"
-#include "tarnmodel/platform/coredata/NSMigrationManager.h"
-#include "tests/store/ScratchVersions.h"
-#include "tests/store/StackFixture.h"
 
 #include <atomic>
 #include <fstream>
 #include <future>
 #include <optional>
 #include <sqlite3.h>
-#include <stdexcept>
 #include <thread>
 #include <utility>
 
@@ -26,127 +18,6 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 
 namespace fs = std::filesystem;
-using Mappings = std::vector<std::shared_ptr<const NSMappingModel>>;
-
-/// Writes the progress down, and does what a test says at each.
-class ProgressWatcher : public VexMigrationManagerDelegate {
-public:
-    void migrationManagerMigrationProgress(VexMigrationManager& manager, float progress) override
-    {
-        if (!progresses.empty() && progress < progresses.back().back())
-            progresses.emplace_back();
-        if (progresses.empty())
-            progresses.emplace_back();
-        progresses.back().push_back(progress);
-        if (atProgress)
-            atProgress(manager, progress);
-    }
-    Mappings migrationManagerMappingModelsForSourceModel(
-        VexMigrationManager&, const std::shared_ptr<const NSManagedObjectModel>& sourceModel) override
-    {
-        sources.push_back(sourceModel->versionIdentifier());
-        return mappings;
-    }
-
-    std::vector<std::vector<float>> progresses; ///< one list for each step
-    std::vector<std::string> sources;
-    Mappings mappings;
-    std::function<void(VexMigrationManager&, float)> atProgress;
-};
-
-/// Fails at the second record of a source.
-class RefusingPolicy : public NSEntityMigrationPolicy {
-public:
-    bool createDestinationInstancesForSourceInstance(const MigrationRecord& source, const NSEntityMapping& mapping,
-        NSMigrationManager& manager, NSError* error) override
-    {
-        if (++records_ == 2) {
-            assignError(error, NSError("Test", 5, "refused"));
-            return false;
-        }
-        return NSEntityMigrationPolicy::createDestinationInstancesForSourceInstance(source, mapping, manager, error);
-    }
-
-private:
-    int records_ = 0;
-};
-
-class ThrowingPolicy : public NSEntityMigrationPolicy {
-public:
-    bool createRelationshipsForDestinationInstance(
-        MigrationRecord&, const NSEntityMapping&, NSMigrationManager&, NSError*) override
-    {
-        throw std::runtime_error("out of order");
-    }
-};
-
-class MigrationManager : public StackFixture {
-protected:
-    MigrationManager() { manager_.setDelegate(&watcher_); }
-
-    bool migrate() { return migrate(manager_); }
-    bool migrate(VexMigrationManager& manager)
-    {
-        error_ = NSError("before", 1, "");
-        return manager.progressivelyMigrateURL(storeFile(), StoreType::SQLite, model_, &error_);
-    }
-    fs::path sideFile(std::string_view version = "Model 2") const
-    {
-        return folder() / ("database." + std::string(version) + ".sqlite");
-    }
-    std::vector<fs::path> backups() const { return filesBelow(caches()); }
-    /// Whether the migration fails and leaves the store, and nothing else, as it was.
-    void expectFailsWithoutATrace()
-    {
-        const UntouchedFile store(storeFile());
-        EXPECT_FALSE(migrate());
-        EXPECT_THAT(manager_.migratedVersions(), IsEmpty());
-        EXPECT_THAT(files(), ElementsAre("database.sqlite"));
-        EXPECT_THAT(backups(), IsEmpty());
-        store.expectUntouched();
-    }
-
-    std::shared_ptr<const NSManagedObjectModel> model_ = OVManagedObjectModel::current();
-    ProgressWatcher watcher_;
-    VexMigrationManager manager_;
-    NSError error_;
-};
-
-/// With models and mappings of its own.
-class ScratchMigration : public MigrationManager {
-protected:
-    ScratchMigration()
-    {
-        world_.setVariable("TARN_RESOURCES", versions_.folder().string());
-        NSEntityMigrationPolicy::registerClass<RefusingPolicy>("RefusingPolicy");
-        NSEntityMigrationPolicy::registerClass<ThrowingPolicy>("ThrowingPolicy");
-    }
-    /// "Model" to "Model 3", with mappings of each step.
-    void addThreeVersions(std::string_view policyOfTheLastStep = {})
-    {
-        for (const char* version : {"Model", "Model 2", "Model 3"})
-            versions_.addModel(version);
-        versions_.addMapping("Model", "Model 2");
-        versions_.addMapping("Model 2", "Model 3", policyOfTheLastStep);
-        model_ = ScratchVersions::model("Model 3");
-    }
-    void makeThings(std::string_view version)
-    {
-        ScratchVersions::makeStore(storeFile(), version, {"one", "two", "three"});
-    }
-    std::vector<std::string> things() const { return ScratchVersions::labels(storeFile()); }
-    static std::shared_ptr<const NSMappingModel> mapping(
-        std::string_view from, std::string_view to, std::string_view policy = {})
-    {
-        NSError error;
-        auto mapping = NSMappingModel::mappingModelWithText(ScratchVersions::mapping(from, to, policy),
-            *ScratchVersions::model(from), *ScratchVersions::model(to), &error);
-        EXPECT_TRUE(mapping) << error;
-        return mapping;
-    }
-
-    ScratchVersions versions_{fs::path(folder()) += " resources"};
-};
 
 // Steps ---------------------------------------------------------------------------------------------------------------
 
@@ -574,117 +445,7 @@ TEST_F(MigrationManager, OfManyOneDoesEachStep)
     EXPECT_THAT(files(), ElementsAre("database.sqlite"));
 }
 
-// Mapping models of the delegate --------------------------------------------------------------------------------------
-
-TEST_F(ScratchMigration, GoesByTheMappingModelsOfItsDelegate)
-{
-    addThreeVersions("RefusingPolicy");
-    makeThings("Model 2");
-    watcher_.mappings = {mapping("Model 2", "Model 3")};
-    ASSERT_TRUE(migrate()) << error_;
-    EXPECT_THAT(watcher_.sources, ElementsAre("Model 2"));
-    EXPECT_THAT(things(), ElementsAre("one", "two", "three"));
-}
-
-TEST_F(ScratchMigration, KeepsTheInstalledMappingModelWhereTheDelegateHasNone)
-{
-    addThreeVersions();
-    makeThings("Model 2");
-    watcher_.mappings = {nullptr};
-    EXPECT_TRUE(migrate()) << error_;
-}
-
-TEST_F(ScratchMigration, IsDecidedByTheLastMappingModel)
-{
-    addThreeVersions();
-    makeThings("Model 2");
-    watcher_.mappings = {mapping("Model 2", "Model 3", "RefusingPolicy"), mapping("Model 2", "Model 3")};
-    ASSERT_TRUE(migrate()) << error_;
-    EXPECT_THAT(things(), ElementsAre("one", "two", "three"));
-    EXPECT_EQ(watcher_.progresses.back().back(), 1.0F);
-}
-
-TEST_F(ScratchMigration, HasFailedWhenTheLastMappingModelHas)
-{
-    addThreeVersions();
-    makeThings("Model 2");
-    watcher_.mappings = {mapping("Model 2", "Model 3"), mapping("Model 2", "Model 3", "RefusingPolicy")};
-    expectFailsWithoutATrace();
-}
-
 // Parts of a step -----------------------------------------------------------------------------------------------------
-
-TEST_F(MigrationManager, KnowsEveryVersionOfTheModel)
-{
-    std::vector<std::string> names;
-    for (const auto& path : VexMigrationManager::modelPaths())
-        names.push_back(path.stem().string());
-    EXPECT_THAT(names, ElementsAre("Model", "Model 2", "Model 3"));
-
-    for (const std::string_view version : {"Model", "Model 2", "Model 3"}) {
-        makeStoreOfVersion(version);
-        const auto metadata
-            = NSPersistentStoreCoordinator::metadataForPersistentStoreOfType(StoreType::SQLite, storeFile());
-        const auto source = VexMigrationManager::sourceModelForSourceMetadata(*metadata);
-        ASSERT_TRUE(source) << version;
-        EXPECT_EQ(source->versionIdentifier(), version);
-        fs::remove(storeFile());
-    }
-}
-
-TEST_F(ScratchMigration, ListsModelsByVersionAndThoseAtTheTopLast)
-{
-    for (const char* version : {"Model 10", "Model 2", "Model"})
-        versions_.addModel(version);
-    versions_.addModel("Another", "Another.momd/Another.json");
-    versions_.addModel("Top 2", "Top 2.model.json");
-    versions_.addModel("Top", "Top.model.json");
-    versions_.addModel("None", "None.json");
-    versions_.addMapping("Model", "Model 2");
-    std::ofstream(versions_.folder() / "Model.momd" / "VersionInfo.json") << "{}";
-    std::vector<std::string> names;
-    for (const auto& path : VexMigrationManager::modelPaths())
-        names.push_back(path.lexically_relative(versions_.folder()).string());
-    EXPECT_THAT(names,
-        ElementsAre("Another.momd/Another.json", "Model.momd/Model.json", "Model.momd/Model 2.json",
-            "Model.momd/Model 10.json", "Top.model.json", "Top 2.model.json"));
-}
-
-TEST_F(ScratchMigration, GoesToTheFirstModelWithAMapping)
-{
-    addThreeVersions();
-    versions_.addMapping("Model", "Model 3");
-    std::shared_ptr<const NSManagedObjectModel> destination;
-    std::shared_ptr<const NSMappingModel> mapping;
-    std::string name;
-    NSError error;
-    ASSERT_TRUE(
-        VexMigrationManager::getDestinationModel(destination, mapping, name, *ScratchVersions::model("Model"), &error))
-        << error;
-    EXPECT_EQ(name, "Model 2");
-    EXPECT_EQ(destination->versionIdentifier(), "Model 2");
-    EXPECT_EQ(mapping->destinationVersion(), "Model 2");
-}
-
-TEST_F(ScratchMigration, GoesToAModelAtTheTopAsWell)
-{
-    versions_.addModel("Model");
-    versions_.addModel("Model 2", "Model 2.model.json");
-    versions_.addMapping("Model", "Model 2");
-    std::shared_ptr<const NSManagedObjectModel> destination;
-    std::shared_ptr<const NSMappingModel> mapping;
-    std::string name;
-    EXPECT_TRUE(VexMigrationManager::getDestinationModel(destination, mapping, name, *ScratchVersions::model("Model")));
-    EXPECT_EQ(name, "Model 2");
-}
-
-TEST_F(ScratchMigration, PassesOverAModelThatCannotBeRead)
-{
-    addThreeVersions();
-    std::ofstream(versions_.folder() / "Model.momd" / "Model 1.json") << "{";
-    makeThings("Model");
-    EXPECT_TRUE(migrate()) << error_;
-}
 
 TEST_F(MigrationManager, MakesTheNewStoreBesideTheOldOne)
 {

@@ -182,13 +182,12 @@ void writeResult(const Invocation& invocation, const fs::path& database, const M
 /// A rehearsal: what a migration would do and need, by the plan alone.
 ExitCode tellOfPlan(const Invocation& invocation, const fs::path& database, const StoreMigrationPlan& plan)
 {
-    const bool fits = plan.versions.empty() || plan.neededSpace <= plan.availableSpace;
     const MigrationResult end{.from = plan.storeVersion, .versions = plan.versions, .error = {}};
     if (invocation.json) {
         JSON document = jsonOf(database, end.from, end.to(), end.versions);
         document["needed"] = plan.neededSpace;
-        document["available"] = plan.availableSpace;
-        document["fits"] = fits;
+        document["available"] = plan.availableSpace ? JSON(*plan.availableSpace) : JSON(nullptr);
+        document["fits"] = plan.fits();
         writeJSON(invocation.output, document);
     } else if (plan.versions.empty()) {
         writeResult(invocation, database, end);
@@ -202,11 +201,11 @@ ExitCode tellOfPlan(const Invocation& invocation, const fs::path& database, cons
             tell("to", version);
         tell("size", stringFromByteCount(plan.storeSize));
         tell("needed space", stringFromByteCount(plan.neededSpace));
-        tell("free space", stringFromByteCount(plan.availableSpace));
+        tell("free space", plan.availableSpace ? stringFromByteCount(*plan.availableSpace) : "not known");
     }
-    if (!fits)
+    if (!plan.fits())
         tellOnStandardError("there is not enough room for the new store beside the old one; make room first");
-    return fits ? ExitCode::Done : ExitCode::InputOutput;
+    return plan.fits() ? ExitCode::Done : ExitCode::InputOutput;
 }
 
 ExitCode tellThatThereIsNoStore(const Invocation& invocation, const fs::path& folder)

@@ -134,6 +134,8 @@ public:
     RelationshipStorage storage() const noexcept { return storage_; }
     /// Of the two ends of a join table the one whose changes write its rows (the table is named after it).
     bool ownsJoinTable() const noexcept { return ownsJoinTable_; }
+    /// Whether the store keeps this end, in a column or a join table of its own; the other end follows from it.
+    bool isKept() const noexcept { return storage_ == RelationshipStorage::Column || ownsJoinTable_; }
 
 private:
     friend class ModelReader;

@@ -18,14 +18,25 @@ const MappingExpression& expressionNamed(const std::vector<NSPropertyMapping>& m
 
 } // namespace
 
-const MappingExpression& EntityStep::attributeExpression(const NSAttributeDescription& attribute) const
+const MappingExpression& EntityStep::expressionOf(const NSAttributeDescription& attribute) const
 {
     return expressionNamed(mapping->attributeMappings(), attribute.name());
 }
 
-const MappingExpression& EntityStep::relationshipExpression(const NSRelationshipDescription& relationship) const
+const NSAttributeDescription* EntityStep::takenFrom(const NSAttributeDescription& attribute) const
 {
-    return expressionNamed(mapping->relationshipMappings(), relationship.name());
+    const MappingExpression& expression = expressionOf(attribute);
+    if (expression.kind() != MappingExpression::Kind::SourceKey)
+        return nullptr;
+    const NSAttributeDescription* source = from->attributeNamed(expression.name());
+    return source->type() == attribute.type() ? source : nullptr;
+}
+
+const NSRelationshipDescription* EntityStep::madeOf(const NSRelationshipDescription& relationship) const
+{
+    const MappingExpression& expression = expressionNamed(mapping->relationshipMappings(), relationship.name());
+    return expression.kind() == MappingExpression::Kind::SourceKey ? from->relationshipNamed(expression.name())
+                                                                   : nullptr;
 }
 
 std::set<std::int64_t> targetOffsets(

@@ -33,9 +33,12 @@ struct EntityStep {
 
     /// Whether there are records to be made of records.
     bool hasBoth() const noexcept { return from && to; }
-    /// How a property of `to` gets its value.
-    const MappingExpression& attributeExpression(const NSAttributeDescription& attribute) const;
-    const MappingExpression& relationshipExpression(const NSRelationshipDescription& relationship) const;
+    /// How an attribute of `to` gets its value.
+    const MappingExpression& expressionOf(const NSAttributeDescription& attribute) const;
+    /// The attribute of `from` whose values it takes as they are; null for any other expression.
+    const NSAttributeDescription* takenFrom(const NSAttributeDescription& attribute) const;
+    /// The relationship of `from` that one of `to` is made of; null when that begins empty.
+    const NSRelationshipDescription* madeOf(const NSRelationshipDescription& relationship) const;
     /// The record of the destination that a source's record becomes by itself.
     std::int64_t destinationKey(std::int64_t sourceKey) const { return sourceKey + *keyOffset; }
 };

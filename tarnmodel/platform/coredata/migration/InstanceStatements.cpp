@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 namespace tarn {
 
@@ -51,21 +52,12 @@ std::string literal(const Value& value)
     }
 }
 
-/// A column of the source: "s" is its table, "l" the one with the large attributes.
-std::string sourceColumn(const NSAttributeDescription& attribute)
-{
-    return (attribute.isLarge() ? "l." : "s.") + quotedIdentifier(attribute.name());
-}
-
 /// A relationship of the destination that is in a column, and was in one.
 const NSRelationshipDescription* sourceOfColumn(const EntityStep& step, const NSRelationshipDescription& relationship)
 {
-    const MappingExpression& expression = step.relationshipExpression(relationship);
-    if (expression.kind() != MappingExpression::Kind::SourceKey)
-        return nullptr;
-    const NSRelationshipDescription* source = step.from->relationshipNamed(expression.name());
-    const bool isColumn
-        = source->storage() == RelationshipStorage::Column && relationship.storage() == RelationshipStorage::Column;
+    const NSRelationshipDescription* source = step.madeOf(relationship);
+    const bool isColumn = source && source->storage() == RelationshipStorage::Column
+        && relationship.storage() == RelationshipStorage::Column;
     return isColumn ? source : nullptr;
 }
 
@@ -107,19 +99,16 @@ public:
 private:
     bool isOwn(const StoreColumn& column) const { return step_.to->isKindOfEntity(column.property->declaringEntity()); }
 
-    /// The attribute whose values it takes as they are; null for any other expression.
-    const NSAttributeDescription* takenFrom(const NSAttributeDescription& attribute) const
+    /// A column of the source: "s" is its table, "l" the one with the large attributes, which is then read too.
+    std::string sourceColumn(const NSAttributeDescription& attribute)
     {
-        const MappingExpression& expression = step_.attributeExpression(attribute);
-        if (expression.kind() != MappingExpression::Kind::SourceKey)
-            return nullptr;
-        const NSAttributeDescription* from = step_.from->attributeNamed(expression.name());
-        return from->type() == attribute.type() ? from : nullptr;
+        readsLarge_ = readsLarge_ || attribute.isLarge();
+        return (attribute.isLarge() ? "l." : "s.") + quotedIdentifier(attribute.name());
     }
 
     std::string valueOf(const NSAttributeDescription& attribute)
     {
-        const MappingExpression& expression = step_.attributeExpression(attribute);
+        const MappingExpression& expression = step_.expressionOf(attribute);
         switch (expression.kind()) {
         case MappingExpression::Kind::Default:
             return literal(attribute.defaultValue());
@@ -141,7 +130,7 @@ private:
 
     std::string shadowOf(const NSAttributeDescription& attribute)
     {
-        const NSAttributeDescription* from = takenFrom(attribute);
+        const NSAttributeDescription* from = step_.takenFrom(attribute);
         if (from && source_.hasCurrentShadow(*from))
             // What another program has left stale is NULL.
             return fmt::format(
@@ -160,12 +149,13 @@ private:
         return withOffset("s." + quotedIdentifier(from->name()), *offsets.begin());
     }
 
-    /// "FROM" and what follows; the large attributes with it where they are needed.
-    std::string sourceRows(const std::string& values) const
+    /// "FROM" and what follows, for the columns that were asked for since the last time.
+    std::string sourceRows()
     {
-        const bool readsLarge = values.find("l.\"") != std::string::npos;
         return " FROM " + inMain(from_.name) + " AS s"
-            + (readsLarge ? " LEFT JOIN " + inMain(from_.largeName) + " AS l ON l.\"pk\" = s.\"pk\"" : "")
+            + (std::exchange(readsLarge_, false)
+                    ? " LEFT JOIN " + inMain(from_.largeName) + " AS l ON l.\"pk\" = s.\"pk\""
+                    : "")
             + " WHERE s.\"pk\" > ?1 AND s.\"pk\" <= ?2" + andEntityIs(*step_.from, false, "s");
     }
 
@@ -192,7 +182,7 @@ private:
                     add(column.name, *reference);
             }
         }
-        return "INSERT INTO " + inSide(to_.name) + " (" + names + ") SELECT " + values + sourceRows(values)
+        return "INSERT INTO " + inSide(to_.name) + " (" + names + ") SELECT " + values + sourceRows()
             + " ORDER BY s.\"pk\"";
     }
 
@@ -211,8 +201,8 @@ private:
             if (value != "NULL")
                 isSet += (isSet.empty() ? "" : " OR ") + value + " IS NOT NULL";
         }
-        return "INSERT INTO " + inSide(to_.largeName) + " (" + names + ") SELECT " + values + sourceRows(values)
-            + " AND (" + (isSet.empty() ? "0" : isSet) + ") ORDER BY s.\"pk\"";
+        return "INSERT INTO " + inSide(to_.largeName) + " (" + names + ") SELECT " + values + sourceRows() + " AND ("
+            + (isSet.empty() ? "0" : isSet) + ") ORDER BY s.\"pk\"";
     }
 
     /// Of texts that stay as they are.
@@ -221,7 +211,7 @@ private:
         const NSAttributeDescription& attribute = *signature.attribute;
         if (!step_.to->isKindOfEntity(attribute.declaringEntity()))
             return std::nullopt;
-        const NSAttributeDescription* from = takenFrom(attribute);
+        const NSAttributeDescription* from = step_.takenFrom(attribute);
         const SignatureTable* old = from ? source_.currentSignatures(*from) : nullptr;
         if (!old || from->isLarge() != attribute.isLarge())
             return std::nullopt;
@@ -239,6 +229,7 @@ private:
     const StoreTable& to_;
     EntitySteps& steps_;
     PolicyFunctions& functions_;
+    bool readsLarge_ = false;
 };
 
 } // namespace
@@ -322,9 +313,7 @@ std::optional<BulkStatement> relationshipStatement(const EntityStep& step, const
     const NSRelationshipDescription& to = *step.to->relationshipNamed(property.name);
     const StoreSchema& schema = destination.schema();
     const bool isColumn = to.storage() == RelationshipStorage::Column;
-    const bool isKept = isColumn || (to.storage() == RelationshipStorage::JoinTable && to.ownsJoinTable());
-    if (property.valueExpression.kind() != MappingExpression::Kind::SourceKey || !isKept
-        || (isColumn && isWrittenAlong(step, to, steps)))
+    if (!to.isKept() || !step.madeOf(to) || (isColumn && isWrittenAlong(step, to, steps)))
         return std::nullopt;
     const StoreTable& owners = schema.table(*step.to);
     const NSEntityDescription& target = to.destinationEntity();

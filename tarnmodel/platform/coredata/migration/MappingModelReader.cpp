@@ -57,13 +57,6 @@ bool isSameRelationship(const NSRelationshipDescription& left, const NSRelations
         && left.inverseRelationship().isToMany() == right.inverseRelationship().isToMany();
 }
 
-/// Whether the store keeps this end of a relationship.
-bool isKept(const NSRelationshipDescription& relationship)
-{
-    return relationship.storage() == RelationshipStorage::Column
-        || (relationship.storage() == RelationshipStorage::JoinTable && relationship.ownsJoinTable());
-}
-
 /// Whether an attribute can begin with this value.
 bool isFitting(const Value& value, NSAttributeType type)
 {
@@ -367,7 +360,7 @@ void MappingModelReader::checkKeeper(const NSEntityMapping& mapping, const NSPro
 {
     const auto& relationship
         = *destination_.entityNamed(mapping.destinationEntityName())->relationshipNamed(property.name);
-    if (isKept(relationship))
+    if (relationship.isKept())
         return;
     const NSRelationshipDescription& inverse = relationship.inverseRelationship();
     const auto saysIt = [&](const auto& other) {

@@ -26,13 +26,6 @@ std::string_view kindMadeBy(const std::string& statement)
     return statement.starts_with("CREATE TRIGGER ") ? "trigger" : "index";
 }
 
-/// Its name: the first quoted one.
-std::string_view nameMadeBy(std::string_view statement)
-{
-    const std::size_t start = statement.find('"') + 1;
-    return statement.substr(start, statement.find('"', start) - start);
-}
-
 /// What a CREATE INDEX or CREATE TRIGGER statement is for.
 bool isOn(const std::string& statement, const std::string& table)
 {
@@ -120,17 +113,6 @@ std::vector<std::int64_t> MigrationDestination::keysBetween(
     return keys;
 }
 
-std::size_t MigrationDestination::countBetween(const NSEntityDescription& entity, std::int64_t after, std::int64_t last)
-{
-    SQLiteStatement statement
-        = connection_.prepare("SELECT count(*) FROM " + quotedIdentifier(schema_.table(entity).name)
-            + " AS t WHERE t.\"pk\" > ?1 AND t.\"pk\" <= ?2" + andEntityIs(entity, false, "t"));
-    statement.bindInteger(1, after);
-    statement.bindInteger(2, last);
-    statement.step();
-    return static_cast<std::size_t>(statement.integer(0));
-}
-
 std::vector<std::int64_t> MigrationDestination::keysOfFoldedValue(
     const NSEntityDescription& entity, const NSAttributeDescription& attribute, std::string_view text)
 {
@@ -169,9 +151,10 @@ void MigrationDestination::relate(const NSEntityDescription& entity, const NSRel
     for (const std::int64_t target : targets)
         if (isOfEntity(relationship.destinationEntity(), target))
             found.push_back(target);
+    std::ranges::sort(found);
     if (relationship.storage() == RelationshipStorage::Column)
         return setColumn(entity, relationship.name(), key,
-            found.empty() ? std::nullopt : std::optional<std::int64_t>(std::ranges::min(found)));
+            found.empty() ? std::nullopt : std::optional<std::int64_t>(found.front()));
     const std::vector<RelatedKey> present = selects_.related(connection_, relationship, key);
     const bool isJoined = relationship.storage() == RelationshipStorage::JoinTable;
     const auto change = [&](std::int64_t other, bool added) {
@@ -184,7 +167,7 @@ void MigrationDestination::relate(const NSEntityDescription& entity, const NSRel
         writer_.changeJoins(std::array{join});
     };
     for (const RelatedKey& related : present)
-        if (std::ranges::find(found, related.key) == found.end())
+        if (!std::ranges::binary_search(found, related.key))
             change(related.key, false);
     for (const std::int64_t target : found)
         change(target, true);
@@ -199,7 +182,8 @@ void MigrationDestination::executeOnce(const std::string& statement)
         return;
     SQLiteStatement made = connection_.prepare("SELECT 1 FROM sqlite_schema WHERE \"type\" = ?1 AND \"name\" = ?2");
     made.bindText(1, kindMadeBy(statement));
-    made.bindText(2, nameMadeBy(statement));
+    const std::string name = madeName(statement);
+    made.bindText(2, name);
     const bool isMade = made.step();
     made.reset();
     if (!isMade)

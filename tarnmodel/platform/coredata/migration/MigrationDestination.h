@@ -48,7 +48,6 @@ public:
     /// Some keys of records of just this entity in (after, last], ascending.
     std::vector<std::int64_t> keysBetween(
         const NSEntityDescription& entity, std::int64_t after, std::int64_t last, std::size_t most);
-    std::size_t countBetween(const NSEntityDescription& entity, std::int64_t after, std::int64_t last);
     std::vector<std::int64_t> keysOfFoldedValue(
         const NSEntityDescription& entity, const NSAttributeDescription& attribute, std::string_view text);
     /// Makes a relationship of a record name just these records, without those that are not there.

@@ -75,9 +75,7 @@ void MigrationRun::createRelationships(MigrationRecord& destination, const NSEnt
     const NSManagedObjectID source = sourceOf(mapping.name(), destination.objectID());
     for (const NSPropertyMapping& property : mapping.relationshipMappings()) {
         const NSRelationshipDescription* relationship = destination.entity().relationshipNamed(property.name);
-        const bool isKept = relationship && relationship->storage() != RelationshipStorage::InverseColumn
-            && (relationship->storage() == RelationshipStorage::Column || relationship->ownsJoinTable());
-        if (property.valueExpression.kind() != MappingExpression::Kind::SourceKey || !isKept || !source)
+        if (!relationship || !relationship->isKept() || !step.madeOf(*relationship) || !source)
             continue;
         std::vector<std::int64_t> targets;
         const std::string& select = selectOf(step, property);

@@ -138,34 +138,24 @@ void MigrationRun::makeInstancesBySQL(EntityStep& step)
 {
     std::vector<BulkStatement> statements
         = instanceStatements(step, source_, destination_, steps_, functions_, !step.passes.createsRelationships);
-    if (isCopiedWhole(destination_.schema().table(*step.to)))
+    const StoreTable& table = destination_.schema().table(*step.to);
+    if (fillAtOnce(table.name, [&] { return wholeTableStatement(table, source_, destination_, steps_); }))
         statements.erase(statements.begin()); // the one that makes the rows
     runInPortions(step, statements);
 }
 
-bool MigrationRun::isCopiedWhole(const StoreTable& table)
+bool MigrationRun::fillAtOnce(const std::string& table, const std::function<std::optional<BulkStatement>()>& statement)
 {
-    const auto [found, isNew] = copiedWhole_.try_emplace(table.name, false);
-    if (isNew)
-        if (const auto statement = wholeTableStatement(table, source_, destination_, steps_)) {
-            copyWhole(*statement);
-            found->second = true;
-        }
-    return found->second;
+    const auto [found, isNew] = filledAtOnce_.try_emplace(table, false);
+    if (!isNew)
+        return found->second;
+    const auto copy = statement();
+    if (copy)
+        copyTable(*copy);
+    return found->second = copy.has_value();
 }
 
-bool MigrationRun::isCopiedWhole(const JoinTable& join)
-{
-    const auto [found, isNew] = copiedWhole_.try_emplace(join.name, false);
-    if (isNew)
-        if (const auto statement = wholeJoinStatement(join, source_, destination_, steps_)) {
-            copyWhole(*statement);
-            found->second = true;
-        }
-    return found->second;
-}
-
-void MigrationRun::copyWhole(const BulkStatement& statement)
+void MigrationRun::copyTable(const BulkStatement& statement)
 {
     // Of a table with the same name: with others an index would be another one.
     if (source_.indexStatements(statement.table) == destination_.indexStatements(statement.table))
@@ -281,10 +271,11 @@ void MigrationRun::makeRelationshipsBySQL(EntityStep& step)
     std::vector<BulkStatement> statements;
     for (const NSPropertyMapping& property : step.mapping->relationshipMappings()) {
         const NSRelationshipDescription& relationship = *step.to->relationshipNamed(property.name);
-        const bool isKeptHere
-            = relationship.storage() == RelationshipStorage::JoinTable && relationship.ownsJoinTable();
-        if (isKeptHere && isCopiedWhole(destination_.schema().join(relationship)))
-            continue;
+        if (relationship.ownsJoinTable()) {
+            const JoinTable& join = destination_.schema().join(relationship);
+            if (fillAtOnce(join.name, [&] { return wholeJoinStatement(join, source_, destination_, steps_); }))
+                continue;
+        }
         if (auto statement = relationshipStatement(step, property, source_, destination_, steps_))
             statements.push_back(std::move(*statement));
     }

@@ -7,8 +7,10 @@
 #include "tarnmodel/platform/coredata/migration/PolicyFunctions.h"
 
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -47,10 +49,9 @@ private:
     void checkNothingIsUnknown();
     void makeInstances(EntityStep& step);
     void makeInstancesBySQL(EntityStep& step);
-    /// Fills a table at once where that is possible, the first time; whether it was.
-    bool isCopiedWhole(const StoreTable& table);
-    bool isCopiedWhole(const JoinTable& join);
-    void copyWhole(const BulkStatement& statement);
+    /// Fills a table at once, if there is a statement for it that does; asked again, it only says whether that was so.
+    bool fillAtOnce(const std::string& table, const std::function<std::optional<BulkStatement>()>& statement);
+    void copyTable(const BulkStatement& statement);
     void makeInstancesOneByOne(EntityStep& step);
     void makeInstancesOf(EntityStep& step, std::int64_t key);
     void addIndexes();
@@ -90,7 +91,7 @@ private:
     std::unique_ptr<SourceMigrationRecord> sourceLookedAt_;
     std::unique_ptr<DestinationMigrationRecord> destinationLookedAt_;
     std::map<const NSPropertyMapping*, std::string> selects_;
-    std::map<std::string, bool> copiedWhole_; ///< tables of the destination that were asked about
+    std::map<std::string, bool> filledAtOnce_; ///< tables of the destination that were asked about
 };
 
 } // namespace tarn

@@ -6,6 +6,7 @@
 #include "tarnmodel/platform/coredata/migration/MigrationProgress.h"
 #include "tarnmodel/platform/coredata/migration/MigrationRun.h"
 #include "tarnmodel/platform/coredata/rows/StoreFailure.h"
+#include "tarnmodel/platform/foundation/filesystem/NSFileManager.h"
 #include "tarnmodel/platform/foundation/values/NSException.h"
 
 #include <system_error>
@@ -28,8 +29,14 @@ public:
     explicit DestinationFile(fs::path file)
         : file_(std::move(file)), before_(withSuffix(file_, "-before")), wasThere_(fs::exists(file_))
     {
-        if (wasThere_)
-            fs::copy_file(file_, before_, fs::copy_options::overwrite_existing);
+        if (!wasThere_)
+            return;
+        std::error_code failure;
+        if (fs::copy_file(file_, before_, fs::copy_options::overwrite_existing, failure))
+            return;
+        std::error_code ignored;
+        fs::remove(before_, ignored);
+        throw StoreFailure(StoreErrorIO, "\"" + file_.string() + "\" cannot be copied: " + failure.message());
     }
     ~DestinationFile()
     {
@@ -42,11 +49,17 @@ public:
     DestinationFile(const DestinationFile&) = delete;
     DestinationFile& operator=(const DestinationFile&) = delete;
 
-    /// Makes it as private as the store that it comes from, before anything is in it.
-    void makeAsPrivateAs(const fs::path& store) const
+    /// An empty one that SQLite then takes, as private as the store that it comes from. Throws a `StoreFailure`.
+    void make(const fs::path& store) const
     {
-        if (!wasThere_)
-            fs::permissions(file_, fs::status(store).permissions());
+        if (wasThere_)
+            return;
+        {
+            const SQLiteConnection connection(file_, {.create = true});
+        }
+        NSError error;
+        if (!NSFileManager::setAccess(file_, store, &error))
+            throw StoreFailure(error);
     }
     void keep() noexcept { isKept_ = true; }
 
@@ -56,12 +69,6 @@ private:
     bool wasThere_;
     bool isKept_ = false;
 };
-
-/// An empty file that SQLite then takes.
-void makeFile(const fs::path& file)
-{
-    const SQLiteConnection connection(file, {.create = true});
-}
 
 } // namespace
 
@@ -96,8 +103,7 @@ bool NSMigrationManager::migrateStore(
             || mapping.destinationVersion() != destinationModel_->versionIdentifier())
             throw StoreFailure(StoreErrorInvalidModel, "The mapping model is for other models.");
         DestinationFile file(destination);
-        makeFile(destination);
-        file.makeAsPrivateAs(source.file());
+        file.make(source.file());
         struct End {
             std::unique_ptr<MigrationRun>& run;
             ~End() { run.reset(); }

@@ -4,7 +4,6 @@
 #include "tarnmodel/platform/coredata/migration/MigrationDestination.h"
 #include "tarnmodel/platform/coredata/migration/MigrationSource.h"
 
-#include <algorithm>
 #include <set>
 #include <string>
 #include <vector>
@@ -22,41 +21,27 @@ std::vector<const EntityStep*> stepsInto(const NSEntityDescription& root, Entity
     return into;
 }
 
-/// The column of the source that an attribute takes its values from as they are; none for any other expression.
-std::optional<std::string> sourceColumnOf(const EntityStep& step, const NSAttributeDescription& attribute)
+/// The column of the source that a column takes its values from as they are; none where it does not.
+std::optional<std::string> sourceColumnOf(const EntityStep& step, const StoreColumn& column, EntitySteps& steps)
 {
-    const MappingExpression& expression = step.attributeExpression(attribute);
-    if (expression.kind() != MappingExpression::Kind::SourceKey)
-        return std::nullopt;
-    const NSAttributeDescription& from = *step.from->attributeNamed(expression.name());
-    if (from.type() != attribute.type() || from.isLarge())
-        return std::nullopt;
-    return from.name();
+    if (const NSAttributeDescription* attribute = column.attribute()) {
+        const NSAttributeDescription* from = step.takenFrom(*attribute);
+        return from && !from->isLarge() ? std::optional(from->name()) : std::nullopt;
+    }
+    const auto& relationship = static_cast<const NSRelationshipDescription&>(*column.property);
+    const NSRelationshipDescription* from = step.madeOf(relationship);
+    const bool isSame = from && from->storage() == RelationshipStorage::Column
+        && targetOffsets(*from, relationship, steps) == std::set{INT64_C(0)};
+    return isSame ? std::optional(from->name()) : std::nullopt;
 }
 
-/// The same for a to-one that is kept in a column.
-std::optional<std::string> sourceColumnOf(
-    const EntityStep& step, const NSRelationshipDescription& relationship, EntitySteps& steps)
-{
-    const MappingExpression& expression = step.relationshipExpression(relationship);
-    if (expression.kind() != MappingExpression::Kind::SourceKey)
-        return std::nullopt;
-    const NSRelationshipDescription& from = *step.from->relationshipNamed(expression.name());
-    if (from.storage() != RelationshipStorage::Column
-        || targetOffsets(from, relationship, steps) != std::set{INT64_C(0)})
-        return std::nullopt;
-    return from.name();
-}
-
-/// The same for its folded value.
+/// The same for the folded value of an attribute.
 std::optional<std::string> sourceShadowOf(
     const EntityStep& step, const NSAttributeDescription& attribute, const MigrationSource& source)
 {
-    const auto name = sourceColumnOf(step, attribute);
-    const NSAttributeDescription* from = name ? step.from->attributeNamed(*name) : nullptr;
-    if (!from || !source.hasCurrentShadow(*from) || source.hasStaleShadow(*from))
-        return std::nullopt;
-    return shadowColumnName(*from);
+    const NSAttributeDescription* from = step.takenFrom(attribute);
+    const bool isSame = from && source.hasCurrentShadow(*from) && !source.hasStaleShadow(*from);
+    return isSame ? std::optional(shadowColumnName(*from)) : std::nullopt;
 }
 
 /// The columns of the source that those of a table take their values from, in its order; none where one does not.
@@ -66,13 +51,11 @@ std::optional<std::vector<std::string>> sourceColumns(
     std::vector<std::string> names{"pk", "rowVersion"};
     std::vector<std::string> shadows;
     for (const StoreColumn& column : table.columns) {
-        const NSAttributeDescription* attribute = column.attribute();
-        const auto name = attribute
-            ? sourceColumnOf(step, *attribute)
-            : sourceColumnOf(step, static_cast<const NSRelationshipDescription&>(*column.property), steps);
+        const auto name = sourceColumnOf(step, column, steps);
         if (!name)
             return std::nullopt;
         names.push_back(*name);
+        const NSAttributeDescription* attribute = column.attribute();
         if (!attribute || !hasShadowColumn(*attribute))
             continue;
         const auto shadow = sourceShadowOf(step, *attribute, source);
@@ -119,12 +102,8 @@ std::optional<BulkStatement> wholeJoinStatement(
         return std::nullopt;
     const JoinTable* from = nullptr;
     for (const EntityStep* step : stepsInto(to.declaringEntity().rootEntity(), steps)) {
-        const MappingExpression& expression = step->relationshipExpression(to);
-        const NSRelationshipDescription* relationship = expression.kind() == MappingExpression::Kind::SourceKey
-            ? step->from->relationshipNamed(expression.name())
-            : nullptr;
-        if (!relationship || relationship->storage() != RelationshipStorage::JoinTable || !relationship->ownsJoinTable()
-            || step->keyOffset != 0 || step->passes.createsRelationships
+        const NSRelationshipDescription* relationship = step->madeOf(to);
+        if (!relationship || !relationship->ownsJoinTable() || step->keyOffset != 0 || step->passes.createsRelationships
             || targetOffsets(*relationship, to, steps) != std::set{INT64_C(0)})
             return std::nullopt;
         const JoinTable* own = &source.schema().join(*relationship);

@@ -14,13 +14,6 @@ namespace {
 
 constexpr std::string_view kContents = "SELECT count(*), coalesce(sum(name = 'store_metadata'), 0) FROM sqlite_schema";
 
-/// The name of what a CREATE statement makes: the first quoted one.
-std::string madeName(const std::string& statement)
-{
-    const std::size_t start = statement.find('"') + 1;
-    return statement.substr(start, statement.find('"', start) - start);
-}
-
 using ShadowVisitor
     = std::function<void(const std::string& table, const std::string& column, const std::string& shadow)>;
 
@@ -110,6 +103,12 @@ void foldStale(SQLiteConnection& connection, const StoreSchema& schema)
 }
 
 // What came with later versions --------------------------------------------------------------------------------------
+
+std::string madeName(const std::string& statement)
+{
+    const std::size_t start = statement.find('"') + 1;
+    return statement.substr(start, statement.find('"', start) - start);
+}
 
 bool holdsAll(SQLiteConnection& connection, const std::vector<std::string>& statements)
 {

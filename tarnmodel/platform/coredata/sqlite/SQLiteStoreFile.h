@@ -33,6 +33,8 @@ void foldAgain(SQLiteConnection& connection, const StoreSchema& schema);
 void foldStale(SQLiteConnection& connection, const StoreSchema& schema);
 bool hasStaleShadows(SQLiteConnection& connection, const StoreSchema& schema);
 
+/// The name of what a CREATE statement makes: the first quoted one.
+std::string madeName(const std::string& statement);
 /// Whether everything is there that these CREATE statements make.
 bool holdsAll(SQLiteConnection& connection, const std::vector<std::string>& statements);
 /// Makes the triggers that are missing of those that count versions for programs that do not. Inside a transaction.
