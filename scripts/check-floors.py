@@ -20,6 +20,7 @@ FOUNDATION = f"{LIBRARY}/platform/foundation"
 COREDATA = f"{LIBRARY}/platform/coredata"
 CORVEL = f"{LIBRARY}/corvel"
 IMAGING = f"{LIBRARY}/platform/imaging"
+ENCRYPTION = f"{LIBRARY}/encryption"
 FLOORS = [
     {f"{FOUNDATION}/values"},
     {f"{FOUNDATION}/text"},
@@ -52,7 +53,10 @@ FLOORS = [
     {f"{COREDATA}/opening"},
     {f"{COREDATA}/migration"},
     {"tools/modelgen"},
-    {f"{LIBRARY}/encryption"},
+    {ENCRYPTION},
+    {f"{ENCRYPTION}/keys"},
+    {f"{ENCRYPTION}/sealing"},
+    {f"{ENCRYPTION}/manager"},
     {f"{LIBRARY}/model"},
     {f"{LIBRARY}/{room}" for room in ("notes", "tags", "files", "files/thumbnails", "sync", "search", "backup")},
     {f"{LIBRARY}/{room}" for room in ("diagnosis", "store")},
@@ -73,7 +77,7 @@ STANDS_ALONE_ON = {
 }
 
 # Below the face of these lie their own rooms: nobody includes them from outside, and they are not installed.
-FACES = (COREDATA, CORVEL, IMAGING)
+FACES = (COREDATA, CORVEL, IMAGING, ENCRYPTION)
 # Who may look behind a face all the same.
 LOOKS_BEHIND = {"tests", "benchmarks", "fuzz", "tools/modelgen"}
 

@@ -65,6 +65,26 @@ OVEncryptionCoreManagerProtocol::~OVEncryptionCoreManagerProtocol()
     registry().forgetIdleServices();
 }
 
+// A manager that protects less than there is leaves it as it was stored.
+
+std::optional<std::string> OVEncryptionCoreManagerProtocol::searchTextForNoteFile(
+    const OVEncryptableNoteFile& file, NSError* /*error*/)
+{
+    return file.storedSearchText();
+}
+
+void OVEncryptionCoreManagerProtocol::setSearchText(std::optional<std::string_view> text, OVEncryptableNoteFile& file)
+{
+    file.updatePrimitiveSearchText(text);
+}
+
+bool OVEncryptionCoreManagerProtocol::setContents(
+    const NSFileWrapper& /*contents*/, OVEncryptableNoteFile& /*file*/, NSError* error)
+{
+    assignError(error, NSError(TarnEncryptionErrorDomain, OVEncryptionErrorFile, "Nothing here protects files"));
+    return false;
+}
+
 OVEncryptionCoreManagerProtocol* OVEncryptionCoreManager::encryptionCoreManagerForManagedObjectContext(
     const NSManagedObjectContext& context)
 {

@@ -98,4 +98,25 @@ void OVNoteFile::setEncryptionState(const OVEncryptionState& state)
     setPassword(static_cast<OVPassword*>(state.password));
 }
 
+void OVNoteFile::updatePrimitiveSearchText(std::optional<std::string_view> text)
+{
+    _OVNoteFile::setSearchText(text);
+}
+
+bool OVNoteFile::prepareToAddEncryption(NSError* /*error*/)
+{
+    deleteFileThumbnails();
+    return true;
+}
+
+void OVNoteFile::didAddEncryption() { }
+
+void OVNoteFile::didRemoveEncryption() { }
+
+bool OVNoteFile::exchangeStoredFile(std::string_view /*name*/,
+    const std::function<bool(const std::filesystem::path&, NSError*)>& /*write*/, NSError* /*error*/)
+{
+    return false;
+}
+
 } // namespace tarn

@@ -178,6 +178,14 @@ public:
     const NSManagedObject& encryptableRecord() const noexcept override { return *this; }
     OVEncryptionState encryptionState() const override;
     void setEncryptionState(const OVEncryptionState& state) override;
+    bool isEncrypted() const override { return encryptedValue(); }
+    std::optional<NSData> sealedFields() const override { return encryptedData(); }
+    void setSealedFields(const NSData& sealed) override { setEncryptedData(sealed); }
+    std::optional<std::string> encryptionIdentifier() const override { return encryptionUniqueIdentifier(); }
+    std::vector<OVEncryptableNoteFile*> encryptableFiles() const override;
+    bool prepareToAddEncryption(NSError* error) override;
+    void didAddEncryption() override;
+    void didRemoveEncryption() override;
     /// Whether any of them, or of their attachments, is protected.
     static bool anyNoteHasEncryption(const std::vector<OVNote*>& notes);
     /// False for a protected note where attachments cannot be protected.

@@ -180,6 +180,19 @@ public:
     const NSManagedObject& encryptableRecord() const noexcept override { return *this; }
     OVEncryptionState encryptionState() const override;
     void setEncryptionState(const OVEncryptionState& state) override;
+    bool isEncrypted() const override { return encryptedValue(); }
+    std::optional<NSData> sealedFields() const override { return encryptedData(); }
+    void setSealedFields(const NSData& sealed) override { setEncryptedData(sealed); }
+    std::optional<std::string> encryptionIdentifier() const override { return encryptionUniqueIdentifier(); }
+    bool prepareToAddEncryption(NSError* error) override;
+    void didAddEncryption() override;
+    void didRemoveEncryption() override;
+    std::optional<std::string> storedSearchText() const override { return primitiveSearchText(); }
+    void updatePrimitiveSearchText(std::optional<std::string_view> text) override;
+    bool hasFileHere() const override { return downloadedValue(); }
+    std::optional<std::filesystem::path> storedFileURL() const override { return primitiveFileURL(); }
+    bool exchangeStoredFile(std::string_view name,
+        const std::function<bool(const std::filesystem::path& place, NSError* error)>& write, NSError* error) override;
 
 protected:
     /// What every new attachment gets: its identifier, the date of now and version 3.

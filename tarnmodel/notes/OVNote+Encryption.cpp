@@ -87,6 +87,24 @@ void OVNote::setEncryptionState(const OVEncryptionState& state)
     setPassword(state.password ? static_cast<OVPassword*>(&state.password->passwordRecord()) : nullptr);
 }
 
+std::vector<OVEncryptableNoteFile*> OVNote::encryptableFiles() const
+{
+    const auto files = filesSet().allObjects();
+    return {files.begin(), files.end()};
+}
+
+bool OVNote::prepareToAddEncryption(NSError* /*error*/)
+{
+    return true;
+}
+
+void OVNote::didAddEncryption()
+{
+    setSubtitle(std::nullopt);
+}
+
+void OVNote::didRemoveEncryption() { }
+
 bool OVNote::allowsAttachments() const
 {
     return !hasEncryption() || OVEncryptionCoreManager::isFileEncryptionEnabled();
