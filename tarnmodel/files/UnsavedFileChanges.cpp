@@ -288,7 +288,7 @@ void UnsavedFileChanges::finish(const Change& change, const RecordsOfFolders* li
     if (!record->second->encryptedValue())
         giveFileItsName(change.folder, record->second->storedFilename().value_or(""));
     else if (change.kind == Kind::Renamed && hasItsFile(*record->second, change.place))
-        NSFileManager::removeItemAtURL(change.place); // others have protected it under a name of their own
+        discard(change.place); // others have protected it under a name of their own
 }
 
 /// A merge may have kept the former file, or one that others have put in its place.
@@ -298,9 +298,9 @@ void UnsavedFileChanges::finishExchange(const Change& change, const OVNoteFile* 
     const bool isThere = stored && NSFileManager::fileExistsAtURL(*stored);
     NSError error;
     if (change.place != stored)
-        logUnlessDone(NSFileManager::removeItemAtURL(change.place, &error), error);
+        discard(change.place);
     if (change.former != stored && (isThere || !record))
-        logUnlessDone(NSFileManager::removeItemAtURL(change.former, &error), error);
+        discard(change.former);
     else if (change.former != change.origin && NSFileManager::fileExistsAtURL(change.former))
         logUnlessDone(NSFileManager::moveItemAtURL(change.former, change.origin, &error), error);
     if (record && !isThere && !record->encryptedValue())
@@ -328,13 +328,8 @@ void UnsavedFileChanges::didDropChanges()
 void UnsavedFileChanges::undo(const Change& change)
 {
     NSError error;
-    if (change.kind == Kind::Added || change.kind == Kind::Replaced || change.kind == Kind::Exchanged) {
-        // Out of sight in one step, whatever it holds.
-        const fs::path dropped = journal_->unusedURL();
-        if (NSFileManager::fileExistsAtURL(change.place))
-            logUnlessDone(NSFileManager::moveItemAtURL(change.place, dropped, &error), error);
-        NSFileManager::removeItemAtURL(dropped);
-    }
+    if (change.kind == Kind::Added || change.kind == Kind::Replaced || change.kind == Kind::Exchanged)
+        discard(change.place);
     if (change.kind == Kind::Exchanged) {
         if (change.former != change.origin && NSFileManager::fileExistsAtURL(change.former))
             logUnlessDone(NSFileManager::moveItemAtURL(change.former, change.origin, &error), error);
@@ -344,6 +339,19 @@ void UnsavedFileChanges::undo(const Change& change)
         logUnlessDone(NSFileManager::moveItemAtURL(change.kind == Kind::Renamed ? change.place : change.former,
                           change.kind == Kind::Renamed ? change.former : change.place, &error),
             error);
+}
+
+/// Out of sight in one step, whatever it holds; what cannot be removed then goes with the journal.
+void UnsavedFileChanges::discard(const fs::path& item)
+{
+    if (!NSFileManager::fileExistsAtURL(item))
+        return;
+    NSError error;
+    const fs::path discarded = journal_->unusedURL();
+    if (NSFileManager::moveItemAtURL(item, discarded))
+        NSFileManager::removeItemAtURL(discarded);
+    else
+        logUnlessDone(NSFileManager::removeItemAtURL(item, &error), error);
 }
 
 void UnsavedFileChanges::clear()

@@ -74,8 +74,9 @@ private:
     bool wasMadeHere(const std::filesystem::path& file, const RecordFolder& folder) const;
     bool clearNameOfFormer(const RecordFolder& folder, const std::filesystem::path& place, NSError* error);
     void undo(const Change& change);
-    static void finish(const Change& change, const RecordsOfFolders* living);
-    static void finishExchange(const Change& change, const OVNoteFile* record);
+    void finish(const Change& change, const RecordsOfFolders* living);
+    void finishExchange(const Change& change, const OVNoteFile* record);
+    void discard(const std::filesystem::path& item);
     void clear();
 
     std::string storeUUID_;
