@@ -4,12 +4,15 @@
 #include "tarnmodel/files/thumbnails/OVThumbFileManager.h"
 #include "tarnmodel/model/OVNoteFile.h"
 #include "tarnmodel/platform/coredata/NSManagedObjectContext.h"
+#include "tarnmodel/platform/foundation/filesystem/FileDescriptorInternal.h"
 #include "tarnmodel/platform/foundation/filesystem/NSFileManager.h"
 #include "tarnmodel/platform/foundation/filesystem/NSFileWrapper.h"
 #include "tarnmodel/platform/foundation/system/Log.h"
+#include "tarnmodel/platform/foundation/system/NSUUID.h"
 #include "tarnmodel/platform/foundation/values/NSError.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <iterator>
 #include <ranges>
 #include <system_error>
@@ -51,6 +54,13 @@ void makeTellable(const fs::path& item, const fs::path& former)
     const auto before = NSFileManager::attributesOfItemAtURL(former);
     if (now && before && now->size == before->size && now->modificationDate == before->modificationDate)
         NSFileManager::setModificationDate(NSDate(now->modificationDate.microsecondsSince1970() + 1), item);
+}
+
+/// Whether the file that a record names is there, and is another one than this.
+bool hasItsFile(const OVNoteFile& record, const fs::path& other)
+{
+    const auto stored = record.primitiveFileURL();
+    return stored && *stored != other && NSFileManager::fileExistsAtURL(*stored);
 }
 
 } // namespace
@@ -102,7 +112,7 @@ std::optional<fs::path> UnsavedFileChanges::addFile(
         return std::nullopt;
     auto file = bring(error);
     if (file)
-        add({.kind = Kind::Added, .folder = folder, .place = isNew ? place : *file, .former = {}});
+        add({.kind = Kind::Added, .folder = folder, .place = isNew ? place : *file, .former = {}, .origin = {}});
     return file;
 }
 
@@ -117,7 +127,7 @@ bool UnsavedFileChanges::renameFile(
     FileJournal* const noted = journal(error);
     if (!noted || !noted->note(folder, error) || !NSFileManager::moveItemAtURL(former, place, error))
         return false;
-    add({.kind = Kind::Renamed, .folder = folder, .place = place, .former = former});
+    add({.kind = Kind::Renamed, .folder = folder, .place = place, .former = former, .origin = {}});
     return true;
 }
 
@@ -144,7 +154,58 @@ bool UnsavedFileChanges::replaceFile(
         NSFileManager::removeItemAtURL(written);
         return false;
     }
-    add({.kind = Kind::Replaced, .folder = folder, .place = place, .former = *aside});
+    add({.kind = Kind::Replaced, .folder = folder, .place = place, .former = *aside, .origin = {}});
+    return true;
+}
+
+bool UnsavedFileChanges::exchangeFile(
+    const RecordFolder& folder, std::string_view former, std::string_view name, const Writer& write, NSError* error)
+{
+    const auto manager = OVLocalFileManager::localFileManagerForPathComponent(folder.area);
+    const fs::path origin = manager->fileURLForUniqueID(folder.identifier, former);
+    const fs::path place = manager->fileURLForUniqueID(folder.identifier, name);
+    const bool isNew = !NSFileManager::fileExistsAtURL(folder.url());
+    FileJournal* const noted = journal(error);
+    if (!noted || !clearNameOfFormer(folder, place, error)
+        || !noted->noteExchange(folder, origin.filename().string(), place.filename().string(), error)
+        || (isNew && !noted->noteNew(folder, error))
+        || !manager->getOrCreateFolderForUniqueID(folder.identifier, error))
+        return false;
+    const fs::path unfinished = folder.url() / (std::string(NSFileManager::unfinishedPrefix) + newUUIDString());
+    if (!write(unfinished, error) || !NSFileManager::moveItemAtURL(unfinished, place, error)) {
+        NSFileManager::removeItemAtURL(isNew ? folder.url() : unfinished);
+        return false;
+    }
+    // Nobody asks any more for one that was never saved; it may be what is to be protected.
+    if (wasMadeHere(origin, folder))
+        NSFileManager::removeItemAtURL(origin);
+    if (isNew)
+        add({.kind = Kind::Added, .folder = folder, .place = folder.url(), .former = {}, .origin = {}});
+    add({.kind = Kind::Exchanged, .folder = folder, .place = place, .former = origin, .origin = origin});
+    return true;
+}
+
+bool UnsavedFileChanges::wasMadeHere(const fs::path& file, const RecordFolder& folder) const
+{
+    return std::ranges::any_of(changes_, [&](const Change& change) {
+        return (change.kind == Kind::Added && (change.place == file || change.place == folder.url()))
+            || (change.kind == Kind::Exchanged && change.place == file);
+    });
+}
+
+/// A file that waits to go when the records are saved gives its name to one that is to have it again.
+bool UnsavedFileChanges::clearNameOfFormer(const RecordFolder& folder, const fs::path& place, NSError* error)
+{
+    if (!NSFileManager::fileExistsAtURL(place))
+        return true;
+    const auto waiting = std::ranges::find_if(
+        changes_, [&](const Change& change) { return change.kind == Kind::Exchanged && change.former == place; });
+    if (waiting == changes_.end())
+        return failWithSystemError(error, EEXIST, place, "made");
+    const auto aside = journal_->noteAside(folder, place.filename().string(), error);
+    if (!aside || !NSFileManager::moveItemAtURL(place, *aside, error))
+        return false;
+    waiting->former = *aside;
     return true;
 }
 
@@ -157,8 +218,16 @@ bool UnsavedFileChanges::removeFolder(const RecordFolder& folder, NSError* error
     const auto aside = noted ? noted->noteAside(folder, "", error) : std::nullopt;
     const bool isMoved = aside && NSFileManager::moveItemAtURL(place, *aside, error);
     // On a full disk it stays where it is until the deletion is saved.
-    add({.kind = Kind::Removed, .folder = folder, .place = place, .former = isMoved ? *aside : place});
+    add({.kind = Kind::Removed, .folder = folder, .place = place, .former = isMoved ? *aside : place, .origin = {}});
     return isMoved;
+}
+
+void UnsavedFileChanges::takeBack(const RecordFolder& folder)
+{
+    for (const Change& change : changes_ | std::views::reverse)
+        if (change.folder == folder)
+            undo(change);
+    std::erase_if(changes_, [&](const Change& change) { return change.folder == folder; });
 }
 
 void UnsavedFileChanges::deleteThumbnailsOnceSaved(fs::path image)
@@ -205,12 +274,37 @@ void UnsavedFileChanges::finish(const Change& change, const RecordsOfFolders* li
     const auto record = living ? living->find(change.folder) : RecordsOfFolders::const_iterator();
     const bool isWanted = !living || record != living->end();
     NSError error;
+    if (change.kind == Kind::Exchanged) {
+        if (living)
+            finishExchange(change, isWanted ? record->second : nullptr);
+        return;
+    }
     if (change.kind == Kind::Removed && isWanted && !NSFileManager::fileExistsAtURL(change.place))
         logUnlessDone(NSFileManager::moveItemAtURL(change.former, change.place, &error), error);
     else if (change.kind != Kind::Renamed && (change.former != change.place || !isWanted))
         logUnlessDone(NSFileManager::removeItemAtURL(change.former, &error), error);
-    if (living && isWanted)
+    if (!living || !isWanted)
+        return;
+    if (!record->second->encryptedValue())
         giveFileItsName(change.folder, record->second->storedFilename().value_or(""));
+    else if (change.kind == Kind::Renamed && hasItsFile(*record->second, change.place))
+        discard(change.place); // others have protected it under a name of their own
+}
+
+/// A merge may have kept the former file, or one that others have put in its place.
+void UnsavedFileChanges::finishExchange(const Change& change, const OVNoteFile* record)
+{
+    const auto stored = record ? record->primitiveFileURL() : std::nullopt;
+    const bool isThere = stored && NSFileManager::fileExistsAtURL(*stored);
+    NSError error;
+    if (change.place != stored)
+        discard(change.place);
+    if (change.former != stored && (isThere || !record))
+        discard(change.former);
+    else if (change.former != change.origin && NSFileManager::fileExistsAtURL(change.former))
+        logUnlessDone(NSFileManager::moveItemAtURL(change.former, change.origin, &error), error);
+    if (record && !isThere && !record->encryptedValue())
+        giveFileItsName(change.folder, record->storedFilename().value_or(""));
 }
 
 void UnsavedFileChanges::didSaveIntoParent(NSManagedObjectContext& parent)
@@ -234,17 +328,30 @@ void UnsavedFileChanges::didDropChanges()
 void UnsavedFileChanges::undo(const Change& change)
 {
     NSError error;
-    if (change.kind == Kind::Added || change.kind == Kind::Replaced) {
-        // Out of sight in one step, whatever it holds.
-        const fs::path dropped = journal_->unusedURL();
-        if (NSFileManager::fileExistsAtURL(change.place))
-            logUnlessDone(NSFileManager::moveItemAtURL(change.place, dropped, &error), error);
-        NSFileManager::removeItemAtURL(dropped);
+    if (change.kind == Kind::Added || change.kind == Kind::Replaced || change.kind == Kind::Exchanged)
+        discard(change.place);
+    if (change.kind == Kind::Exchanged) {
+        if (change.former != change.origin && NSFileManager::fileExistsAtURL(change.former))
+            logUnlessDone(NSFileManager::moveItemAtURL(change.former, change.origin, &error), error);
+        return;
     }
     if (change.kind != Kind::Added && change.former != change.place)
         logUnlessDone(NSFileManager::moveItemAtURL(change.kind == Kind::Renamed ? change.place : change.former,
                           change.kind == Kind::Renamed ? change.former : change.place, &error),
             error);
+}
+
+/// Out of sight in one step, whatever it holds; what cannot be removed then goes with the journal.
+void UnsavedFileChanges::discard(const fs::path& item)
+{
+    if (!NSFileManager::fileExistsAtURL(item))
+        return;
+    NSError error;
+    const fs::path discarded = journal_->unusedURL();
+    if (NSFileManager::moveItemAtURL(item, discarded))
+        NSFileManager::removeItemAtURL(discarded);
+    else
+        logUnlessDone(NSFileManager::removeItemAtURL(item, &error), error);
 }
 
 void UnsavedFileChanges::clear()

@@ -186,6 +186,8 @@ public:
     bool prepareToAddEncryption(NSError* error) override;
     void didAddEncryption() override;
     void didRemoveEncryption() override;
+    /// Takes the subtitle from the text, unless the note or one of its attachments is protected.
+    void deriveSubtitle();
     /// Whether any of them, or of their attachments, is protected.
     static bool anyNoteHasEncryption(const std::vector<OVNote*>& notes);
     /// False for a protected note where attachments cannot be protected.
