@@ -5,11 +5,11 @@
 #include "tarnmodel/model/OVNote.h"
 #include "tarnmodel/model/OVNoteFile.h"
 #include "tarnmodel/model/OVPassword.h"
+#include "tarnmodel/notes/EditGuard.h"
 #include "tarnmodel/platform/coredata/NSManagedObjectContext.h"
 #include "tarnmodel/platform/foundation/filesystem/NSFileManager.h"
 #include "tarnmodel/platform/foundation/filesystem/NSFileWrapper.h"
 #include "tarnmodel/platform/foundation/values/NSError.h"
-#include "tarnmodel/platform/foundation/values/NSException.h"
 
 #include <cerrno>
 #include <utility>
@@ -34,14 +34,6 @@ bool hasName(std::string_view name, NSError* error)
         return true;
     assignError(error, NSError("Tarn Model", EINVAL, "A file without a name cannot be attached"));
     return false;
-}
-
-/// What is attached to a protected note is protected with it: nothing is attached that nobody could protect.
-void requireAttachable(const OVNote& note)
-{
-    const bool isGuarded = OVEncryptionCoreManager::managerGuarding(note, note.encryptedValue()) != nullptr;
-    if (note.encryptedValue() && !isGuarded)
-        throw NSException(OVInvalidAccessorException, OVInvalidAccessorReason);
 }
 
 } // namespace
@@ -104,7 +96,8 @@ OVNoteFile* OVNoteFile::getOrCreateFileFromURL(const FileURL& url, OVNote& note,
     const std::string name = url.path.filename().string();
     if (!hasName(name, error))
         return nullptr;
-    requireAttachable(note);
+    const auto held = EditGuard::holdUnlocked(note.managedObjectContext());
+    EditGuard::requireAttachable(note);
     OVNoteFile* match = nullptr;
     const std::string safeName = fileNameWithinFolder(
         safeFilenameForFilename(name, note, match, [&] { return NSFileWrapper::withURL(url.path); }));
@@ -123,7 +116,8 @@ OVNoteFile* OVNoteFile::getOrCreateFileFromFileWrapper(const NSFileWrapper& file
     const fs::path given = fileWrapper.filename().value_or(fileWrapper.preferredFilename().value_or(""));
     if (!hasName(given.filename().string(), error))
         return nullptr;
-    requireAttachable(note);
+    const auto held = EditGuard::holdUnlocked(note.managedObjectContext());
+    EditGuard::requireAttachable(note);
     OVNoteFile* match = nullptr;
     const std::string name = fileNameWithinFolder(
         safeFilenameForFilename(given.filename().string(), note, match, [&] { return fileWrapper; }));
@@ -153,9 +147,14 @@ OVNoteFile* OVNoteFile::attachedTo(OVNote& note, NSError* error)
     setNote(&note);
     if (encryptFileIfNeeded(*this, error))
         return this;
+    takeBack();
+    return nullptr;
+}
+
+void OVNoteFile::takeBack()
+{
     UnsavedFileChanges::ofRecord(*this).takeBack(RecordFolder::ofRecord(*this));
     managedObjectContext().deleteObject(*this);
-    return nullptr;
 }
 
 /// Gives a file that was just taken in another name, the record's included.

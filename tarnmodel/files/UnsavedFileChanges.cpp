@@ -1,19 +1,16 @@
 #include "tarnmodel/files/UnsavedFileChanges.h"
 
 #include "tarnmodel/files/FileJournal.h"
-#include "tarnmodel/files/thumbnails/OVThumbFileManager.h"
 #include "tarnmodel/model/OVNoteFile.h"
 #include "tarnmodel/platform/coredata/NSManagedObjectContext.h"
 #include "tarnmodel/platform/foundation/filesystem/FileDescriptorInternal.h"
 #include "tarnmodel/platform/foundation/filesystem/NSFileManager.h"
 #include "tarnmodel/platform/foundation/filesystem/NSFileWrapper.h"
-#include "tarnmodel/platform/foundation/system/Log.h"
 #include "tarnmodel/platform/foundation/system/NSUUID.h"
 #include "tarnmodel/platform/foundation/values/NSError.h"
 
 #include <algorithm>
 #include <cerrno>
-#include <iterator>
 #include <ranges>
 #include <system_error>
 #include <utility>
@@ -23,12 +20,6 @@ namespace tarn {
 namespace {
 
 namespace fs = std::filesystem;
-
-void logUnlessDone(bool isDone, const NSError& error)
-{
-    if (!isDone)
-        logMessage("Error while changing files\n" + error.localizedDescription());
-}
 
 /// The item, what is in it where it is a folder, and the folders that have to know of it.
 void addWithFolders(const fs::path& item, const RecordFolder& folder, std::set<fs::path>& places)
@@ -54,13 +45,6 @@ void makeTellable(const fs::path& item, const fs::path& former)
     const auto before = NSFileManager::attributesOfItemAtURL(former);
     if (now && before && now->size == before->size && now->modificationDate == before->modificationDate)
         NSFileManager::setModificationDate(NSDate(now->modificationDate.microsecondsSince1970() + 1), item);
-}
-
-/// Whether the file that a record names is there, and is another one than this.
-bool hasItsFile(const OVNoteFile& record, const fs::path& other)
-{
-    const auto stored = record.primitiveFileURL();
-    return stored && *stored != other && NSFileManager::fileExistsAtURL(*stored);
 }
 
 } // namespace
@@ -112,7 +96,12 @@ std::optional<fs::path> UnsavedFileChanges::addFile(
         return std::nullopt;
     auto file = bring(error);
     if (file)
-        add({.kind = Kind::Added, .folder = folder, .place = isNew ? place : *file, .former = {}, .origin = {}});
+        add({.kind = Kind::Added,
+            .folder = folder,
+            .place = isNew ? place : *file,
+            .former = {},
+            .origin = {},
+            .formerAttributes = {}});
     return file;
 }
 
@@ -127,7 +116,12 @@ bool UnsavedFileChanges::renameFile(
     FileJournal* const noted = journal(error);
     if (!noted || !noted->note(folder, error) || !NSFileManager::moveItemAtURL(former, place, error))
         return false;
-    add({.kind = Kind::Renamed, .folder = folder, .place = place, .former = former, .origin = {}});
+    add({.kind = Kind::Renamed,
+        .folder = folder,
+        .place = place,
+        .former = former,
+        .origin = {},
+        .formerAttributes = {}});
     return true;
 }
 
@@ -154,7 +148,12 @@ bool UnsavedFileChanges::replaceFile(
         NSFileManager::removeItemAtURL(written);
         return false;
     }
-    add({.kind = Kind::Replaced, .folder = folder, .place = place, .former = *aside, .origin = {}});
+    add({.kind = Kind::Replaced,
+        .folder = folder,
+        .place = place,
+        .former = *aside,
+        .origin = {},
+        .formerAttributes = {}});
     return true;
 }
 
@@ -171,6 +170,7 @@ bool UnsavedFileChanges::exchangeFile(
         || (isNew && !noted->noteNew(folder, error))
         || !manager->getOrCreateFolderForUniqueID(folder.identifier, error))
         return false;
+    const auto formerAttributes = NSFileManager::attributesOfItemAtURL(origin);
     const fs::path unfinished = folder.url() / (std::string(NSFileManager::unfinishedPrefix) + newUUIDString());
     if (!write(unfinished, error) || !NSFileManager::moveItemAtURL(unfinished, place, error)) {
         NSFileManager::removeItemAtURL(isNew ? folder.url() : unfinished);
@@ -180,8 +180,18 @@ bool UnsavedFileChanges::exchangeFile(
     if (wasMadeHere(origin, folder))
         NSFileManager::removeItemAtURL(origin);
     if (isNew)
-        add({.kind = Kind::Added, .folder = folder, .place = folder.url(), .former = {}, .origin = {}});
-    add({.kind = Kind::Exchanged, .folder = folder, .place = place, .former = origin, .origin = origin});
+        add({.kind = Kind::Added,
+            .folder = folder,
+            .place = folder.url(),
+            .former = {},
+            .origin = {},
+            .formerAttributes = {}});
+    add({.kind = Kind::Exchanged,
+        .folder = folder,
+        .place = place,
+        .former = origin,
+        .origin = origin,
+        .formerAttributes = formerAttributes});
     return true;
 }
 
@@ -218,7 +228,12 @@ bool UnsavedFileChanges::removeFolder(const RecordFolder& folder, NSError* error
     const auto aside = noted ? noted->noteAside(folder, "", error) : std::nullopt;
     const bool isMoved = aside && NSFileManager::moveItemAtURL(place, *aside, error);
     // On a full disk it stays where it is until the deletion is saved.
-    add({.kind = Kind::Removed, .folder = folder, .place = place, .former = isMoved ? *aside : place, .origin = {}});
+    add({.kind = Kind::Removed,
+        .folder = folder,
+        .place = place,
+        .former = isMoved ? *aside : place,
+        .origin = {},
+        .formerAttributes = {}});
     return isMoved;
 }
 
@@ -233,133 +248,6 @@ void UnsavedFileChanges::takeBack(const RecordFolder& folder)
 void UnsavedFileChanges::deleteThumbnailsOnceSaved(fs::path image)
 {
     imagesWithoutRecord_.push_back(std::move(image));
-}
-
-// What becomes of the changes ----------------------------------------------------------------------------------------
-
-bool UnsavedFileChanges::prepareForSave(NSError* error)
-{
-    std::vector<fs::path> places;
-    std::ranges::copy_if(
-        unsynchronized_, std::back_inserter(places), NSFileManager::fileExistsAtURL); // others have gone again
-    if (!places.empty() && !NSFileManager::synchronizeItemsAtURLs(places, error))
-        return false;
-    unsynchronized_.clear();
-    return true;
-}
-
-void UnsavedFileChanges::didSave(NSManagedObjectContext& context)
-{
-    std::vector<std::string> identifiers;
-    for (const Change& change : changes_)
-        if (change.kind != Kind::Added)
-            identifiers.push_back(change.folder.identifier);
-    // A merge may have kept a record that was deleted here, or given it another name.
-    RecordsOfFolders living;
-    const bool isKnown = identifiers.empty() || fetchRecordsOfFolders(identifiers, context, living);
-    for (const Change& change : changes_)
-        finish(change, isKnown ? &living : nullptr);
-    if (!imagesWithoutRecord_.empty())
-        OVThumbFileManager::thumbFileManagerForPathComponent(OVNoteThumbFileDirectoryName)
-            ->deleteAllThumbsForImageURLs(imagesWithoutRecord_);
-    clear();
-}
-
-/// `living`: the records that are left; null when that could not be found out. Then nothing is removed that may be
-/// wanted.
-void UnsavedFileChanges::finish(const Change& change, const RecordsOfFolders* living)
-{
-    if (change.kind == Kind::Added)
-        return;
-    const auto record = living ? living->find(change.folder) : RecordsOfFolders::const_iterator();
-    const bool isWanted = !living || record != living->end();
-    NSError error;
-    if (change.kind == Kind::Exchanged) {
-        if (living)
-            finishExchange(change, isWanted ? record->second : nullptr);
-        return;
-    }
-    if (change.kind == Kind::Removed && isWanted && !NSFileManager::fileExistsAtURL(change.place))
-        logUnlessDone(NSFileManager::moveItemAtURL(change.former, change.place, &error), error);
-    else if (change.kind != Kind::Renamed && (change.former != change.place || !isWanted))
-        logUnlessDone(NSFileManager::removeItemAtURL(change.former, &error), error);
-    if (!living || !isWanted)
-        return;
-    if (!record->second->encryptedValue())
-        giveFileItsName(change.folder, record->second->storedFilename().value_or(""));
-    else if (change.kind == Kind::Renamed && hasItsFile(*record->second, change.place))
-        discard(change.place); // others have protected it under a name of their own
-}
-
-/// A merge may have kept the former file, or one that others have put in its place.
-void UnsavedFileChanges::finishExchange(const Change& change, const OVNoteFile* record)
-{
-    const auto stored = record ? record->primitiveFileURL() : std::nullopt;
-    const bool isThere = stored && NSFileManager::fileExistsAtURL(*stored);
-    NSError error;
-    if (change.place != stored)
-        discard(change.place);
-    if (change.former != stored && (isThere || !record))
-        discard(change.former);
-    else if (change.former != change.origin && NSFileManager::fileExistsAtURL(change.former))
-        logUnlessDone(NSFileManager::moveItemAtURL(change.former, change.origin, &error), error);
-    if (record && !isThere && !record->encryptedValue())
-        giveFileItsName(change.folder, record->storedFilename().value_or(""));
-}
-
-void UnsavedFileChanges::didSaveIntoParent(NSManagedObjectContext& parent)
-{
-    UnsavedFileChanges& target = ofContext(parent, storeUUID_);
-    std::ranges::move(changes_, std::back_inserter(target.changes_));
-    std::ranges::move(imagesWithoutRecord_, std::back_inserter(target.imagesWithoutRecord_));
-    target.unsynchronized_.merge(unsynchronized_);
-    if (!target.journal_)
-        target.journal_ = journal_;
-    clear();
-}
-
-void UnsavedFileChanges::didDropChanges()
-{
-    for (const Change& change : changes_ | std::views::reverse)
-        undo(change);
-    clear();
-}
-
-void UnsavedFileChanges::undo(const Change& change)
-{
-    NSError error;
-    if (change.kind == Kind::Added || change.kind == Kind::Replaced || change.kind == Kind::Exchanged)
-        discard(change.place);
-    if (change.kind == Kind::Exchanged) {
-        if (change.former != change.origin && NSFileManager::fileExistsAtURL(change.former))
-            logUnlessDone(NSFileManager::moveItemAtURL(change.former, change.origin, &error), error);
-        return;
-    }
-    if (change.kind != Kind::Added && change.former != change.place)
-        logUnlessDone(NSFileManager::moveItemAtURL(change.kind == Kind::Renamed ? change.place : change.former,
-                          change.kind == Kind::Renamed ? change.former : change.place, &error),
-            error);
-}
-
-/// Out of sight in one step, whatever it holds; what cannot be removed then goes with the journal.
-void UnsavedFileChanges::discard(const fs::path& item)
-{
-    if (!NSFileManager::fileExistsAtURL(item))
-        return;
-    NSError error;
-    const fs::path discarded = journal_->unusedURL();
-    if (NSFileManager::moveItemAtURL(item, discarded))
-        NSFileManager::removeItemAtURL(discarded);
-    else
-        logUnlessDone(NSFileManager::removeItemAtURL(item, &error), error);
-}
-
-void UnsavedFileChanges::clear()
-{
-    changes_.clear();
-    unsynchronized_.clear();
-    imagesWithoutRecord_.clear();
-    journal_.reset();
 }
 
 } // namespace tarn

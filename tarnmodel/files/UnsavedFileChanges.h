@@ -2,6 +2,7 @@
 
 #include "tarnmodel/files/RecordFolder.h"
 #include "tarnmodel/platform/coredata/SaveParticipant.h"
+#include "tarnmodel/platform/foundation/filesystem/NSFileManager.h"
 
 #include <cstdint>
 #include <filesystem>
@@ -65,6 +66,7 @@ private:
         std::filesystem::path place;  ///< what was made, or what has got another name or gone
         std::filesystem::path former; ///< of a renamed file its name before; else where it lies, if it was there
         std::filesystem::path origin; ///< of an exchanged file where the former one belongs
+        std::optional<NSFileAttributes> formerAttributes; ///< of an exchanged file what the former one was then
     };
 
     explicit UnsavedFileChanges(std::string storeUUID);

@@ -127,6 +127,8 @@ public:
     /// if there is one; `fileData` gives the bytes, and is asked once for each unused one that is looked at.
     static std::string safeFilenameForFilename(std::string_view filename, const OVNote& note,
         OVNoteFile*& matchedNoteFile, const std::function<NSFileWrapper()>& fileData);
+    /// Takes an attachment that was just made, and never saved, out of its context again, and from the disk at once.
+    void takeBack();
     /// Protects a new attachment of an encrypted, unlocked note as the note is; nothing otherwise. False and an error
     /// when it could not be protected, or there is no password to protect it with.
     static bool encryptFileIfNeeded(OVNoteFile& file, NSError* error = nullptr);
