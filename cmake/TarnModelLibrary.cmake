@@ -13,5 +13,6 @@ target_compile_features(TarnModel PUBLIC cxx_std_20)
 target_link_libraries(TarnModel
   PUBLIC tarn_coredata tarn_cloudkit tarn_corvel tarn_imaging tarn_predicate tarn_foundation nlohmann_json::nlohmann_json
   PRIVATE fmt::fmt ${CMAKE_DL_LIBS} $<BUILD_INTERFACE:tarn_sodium> $<INSTALL_INTERFACE:sodium>
+    $<BUILD_INTERFACE:tarn_archive> $<INSTALL_INTERFACE:archive>
     $<BUILD_INTERFACE:tarn_md> $<INSTALL_INTERFACE:md>
     $<BUILD_INTERFACE:tarn_build_flags>)
