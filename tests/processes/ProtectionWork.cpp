@@ -107,7 +107,9 @@ int numberAfter(std::string_view mark, const std::string& text)
 PlayedNote playedNote(int number, const OVNote& note)
 {
     const std::string text = note.text().value_or("");
-    PlayedNote played{.revision = numberAfter(" text revision ", text), .isProtected = note.encryptedValue()};
+    PlayedNote played;
+    played.revision = numberAfter(" text revision ", text);
+    played.isProtected = note.encryptedValue();
     for (const OVNoteFile* file : note.filesSet().allObjects()) {
         require(file->encryptedValue() == played.isProtected, NSError("", 0, "a file is not protected as its note is"));
         require(!file->isUnused(), NSError("", 0, "a file is not in use"));

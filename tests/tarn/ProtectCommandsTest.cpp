@@ -62,7 +62,7 @@ TEST_F(ProtectCommands, MakeTheFirstPasswordAndEncryptTheText)
     EXPECT_THAT(result.errors, HasSubstr("first password"));
     EXPECT_EQ(stored("SELECT encrypted FROM OVNote"), "1");
     EXPECT_EQ(stored("SELECT text IS NULL FROM OVNote_large"), "1");
-    EXPECT_EQ(json({"passwords"}).at("passwords"), SizeIs(1));
+    EXPECT_THAT(json({"passwords"}).at("passwords"), SizeIs(1));
     EXPECT_THAT(allBytesIn(store()), Not(HasSubstr("MARKER-OF-THE-TEXT")));
     EXPECT_EQ(output(withPassword({"show", identifier})), "# Diary\n\nMARKER-OF-THE-TEXT");
 }

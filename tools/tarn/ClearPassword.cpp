@@ -66,9 +66,9 @@ public:
         termios silent = before_;
         silent.c_lflag &= ~static_cast<tcflag_t>(ECHO);
         silent.c_lflag |= ECHONL;
-        ::tcsetattr(descriptor_, TCSAFLUSH, &silent);
+        ::tcsetattr(descriptor_, TCSADRAIN, &silent);
     }
-    ~SilentTerminal() { ::tcsetattr(descriptor_, TCSAFLUSH, &before_); }
+    ~SilentTerminal() { ::tcsetattr(descriptor_, TCSADRAIN, &before_); }
     SilentTerminal(const SilentTerminal&) = delete;
     SilentTerminal& operator=(const SilentTerminal&) = delete;
 
