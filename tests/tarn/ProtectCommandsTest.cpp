@@ -40,10 +40,16 @@ protected:
         return arguments;
     }
     void addPassword() const { output(withPassword({"password", "add", "--memory", "1", "--hint", "the usual"})); }
+    /// By the password of the store, or a first one, which is told of.
+    void protect(const std::string& identifier) const
+    {
+        const TarnResult result = run(withPassword({"protect", identifier, "--memory", "1"}));
+        EXPECT_EQ(result.exitCode, 0) << result.errors;
+    }
     std::string protectedNote(const std::string& text) const
     {
         const std::string identifier = note(text);
-        output(withPassword({"protect", identifier, "--memory", "1"}));
+        protect(identifier);
         return identifier;
     }
     std::string identifierOfPassword() const
@@ -86,10 +92,10 @@ TEST_F(ProtectCommands, LeaveALockedNoteAloneAndEndWith3)
 
 TEST_F(ProtectCommands, EditAProtectedNoteWithItsPassword)
 {
-    protectedNote("# Diary\n\n#home first");
+    protectedNote("# Diary\n\nfirst #home");
     output(withPassword({"append", "Diary", "second"}));
     output(withPassword({"tag", "rename", "home", "house"}));
-    EXPECT_EQ(output(withPassword({"show", "Diary"})), "# Diary\n\n#house first\nsecond");
+    EXPECT_EQ(output(withPassword({"show", "Diary"})), "# Diary\n\nfirst #house\nsecond");
     EXPECT_EQ(stored("SELECT count(*) FROM OVNote_large WHERE text IS NOT NULL"), "0");
     EXPECT_EQ(stored("SELECT subtitle IS NULL FROM OVNote"), "1");
 }
@@ -133,7 +139,7 @@ TEST_F(ProtectCommands, AskOnTheTerminalWithoutShowingWhatIsTyped)
 {
     protectedNote("# Diary\n\nthe text");
     TarnProcess process(arguments({"show", "Diary"}));
-    process.useTerminal();
+    process.useTerminalAnsweringQuestions();
     process.setInput("wrong\ncorrect horse\n");
     const TarnResult result = process.finish();
     EXPECT_EQ(result.exitCode, 0) << result.output;
@@ -147,7 +153,7 @@ TEST_F(ProtectCommands, AskTwiceForAFirstPassword)
 {
     note("# Diary\n\nthe text");
     TarnProcess process(arguments({"protect", "Diary", "--memory", "1"}));
-    process.useTerminal();
+    process.useTerminalAnsweringQuestions();
     process.setInput("one\nanother\ncorrect horse\ncorrect horse\n");
     const TarnResult result = process.finish();
     EXPECT_EQ(result.exitCode, 0) << result.output;
@@ -171,7 +177,7 @@ TEST_F(ProtectCommands, ProtectAttachmentsAndGiveThemBack)
     const std::string identifier = note("# Diary");
     const std::string attached = file("picture of me.txt", "MARKER-OF-THE-BYTES").string();
     output({"attach", identifier, attached});
-    output(withPassword({"protect", identifier, "--memory", "1"}));
+    protect(identifier);
     const std::string bytes = allBytesIn(store());
     EXPECT_THAT(bytes, Not(HasSubstr("MARKER-OF-THE-BYTES")));
     EXPECT_THAT(bytes, Not(HasSubstr("picture of me")));
