@@ -14,6 +14,10 @@ add_library(tarn_sodium INTERFACE)
 target_include_directories(tarn_sodium SYSTEM INTERFACE "${TARN_SODIUM_INCLUDE_DIR}")
 target_link_libraries(tarn_sodium INTERFACE "${TARN_SODIUM_LIBRARY}")
 
+find_package(LibArchive 3.6 REQUIRED)
+add_library(tarn_archive INTERFACE)
+target_link_libraries(tarn_archive INTERFACE LibArchive::LibArchive)
+
 find_path(TARN_WEBP_INCLUDE_DIR webp/demux.h REQUIRED)
 find_library(TARN_WEBP_LIBRARY webp REQUIRED)
 find_library(TARN_WEBP_DEMUX_LIBRARY webpdemux REQUIRED)
