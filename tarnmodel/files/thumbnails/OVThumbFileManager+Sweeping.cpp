@@ -46,8 +46,8 @@ std::string_view baseOf(std::string_view name)
 {
     if (const std::string draft = ThumbDraft::nameBeginning(""); name.starts_with(draft))
         name.remove_prefix(draft.size());
-    const bool isBase = name.size() > kBaseLength
-        && name.find_first_not_of("0123456789abcdef") == kBaseLength && name[kBaseLength] == '_';
+    const bool isBase = name.size() > kBaseLength && name.find_first_not_of("0123456789abcdef") == kBaseLength
+        && name[kBaseLength] == '_';
     return isBase ? name.substr(0, kBaseLength) : std::string_view();
 }
 

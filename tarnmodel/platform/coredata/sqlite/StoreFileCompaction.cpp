@@ -35,8 +35,8 @@ void writeMetadata(const fs::path& file, const std::map<std::string, std::string
 
 } // namespace
 
-bool compactStoreFile(HeldStoreFile& store, const fs::path& place, const std::map<std::string, std::string>& metadata,
-    NSError* error)
+bool compactStoreFile(
+    HeldStoreFile& store, const fs::path& place, const std::map<std::string, std::string>& metadata, NSError* error)
 {
     removeWithJournal(place);
     const bool isDone = reportingFailure(error, [&] {
