@@ -8,6 +8,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <fstream>
 #include <functional>
 
 namespace tarn {
@@ -24,7 +25,10 @@ int answerWithLittleMemory(rlim_t bytes, const std::function<int()>& work)
 {
     const pid_t child = ::fork();
     if (child == 0) {
-        const rlimit limit{bytes, bytes};
+        rlim_t pages = 0;
+        std::ifstream("/proc/self/statm") >> pages;
+        const rlim_t most = pages * static_cast<rlim_t>(::sysconf(_SC_PAGESIZE)) + bytes;
+        const rlimit limit{most, most};
         ::setrlimit(RLIMIT_AS, &limit);
         ::_exit(work());
     }
@@ -77,7 +81,7 @@ TEST(KeyDerivation, TakesCostsToTheLimits)
 #ifndef TARN_SANITIZED
 TEST(KeyDerivation, TakesLessMemoryWhereThereIsNotEnough)
 {
-    const int memory = answerWithLittleMemory(rlim_t{220} << 20U, [] {
+    const int memory = answerWithLittleMemory(rlim_t{150} << 20U, [] {
         const auto password = passwordInUse("secret", nullptr);
         const auto derived = deriveNewKey(*password, {1, 256U << 10U}, nullptr);
         const bool isSmaller
@@ -89,7 +93,7 @@ TEST(KeyDerivation, TakesLessMemoryWhereThereIsNotEnough)
 
 TEST(KeyDerivation, FailsWithoutMemory)
 {
-    const int code = answerWithLittleMemory(rlim_t{50} << 20U, [] {
+    const int code = answerWithLittleMemory(rlim_t{20} << 20U, [] {
         NSError error;
         const auto password = passwordInUse("secret", nullptr);
         return deriveNewKey(*password, {1, 256U << 10U}, &error) ? 99 : static_cast<int>(error.code());

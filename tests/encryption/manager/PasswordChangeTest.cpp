@@ -190,8 +190,26 @@ TEST_F(PasswordChanges, ProtectNothingUnderAKeyThatTheRecordDoesNotKeep)
     PlainNote& note = plainNote("text");
     EXPECT_FALSE(manager->addEncryptionToObject(note, password, &error));
     EXPECT_EQ(error.code(), OVEncryptionErrorLocked);
+    PlainNote late(theirs);
+    late.text = "late";
+    ASSERT_TRUE(other.addEncryptionToObject(late, theirs, nullptr));
+    late.state.password = &password;
+    EXPECT_EQ(manager->reasonForLock(late).code(), OVEncryptionErrorLocked);
     ASSERT_TRUE(isRight(password, "secret"));
     EXPECT_TRUE(manager->addEncryptionToObject(note, password, &error)) << error;
+    EXPECT_EQ(manager->textForNote(late, nullptr), "late");
+}
+
+TEST_F(PasswordChanges, ThatARecordDoesNotShowYetDoNoHarm)
+{
+    OVPassword& password = savedPassword("secret");
+    const auto before = password.verifier();
+    ASSERT_TRUE(manager->rotateMasterKey(password, "secret", nullptr));
+    password.setVerifier(before); // as a context sees it that was not told yet, or after a backup was put back
+    const PlainNote& note = protectedNote("text", password);
+    manager->lock();
+    ASSERT_TRUE(isRight(password, "secret"));
+    EXPECT_EQ(manager->textForNote(note, nullptr), "text");
 }
 
 TEST_F(PasswordChanges, OfAnotherProcessToTheSameKeysNeedNoUnlocking)
