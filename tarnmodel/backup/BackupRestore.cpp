@@ -62,6 +62,24 @@ private:
     bool isResumed_ = false;
 };
 
+/// What of an archive is damaged that was refused. Where that cannot be told, the refusal is.
+void listDamage(const std::filesystem::path& file, const NSError& refusal, const BackupReadOptions& options,
+    BackupExamination& found)
+{
+    try {
+        MemberChecker checker;
+        ArchiveContents contents(file, options.limits, ArchiveContents::Damage::Listed, options.progress);
+        addOmissions(contents.readMembers(checker), found.damaged);
+        found.manifest = contents.manifest();
+    } catch (const BackupFailure& failure) {
+        if (failure.error().code() == BackupErrorCancelled)
+            throw;
+        throw BackupFailure(refusal);
+    }
+    if (found.damaged.empty())
+        found.damaged.push_back({file.filename().string(), refusal.localizedDescription()});
+}
+
 class Restore {
 public:
     Restore(NSManagedObjectContext& context, const BackupReadOptions& options)
@@ -158,12 +176,7 @@ std::optional<BackupExamination> BackupRestore::examine(const BackupReadOptions&
             refusal = failure.error();
             if (refusal.domain() != TarnBackupErrorDomain || refusal.code() != BackupErrorDamaged)
                 throw;
-            // What of it is damaged?
-            ArchiveContents contents(file_, options.limits, ArchiveContents::Damage::Listed, options.progress);
-            addOmissions(contents.readMembers(checker), found.damaged);
-            found.manifest = contents.manifest();
-            if (found.damaged.empty())
-                found.damaged.push_back({file_.filename().string(), refusal.localizedDescription()});
+            listDamage(file_, refusal, options, found);
         }
         examination = std::move(found);
     });
