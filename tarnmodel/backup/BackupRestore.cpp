@@ -31,6 +31,16 @@ void addOmissions(const std::vector<DamagedMember>& damaged, std::vector<BackupO
         omissions.push_back({member.name, "damaged: it " + member.reason});
 }
 
+void requireKnownModel(const BackupManifest& manifest)
+{
+    // A version that names a folder is none.
+    if (manifest.modelVersion.find('/') != std::string::npos
+        || !OVManagedObjectModel::modelURLForVersion(manifest.modelVersion))
+        throw BackupFailure(BackupErrorNewer,
+            "the backup is of the version \"" + manifest.modelVersion
+                + "\" of the model, which this program does not know");
+}
+
 /// Only compares.
 class MemberChecker final : public ArchiveContents::Taker {
 public:
@@ -89,8 +99,10 @@ public:
     {
         ArchiveContents contents(file, options_.limits, damageFor(options_), options_.progress);
         restoration_.manifest = contents.manifest();
+        requireKnownModel(restoration_.manifest);
         BackupExtraction extraction(scratch_.url());
         addOmissions(contents.readMembers(extraction), restoration_.skipped);
+        restoration_.damaged = restoration_.skipped.size();
         const std::filesystem::path store = scratch_.url() / "store.sqlite";
         BackupRecords::fill(store, extraction, contents.manifest().modelVersion, options_.limits.recordBytes, goesOn_);
         bringForward(store);
@@ -171,6 +183,7 @@ std::optional<BackupExamination> BackupRestore::examine(const BackupReadOptions&
         try {
             ArchiveContents contents(file_, options.limits, ArchiveContents::Damage::Refused, options.progress);
             contents.readMembers(checker);
+            requireKnownModel(contents.manifest());
             found.manifest = contents.manifest();
         } catch (const BackupFailure& failure) {
             refusal = failure.error();

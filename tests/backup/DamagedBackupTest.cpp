@@ -43,7 +43,7 @@ protected:
     void writeArchive(const std::string& manifest, const Members& members) const
     {
         const FileDescriptor descriptor(::open(archive().c_str(), O_RDWR | O_CREAT | O_TRUNC, 0600));
-        ArchiveWriter writer(descriptor.get(), archive(), NSDate());
+        ArchiveWriter writer(descriptor.get(), archive(), NSDate(), ArchiveWriter::Names::Ascii);
         const auto add = [&](const std::string& name, std::string_view bytes) {
             writer.addMember(
                 name, bytes.size(), [&](const ArchiveWriter::Sink& sink) { sink(std::as_bytes(std::span(bytes))); });
