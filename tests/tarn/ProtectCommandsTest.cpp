@@ -301,4 +301,28 @@ TEST_F(ProtectCommands, EditAProtectedNoteInTheEditorWithoutLeavingItsText)
     EXPECT_THAT(allBytesIn(temporary), Not(HasSubstr("MARKER-OF-THE-TEXT")));
 }
 
+TEST_F(ProtectCommands, WriteTheFileAnewWhereClearTextLiesInFreePages)
+{
+    const std::string identifier = note("# Diary\n\nfirst");
+    // As an older program left it, which wiped nothing.
+    damage("PRAGMA secure_delete = 0; CREATE TABLE left_over (text); INSERT INTO left_over VALUES "
+           "('MARKER-OF-FREE-PAGES' || hex(zeroblob(40000))); DROP TABLE left_over");
+    ASSERT_THAT(allBytesIn(store()), HasSubstr("MARKER-OF-FREE-PAGES"));
+    protect(identifier);
+    EXPECT_THAT(allBytesIn(store()), Not(HasSubstr("MARKER-OF-FREE-PAGES")));
+    EXPECT_EQ(output(withPassword({"show", identifier})), "# Diary\n\nfirst");
+    EXPECT_EQ(run({"doctor"}).exitCode, 0);
+}
+
+TEST_F(ProtectCommands, NameAStoreThatWasSetAside)
+{
+    const std::string identifier = note("# Diary\n\nfirst");
+    const std::filesystem::path aside = database().parent_path() / "database_backup 2024-01-31T101500Z.sqlite";
+    std::filesystem::copy_file(database(), aside);
+    const TarnResult result = run(withPassword({"protect", identifier, "--memory", "1"}));
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_THAT(result.errors, HasSubstr(aside.filename().string()));
+    EXPECT_TRUE(std::filesystem::exists(aside));
+}
+
 } // namespace tarn::test
