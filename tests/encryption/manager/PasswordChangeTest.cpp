@@ -223,6 +223,72 @@ TEST_F(PasswordChanges, OfAnotherProcessToTheSameKeysNeedNoUnlocking)
     EXPECT_TRUE(manager->hasCachedPassword(password));
 }
 
+/// What one of two processes has: a store, a manager and a queue of its own.
+class OtherProcess {
+public:
+    OtherProcess(std::shared_ptr<NSPersistentStoreCoordinator> coordinator, const OVEncryptionOptions& options,
+        const std::string& passwordIdentifier)
+        : context(NSManagedObjectContext::ConcurrencyType::PrivateQueue)
+    {
+        context.setPersistentStoreCoordinator(std::move(coordinator));
+        context.performBlockAndWait([&] {
+            manager = std::make_unique<OVEncryptionCoreManager>(context, options);
+            password = OVPassword::passwordWithUniqueIdentifier(passwordIdentifier, context);
+        });
+    }
+    ~OtherProcess()
+    {
+        context.performBlockAndWait([&] { manager.reset(); });
+    }
+    OtherProcess(const OtherProcess&) = delete;
+    OtherProcess& operator=(const OtherProcess&) = delete;
+
+    NSManagedObjectContext context;
+    std::unique_ptr<OVEncryptionCoreManager> manager;
+    OVPassword* password = nullptr;
+};
+
+TEST_F(PasswordChanges, OfTwoProcessesAtOnceLoseNoKey)
+{
+    constexpr int rounds = 8;
+    OVPassword& password = savedPassword("word");
+    const std::string identifier = password.uniqueIdentifier().value();
+    OtherProcess one(openAgain(), options(), identifier);
+    OtherProcess other(openAgain(), options(), identifier);
+    one.context.performBlock([&] {
+        for (int round = 0; round < rounds; ++round) {
+            NSError error;
+            EXPECT_TRUE(one.manager->rotateMasterKey(*one.password, "word", &error)) << error;
+        }
+    });
+    std::vector<NSData> sealed;
+    other.context.performBlockAndWait([&] {
+        for (int round = 0; round < rounds; ++round) {
+            NSError error;
+            EXPECT_TRUE(other.manager->changePassword(*other.password, "word", "word", &error)) << error;
+            PlainNote note(*other.password);
+            note.text = "text";
+            EXPECT_TRUE(other.manager->addEncryptionToObject(note, *other.password, &error)) << error;
+            sealed.push_back(*note.state.encryptedData);
+            sealed.push_back(NSData::fromText(*note.state.encryptionUniqueIdentifier));
+        }
+    });
+    one.context.performBlockAndWait([] {});
+    context().refreshAllObjects();
+    ASSERT_TRUE(isRight(password, "word"));
+    EXPECT_EQ(PasswordBlob::read(*password.verifier(), nullptr)
+                  ->open(*deriveKey(*passwordInUse("word", nullptr),
+                             PasswordBlob::read(*password.verifier(), nullptr)->derivation(), nullptr),
+                      identifier, nullptr)
+                  ->size(),
+        rounds + 1U);
+    for (std::size_t index = 0; index < sealed.size(); index += 2) {
+        PlainNote& note = plainNote(std::nullopt);
+        note.state = {true, sealed[index], std::nullopt, std::string(sealed[index + 1].text()), &password};
+        EXPECT_EQ(manager->textForNote(note, nullptr), "text");
+    }
+}
+
 class PasswordChangesOnABrokenDisk : public EncryptionFixture {
 protected:
     PasswordChangesOnABrokenDisk() : EncryptionFixture(StoreType::SQLite) { }
