@@ -87,7 +87,7 @@ void UnlockedKeys::lockRing(Ring ring, Outcome& outcome)
 
 bool UnlockedKeys::isDue(const Ring& ring, NSDate now) const
 {
-    if (timeLimit_ == std::chrono::microseconds(0))
+    if (timeLimit_ <= std::chrono::microseconds(0))
         return false;
     const std::chrono::microseconds unused = now - ring.lastUse;
     return unused > timeLimit_ || unused < -kClockCorrection;
@@ -187,7 +187,7 @@ std::optional<std::chrono::microseconds> UnlockedKeys::lockWhatIsDue()
 {
     return use([&](NSDate present) -> std::optional<std::chrono::microseconds> {
         std::optional<std::chrono::microseconds> least;
-        if (timeLimit_ == std::chrono::microseconds(0))
+        if (timeLimit_ <= std::chrono::microseconds(0))
             return least;
         for (const Ring& ring : open_) {
             const std::chrono::microseconds rest = timeLimit_ - (present - ring.lastUse);

@@ -44,7 +44,8 @@ OVEncryptionCoreManager::Vault::Vault(const OVEncryptionCoreManager& manager, co
                            UnlockedKeys::Events{
                                .didUnlock =
                                    [this] {
-                                       watch_.begin();
+                                       if (options.timeLimit > std::chrono::seconds(0))
+                                           watch_.begin();
                                        post(OVEncryptionCoreManagerDidUnlockNotification, manager_);
                                    },
                                .didLock =
