@@ -1,5 +1,7 @@
 #include "tarnmodel/encryption/manager/PasswordChange.h"
 
+#include "tarnmodel/encryption/keys/SodiumInternal.h"
+#include "tarnmodel/platform/foundation/events/NSNotificationCenter.h"
 #include "tests/encryption/EncryptionFixture.h"
 #include "tests/support/FaultyDisk.h"
 
@@ -210,6 +212,36 @@ TEST_F(PasswordChanges, ThatARecordDoesNotShowYetDoNoHarm)
     manager->lock();
     ASSERT_TRUE(isRight(password, "secret"));
     EXPECT_EQ(manager->textForNote(note, nullptr), "text");
+}
+
+TEST_F(PasswordChanges, ProtectNothingForARecordThatItsKeyDoesNotVouchFor)
+{
+    OVPassword& password = savedPassword("secret");
+    const NSData sound = *password.verifier();
+    std::vector<std::byte> bytes(sound.span().begin(), sound.span().end());
+    bytes[110] ^= std::byte{1}; // of the key that it would have to give back later
+    const auto content = std::span(bytes).first(bytes.size() - 16);
+    crypto_generichash(octets(std::span(bytes).last(16)), 16, octets(content), content.size(), nullptr, 0);
+    password.setVerifier(NSData(bytes));
+    EXPECT_FALSE(manager->hasCachedPassword(password));
+    NSError error;
+    EXPECT_FALSE(manager->addEncryptionToObject(plainNote("text"), password, &error));
+    EXPECT_EQ(error.code(), OVEncryptionErrorLocked);
+}
+
+TEST_F(PasswordChanges, ThatAreNotWhatWasSavedAreNone)
+{
+    OVPassword& password = savedPassword("old");
+    const auto before = password.verifier();
+    const auto meddling = NSNotificationCenter::defaultCenter().addObserver(
+        NSManagedObjectContextWillSaveNotification, &context(), [&](const NSNotification&) {
+            if (password.verifier() != before)
+                password.setVerifier(before);
+        });
+    NSError error;
+    EXPECT_FALSE(manager->changePassword(password, "old", "new", &error));
+    EXPECT_EQ(error.code(), OVEncryptionErrorStore);
+    EXPECT_TRUE(isRight(password, "old"));
 }
 
 TEST_F(PasswordChanges, OfAnotherProcessToTheSameKeysNeedNoUnlocking)
