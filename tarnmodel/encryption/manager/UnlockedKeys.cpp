@@ -157,10 +157,11 @@ std::shared_ptr<void> UnlockedKeys::hold()
     return use([&](NSDate) -> std::shared_ptr<void> {
         const Token token = ++lastToken_;
         holders_.emplace(token, std::this_thread::get_id());
-        return {nullptr, [keys = weak_from_this(), token](void*) {
-                    if (const auto still = keys.lock())
-                        still->release(token);
-                }};
+        const auto release = [keys = weak_from_this(), token](void*) {
+            if (const auto still = keys.lock())
+                still->release(token);
+        };
+        return std::shared_ptr<void>(this, release); // not null, and not to be followed
     });
 }
 

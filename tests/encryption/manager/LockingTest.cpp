@@ -160,6 +160,7 @@ TEST_F(Locking, WaitsForWhoHolds)
     OVPassword& password = passwordOf("secret");
     PlainNote& note = protectedNote("text", password);
     auto hold = manager->holdUnlocked();
+    EXPECT_TRUE(hold);
     manager->lock();
     EXPECT_EQ(manager->textForNote(note, nullptr), "text");
     EXPECT_TRUE(manager->hasCachedPassword(password));
