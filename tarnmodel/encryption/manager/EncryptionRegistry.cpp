@@ -1,5 +1,6 @@
-#include "tarnmodel/encryption/OVEncryptionCoreManager.h"
+#include "tarnmodel/encryption/manager/EncryptionRegistry.h"
 
+#include "tarnmodel/encryption/OVEncryptionCoreManager.h"
 #include "tarnmodel/platform/coredata/NSManagedObjectContext.h"
 #include "tarnmodel/platform/foundation/values/NSException.h"
 
@@ -55,14 +56,19 @@ private:
 
 } // namespace
 
-OVEncryptionCoreManagerProtocol::~OVEncryptionCoreManagerProtocol()
+void endEncryptionService(const OVEncryptionCoreManagerProtocol& manager)
 {
     std::lock_guard lock(registry().mutex);
     for (auto& [context, service] : registry().services) {
-        if (service.manager == this)
+        if (service.manager == &manager)
             service.manager = nullptr;
     }
     registry().forgetIdleServices();
+}
+
+OVEncryptionCoreManagerProtocol::~OVEncryptionCoreManagerProtocol()
+{
+    endEncryptionService(*this);
 }
 
 // A manager that protects less than there is leaves it as it was stored.

@@ -15,7 +15,7 @@ constexpr std::chrono::microseconds kShortestWait = std::chrono::milliseconds(1)
 
 } // namespace
 
-IdleWatch::IdleWatch(Check check) : check_(std::move(check)) { }
+IdleWatch::IdleWatch(std::chrono::microseconds limit, Check check) : limit_(limit), check_(std::move(check)) { }
 
 IdleWatch::~IdleWatch()
 {
@@ -45,18 +45,19 @@ void IdleWatch::begin()
 void IdleWatch::watch()
 {
     std::unique_lock lock(mutex_);
+    std::optional<std::chrono::microseconds> rest;
     while (!isEnding_) {
-        if (!std::exchange(isAsked_, false)) {
+        if (!rest && !isAsked_) {
             changed_.wait(lock);
             continue;
         }
+        const auto wait = std::clamp(rest.value_or(limit_), kShortestWait, kLongestWait);
+        if (changed_.wait_for(lock, wait, [this] { return isEnding_; }))
+            break;
+        isAsked_ = false; // who asks from here on is not part of this check
         lock.unlock();
-        const auto rest = check_();
+        rest = check_();
         lock.lock();
-        if (!rest || isEnding_)
-            continue;
-        isAsked_ = true;
-        changed_.wait_for(lock, std::clamp(*rest, kShortestWait, kLongestWait));
     }
 }
 

@@ -16,7 +16,8 @@ public:
     /// Does what is due, and says how long it is until there may be more; none when there is nothing to wait for.
     using Check = std::function<std::optional<std::chrono::microseconds>()>;
 
-    explicit IdleWatch(Check check);
+    /// `limit`: how long after the beginning there can be nothing due.
+    IdleWatch(std::chrono::microseconds limit, Check check);
     ~IdleWatch();
     IdleWatch(const IdleWatch&) = delete;
     IdleWatch& operator=(const IdleWatch&) = delete;
@@ -28,6 +29,7 @@ public:
 private:
     void watch();
 
+    const std::chrono::microseconds limit_;
     const Check check_;
     std::mutex mutex_;
     std::condition_variable changed_;

@@ -1,6 +1,7 @@
 #include "tarnmodel/encryption/OVEncryptionCoreManager.h"
 
 #include "tarnmodel/encryption/keys/EncryptionErrors.h"
+#include "tarnmodel/encryption/manager/EncryptionRegistry.h"
 #include "tarnmodel/encryption/manager/Vault.h"
 #include "tarnmodel/platform/foundation/system/Environment.h"
 
@@ -16,7 +17,10 @@ OVEncryptionCoreManager::OVEncryptionCoreManager(NSManagedObjectContext& context
     setEncryptionCoreManager(this, context);
 }
 
-OVEncryptionCoreManager::~OVEncryptionCoreManager() = default;
+OVEncryptionCoreManager::~OVEncryptionCoreManager()
+{
+    endEncryptionService(*this); // before there is nothing behind it any more
+}
 
 bool OVEncryptionCoreManager::isDecryptedFile(const std::filesystem::path& file)
 {

@@ -77,7 +77,7 @@ std::optional<KeyRing> PasswordChange::run(const DerivedKey* newKey, std::option
         NSError saving;
         const bool isSaved = context.performExclusive(
             [&] {
-                context.refreshObject(object, true);
+                context.refreshObject(object, true); // also below changes that are not saved
                 result = write(newKey, newest, &failure);
             },
             &saving);

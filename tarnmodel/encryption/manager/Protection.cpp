@@ -6,7 +6,7 @@
 #include "tarnmodel/platform/foundation/system/NSUUID.h"
 
 #include <algorithm>
-#include <ranges>
+#include <iterator>
 #include <system_error>
 
 namespace tarn {
@@ -152,9 +152,9 @@ bool Protection::inOrder(Go go, Go back, NSError* error)
     const auto failed = std::ranges::find_if(steps_, [&](const Step& step) { return !(this->*go)(step, error); });
     if (failed == steps_.end())
         return true;
-    for (const Step& step : std::ranges::subrange(steps_.begin(), failed) | std::views::reverse) {
+    for (auto step = std::make_reverse_iterator(failed); step != steps_.rend(); ++step) {
         NSError failure;
-        if (!(this->*back)(step, &failure)) // whole, and readable, but not as it was
+        if (!(this->*back)(*step, &failure)) // whole, and readable, but not as it was
             logMessage("The protection of an attachment could not be taken back: " + failure.localizedDescription());
     }
     return false;

@@ -87,7 +87,7 @@ void UnlockedKeys::lockRing(Ring ring, Outcome& outcome)
 
 bool UnlockedKeys::isDue(const Ring& ring, NSDate now) const
 {
-    if (timeLimit_ == std::chrono::microseconds(0))
+    if (timeLimit_ <= std::chrono::microseconds(0))
         return false;
     const std::chrono::microseconds unused = now - ring.lastUse;
     return unused > timeLimit_ || unused < -kClockCorrection;
@@ -157,10 +157,11 @@ std::shared_ptr<void> UnlockedKeys::hold()
     return use([&](NSDate) -> std::shared_ptr<void> {
         const Token token = ++lastToken_;
         holders_.emplace(token, std::this_thread::get_id());
-        return {nullptr, [keys = weak_from_this(), token](void*) {
-                    if (const auto still = keys.lock())
-                        still->release(token);
-                }};
+        const auto release = [keys = weak_from_this(), token](void*) {
+            if (const auto still = keys.lock())
+                still->release(token);
+        };
+        return std::shared_ptr<void>(this, release); // not null, and not to be followed
     });
 }
 
@@ -187,7 +188,7 @@ std::optional<std::chrono::microseconds> UnlockedKeys::lockWhatIsDue()
 {
     return use([&](NSDate present) -> std::optional<std::chrono::microseconds> {
         std::optional<std::chrono::microseconds> least;
-        if (timeLimit_ == std::chrono::microseconds(0))
+        if (timeLimit_ <= std::chrono::microseconds(0))
             return least;
         for (const Ring& ring : open_) {
             const std::chrono::microseconds rest = timeLimit_ - (present - ring.lastUse);

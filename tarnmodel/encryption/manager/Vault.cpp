@@ -44,7 +44,8 @@ OVEncryptionCoreManager::Vault::Vault(const OVEncryptionCoreManager& manager, co
                            UnlockedKeys::Events{
                                .didUnlock =
                                    [this] {
-                                       watch_.begin();
+                                       if (options.timeLimit > std::chrono::seconds(0))
+                                           watch_.begin();
                                        post(OVEncryptionCoreManagerDidUnlockNotification, manager_);
                                    },
                                .didLock =
@@ -58,7 +59,8 @@ OVEncryptionCoreManager::Vault::Vault(const OVEncryptionCoreManager& manager, co
                                        copies.removeOfPassword(password);
                                    },
                            })),
-      copies(options.scratchDirectory), manager_(&manager), watch_([this] { return keys->lockWhatIsDue(); })
+      copies(options.scratchDirectory), manager_(&manager),
+      watch_(options.timeLimit, [this] { return keys->lockWhatIsDue(); })
 {
     MainQueue::main(); // its thread is to own it, not the one that watches
 }

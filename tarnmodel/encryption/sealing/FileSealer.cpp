@@ -16,16 +16,12 @@ namespace tarn {
 struct FileSealer::Stream {
     FileDescriptor file;
     std::string identifier;
-    crypto_secretstream_xchacha20poly1305_state state;
+    StreamState state;
     std::uint64_t pieces = 0;
     std::vector<std::byte> clear; ///< of the piece that is being filled
     std::vector<std::byte> encrypted;
 
-    ~Stream()
-    {
-        sodium_memzero(&state, sizeof state);
-        sodium_memzero(clear.data(), clear.size());
-    }
+    ~Stream() { sodium_memzero(clear.data(), clear.size()); }
 };
 
 FileSealer::FileSealer(std::filesystem::path place, ContentKind kind, std::uint64_t length, std::string_view identifier)
@@ -51,8 +47,8 @@ bool FileSealer::begin(const SecretBytes& objectKey, NSError* error)
         return failFileAccess(error, errno, place_, "written");
     std::array<std::byte, crypto_secretstream_xchacha20poly1305_HEADERBYTES> head;
     fillWithRandom(head);
-    // Both ends of a stream begin alike. The end that writes would take its head from another source of random bytes.
-    crypto_secretstream_xchacha20poly1305_init_pull(&stream_->state, octets(std::span(head)), octets(key->span()));
+    if (!stream_->state.begin(*key, head, error))
+        return false;
     stream_->clear.reserve(sealedPieceLength);
     const auto contentLength = littleEndian(restOfContent_);
     const std::byte kind{static_cast<std::uint8_t>(kind_)};
@@ -88,8 +84,9 @@ bool FileSealer::writePiece(NSError* error)
     const std::vector<std::byte> context = contextOfPiece(stream_->pieces++, stream_->identifier);
     const unsigned char tag = restOfStream_ == 0 ? crypto_secretstream_xchacha20poly1305_TAG_FINAL
                                                  : crypto_secretstream_xchacha20poly1305_TAG_MESSAGE;
-    crypto_secretstream_xchacha20poly1305_push(&stream_->state, octets(std::span(stream_->encrypted)), nullptr,
+    crypto_secretstream_xchacha20poly1305_push(stream_->state.get(), octets(std::span(stream_->encrypted)), nullptr,
         octets(std::span(stream_->clear)), stream_->clear.size(), octets(std::span(context)), context.size(), tag);
+    sodium_memzero(stream_->clear.data(), stream_->clear.size());
     stream_->clear.clear();
     return writeAll(stream_->file, stream_->encrypted, place_, error);
 }

@@ -1,12 +1,15 @@
 #pragma once
 
 #include "tarnmodel/encryption/keys/ByteFields.h"
+#include "tarnmodel/encryption/keys/KeyArena.h"
 #include "tarnmodel/encryption/keys/SodiumInternal.h"
 #include "tarnmodel/encryption/sealing/ClearFields.h"
 #include "tarnmodel/encryption/sealing/PaddedLength.h"
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
+#include <span>
 #include <string_view>
 #include <vector>
 
@@ -42,5 +45,27 @@ inline std::vector<std::byte> contextOfPiece(std::uint64_t number, std::string_v
     const auto version = littleEndian(static_cast<std::uint8_t>(sealedFileVersion));
     return joined({version, kind, bytesOfText("file"), littleEndian(number), bytesOfText(identifier)});
 }
+
+/// The state of a stream, which has its key in it: like any key it lies in the arena.
+class StreamState {
+public:
+    /// Begins a stream with this head, at either end: that which writes would take its head from another source of
+    /// random bytes than ours. False and an error when there is no room.
+    bool begin(
+        const SecretBytes& key, std::span<const std::byte, sealedPiecesAt - sealedStreamHeadAt> head, NSError* error)
+    {
+        bytes_ = KeyArena::shared()->take(sizeof(crypto_secretstream_xchacha20poly1305_state), error);
+        if (bytes_)
+            crypto_secretstream_xchacha20poly1305_init_pull(get(), octets(head), octets(key.span()));
+        return bytes_.has_value();
+    }
+    crypto_secretstream_xchacha20poly1305_state* get() noexcept
+    {
+        return reinterpret_cast<crypto_secretstream_xchacha20poly1305_state*>(bytes_->span().data());
+    }
+
+private:
+    std::optional<SecretBytes> bytes_;
+};
 
 } // namespace tarn

@@ -18,7 +18,7 @@ struct SealedFileReader::Stream {
     FileDescriptor file;
     std::string identifier;
     std::uint64_t fileLength = 0;
-    crypto_secretstream_xchacha20poly1305_state state;
+    StreamState state;
     std::uint64_t pieces = 0;
     bool isFinal = false;         ///< the last piece was read
     std::vector<std::byte> clear; ///< of the piece that was read last
@@ -26,11 +26,7 @@ struct SealedFileReader::Stream {
     std::vector<std::byte> encrypted;
 
     std::span<const std::byte> unused() const { return std::span(clear).subspan(used); }
-    ~Stream()
-    {
-        sodium_memzero(&state, sizeof state);
-        sodium_memzero(clear.data(), clear.size());
-    }
+    ~Stream() { sodium_memzero(clear.data(), clear.size()); }
 };
 
 SealedFileReader::SealedFileReader(std::filesystem::path file, std::string_view identifier)
@@ -67,12 +63,9 @@ bool SealedFileReader::readHead(const SecretBytes& key, NSError* error)
     if (*length <= sealedFileMagic.size() || magic != sealedFileMagic
         || head[sealedFileMagic.size()] != sealedFileVersion)
         return failEncryption(error, OVEncryptionErrorUnknownVersion);
-    if (*length < head.size()
-        || crypto_secretstream_xchacha20poly1305_init_pull(
-               &stream_->state, octets(std::span(head).subspan(sealedStreamHeadAt)), octets(key.span()))
-            != 0)
+    if (*length < head.size())
         return failEncryption(error, OVEncryptionErrorDamaged);
-    return true;
+    return stream_->state.begin(key, std::span(head).subspan<sealedStreamHeadAt>(), error);
 }
 
 bool SealedFileReader::readPiece(NSError* error)
@@ -84,11 +77,12 @@ bool SealedFileReader::readPiece(NSError* error)
         return false;
     if (stream.isFinal || *length <= sealedPieceOverhead)
         return failEncryption(error, OVEncryptionErrorDamaged);
+    sodium_memzero(stream.clear.data(), stream.clear.size()); // the next piece may be shorter
     stream.clear.resize(*length - sealedPieceOverhead);
     stream.used = 0;
     unsigned char tag = 0;
     const std::vector<std::byte> context = contextOfPiece(stream.pieces++, stream.identifier);
-    if (crypto_secretstream_xchacha20poly1305_pull(&stream.state, octets(std::span(stream.clear)), nullptr, &tag,
+    if (crypto_secretstream_xchacha20poly1305_pull(stream.state.get(), octets(std::span(stream.clear)), nullptr, &tag,
             octets(std::span(stream.encrypted)), *length, octets(std::span(context)), context.size())
         != 0)
         return failEncryption(error, OVEncryptionErrorDamaged);

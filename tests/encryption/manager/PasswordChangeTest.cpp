@@ -1,5 +1,7 @@
 #include "tarnmodel/encryption/manager/PasswordChange.h"
 
+#include "tarnmodel/encryption/keys/SodiumInternal.h"
+#include "tarnmodel/platform/foundation/events/NSNotificationCenter.h"
 #include "tests/encryption/EncryptionFixture.h"
 #include "tests/support/FaultyDisk.h"
 
@@ -212,6 +214,36 @@ TEST_F(PasswordChanges, ThatARecordDoesNotShowYetDoNoHarm)
     EXPECT_EQ(manager->textForNote(note, nullptr), "text");
 }
 
+TEST_F(PasswordChanges, ProtectNothingForARecordThatItsKeyDoesNotVouchFor)
+{
+    OVPassword& password = savedPassword("secret");
+    const NSData sound = *password.verifier();
+    std::vector<std::byte> bytes(sound.span().begin(), sound.span().end());
+    bytes[110] ^= std::byte{1}; // of the key that it would have to give back later
+    const auto content = std::span(bytes).first(bytes.size() - 16);
+    crypto_generichash(octets(std::span(bytes).last(16)), 16, octets(content), content.size(), nullptr, 0);
+    password.setVerifier(NSData(bytes));
+    EXPECT_FALSE(manager->hasCachedPassword(password));
+    NSError error;
+    EXPECT_FALSE(manager->addEncryptionToObject(plainNote("text"), password, &error));
+    EXPECT_EQ(error.code(), OVEncryptionErrorLocked);
+}
+
+TEST_F(PasswordChanges, ThatAreNotWhatWasSavedAreNone)
+{
+    OVPassword& password = savedPassword("old");
+    const auto before = password.verifier();
+    const auto meddling = NSNotificationCenter::defaultCenter().addObserver(
+        NSManagedObjectContextWillSaveNotification, &context(), [&](const NSNotification&) {
+            if (password.verifier() != before)
+                password.setVerifier(before);
+        });
+    NSError error;
+    EXPECT_FALSE(manager->changePassword(password, "old", "new", &error));
+    EXPECT_EQ(error.code(), OVEncryptionErrorStore);
+    EXPECT_TRUE(isRight(password, "old"));
+}
+
 TEST_F(PasswordChanges, OfAnotherProcessToTheSameKeysNeedNoUnlocking)
 {
     OVPassword& password = savedPassword("old");
@@ -221,6 +253,72 @@ TEST_F(PasswordChanges, OfAnotherProcessToTheSameKeysNeedNoUnlocking)
     ASSERT_TRUE(other.changePassword(theirs, "old", "new", nullptr));
     context().refreshObject(password, true);
     EXPECT_TRUE(manager->hasCachedPassword(password));
+}
+
+/// What one of two processes has: a store, a manager and a queue of its own.
+class OtherProcess {
+public:
+    OtherProcess(std::shared_ptr<NSPersistentStoreCoordinator> coordinator, const OVEncryptionOptions& options,
+        const std::string& passwordIdentifier)
+        : context(NSManagedObjectContext::ConcurrencyType::PrivateQueue)
+    {
+        context.setPersistentStoreCoordinator(std::move(coordinator));
+        context.performBlockAndWait([&] {
+            manager = std::make_unique<OVEncryptionCoreManager>(context, options);
+            password = OVPassword::passwordWithUniqueIdentifier(passwordIdentifier, context);
+        });
+    }
+    ~OtherProcess()
+    {
+        context.performBlockAndWait([&] { manager.reset(); });
+    }
+    OtherProcess(const OtherProcess&) = delete;
+    OtherProcess& operator=(const OtherProcess&) = delete;
+
+    NSManagedObjectContext context;
+    std::unique_ptr<OVEncryptionCoreManager> manager;
+    OVPassword* password = nullptr;
+};
+
+TEST_F(PasswordChanges, OfTwoProcessesAtOnceLoseNoKey)
+{
+    constexpr int rounds = 8;
+    OVPassword& password = savedPassword("word");
+    const std::string identifier = password.uniqueIdentifier().value();
+    OtherProcess one(openAgain(), options(), identifier);
+    OtherProcess other(openAgain(), options(), identifier);
+    one.context.performBlock([&] {
+        for (int round = 0; round < rounds; ++round) {
+            NSError error;
+            EXPECT_TRUE(one.manager->rotateMasterKey(*one.password, "word", &error)) << error;
+        }
+    });
+    std::vector<NSData> sealed;
+    other.context.performBlockAndWait([&] {
+        for (int round = 0; round < rounds; ++round) {
+            NSError error;
+            EXPECT_TRUE(other.manager->changePassword(*other.password, "word", "word", &error)) << error;
+            PlainNote note(*other.password);
+            note.text = "text";
+            EXPECT_TRUE(other.manager->addEncryptionToObject(note, *other.password, &error)) << error;
+            sealed.push_back(*note.state.encryptedData);
+            sealed.push_back(NSData::fromText(*note.state.encryptionUniqueIdentifier));
+        }
+    });
+    one.context.performBlockAndWait([] {});
+    context().refreshAllObjects();
+    ASSERT_TRUE(isRight(password, "word"));
+    EXPECT_EQ(PasswordBlob::read(*password.verifier(), nullptr)
+                  ->open(*deriveKey(*passwordInUse("word", nullptr),
+                             PasswordBlob::read(*password.verifier(), nullptr)->derivation(), nullptr),
+                      identifier, nullptr)
+                  ->size(),
+        rounds + 1U);
+    for (std::size_t index = 0; index < sealed.size(); index += 2) {
+        PlainNote& note = plainNote(std::nullopt);
+        note.state = {true, sealed[index], std::nullopt, std::string(sealed[index + 1].text()), &password};
+        EXPECT_EQ(manager->textForNote(note, nullptr), "text");
+    }
 }
 
 class PasswordChangesOnABrokenDisk : public EncryptionFixture {

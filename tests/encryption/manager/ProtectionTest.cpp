@@ -265,6 +265,63 @@ TEST_F(ProtectedRecords, DoNotOpenAsAnother)
     EXPECT_EQ(manager->textForNote(note, nullptr), "text");
 }
 
+TEST_F(ProtectedRecords, AreLockedAndNotWrittenWithAnyByteChanged)
+{
+    OVPassword& password = passwordOf("secret");
+    PlainNote& note = protectedNote("text", password);
+    PlainNoteFile& file = protectedFile("plan.pdf", "bytes", password);
+    const NSData soundNote = *note.state.encryptedData;
+    const NSData soundFile = *file.state.encryptedData;
+    const auto changed = [](const NSData& data, std::size_t at) {
+        std::vector<std::byte> bytes(data.span().begin(), data.span().end());
+        bytes[at] ^= std::byte{0x08};
+        return NSData(bytes);
+    };
+    for (std::size_t at = 0; at < soundNote.length(); ++at) {
+        note.state.encryptedData = changed(soundNote, at);
+        file.state.encryptedData = changed(soundFile, at);
+        EXPECT_TRUE(manager->isObjectLocked(note)) << at;
+        EXPECT_TRUE(manager->isObjectLocked(file)) << at;
+        EXPECT_NE(manager->reasonForLock(note).code(), 0);
+        manager->setText("new", note);
+        manager->setFilename("new", file);
+        manager->setSearchText("new", file);
+        EXPECT_EQ(note.state.encryptedData, changed(soundNote, at));
+        EXPECT_EQ(file.state.encryptedData, changed(soundFile, at));
+        EXPECT_EQ(takeLog().size(), 3U);
+    }
+    note.state.encryptedData = soundNote;
+    file.state.encryptedData = soundFile;
+    EXPECT_EQ(manager->textForNote(note, nullptr), "text");
+    EXPECT_EQ(manager->filenameForNoteFile(file, nullptr), "plan.pdf");
+}
+
+TEST_F(ProtectedRecords, AreNotMixedUpWithAttachments)
+{
+    OVPassword& password = passwordOf("secret");
+    PlainNote& note = protectedNote("text", password);
+    PlainNoteFile& file = protectedFile("plan.pdf", "bytes", password);
+    std::swap(note.state, file.state);
+    EXPECT_TRUE(manager->isObjectLocked(note));
+    EXPECT_TRUE(manager->isObjectLocked(file));
+}
+
+TEST_F(ProtectedRecords, DoNotOpenWithTheFileOfAnother)
+{
+    OVPassword& password = passwordOf("secret");
+    PlainNoteFile& one = protectedFile("one", "one", password);
+    PlainNoteFile& other = protectedFile("other", "other", password);
+    std::filesystem::copy_file(
+        *other.storedFileURL(), *one.storedFileURL(), std::filesystem::copy_options::overwrite_existing);
+    NSError error;
+    EXPECT_FALSE(manager->fileURLForNoteFile(one, &error));
+    EXPECT_EQ(error.code(), OVEncryptionErrorDamaged);
+    EXPECT_FALSE(manager->removeEncryptionFromObject(one, &error));
+    EXPECT_EQ(error.code(), OVEncryptionErrorDamaged);
+    EXPECT_TRUE(one.isEncrypted());
+    EXPECT_EQ(one.names().size(), 1U);
+}
+
 TEST_F(ProtectedRecords, AreLockedWithoutTheirData)
 {
     PlainNote& note = protectedNote("text", passwordOf("secret"));

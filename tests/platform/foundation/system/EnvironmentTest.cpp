@@ -1,7 +1,10 @@
 #include "tarnmodel/platform/foundation/system/Environment.h"
 #include "tarnmodel/platform/foundation/system/EnvironmentInternal.h"
+#include "tests/platform/foundation/filesystem/ScratchFolder.h"
 
 #include <gtest/gtest.h>
+
+#include <unistd.h>
 
 #include <utility>
 #include <vector>
@@ -29,6 +32,27 @@ TEST(Environment, KnowsTheFormsOfTimeZoneRules)
     for (const std::string_view value : {"", "UTC", "X5", "No/Such_Place", "EST5EDT,garbage", "EST5EDT,M3.2.0",
              "europe/berlin", "<+05>", "EST5 EDT", "EST5EDT,M3.2.0,M11.1.0,", "5"})
         EXPECT_FALSE(isTimeZoneRule(value)) << value;
+}
+
+TEST(Environment, TakesAFolderOfThisUserForWhatEndsWithTheSession)
+{
+    const ScratchFolder scratch;
+    EnvironmentOverride world;
+    const auto runtimeFolder = [&](const std::optional<std::string>& variable) {
+        world.setVariable("XDG_RUNTIME_DIR", variable);
+        return Environment::current().runtimeDirectory();
+    };
+    EXPECT_EQ(runtimeFolder(scratch.folder().string()), scratch.folder());
+    EXPECT_EQ(runtimeFolder(std::nullopt), std::nullopt);
+    EXPECT_EQ(runtimeFolder(""), std::nullopt);
+    EXPECT_EQ(runtimeFolder("."), std::nullopt) << "not absolute";
+    EXPECT_EQ(runtimeFolder((scratch.folder() / "none").string()), std::nullopt);
+    EXPECT_EQ(runtimeFolder(scratch.write("file", "").string()), std::nullopt);
+    // Who may give a folder away does so; for all others the root is somebody else's.
+    const bool isGiven = ::chown(scratch.folder().c_str(), 12345, static_cast<gid_t>(-1)) == 0;
+    EXPECT_EQ(runtimeFolder(isGiven ? scratch.folder().string() : "/"), std::nullopt) << "of another user";
+    world.setRuntimeDirectory("/r");
+    EXPECT_EQ(Environment::current().runtimeDirectory(), "/r");
 }
 
 TEST(Environment, ReadsMachineIdentifiers)
