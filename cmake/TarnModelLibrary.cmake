@@ -11,7 +11,7 @@ target_include_directories(TarnModel PUBLIC
 target_compile_features(TarnModel PUBLIC cxx_std_20)
 # What its rooms link privately is named again: objects do not bring it along.
 target_link_libraries(TarnModel
-  PUBLIC tarn_coredata tarn_cloudkit tarn_corvel tarn_imaging tarn_predicate tarn_foundation
+  PUBLIC tarn_coredata tarn_cloudkit tarn_corvel tarn_imaging tarn_predicate tarn_foundation nlohmann_json::nlohmann_json
   PRIVATE fmt::fmt ${CMAKE_DL_LIBS} $<BUILD_INTERFACE:tarn_sodium> $<INSTALL_INTERFACE:sodium>
     $<BUILD_INTERFACE:tarn_archive> $<INSTALL_INTERFACE:LibArchive::LibArchive>
     $<BUILD_INTERFACE:tarn_md> $<INSTALL_INTERFACE:md>

@@ -4,6 +4,8 @@
 #include "tarnmodel/model/_OVNoteFile.h"
 #include "tarnmodel/platform/foundation/values/FileURL.h"
 
+#include <nlohmann/json_fwd.hpp>
+
 #include <cstddef>
 #include <filesystem>
 #include <functional>
@@ -207,6 +209,31 @@ public:
     std::optional<std::filesystem::path> storedFileURL() const override { return primitiveFileURL(); }
     bool exchangeStoredFile(std::string_view name,
         const std::function<bool(const std::filesystem::path& place, NSError* error)>& write, NSError* error) override;
+
+    // As a dictionary (tarnmodel/backup/OVNoteFile+Backup.cpp) -------------------------------------------------------
+    // The stored fields of the record and its password; not its identifier, its bytes and its note.
+    /// The attributes that the dictionary holds, in order: dates as ISO 8601 texts of whole seconds in UTC, data in
+    /// base64, all others as they are, flags as 0 and 1.
+    static std::span<const std::string_view> dictionaryRepresentationDateKeys() noexcept;
+    static std::span<const std::string_view> dictionaryRepresentationDataKeys() noexcept;
+    static std::span<const std::string_view> dictionaryRepresentationValueKeys() noexcept;
+    /// What is not nil, and the dictionary of its password as "password". Raises "Invalid accessor" when it is locked.
+    nlohmann::ordered_json dictionaryRepresentation() const;
+    /// Sets what the dictionary has an entry for, through the accessors above: of a protected attachment without a
+    /// manager, or unlocked. Dates that cannot be read leave the field as it was, data that cannot be decoded clears
+    /// it. The password is the one of that identifier, or a new one. Raises `NSInvalidArgumentException` for what is
+    /// no dictionary.
+    void loadDictionaryRepresentation(const nlohmann::ordered_json& dictionary);
+    /// The attachment of the dictionary's "uniqueIdentifier" (one without an identifier where there is no such entry),
+    /// untouched; otherwise a new one of no kind, without an identifier, loaded from it. Null when the store cannot be
+    /// read, which is logged; raises like the two above, and then nothing is inserted.
+    static OVNoteFile* noteFileFromDictionaryRepresentation(
+        const nlohmann::ordered_json& dictionary, NSManagedObjectContext& context);
+    /// The dictionary as JSON, UTF-8, a key a line; none when a text of it is no UTF-8.
+    std::optional<NSData> jsonRepresentation() const;
+    /// The same from JSON; null also without data, and when it is no JSON object.
+    static OVNoteFile* noteFileFromJsonRepresentation(
+        const std::optional<NSData>& json, NSManagedObjectContext& context);
 
 protected:
     /// What every new attachment gets: its identifier, the date of now and version 3.

@@ -3,6 +3,13 @@
 #include "tarnmodel/encryption/OVEncryptableObject.h"
 #include "tarnmodel/model/_OVPassword.h"
 
+#include <nlohmann/json_fwd.hpp>
+
+#include <optional>
+#include <span>
+#include <string_view>
+#include <vector>
+
 namespace tarn {
 
 class NSPredicate;
@@ -38,6 +45,25 @@ public:
     void setPasswordHint(const std::optional<NSData>& hint) override { setHint(hint); }
     bool allowsBiometry() const override { return biometryValue(); }
     void setAllowsBiometry(bool allows) override { setBiometryValue(allows); }
+
+    // As a dictionary (tarnmodel/backup/OVPassword+Backup.cpp) -------------------------------------------------------
+    /// The attributes that the dictionary holds, in order: dates as ISO 8601 texts of whole seconds in UTC, data in
+    /// base64, all others as they are, flags as 0 and 1.
+    static std::span<const std::string_view> dictionaryRepresentationDateKeys() noexcept;
+    static std::span<const std::string_view> dictionaryRepresentationDataKeys() noexcept;
+    static std::span<const std::string_view> dictionaryRepresentationValueKeys() noexcept;
+    /// All of these that are not nil.
+    nlohmann::ordered_json dictionaryRepresentation() const;
+    /// The password of the dictionary's "uniqueIdentifier", untouched; otherwise a new one with what the dictionary
+    /// holds. Null when the store cannot be read, which is logged. Raises `NSInvalidArgumentException` for what is no
+    /// dictionary.
+    static OVPassword* passwordFromDictionaryRepresentation(
+        const nlohmann::ordered_json& dictionary, NSManagedObjectContext& context);
+    /// The dictionary as JSON, UTF-8, a key a line; none when a text of it is no UTF-8.
+    std::optional<NSData> jsonRepresentation() const;
+    /// The same from JSON; null also without data, and when it is no JSON object.
+    static OVPassword* passwordFromJsonRepresentation(
+        const std::optional<NSData>& json, NSManagedObjectContext& context);
 };
 
 } // namespace tarn

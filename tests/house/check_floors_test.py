@@ -63,6 +63,7 @@ CASES = [
     ("tarnmodel/platform/foundation/text/Locale.h", "#include <unicode/locid.h>\n", "of another library"),
     ("tarnmodel/platform/foundation/time/ZoneInternal.h", "#include <unicode/ucal.h>\n", None),
     ("tarnmodel/model/Json.h", "#include <nlohmann/json.hpp>\n", "of another library"),
+    ("tarnmodel/model/Json.h", "#include <nlohmann/json_fwd.hpp>\n", None),
     ("tarnmodel/notes/Text.h", "#include <fmt/format.h>\n", "of another library"),
     ("tarnmodel/platform/foundation/time/Open.h",
      '#include "tarnmodel/platform/foundation/time/ZoneInternal.h"\n', "not installed"),

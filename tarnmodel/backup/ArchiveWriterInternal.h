@@ -1,0 +1,47 @@
+#pragma once
+
+#include "tarnmodel/backup/BackupHashInternal.h"
+#include "tarnmodel/platform/foundation/values/NSDate.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <span>
+#include <string>
+
+struct archive;
+
+namespace tarn {
+
+/// Writes an archive: a tar file of members, compressed, and behind it the hash of all. What fails throws a
+/// `BackupFailure`.
+class ArchiveWriter {
+public:
+    /// Members get this date.
+    ArchiveWriter(int descriptor, std::filesystem::path file, NSDate date);
+    ~ArchiveWriter();
+    ArchiveWriter(const ArchiveWriter&) = delete;
+    ArchiveWriter& operator=(const ArchiveWriter&) = delete;
+
+    /// Adds a member of that many bytes, which `write` gives to what it is handed, piece by piece. A name that ends in
+    /// "/" is a folder.
+    using Sink = std::function<void(std::span<const std::byte>)>;
+    void addMember(const std::string& name, std::uint64_t size, const std::function<void(const Sink&)>& write);
+    /// Ends the archive. Not durable yet.
+    void finish(std::uint64_t manifestSize, const BackupHash::Digest& manifestHash);
+
+private:
+    static std::ptrdiff_t takeBytes(archive* tar, void* writer, const void* bytes, std::size_t length);
+    bool writeAll(std::span<const std::byte> bytes);
+    void check(int result);
+
+    int descriptor_;
+    std::filesystem::path file_;
+    NSDate date_;
+    archive* tar_;
+    BackupHash hash_;
+};
+
+} // namespace tarn

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "tarnmodel/backup/ArchiveContentsInternal.h"
+#include "tarnmodel/backup/StagedFileInternal.h"
+
+#include <cstdint>
+#include <filesystem>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tarn {
+
+/// Lays the members of an archive down in a temporary folder, under names of its own: what a member is called says
+/// whose it is, and never where it goes.
+class BackupExtraction final : public ArchiveContents::Taker {
+public:
+    explicit BackupExtraction(std::filesystem::path folder) : folder_(std::move(folder)) { }
+
+    /// The records of an entity; none when there are none.
+    std::optional<std::filesystem::path> recordsOfEntity(const std::string& entityName) const;
+    /// The file, or folder, of an attachment; none when it is not in the archive, or not whole.
+    std::optional<std::filesystem::path> itemOfFile(std::string_view uniqueIdentifier) const;
+
+    bool begin(const BackupManifest::Member& member) override;
+    void take(std::span<const std::byte> bytes) override;
+    void end(bool isWhole) override;
+
+private:
+    struct Item {
+        std::string name; ///< in the archive
+        std::filesystem::path place;
+        bool isWhole = true;
+    };
+
+    std::optional<std::filesystem::path> placeOfMember(const std::string& name);
+    std::optional<std::filesystem::path> placeInItem(const std::vector<std::string>& components);
+
+    std::filesystem::path folder_;
+    std::map<std::string, std::filesystem::path> records_; ///< by entity
+    std::map<std::string, Item, std::less<>> items_;       ///< by the identifier of the attachment
+    std::optional<StagedWriter> writer_;
+    std::string memberName_;
+};
+
+} // namespace tarn

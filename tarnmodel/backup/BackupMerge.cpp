@@ -1,0 +1,161 @@
+#include "tarnmodel/backup/BackupFailureInternal.h"
+#include "tarnmodel/backup/BackupMergeInternal.h"
+#include "tarnmodel/encryption/OVEncryptionCoreManager.h"
+#include "tarnmodel/model/OVNote.h"
+#include "tarnmodel/model/OVNoteTag.h"
+#include "tarnmodel/model/OVPassword.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
+#include "tarnmodel/platform/predicate/NSPredicate.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+
+namespace tarn {
+
+void setStoredAttributes(const BackupRecord& from, NSManagedObject& record, std::span<const std::string_view> except)
+{
+    for (const auto& [name, value] : from.attributes) {
+        if (std::ranges::find(except, std::string_view(name)) != except.end()
+            || record.storedValueForKey(name) == value)
+            continue;
+        record.willChangeValueForKey(name);
+        record.setPrimitiveValueForKey(name, value);
+        record.didChangeValueForKey(name);
+    }
+}
+
+bool hasStoredAttributes(const NSManagedObject& record, const BackupRecord& of)
+{
+    return std::ranges::all_of(of.attributes,
+        [&](const auto& attribute) { return record.storedValueForKey(attribute.first) == attribute.second; });
+}
+
+BackupMerge::BackupMerge(BackupRecords& records, const BackupExtraction& extraction, NSManagedObjectContext& context,
+    bool isResumed, const std::function<void()>& madeSome, BackupRestoration& restoration)
+    : records_(records), extraction_(extraction), context_(context), isResumed_(isResumed), madeSome_(madeSome),
+      restoration_(restoration)
+{ }
+
+void BackupMerge::run()
+{
+    NSError error;
+    const auto count = context_.count(NSFetchRequest(OVNote::entityInManagedObjectContext(context_)), &error);
+    if (!count)
+        throw BackupFailure(error);
+    wasEmpty_ = *count == 0;
+    // Each behind those that its relationships lead to.
+    records_.forEachPage("OVPassword", [this](const Page& page) { save([&] { mergePasswords(page); }); });
+    records_.forEachPage("OVNoteTag", [this](const Page& page) { save([&] { mergeTags(page); }); });
+    records_.forEachPage("OVNote", [this](const Page& page) { save([&] { mergeNotes(page); }); });
+    for (const char* kind : {"OVNoteFile", "OVNoteImage", "OVNoteGenericFile"})
+        records_.forEachPage(kind, [this](const Page& page) { save([&] { mergeFiles(page); }); });
+    records_.forEachPage("OVNoteBackLink", [this](const Page& page) { save([&] { mergeLinks(page); }); });
+    deriveNotes();
+}
+
+/// Under the lock of the store, so that it builds upon what others wrote. Nothing is left of it when it fails.
+void BackupMerge::save(const std::function<void()>& work)
+{
+    const auto changeRecords = [&] {
+        OVEncryptionCoreManager::performInManagedObjectContext(context_, work);
+        hasWritten_ = hasWritten_ || context_.hasChanges();
+    };
+    orThrow([&](NSError* error) { return context_.performExclusive(changeRecords, error); });
+    for (const auto& remember : afterSave_)
+        remember();
+    afterSave_.clear();
+    context_.reset();
+    madeSome_();
+}
+
+BackupMerge::Existing BackupMerge::existingRecords(std::string_view entityName, const Page& page)
+{
+    Value::Array identifiers;
+    for (const BackupRecord& record : page)
+        if (const Value& identifier = record.attribute("uniqueIdentifier"); !identifier.isNil())
+            identifiers.push_back(identifier);
+    NSFetchRequest request(*context_.managedObjectModel().entityNamed(entityName));
+    request.predicate = NSPredicate::predicateWithFormat("uniqueIdentifier IN %@", std::move(identifiers));
+    NSError error;
+    const auto records = context_.fetch(request, &error);
+    if (!records)
+        throw BackupFailure(error);
+    Existing existing;
+    for (NSManagedObject* record : *records)
+        existing[record->storedValueForKey("uniqueIdentifier").asString()] = record;
+    return existing;
+}
+
+/// A record without an identifier is the one that is just like it.
+NSManagedObject* BackupMerge::existingRecord(const Existing& existing, const BackupRecord& record)
+{
+    if (!record.attribute("uniqueIdentifier").isNil()) {
+        const auto found = existing.find(record.text("uniqueIdentifier"));
+        return found == existing.end() ? nullptr : found->second;
+    }
+    NSFetchRequest request(*context_.managedObjectModel().entityNamed(record.entityName));
+    request.predicate = NSPredicate::predicateWithFormat("uniqueIdentifier == nil");
+    NSError error;
+    const auto records = context_.fetch(request, &error);
+    if (!records)
+        throw BackupFailure(error);
+    const auto like = std::ranges::find_if(
+        *records, [&](const NSManagedObject* candidate) { return hasStoredAttributes(*candidate, record); });
+    return like == records->end() ? nullptr : *like;
+}
+
+NSManagedObject& BackupMerge::insertRecord(const BackupRecord& record)
+{
+    NSManagedObject& inserted = context_.insertObject(record.entityName);
+    setStoredAttributes(record, inserted);
+    return inserted;
+}
+
+NSManagedObject* BackupMerge::recordFor(
+    const std::unordered_map<std::int64_t, NSManagedObjectID>& known, std::int64_t number)
+{
+    const auto found = known.find(number);
+    return found == known.end() ? nullptr : context_.existingObjectWithID(found->second);
+}
+
+void BackupMerge::remember(
+    std::unordered_map<std::int64_t, NSManagedObjectID>& known, std::int64_t number, NSManagedObject& record)
+{
+    afterSave_.emplace_back([&known, number, &record] { known[number] = record.objectID(); });
+}
+
+void BackupMerge::tell(const BackupRecord& record, std::string_view reason)
+{
+    std::string title = record.text(record.entityName == "OVNote" ? "title" : "filename");
+    if (title.empty())
+        title = record.text("uniqueIdentifier");
+    restoration_.skipped.push_back({std::move(title), std::string(reason)});
+}
+
+void BackupMerge::mergePasswords(const Page& page)
+{
+    const Existing existing = existingRecords("OVPassword", page);
+    for (const BackupRecord& record : page) {
+        NSManagedObject* password = existingRecord(existing, record);
+        if (password && password->storedValueForKey("encryptedData") != record.attribute("encryptedData"))
+            tell(record,
+                "the store has another state of this password, which stays; what the backup protects by a key that is "
+                "not in it stays locked");
+        remember(passwords_, record.number, password ? *password : insertRecord(record));
+    }
+}
+
+/// Of one name there is one tag, whatever its identifier.
+void BackupMerge::mergeTags(const Page& page)
+{
+    const Existing existing = existingRecords("OVNoteTag", page);
+    for (const BackupRecord& record : page) {
+        NSManagedObject* tag = existingRecord(existing, record);
+        if (!tag && !wasEmpty_)
+            tag = OVNoteTag::tagWithName(record.text("title"), context_);
+        remember(tags_, record.number, tag ? *tag : insertRecord(record));
+    }
+}
+
+} // namespace tarn

@@ -1,0 +1,17 @@
+#include "tarnmodel/backup/StoreBackup.h"
+
+#include "tarnmodel/backup/BackupFailureInternal.h"
+#include "tarnmodel/backup/BackupRunInternal.h"
+#include "tarnmodel/platform/coredata/NSPersistentStoreCoordinator.h"
+
+namespace tarn {
+
+std::optional<BackupManifest> StoreBackup::writeToURL(
+    const std::filesystem::path& file, const BackupOptions& options, NSError* error)
+{
+    std::optional<BackupManifest> manifest;
+    reportingBackupFailure(error, [&] { manifest = BackupRun(store_, file, options).run(); });
+    return manifest;
+}
+
+} // namespace tarn
