@@ -160,5 +160,6 @@
 #include "tarnmodel/store/OVCoreDataStackForExtensions.h"
 #include "tarnmodel/store/OVCoreDataStackForWidgets.h"
 #include "tarnmodel/store/OVManagedObjectObserver.h"
+#include "tarnmodel/store/StoreCompaction.h"
 #include "tarnmodel/store/StoreMigrationPlan.h"
 #include "tarnmodel/store/VexMigrationManager.h"

@@ -2,6 +2,7 @@
 
 #include "tests/notes/ProtectedNotesFixture.h"
 
+#include "tarnmodel/model/OVNoteBackLink.h"
 #include "tarnmodel/platform/foundation/filesystem/NSFileWrapper.h"
 #include "tarnmodel/platform/foundation/values/NSException.h"
 
@@ -83,6 +84,8 @@ const std::vector<LockedOperation>& lockedOperations()
                 OVNote& target = *locked.linkedNotes().front();
                 target.updateNoteWithText("# Renamed");
                 EXPECT_EQ(clear.text(), "# Clear\n#work #other [[Renamed]]");
+                EXPECT_THAT(locked.linkedNotes(), testing::ElementsAre(&target));
+                EXPECT_EQ(locked.linkingToSet().allObjects().front()->title(), "Target");
             }},
         {"renameTagWithTagNamed", Raises, [](OVNote& locked, OVNote&) { tagOf(locked).renameTagWithTagNamed("play"); }},
         {"deleteTag", Raises, [](OVNote& locked, OVNote&) { tagOf(locked).deleteTag(); }},

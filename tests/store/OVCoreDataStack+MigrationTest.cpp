@@ -132,6 +132,7 @@ TEST_F(StoreMigration, WithoutAPathSetsTheStoreAside)
     EXPECT_THAT(listener_.events, ElementsAre("migration of 100", "migrated:", "initialized"));
     EXPECT_FALSE(listener_.error);
     EXPECT_THAT(files(), ElementsAre("database.sqlite", backupName));
+    EXPECT_THAT(OVCoreDataStack::storesSetAsideInFolder(folder()), ElementsAre(folder() / backupName));
     EXPECT_TRUE(bytesOf(folder() / backupName) == bytes) << "the backup is the old store, byte by byte";
     EXPECT_THAT(titlesIn(*stack_->managedObjectContext()), IsEmpty());
 }

@@ -2,10 +2,12 @@
 
 #include "tarnmodel/encryption/OVEncryptionCoreManager.h"
 #include "tarnmodel/model/OVNote.h"
+#include "tarnmodel/model/OVNoteFile.h"
 #include "tarnmodel/model/OVPassword.h"
 #include "tarnmodel/notes/OwedCompaction.h"
 #include "tarnmodel/platform/coredata/HeldStoreFile.h"
 #include "tarnmodel/platform/coredata/StoreErrors.h"
+#include "tarnmodel/platform/foundation/filesystem/NSFileWrapper.h"
 #include "tarnmodel/store/OVCoreDataStackForExtensions.h"
 #include "tests/store/StackFixture.h"
 #include "tests/support/FreedPages.h"
@@ -56,6 +58,13 @@ protected:
         stack.setupStackWithDelegate(&listener_);
         EXPECT_TRUE(stack.managedObjectContext());
     }
+    /// What a record does when it is protected, and a change to be saved.
+    static void protectByHand(NSManagedObjectContext& context)
+    {
+        OVNote& note = *OVNote::noteWithTitle("Two", context);
+        note.pin();
+        note.didAddEncryption();
+    }
     /// Protects a note, as an application does.
     void protectOne(OVCoreDataStack& stack, bool saves)
     {
@@ -67,7 +76,7 @@ protected:
         OVPassword* const password = OVPassword::insertInManagedObjectContext(context);
         NSError error;
         ASSERT_TRUE(manager.setPassword(*password, "correct horse", std::nullopt, &error)) << error;
-        ASSERT_TRUE(manager.addEncryptionToObject(noteTitled("One", context), *password, &error)) << error;
+        ASSERT_TRUE(manager.addEncryptionToObject(*OVNote::noteWithTitle("One", context), *password, &error)) << error;
         if (saves)
             ASSERT_TRUE(context.save(&error)) << error;
         else
@@ -101,10 +110,8 @@ TEST_F(CompactedStore, IsOwedAlsoWhenTheSaveIsOneOfAWrite)
 {
     OVCoreDataStack stack;
     stack.setupStackWithDelegate(&listener_);
-    NSManagedObjectContext& context = *stack.managedObjectContext();
-    ASSERT_TRUE(stack.write([](NSManagedObjectContext& written) { noteTitled("One", written).didAddEncryption(); }));
+    ASSERT_TRUE(stack.write([](NSManagedObjectContext& context) { protectByHand(context); }));
     EXPECT_EQ(compaction(), "owed");
-    EXPECT_FALSE(context.hasChanges());
 }
 
 TEST_F(CompactedStore, IsOwedByAChildOnceItIsSaved)
@@ -115,11 +122,10 @@ TEST_F(CompactedStore, IsOwedByAChildOnceItIsSaved)
     {
         NSManagedObjectContext child(NSManagedObjectContext::ConcurrencyType::MainQueue);
         child.setParentContext(context);
-        noteTitled("One", child).didAddEncryption();
+        protectByHand(child);
         ASSERT_TRUE(child.save());
     }
     EXPECT_EQ(compaction(), "-");
-    noteTitled("Two", context).pin();
     ASSERT_TRUE(context.save());
     EXPECT_EQ(compaction(), "owed");
 }
@@ -149,6 +155,26 @@ TEST_F(CompactedStore, HoldsNothingInFreePagesOnceTheApplicationHasOpenedIt)
     EXPECT_THAT(problems, IsEmpty());
 }
 
+TEST_F(CompactedStore, IsOpenedWithoutClearFilesBesideProtectedOnes)
+{
+    std::filesystem::path attachment;
+    {
+        OVCoreDataStack stack;
+        stack.setupStackWithDelegate(&listener_);
+        NSManagedObjectContext& context = *stack.managedObjectContext();
+        NSFileWrapper wrapper = NSFileWrapper::withContents(NSData::fromText("bytes"));
+        wrapper.setFilename("a.bin");
+        OVNote::noteWithTitle("One", context)->addAttachmentFromFileWrapper(wrapper);
+        protectOne(stack, true);
+        attachment = *OVNote::noteWithTitle("One", context)->filesSet().allObjects().front()->primitiveFileURL();
+    }
+    std::ofstream(attachment.parent_path() / "a.bin") << "bytes";
+    openApplication();
+    EXPECT_TRUE(std::filesystem::exists(attachment));
+    EXPECT_FALSE(std::filesystem::exists(attachment.parent_path() / "a.bin"));
+    EXPECT_THAT(takeLog(), ElementsAre(HasSubstr("beside those of protected attachments")));
+}
+
 TEST_F(CompactedStore, IsLeftAloneWhereNothingIsOwed)
 {
     const UntouchedFile untouched(storeFile());
@@ -173,7 +199,7 @@ TEST_F(CompactedStore, IsOwedStillWhenAnotherHoldsTheStore)
     ASSERT_TRUE(other) << error;
     // A transaction that writes keeps everybody from holding the file.
     ASSERT_TRUE(other->write([&](NSManagedObjectContext& context) {
-        noteTitled("Two", context).pin();
+        OVNote::noteWithTitle("Two", context)->pin();
         EXPECT_FALSE(StoreCompaction::compact(
             storeFile(), [](std::chrono::milliseconds waited) { return waited < std::chrono::milliseconds(50); },
             &error));
@@ -200,14 +226,15 @@ TEST_F(CompactedStore, IsOwedStillWhenThereIsNoRoom)
 TEST_F(CompactedStore, IsAnotherFileForWhoHasItOpen)
 {
     owe();
-    OVCoreDataStackForExtensions* extension = nullptr;
     NSError error;
-    const auto opened = OVCoreDataStackForExtensions::initStackOutputError(&error);
-    extension = opened.get();
+    const auto extension = OVCoreDataStackForExtensions::initStackOutputError(&error);
     ASSERT_TRUE(extension) << error;
+    NSManagedObjectContext& context = *extension->managedObjectContext();
+    OVNote* const note = OVNote::noteWithTitle("One", context);
+    ASSERT_TRUE(note);
     openApplication();
-    noteTitled("One", *extension->managedObjectContext()).pin();
-    EXPECT_FALSE(extension->managedObjectContext()->save(&error));
+    note->pin();
+    EXPECT_FALSE(context.save(&error));
     EXPECT_EQ(error.code(), StoreErrorReplaced);
     EXPECT_EQ(compaction(), "done");
 }

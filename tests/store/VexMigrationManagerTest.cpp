@@ -77,6 +77,21 @@ TEST_F(MigrationManager, KeepsWhatTheStoreWasInTheTemporaryFolder)
     EXPECT_TRUE(bytesOf(backups().front()) == bytes);
 }
 
+TEST_F(MigrationManager, RemovesItsBackupsWhenItIsAskedTo)
+{
+    makeStoreOfVersion("Model", {"Groceries"});
+    ASSERT_TRUE(migrate()) << error_;
+    ASSERT_EQ(backups().size(), 2U);
+    const fs::path ofADeadProcess = leaveSecondName();
+    const fs::path others = OVLocalFileManager::temporaryDirectoryURL() / "others.sqlite";
+    std::ofstream(others) << "not a backup";
+    VexMigrationManager::removeBackups();
+    EXPECT_THAT(backups(), ElementsAre(others));
+    EXPECT_FALSE(fs::exists(ofADeadProcess));
+    fs::remove(others);
+    VexMigrationManager::removeBackups();
+}
+
 TEST_F(MigrationManager, CopiesTheBackupToAnotherFileSystem)
 {
     const fs::path elsewhere = fs::path("/dev/shm") / caches().filename();

@@ -40,11 +40,11 @@ struct MergeConflict {
         DeletedElsewhere, ///< the unsaved changes went with the record, which reads as deleted
         DeletedHere,      ///< a change of another writer goes with the record, whose deletion is unsaved
     };
-    Cause cause = Cause::ChangedByBoth;        ///< why
-    MergeSide loser = MergeSide::Context;      ///< whose values were dropped
-    NSManagedObject* record = nullptr;         ///< the record of this context
-    std::vector<std::string> properties;       ///< that the loser had changed; their values were dropped
-    std::map<std::string, Value> lostValues;   ///< a to-one as the record, where that is here
+    Cause cause = Cause::ChangedByBoth;      ///< why
+    MergeSide loser = MergeSide::Context;    ///< whose values were dropped
+    NSManagedObject* record = nullptr;       ///< the record of this context
+    std::vector<std::string> properties;     ///< that the loser had changed; their values were dropped
+    std::map<std::string, Value> lostValues; ///< a to-one as the record, where that is here
     /// Before either side changed them, and those of their groups, as far as they were read; a to-one likewise.
     std::map<std::string, Value> formerValues;
 };
