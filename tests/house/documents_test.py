@@ -152,7 +152,7 @@ class Documents(unittest.TestCase):
         asked = (ROOT / "cmake" / "TarnDependencies.cmake").read_text(encoding="utf-8")
         found = set(re.findall(r"find_package\((\w+)", asked)) | set(re.findall(r"find_library\(TARN_(\w+)_LIBRARY", asked))
         spoken = {"SQLite3": "SQLite", "ICU": "ICU", "nlohmann_json": "nlohmann json", "fmt": "{fmt}", "SODIUM": "libsodium",
-                  "MD": "libmd", "JPEG": "libjpeg-turbo", "PNG": "libpng", "GIF": "giflib", "WEBP": "libwebp",
+                  "MD": "libmd", "ARCHIVE": "libarchive", "JPEG": "libjpeg-turbo", "PNG": "libpng", "GIF": "giflib", "WEBP": "libwebp",
                   "WEBP_DEMUX": "libwebp", "TIFF": "libtiff", "HEIF": "libheif", "Threads": ""}
         self.assertEqual(found, set(spoken))
         for name in spoken.values():
