@@ -198,6 +198,56 @@ TEST_F(RestoredStore, GetsLostAttachmentsOfANoteThatIsTheSame)
     EXPECT_EQ(noteOf(context(), "Shopping").orderedFiles().size(), 2U);
 }
 
+TEST_F(RestoredStore, LeavesOutWhatALaterStateOfANoteHasDropped)
+{
+    fillNotebook();
+    backUp();
+    OVNote& shopping = noteOf(context(), "Shopping");
+    shopping.orderedFiles().front()->permanentlyDelete();
+    shopping.updateNoteWithText("# Shopping\n\nwithout the receipt");
+    save();
+    const auto records = contentsOfStore(context());
+    const BackupRestoration restoration = restore(*this);
+    EXPECT_EQ(restoration.files, 0U);
+    ASSERT_THAT(restoration.skipped, SizeIs(1));
+    EXPECT_EQ(restoration.skipped.front().title, "receipt.pdf");
+    EXPECT_EQ(contentsOfStore(context()), records);
+}
+
+TEST_F(RestoredStore, KeepsTheLinksOfAProtectedNoteThatItReplaces)
+{
+    fillNotebook();
+    const auto addLink = [](OVNote& from, OVNote& to, std::string_view title) {
+        auto* link = OVNoteBackLink::insertInManagedObjectContext(from.managedObjectContext());
+        link->setTitle(title);
+        link->setLinkedBy(&from);
+        link->setLinkingTo(&to);
+    };
+    const auto secretOf = [](NSManagedObjectContext& context) {
+        return OVNote::allEncryptedNotesInManagedObjectContext(context).front();
+    };
+    addLink(*secretOf(context()), noteOf(context(), "Trip"), "Trip");
+    save();
+    backUp();
+    TestStore& other = otherStore();
+    restore(other);
+    useFirstFolder();
+    context().deleteObject(*secretOf(context())->linkingToSet().allObjects().front());
+    addLink(*secretOf(context()), noteOf(context(), "Old"), "Old");
+    secretOf(context())->setEncryptedData(NSData::fromText("sealed anew"));
+    secretOf(context())->updateNoteVectorClock();
+    save();
+    backUp({.replacesFile = true});
+    otherStore();
+    EXPECT_EQ(restore(other).restored, 1U);
+    const OVNote* secret = secretOf(other.context());
+    EXPECT_EQ(secret->encryptedData(), NSData::fromText("sealed anew"));
+    ASSERT_THAT(secret->linkingToSet().allObjects(), SizeIs(1));
+    EXPECT_EQ(secret->linkingToSet().allObjects().front()->title(), "Old");
+    EXPECT_EQ(secret->linkingToSet().allObjects().front()->linkingTo(), &noteOf(other.context(), "Old"));
+    EXPECT_NE(secret->password(), nullptr);
+}
+
 TEST_F(RestoredStore, SaysOfAnAttachmentWithoutBytesThatTheyAreNotHere)
 {
     fillNotebook();

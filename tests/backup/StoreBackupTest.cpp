@@ -10,6 +10,7 @@
 #include <nlohmann/json.hpp>
 
 #include <chrono>
+#include <fstream>
 #include <thread>
 
 namespace tarn {
@@ -115,6 +116,31 @@ TEST_F(Backup, EndsWhenItIsCancelledAndLeavesTheFormerOne)
         EXPECT_THAT(namesIn(place()), ElementsAre("notes, alle.tarnbackup"));
     }
     EXPECT_THAT(leftovers(), IsEmpty());
+}
+
+TEST_F(Backup, IsNotMadeWhenItDoesNotReadBack)
+{
+    fillNotebook();
+    const auto unfinished = place() / ".unfinished-notes, alle.tarnbackup";
+    std::uint64_t before = 0;
+    bool isHarmed = false;
+    // Once it is written, nothing more is done while it is read back.
+    const auto harm = [&](std::uint64_t done, std::uint64_t) {
+        if (!isHarmed && done == before && std::filesystem::exists(unfinished)) {
+            std::string bytes = bytesOf(unfinished);
+            bytes[bytes.size() / 2] = static_cast<char>(bytes[bytes.size() / 2] ^ 1);
+            std::fstream stream(unfinished, std::ios::binary | std::ios::in | std::ios::out);
+            stream.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+            isHarmed = true;
+        }
+        before = done;
+        return true;
+    };
+    NSError error;
+    EXPECT_FALSE(StoreBackup(storeFile()).writeToURL(archive(), {.progress = harm}, &error));
+    EXPECT_TRUE(isHarmed);
+    EXPECT_EQ(error.code(), BackupErrorDamaged);
+    EXPECT_THAT(namesIn(place()), IsEmpty());
 }
 
 TEST_F(Backup, TakesTheUnfinishedFileOfADeadProcessAway)

@@ -75,7 +75,7 @@ const std::vector<std::vector<std::string>> kCommandsOnStores{{"list"}, {"search
     {"unarchive", "Old 0"}, {"pin", "Old 0"}, {"unpin", "Old 0"}, {"readonly", "Old 0"}, {"editable", "Old 0"},
     {"delete", "--yes", "Old 0"}, {"attach", "Old 0", "notes/a.md"}, {"file", "rename", "Old 0", "a.md", "b.md"},
     {"file", "prune"}, {"export", "out"}, {"backup", "b.tarnbackup"}, {"restore-backup", "b.tarnbackup"}, {"baseline"},
-    {"doctor", "--repair"}};
+    {"protect", "Old 0"}, {"unprotect", "Old 0"}, {"passwords"}, {"password", "rotate"}, {"doctor", "--repair"}};
 
 /// Those that need none.
 const std::set<std::string> kCommandsWithoutStore{"parse", "predicate", "highlight", "migrate"};

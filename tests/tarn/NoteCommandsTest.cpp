@@ -123,7 +123,8 @@ TEST_F(NoteCommands, DoNotShowAProtectedText)
     EXPECT_EQ(result.exitCode, 3);
     EXPECT_EQ(result.output, "");
     EXPECT_EQ(result.errors,
-        "tarn: \"Secret\" (" + identifier.substr(0, 8) + ") is protected by a password and cannot be read here\n");
+        "tarn: \"Secret\" (" + identifier.substr(0, 8) + ")"
+            + " is protected by a password; name a file with --password-file whose first line is it\n");
     const nlohmann::json document = json({"show", "Secret"});
     EXPECT_EQ(document.at("encrypted"), true);
     EXPECT_TRUE(document.at("text").is_null());

@@ -38,6 +38,18 @@ public:
         return rows;
     }
 
+    /// Why the statement is refused, without waiting for anybody; empty when it is not.
+    std::string refusalOf(const std::string& sql) const
+    {
+        sqlite3_busy_timeout(handle_, 0);
+        char* message = nullptr;
+        sqlite3_exec(handle_, sql.c_str(), nullptr, nullptr, &message);
+        const std::string refusal = message ? message : "";
+        sqlite3_free(message);
+        sqlite3_busy_timeout(handle_, 10'000);
+        return refusal;
+    }
+
 private:
     sqlite3* handle_ = nullptr;
 };
