@@ -5,9 +5,14 @@
 #include "tarnmodel/platform/coredata/sqlite/SQLiteConnection.h"
 #include "tarnmodel/platform/coredata/sqlite/SQLiteStoreFile.h"
 #include "tarnmodel/platform/coredata/sqlite/TransactionGuards.h"
+#include "tarnmodel/platform/foundation/filesystem/FileDescriptorInternal.h"
 #include "tarnmodel/platform/foundation/filesystem/NSFileManager.h"
 
+#include <fcntl.h>
+#include <sys/stat.h>
+
 #include <array>
+#include <cerrno>
 #include <system_error>
 
 namespace tarn {
@@ -22,6 +27,18 @@ void removeWithJournal(const fs::path& file) noexcept
         std::error_code ignored;
         fs::remove(fs::path(file) += ending, ignored);
     }
+}
+
+/// For its owner alone from the beginning, under its own name, so that nothing else is left of it; SQLite takes an
+/// empty file for its own.
+void makeEmptyFile(const fs::path& file)
+{
+    const FileDescriptor made(::open(file.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR));
+    if (made)
+        return;
+    NSError error;
+    failWithSystemError(&error, errno, file, "made");
+    throw StoreFailure(error);
 }
 
 void writeMetadata(const fs::path& file, const std::map<std::string, std::string>& metadata)
@@ -40,15 +57,13 @@ bool compactStoreFile(
 {
     removeWithJournal(place);
     const bool isDone = reportingFailure(error, [&] {
-        NSError failure;
-        // For its owner alone from the beginning; SQLite takes an empty file for its own.
-        if (!NSFileManager::createFileAtURL(place, NSData(), &failure))
-            throw StoreFailure(failure);
+        makeEmptyFile(place);
         const std::string name = fs::absolute(place).string();
         SQLiteStatement compact = store.connection().prepare("VACUUM INTO ?1");
         compact.bindText(1, name);
         compact.run();
         writeMetadata(place, metadata);
+        NSError failure;
         if (!NSFileManager::synchronizeItemsAtURLs(std::array{place}, &failure))
             throw StoreFailure(failure);
     });
