@@ -251,6 +251,16 @@ TEST_F(CompactedStore, RemovesWhatADeadProcessLeft)
     EXPECT_THAT(titlesInStore(), SizeIs(2));
 }
 
+TEST_F(CompactedStore, RemovesWhatADeadProcessLeftThatHadFinishedIt)
+{
+    std::ofstream(folder() / "database.uncompacted.sqlite") << "the former file";
+    std::filesystem::create_hard_link(storeFile(), folder() / "database.compacted.sqlite");
+    openApplication();
+    EXPECT_THAT(files(), ElementsAre("database.sqlite"));
+    EXPECT_EQ(compaction(), "-");
+    EXPECT_THAT(titlesInStore(), SizeIs(2));
+}
+
 TEST_F(CompactedStore, IsNotMadeWhereThereIsNoStore)
 {
     std::filesystem::remove(storeFile());
