@@ -14,11 +14,9 @@ add_library(tarn_sodium INTERFACE)
 target_include_directories(tarn_sodium SYSTEM INTERFACE "${TARN_SODIUM_INCLUDE_DIR}")
 target_link_libraries(tarn_sodium INTERFACE "${TARN_SODIUM_LIBRARY}")
 
-find_path(TARN_ARCHIVE_INCLUDE_DIR archive.h REQUIRED)
-find_library(TARN_ARCHIVE_LIBRARY archive REQUIRED)
+find_package(LibArchive 3.6 REQUIRED)
 add_library(tarn_archive INTERFACE)
-target_include_directories(tarn_archive SYSTEM INTERFACE "${TARN_ARCHIVE_INCLUDE_DIR}")
-target_link_libraries(tarn_archive INTERFACE "${TARN_ARCHIVE_LIBRARY}")
+target_link_libraries(tarn_archive INTERFACE LibArchive::LibArchive)
 
 find_path(TARN_WEBP_INCLUDE_DIR webp/demux.h REQUIRED)
 find_library(TARN_WEBP_LIBRARY webp REQUIRED)

@@ -32,8 +32,11 @@ std::optional<StoreFinding::Kind> RecordFile::whatIsAmiss(const OVNoteFile& reco
     using Kind = StoreFinding::Kind;
     if (!record.downloadedValue())
         return std::nullopt;
-    if (!size)
-        return others == 1 && record.storedFilename() ? Kind::MisnamedFile : Kind::MissingFile;
+    if (!size) {
+        // Beside a protected one that is gone nobody can tell what lies there: it may be clear.
+        const bool isMisnamed = others == 1 && record.storedFilename() && !record.encryptedValue();
+        return isMisnamed ? Kind::MisnamedFile : Kind::MissingFile;
+    }
     // Of a protected one the size is as unreadable as the name.
     const bool isOfSize = record.encryptedValue() || size == record.storedFileSize();
     return isOfSize ? std::nullopt : std::optional(Kind::WrongFileSize);

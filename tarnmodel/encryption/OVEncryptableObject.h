@@ -119,6 +119,8 @@ public:
     virtual NSManagedObject& passwordRecord() noexcept = 0;
     virtual const NSManagedObject& passwordRecord() const noexcept = 0;
 
+    /// Names the record for good: what is kept of the password is bound to it.
+    virtual std::string passwordIdentifier() const = 0;
     /// By which the manager recognises the password; none until it was set.
     virtual std::optional<NSData> verifier() const = 0;
     virtual void setVerifier(const std::optional<NSData>& verifier) = 0;

@@ -37,6 +37,7 @@ enum OVEncryptionErrorCode : long {
     OVEncryptionErrorFile = 7,           ///< the file is not here, or cannot be read or written
     OVEncryptionErrorNotAPassword = 8,   ///< the password is empty, too long, or no valid UTF-8
     OVEncryptionErrorStore = 9,          ///< the record could not be saved
+    OVEncryptionErrorHasPassword = 10,   ///< the record has a password already, or another one protects it
 };
 
 /// A password was unlocked, or locked: by a call, the time limit or the end of its manager. `object` is the manager;
@@ -57,6 +58,9 @@ struct OVEncryptionOptions {
     OVKeyDerivationCost cost{}; ///< of passwords that are set or changed from now on
     std::chrono::seconds timeLimit
         = std::chrono::minutes(5); ///< how long a password stays unlocked unused; 0: for ever
+    /// Where decrypted copies of files go that the user's folder in memory does not hold: a folder of the process's
+    /// own for what can be made again. "TarnModel" in the user's cache folder until set. Any thread.
+    std::function<std::filesystem::path()> scratchDirectory{};
 };
 
 /// Protects notes and attachments by passwords, and knows which manager serves which context.
@@ -115,9 +119,14 @@ public:
     /// Unlocks what the password protects, with what older passwords and rotations of the record left. False and one of
     /// the errors above.
     bool unlock(const OVEncryptingPassword& record, std::string_view password, NSError* error);
-    /// Locks it, or all, at once and everywhere; decrypted copies of files go. Any thread. Who holds it unlocked reads
-    /// on to the end of that.
+    /// The same without standing still: the password is tried on the global queue. `completion` is called on the main
+    /// queue, with an error of code 0 when it is unlocked now; always, and also when this manager has ended.
+    void unlockInBackground(
+        const OVEncryptingPassword& record, std::string_view password, std::function<void(const NSError&)> completion);
+    /// Locks it, at once and everywhere; decrypted copies of files go. Who holds it unlocked reads on to the end of
+    /// that.
     void lock(const OVEncryptingPassword& record);
+    /// Locks all. Any thread.
     void lock();
     bool hasCachedPassword(const OVEncryptingPassword& record) const override;
     /// Another password for what the record protects; no protected record changes, older backups stay readable with
@@ -163,8 +172,9 @@ public:
     std::optional<std::filesystem::path> fileURLForNoteFile(const OVEncryptableNoteFile& file, NSError* error) override;
     bool setContents(const NSFileWrapper& contents, OVEncryptableNoteFile& file, NSError* error) override;
 
+    class Vault; ///< of the kit's own
+
 private:
-    class Vault;
     std::unique_ptr<Vault> vault_;
 };
 

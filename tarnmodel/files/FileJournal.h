@@ -34,6 +34,8 @@ public:
     bool note(const RecordFolder& folder, NSError* error);
     /// Notes that the folder is about to be made.
     bool noteNew(const RecordFolder& folder, NSError* error);
+    /// Notes that a file of another name is about to take the place of one in the folder.
+    bool noteExchange(const RecordFolder& folder, std::string_view former, std::string_view name, NSError* error);
     /// Notes that the record's folder, or with a name that file in it, is about to be moved aside; where to.
     std::optional<std::filesystem::path> noteAside(
         const RecordFolder& folder, std::string_view filename, NSError* error);
@@ -44,7 +46,8 @@ public:
     struct Line {
         RecordFolder folder;
         bool isNew = false;          ///< the folder was about to be made
-        std::string filename;        ///< of a file that was moved aside; empty for the whole folder
+        std::string filename;        ///< of a file that was moved aside or exchanged; empty for the whole folder
+        std::string exchangedFor;    ///< the name of the file that took its place; empty where none did
         std::filesystem::path aside; ///< where it lies, if it does; empty when nothing was to be moved
     };
     /// What a process left that died: a folder that is held from now on, and the lines of its journal, those that were

@@ -25,6 +25,7 @@ namespace fs = std::filesystem;
 constexpr std::string_view kFolderPrefix = ".unsaved-";
 constexpr std::string_view kJournal = "journal";
 constexpr std::string_view kNewFolder = "+";
+constexpr std::string_view kExchange = "=";
 constexpr char kSeparator = '\t'; // neither identifiers on disk nor names hold one
 
 fs::path placeOfJournals()
@@ -62,8 +63,9 @@ std::vector<FileJournal::Line> linesOf(const fs::path& folder)
         std::getline(fields, line.folder.area, kSeparator);
         std::getline(fields, line.folder.identifier, kSeparator);
         std::getline(fields, line.filename, kSeparator);
+        std::getline(fields, line.exchangedFor, kSeparator);
         line.isNew = aside == kNewFolder;
-        if (!aside.empty() && !line.isNew)
+        if (!aside.empty() && !line.isNew && aside != kExchange)
             line.aside = folder / aside;
         if (!line.folder.identifier.empty())
             lines.push_back(std::move(line));
@@ -134,6 +136,13 @@ bool FileJournal::noteNew(const RecordFolder& folder, NSError* error)
 {
     const std::lock_guard lock(mutex_);
     return append(fmt::format("{}\t{}\t{}", kNewFolder, folder.area, folder.identifier), error);
+}
+
+bool FileJournal::noteExchange(
+    const RecordFolder& folder, std::string_view former, std::string_view name, NSError* error)
+{
+    const std::lock_guard lock(mutex_);
+    return append(fmt::format("{}\t{}\t{}\t{}\t{}", kExchange, folder.area, folder.identifier, former, name), error);
 }
 
 std::optional<fs::path> FileJournal::noteAside(const RecordFolder& folder, std::string_view filename, NSError* error)

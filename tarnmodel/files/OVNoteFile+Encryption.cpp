@@ -1,7 +1,13 @@
 #include "tarnmodel/encryption/OVEncryptionCoreManager.h"
+#include "tarnmodel/files/FileNames.h"
+#include "tarnmodel/files/UnsavedFileChanges.h"
+#include "tarnmodel/model/OVNote.h"
 #include "tarnmodel/model/OVNoteFile.h"
 #include "tarnmodel/model/OVPassword.h"
 #include "tarnmodel/platform/coredata/NSManagedObjectContext.h"
+#include "tarnmodel/platform/foundation/filesystem/NSFileManager.h"
+#include "tarnmodel/platform/foundation/values/NSError.h"
+#include "tarnmodel/platform/foundation/values/NSException.h"
 
 namespace tarn {
 
@@ -79,6 +85,14 @@ bool OVNoteFile::hasEncryptionAndIsLocked() const
     return hasEncryption();
 }
 
+OVEncryptionCoreManagerProtocol* OVNoteFile::requireOpen() const
+{
+    auto* const manager = OVEncryptionCoreManager::managerGuarding(*this, encryptedValue());
+    if (encryptedValue() && !manager)
+        throw NSException(OVInvalidAccessorException, OVInvalidAccessorReason);
+    return manager;
+}
+
 OVEncryptionCoreManagerProtocol* OVNoteFile::encryptionCoreManager() const
 {
     return OVEncryptionCoreManager::encryptionCoreManagerForManagedObjectContext(managedObjectContext());
@@ -109,14 +123,58 @@ bool OVNoteFile::prepareToAddEncryption(NSError* /*error*/)
     return true;
 }
 
-void OVNoteFile::didAddEncryption() { }
-
-void OVNoteFile::didRemoveEncryption() { }
-
-bool OVNoteFile::exchangeStoredFile(std::string_view /*name*/,
-    const std::function<bool(const std::filesystem::path&, NSError*)>& /*write*/, NSError* /*error*/)
+std::optional<std::string> OVNoteFile::searchText() const
 {
-    return false;
+    if (auto* manager = OVEncryptionCoreManager::managerGuarding(*this, encryptedValue()))
+        return manager->searchTextForNoteFile(*this, nullptr);
+    return primitiveSearchText();
+}
+
+void OVNoteFile::setSearchText(std::optional<std::string_view> text)
+{
+    if (auto* manager = OVEncryptionCoreManager::managerGuarding(*this, encryptedValue()))
+        manager->setSearchText(text, *this);
+    else
+        updatePrimitiveSearchText(text);
+}
+
+void OVNoteFile::didAddEncryption()
+{
+    giveStoredFileItsDate();
+    // A subtitle may hold what stands in the text beside the attachment.
+    if (OVNote* const owner = note())
+        owner->setSubtitle(std::nullopt);
+}
+
+void OVNoteFile::didRemoveEncryption()
+{
+    giveStoredFileItsDate();
+    if (OVNote* const owner = note())
+        owner->deriveSubtitle();
+}
+
+/// The date of its bytes, which tells whether they are the saved ones: to exchange a file does not change it.
+void OVNoteFile::giveStoredFileItsDate() const
+{
+    const auto file = primitiveFileURL();
+    if (const auto date = modificationDate(); file && date && NSFileManager::fileExistsAtURL(*file))
+        NSFileManager::setModificationDate(*date, *file);
+}
+
+bool OVNoteFile::exchangeStoredFile(
+    std::string_view name, const std::function<bool(const std::filesystem::path&, NSError*)>& write, NSError* error)
+{
+    if (!uniqueIdentifier()) {
+        assignError(error, NSError("Tarn Model", 1, "An attachment without an identifier has no file"));
+        return false;
+    }
+    const std::string taken = fileNameWithinFolder(name);
+    if (!UnsavedFileChanges::ofRecord(*this).exchangeFile(
+            RecordFolder::ofRecord(*this), storedFilename().value_or(""), taken, write, error))
+        return false;
+    updatePrimitiveFilename(taken);
+    markForUpload();
+    return true;
 }
 
 } // namespace tarn

@@ -5,6 +5,7 @@
 #include "tarnmodel/model/OVNote.h"
 #include "tarnmodel/model/OVNoteFile.h"
 #include "tarnmodel/model/OVPassword.h"
+#include "tarnmodel/notes/EditGuard.h"
 #include "tarnmodel/platform/coredata/NSManagedObjectContext.h"
 #include "tarnmodel/platform/foundation/filesystem/NSFileManager.h"
 #include "tarnmodel/platform/foundation/filesystem/NSFileWrapper.h"
@@ -95,21 +96,19 @@ OVNoteFile* OVNoteFile::getOrCreateFileFromURL(const FileURL& url, OVNote& note,
     const std::string name = url.path.filename().string();
     if (!hasName(name, error))
         return nullptr;
-    OVNoteFile* file = nullptr;
+    const auto held = EditGuard::holdUnlocked(note.managedObjectContext());
+    EditGuard::requireAttachable(note);
+    OVNoteFile* match = nullptr;
     const std::string safeName = fileNameWithinFolder(
-        safeFilenameForFilename(name, note, file, [&] { return NSFileWrapper::withURL(url.path); }));
-    if (file) {
-        file->setInUse();
-    } else {
-        file = factoryNoteFileForFileURL(url, note.managedObjectContext(), error);
-        if (!file)
-            return nullptr;
-        if (safeName != file->filename())
-            file->renameTaken(safeName);
-        file->setNote(&note);
-    }
-    encryptFileIfNeeded(*file);
-    return file;
+        safeFilenameForFilename(name, note, match, [&] { return NSFileWrapper::withURL(url.path); }));
+    if (match)
+        return match->revived(error);
+    OVNoteFile* const file = factoryNoteFileForFileURL(url, note.managedObjectContext(), error);
+    if (!file)
+        return nullptr;
+    if (safeName != file->filename())
+        file->renameTaken(safeName);
+    return file->attachedTo(note, error);
 }
 
 OVNoteFile* OVNoteFile::getOrCreateFileFromFileWrapper(const NSFileWrapper& fileWrapper, OVNote& note, NSError* error)
@@ -117,23 +116,45 @@ OVNoteFile* OVNoteFile::getOrCreateFileFromFileWrapper(const NSFileWrapper& file
     const fs::path given = fileWrapper.filename().value_or(fileWrapper.preferredFilename().value_or(""));
     if (!hasName(given.filename().string(), error))
         return nullptr;
-    OVNoteFile* file = nullptr;
+    const auto held = EditGuard::holdUnlocked(note.managedObjectContext());
+    EditGuard::requireAttachable(note);
+    OVNoteFile* match = nullptr;
     const std::string name = fileNameWithinFolder(
-        safeFilenameForFilename(given.filename().string(), note, file, [&] { return fileWrapper; }));
-    if (file) {
-        file->setInUse();
-    } else {
-        const fs::path scratch = OVLocalFileManager::temporaryUniqueDirectoryURL() / name;
-        if (fileWrapper.writeToURL(scratch, error))
-            file = factoryNoteFileForFileURL(scratch, note.managedObjectContext(), error);
-        // Nobody else knows of it, and what is to be protected must not stay readable.
-        NSFileManager::removeItemAtURL(scratch.parent_path());
-        if (!file)
-            return nullptr;
-        file->setNote(&note);
-    }
-    encryptFileIfNeeded(*file);
-    return file;
+        safeFilenameForFilename(given.filename().string(), note, match, [&] { return fileWrapper; }));
+    if (match)
+        return match->revived(error);
+    OVNoteFile* file = nullptr;
+    const fs::path scratch = OVLocalFileManager::temporaryUniqueDirectoryURL() / name;
+    if (fileWrapper.writeToURL(scratch, error))
+        file = factoryNoteFileForFileURL(scratch, note.managedObjectContext(), error);
+    // Nobody else knows of it, and what is to be protected must not stay readable.
+    NSFileManager::removeItemAtURL(scratch.parent_path());
+    return file ? file->attachedTo(note, error) : nullptr;
+}
+
+/// An unused attachment is one that is in use again.
+OVNoteFile* OVNoteFile::revived(NSError* error)
+{
+    if (!encryptFileIfNeeded(*this, error))
+        return nullptr;
+    setInUse();
+    return this;
+}
+
+/// Taken back, with what lies on disk for it, when it cannot be protected as the note is.
+OVNoteFile* OVNoteFile::attachedTo(OVNote& note, NSError* error)
+{
+    setNote(&note);
+    if (encryptFileIfNeeded(*this, error))
+        return this;
+    takeBack();
+    return nullptr;
+}
+
+void OVNoteFile::takeBack()
+{
+    UnsavedFileChanges::ofRecord(*this).takeBack(RecordFolder::ofRecord(*this));
+    managedObjectContext().deleteObject(*this);
 }
 
 /// Gives a file that was just taken in another name, the record's included.
@@ -146,15 +167,16 @@ void OVNoteFile::renameTaken(const std::string& name)
     updateNormalizedExtension();
 }
 
-void OVNoteFile::encryptFileIfNeeded(OVNoteFile& file)
+bool OVNoteFile::encryptFileIfNeeded(OVNoteFile& file, NSError* error)
 {
     OVNote* const note = file.note();
     OVEncryptionCoreManagerProtocol* const manager = note ? note->encryptionCoreManager() : nullptr;
     if (!manager || !note->encryptedValue() || manager->isObjectLocked(*note) || file.encryptedValue())
-        return;
-    OVPassword* const password = note->password();
-    if (OVEncryptionCoreManagerProtocol* const own = file.encryptionCoreManager(); own && password)
-        own->addEncryptionToObject(file, *password, nullptr);
+        return true;
+    if (OVPassword* const password = note->password())
+        return manager->addEncryptionToObject(file, *password, error);
+    assignError(error, NSError(TarnEncryptionErrorDomain, OVEncryptionErrorLocked, "The note's password is not here"));
+    return false;
 }
 
 } // namespace tarn

@@ -40,6 +40,14 @@ bool OVNoteFile::filenameIsEqualTo(std::string_view filename) const
 
 void OVNoteFile::renameWithFilename(std::string_view filename, NSError* error)
 {
+    requireOpen();
+    if (encryptedValue()) {
+        setFilename(fileNameWithinFolder(filename));
+        updateNormalizedExtension();
+        if (downloadedValue())
+            markForUpload();
+        return;
+    }
     const auto formerName = this->filename();
     deleteFileThumbnails();
     const auto formerFile = fileURL();
@@ -64,9 +72,14 @@ void OVNoteFile::updateFileMetadata()
 {
     if (hasEncryptionAndIsLocked())
         return;
-    const auto file = fileURL();
-    const auto attributes = file ? NSFileManager::attributesOfItemAtURL(*file) : std::nullopt;
-    setFileSize(attributes ? sizeOfItem(*file).value_or(attributes->size) : 0);
+    const auto file = encryptedValue() && !downloadedValue() ? std::nullopt : fileURL();
+    if (encryptedValue() && !file)
+        return;
+    const auto size = file ? sizeOfItem(*file) : std::nullopt;
+    // A decrypted copy is as old as the last time that somebody looked at it.
+    const auto stored = primitiveFileURL();
+    const auto attributes = stored ? NSFileManager::attributesOfItemAtURL(*stored) : std::nullopt;
+    setFileSize(size.value_or(0));
     setModificationDate(attributes ? std::optional(attributes->modificationDate) : std::nullopt);
     setCreationDate(attributes ? attributes->creationDate : std::nullopt);
 }

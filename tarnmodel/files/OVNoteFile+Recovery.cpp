@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <map>
+#include <set>
 #include <system_error>
 #include <vector>
 
@@ -46,6 +47,31 @@ void settleReplacedFiles(const OVNoteFile& record, const fs::path& place, const 
             moveToStrayFiles(aside, record.uniqueIdentifier().value_or(""));
 }
 
+/// Of the files that took each other's place the one stays that the record names. Where that is not there, what was
+/// made for records that never were saved goes, unless nothing else is left.
+void settleExchangedFiles(const OVNoteFile& record, const fs::path& place, const LinesOfFolder& lines)
+{
+    std::set<fs::path> made;
+    std::set<fs::path> exchanged;
+    for (const FileJournal::Line* line : lines) {
+        if (line->exchangedFor.empty())
+            continue;
+        made.insert(place / line->exchangedFor);
+        exchanged.insert({place / line->exchangedFor, place / line->filename});
+    }
+    if (exchanged.empty())
+        return;
+    const auto stored = record.primitiveFileURL();
+    const bool isThere = stored && NSFileManager::fileExistsAtURL(*stored);
+    const bool isFormerLeft
+        = std::ranges::any_of(itemsInFolder(place), [&](const fs::path& item) { return !made.contains(item); });
+    if (!isThere && !isFormerLeft)
+        return;
+    for (const fs::path& item : isThere ? exchanged : made)
+        if (item != stored)
+            NSFileManager::removeItemAtURL(item);
+}
+
 void removeUnfinishedItems(const fs::path& folder)
 {
     std::error_code failure;
@@ -74,10 +100,19 @@ void settleFolder(const RecordFolder& folder, const OVNoteFile* record, const Li
         else if (!NSFileManager::fileExistsAtURL(place))
             NSFileManager::moveItemAtURL(line->aside, place);
     }
+    settleExchangedFiles(*record, place, lines);
+    removeUnfinishedItems(place);
+    const auto stored = record->primitiveFileURL();
+    if (record->encryptedValue() && stored && NSFileManager::fileExistsAtURL(*stored)) {
+        // Its name says that it is the saved one; what it replaced may be what it protects.
+        for (const fs::path& aside : replaced)
+            NSFileManager::removeItemAtURL(aside);
+        return;
+    }
     if (!replaced.empty())
         settleReplacedFiles(*record, place, replaced);
-    removeUnfinishedItems(place);
-    giveFileItsName(folder, record->storedFilename().value_or(""));
+    if (!record->encryptedValue())
+        giveFileItsName(folder, record->storedFilename().value_or(""));
 }
 
 std::vector<std::string> identifiersOf(const std::vector<FileJournal::Line>& lines)

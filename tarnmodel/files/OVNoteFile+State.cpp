@@ -1,3 +1,4 @@
+#include "tarnmodel/encryption/OVEncryptionCoreManager.h"
 #include "tarnmodel/files/UnsavedFileChanges.h"
 #include "tarnmodel/model/OVNoteFile.h"
 #include "tarnmodel/model/OVNoteImage.h"
@@ -39,10 +40,17 @@ void OVNoteFile::updateAttachmentAndMarkForUpload()
 
 bool OVNoteFile::updateAttachmentWithFileWrapper(const NSFileWrapper& fileWrapper, NSError* error)
 {
-    const auto file = fileURL();
+    OVEncryptionCoreManagerProtocol* const manager = requireOpen();
+    const auto file = primitiveFileURL();
     if (!file || !uniqueIdentifier()) {
         assignError(error, NSError("Tarn Model", 1, "An attachment without a name or an identifier has no file"));
         return false;
+    }
+    if (manager) {
+        if (!manager->setContents(fileWrapper, *this, error))
+            return false;
+        updateAttachmentAndMarkForUpload();
+        return true;
     }
     if (!UnsavedFileChanges::ofRecord(*this).replaceFile(
             RecordFolder::ofRecord(*this), file->filename().string(), fileWrapper, error))

@@ -71,7 +71,9 @@ void OVNoteImage::updateFileMetadata()
     _OVNoteImage::updateFileMetadata();
     if (hasEncryptionAndIsLocked())
         return;
-    const auto file = fileURL();
+    const auto file = encryptedValue() && !downloadedValue() ? std::nullopt : fileURL();
+    if (encryptedValue() && !file)
+        return;
     const Size size = file ? imageSizeForImageURL(*file) : Size();
     setWidthValue(static_cast<std::int64_t>(size.width));
     setHeightValue(static_cast<std::int64_t>(size.height));

@@ -1,16 +1,16 @@
 #include "tarnmodel/files/UnsavedFileChanges.h"
 
 #include "tarnmodel/files/FileJournal.h"
-#include "tarnmodel/files/thumbnails/OVThumbFileManager.h"
 #include "tarnmodel/model/OVNoteFile.h"
 #include "tarnmodel/platform/coredata/NSManagedObjectContext.h"
+#include "tarnmodel/platform/foundation/filesystem/FileDescriptorInternal.h"
 #include "tarnmodel/platform/foundation/filesystem/NSFileManager.h"
 #include "tarnmodel/platform/foundation/filesystem/NSFileWrapper.h"
-#include "tarnmodel/platform/foundation/system/Log.h"
+#include "tarnmodel/platform/foundation/system/NSUUID.h"
 #include "tarnmodel/platform/foundation/values/NSError.h"
 
 #include <algorithm>
-#include <iterator>
+#include <cerrno>
 #include <ranges>
 #include <system_error>
 #include <utility>
@@ -20,12 +20,6 @@ namespace tarn {
 namespace {
 
 namespace fs = std::filesystem;
-
-void logUnlessDone(bool isDone, const NSError& error)
-{
-    if (!isDone)
-        logMessage("Error while changing files\n" + error.localizedDescription());
-}
 
 /// The item, what is in it where it is a folder, and the folders that have to know of it.
 void addWithFolders(const fs::path& item, const RecordFolder& folder, std::set<fs::path>& places)
@@ -102,7 +96,12 @@ std::optional<fs::path> UnsavedFileChanges::addFile(
         return std::nullopt;
     auto file = bring(error);
     if (file)
-        add({.kind = Kind::Added, .folder = folder, .place = isNew ? place : *file, .former = {}});
+        add({.kind = Kind::Added,
+            .folder = folder,
+            .place = isNew ? place : *file,
+            .former = {},
+            .origin = {},
+            .formerAttributes = {}});
     return file;
 }
 
@@ -117,7 +116,12 @@ bool UnsavedFileChanges::renameFile(
     FileJournal* const noted = journal(error);
     if (!noted || !noted->note(folder, error) || !NSFileManager::moveItemAtURL(former, place, error))
         return false;
-    add({.kind = Kind::Renamed, .folder = folder, .place = place, .former = former});
+    add({.kind = Kind::Renamed,
+        .folder = folder,
+        .place = place,
+        .former = former,
+        .origin = {},
+        .formerAttributes = {}});
     return true;
 }
 
@@ -144,7 +148,74 @@ bool UnsavedFileChanges::replaceFile(
         NSFileManager::removeItemAtURL(written);
         return false;
     }
-    add({.kind = Kind::Replaced, .folder = folder, .place = place, .former = *aside});
+    add({.kind = Kind::Replaced,
+        .folder = folder,
+        .place = place,
+        .former = *aside,
+        .origin = {},
+        .formerAttributes = {}});
+    return true;
+}
+
+bool UnsavedFileChanges::exchangeFile(
+    const RecordFolder& folder, std::string_view former, std::string_view name, const Writer& write, NSError* error)
+{
+    const auto manager = OVLocalFileManager::localFileManagerForPathComponent(folder.area);
+    const fs::path origin = manager->fileURLForUniqueID(folder.identifier, former);
+    const fs::path place = manager->fileURLForUniqueID(folder.identifier, name);
+    const bool isNew = !NSFileManager::fileExistsAtURL(folder.url());
+    FileJournal* const noted = journal(error);
+    if (!noted || !clearNameOfFormer(folder, place, error)
+        || !noted->noteExchange(folder, origin.filename().string(), place.filename().string(), error)
+        || (isNew && !noted->noteNew(folder, error))
+        || !manager->getOrCreateFolderForUniqueID(folder.identifier, error))
+        return false;
+    const auto formerAttributes = NSFileManager::attributesOfItemAtURL(origin);
+    const fs::path unfinished = folder.url() / (std::string(NSFileManager::unfinishedPrefix) + newUUIDString());
+    if (!write(unfinished, error) || !NSFileManager::moveItemAtURL(unfinished, place, error)) {
+        NSFileManager::removeItemAtURL(isNew ? folder.url() : unfinished);
+        return false;
+    }
+    // Nobody asks any more for one that was never saved; it may be what is to be protected.
+    if (wasMadeHere(origin, folder))
+        NSFileManager::removeItemAtURL(origin);
+    if (isNew)
+        add({.kind = Kind::Added,
+            .folder = folder,
+            .place = folder.url(),
+            .former = {},
+            .origin = {},
+            .formerAttributes = {}});
+    add({.kind = Kind::Exchanged,
+        .folder = folder,
+        .place = place,
+        .former = origin,
+        .origin = origin,
+        .formerAttributes = formerAttributes});
+    return true;
+}
+
+bool UnsavedFileChanges::wasMadeHere(const fs::path& file, const RecordFolder& folder) const
+{
+    return std::ranges::any_of(changes_, [&](const Change& change) {
+        return (change.kind == Kind::Added && (change.place == file || change.place == folder.url()))
+            || (change.kind == Kind::Exchanged && change.place == file);
+    });
+}
+
+/// A file that waits to go when the records are saved gives its name to one that is to have it again.
+bool UnsavedFileChanges::clearNameOfFormer(const RecordFolder& folder, const fs::path& place, NSError* error)
+{
+    if (!NSFileManager::fileExistsAtURL(place))
+        return true;
+    const auto waiting = std::ranges::find_if(
+        changes_, [&](const Change& change) { return change.kind == Kind::Exchanged && change.former == place; });
+    if (waiting == changes_.end())
+        return failWithSystemError(error, EEXIST, place, "made");
+    const auto aside = journal_->noteAside(folder, place.filename().string(), error);
+    if (!aside || !NSFileManager::moveItemAtURL(place, *aside, error))
+        return false;
+    waiting->former = *aside;
     return true;
 }
 
@@ -157,102 +228,26 @@ bool UnsavedFileChanges::removeFolder(const RecordFolder& folder, NSError* error
     const auto aside = noted ? noted->noteAside(folder, "", error) : std::nullopt;
     const bool isMoved = aside && NSFileManager::moveItemAtURL(place, *aside, error);
     // On a full disk it stays where it is until the deletion is saved.
-    add({.kind = Kind::Removed, .folder = folder, .place = place, .former = isMoved ? *aside : place});
+    add({.kind = Kind::Removed,
+        .folder = folder,
+        .place = place,
+        .former = isMoved ? *aside : place,
+        .origin = {},
+        .formerAttributes = {}});
     return isMoved;
+}
+
+void UnsavedFileChanges::takeBack(const RecordFolder& folder)
+{
+    for (const Change& change : changes_ | std::views::reverse)
+        if (change.folder == folder)
+            undo(change);
+    std::erase_if(changes_, [&](const Change& change) { return change.folder == folder; });
 }
 
 void UnsavedFileChanges::deleteThumbnailsOnceSaved(fs::path image)
 {
     imagesWithoutRecord_.push_back(std::move(image));
-}
-
-// What becomes of the changes ----------------------------------------------------------------------------------------
-
-bool UnsavedFileChanges::prepareForSave(NSError* error)
-{
-    std::vector<fs::path> places;
-    std::ranges::copy_if(
-        unsynchronized_, std::back_inserter(places), NSFileManager::fileExistsAtURL); // others have gone again
-    if (!places.empty() && !NSFileManager::synchronizeItemsAtURLs(places, error))
-        return false;
-    unsynchronized_.clear();
-    return true;
-}
-
-void UnsavedFileChanges::didSave(NSManagedObjectContext& context)
-{
-    std::vector<std::string> identifiers;
-    for (const Change& change : changes_)
-        if (change.kind != Kind::Added)
-            identifiers.push_back(change.folder.identifier);
-    // A merge may have kept a record that was deleted here, or given it another name.
-    RecordsOfFolders living;
-    const bool isKnown = identifiers.empty() || fetchRecordsOfFolders(identifiers, context, living);
-    for (const Change& change : changes_)
-        finish(change, isKnown ? &living : nullptr);
-    if (!imagesWithoutRecord_.empty())
-        OVThumbFileManager::thumbFileManagerForPathComponent(OVNoteThumbFileDirectoryName)
-            ->deleteAllThumbsForImageURLs(imagesWithoutRecord_);
-    clear();
-}
-
-/// `living`: the records that are left; null when that could not be found out. Then nothing is removed that may be
-/// wanted.
-void UnsavedFileChanges::finish(const Change& change, const RecordsOfFolders* living)
-{
-    if (change.kind == Kind::Added)
-        return;
-    const auto record = living ? living->find(change.folder) : RecordsOfFolders::const_iterator();
-    const bool isWanted = !living || record != living->end();
-    NSError error;
-    if (change.kind == Kind::Removed && isWanted && !NSFileManager::fileExistsAtURL(change.place))
-        logUnlessDone(NSFileManager::moveItemAtURL(change.former, change.place, &error), error);
-    else if (change.kind != Kind::Renamed && (change.former != change.place || !isWanted))
-        logUnlessDone(NSFileManager::removeItemAtURL(change.former, &error), error);
-    if (living && isWanted)
-        giveFileItsName(change.folder, record->second->storedFilename().value_or(""));
-}
-
-void UnsavedFileChanges::didSaveIntoParent(NSManagedObjectContext& parent)
-{
-    UnsavedFileChanges& target = ofContext(parent, storeUUID_);
-    std::ranges::move(changes_, std::back_inserter(target.changes_));
-    std::ranges::move(imagesWithoutRecord_, std::back_inserter(target.imagesWithoutRecord_));
-    target.unsynchronized_.merge(unsynchronized_);
-    if (!target.journal_)
-        target.journal_ = journal_;
-    clear();
-}
-
-void UnsavedFileChanges::didDropChanges()
-{
-    for (const Change& change : changes_ | std::views::reverse)
-        undo(change);
-    clear();
-}
-
-void UnsavedFileChanges::undo(const Change& change)
-{
-    NSError error;
-    if (change.kind == Kind::Added || change.kind == Kind::Replaced) {
-        // Out of sight in one step, whatever it holds.
-        const fs::path dropped = journal_->unusedURL();
-        if (NSFileManager::fileExistsAtURL(change.place))
-            logUnlessDone(NSFileManager::moveItemAtURL(change.place, dropped, &error), error);
-        NSFileManager::removeItemAtURL(dropped);
-    }
-    if (change.kind != Kind::Added && change.former != change.place)
-        logUnlessDone(NSFileManager::moveItemAtURL(change.kind == Kind::Renamed ? change.place : change.former,
-                          change.kind == Kind::Renamed ? change.former : change.place, &error),
-            error);
-}
-
-void UnsavedFileChanges::clear()
-{
-    changes_.clear();
-    unsynchronized_.clear();
-    imagesWithoutRecord_.clear();
-    journal_.reset();
 }
 
 } // namespace tarn

@@ -2,6 +2,7 @@
 
 #include "tarnmodel/files/RecordFolder.h"
 #include "tarnmodel/platform/coredata/SaveParticipant.h"
+#include "tarnmodel/platform/foundation/filesystem/NSFileManager.h"
 
 #include <cstdint>
 #include <filesystem>
@@ -38,9 +39,17 @@ public:
     /// Puts the content in the place of a file, which need not be there.
     bool replaceFile(
         const RecordFolder& folder, std::string_view filename, const NSFileWrapper& content, NSError* error);
+    /// Writes a file.
+    using Writer = std::function<bool(const std::filesystem::path& place, NSError* error)>;
+    /// Puts the file that `write` makes beside a file of the folder, which goes once the records are saved, or at once
+    /// where it was made since the last save; it need not be there. Fails when the new name is taken.
+    bool exchangeFile(const RecordFolder& folder, std::string_view former, std::string_view name, const Writer& write,
+        NSError* error);
     /// Moves the folder with all that is in it out of sight. True when there is none. False and an error when that
     /// cannot be: then it goes once the context is saved.
     bool removeFolder(const RecordFolder& folder, NSError* error);
+    /// Undoes at once what was done in the folder of a record that is not to be, after all.
+    void takeBack(const RecordFolder& folder);
     /// Deletes the thumbnails of a picture once its record's deletion is saved.
     void deleteThumbnailsOnceSaved(std::filesystem::path image);
 
@@ -50,20 +59,26 @@ public:
     void didDropChanges() override;
 
 private:
-    enum class Kind : std::uint8_t { Added, Renamed, Replaced, Removed };
+    enum class Kind : std::uint8_t { Added, Renamed, Replaced, Exchanged, Removed };
     struct Change {
         Kind kind = Kind::Added;
         RecordFolder folder;
         std::filesystem::path place;  ///< what was made, or what has got another name or gone
-        std::filesystem::path former; ///< of a renamed file its name before; else where it was moved aside
+        std::filesystem::path former; ///< of a renamed file its name before; else where it lies, if it was there
+        std::filesystem::path origin; ///< of an exchanged file where the former one belongs
+        std::optional<NSFileAttributes> formerAttributes; ///< of an exchanged file what the former one was then
     };
 
     explicit UnsavedFileChanges(std::string storeUUID);
     static UnsavedFileChanges& ofContext(NSManagedObjectContext& context, const std::string& storeUUID);
     FileJournal* journal(NSError* error);
     void add(Change change);
+    bool wasMadeHere(const std::filesystem::path& file, const RecordFolder& folder) const;
+    bool clearNameOfFormer(const RecordFolder& folder, const std::filesystem::path& place, NSError* error);
     void undo(const Change& change);
-    static void finish(const Change& change, const RecordsOfFolders* living);
+    void finish(const Change& change, const RecordsOfFolders* living);
+    void finishExchange(const Change& change, const OVNoteFile* record);
+    void discard(const std::filesystem::path& item);
     void clear();
 
     std::string storeUUID_;

@@ -154,9 +154,10 @@ public:
 
     // Copies (tarnmodel/notes/OVNote+Copying.cpp) --------------------------------------------------------------------
     /// A new note of the texts of all, a blank line between them, with their attachments; the notes go to the trash. It
-    /// is pinned when all were. Null, and nothing changes, for fewer than two notes. Raises "Invalid accessor", and
-    /// nothing has changed, when one of them is locked.
-    static OVNote* mergeNotes(const std::vector<OVNote*>& notes);
+    /// is pinned when all were. Where one is protected, it is so with the password of the first such note. Null, and
+    /// nothing changes, for fewer than two notes, and with an error when it cannot be protected. Raises "Invalid
+    /// accessor", and nothing has changed, when one of them is locked, or protected without a manager.
+    static OVNote* mergeNotes(const std::vector<OVNote*>& notes, NSError* error = nullptr);
     /// A new note like this one, with copies of its attachments and an identifier of its own, which also takes the
     /// place of this note's identifier in the text. It counts as made when it was modified.
     OVNote* duplicate() const;
@@ -186,6 +187,8 @@ public:
     bool prepareToAddEncryption(NSError* error) override;
     void didAddEncryption() override;
     void didRemoveEncryption() override;
+    /// Takes the subtitle from the text, unless the note or one of its attachments is protected.
+    void deriveSubtitle();
     /// Whether any of them, or of their attachments, is protected.
     static bool anyNoteHasEncryption(const std::vector<OVNote*>& notes);
     /// False for a protected note where attachments cannot be protected.
@@ -363,13 +366,18 @@ private:
     void updateModificationDateOfTags();
     void leaveConflict();
     void setConflictUUID(std::optional<std::string_view> conflictUUID);
-    std::string textAfterTakingAttachmentsOf(const OVNote& note, std::string text);
+    bool protectAsFirstOf(const std::vector<OVNote*>& notes, NSError* error);
+    bool takeAttachmentsOf(const OVNote& note, std::string& text, NSError* error);
+    bool takeAttachment(const OVNoteFile& file, std::string& text, NSError* error);
+    void takeBack();
+    void takeDocument(const CVKAST& document, bool updateModificationDate);
     void copyInto(OVNote& copy) const;
     void deriveFromTextSummary(const CVKTextSummary& summary, const std::optional<std::string>& oldTitle);
     bool leadsWhereLinksSay(std::span<const CVKWikiLink> wikiLinks) const;
     void takeAttachmentsAsIn(const OVNote& note);
     void takeNewAttachmentsOf(const CVKAST& document);
     void takeProtectedValues(const MergeConflict& conflict);
+    bool protectWhereAtHand(OVPassword* password);
 
     std::int64_t searchIndex_ = 0;
     TagsCache* tagsCache_ = nullptr;

@@ -85,8 +85,9 @@ public:
     void markForUpload();
     /// After its bytes have changed: drops its thumbnails, reads its metadata anew and marks it for upload.
     void updateAttachmentAndMarkForUpload();
-    /// Writes other bytes over its file, and does what follows from that. Until the context is saved a rollback brings
-    /// the former bytes back. False and an error when they cannot be written: then all is as it was.
+    /// Writes other bytes over its file, and does what follows from that; of a protected one the manager does. Until
+    /// the context is saved a rollback brings the former bytes back. False and an error when they cannot be written:
+    /// then all is as it was. Raises "Invalid accessor" while it is locked, or protected without a manager.
     bool updateAttachmentWithFileWrapper(const NSFileWrapper& fileWrapper, NSError* error = nullptr);
     /// Deletes the record from its context.
     void permanentlyDelete();
@@ -99,15 +100,19 @@ public:
     /// equal to none.
     bool filenameIsEqualTo(std::string_view filename) const;
     /// Renames the record, and its file where that is here; what a name may not hold becomes "_". An error, and the
-    /// name as it was, when the file cannot be renamed.
+    /// name as it was, when the file cannot be renamed. A protected one keeps its file's name, which says nothing.
+    /// Raises "Invalid accessor" while it is locked, or protected without a manager.
     void renameWithFilename(std::string_view filename, NSError* error = nullptr);
-    /// Reads size and dates of its file; 0 and none when there is none. Nothing while it is locked.
+    /// Reads size and dates of its file; 0 and none when there is none. Nothing while it is locked. Of a protected one
+    /// the size is that of the decrypted bytes; nothing when they cannot be read.
     virtual void updateFileMetadata();
     /// The extension that the type of its name's extension prefers; empty without a type.
     void updateNormalizedExtension();
 
     // Import (tarnmodel/files/OVNoteFile+Import.cpp) -----------------------------------------------------------------
     // Bytes are on disk when the record is made, durable before it is saved, and gone when its insertion is dropped.
+    // What is attached to a protected note is protected, or not attached: null and an error when that fails, and
+    // "Invalid accessor" while the note is locked, or protected without a manager.
     /// A new attachment of no note yet, of the first kind that can import the file. Null and an error when none can.
     static OVNoteFile* factoryNoteFileForFileURL(
         const FileURL& url, NSManagedObjectContext& context, NSError* error = nullptr);
@@ -122,8 +127,11 @@ public:
     /// if there is one; `fileData` gives the bytes, and is asked once for each unused one that is looked at.
     static std::string safeFilenameForFilename(std::string_view filename, const OVNote& note,
         OVNoteFile*& matchedNoteFile, const std::function<NSFileWrapper()>& fileData);
-    /// Protects a new attachment of an encrypted, unlocked note as the note is; nothing otherwise.
-    static void encryptFileIfNeeded(OVNoteFile& file);
+    /// Takes an attachment that was just made, and never saved, out of its context again, and from the disk at once.
+    void takeBack();
+    /// Protects a new attachment of an encrypted, unlocked note as the note is; nothing otherwise. False and an error
+    /// when it could not be protected, or there is no password to protect it with.
+    static bool encryptFileIfNeeded(OVNoteFile& file, NSError* error = nullptr);
 
     // Its folder (tarnmodel/files/OVNoteFile+Folder.cpp) -------------------------------------------------------------
     /// Copies a file into its folder, under its own name, or under the stored one where there is one. Where the copy
@@ -164,6 +172,8 @@ public:
     void setNormalizedFileExtension(std::optional<std::string_view> extension) override;
     std::optional<std::int64_t> fileSize() const override;
     void setFileSize(std::optional<std::int64_t> bytes) override;
+    std::optional<std::string> searchText() const override;
+    void setSearchText(std::optional<std::string_view> text) override;
     /// What is stored: unguarded, and announced when written.
     std::optional<std::string> storedFilename() const override { return primitiveFilename(); }
     std::optional<std::string> storedNormalizedFileExtension() const override
@@ -229,6 +239,11 @@ protected:
 
 private:
     void renameTaken(const std::string& name);
+    OVNoteFile* revived(NSError* error);
+    OVNoteFile* attachedTo(OVNote& note, NSError* error);
+    void giveStoredFileItsDate() const;
+    /// The manager to ask; null where it is not protected. Raises where the protected fields cannot be read.
+    OVEncryptionCoreManagerProtocol* requireOpen() const;
     void takeCopyOfFile(const OVNoteFile& source);
 };
 

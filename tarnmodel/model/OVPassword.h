@@ -36,6 +36,7 @@ public:
 
     NSManagedObject& passwordRecord() noexcept override { return *this; }
     const NSManagedObject& passwordRecord() const noexcept override { return *this; }
+    std::string passwordIdentifier() const override { return uniqueIdentifier().value_or(""); }
     std::optional<NSData> verifier() const override { return encryptedData(); }
     void setVerifier(const std::optional<NSData>& verifier) override { setEncryptedData(verifier); }
     std::int16_t verifierVersion() const override { return encryptionVersionValue(); }

@@ -56,13 +56,20 @@ bool isGuarded(const OVNote& note)
     return note.encryptionCoreManager() != nullptr;
 }
 
+/// Without a manager it counts as locked.
+template <typename Record> void requireOpen(const Record& record)
+{
+    if (record.encryptedValue() && !OVEncryptionCoreManager::managerGuarding(record, true))
+        throw NSException(OVInvalidAccessorException, OVInvalidAccessorReason);
+}
+
 } // namespace
 
 void EditGuard::requireEditable(const OVNote& note, std::optional<std::string_view> newTitle)
 {
+    requireOpen(note);
     if (!isGuarded(note))
         return;
-    OVEncryptionCoreManager::managerGuarding(note, note.encryptedValue());
     requireUnlocked(note.filesSet().allObjects());
     const auto oldTitle = note.title();
     if (oldTitle && oldTitle != newTitle)
@@ -72,8 +79,7 @@ void EditGuard::requireEditable(const OVNote& note, std::optional<std::string_vi
 void EditGuard::requireRewritable(const std::vector<OVNote*>& notes, const Rewriting& rewriting)
 {
     for (const OVNote* note : notes) {
-        if (note->encryptedValue() && !isGuarded(*note))
-            throw NSException(OVInvalidAccessorException, OVInvalidAccessorReason);
+        requireOpen(*note);
         const std::string text = note->text().value_or("");
         const std::string title = note->title().value_or("");
         // Only a hashtag in the title can make it another; that spares the rewriting of most texts.
@@ -83,10 +89,24 @@ void EditGuard::requireRewritable(const std::vector<OVNote*>& notes, const Rewri
     }
 }
 
-void EditGuard::requireReadableAttachments(const std::vector<OVNote*>& notes)
+void EditGuard::requireReadable(const std::vector<OVNote*>& notes)
 {
-    for (const OVNote* note : notes)
-        requireUnlocked(note->orderedFiles());
+    for (const OVNote* note : notes) {
+        requireOpen(*note);
+        for (const OVNoteFile* file : note->orderedFiles())
+            requireOpen(*file);
+    }
+}
+
+void EditGuard::requireAttachable(const OVNote& note)
+{
+    requireOpen(note);
+}
+
+std::shared_ptr<void> EditGuard::holdUnlocked(const NSManagedObjectContext& context)
+{
+    auto* const manager = OVEncryptionCoreManager::encryptionCoreManagerForManagedObjectContext(context);
+    return manager ? manager->holdUnlocked() : nullptr;
 }
 
 bool EditGuard::isUnreadable(const OVNoteFile& file)

@@ -8,6 +8,9 @@
 #include "tarnmodel/model/RecordCopying.h"
 #include "tarnmodel/notes/EditGuard.h"
 #include "tarnmodel/platform/coredata/NSManagedObjectContext.h"
+#include "tarnmodel/platform/foundation/values/NSError.h"
+
+#include <algorithm>
 
 namespace tarn {
 
@@ -35,42 +38,83 @@ std::string textWithLinksTo(const std::string& newFilename, const std::string& o
 
 } // namespace
 
-/// Gives this note the attachments of `note`; its text with links to the names that they have here.
-std::string OVNote::textAfterTakingAttachmentsOf(const OVNote& note, std::string text)
+/// What comes out of protected notes is protected as the first of them is. Before it holds anything: nothing of it is
+/// ever written in clear.
+bool OVNote::protectAsFirstOf(const std::vector<OVNote*>& notes, NSError* error)
 {
-    for (const OVNoteFile* file : note.orderedFiles()) {
-        const auto url = file->fileURL();
-        if (!url)
-            continue;
-        const OVNoteFile* taken = addAttachmentFromFileURL(*url);
-        const auto newName = taken ? taken->filename() : std::nullopt;
-        const auto oldName = file->filename();
-        if (newName && oldName && *newName != *oldName)
-            text = textWithLinksTo(*newName, *oldName, text);
+    const auto source = std::ranges::find_if(notes, [](const OVNote* note) { return note->encryptedValue(); });
+    if (source == notes.end())
+        return true;
+    OVPassword* const password = (*source)->password();
+    if (!password) {
+        assignError(
+            error, NSError(TarnEncryptionErrorDomain, OVEncryptionErrorLocked, "The password of a note is not here"));
+        return false;
     }
-    return text;
+    return encryptionCoreManager()->addEncryptionToObject(*this, *password, error);
 }
 
-OVNote* OVNote::mergeNotes(const std::vector<OVNote*>& notes)
+/// Gives this note the attachments of `note`, and `text` the names that they have here.
+bool OVNote::takeAttachmentsOf(const OVNote& note, std::string& text, NSError* error)
+{
+    const std::vector<OVNoteFile*> files = note.orderedFiles();
+    return std::ranges::all_of(files, [&](const OVNoteFile* file) { return takeAttachment(*file, text, error); });
+}
+
+/// One whose bytes are not here is left out; a protected one must not get lost, or become clear.
+bool OVNote::takeAttachment(const OVNoteFile& file, std::string& text, NSError* error)
+{
+    if (file.encryptedValue() && !file.downloadedValue())
+        return true;
+    const auto url = file.fileURL();
+    OVNoteFile* const taken = url ? OVNoteFile::getOrCreateFileFromURL(*url, *this, error) : nullptr;
+    if (!taken)
+        return !file.encryptedValue();
+    if (file.encryptedValue() && !taken->encryptedValue()
+        && !(file.password() && encryptionCoreManager()->addEncryptionToObject(*taken, *file.password(), error)))
+        return false;
+    const auto newName = taken->filename();
+    const auto oldName = file.filename();
+    if (newName && oldName && *newName != *oldName)
+        text = textWithLinksTo(*newName, *oldName, text);
+    return true;
+}
+
+/// Takes a note that was just made out of its context again, with its attachments.
+void OVNote::takeBack()
+{
+    for (OVNoteFile* file : filesSet().allObjects())
+        file->takeBack();
+    managedObjectContext().deleteObject(*this);
+}
+
+OVNote* OVNote::mergeNotes(const std::vector<OVNote*>& notes, NSError* error)
 {
     if (notes.size() < 2)
         return nullptr;
+    NSManagedObjectContext& context = notes.front()->managedObjectContext();
+    const auto held = EditGuard::holdUnlocked(context);
     // Read first: a note or an attachment that is locked ends the merge before anything has changed.
+    EditGuard::requireReadable(notes);
     std::vector<std::string> texts;
     texts.reserve(notes.size());
     for (const OVNote* note : notes)
         texts.push_back(note->text().value_or(""));
-    EditGuard::requireReadableAttachments(notes);
 
-    OVNote* merger = insertInManagedObjectContext(notes.front()->managedObjectContext());
-    std::string merged;
-    bool areAllPinned = true;
-    for (std::size_t index = 0; index < notes.size(); ++index) {
-        OVNote& note = *notes[index];
-        appendNoteText(merged, merger->textAfterTakingAttachmentsOf(note, std::move(texts[index])));
-        areAllPinned = areAllPinned && note.isPinned();
-        note.trash();
+    OVNote* merger = insertInManagedObjectContext(context);
+    bool isWhole = merger->protectAsFirstOf(notes, error);
+    for (std::size_t index = 0; isWhole && index < notes.size(); ++index)
+        isWhole = merger->takeAttachmentsOf(*notes[index], texts[index], error);
+    if (!isWhole) {
+        merger->takeBack();
+        return nullptr;
     }
+    std::string merged;
+    for (const std::string& text : texts)
+        appendNoteText(merged, text);
+    const bool areAllPinned = std::ranges::all_of(notes, [](const OVNote* note) { return note->isPinned(); });
+    for (OVNote* note : notes)
+        note->trash();
     merger->updateNoteWithText(merged);
     if (areAllPinned)
         merger->pin();
@@ -120,6 +164,7 @@ std::string textWithIdentifier(std::string text, const std::string& newIdentifie
 OVNote* OVNote::duplicate() const
 {
     NSManagedObjectContext& context = managedObjectContext();
+    const auto held = EditGuard::holdUnlocked(context);
     OVNote* copy = insertInManagedObjectContext(context);
     OVEncryptionCoreManager::performInManagedObjectContext(context, [&] { copyInto(*copy); });
     return copy;

@@ -1,3 +1,5 @@
+#include "tarnmodel/corvel/CVKAST.h"
+#include "tarnmodel/corvel/CVKTextSummary.h"
 #include "tarnmodel/encryption/OVEncryptionCoreManager.h"
 #include "tarnmodel/model/OVNote.h"
 #include "tarnmodel/model/OVNoteFile.h"
@@ -22,10 +24,13 @@ void OVNote::setText(std::optional<std::string_view> text)
     auto* manager = OVEncryptionCoreManager::managerGuarding(*this, encryptedValue());
     if (text)
         checkTextLength(*text);
-    if (manager)
-        manager->setText(text, *this);
-    else
+    if (!manager) {
         updatePrimitiveText(text);
+        return;
+    }
+    willChangeValueForKey("text");
+    manager->setText(text, *this);
+    didChangeValueForKey("text");
 }
 
 std::optional<std::string> OVNote::storedText() const
@@ -103,7 +108,17 @@ void OVNote::didAddEncryption()
     setSubtitle(std::nullopt);
 }
 
-void OVNote::didRemoveEncryption() { }
+void OVNote::didRemoveEncryption()
+{
+    deriveSubtitle();
+}
+
+void OVNote::deriveSubtitle()
+{
+    const auto text = encryptedValue() ? std::nullopt : storedText();
+    if (text && !hasEncryption())
+        setSubtitle(CVKAST::fromMarkdown(std::string_view(*text)).textSummary().subtitle);
+}
 
 bool OVNote::allowsAttachments() const
 {

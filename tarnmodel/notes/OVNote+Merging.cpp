@@ -120,7 +120,21 @@ bool wasOnlyRewritten(const MergeConflict& conflict)
         && rewritingOf(former->second, lostValue(conflict, OVNoteAttributes::text())).has_value();
 }
 
+/// Whether one side protected the note while the other, which won, went on with the clear text.
+bool lostItsProtection(const OVNote& note, const MergeConflict& conflict)
+{
+    const auto former = conflict.formerValues.find(std::string(OVNoteAttributes::encrypted()));
+    return !note.encryptedValue() && former != conflict.formerValues.end() && former->second == Value(false);
+}
+
 } // namespace
+
+bool OVNote::protectWhereAtHand(OVPassword* password)
+{
+    OVEncryptionCoreManagerProtocol* const manager = encryptionCoreManager();
+    return password && manager && manager->hasCachedPassword(*password)
+        && manager->addEncryptionToObject(*this, *password, nullptr);
+}
 
 OVNote* OVNote::keepLosingText(const MergeConflict& conflict)
 {
@@ -132,6 +146,10 @@ OVNote* OVNote::keepLosingText(const MergeConflict& conflict)
     if ((!text || wasOnlyRewritten(conflict)) && !isProtected)
         return nullptr;
     OVNote* copy = insertInManagedObjectContext(note->managedObjectContext());
+    // A text that was clear on one side is clear in the copy only where its note is, or its password is not at hand.
+    const bool isOfProtected = !isProtected && !note->isDeleted() && note->encryptedValue();
+    if (isOfProtected && !copy->protectWhereAtHand(note->password()))
+        logMessage("A conflicted copy of a protected note is not protected: its password is locked");
     if (!note->isDeleted())
         copy->takeAttachmentsAsIn(*note);
     else if (text)
@@ -139,7 +157,10 @@ OVNote* OVNote::keepLosingText(const MergeConflict& conflict)
     if (isProtected)
         copy->takeProtectedValues(conflict);
     else
-        copy->updateNoteWithText(*text, false);
+        copy->takeDocument(CVKAST::fromMarkdown(std::string_view(*text)), false);
+    if (isProtected && !note->isDeleted() && lostItsProtection(*note, conflict)
+        && !note->protectWhereAtHand(copy->password()))
+        logMessage("A note that was protected while another writer changed its text is clear: its password is locked");
     if (const Value date = lostValue(conflict, OVNoteAttributes::modificationDate()); date.kind() == Value::Kind::Date)
         copy->setModificationDate(date.asDate());
     if (!note->isDeleted())

@@ -85,8 +85,14 @@ void OVNote::updateNoteWithAST(const CVKAST& document)
 
 void OVNote::updateNoteWithAST(const CVKAST& document, bool updateModificationDate)
 {
+    const auto held = EditGuard::holdUnlocked(managedObjectContext());
     if (!TitlePropagation::isRewriting(*this))
         EditGuard::requireEditable(*this, document.textSummary().title);
+    takeDocument(document, updateModificationDate);
+}
+
+void OVNote::takeDocument(const CVKAST& document, bool updateModificationDate)
+{
     setText(document.markdown());
     updateNoteFromTextSummary(document.textSummary());
     if (updateModificationDate)

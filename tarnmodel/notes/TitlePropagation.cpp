@@ -3,6 +3,7 @@
 #include "tarnmodel/corvel/CVKAST.h"
 #include "tarnmodel/corvel/CVKWikiLink.h"
 #include "tarnmodel/model/OVNoteBackLink.h"
+#include "tarnmodel/notes/EditGuard.h"
 #include "tarnmodel/platform/foundation/text/Folding.h"
 
 #include <algorithm>
@@ -72,6 +73,7 @@ void TitlePropagation::titleChanged(
         current_->add(note, std::move(linkedNew), std::move(linkedOld));
         return;
     }
+    const auto held = EditGuard::holdUnlocked(note.managedObjectContext());
     TitlePropagation propagation;
     propagation.add(note, std::move(linkedNew), std::move(linkedOld));
     propagation.run();

@@ -73,6 +73,7 @@ OVNoteTag* OVNoteTag::rename(std::string_view newName, const std::vector<OVNote*
     const auto existing = lookUpTag(newTitle, context);
     if (!existing)
         return nullptr;
+    const auto held = EditGuard::holdUnlocked(context);
     const std::vector<OVNote*> renamed = notes ? *notes : notesSet().allObjects();
     EditGuard::requireRewritable(
         renamed, [&](const std::string& text) { return CVKHashtag::renameTagName(oldTitle, newTitle, text); });

@@ -21,6 +21,7 @@ void OVNoteTag::addTagToNotes(const std::vector<OVNote*>& notes, bool bottom)
         return bottom ? CVKHashtag::addTagNameToTheBottomOfString(name, text)
                       : CVKHashtag::addTagNameToTheTopOfString(name, text);
     };
+    const auto held = EditGuard::holdUnlocked(managedObjectContext());
     EditGuard::requireRewritable(untagged, withTag);
     for (OVNote* note : untagged) {
         // The same note may have been named twice.
@@ -38,6 +39,7 @@ void OVNoteTag::deleteTagInNotes(const std::vector<OVNote*>& notes)
 {
     const std::string name = title().value_or("");
     const auto withoutTag = [&](const std::string& text) { return CVKHashtag::removeTagName(name, text); };
+    const auto held = EditGuard::holdUnlocked(managedObjectContext());
     EditGuard::requireRewritable(notes, withoutTag);
     for (OVNote* note : std::vector<OVNote*>(notes)) {
         if (!note->isDeleted())

@@ -1,6 +1,7 @@
 #include "tests/files/FilesFixture.h"
 #include "tests/files/PictureFile.h"
 
+#include "tarnmodel/files/OVLocalFileManager.h"
 #include "tarnmodel/files/thumbnails/OVThumbFileManager.h"
 #include "tarnmodel/model/OVNoteGenericFile.h"
 #include "tarnmodel/model/OVNoteImage.h"

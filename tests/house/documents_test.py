@@ -151,8 +151,8 @@ class Documents(unittest.TestCase):
         readme = (ROOT / "README.md").read_text(encoding="utf-8").split("## Build it into your project")[1]
         asked = (ROOT / "cmake" / "TarnDependencies.cmake").read_text(encoding="utf-8")
         found = set(re.findall(r"find_package\((\w+)", asked)) | set(re.findall(r"find_library\(TARN_(\w+)_LIBRARY", asked))
-        spoken = {"SQLite3": "SQLite", "ICU": "ICU", "nlohmann_json": "nlohmann json", "fmt": "{fmt}", "SODIUM": "libsodium",
-                  "MD": "libmd", "ARCHIVE": "libarchive", "JPEG": "libjpeg-turbo", "PNG": "libpng", "GIF": "giflib", "WEBP": "libwebp",
+        spoken = {"SQLite3": "SQLite", "ICU": "ICU", "nlohmann_json": "nlohmann json", "fmt": "{fmt}", "SODIUM": "libsodium", "LibArchive": "libarchive",
+                  "MD": "libmd", "JPEG": "libjpeg-turbo", "PNG": "libpng", "GIF": "giflib", "WEBP": "libwebp",
                   "WEBP_DEMUX": "libwebp", "TIFF": "libtiff", "HEIF": "libheif", "Threads": ""}
         self.assertEqual(found, set(spoken))
         for name in spoken.values():

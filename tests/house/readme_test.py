@@ -25,7 +25,11 @@ ANSWERED = [
     "restore Packliste", "archive Packliste", "unarchive Packliste", "pin Packliste", "unpin Packliste",
     "readonly Packliste", "editable Packliste", "delete --yes Packliste", "baseline", "changes", "stats", "doctor", "migrate",
     "parse notes/Start\\ here.md", "attach 'A note' notes/Home/attachments/dynamo.svg", "files",
-    "file rename 'A note' dynamo.svg light.svg", "file prune", "thumb 'House manual' --size 20x20", "export out",
+    "file rename 'A note' dynamo.svg light.svg", "file prune", "protect --password-file key --memory 1 'A note'",
+    "unprotect --password-file key 'A note'", "passwords", "password delete --yes",
+    "password add --password-file key --memory 1",
+    "password change --password-file key --new-password-file key --memory 1", "password rotate --password-file key",
+    "thumb 'House manual' --size 20x20", "export out",
     "backup all.tarnbackup", "restore-backup all.tarnbackup",
 ]
 # While it has the note open, somebody else writes to it: the two versions are kept as a conflict.
@@ -39,6 +43,7 @@ class CommandLine(unittest.TestCase):
         self.home = pathlib.Path(folder.name)
         shutil.copytree(ROOT / "demo" / "notes", self.home / "notes")
         shutil.copy(self.home / "notes/Reise/Japan/bilder/markt.png", self.home / "photo.jpg")
+        (self.home / "key").write_text("correct horse\n", encoding="utf-8")
         (self.home / "bin").mkdir()
         (self.home / "bin" / "tarn").symlink_to(TARN)
         (self.home / "bin" / "editor").write_text(EDITOR, encoding="utf-8")

@@ -56,6 +56,14 @@ public:
     {
         file.updatePrimitiveFileSize(-bytes.value_or(0));
     }
+    std::optional<std::string> searchTextForNoteFile(const OVEncryptableNoteFile& file, NSError*) override
+    {
+        return backwards(file.storedSearchText());
+    }
+    void setSearchText(std::optional<std::string_view> text, OVEncryptableNoteFile& file) override
+    {
+        file.updatePrimitiveSearchText(backwards(text));
+    }
     std::optional<std::filesystem::path> fileURLForNoteFile(const OVEncryptableNoteFile&, NSError*) override
     {
         return {};
@@ -127,6 +135,9 @@ TEST_P(Protection, OfALockedRecordRaises)
     expectInvalidAccessor([&] { file.setNormalizedFileExtension("pdf"); });
     expectInvalidAccessor([&] { (void)file.fileSizeValue(); });
     expectInvalidAccessor([&] { file.setFileSizeValue(1); });
+    expectInvalidAccessor([&] { (void)file.searchText(); });
+    expectInvalidAccessor([&] { (void)file.valueForKey("searchText"); });
+    expectInvalidAccessor([&] { file.setSearchText("words"); });
     EXPECT_EQ(note.primitiveText(), "text");
     EXPECT_EQ(note.storedValueForKey("text"), Value("text"));
     EXPECT_EQ(file.storedFilename(), "a.pdf");
@@ -149,6 +160,10 @@ TEST_P(Protection, OfAnOpenRecordGoesThroughTheManager)
     EXPECT_EQ(file.primitiveFilename(), "fdp.a");
     EXPECT_EQ(file.primitiveNormalizedFileExtension(), "fdp");
     EXPECT_EQ(file.primitiveFileSize(), -7);
+    file.setSearchText("ab");
+    EXPECT_EQ(file.primitiveSearchText(), "ba");
+    EXPECT_EQ(file.searchText(), "ab");
+    EXPECT_EQ(file.valueForKey("searchText"), Value("ab"));
     EXPECT_EQ(note.text(), "abc");
     EXPECT_EQ(file.filename(), "a.pdf");
     EXPECT_EQ(file.normalizedFileExtension(), "pdf");
@@ -169,6 +184,26 @@ TEST_P(Protection, LeavesUnprotectedRecordsAlone)
     EXPECT_EQ(note.text(), "abc");
     EXPECT_EQ(heard, 1);
     EXPECT_FALSE(note.hasEncryption());
+}
+
+TEST_P(Protection, DoesNotKeepANewTextFromObservers)
+{
+    /// Keeps texts elsewhere than in the record's own field, as one that encrypts does.
+    struct SealingManager : BackwardsManager {
+        void setText(std::optional<std::string_view> text, OVEncryptableNote& note) override
+        {
+            note.setSealedFields(NSData::fromText(text.value_or("")));
+        }
+    } manager;
+    auto& note = insert<OVNote>();
+    note.setEncryptedValue(true);
+    serve(manager);
+    int heard = 0;
+    auto observation = note.addObserver("text", [&](NSManagedObject&, std::string_view) { ++heard; });
+    note.setText("abc");
+    EXPECT_EQ(heard, 1);
+    EXPECT_EQ(note.primitiveText(), std::nullopt);
+    EXPECT_EQ(note.encryptedData(), NSData::fromText("abc"));
 }
 
 TEST_P(Protection, IsOutOfSightInsideABlock)

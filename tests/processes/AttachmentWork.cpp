@@ -3,6 +3,7 @@
 #include "tarnmodel/files/OVLocalFileManager.h"
 #include "tarnmodel/model/OVNote.h"
 #include "tarnmodel/model/OVNoteFile.h"
+#include "tarnmodel/platform/foundation/filesystem/NSFileManager.h"
 #include "tarnmodel/platform/foundation/filesystem/NSFileWrapper.h"
 #include "tarnmodel/platform/foundation/system/Environment.h"
 #include "tarnmodel/store/OVCoreDataStackForExtensions.h"
@@ -24,7 +25,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::array<std::string_view, 4> kWorks{"import", "rename", "replace", "remove"};
+constexpr std::array<std::string_view, 5> kWorks{"import", "rename", "replace", "exchange", "remove"};
 
 void failUnless(bool isDone, std::string_view what)
 {
@@ -59,6 +60,11 @@ void importAttachments(OVNote& note)
         require(OVNoteFile::getOrCreateFileFromFileWrapper(fileNamed(name, "new bytes"), note, &error), error);
 }
 
+bool writeOtherBytes(const fs::path& place, NSError* error)
+{
+    return NSFileManager::createFileAtURL(place, NSData::fromText("other bytes"), error);
+}
+
 void change(NSManagedObjectContext& context, std::string_view work)
 {
     OVNote* note = OVNote::noteWithTitle("Files", context);
@@ -71,6 +77,8 @@ void change(NSManagedObjectContext& context, std::string_view work)
     if (work == "replace")
         require(attachmentNamed("a.bin", *note).updateAttachmentWithFileWrapper(fileNamed("", "other bytes"), &error),
             error);
+    if (work == "exchange")
+        require(attachmentNamed("a.bin", *note).exchangeStoredFile("opaque", writeOtherBytes, &error), error);
     if (work == "remove") {
         attachmentNamed("a.bin", *note).permanentlyDelete();
         attachmentNamed("b.bin", *note).permanentlyDelete();

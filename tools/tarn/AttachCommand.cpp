@@ -80,6 +80,7 @@ void addLinks(OVNote& note, const std::vector<OVNoteFile*>& files)
 ExitCode attachFiles(const Invocation& invocation, const AttachArguments& arguments)
 {
     StoreSession session(invocation, StoreSession::Access::Write);
+    session.unlock([&] { return std::vector{&arguments.note.one(session)}; });
     std::vector<OVNoteFile*> files;
     session.write([&] {
         OVNote& note = arguments.note.one(session);

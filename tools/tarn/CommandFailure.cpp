@@ -1,5 +1,6 @@
 #include "tools/tarn/CommandFailure.h"
 
+#include "tarnmodel/encryption/OVEncryptionCoreManager.h"
 #include "tarnmodel/platform/coredata/StoreErrors.h"
 #include "tarnmodel/platform/foundation/values/NSException.h"
 #include "tools/tarn/DisplayText.h"
@@ -71,6 +72,8 @@ CommandFailure failureOfCurrentException()
     } catch (const CommandFailure& failure) {
         return failure;
     } catch (const NSException& exception) {
+        if (exception.name() == OVInvalidAccessorException)
+            return {ExitCode::Locked, "a note or an attachment is protected by a password; nothing was changed"};
         return {ExitCode::Failed, exception.reason()};
     } catch (const std::bad_alloc&) {
         return {ExitCode::Failed, "out of memory"};

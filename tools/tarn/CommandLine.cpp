@@ -3,6 +3,7 @@
 #include "tools/tarn/CommandFailure.h"
 #include "tools/tarn/DisplayText.h"
 #include "tools/tarn/MemoryShortage.h"
+#include "tools/tarn/PasswordSource.h"
 
 #include <CLI/App.hpp>
 #include <CLI/Config.hpp>
@@ -24,7 +25,7 @@ std::string footerOf(const CommandDescription& description)
     footer += description.examples.size() == 1 ? "Example:" : "Examples:";
     for (const std::string& example : description.examples)
         footer += "\n  " + example;
-    return footer + "\n\nOptions of every command: --store DIR, --json (see 'tarn --help').";
+    return footer + "\n\nOptions of every command: --store DIR, --json, --password-file FILE (see 'tarn --help').";
 }
 
 /// The command that needs another one behind it and got none; null when that is not what went wrong.
@@ -114,7 +115,11 @@ void tellOnStandardError(std::string_view message)
 }
 
 CommandLine::CommandLine(Output& output)
-    : invocation_{.storeOption = std::nullopt, .json = false, .output = output},
+    : invocation_{.storeOption = std::nullopt,
+        .passwordOption = std::nullopt,
+        .json = false,
+        .output = output,
+        .passwords = nullptr},
       application_(std::make_unique<CLI::App>("Notes in Markdown: import, write, list and search them.", "tarn"))
 {
     application_->set_version_flag("--version", "tarn " TARN_VERSION, "Print the version and end");
@@ -123,6 +128,11 @@ CommandLine::CommandLine(Output& output)
         ->add_option(
             "--store", store_, "The folder of the store (default: $TARN_STORE, else tarn in the XDG data folder)")
         ->option_text("DIR");
+    application_
+        ->add_option("--password-file", passwordFile_,
+            "A file whose first line is the password of protected notes (default: $TARN_PASSWORD_FILE, else the "
+            "terminal is asked)")
+        ->option_text("FILE");
     application_->add_flag("--json", invocation_.json, "Print one JSON document")->disable_flag_override();
     application_->require_subcommand(1);
     application_->fallthrough();
@@ -197,6 +207,9 @@ ExitCode CommandLine::parseAndRun(const std::vector<std::string>& arguments)
     }
     if (application_->count("--store") > 0)
         invocation_.storeOption = unshieldedArgument(store_);
+    if (application_->count("--password-file") > 0)
+        invocation_.passwordOption = unshieldedArgument(passwordFile_);
+    invocation_.passwords = std::make_shared<PasswordSource>(invocation_);
     return action_(invocation_);
 }
 

@@ -13,11 +13,15 @@
 
 namespace tarn {
 
+class PasswordSource;
+
 /// What a command is run with, besides its own options.
 struct Invocation {
-    std::optional<std::string> storeOption; ///< the value of --store
+    std::optional<std::string> storeOption;    ///< the value of --store
+    std::optional<std::string> passwordOption; ///< the value of --password-file
     bool json = false;
     Output& output;
+    std::shared_ptr<PasswordSource> passwords; ///< what the command was given and asked for
 };
 
 /// A command as people see it in `--help`.
@@ -58,6 +62,7 @@ private:
 
     Invocation invocation_;
     std::string store_;
+    std::string passwordFile_;
     std::unique_ptr<CLI::App> application_;
     Action action_;
 };

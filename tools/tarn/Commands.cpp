@@ -23,6 +23,9 @@ void addCommands(CommandLine& commandLine)
     addConflictCommand(commandLine);
     addStateCommands(commandLine);
     addDeleteCommand(commandLine);
+    addProtectCommands(commandLine);
+    addPasswordsCommand(commandLine);
+    addPasswordCommands(commandLine);
     addAttachCommand(commandLine);
     addFilesCommand(commandLine);
     addFileCommands(commandLine);

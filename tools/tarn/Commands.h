@@ -33,6 +33,11 @@ void addConflictCommand(CommandLine& commandLine);
 /// trash, restore, archive, unarchive, pin, unpin, readonly, editable
 void addStateCommands(CommandLine& commandLine);
 void addDeleteCommand(CommandLine& commandLine);
+/// protect, unprotect
+void addProtectCommands(CommandLine& commandLine);
+void addPasswordsCommand(CommandLine& commandLine);
+/// password add, change, rotate, delete
+void addPasswordCommands(CommandLine& commandLine);
 void addAttachCommand(CommandLine& commandLine);
 void addFilesCommand(CommandLine& commandLine);
 /// file rename, prune

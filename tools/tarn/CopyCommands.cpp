@@ -22,6 +22,7 @@ ExitCode duplicateNote(const Invocation& invocation, const NotesToChange& argume
 ExitCode mergeNotes(const Invocation& invocation, const NotesToChange& arguments)
 {
     StoreSession session(invocation, StoreSession::Access::Write);
+    session.unlock([&] { return arguments.all(session); });
     const OVNote* merger = nullptr;
     session.write([&] {
         const std::vector<OVNote*> notes = arguments.all(session);

@@ -46,6 +46,7 @@ ExitCode editNote(const Invocation& invocation, const EditArguments& arguments, 
     OVNote* note = nullptr;
     text.saveBy([&] {
         session.emplace(invocation, StoreSession::Access::Write);
+        session->unlock([&] { return std::vector{&arguments.note.one(*session)}; });
         session->write([&] {
             note = &arguments.note.one(*session);
             requireEditable(*note);

@@ -18,7 +18,8 @@ CommandFailure refusal(ExitCode code, const OVNote& note, const std::string& rea
 void requireUnlocked(const OVNote& note)
 {
     if (note.encryptedValue() && note.hasEncryptionAndIsLocked())
-        throw refusal(ExitCode::Locked, note, "is protected by a password; nothing was changed");
+        throw refusal(ExitCode::Locked, note,
+            "is protected by a password; name a file with --password-file whose first line is it. Nothing was changed");
 }
 
 void requireUnlocked(const std::vector<OVNote*>& notes)

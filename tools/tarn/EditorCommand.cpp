@@ -39,7 +39,8 @@ std::string commandOfEditor()
 NoteBefore readNote(const Invocation& invocation, const NotesToChange& argument)
 {
     StoreSession session(invocation, StoreSession::Access::Write);
-    const OVNote& note = argument.one(session);
+    OVNote& note = argument.one(session);
+    session.unlock([&] { return std::vector{&note}; });
     requireEditable(note);
     return {note.uniqueIdentifier().value_or(""), nameOfNote(note), note.text().value_or("")};
 }
@@ -71,6 +72,7 @@ OVNote& conflictedCopyWithText(const std::string& edited, OVNote& note)
 /// The note that holds the edited text.
 OVNote& save(const NoteBefore& before, const std::string& edited, StoreSession& session)
 {
+    session.unlock([&] { return std::vector{&noteAsItIsNow(before, session)}; });
     OVNote* note = nullptr;
     OVNote* copy = nullptr;
     session.write([&] {

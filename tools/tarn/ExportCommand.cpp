@@ -76,6 +76,8 @@ ExitCode exitCodeOfExport(const ExportResult& result, const StoreSession& sessio
 {
     if (std::ranges::any_of(result.left, &LeftFile::isFailure))
         return ExitCode::InputOutput;
+    if (std::ranges::any_of(result.left, &LeftFile::isLocked))
+        return ExitCode::Locked;
     if (!result.left.empty())
         return ExitCode::Failed;
     return session.exitCodeOfSearch(result.exported + result.unchanged > 0, "there are no notes to export");
@@ -87,6 +89,7 @@ ExitCode exportToFolder(const Invocation& invocation, const ExportOptions& optio
         throw CommandFailure(ExitCode::Usage, "DIR is empty; name a folder");
     const Interruption interruption;
     StoreSession session(invocation, StoreSession::Access::Read);
+    session.protection().unlockAll();
     Exporter exporter(*options.folder);
     exportNotes(session, exporter, options);
     const ExportResult& result = exporter.result();

@@ -50,7 +50,12 @@ void Exporter::makeFolder()
 
 void Exporter::leave(const fs::path& path, std::string reason, bool isFailure)
 {
-    result_.left.push_back({path, std::move(reason), isFailure});
+    result_.left.push_back({.path = path, .reason = std::move(reason), .isFailure = isFailure});
+}
+
+void Exporter::leaveLocked(const fs::path& path, std::string reason)
+{
+    result_.left.push_back({.path = path, .reason = std::move(reason), .isLocked = true});
 }
 
 void Exporter::leaveUnwritten(const fs::path& path, const NSError& error)
@@ -75,7 +80,7 @@ void Exporter::exportNote(const OVNote& note)
     const fs::path place = folder_ / (name + ".md");
     noteName(title, name, place);
     if (note.encryptedValue() && note.hasEncryptionAndIsLocked())
-        return leave(place, "the note is protected by a password");
+        return leaveLocked(place, "the note is protected by a password");
     try {
         const auto text = note.text();
         if (!text)
@@ -102,7 +107,7 @@ Exporter::NamesInText Exporter::exportAttachments(const OVNote& note, const std:
         const auto source = pathOfFile(*file);
         NSError error;
         if (isLocked(*file))
-            leave(place, "the attachment is protected by a password");
+            leaveLocked(place, "the attachment is protected by a password");
         else if (!source)
             leave(place, "its bytes are not here");
         else if (!NSFileManager::fileExistsAtURL(folder) && !NSFileManager::createDirectoryAtURL(folder, &error))

@@ -17,6 +17,7 @@ struct LeftFile {
     std::filesystem::path path;
     std::string reason;
     bool isFailure = false; ///< of the disk
+    bool isLocked = false;  ///< for want of a password
 };
 
 /// What got another name on disk than it has in the store.
@@ -54,6 +55,7 @@ private:
     bool exportAttachment(const std::filesystem::path& source, const std::filesystem::path& place);
     void exportText(const OVNote& note, const std::string& text, const std::filesystem::path& place);
     void leave(const std::filesystem::path& path, std::string reason, bool isFailure = false);
+    void leaveLocked(const std::filesystem::path& path, std::string reason);
     void leaveUnwritten(const std::filesystem::path& path, const NSError& error);
     void noteName(const std::string& name, const std::string& given, const std::filesystem::path& place);
 

@@ -80,6 +80,7 @@ OVNoteFile& renameFileOfNote(OVNote& note, const std::string& oldName, const std
 ExitCode renameFile(const Invocation& invocation, const RenameArguments& arguments)
 {
     StoreSession session(invocation, StoreSession::Access::Write);
+    session.unlock([&] { return std::vector{&arguments.note.one(session)}; });
     OVNoteFile* file = nullptr;
     session.write([&] {
         OVNote& note = arguments.note.one(session);
@@ -125,6 +126,7 @@ void writePruning(const Invocation& invocation, const Pruning& pruning, bool dry
 ExitCode pruneFiles(const Invocation& invocation, bool dryRun)
 {
     StoreSession session(invocation, dryRun ? StoreSession::Access::Read : StoreSession::Access::Write);
+    session.protection().unlockByFile();
     Pruning pruning;
     if (dryRun)
         pruning = pruningOf(session);

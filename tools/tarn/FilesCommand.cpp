@@ -46,6 +46,7 @@ void sortFiles(std::vector<OVNoteFile*>& files)
 ExitCode listFiles(const Invocation& invocation, const FilesOptions& options)
 {
     StoreSession session(invocation, StoreSession::Access::Read);
+    session.protection().unlockByFile();
     std::vector<OVNoteFile*> files
         = options.note ? noteForArgument(*options.note, session).filesSet().allObjects() : session.files(std::nullopt);
     std::erase_if(files, [&options](const OVNoteFile* file) { return !isWanted(*file, options); });

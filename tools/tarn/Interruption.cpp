@@ -23,6 +23,7 @@ std::atomic<bool> keyboardIsOfAnother{false};
 std::array<int, 2> wakeUp{-1, -1};
 
 std::array<struct sigaction, kSignals.size()> formerActions{};
+int nesting = 0; ///< how many are there; the outermost takes the signals over
 
 std::time_t secondsSinceStart() noexcept
 {
@@ -61,6 +62,10 @@ void noteSignal(int number, siginfo_t* information, void*)
 
 Interruption::Interruption()
 {
+    if (nesting > 0) {
+        ++nesting;
+        return;
+    }
     if (wakeUp[0] < 0 && ::pipe2(wakeUp.data(), O_CLOEXEC | O_NONBLOCK) != 0)
         throw failureForSystemError("cannot watch for signals", errno);
     struct sigaction action { };
@@ -72,10 +77,13 @@ Interruption::Interruption()
         if (formerActions[index].sa_handler != SIG_IGN)
             ::sigaction(kSignals[index], &action, nullptr);
     }
+    ++nesting;
 }
 
 Interruption::~Interruption()
 {
+    if (--nesting > 0)
+        return;
     for (std::size_t index = 0; index < kSignals.size(); ++index)
         ::sigaction(kSignals[index], &formerActions[index], nullptr);
 }

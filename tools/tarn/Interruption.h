@@ -7,8 +7,8 @@ namespace tarn {
 /// Takes over, while it lives, the signals that ask a program to end: SIGINT (Control-C), SIGTERM and SIGHUP. Whoever
 /// has something to say or to keep before the end asks whether one came, and stops.
 ///
-/// One at a time, on the main thread. A signal that was ignored from the beginning stays so; one that comes a second
-/// after the first ends the program at once.
+/// On the main thread; one inside of another changes nothing. A signal that was ignored from the beginning stays so;
+/// one that comes a second after the first ends the program at once.
 ///
 ///     const Interruption interruption;
 ///     for (...) Interruption::endIfRequested("interrupted; nothing was saved");

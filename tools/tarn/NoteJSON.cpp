@@ -76,7 +76,8 @@ JSON jsonOfNote(const OVNote& note)
 JSON jsonOfNoteWithText(const OVNote& note)
 {
     JSON json = jsonOfNote(note);
-    json["text"] = jsonOf(note.text());
+    const bool isLocked = note.encryptedValue() && note.hasEncryptionAndIsLocked();
+    json["text"] = isLocked ? JSON(nullptr) : jsonOf(note.text());
     return json;
 }
 

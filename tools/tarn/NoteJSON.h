@@ -11,7 +11,7 @@ namespace tarn {
 /// The record as scripts read it: attribute names as keys, dates in ISO 8601, the clock as "(device:count, ...)"; what
 /// a note does not have is null, but a conflict's identifier is only there when there is one.
 JSON jsonOfNote(const OVNote& note);
-/// The same with the key `text`; null for a protected text.
+/// The same with the key `text`; null for a locked text.
 JSON jsonOfNoteWithText(const OVNote& note);
 /// `{"notes": [...]}`
 JSON jsonOfNotes(std::span<OVNote* const> notes);

@@ -14,9 +14,6 @@ namespace {
 void writeText(Output& output, const OVNote& note)
 {
     const std::optional<std::string> text = note.text();
-    if (!text && note.encryptedValue())
-        throw CommandFailure(
-            ExitCode::Locked, nameOfNote(note) + " is protected by a password and cannot be read here");
     output.write(text.value_or(""));
     // A prompt on the last line of the text is ugly; a pipe gets the bytes and nothing else.
     if (output.isTerminal() && text && !text->empty() && !text->ends_with('\n'))
@@ -30,10 +27,16 @@ void addShowCommand(CommandLine& commandLine)
     const auto argument = std::make_shared<std::optional<std::string>>();
     const auto action = [argument](const Invocation& invocation) {
         StoreSession session(invocation, StoreSession::Access::Read);
-        const OVNote& note = noteForArgument(argument->value_or(""), session);
+        OVNote& note = noteForArgument(argument->value_or(""), session);
+        session.unlock([&] { return std::vector{&note}; });
+        const bool isLocked = note.encryptedValue() && note.hasEncryptionAndIsLocked();
         if (invocation.json)
             writeJSON(invocation.output, jsonOfNoteWithText(note));
-        else
+        if (isLocked)
+            throw CommandFailure(ExitCode::Locked,
+                nameOfNote(note)
+                    + " is protected by a password; name a file with --password-file whose first line is it");
+        if (!invocation.json)
             writeText(invocation.output, note);
         return ExitCode::Done;
     };

@@ -54,6 +54,8 @@ StoreSession::StoreSession(const Invocation& invocation, Access access)
         OVNoteFile::recoverFilesInManagedObjectContext(*context_);
         context_->reset();
     }
+    protection_ = std::make_unique<Protection>(
+        *context_, invocation.passwords, [this](const std::function<void()>& ask) { withoutLock(ask); });
 }
 
 StoreSession::~StoreSession() = default;
@@ -79,6 +81,11 @@ void StoreSession::prepareForWriting()
     const fs::path folder = fs::absolute(database_.parent_path());
     if (const std::error_code failure = createPrivateFolder(folder))
         throw failureForSystemError("cannot make the folder " + folder.string(), failure.value());
+    takeLock();
+}
+
+void StoreSession::takeLock()
+{
     lock_ = std::make_unique<StoreLock>(database_.parent_path() / "tarn.lock", StoreLock::limitOfEnvironment());
 }
 
@@ -112,6 +119,22 @@ void StoreSession::open(Access access)
     context_->setPersistentStoreCoordinator(coordinator_);
     changeLog_ = NSNotificationCenter::defaultCenter().addObserver(NSManagedObjectContextWillSaveNotification,
         context_.get(), [this](const NSNotification&) { OVChange::updateChangesInInManagedObjectContext(*context_); });
+}
+
+/// For what waits for a person: other programs may write meanwhile.
+void StoreSession::withoutLock(const std::function<void()>& work)
+{
+    if (!lock_)
+        return work();
+    lock_.reset();
+    work();
+    takeLock();
+}
+
+void StoreSession::unlock(const std::function<std::vector<OVNote*>()>& find)
+{
+    if (protection_->hasPasswords())
+        protection_->unlock(find());
 }
 
 CommandFailure StoreSession::failure(const std::string& what, const NSError& error) const

@@ -9,6 +9,7 @@
 #include "tarnmodel/platform/foundation/events/NSNotificationCenter.h"
 #include "tools/tarn/CommandFailure.h"
 #include "tools/tarn/CommandLine.h"
+#include "tools/tarn/Protection.h"
 #include "tools/tarn/StoreLock.h"
 #include "tools/tarn/WaitForOthers.h"
 
@@ -47,6 +48,8 @@ public:
     NSManagedObjectContext& context() noexcept { return *context_; }
     NSPersistentStore& store() noexcept { return *store_; }
     const std::filesystem::path& folder() const noexcept { return folder_; }
+    const std::filesystem::path& database() const noexcept { return database_; }
+    Protection& protection() noexcept { return *protection_; }
     /// Whether there is a database on disk; false for a reading command on a folder without a store.
     bool exists() const noexcept { return exists_; }
 
@@ -73,6 +76,9 @@ public:
     /// Says that a save failed.
     std::string nothingWasSaved() const;
 
+    /// Unlocks the notes that `find` gives, for a `write` that is to read them: before the store is locked, since
+    /// somebody may have to type a password. `find` is not called for a store without passwords.
+    void unlock(const std::function<std::vector<OVNote*>()>& find);
     /// Runs what reads records and changes them, and saves. The database is locked from before its first read to the
     /// end of the save, so that it builds upon what programs wrote that know nothing of the lock file. When it raises
     /// an exception, or what it did cannot be saved, nothing has changed.
@@ -83,6 +89,8 @@ private:
     void prepareForWriting();
     void refuseOtherVersions() const;
     void open(Access access);
+    void takeLock();
+    void withoutLock(const std::function<void()>& work);
     template <typename Record> std::vector<Record*> records(const NSFetchRequest& request);
 
     std::filesystem::path folder_;
@@ -93,7 +101,8 @@ private:
     std::shared_ptr<NSPersistentStoreCoordinator> coordinator_;
     NSPersistentStore* store_ = nullptr;
     std::unique_ptr<NSManagedObjectContext> context_;
-    NSNotificationSubscription changeLog_; ///< writes what a save writes into the log, in the same transaction
+    std::unique_ptr<Protection> protection_; ///< declared after the context, which it serves
+    NSNotificationSubscription changeLog_;   ///< writes what a save writes into the log, in the same transaction
 };
 
 } // namespace tarn

@@ -56,6 +56,7 @@ ExitCode addTag(const Invocation& invocation, const TagArguments& arguments)
 {
     const std::string name = tagNameForArgument(*arguments.name);
     StoreSession session(invocation, StoreSession::Access::Write);
+    session.unlock([&] { return arguments.notes.all(session); });
     const OVNoteTag* tag = nullptr;
     std::vector<OVNote*> untagged;
     std::size_t added = 0;
@@ -75,6 +76,7 @@ ExitCode addTag(const Invocation& invocation, const TagArguments& arguments)
 ExitCode removeTag(const Invocation& invocation, const TagArguments& arguments)
 {
     StoreSession session(invocation, StoreSession::Access::Write);
+    session.unlock([&] { return arguments.notes.all(session); });
     const OVNoteTag* tag = nullptr;
     std::vector<OVNote*> tagged;
     session.write([&] {
@@ -125,6 +127,7 @@ ExitCode renameTag(const Invocation& invocation, const TagArguments& arguments)
 {
     const std::string newName = tagNameForArgument(*arguments.newName);
     StoreSession session(invocation, StoreSession::Access::Write);
+    session.unlock([&] { return tagForArgument(*arguments.name, session).notesSet().allObjects(); });
     Renaming renaming;
     session.write([&] { renaming = renamingOf(tagForArgument(*arguments.name, session), newName); });
     report(invocation, renaming.renamed->title().value_or(""), renaming.notes);
@@ -144,6 +147,7 @@ bool confirmsDeletion(const Invocation& invocation, const TagArguments& argument
     StoreSession session(invocation, StoreSession::Access::Read);
     const OVNoteTag& tag = tagForArgument(*arguments.name, session);
     const std::vector<OVNote*> notes = tag.notesSet().allObjects();
+    session.unlock([&] { return notes; });
     requireUnlocked(notes);
     const std::size_t below = countTagsBelow(tag, session);
     const std::string tagsBelow = numbered(below, "tag") + " below";
@@ -160,6 +164,7 @@ ExitCode deleteTag(const Invocation& invocation, const TagArguments& arguments)
         return ExitCode::Failed;
     }
     StoreSession session(invocation, StoreSession::Access::Write);
+    session.unlock([&] { return tagForArgument(*arguments.name, session).notesSet().allObjects(); });
     const OVNoteTag* tag = nullptr;
     std::size_t notes = 0;
     std::size_t below = 0;

@@ -56,7 +56,8 @@ fs::path pictureOf(const Invocation& invocation, const ThumbCommandArguments& ar
     if (!arguments.filename && fs::is_regular_file(given, failure))
         return fs::canonical(given);
     StoreSession session(invocation, StoreSession::Access::Read);
-    const OVNote& note = noteForArgument(*arguments.fileOrNote, session);
+    OVNote& note = noteForArgument(*arguments.fileOrNote, session);
+    session.unlock([&] { return std::vector{&note}; });
     if (note.hasEncryptionAndIsLocked())
         throw CommandFailure(ExitCode::Locked, nameOfNote(note) + " is protected by a password");
     const OVNoteFile& file = imageOfNote(note, arguments.filename);

@@ -1,9 +1,10 @@
 # Completion of tarn for fish.
 
-set -l commands import new show append prepend replace edit duplicate merge list search predicate highlight tags tag links backlinks unresolved orphans url conflicts conflict trash restore archive unarchive pin unpin readonly editable delete attach files file thumb export backup restore-backup changes baseline stats doctor migrate parse
+set -l commands import new show append prepend replace edit duplicate merge list search predicate highlight tags tag links backlinks unresolved orphans url conflicts conflict trash restore archive unarchive pin unpin readonly editable delete protect unprotect passwords password attach files file thumb export backup restore-backup changes baseline stats doctor migrate parse
 
 complete -c tarn -f
 complete -c tarn -l store -r -a '(__fish_complete_directories)' -d 'The folder of the store'
+complete -c tarn -l password-file -r -F -d 'A file whose first line is the password of protected notes'
 complete -c tarn -l json -d 'Print one JSON document'
 complete -c tarn -l help -s h -d 'Print help and end'
 complete -c tarn -n "not __fish_seen_subcommand_from $commands" -l version -d 'Print the version and end'
@@ -39,6 +40,10 @@ complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a unpin -d 'No 
 complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a readonly -d 'Protect notes from being edited'
 complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a editable -d 'Let notes be edited again'
 complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a delete -d 'Delete notes for good'
+complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a protect -d 'Protect notes, with their attachments, by a password'
+complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a unprotect -d 'Take the protection off notes'
+complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a passwords -d 'List the passwords'
+complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a password -d 'Add, change, rotate and delete passwords'
 complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a attach -d 'Attach files to a note'
 complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a files -d 'List attachments'
 complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a file -d 'Rename attachments, and delete unused ones'
@@ -91,8 +96,13 @@ complete -c tarn -n '__fish_seen_subcommand_from url' -l title -d 'Name the note
 complete -c tarn -n '__fish_seen_subcommand_from url' -l new-window -d 'Open it in a window of its own'
 complete -c tarn -n '__fish_seen_subcommand_from url' -l header -x -d 'Open it at this heading'
 complete -c tarn -n '__fish_seen_subcommand_from url' -l tag -x -d 'Open this tag'
-complete -c tarn -n '__fish_seen_subcommand_from append prepend replace edit duplicate merge tag attach file conflict trash restore archive unarchive pin unpin readonly editable delete' -l latest -d 'Of several notes with one title take the latest modified'
+complete -c tarn -n '__fish_seen_subcommand_from append prepend replace edit duplicate merge tag attach file conflict trash restore archive unarchive pin unpin readonly editable delete protect unprotect' -l latest -d 'Of several notes with one title take the latest modified'
 complete -c tarn -n '__fish_seen_subcommand_from edit' -l allow-empty -d 'Save also a text that came back empty'
-complete -c tarn -n '__fish_seen_subcommand_from delete' -l yes -d 'Do not ask'
+complete -c tarn -n '__fish_seen_subcommand_from protect' -l password -x -d 'Of several passwords this one'
+complete -c tarn -n '__fish_seen_subcommand_from protect password' -l memory -x -d 'Memory in MiB that each try of the password takes'
+complete -c tarn -n '__fish_seen_subcommand_from password' -a 'add change rotate delete'
+complete -c tarn -n '__fish_seen_subcommand_from password' -l hint -x -d 'What reminds of it'
+complete -c tarn -n '__fish_seen_subcommand_from password' -l new-password-file -r -F -d 'A file whose first line is the new password'
+complete -c tarn -n '__fish_seen_subcommand_from delete password' -l yes -d 'Do not ask'
 complete -c tarn -n '__fish_seen_subcommand_from doctor' -l repair -d 'Derive wrong fields anew'
 complete -c tarn -n '__fish_seen_subcommand_from migrate' -l dry-run -d 'Change nothing'

@@ -34,6 +34,10 @@ public:
     const std::optional<std::string>& preferredFilename() const noexcept { return preferredFilename_; }
     void setPreferredFilename(std::optional<std::string> filename) { preferredFilename_ = std::move(filename); }
 
+    /// The bytes that it holds; null for a folder, and for what lies on disk. Valid while this value lives.
+    const NSData* regularFileContents() const noexcept { return std::get_if<NSData>(&content_); }
+    /// Where it lies on disk; null for what it holds itself. Valid while this value lives.
+    const std::filesystem::path* url() const noexcept { return std::get_if<std::filesystem::path>(&content_); }
     /// Whether it is a folder.
     bool isDirectory() const;
     /// Whether it is a file of the same bytes as the one on disk.

@@ -77,6 +77,11 @@ std::filesystem::path Environment::cacheDirectory() const
     return providers()->cacheDirectory();
 }
 
+std::optional<std::filesystem::path> Environment::runtimeDirectory() const
+{
+    return providers()->runtimeDirectory();
+}
+
 std::string Environment::hostName() const
 {
     return validUTF8(providers()->hostName());
@@ -164,6 +169,13 @@ void EnvironmentOverride::setCacheDirectory(std::filesystem::path path)
 {
     change(
         [&](EnvironmentProviders& providers) { providers.cacheDirectory = [path = std::move(path)] { return path; }; });
+}
+
+void EnvironmentOverride::setRuntimeDirectory(std::optional<std::filesystem::path> path)
+{
+    change([&](EnvironmentProviders& providers) {
+        providers.runtimeDirectory = [path = std::move(path)] { return path; };
+    });
 }
 
 void EnvironmentOverride::setHostName(std::string name)

@@ -22,16 +22,17 @@ using MachineIdentifier = std::array<std::byte, 16>;
 
 /// What answers the questions of `Environment`; every member is set.
 struct EnvironmentProviders {
-    std::function<NSDate()> clock;                                        ///< `Environment::now`
-    std::function<void(std::span<std::byte>)> randomBytes;                ///< `Environment::fillWithRandomBytes`
-    std::function<std::optional<std::string>(std::string_view)> variable; ///< `Environment::variable`
-    std::function<std::chrono::seconds(NSDate)> localTimeOffset;          ///< `Environment::localTimeOffset`
-    std::function<std::string()> localeIdentifier;                        ///< `Environment::localeIdentifier`
-    std::function<std::filesystem::path()> homeDirectory;                 ///< `Environment::homeDirectory`
-    std::function<std::filesystem::path()> temporaryDirectory;            ///< `Environment::temporaryDirectory`
-    std::function<std::filesystem::path()> cacheDirectory;                ///< `Environment::cacheDirectory`
-    std::function<std::string()> hostName;                                ///< `Environment::hostName`
-    std::function<std::optional<MachineIdentifier>()> machineIdentifier;  ///< `Environment::machineIdentifier`
+    std::function<NSDate()> clock;                                          ///< `Environment::now`
+    std::function<void(std::span<std::byte>)> randomBytes;                  ///< `Environment::fillWithRandomBytes`
+    std::function<std::optional<std::string>(std::string_view)> variable;   ///< `Environment::variable`
+    std::function<std::chrono::seconds(NSDate)> localTimeOffset;            ///< `Environment::localTimeOffset`
+    std::function<std::string()> localeIdentifier;                          ///< `Environment::localeIdentifier`
+    std::function<std::filesystem::path()> homeDirectory;                   ///< `Environment::homeDirectory`
+    std::function<std::filesystem::path()> temporaryDirectory;              ///< `Environment::temporaryDirectory`
+    std::function<std::filesystem::path()> cacheDirectory;                  ///< `Environment::cacheDirectory`
+    std::function<std::optional<std::filesystem::path>()> runtimeDirectory; ///< `Environment::runtimeDirectory`
+    std::function<std::string()> hostName;                                  ///< `Environment::hostName`
+    std::function<std::optional<MachineIdentifier>()> machineIdentifier;    ///< `Environment::machineIdentifier`
     std::function<std::optional<std::uintmax_t>(const std::filesystem::path&)>
         availableSpace; ///< `Environment::availableSpace`
 };
@@ -65,6 +66,9 @@ public:
     /// Where a user's applications keep what can be made again: XDG_CACHE_HOME, else ".cache" in the home folder. By
     /// the rules of XDG a relative folder counts as none. It need not be there.
     std::filesystem::path cacheDirectory() const;
+    /// Where a user's programs keep what must not outlive the session, on no disk where the system is set up so:
+    /// XDG_RUNTIME_DIR when that is a folder of this user's, by an absolute path; none otherwise.
+    std::optional<std::filesystem::path> runtimeDirectory() const;
     /// The name that people gave this machine, else its network name; "localhost" when it has none. Valid UTF-8.
     std::string hostName() const;
     /// None when the system has no identifier or a malformed one.
@@ -111,6 +115,7 @@ public:
     void setHomeDirectory(std::filesystem::path path);
     void setTemporaryDirectory(std::filesystem::path path);
     void setCacheDirectory(std::filesystem::path path);
+    void setRuntimeDirectory(std::optional<std::filesystem::path> path);
     void setHostName(std::string name);
     void setMachineIdentifier(std::optional<MachineIdentifier> identifier);
     /// In every folder.

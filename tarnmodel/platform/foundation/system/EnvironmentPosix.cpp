@@ -7,6 +7,7 @@
 #include <fcntl.h>
 #include <pwd.h>
 #include <sys/random.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -105,6 +106,16 @@ std::filesystem::path systemCacheFolder()
     return folder.is_absolute() ? folder : Environment::current().homeDirectory() / ".cache";
 }
 
+std::optional<std::filesystem::path> systemRuntimeFolder()
+{
+    std::filesystem::path folder = Environment::current().variable("XDG_RUNTIME_DIR").value_or("");
+    struct stat status { };
+    if (!folder.is_absolute() || ::stat(folder.c_str(), &status) != 0 || !S_ISDIR(status.st_mode)
+        || status.st_uid != ::getuid())
+        return std::nullopt;
+    return folder;
+}
+
 std::string systemHostName()
 {
     if (auto name = valueInAssignments(readSystemFile("/etc/machine-info"), "PRETTY_HOSTNAME"))
@@ -142,6 +153,7 @@ EnvironmentProviders systemEnvironmentProviders()
         .homeDirectory = systemHome,
         .temporaryDirectory = systemTemporaryFolder,
         .cacheDirectory = systemCacheFolder,
+        .runtimeDirectory = systemRuntimeFolder,
         .hostName = systemHostName,
         .machineIdentifier = systemMachineIdentifier,
         .availableSpace = systemAvailableSpace};

@@ -1,6 +1,6 @@
 #include "tarnmodel/encryption/OVEncryptionCoreManager.h"
 
-#include "tarnmodel/platform/coredata/NSManagedObject.h"
+#include "tarnmodel/platform/coredata/NSManagedObjectContext.h"
 #include "tarnmodel/platform/foundation/values/NSException.h"
 
 #include <atomic>
@@ -91,10 +91,15 @@ OVEncryptionCoreManagerProtocol* OVEncryptionCoreManager::encryptionCoreManagerF
     if (!registry().anyManager)
         return nullptr;
     std::lock_guard lock(registry().mutex);
-    auto found = registry().services.find(&context);
-    if (found == registry().services.end() || found->second.hidden > 0)
+    const auto& services = registry().services;
+    if (const auto own = services.find(&context); own != services.end() && own->second.hidden > 0)
         return nullptr;
-    return found->second.manager;
+    // That a parent's is hidden is the parent's business: another thread may be hiding it there.
+    for (const auto* asked = &context; asked; asked = asked->parentContext()) {
+        if (const auto found = services.find(asked); found != services.end() && found->second.manager)
+            return found->second.manager;
+    }
+    return nullptr;
 }
 
 void OVEncryptionCoreManager::setEncryptionCoreManager(

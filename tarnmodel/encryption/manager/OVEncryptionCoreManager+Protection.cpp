@@ -1,0 +1,58 @@
+#include "tarnmodel/encryption/OVEncryptionCoreManager.h"
+#include "tarnmodel/encryption/keys/EncryptionErrors.h"
+#include "tarnmodel/encryption/manager/Protection.h"
+#include "tarnmodel/encryption/sealing/SealedFile.h"
+
+namespace tarn {
+
+bool OVEncryptionCoreManager::addEncryptionToObject(
+    OVEncryptableObject& object, OVEncryptingPassword& record, NSError* error)
+{
+    return Protection(*vault_).add(object, record, error);
+}
+
+bool OVEncryptionCoreManager::removeEncryptionFromObject(OVEncryptableObject& object, NSError* error)
+{
+    return Protection(*vault_).remove(object, error);
+}
+
+bool OVEncryptionCoreManager::isReencryptionNeeded(const OVEncryptableObject& object) const
+{
+    const OVEncryptingPassword* const password = object.isEncrypted() ? object.encryptionState().password : nullptr;
+    const auto newest = password ? vault_->newestKeyOf(*password, nullptr) : std::nullopt;
+    const auto record = newest ? vault_->open(object, nullptr) : nullptr;
+    return record && record->masterKey() != newest->identifier;
+}
+
+bool OVEncryptionCoreManager::reencrypt(OVEncryptableObject& object, NSError* error)
+{
+    const Vault::Record record = vault_->open(object, error);
+    const auto fields = record ? record->fields(error) : std::nullopt;
+    const OVEncryptingPassword* const password = object.encryptionState().password;
+    if (!fields)
+        return false;
+    if (!password)
+        return failEncryption(error, OVEncryptionErrorLocked);
+    const auto newest = vault_->newestKeyOf(*password, error);
+    auto sealed
+        = newest ? SealedRecord::seal(*fields, record->kind(), record->identifier(), *newest, error) : std::nullopt;
+    if (!sealed)
+        return false;
+    const auto changed = std::make_shared<const SealedRecord>(std::move(*sealed));
+    if (auto* const file = dynamic_cast<OVEncryptableNoteFile*>(&object)) {
+        const auto former = file->storedFileURL();
+        if (!former || !file->hasFileHere())
+            return failEncryption(error, OVEncryptionErrorFile);
+        const auto reseal = [&](const std::filesystem::path& place, NSError* failure) {
+            return resealItem(*former, place, record->objectKey(), changed->objectKey(), record->identifier(), failure);
+        };
+        if (!file->exchangeStoredFile(opaqueFileName(), reseal, error))
+            return false;
+        vault_->copies.removeOfSealedFile(*former);
+    }
+    object.setSealedFields(changed->data());
+    vault_->remember(changed);
+    return true;
+}
+
+} // namespace tarn

@@ -1,0 +1,145 @@
+#include "tarnmodel/encryption/manager/Vault.h"
+
+#include "tarnmodel/encryption/keys/EncryptionErrors.h"
+#include "tarnmodel/platform/foundation/events/NSNotificationCenter.h"
+#include "tarnmodel/platform/foundation/events/Queue.h"
+#include "tarnmodel/platform/foundation/system/Log.h"
+
+#include <array>
+
+namespace tarn {
+namespace {
+
+/// Observers are of the main queue; `manager` tells them who it is, and is not followed.
+void post(std::string_view name, const void* manager)
+{
+    MainQueue& queue = MainQueue::main();
+    const auto tell = [name, manager] { NSNotificationCenter::defaultCenter().postNotification(name, manager); };
+    if (queue.isCurrent())
+        tell();
+    else
+        queue.async(tell);
+}
+
+} // namespace
+
+RecordKind kindOf(const OVEncryptableObject& object)
+{
+    return dynamic_cast<const OVEncryptableNote*>(&object) ? RecordKind::Note : RecordKind::Attachment;
+}
+
+std::string opaqueFileName()
+{
+    constexpr std::string_view digits = "0123456789abcdef";
+    std::string name;
+    for (const std::byte byte : randomArray<std::array<std::byte, 16>>()) {
+        name += digits[std::to_integer<std::size_t>(byte) >> 4U];
+        name += digits[std::to_integer<std::size_t>(byte) & 15U];
+    }
+    return name;
+}
+
+OVEncryptionCoreManager::Vault::Vault(const OVEncryptionCoreManager& manager, const OVEncryptionOptions& wanted)
+    : options(wanted), keys(std::make_shared<UnlockedKeys>(options.timeLimit,
+                           UnlockedKeys::Events{
+                               .didUnlock =
+                                   [this] {
+                                       watch_.begin();
+                                       post(OVEncryptionCoreManagerDidUnlockNotification, manager_);
+                                   },
+                               .didLock =
+                                   [this] {
+                                       verified_.clear();
+                                       post(OVEncryptionCoreManagerDidLockNotification, manager_);
+                                   },
+                               .didForget =
+                                   [this](const std::string& password) {
+                                       verified_.clear();
+                                       copies.removeOfPassword(password);
+                                   },
+                           })),
+      copies(options.scratchDirectory), manager_(&manager), watch_([this] { return keys->lockWhatIsDue(); })
+{
+    MainQueue::main(); // its thread is to own it, not the one that watches
+}
+
+OVEncryptionCoreManager::Vault::~Vault()
+{
+    keys->close();
+}
+
+std::optional<MasterKey> OVEncryptionCoreManager::Vault::newestKeyOf(
+    const OVEncryptingPassword& record, NSError* error) const
+{
+    const auto verifier = record.verifier();
+    const auto key = verifier ? keys->newestKey(record.passwordIdentifier()) : std::nullopt;
+    if (!key) {
+        failEncryption(error, OVEncryptionErrorLocked);
+        return std::nullopt;
+    }
+    // A key that the record does not keep, because it was set anew elsewhere, would be lost with the next lock.
+    const auto blob = PasswordBlob::read(*verifier, error);
+    if (!blob)
+        return std::nullopt;
+    if (!blob->isVouchedForBy(*key)) {
+        failEncryption(
+            error, OVEncryptionErrorLocked, "The password was changed elsewhere and has to be unlocked anew");
+        return std::nullopt;
+    }
+    return key;
+}
+
+OVEncryptionCoreManager::Vault::Record OVEncryptionCoreManager::Vault::open(
+    const OVEncryptableObject& object, NSError* error) const
+{
+    const RecordKind kind = kindOf(object);
+    auto data = object.sealedFields();
+    const auto identifier = object.encryptionIdentifier();
+    if (!data || !identifier) {
+        failEncryption(error, OVEncryptionErrorDamaged, "The encrypted data is not here");
+        return nullptr;
+    }
+    const auto masterKey = SealedRecord::masterKeyOf(*data, kind, error);
+    if (!masterKey)
+        return nullptr;
+    const auto key = keys->key(*masterKey);
+    if (!key) {
+        failEncryption(error, OVEncryptionErrorLocked);
+        return nullptr;
+    }
+    if (Record known = verified_.find(*data, kind, *identifier))
+        return known;
+    auto opened = SealedRecord::open(std::move(*data), kind, *identifier, *key, error);
+    if (!opened)
+        return nullptr;
+    auto record = std::make_shared<const SealedRecord>(std::move(*opened));
+    verified_.add(record);
+    if (!keys->key(*masterKey)) // locked meanwhile by another thread, which has cleared what was there before
+        verified_.clear();
+    return record;
+}
+
+std::optional<ClearFields> OVEncryptionCoreManager::Vault::fields(
+    const OVEncryptableObject& object, NSError* error) const
+{
+    const Record record = open(object, error);
+    return record ? record->fields(error) : std::nullopt;
+}
+
+void OVEncryptionCoreManager::Vault::change(
+    OVEncryptableObject& object, const std::function<void(ClearFields&)>& change)
+{
+    NSError failure;
+    const Record record = open(object, &failure);
+    auto clear = record ? record->fields(&failure) : std::nullopt;
+    if (!clear) {
+        logMessage("A protected field was not stored: " + failure.localizedDescription());
+        return;
+    }
+    change(*clear);
+    auto changed = std::make_shared<const SealedRecord>(record->withFields(*clear));
+    object.setSealedFields(changed->data());
+    remember(std::move(changed));
+}
+
+} // namespace tarn
