@@ -34,7 +34,8 @@ public:
     bool note(const RecordFolder& folder, NSError* error);
     /// Notes that the folder is about to be made.
     bool noteNew(const RecordFolder& folder, NSError* error);
-    /// Notes that a file of another name is about to take the place of one in the folder.
+    /// Notes that a file of another name is about to take the place of one in the folder; the former name is empty
+    /// where that goes at once.
     bool noteExchange(const RecordFolder& folder, std::string_view former, std::string_view name, NSError* error);
     /// Notes that the record's folder, or with a name that file in it, is about to be moved aside; where to.
     std::optional<std::filesystem::path> noteAside(

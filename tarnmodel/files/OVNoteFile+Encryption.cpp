@@ -4,6 +4,7 @@
 #include "tarnmodel/model/OVNote.h"
 #include "tarnmodel/model/OVNoteFile.h"
 #include "tarnmodel/model/OVPassword.h"
+#include "tarnmodel/notes/OwedCompaction.h"
 #include "tarnmodel/platform/coredata/NSManagedObjectContext.h"
 #include "tarnmodel/platform/foundation/filesystem/NSFileManager.h"
 #include "tarnmodel/platform/foundation/values/NSError.h"
@@ -141,6 +142,7 @@ void OVNoteFile::setSearchText(std::optional<std::string_view> text)
 void OVNoteFile::didAddEncryption()
 {
     giveStoredFileItsDate();
+    OwedCompaction::begin(managedObjectContext());
     // A subtitle may hold what stands in the text beside the attachment.
     if (OVNote* const owner = note())
         owner->setSubtitle(std::nullopt);

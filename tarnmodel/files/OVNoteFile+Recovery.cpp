@@ -57,7 +57,9 @@ void settleExchangedFiles(const OVNoteFile& record, const fs::path& place, const
         if (line->exchangedFor.empty())
             continue;
         made.insert(place / line->exchangedFor);
-        exchanged.insert({place / line->exchangedFor, place / line->filename});
+        exchanged.insert(place / line->exchangedFor);
+        if (!line->filename.empty())
+            exchanged.insert(place / line->filename);
     }
     if (exchanged.empty())
         return;

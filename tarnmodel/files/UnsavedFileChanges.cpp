@@ -165,8 +165,11 @@ bool UnsavedFileChanges::exchangeFile(
     const fs::path place = manager->fileURLForUniqueID(folder.identifier, name);
     const bool isNew = !NSFileManager::fileExistsAtURL(folder.url());
     FileJournal* const noted = journal(error);
+    // The name of one that was never saved is nobody's business: it may be what is to be protected.
+    const bool wasMade = wasMadeHere(origin, folder);
+    const std::string noName;
     if (!noted || !clearNameOfFormer(folder, place, error)
-        || !noted->noteExchange(folder, origin.filename().string(), place.filename().string(), error)
+        || !noted->noteExchange(folder, wasMade ? noName : origin.filename().string(), place.filename().string(), error)
         || (isNew && !noted->noteNew(folder, error))
         || !manager->getOrCreateFolderForUniqueID(folder.identifier, error))
         return false;
@@ -176,8 +179,7 @@ bool UnsavedFileChanges::exchangeFile(
         NSFileManager::removeItemAtURL(isNew ? folder.url() : unfinished);
         return false;
     }
-    // Nobody asks any more for one that was never saved; it may be what is to be protected.
-    if (wasMadeHere(origin, folder))
+    if (wasMade)
         NSFileManager::removeItemAtURL(origin);
     if (isNew)
         add({.kind = Kind::Added,

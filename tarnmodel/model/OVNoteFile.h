@@ -154,6 +154,10 @@ public:
     /// were saved goes. What living processes have under way stays alone. A failure is logged, and all left for the
     /// next time. On the context's queue.
     static void recoverFilesInManagedObjectContext(NSManagedObjectContext& context);
+    /// After that: removes what lies in the folders of protected attachments beside their files, such as clear copies
+    /// that a loss of power brought back. What living processes have under way stays, and what lies beside a file that
+    /// is missing, which is logged. Costs nothing without protected attachments. On the context's queue.
+    static void removeClearLeftoversInManagedObjectContext(NSManagedObjectContext& context);
 
     // Copies (tarnmodel/files/OVNoteFile+Copying.cpp) ----------------------------------------------------------------
     /// A new random identifier.

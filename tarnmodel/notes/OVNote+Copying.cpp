@@ -67,6 +67,10 @@ bool OVNote::takeAttachment(const OVNoteFile& file, std::string& text, NSError* 
     if (file.encryptedValue() && !file.downloadedValue())
         return true;
     const auto url = file.fileURL();
+    if (!url && file.encryptedValue())
+        assignError(error,
+            NSError(TarnEncryptionErrorDomain, OVEncryptionErrorFile,
+                "\"" + file.filename().value_or("") + "\" cannot be decrypted"));
     OVNoteFile* const taken = url ? OVNoteFile::getOrCreateFileFromURL(*url, *this, error) : nullptr;
     if (!taken)
         return !file.encryptedValue();

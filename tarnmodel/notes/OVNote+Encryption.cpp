@@ -5,6 +5,7 @@
 #include "tarnmodel/model/OVNoteFile.h"
 #include "tarnmodel/model/OVPassword.h"
 #include "tarnmodel/model/RecordFetch.h"
+#include "tarnmodel/notes/OwedCompaction.h"
 #include "tarnmodel/platform/coredata/NSFetchRequest.h"
 #include "tarnmodel/platform/foundation/values/NSException.h"
 
@@ -105,6 +106,7 @@ bool OVNote::prepareToAddEncryption(NSError* /*error*/)
 
 void OVNote::didAddEncryption()
 {
+    OwedCompaction::begin(managedObjectContext());
     setSubtitle(std::nullopt);
 }
 

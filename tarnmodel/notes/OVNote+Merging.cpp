@@ -109,6 +109,15 @@ Value lostValue(const MergeConflict& conflict, std::string_view key)
     return found == conflict.lostValues.end() ? Value() : found->second;
 }
 
+/// What the side that gave way had: what it changed, or else left as it was. Where that was not read, what is stored.
+Value valueOfLoser(const MergeConflict& conflict, std::string_view key)
+{
+    for (const auto* values : {&conflict.lostValues, &conflict.formerValues})
+        if (const auto found = values->find(std::string(key)); found != values->end())
+            return found->second;
+    return conflict.record->entity().attributeNamed(key) ? conflict.record->storedValueForKey(key) : Value();
+}
+
 /// Of a note that is gone nobody misses a text into which the system alone put another name.
 bool wasOnlyRewritten(const MergeConflict& conflict)
 {
@@ -195,12 +204,10 @@ void OVNote::takeProtectedValues(const MergeConflict& conflict)
     for (const std::string_view key :
         {OVNoteAttributes::title(), OVNoteAttributes::encrypted(), OVNoteAttributes::encryptedData(),
             OVNoteAttributes::encryptionDate(), OVNoteAttributes::encryptionUniqueIdentifier()}) {
-        const auto lost = conflict.lostValues.find(std::string(key));
-        setPrimitiveValueForKey(
-            key, lost != conflict.lostValues.end() ? lost->second : conflict.record->storedValueForKey(key));
+        setPrimitiveValueForKey(key, valueOfLoser(conflict, key));
     }
     setEncryptedValue(true);
-    const Value password = lostValue(conflict, OVNoteRelationships::password());
+    const Value password = valueOfLoser(conflict, OVNoteRelationships::password());
     if (password.kind() == Value::Kind::Object)
         setPassword(const_cast<OVPassword*>(dynamic_cast<const OVPassword*>(&password.asObject())));
     else if (auto* note = static_cast<OVNote*>(conflict.record); !note->isDeleted())

@@ -8,6 +8,8 @@
 #include "tarnmodel/store/OVCoreDataStack.h"
 
 #include <algorithm>
+#include <filesystem>
+#include <system_error>
 #include <utility>
 
 namespace tarn {
@@ -15,6 +17,8 @@ namespace tarn {
 namespace {
 
 constexpr std::int64_t kProgressUnits = 100;
+constexpr std::string_view kBackupPrefix = "database_backup ";
+constexpr std::string_view kBackupSuffix = ".sqlite";
 
 /// Makes a progress the current one of this thread for a scope.
 class CurrentProgress {
@@ -37,7 +41,7 @@ std::filesystem::path backupOfStore(const std::filesystem::path& store)
     std::string stamp
         = iso8601String(dateWithSystemTime(std::chrono::floor<std::chrono::seconds>(systemTimeOfDate(now()))));
     std::erase(stamp, ':');
-    return store.parent_path() / ("database_backup " + stamp + ".sqlite");
+    return store.parent_path() / (std::string(kBackupPrefix) + stamp + std::string(kBackupSuffix));
 }
 
 void moveAside(const std::filesystem::path& store, const std::filesystem::path& place)
@@ -141,6 +145,20 @@ void OVCoreDataStack::setStoreAside(const MigrationEnd& end)
                 endMigration({.error = std::nullopt, .migratedVersions = versions});
         });
     });
+}
+
+std::vector<std::filesystem::path> OVCoreDataStack::storesSetAsideInFolder(const std::filesystem::path& folder)
+{
+    std::vector<std::filesystem::path> stores;
+    std::error_code failure;
+    for (std::filesystem::directory_iterator entry(folder, failure), end; !failure && entry != end;
+         entry.increment(failure)) {
+        const std::string name = entry->path().filename().string();
+        if (name.starts_with(kBackupPrefix) && name.ends_with(kBackupSuffix))
+            stores.push_back(entry->path());
+    }
+    std::ranges::sort(stores);
+    return stores;
 }
 
 void OVCoreDataStack::migrationManagerMigrationProgress(VexMigrationManager&, float progress)

@@ -1,13 +1,16 @@
 #include "tarnmodel/store/OVCoreDataStack.h"
 
 #include "tarnmodel/files/OVLocalFileManager.h"
+#include "tarnmodel/files/thumbnails/OVThumbFileManager.h"
 #include "tarnmodel/model/ManagedObjectModel.h"
 #include "tarnmodel/model/OVNote.h"
 #include "tarnmodel/model/OVNoteFile.h"
 #include "tarnmodel/platform/coredata/StoreErrors.h"
 #include "tarnmodel/platform/foundation/system/Log.h"
 #include "tarnmodel/platform/foundation/values/NSException.h"
+#include "tarnmodel/store/StoreCompaction.h"
 
+#include <chrono>
 #include <utility>
 
 namespace tarn {
@@ -16,6 +19,7 @@ namespace {
 
 constexpr long kNeedsMigrationCode = 1;
 constexpr int kMostSavesBeforeAWrite = 3;
+constexpr std::chrono::milliseconds kLongestWaitForCompaction{500};
 constexpr std::string_view kNeedsMigration = "The database need migration, open the main application";
 
 } // namespace
@@ -54,11 +58,15 @@ void OVCoreDataStack::setupStackWithDelegate(OVCoreDataStackDelegate* delegate)
 
 void OVCoreDataStack::setupStack()
 {
+    const bool isApplication = !managedObjectContext_; // extensions come with a context
     initializeCoreData();
     initializeInMemoryContext();
     if (managedObjectContext_)
-        managedObjectContext_->performBlockAndWait(
-            [this] { OVNoteFile::recoverFilesInManagedObjectContext(*managedObjectContext_); });
+        managedObjectContext_->performBlockAndWait([&] {
+            OVNoteFile::recoverFilesInManagedObjectContext(*managedObjectContext_);
+            if (isApplication)
+                removeClearLeftovers();
+        });
     OVCoreDataStackDelegate* const listener = delegate();
     if (listener && managedObjectContext_)
         listener->coreDataStackDidInitializeManagedObjectContext(*this, *managedObjectContext_);
@@ -68,6 +76,8 @@ void OVCoreDataStack::initializeCoreData()
 {
     if (managedObjectContext_)
         return;
+    if (persistentStoreType() == StoreType::SQLite)
+        compactStore();
     NSError error;
     if (openStore(NSManagedObjectContext::ConcurrencyType::MainQueue, &error))
         return;
@@ -75,6 +85,40 @@ void OVCoreDataStack::initializeCoreData()
         listener->coreDataStackDidFailToInitializeManagedObjectContext(*this, error);
     else
         logMessage("Error while opening the store\n" + error.localizedDescription());
+}
+
+/// Before anything is open. What cannot be done now is still owed at the next start.
+void OVCoreDataStack::compactStore()
+{
+    const std::filesystem::path store = persistentStoreURL();
+    StoreCompaction::removeLeftovers(store);
+    if (!StoreCompaction::isOwed(store))
+        return;
+    NSError error;
+    const auto isShort = [](std::chrono::milliseconds waited) { return waited < kLongestWaitForCompaction; };
+    if (!StoreCompaction::compact(store, isShort, &error))
+        logMessage("The store is to be written anew, since something in it was protected; it could not be done now: "
+            + error.localizedDescription());
+}
+
+/// What processes that died, and other programs, have left of what is protected by now.
+void OVCoreDataStack::removeClearLeftovers()
+{
+    OVNoteFile::removeClearLeftoversInManagedObjectContext(*managedObjectContext_);
+    if (!OVThumbFileManager::areTherePicturesWithoutThumbs(*managedObjectContext_))
+        return;
+    std::shared_ptr<NSManagedObjectContext> child = backgroundPrivateManagedObjectContext();
+    NSManagedObjectContext& context = *child;
+    context.performBlock([&context] {
+        OVThumbFileManager::thumbFileManagerForPathComponent(OVNoteThumbFileDirectoryName)
+            ->deleteThumbsWithoutPicture(context);
+    });
+    // The last reference to the main context must go on its own queue.
+    context.performBlock([child = std::move(child), parent = managedObjectContext_]() mutable {
+        child.reset();
+        NSManagedObjectContext& main = *parent;
+        main.performBlock([parent = std::move(parent)] {});
+    });
 }
 
 bool OVCoreDataStack::openStore(NSManagedObjectContext::ConcurrencyType type, NSError* error)

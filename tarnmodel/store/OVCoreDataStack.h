@@ -51,8 +51,9 @@ public:
     virtual void setupStackWithDelegate(OVCoreDataStackDelegate* delegate);
     /// Makes both contexts and tells the delegate when the main one is there.
     virtual void setupStack();
-    /// Opens the store, or makes a new one, with the main context on it. A failure goes to the delegate, and there is
-    /// no main context. Does nothing when there is one.
+    /// Opens the store, or makes a new one, with the main context on it. One in which something was protected since the
+    /// last start is written anew before, once; see `StoreCompaction`. A failure goes to the delegate, and there is no
+    /// main context. Does nothing when there is one.
     void initializeCoreData();
     /// Makes the scratch context. Does nothing when there is one.
     void initializeInMemoryContext();
@@ -104,6 +105,9 @@ public:
     /// the new one as "database_backup <time>.sqlite", unless the delegate objects. Does nothing while a migration is
     /// under way. Who cancels the progress that the delegate gets ends it.
     virtual void migrate();
+    /// The stores of a folder that were set aside so, sorted. They are never deleted, and hold in clear what was not
+    /// protected then.
+    static std::vector<std::filesystem::path> storesSetAsideInFolder(const std::filesystem::path& folder);
     /// For tests, and for hosts that bring their own; an empty maker restores the library's. Counts from the next
     /// migration on.
     void setMigrationManagerMaker(MigrationManagerMaker maker);
@@ -138,6 +142,8 @@ private:
     void setStoreAside(const MigrationEnd& end);
     void endMigration(const MigrationEnd& end);
     void waitForMigration();
+    void compactStore();
+    void removeClearLeftovers();
     void runInBackground(std::function<void(NSManagedObjectContext&)> block);
     void save();
     void settleConflict(const MergeConflict& conflict);

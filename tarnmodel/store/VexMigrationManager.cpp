@@ -37,6 +37,18 @@ fs::path folderOfBackups(NSError* error)
     return folder;
 }
 
+/// What the stores were before the migrations of this process.
+struct KeptStores {
+    std::mutex mutex;
+    std::vector<fs::path> files;
+};
+
+KeptStores& keptStores()
+{
+    static auto* const stores = new KeptStores;
+    return *stores;
+}
+
 /// The file of a new store while it is made; gone at the end of the scope unless it has got the store's name.
 class SideFile {
 public:
@@ -284,8 +296,22 @@ bool VexMigrationManager::backupSourceStoreAtURL(
         source = heldForThis.get();
     }
     const fs::path backups = source ? folderOfBackups(error) : fs::path();
-    return !backups.empty()
-        && source->replaceWith(movingDestinationStoreAtURL, backups / (newUUIDString() + ".sqlite"), error);
+    if (backups.empty())
+        return false;
+    const fs::path backup = backups / (newUUIDString() + ".sqlite");
+    if (!source->replaceWith(movingDestinationStoreAtURL, backup, error))
+        return false;
+    const std::lock_guard lock(keptStores().mutex);
+    keptStores().files.push_back(backup);
+    return true;
+}
+
+void VexMigrationManager::removeBackups()
+{
+    OVLocalFileManager::removeAbandonedTemporaryDirectories();
+    const std::lock_guard lock(keptStores().mutex);
+    for (const fs::path& backup : std::exchange(keptStores().files, {}))
+        NSFileManager::removeItemAtURL(backup);
 }
 
 } // namespace tarn

@@ -94,6 +94,10 @@ public:
     /// Tells the delegate of "migrationProgress"; other keys are nobody's.
     virtual void observeValueForKeyPath(std::string_view keyPath, NSMigrationManager& object, float change);
 
+    /// Removes at once what the stores were before the migrations of this process, and of those that have ended: they
+    /// hold in clear what was protected since. Any thread.
+    static void removeBackups();
+
 protected:
     /// For subclasses: the store has come to this version.
     void addMigratedVersion(std::string_view modelName);

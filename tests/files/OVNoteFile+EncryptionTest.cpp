@@ -313,6 +313,25 @@ TEST_P(ExchangeOfADeadProcess, IsFinishedWhereItWasSaved)
     EXPECT_THAT(namesBeside(file), ElementsAre("opaque"));
 }
 
+TEST_P(ExchangeOfADeadProcess, KnowsNoFormerNameOfOneThatWasNeverSaved)
+{
+    OVNoteFile& file = attached("a.bin", "one");
+    ASSERT_TRUE(exchange(file, "opaque", "sealed"));
+    const auto journals = besidesTheKinds();
+    ASSERT_EQ(journals.size(), 1U);
+    EXPECT_THAT(contentsOf(filesRoot() / "Local Files" / journals.front() / "journal"),
+        testing::Not(testing::HasSubstr("a.bin")));
+    save();
+    leave(file, {{"", "opaque"}});
+    recover();
+    EXPECT_THAT(namesBeside(file), ElementsAre("opaque"));
+    file.updatePrimitiveFilename("another");
+    save();
+    leave(file, {{"", "opaque"}});
+    recover();
+    EXPECT_THAT(namesBeside(file), ElementsAre("another"));
+}
+
 TEST_P(ExchangeOfADeadProcess, LeavesTheOneThatIsNamedOfMany)
 {
     OVNoteFile& file = saved("a.bin", "one");

@@ -1,3 +1,4 @@
+#include "tarnmodel/encryption/OVEncryptionCoreManager.h"
 #include "tarnmodel/files/thumbnails/OVThumbFileManager.h"
 #include "tarnmodel/files/thumbnails/ScaledDrawing.h"
 #include "tarnmodel/files/thumbnails/ThumbDraft.h"
@@ -63,11 +64,23 @@ std::optional<fs::path> makeThumb(
     return destination;
 }
 
+std::optional<Bitmap> drawInMemory(const fs::path& picture, OVThumbSize thumbSize, const OVThumbOptions& options)
+{
+    try {
+        return drawThumb(picture, {wholePixels(thumbSize.width), wholePixels(thumbSize.height)}, options, nullptr);
+    } catch (const std::bad_alloc&) {
+        return std::nullopt;
+    }
+}
+
 } // namespace
 
 std::optional<fs::path> OVThumbFileManager::makeThumbForImageURL(
     const fs::path& imageURL, OVThumbSize thumbSize, const OVThumbOptions& options, NSError* error) const
 {
+    if (OVEncryptionCoreManager::isDecryptedFile(imageURL))
+        return fail(error,
+            fmt::format("\"{}\" is a protected picture, of which no thumbnail is kept.", imageURL.filename().string()));
     const PixelSize size = {wholePixels(thumbSize.width), wholePixels(thumbSize.height)};
     const fs::path destination = baseURL_ / thumbNameForImageURL(imageURL, thumbSize, options);
     try {
@@ -75,6 +88,18 @@ std::optional<fs::path> OVThumbFileManager::makeThumbForImageURL(
     } catch (const std::bad_alloc&) {
         return fail(error, fmt::format("There is not enough memory for a thumbnail of \"{}\".", imageURL.string()));
     }
+}
+
+std::pair<std::optional<fs::path>, std::optional<Bitmap>> OVThumbFileManager::thumbAndImage(
+    const fs::path& imageURL, OVThumbSize thumbSize, const OVThumbOptions& options) const
+{
+    if (OVEncryptionCoreManager::isDecryptedFile(imageURL))
+        return {std::nullopt, drawInMemory(imageURL, thumbSize, options)};
+    auto url = thumbURLForImageURL(imageURL, thumbSize, options);
+    if (!url)
+        url = makeThumbForImageURL(imageURL, thumbSize, options);
+    auto image = url ? loadImage(*url) : std::nullopt;
+    return {std::move(url), std::move(image)};
 }
 
 // The main queue is asked for here: where it was not yet used, the thread that asks becomes its owner.
@@ -99,10 +124,7 @@ void OVThumbFileManager::thumbForImageURL(
 {
     GlobalQueue::shared().async([self = shared_from_this(), imageURL, thumbSize, options, success = std::move(success),
                                     &main = MainQueue::main()] {
-        auto url = self->thumbURLForImageURL(imageURL, thumbSize, options);
-        if (!url)
-            url = self->makeThumbForImageURL(imageURL, thumbSize, options);
-        auto image = url ? loadImage(*url) : std::nullopt;
+        auto [url, image] = self->thumbAndImage(imageURL, thumbSize, options);
         main.async([url = std::move(url), image = std::move(image), success] { success(url, image); });
     });
 }

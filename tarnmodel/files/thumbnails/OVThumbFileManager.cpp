@@ -1,5 +1,6 @@
 #include "tarnmodel/files/thumbnails/OVThumbFileManager.h"
 
+#include "tarnmodel/encryption/OVEncryptionCoreManager.h"
 #include "tarnmodel/files/OVLocalFileManager.h"
 #include "tarnmodel/files/thumbnails/SHA1.h"
 #include "tarnmodel/files/thumbnails/ThumbDraft.h"
@@ -84,6 +85,8 @@ std::shared_ptr<OVThumbFileManager> OVThumbFileManager::initWithBaseURL(fs::path
 std::optional<fs::path> OVThumbFileManager::thumbURLForImageURL(
     const fs::path& imageURL, OVThumbSize thumbSize, const OVThumbOptions& options) const
 {
+    if (OVEncryptionCoreManager::isDecryptedFile(imageURL))
+        return std::nullopt;
     const NSDate moment = now();
     const auto state = stateOfSource(imageURL);
     fs::path thumb = baseURL_ / thumbNameForImageURL(imageURL, thumbSize, options);

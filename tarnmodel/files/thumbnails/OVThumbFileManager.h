@@ -13,10 +13,12 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace tarn {
 
 class NSError;
+class NSManagedObjectContext;
 
 /// Makes, finds and deletes small copies of images, in one folder.
 ///
@@ -82,10 +84,18 @@ public:
     /// The same for many images, in one look through the folder.
     void deleteAllThumbsForImageURLs(std::span<const std::filesystem::path> imageURLs) const;
 
+    // Sweeping (OVThumbFileManager+Sweeping.cpp) ----------------------------------------------------------------------
+    /// Whether the store has protected pictures. On the context's queue.
+    static bool areTherePicturesWithoutThumbs(NSManagedObjectContext& context);
+    /// Where the store has protected pictures: deletes the thumbnails here that are of none of its clear ones, such as
+    /// those that were made in clear times and that nobody deleted. Reads all pictures. On the context's queue.
+    void deleteThumbsWithoutPicture(NSManagedObjectContext& context) const;
+
     // Making (OVThumbFileManager+Making.cpp) ------------------------------------------------------------------------
     /// Makes the thumbnail, upright, in place of an earlier one. Readers see the earlier one or this one, whole. None
     /// with an error when the image cannot be decoded or is over a limit, nothing is left of it, the size cannot be
-    /// drawn, or the file cannot be written; nothing is stored then. A failure to write is logged too.
+    /// drawn, or the file cannot be written; nothing is stored then. A failure to write is logged too. Of a decrypted
+    /// copy of a protected picture none is made: it would outlive the copy.
     std::optional<std::filesystem::path> makeThumbForImageURL(const std::filesystem::path& imageURL,
         OVThumbSize thumbSize, const OVThumbOptions& options = {}, NSError* error = nullptr) const;
     /// The same on the global queue; `success` hears of it on the main queue.
@@ -93,12 +103,14 @@ public:
         const OVThumbOptions& options, ThumbHandler success) const;
     void makeThumbForImageURL(const std::filesystem::path& imageURL, OVThumbSize thumbSize, ThumbHandler success) const;
     /// Finds the thumbnail, or makes it where there is none, and loads it, on the global queue; `success` gets both on
-    /// the main queue.
+    /// the main queue. Of a decrypted copy of a protected picture there is only the image, in memory.
     void thumbForImageURL(const std::filesystem::path& imageURL, OVThumbSize thumbSize, const OVThumbOptions& options,
         ImageHandler success) const;
 
 private:
     explicit OVThumbFileManager(std::filesystem::path baseURL);
+    std::pair<std::optional<std::filesystem::path>, std::optional<Bitmap>> thumbAndImage(
+        const std::filesystem::path& imageURL, OVThumbSize thumbSize, const OVThumbOptions& options) const;
 
     const std::filesystem::path baseURL_;
     mutable std::mutex mutex_;

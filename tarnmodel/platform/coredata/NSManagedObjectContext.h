@@ -45,7 +45,8 @@ struct MergeConflict {
     NSManagedObject* record = nullptr;         ///< the record of this context
     std::vector<std::string> properties;       ///< that the loser had changed; their values were dropped
     std::map<std::string, Value> lostValues;   ///< a to-one as the record, where that is here
-    std::map<std::string, Value> formerValues; ///< before either side changed them, as far as they were read
+    /// Before either side changed them, and those of their groups, as far as they were read; a to-one likewise.
+    std::map<std::string, Value> formerValues;
 };
 
 /// Notifications; `object` is the context. The payload is one of the structures below, valid during the call.

@@ -47,6 +47,16 @@ NSManagedObject* targetNamed(
     return records.registry.find(relationship.destinationEntity().rootEntity(), values.integer(property.index()));
 }
 
+/// The properties, and those that stand or fall with them.
+PropertyMask withGroups(const NSEntityDescription& entity, PropertyMask properties)
+{
+    PropertyMask all = properties;
+    for (const MergeGroup& group : entity.mergeGroups())
+        if (properties & group.members)
+            all |= group.members;
+    return all;
+}
+
 } // namespace
 
 /// Who keeps what both sides changed, groups as a whole.
@@ -136,16 +146,29 @@ void MergeConflicts::note(MergeConflict::Cause cause, NSManagedObject& record, M
         if (!(lost & propertyBit(index)))
             continue;
         conflict.properties.push_back(property->name());
-        if (property->isRelationship()) {
-            if (NSManagedObject* target = targetNamed(records_, *property, losing))
-                conflict.lostValues.emplace(property->name(), Value(target));
-            continue;
-        }
-        conflict.lostValues.emplace(property->name(), losing.attributeValue(index));
-        if (!former.isEmpty() && former.isLoaded(index))
-            conflict.formerValues.emplace(property->name(), former.attributeValue(index));
+        if (!property->isRelationship())
+            conflict.lostValues.emplace(property->name(), losing.attributeValue(index));
+        else if (NSManagedObject* target = targetNamed(records_, *property, losing))
+            conflict.lostValues.emplace(property->name(), Value(target));
     }
+    addFormerValues(conflict, withGroups(record.entity(), lost), former);
     conflicts_.push_back(std::move(conflict));
+}
+
+void MergeConflicts::addFormerValues(MergeConflict& conflict, PropertyMask mask, const PropertyValues& former) const
+{
+    if (former.isEmpty())
+        return;
+    const NSEntityDescription& entity = conflict.record->entity();
+    for (const NSPropertyDescription* property : entity.properties()) {
+        const PropertyIndex index = property->index();
+        if (!(mask & ~entity.toManyMask() & propertyBit(index)) || !former.isLoaded(index))
+            continue;
+        if (!property->isRelationship())
+            conflict.formerValues.emplace(property->name(), former.attributeValue(index));
+        else if (NSManagedObject* target = targetNamed(records_, *property, former))
+            conflict.formerValues.emplace(property->name(), Value(target));
+    }
 }
 
 void MergeConflicts::noteDeletedElsewhere(NSManagedObject& record)

@@ -46,6 +46,7 @@ private:
     void forgetGivenWay(const RecordMerge& merge);
     void note(MergeConflict::Cause cause, NSManagedObject& record, MergeSide loser, PropertyMask lost,
         const PropertyValues& losing, const PropertyValues& former);
+    void addFormerValues(MergeConflict& conflict, PropertyMask mask, const PropertyValues& former) const;
 
     HeldRecords& records_;
     RelationshipMaintenance& relationships_;
