@@ -37,13 +37,13 @@ struct BackupOmission {
 
 /// What an examination found.
 struct BackupExamination {
-    BackupManifest manifest;
+    BackupManifest manifest;             ///< what the backup says of itself
     std::vector<BackupOmission> damaged; ///< members that are not what they were; empty for a sound backup
 };
 
 /// What a restore did.
 struct BackupRestoration {
-    BackupManifest manifest;
+    BackupManifest manifest;             ///< of the backup
     std::uint64_t restored = 0;          ///< notes that were made, or brought to a later state
     std::uint64_t kept = 0;              ///< notes that were there in the same state, or a later one
     std::uint64_t conflicts = 0;         ///< of the restored ones those that became conflicted copies
