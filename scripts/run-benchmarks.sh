@@ -23,6 +23,7 @@ for program in "${programs[@]}"; do
     bench_notes) "$program" 100000 ${TARN_CORPUS:+"$TARN_CORPUS"} | tee "$build/results/$name.txt" ;;
     bench_files) "$program" | tee "$build/results/$name.txt" ;;
     bench_migration) "$program" 10000 100000 | tee "$build/results/$name.txt" ;;
+    bench_backup) "$program" 10000 | tee "$build/results/$name.txt" ;;
     bench_sync) "$program" | tee "$build/results/$name.txt" ;;
     bench_search) "$program" ${TARN_CORPUS:+"$TARN_CORPUS"} | tee "$build/results/$name.txt" ;;
     *) "$program" --benchmark_filter="$filter" --benchmark_out="$build/results/$name.json" --benchmark_out_format=json ;;

@@ -142,7 +142,15 @@
 #include "tarnmodel/diagnosis/StoreFinding.h"
 #include "tarnmodel/diagnosis/StoreStatistics.h"
 
+// Records as dictionaries need "nlohmann/json.hpp" to be looked into. Backups of the whole store.
+#include "tarnmodel/backup/BackupErrors.h"
+#include "tarnmodel/backup/BackupLimits.h"
+#include "tarnmodel/backup/BackupManifest.h"
+#include "tarnmodel/backup/BackupRestore.h"
+#include "tarnmodel/backup/StoreBackup.h"
+
 // Opening the store, and watching records.
+#include "tarnmodel/store/BackupMigration.h"
 #include "tarnmodel/store/MigrationPolicies.h"
 #include "tarnmodel/store/Model1toModel2OVNoteBackLinkMigrationPolicy.h"
 #include "tarnmodel/store/Model1toModel2OVNoteMigrationPolicy.h"

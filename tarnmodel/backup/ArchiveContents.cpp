@@ -3,6 +3,8 @@
 #include "tarnmodel/backup/BackupFailureInternal.h"
 #include "tarnmodel/backup/BackupManifestInternal.h"
 
+#include <algorithm>
+
 namespace tarn {
 
 ArchiveContents::ArchiveContents(
@@ -55,7 +57,13 @@ void ArchiveContents::readManifest()
     if (reader_.end() && damage_ == Damage::Refused
         && (reader_.end()->manifestSize != text.size() || reader_.end()->manifestHash != hash.digest()))
         throw BackupFailure(BackupErrorDamaged, file_.string() + " is damaged: manifest.json");
-    manifest_ = manifestFromText(text, limits_.members);
+    try {
+        manifest_ = manifestFromText(text, limits_.members);
+    } catch (const BackupFailure& failure) {
+        if (failure.error().code() != BackupErrorDamaged)
+            throw;
+        throw BackupFailure(BackupErrorDamaged, file_.string() + " is damaged: manifest.json cannot be read");
+    }
     std::uint64_t bytes = 0;
     for (std::size_t index = 0; index < manifest_.members.size(); ++index) {
         const BackupManifest::Member& member = manifest_.members[index];

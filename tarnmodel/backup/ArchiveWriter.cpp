@@ -24,7 +24,7 @@ constexpr int kOwnersFolder = 0700;
 
 } // namespace
 
-ArchiveWriter::ArchiveWriter(int descriptor, std::filesystem::path file, NSDate date)
+ArchiveWriter::ArchiveWriter(int descriptor, std::filesystem::path file, NSDate date, Names names)
     : descriptor_(descriptor), file_(std::move(file)), date_(date), tar_(archive_write_new())
 {
     if (!tar_)
@@ -32,8 +32,8 @@ ArchiveWriter::ArchiveWriter(int descriptor, std::filesystem::path file, NSDate 
     check(archive_write_set_format_pax_restricted(tar_));
     check(archive_write_add_filter_zstd(tar_));
     check(archive_write_set_filter_option(tar_, nullptr, "compression-level", "3"));
-    // Names are what they are on disk, also where they are no UTF-8.
-    check(archive_write_set_format_option(tar_, nullptr, "hdrcharset", "BINARY"));
+    if (names == Names::Bytes)
+        check(archive_write_set_format_option(tar_, nullptr, "hdrcharset", "BINARY"));
     check(archive_write_set_bytes_in_last_block(tar_, 1));
     check(archive_write_open(tar_, this, nullptr, takeBytes, nullptr));
 }

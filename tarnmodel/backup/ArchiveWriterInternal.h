@@ -19,8 +19,13 @@ namespace tarn {
 /// `BackupFailure`.
 class ArchiveWriter {
 public:
+    /// How the names of members are to be read.
+    enum class Names : std::uint8_t {
+        Ascii, ///< all of them
+        Bytes, ///< as they are on disk, whatever that is; some programs warn of the note that says so
+    };
     /// Members get this date.
-    ArchiveWriter(int descriptor, std::filesystem::path file, NSDate date);
+    ArchiveWriter(int descriptor, std::filesystem::path file, NSDate date, Names names);
     ~ArchiveWriter();
     ArchiveWriter(const ArchiveWriter&) = delete;
     ArchiveWriter& operator=(const ArchiveWriter&) = delete;

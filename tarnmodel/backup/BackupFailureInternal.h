@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tarnmodel/backup/BackupErrors.h"
+#include "tarnmodel/platform/coredata/StoreErrors.h"
 #include "tarnmodel/platform/foundation/values/NSError.h"
 
 #include <exception>
@@ -33,8 +34,10 @@ template <typename Operation> bool reportingBackupFailure(NSError* error, Operat
         return true;
     } catch (const BackupFailure& failure) {
         assignError(error, failure.error());
-        return false;
+    } catch (...) {
+        assignError(error, errorOfCurrentException());
     }
+    return false;
 }
 /// Runs what answers whether it worked and gives an error otherwise; throws that.
 template <typename Operation> void orThrow(Operation&& operation)

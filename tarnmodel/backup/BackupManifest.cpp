@@ -35,11 +35,12 @@ public:
         if (event == JSON::parse_event_t::key && depth == 1)
             key_ = parsed.get<std::string>();
         // First of all: what comes behind it may be written otherwise by then.
-        if (event == JSON::parse_event_t::value && depth == 1 && key_ == "format" && parsed > kBackupFormat)
+        if (event == JSON::parse_event_t::value && depth == 1 && key_ == "format" && parsed.is_number_integer()
+            && parsed > kBackupFormat)
             throw BackupFailure(BackupErrorNewer, "a later version of this program made the backup");
         // Nothing in a manifest lies deeper than a text that is no text.
         if (depth > 4 && (event == JSON::parse_event_t::object_start || event == JSON::parse_event_t::array_start))
-            throw BackupFailure(BackupErrorDamaged, "the list of contents is damaged");
+            throw BackupFailure(BackupErrorDamaged, "manifest.json cannot be read");
         if (depth != 2 || event != JSON::parse_event_t::object_end || key_ != "members")
             return true;
         if (members_.size() >= maximumCount_)
@@ -105,7 +106,7 @@ BackupManifest manifestFromText(std::string_view text, std::size_t maximumMember
         manifest.format = fieldOf<int>(json, "format");
         readFields(json, manifest);
     } catch (const JSON::exception&) {
-        throw BackupFailure(BackupErrorDamaged, "the list of contents is damaged");
+        throw BackupFailure(BackupErrorDamaged, "manifest.json cannot be read");
     }
     return manifest;
 }

@@ -8,7 +8,7 @@
 #include "tarnmodel/platform/predicate/NSPredicate.h"
 
 #include <algorithm>
-#include <array>
+#include <iterator>
 #include <optional>
 
 namespace tarn {
@@ -65,6 +65,7 @@ void BackupMerge::save(const std::function<void()>& work)
     for (const auto& remember : afterSave_)
         remember();
     afterSave_.clear();
+    metOnPage_.clear();
     context_.reset();
     madeSome_();
 }
@@ -83,32 +84,56 @@ BackupMerge::Existing BackupMerge::existingRecords(std::string_view entityName, 
         throw BackupFailure(error);
     Existing existing;
     for (NSManagedObject* record : *records)
-        existing[record->storedValueForKey("uniqueIdentifier").asString()] = record;
+        existing.emplace(record->storedValueForKey("uniqueIdentifier").asString(), record);
     return existing;
 }
 
-/// A record without an identifier is the one that is just like it.
-NSManagedObject* BackupMerge::existingRecord(const Existing& existing, const BackupRecord& record)
+std::vector<NSManagedObject*> BackupMerge::recordsWithoutIdentifier(const std::string& entityName)
 {
-    if (!record.attribute("uniqueIdentifier").isNil()) {
-        const auto found = existing.find(record.text("uniqueIdentifier"));
-        return found == existing.end() ? nullptr : found->second;
-    }
-    NSFetchRequest request(*context_.managedObjectModel().entityNamed(record.entityName));
+    NSFetchRequest request(*context_.managedObjectModel().entityNamed(entityName));
     request.predicate = NSPredicate::predicateWithFormat("uniqueIdentifier == nil");
     NSError error;
-    const auto records = context_.fetch(request, &error);
+    auto records = context_.fetch(request, &error);
     if (!records)
         throw BackupFailure(error);
-    const auto like = std::ranges::find_if(
-        *records, [&](const NSManagedObject* candidate) { return hasStoredAttributes(*candidate, record); });
-    return like == records->end() ? nullptr : *like;
+    return std::move(*records);
+}
+
+/// A record without an identifier is the one that is just like it; so is one of several that share theirs.
+NSManagedObject* BackupMerge::existingRecord(const Existing& existing, const BackupRecord& record)
+{
+    const bool isNamed = !record.attribute("uniqueIdentifier").isNil();
+    std::vector<NSManagedObject*> candidates;
+    if (isNamed) {
+        const auto [first, last] = existing.equal_range(record.text("uniqueIdentifier"));
+        std::transform(first, last, std::back_inserter(candidates), [](const auto& entry) { return entry.second; });
+    } else {
+        candidates = recordsWithoutIdentifier(record.entityName);
+    }
+    std::erase_if(candidates, [this](const NSManagedObject* candidate) {
+        return metOnPage_.contains(candidate) || met_.contains(candidate->objectID());
+    });
+    auto found = std::ranges::find_if(
+        candidates, [&](const NSManagedObject* candidate) { return hasStoredAttributes(*candidate, record); });
+    if (found == candidates.end() && isNamed)
+        found = candidates.begin();
+    if (found == candidates.end())
+        return nullptr;
+    meet(**found);
+    return *found;
+}
+
+void BackupMerge::meet(NSManagedObject& record)
+{
+    metOnPage_.insert(&record);
+    afterSave_.emplace_back([this, &record] { met_.insert(record.objectID()); });
 }
 
 NSManagedObject& BackupMerge::insertRecord(const BackupRecord& record)
 {
     NSManagedObject& inserted = context_.insertObject(record.entityName);
     setStoredAttributes(record, inserted);
+    meet(inserted);
     return inserted;
 }
 

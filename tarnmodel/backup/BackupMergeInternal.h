@@ -7,9 +7,12 @@
 #include <cstdint>
 #include <functional>
 #include <map>
+#include <set>
+#include <span>
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 namespace tarn {
@@ -45,11 +48,13 @@ private:
         NSManagedObjectID target; ///< to which links to it lead
     };
     using Page = std::vector<BackupRecord>;
-    using Existing = std::map<std::string, NSManagedObject*>;
+    using Existing = std::multimap<std::string, NSManagedObject*>;
 
     void save(const std::function<void()>& work);
     Existing existingRecords(std::string_view entityName, const Page& page);
     NSManagedObject* existingRecord(const Existing& existing, const BackupRecord& record);
+    std::vector<NSManagedObject*> recordsWithoutIdentifier(const std::string& entityName);
+    void meet(NSManagedObject& record);
     NSManagedObject& insertRecord(const BackupRecord& record);
     NSManagedObject* recordFor(const std::unordered_map<std::int64_t, NSManagedObjectID>& known, std::int64_t number);
     void remember(
@@ -85,6 +90,9 @@ private:
     const std::function<void()>& madeSome_;
     BackupRestoration& restoration_;
     std::vector<std::function<void()>> afterSave_; ///< identifiers are permanent then
+    /// Records that stand for one of the backup: where several have one identifier, each stands for another.
+    std::unordered_set<NSManagedObjectID> met_;
+    std::set<const NSManagedObject*> metOnPage_;
     std::unordered_map<std::int64_t, NSManagedObjectID> passwords_;
     std::unordered_map<std::int64_t, NSManagedObjectID> tags_;
     std::unordered_map<std::int64_t, Note> notes_;

@@ -31,6 +31,16 @@ void addOmissions(const std::vector<DamagedMember>& damaged, std::vector<BackupO
         omissions.push_back({member.name, "damaged: it " + member.reason});
 }
 
+void requireKnownModel(const BackupManifest& manifest)
+{
+    // A version that names a folder is none.
+    if (manifest.modelVersion.find('/') != std::string::npos
+        || !OVManagedObjectModel::modelURLForVersion(manifest.modelVersion))
+        throw BackupFailure(BackupErrorNewer,
+            "the backup is of the version \"" + manifest.modelVersion
+                + "\" of the model, which this program does not know");
+}
+
 /// Only compares.
 class MemberChecker final : public ArchiveContents::Taker {
 public:
@@ -62,6 +72,24 @@ private:
     bool isResumed_ = false;
 };
 
+/// What of an archive is damaged that was refused. Where that cannot be told, the refusal is.
+void listDamage(const std::filesystem::path& file, const NSError& refusal, const BackupReadOptions& options,
+    BackupExamination& found)
+{
+    try {
+        MemberChecker checker;
+        ArchiveContents contents(file, options.limits, ArchiveContents::Damage::Listed, options.progress);
+        addOmissions(contents.readMembers(checker), found.damaged);
+        found.manifest = contents.manifest();
+    } catch (const BackupFailure& failure) {
+        if (failure.error().code() == BackupErrorCancelled)
+            throw;
+        throw BackupFailure(refusal);
+    }
+    if (found.damaged.empty())
+        found.damaged.push_back({file.filename().string(), refusal.localizedDescription()});
+}
+
 class Restore {
 public:
     Restore(NSManagedObjectContext& context, const BackupReadOptions& options)
@@ -71,8 +99,10 @@ public:
     {
         ArchiveContents contents(file, options_.limits, damageFor(options_), options_.progress);
         restoration_.manifest = contents.manifest();
+        requireKnownModel(restoration_.manifest);
         BackupExtraction extraction(scratch_.url());
         addOmissions(contents.readMembers(extraction), restoration_.skipped);
+        restoration_.damaged = restoration_.skipped.size();
         const std::filesystem::path store = scratch_.url() / "store.sqlite";
         BackupRecords::fill(store, extraction, contents.manifest().modelVersion, options_.limits.recordBytes, goesOn_);
         bringForward(store);
@@ -153,17 +183,13 @@ std::optional<BackupExamination> BackupRestore::examine(const BackupReadOptions&
         try {
             ArchiveContents contents(file_, options.limits, ArchiveContents::Damage::Refused, options.progress);
             contents.readMembers(checker);
+            requireKnownModel(contents.manifest());
             found.manifest = contents.manifest();
         } catch (const BackupFailure& failure) {
             refusal = failure.error();
             if (refusal.domain() != TarnBackupErrorDomain || refusal.code() != BackupErrorDamaged)
                 throw;
-            // What of it is damaged?
-            ArchiveContents contents(file_, options.limits, ArchiveContents::Damage::Listed, options.progress);
-            addOmissions(contents.readMembers(checker), found.damaged);
-            found.manifest = contents.manifest();
-            if (found.damaged.empty())
-                found.damaged.push_back({file_.filename().string(), refusal.localizedDescription()});
+            listDamage(file_, refusal, options, found);
         }
         examination = std::move(found);
     });

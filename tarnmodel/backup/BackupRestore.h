@@ -44,12 +44,13 @@ struct BackupExamination {
 /// What a restore did.
 struct BackupRestoration {
     BackupManifest manifest;
-    std::uint64_t restored = 0;  ///< notes that were made, or brought to a later state
-    std::uint64_t kept = 0;      ///< notes that were there in the same state, or a later one
-    std::uint64_t conflicts = 0; ///< of the restored ones those that became conflicted copies
-    std::uint64_t files = 0;     ///< attachments whose bytes were restored
-    std::uint64_t bytes = 0;     ///< of those
-    std::vector<BackupOmission> skipped;
+    std::uint64_t restored = 0;          ///< notes that were made, or brought to a later state
+    std::uint64_t kept = 0;              ///< notes that were there in the same state, or a later one
+    std::uint64_t conflicts = 0;         ///< of the restored ones those that became conflicted copies
+    std::uint64_t files = 0;             ///< attachments whose bytes were restored
+    std::uint64_t bytes = 0;             ///< of those
+    std::uint64_t damaged = 0;           ///< members of the archive that were not whole; only where it is salvaged
+    std::vector<BackupOmission> skipped; ///< what was left out, or is not as it was in the backup
 };
 
 /// Examines a backup that `StoreBackup` has written, and brings it back into a store.

@@ -238,7 +238,11 @@ void BackupRun::hashFiles()
 
 void BackupRun::writeArchive(UnfinishedArchive& unfinished)
 {
-    ArchiveWriter writer(unfinished.descriptor(), file_, manifest_.creationDate);
+    const bool isAscii = std::ranges::all_of(manifest_.members, [](const BackupManifest::Member& member) {
+        return std::ranges::all_of(member.name, [](unsigned char character) { return character < 0x80; });
+    });
+    ArchiveWriter writer(unfinished.descriptor(), file_, manifest_.creationDate,
+        isAscii ? ArchiveWriter::Names::Ascii : ArchiveWriter::Names::Bytes);
     const auto manifestBytes = std::as_bytes(std::span(manifestText_));
     writer.addMember(std::string(kManifestName), manifestBytes.size(),
         [&](const ArchiveWriter::Sink& sink) { sink(manifestBytes); });

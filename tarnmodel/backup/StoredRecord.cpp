@@ -11,6 +11,9 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
+#include <limits>
+#include <utility>
 
 namespace tarn {
 
@@ -43,6 +46,30 @@ void addEntity(const NSEntityDescription& entity, std::vector<const NSEntityDesc
     entities.push_back(&entity);
 }
 
+/// JSON has no way to write what is no number, or beyond all numbers.
+constexpr std::array<std::pair<std::string_view, double>, 3> kWordsForNumbers{
+    {{"Infinity", std::numeric_limits<double>::infinity()}, {"-Infinity", -std::numeric_limits<double>::infinity()},
+        {"NaN", std::numeric_limits<double>::quiet_NaN()}}};
+
+JSON jsonOfNumber(double number)
+{
+    if (std::isfinite(number))
+        return number;
+    for (const auto& [word, meaning] : kWordsForNumbers)
+        if (number == meaning)
+            return std::string(word);
+    return "NaN";
+}
+
+double numberOfJSON(const JSON& json)
+{
+    if (json.is_string())
+        for (const auto& [word, meaning] : kWordsForNumbers)
+            if (json == word)
+                return meaning;
+    return json.get<double>();
+}
+
 JSON jsonOfValue(const Value& value)
 {
     switch (value.kind()) {
@@ -51,7 +78,7 @@ JSON jsonOfValue(const Value& value)
     case Value::Kind::Integer:
         return value.asInteger();
     case Value::Kind::Double:
-        return value.asDouble();
+        return jsonOfNumber(value.asDouble());
     case Value::Kind::String:
         return jsonOfStoredText(value.asString());
     case Value::Kind::Date:
@@ -72,7 +99,7 @@ Value valueOfJSON(const JSON& json, NSAttributeType type)
     case NSAttributeType::Integer64:
         return Value(json.get<std::int64_t>());
     case NSAttributeType::Double:
-        return Value(json.get<double>());
+        return Value(numberOfJSON(json));
     case NSAttributeType::String:
         return Value(storedTextOfJSON(json));
     case NSAttributeType::Date:
@@ -119,13 +146,15 @@ Value recordsOfJSON(
 std::int64_t readInto(NSManagedObject& record, const JSON& line, const RecordOfNumber& recordOfNumber)
 {
     const JSON& attributes = line.at("attributes");
+    const JSON& relationships = line.at("relationships");
+    if (!attributes.is_object() || !relationships.is_object())
+        throw BackupFailure(BackupErrorDamaged, "a record of " + record.entity().name() + " is none");
     for (const NSAttributeDescription* attribute : backedUpAttributes(record.entity())) {
         const auto found = attributes.find(attribute->name());
         // What is not there was nil, also where a new record has something else.
         record.setPrimitiveValueForKey(
             attribute->name(), found == attributes.end() ? Value() : valueOfJSON(*found, attribute->type()));
     }
-    const JSON& relationships = line.at("relationships");
     for (const NSRelationshipDescription* relationship : backedUpRelationships(record.entity()))
         if (const auto found = relationships.find(relationship->name()); found != relationships.end())
             record.setValueForKey(relationship->name(), recordsOfJSON(*found, *relationship, recordOfNumber));

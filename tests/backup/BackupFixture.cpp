@@ -39,8 +39,7 @@ namespace {
 std::string nameOf(const NSManagedObject& record)
 {
     const Value identifier = record.storedValueForKey("uniqueIdentifier");
-    return record.entity().name() + " "
-        + (identifier.isNil() ? std::to_string(record.objectID().key()) : identifier.asString());
+    return record.entity().name() + " " + (identifier.isNil() ? "-" : identifier.asString());
 }
 
 std::string textOf(const Value& value)
@@ -90,7 +89,9 @@ std::map<std::string, std::string> contentsOfStore(NSManagedObjectContext& conte
                 text += attribute->name() + "=" + textOf(record->storedValueForKey(attribute->name())) + "\n";
             for (const auto* relationship : backedUpRelationships(*entity))
                 text += relationship->name() + ": " + textOf(record->storedValueForKey(relationship->name())) + "\n";
-            contents[nameOf(*record)] += text;
+            // Records without an identifier are told apart by what they hold.
+            const bool isNamed = !record->storedValueForKey("uniqueIdentifier").isNil();
+            contents[isNamed ? nameOf(*record) : text] += text;
         }
     }
     return contents;

@@ -30,6 +30,7 @@ ANSWERED = [
     "password add --password-file key --memory 1",
     "password change --password-file key --new-password-file key --memory 1", "password rotate --password-file key",
     "thumb 'House manual' --size 20x20", "export out",
+    "backup all.tarnbackup", "restore-backup all.tarnbackup",
 ]
 # While it has the note open, somebody else writes to it: the two versions are kept as a conflict.
 EDITOR = '#!/bin/sh\ntarn append --latest Groceries "from elsewhere" >/dev/null\necho "from here" >>"$1"\n'
@@ -81,7 +82,7 @@ class CommandLine(unittest.TestCase):
         self.assertEqual({path: path.read_bytes() for path in notes.rglob("*") if path.is_file()}, before)
 
     def test_each_command_answers_in_json(self):
-        commands = re.findall(r"^  ([a-z]+)  ", self.run_line("tarn --help").split("Subcommands:")[1], re.MULTILINE)
+        commands = re.findall(r"^  ([a-z-]+)  ", self.run_line("tarn --help").split("Subcommands:")[1], re.MULTILINE)
         self.assertEqual(sorted(commands), sorted({line.split(" ")[0] for line in ANSWERED}))
         for line in ANSWERED:
             with self.subTest(line):

@@ -74,7 +74,8 @@ const std::vector<std::vector<std::string>> kCommandsOnStores{{"list"}, {"search
     {"tag", "prune"}, {"conflict", "resolve", "Old 0"}, {"trash", "Old 0"}, {"restore", "Old 0"}, {"archive", "Old 0"},
     {"unarchive", "Old 0"}, {"pin", "Old 0"}, {"unpin", "Old 0"}, {"readonly", "Old 0"}, {"editable", "Old 0"},
     {"delete", "--yes", "Old 0"}, {"attach", "Old 0", "notes/a.md"}, {"file", "rename", "Old 0", "a.md", "b.md"},
-    {"file", "prune"}, {"export", "out"}, {"baseline"}, {"doctor", "--repair"}};
+    {"file", "prune"}, {"export", "out"}, {"backup", "b.tarnbackup"}, {"restore-backup", "b.tarnbackup"}, {"baseline"},
+    {"doctor", "--repair"}};
 
 /// Those that need none.
 const std::set<std::string> kCommandsWithoutStore{"parse", "predicate", "highlight", "migrate"};

@@ -40,10 +40,16 @@ protected:
         return arguments;
     }
     void addPassword() const { output(withPassword({"password", "add", "--memory", "1", "--hint", "the usual"})); }
+    /// By the password of the store, or a first one, which is told of.
+    void protect(const std::string& identifier) const
+    {
+        const TarnResult result = run(withPassword({"protect", identifier, "--memory", "1"}));
+        EXPECT_EQ(result.exitCode, 0) << result.errors;
+    }
     std::string protectedNote(const std::string& text) const
     {
         const std::string identifier = note(text);
-        output(withPassword({"protect", identifier, "--memory", "1"}));
+        protect(identifier);
         return identifier;
     }
     std::string identifierOfPassword() const
@@ -86,10 +92,10 @@ TEST_F(ProtectCommands, LeaveALockedNoteAloneAndEndWith3)
 
 TEST_F(ProtectCommands, EditAProtectedNoteWithItsPassword)
 {
-    protectedNote("# Diary\n\n#home first");
+    protectedNote("# Diary\n\nfirst #home");
     output(withPassword({"append", "Diary", "second"}));
     output(withPassword({"tag", "rename", "home", "house"}));
-    EXPECT_EQ(output(withPassword({"show", "Diary"})), "# Diary\n\n#house first\nsecond");
+    EXPECT_EQ(output(withPassword({"show", "Diary"})), "# Diary\n\nfirst #house\nsecond");
     EXPECT_EQ(stored("SELECT count(*) FROM OVNote_large WHERE text IS NOT NULL"), "0");
     EXPECT_EQ(stored("SELECT subtitle IS NULL FROM OVNote"), "1");
 }
@@ -133,7 +139,7 @@ TEST_F(ProtectCommands, AskOnTheTerminalWithoutShowingWhatIsTyped)
 {
     protectedNote("# Diary\n\nthe text");
     TarnProcess process(arguments({"show", "Diary"}));
-    process.useTerminal();
+    process.useTerminalAnsweringQuestions();
     process.setInput("wrong\ncorrect horse\n");
     const TarnResult result = process.finish();
     EXPECT_EQ(result.exitCode, 0) << result.output;
@@ -147,7 +153,7 @@ TEST_F(ProtectCommands, AskTwiceForAFirstPassword)
 {
     note("# Diary\n\nthe text");
     TarnProcess process(arguments({"protect", "Diary", "--memory", "1"}));
-    process.useTerminal();
+    process.useTerminalAnsweringQuestions();
     process.setInput("one\nanother\ncorrect horse\ncorrect horse\n");
     const TarnResult result = process.finish();
     EXPECT_EQ(result.exitCode, 0) << result.output;
@@ -171,7 +177,7 @@ TEST_F(ProtectCommands, ProtectAttachmentsAndGiveThemBack)
     const std::string identifier = note("# Diary");
     const std::string attached = file("picture of me.txt", "MARKER-OF-THE-BYTES").string();
     output({"attach", identifier, attached});
-    output(withPassword({"protect", identifier, "--memory", "1"}));
+    protect(identifier);
     const std::string bytes = allBytesIn(store());
     EXPECT_THAT(bytes, Not(HasSubstr("MARKER-OF-THE-BYTES")));
     EXPECT_THAT(bytes, Not(HasSubstr("picture of me")));
@@ -293,6 +299,30 @@ TEST_F(ProtectCommands, EditAProtectedNoteInTheEditorWithoutLeavingItsText)
     EXPECT_EQ(output(withPassword({"show", "Diary"})), "# Diary\n\nNEW-MARKER-OF-THE-TEXT");
     EXPECT_THAT(allBytesIn(store()), Not(HasSubstr("MARKER-OF-THE-TEXT")));
     EXPECT_THAT(allBytesIn(temporary), Not(HasSubstr("MARKER-OF-THE-TEXT")));
+}
+
+TEST_F(ProtectCommands, WriteTheFileAnewWhereClearTextLiesInFreePages)
+{
+    const std::string identifier = note("# Diary\n\nfirst");
+    // As an older program left it, which wiped nothing.
+    damage("PRAGMA secure_delete = 0; CREATE TABLE left_over (text); INSERT INTO left_over VALUES "
+           "('MARKER-OF-FREE-PAGES' || hex(zeroblob(40000))); DROP TABLE left_over");
+    ASSERT_THAT(allBytesIn(store()), HasSubstr("MARKER-OF-FREE-PAGES"));
+    protect(identifier);
+    EXPECT_THAT(allBytesIn(store()), Not(HasSubstr("MARKER-OF-FREE-PAGES")));
+    EXPECT_EQ(output(withPassword({"show", identifier})), "# Diary\n\nfirst");
+    EXPECT_EQ(run({"doctor"}).exitCode, 0);
+}
+
+TEST_F(ProtectCommands, NameAStoreThatWasSetAside)
+{
+    const std::string identifier = note("# Diary\n\nfirst");
+    const std::filesystem::path aside = database().parent_path() / "database_backup 2024-01-31T101500Z.sqlite";
+    std::filesystem::copy_file(database(), aside);
+    const TarnResult result = run(withPassword({"protect", identifier, "--memory", "1"}));
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_THAT(result.errors, HasSubstr(aside.filename().string()));
+    EXPECT_TRUE(std::filesystem::exists(aside));
 }
 
 } // namespace tarn::test

@@ -154,22 +154,36 @@ void TarnProcess::start()
     ::signal(SIGPIPE, SIG_IGN); // a program that does not read its input
 }
 
+/// Up to where the input may be fed.
+std::size_t TarnProcess::feedableBytes(std::size_t fed, const std::string& output)
+{
+    if (!answersQuestions_)
+        return input_.size();
+    if (output.size() == questionAt_ || !output.ends_with(": "))
+        return fed;
+    questionAt_ = output.size();
+    return std::min(input_.find('\n', fed), input_.size() - 1) + 1;
+}
+
 TarnResult TarnProcess::finish()
 {
     if (pid_ < 0)
         start();
     TarnResult result;
     std::size_t fed = 0;
+    std::size_t feedable = 0;
     while (outputPipe_ >= 0 || errorPipe_ >= 0) {
         const bool isFed = fed == input_.size();
+        if (fed == feedable && !isFed)
+            feedable = feedableBytes(fed, result.output);
         if (isFed && !terminal_) // who closes a terminal takes back what was typed
             closeDescriptor(inputPipe_);
-        std::array<pollfd, 3> waiting{
-            pollfd{isFed ? -1 : inputPipe_, POLLOUT, 0}, pollfd{outputPipe_, POLLIN, 0}, pollfd{errorPipe_, POLLIN, 0}};
+        std::array<pollfd, 3> waiting{pollfd{fed == feedable ? -1 : inputPipe_, POLLOUT, 0},
+            pollfd{outputPipe_, POLLIN, 0}, pollfd{errorPipe_, POLLIN, 0}};
         if (::poll(waiting.data(), waiting.size(), -1) < 0)
             continue;
         if (waiting[0].revents != 0) {
-            const ssize_t count = ::write(inputPipe_, input_.data() + fed, input_.size() - fed);
+            const ssize_t count = ::write(inputPipe_, input_.data() + fed, feedable - fed);
             if (count > 0)
                 fed += static_cast<std::size_t>(count);
             else if (errno != EAGAIN && errno != EINTR)

@@ -49,6 +49,8 @@ public:
     void runAsOrdinaryUser() { ordinaryUser_ = true; }
     /// Starts it on a terminal of its own: what is fed is typed, and what it prints, errors as well, is its output.
     void useTerminal() { onTerminal_ = true; }
+    /// The same, and each line of the input is typed when it was asked for: after ": " at the end of the output.
+    void useTerminalAnsweringQuestions() { onTerminal_ = answersQuestions_ = true; }
     /// Standard output goes to this file instead.
     void setOutputFile(const std::filesystem::path& file) { outputFile_ = file; }
 
@@ -65,6 +67,7 @@ public:
 private:
     [[noreturn]] void runInChild(int input, int output, int errors) const;
     void startOnTerminal();
+    std::size_t feedableBytes(std::size_t fed, const std::string& output);
     void waitForEnd(TarnResult& result);
 
     std::vector<std::string> arguments_;
@@ -78,8 +81,10 @@ private:
     bool closed_ = false;
     bool terminal_ = false;
     bool onTerminal_ = false;
+    bool answersQuestions_ = false;
     bool ordinaryUser_ = false;
     std::atomic<pid_t> pid_ = -1;
+    std::size_t questionAt_ = 0; ///< where the output ended that was answered last
     int inputPipe_ = -1;
     int outputPipe_ = -1;
     int errorPipe_ = -1;

@@ -31,6 +31,8 @@ void addCommands(CommandLine& commandLine)
     addFileCommands(commandLine);
     addThumbCommand(commandLine);
     addExportCommand(commandLine);
+    addBackupCommand(commandLine);
+    addRestoreBackupCommand(commandLine);
     addChangesCommand(commandLine);
     addBaselineCommand(commandLine);
     addStatsCommand(commandLine);

@@ -44,6 +44,8 @@ void addFilesCommand(CommandLine& commandLine);
 void addFileCommands(CommandLine& commandLine);
 void addThumbCommand(CommandLine& commandLine);
 void addExportCommand(CommandLine& commandLine);
+void addBackupCommand(CommandLine& commandLine);
+void addRestoreBackupCommand(CommandLine& commandLine);
 void addChangesCommand(CommandLine& commandLine);
 void addBaselineCommand(CommandLine& commandLine);
 void addStatsCommand(CommandLine& commandLine);

@@ -41,12 +41,17 @@ struct EditArguments {
 ExitCode editNote(const Invocation& invocation, const EditArguments& arguments, const EditCommand& edit)
 {
     // Read before the store is locked: whoever writes into the pipe may take their time.
-    const TextArgument text(arguments.text);
+    TextArgument text(arguments.text);
     std::optional<StoreSession> session;
     OVNote* note = nullptr;
     text.saveBy([&] {
         session.emplace(invocation, StoreSession::Access::Write);
-        session->unlock([&] { return std::vector{&arguments.note.one(*session)}; });
+        session->unlock([&] {
+            OVNote& found = arguments.note.one(*session);
+            if (found.hasEncryption())
+                text.setIsForProtectedNote();
+            return std::vector{&found};
+        });
         session->write([&] {
             note = &arguments.note.one(*session);
             requireEditable(*note);

@@ -25,6 +25,7 @@ struct NoteBefore {
     std::string identifier;
     std::string name;
     std::string text;
+    bool isProtected = false;
 };
 
 std::string commandOfEditor()
@@ -42,7 +43,7 @@ NoteBefore readNote(const Invocation& invocation, const NotesToChange& argument)
     OVNote& note = argument.one(session);
     session.unlock([&] { return std::vector{&note}; });
     requireEditable(note);
-    return {note.uniqueIdentifier().value_or(""), nameOfNote(note), note.text().value_or("")};
+    return {note.uniqueIdentifier().value_or(""), nameOfNote(note), note.text().value_or(""), note.encryptedValue()};
 }
 
 OVNote& noteAsItIsNow(const NoteBefore& before, StoreSession& session)
@@ -110,7 +111,8 @@ ExitCode edit(const Invocation& invocation, const EditorArguments& arguments)
     const std::string editor = commandOfEditor();
     const NoteBefore before = readNote(invocation, arguments.note);
     const Interruption interruption;
-    EditorRun run(before.text);
+    EditorRun run(before.text,
+        before.isProtected ? PrivateTextFile::Content::OfProtectedNote : PrivateTextFile::Content::OfOpenNote);
     const std::string edited = run.textFromEditor(editor);
     if (edited == before.text)
         return leaveUnchanged(invocation, before, run);

@@ -10,7 +10,9 @@
 
 namespace tarn {
 
-EditorRun::EditorRun(const std::string& text) : original_(text), file_("tarn-edit-", "note.md", text) { }
+EditorRun::EditorRun(const std::string& text, PrivateTextFile::Content content)
+    : original_(text), file_("tarn-edit-", "note.md", text, content)
+{ }
 
 EditorRun::~EditorRun()
 {

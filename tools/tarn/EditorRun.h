@@ -14,12 +14,12 @@ namespace tarn {
 /// it, is not as it was, it stays, and every failure names it. Everything that fails raises `CommandFailure`. Needs an
 /// `Interruption`.
 ///
-///     EditorRun run(text);
+///     EditorRun run(text, PrivateTextFile::Content::OfOpenNote);
 ///     std::string edited = run.textFromEditor("vim");
 ///     run.saveBy([&] { ... });
 class EditorRun {
 public:
-    explicit EditorRun(const std::string& text);
+    EditorRun(const std::string& text, PrivateTextFile::Content content);
     /// Removes a file that is as it was, and one whose text was saved.
     ~EditorRun();
     EditorRun(const EditorRun&) = delete;

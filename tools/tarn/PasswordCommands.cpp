@@ -167,7 +167,7 @@ ExitCode rotateOne(const Invocation& invocation, const PasswordArguments& argume
     const Interruption interruption;
     const std::size_t count = reencryptAll(session, password);
     if (!invocation.json)
-        tellOnStandardError("encrypted " + numbered(count, "record") + " anew");
+        invocation.output.writeLine("encrypted " + numbered(count, "record") + " anew");
     writePasswords(invocation, {&password});
     return ExitCode::Done;
 }

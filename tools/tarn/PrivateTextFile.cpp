@@ -25,12 +25,20 @@ bool isFileWithText(const fs::directory_entry& entry, std::string_view text)
     return !stream.bad() && contents == text;
 }
 
+fs::path placeFor(PrivateTextFile::Content content)
+{
+    const Environment& environment = Environment::current();
+    const auto inMemory
+        = content == PrivateTextFile::Content::OfProtectedNote ? environment.runtimeDirectory() : std::nullopt;
+    return inMemory.value_or(environment.temporaryDirectory());
+}
+
 } // namespace
 
-PrivateTextFile::PrivateTextFile(std::string_view folderPrefix, std::string_view name, std::string_view text)
+PrivateTextFile::PrivateTextFile(
+    std::string_view folderPrefix, std::string_view name, std::string_view text, Content content)
 {
-    std::string pattern
-        = (Environment::current().temporaryDirectory() / (std::string(folderPrefix) + "XXXXXX")).string();
+    std::string pattern = (placeFor(content) / (std::string(folderPrefix) + "XXXXXX")).string();
     if (!::mkdtemp(pattern.data()))
         throw failureForSystemError("cannot make the folder " + pattern, errno);
     path_ = fs::path(pattern) / name;

@@ -2,6 +2,7 @@
 #include "tools/tarn/CommandLine.h"
 #include "tools/tarn/Commands.h"
 #include "tools/tarn/DisplayText.h"
+#include "tools/tarn/EditableNote.h"
 #include "tools/tarn/NoteJSON.h"
 #include "tools/tarn/NoteList.h"
 #include "tools/tarn/NotesToChange.h"
@@ -74,6 +75,7 @@ ExitCode unprotectNotes(const Invocation& invocation, const NotesToChange& argum
     std::vector<OVNote*> notes;
     session.write([&] {
         notes = arguments.all(session);
+        requireUnlocked(notes);
         for (OVNote* note : notes)
             if (NSError error; !session.protection().manager().removeEncryptionFromObject(*note, &error))
                 throw failureForEncryptionError("cannot take the protection off " + nameOfNote(*note), error);

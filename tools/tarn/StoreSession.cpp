@@ -5,6 +5,8 @@
 #include "tarnmodel/platform/foundation/events/Queue.h"
 #include "tarnmodel/platform/foundation/filesystem/PrivateFolder.h"
 #include "tarnmodel/platform/foundation/system/Environment.h"
+#include "tarnmodel/store/StoreCompaction.h"
+#include "tools/tarn/DisplayText.h"
 #include "tools/tarn/Interruption.h"
 #include "tools/tarn/StoreVersion.h"
 
@@ -52,6 +54,7 @@ StoreSession::StoreSession(const Invocation& invocation, Access access)
     // After programs that died: under the lock of the store, so that no other tarn is at it.
     if (access == Access::Write) {
         OVNoteFile::recoverFilesInManagedObjectContext(*context_);
+        OVNoteFile::removeClearLeftoversInManagedObjectContext(*context_);
         context_->reset();
     }
     protection_ = std::make_unique<Protection>(
@@ -82,6 +85,31 @@ void StoreSession::prepareForWriting()
     if (const std::error_code failure = createPrivateFolder(folder))
         throw failureForSystemError("cannot make the folder " + folder.string(), failure.value());
     takeLock();
+    StoreCompaction::removeLeftovers(database_);
+    compactWhereOwed();
+}
+
+/// What a program began that died, or could not do. It stays owed where it cannot be done now either.
+void StoreSession::compactWhereOwed()
+{
+    if (!StoreCompaction::isOwed(database_))
+        return;
+    NSError error;
+    const auto goesOn = [this](std::chrono::milliseconds waited) { return wait_.goesOn(waited); };
+    if (!StoreCompaction::compact(database_, goesOn, &error))
+        tellOnStandardError("clear text may be left in free pages of " + database_.string()
+            + ", which could not be written anew: " + singleLine(error.localizedDescription())
+            + "; the next command that writes tries again");
+}
+
+void StoreSession::closeAndCompact()
+{
+    changeLog_ = {};
+    protection_.reset();
+    context_.reset();
+    store_ = nullptr;
+    coordinator_.reset();
+    compactWhereOwed();
 }
 
 void StoreSession::takeLock()

@@ -71,6 +71,10 @@ public:
     std::vector<OVNoteFile*> files(const std::optional<NSPredicate>& predicate);
     std::size_t countOfEntity(const NSEntityDescription& entity, const std::optional<NSPredicate>& predicate);
 
+    /// Ends the use of the store, and writes its file anew where that is owed since something was protected; the lock
+    /// is kept. Nothing else may be asked of the session then.
+    void closeAndCompact();
+
     /// What to raise when the store failed: `what` could not be done, or somebody interrupted the wait for it.
     CommandFailure failure(const std::string& what, const NSError& error) const;
     /// Says that a save failed.
@@ -90,6 +94,7 @@ private:
     void refuseOtherVersions() const;
     void open(Access access);
     void takeLock();
+    void compactWhereOwed();
     void withoutLock(const std::function<void()>& work);
     template <typename Record> std::vector<Record*> records(const NSFetchRequest& request);
 

@@ -42,7 +42,7 @@ void TextArgument::throwKept() const
     const CommandFailure failure = failureOfCurrentException();
     std::string place;
     try {
-        place = "the text is in " + PrivateTextFile("tarn-text-", "text.md", text_).path().string();
+        place = "the text is in " + PrivateTextFile("tarn-text-", "text.md", text_, content_).path().string();
     } catch (const CommandFailure& notKept) {
         place = std::string("and the text could not be kept: ") + notKept.what();
     }

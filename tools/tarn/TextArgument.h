@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tools/tarn/PrivateTextFile.h"
+
 #include <functional>
 #include <optional>
 #include <string>
@@ -17,6 +19,8 @@ public:
     explicit TextArgument(const std::optional<std::string>& argument);
 
     const std::string& text() const noexcept { return text_; }
+    /// Says that the text is for a protected note, before it is saved.
+    void setIsForProtectedNote() { content_ = PrivateTextFile::Content::OfProtectedNote; }
     /// Runs what saves the text.
     void saveBy(const std::function<void()>& work) const;
 
@@ -25,6 +29,7 @@ private:
 
     bool isFromInput_;
     std::string text_;
+    PrivateTextFile::Content content_ = PrivateTextFile::Content::OfOpenNote;
 };
 
 } // namespace tarn

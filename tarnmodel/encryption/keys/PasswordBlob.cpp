@@ -149,6 +149,8 @@ std::optional<KeyRing> PasswordBlob::open(
     auto newest = openNewest(derivedKey, recordIdentifier, error);
     if (!newest)
         return std::nullopt;
+    if (!keyForUse(*newest->key, KeyUse::KeyRingSum, error)) // that there is no room is no damage
+        return std::nullopt;
     if (!isVouchedForBy(*newest)) {
         failEncryption(error, OVEncryptionErrorDamaged);
         return std::nullopt;

@@ -43,8 +43,11 @@ bool OVEncryptionCoreManager::isObjectLocked(const OVEncryptableObject& object) 
 NSError OVEncryptionCoreManager::reasonForLock(const OVEncryptableObject& object) const
 {
     NSError reason;
-    if (object.isEncrypted())
-        vault_->open(object, &reason);
+    if (!object.isEncrypted() || vault_->open(object, &reason))
+        return NSError();
+    const OVEncryptingPassword* const password = object.encryptionState().password;
+    if (reason.code() == OVEncryptionErrorLocked && password && hasCachedPassword(*password))
+        failEncryption(&reason, OVEncryptionErrorLocked, "The unlocked password does not have its key; unlock it anew");
     return reason;
 }
 

@@ -81,8 +81,12 @@ std::optional<KeyRing> PasswordChange::run(const DerivedKey* newKey, std::option
                 result = write(newKey, newest, &failure);
             },
             &saving);
-        if (result == Turn::Done && isSaved)
+        if (result == Turn::Done && isSaved && record_.verifier() == written_)
             return std::move(ring_);
+        if (result == Turn::Done && isSaved) { // a merge has put the value of another writer over ours
+            isWritten_ = false;
+            result = Turn::WasChangedElsewhere;
+        }
         restore();
         if (result == Turn::WasChangedElsewhere && isSaved) {
             if (!tryOldPassword(error))
@@ -118,14 +122,14 @@ PasswordChange::Turn PasswordChange::write(
     }
     ring_ = std::move(*ring);
     const DerivedKey& key = newKey ? *newKey : *oldKey_;
-    const auto written = PasswordBlob::write(ring_, key, record_.passwordIdentifier(), error);
-    if (!written)
+    written_ = PasswordBlob::write(ring_, key, record_.passwordIdentifier(), error);
+    if (!written_)
         return Turn::Failed;
     verifierBefore_ = record_.verifier();
     versionBefore_ = record_.verifierVersion();
     hadChanges_ = record_.passwordRecord().hasChanges();
     isWritten_ = true;
-    record_.setVerifier(written);
+    record_.setVerifier(written_);
     record_.setVerifierVersion(passwordBlobVersion);
     if (readBack(key, error))
         return Turn::Done;

@@ -33,6 +33,7 @@ private:
     OVEncryptingPassword& record_;
     const SecretBytes& password_;
     std::optional<DerivedKey> oldKey_;
+    std::optional<NSData> written_;
     std::optional<NSData> verifierBefore_;
     std::int16_t versionBefore_ = 0;
     bool isWritten_ = false;

@@ -51,9 +51,15 @@ std::vector<OVEncryptableNoteFile*> filesOf(OVEncryptableObject& object)
 
 } // namespace
 
-OVEncryptionState Protection::protectedState(const Vault::Record& record, OVEncryptingPassword& password)
+OVEncryptionState Protection::protectedState(const Vault::Record& record) const
 {
-    return {true, record->data(), now(), record->identifier(), &password};
+    return {true, record->data(), now(), record->identifier(), password_};
+}
+
+Protection::Vault::Record Protection::sealed(const ClearFields& fields, RecordKind kind, NSError* error) const
+{
+    auto record = SealedRecord::seal(fields, kind, newUUIDString(), *masterKey_, error);
+    return record ? std::make_shared<const SealedRecord>(std::move(*record)) : nullptr;
 }
 
 bool Protection::isProtectedBy(OVEncryptableObject& object, const OVEncryptingPassword& password, NSError* error) const
@@ -64,12 +70,11 @@ bool Protection::isProtectedBy(OVEncryptableObject& object, const OVEncryptingPa
     return vault_.open(object, error) != nullptr;
 }
 
-bool Protection::takeUnprotected(
-    const std::vector<OVEncryptableNoteFile*>& files, const OVEncryptingPassword& password, NSError* error)
+bool Protection::takeUnprotected(const std::vector<OVEncryptableNoteFile*>& files, NSError* error)
 {
     for (OVEncryptableNoteFile* const file : files) {
         if (file->isEncrypted()) {
-            if (!isProtectedBy(*file, password, error))
+            if (!isProtectedBy(*file, *password_, error))
                 return false;
             continue;
         }
@@ -77,51 +82,8 @@ bool Protection::takeUnprotected(
             return failEncryption(error, OVEncryptionErrorFile, "Attachments cannot be protected here");
         if (!hasBytes(*file, error))
             return false;
-        Step step;
-        step.file = file;
-        step.before = file->encryptionState();
-        step.fields = storedFieldsOf(*file);
-        auto record = SealedRecord::seal(step.fields, RecordKind::Attachment, newUUIDString(), *masterKey_, error);
-        if (!record)
-            return false;
-        step.record = std::make_shared<const SealedRecord>(std::move(*record));
-        steps_.push_back(std::move(step));
+        steps_.push_back({file, file->encryptionState()});
     }
-    return true;
-}
-
-bool Protection::add(OVEncryptableObject& object, OVEncryptingPassword& password, NSError* error)
-{
-    masterKey_ = vault_.newestKeyOf(password, error);
-    password_ = &password;
-    if (!masterKey_ || !takeUnprotected(filesOf(object), password, error))
-        return false;
-    auto* const note = dynamic_cast<OVEncryptableNote*>(&object);
-    Vault::Record record;
-    if (note && note->isEncrypted()) {
-        if (!isProtectedBy(*note, password, error))
-            return false;
-    } else if (note) {
-        ClearFields fields;
-        fields.text = note->storedText();
-        auto sealed = SealedRecord::seal(fields, RecordKind::Note, newUUIDString(), *masterKey_, error);
-        if (!sealed)
-            return false;
-        record = std::make_shared<const SealedRecord>(std::move(*sealed));
-    }
-    const auto prepares = [&](OVEncryptableObject& one) { return one.prepareToAddEncryption(error); };
-    if (!std::ranges::all_of(steps_, [&](const Step& step) { return prepares(*step.file); })
-        || (record && !prepares(*note)) || !inOrder(&Protection::protectFile, &Protection::unprotectFile, error))
-        return false;
-    return !record || protectNote(*note, record);
-}
-
-bool Protection::protectNote(OVEncryptableNote& note, const Vault::Record& record)
-{
-    note.setEncryptionState(protectedState(record, *password_));
-    note.updatePrimitiveText(std::nullopt);
-    note.didAddEncryption();
-    vault_.remember(record);
     return true;
 }
 
@@ -130,27 +92,51 @@ bool Protection::takeProtected(const std::vector<OVEncryptableNoteFile*>& files,
     for (OVEncryptableNoteFile* const file : files) {
         if (!file->isEncrypted())
             continue;
-        Step step;
-        step.file = file;
-        step.before = file->encryptionState();
-        step.record = vault_.open(*file, error);
-        auto fields = step.record ? step.record->fields(error) : std::nullopt;
-        if (!fields || !hasBytes(*file, error))
+        if (!vault_.fields(*file, error) || !hasBytes(*file, error))
             return false;
-        step.fields = std::move(*fields);
-        steps_.push_back(std::move(step));
+        steps_.push_back({file, file->encryptionState()});
     }
+    return true;
+}
+
+bool Protection::add(OVEncryptableObject& object, OVEncryptingPassword& password, NSError* error)
+{
+    masterKey_ = vault_.newestKeyOf(password, error);
+    password_ = &password;
+    auto* const note = dynamic_cast<OVEncryptableNote*>(&object);
+    if (!masterKey_ || !takeUnprotected(filesOf(object), error)
+        || (note && note->isEncrypted() && !isProtectedBy(*note, password, error)))
+        return false;
+    const auto isPrepared = [&](const Step& step) { return step.file->prepareToAddEncryption(error); };
+    if (!std::ranges::all_of(steps_, isPrepared))
+        return false;
+    if (!note || note->isEncrypted())
+        return inOrder(&Protection::protectFile, &Protection::unprotectFile, error);
+    return note->prepareToAddEncryption(error) && protectNote(*note, error);
+}
+
+/// The attachments, and then the note itself, which cannot fail any more once its field is sealed.
+bool Protection::protectNote(OVEncryptableNote& note, NSError* error)
+{
+    ClearFields fields;
+    fields.text = note.storedText();
+    const Vault::Record record = sealed(fields, RecordKind::Note, error);
+    if (!record || !inOrder(&Protection::protectFile, &Protection::unprotectFile, error))
+        return false;
+    note.setEncryptionState(protectedState(record));
+    note.updatePrimitiveText(std::nullopt);
+    note.didAddEncryption();
+    vault_.remember(record);
     return true;
 }
 
 bool Protection::remove(OVEncryptableObject& object, NSError* error)
 {
     auto* const note = dynamic_cast<OVEncryptableNote*>(&object);
-    auto fields = note && note->isEncrypted() ? vault_.fields(*note, error) : std::nullopt;
+    const auto fields = note && note->isEncrypted() ? vault_.fields(*note, error) : std::nullopt;
     if (note && note->isEncrypted() && !fields)
         return false;
-    if (!takeProtected(filesOf(object), error)
-        || !inOrder(&Protection::unprotectFile, &Protection::protectAgain, error))
+    if (!takeProtected(filesOf(object), error) || !inOrder(&Protection::unprotectFile, &Protection::protectFile, error))
         return false;
     if (fields) {
         note->setEncryptionState({});
@@ -161,13 +147,12 @@ bool Protection::remove(OVEncryptableObject& object, NSError* error)
 }
 
 /// Every step, and back again over those that were taken when one fails.
-bool Protection::inOrder(
-    bool (Protection::*go)(Step&, NSError*), bool (Protection::*back)(Step&, NSError*), NSError* error)
+bool Protection::inOrder(Go go, Go back, NSError* error)
 {
-    const auto failed = std::ranges::find_if(steps_, [&](Step& step) { return !(this->*go)(step, error); });
+    const auto failed = std::ranges::find_if(steps_, [&](const Step& step) { return !(this->*go)(step, error); });
     if (failed == steps_.end())
         return true;
-    for (Step& step : std::ranges::subrange(steps_.begin(), failed) | std::views::reverse) {
+    for (const Step& step : std::ranges::subrange(steps_.begin(), failed) | std::views::reverse) {
         NSError failure;
         if (!(this->*back)(step, &failure)) // whole, and readable, but not as it was
             logMessage("The protection of an attachment could not be taken back: " + failure.localizedDescription());
@@ -175,50 +160,49 @@ bool Protection::inOrder(
     return false;
 }
 
-bool Protection::protectFile(Step& step, NSError* error)
+/// The fields of an attachment that is to be protected: as they were when it was, or sealed anew.
+Protection::Vault::Record Protection::recordOfFile(const Step& step, NSError* error) const
+{
+    if (step.before.encrypted)
+        return vault_.open(
+            step.before.encryptedData, step.before.encryptionUniqueIdentifier, RecordKind::Attachment, error);
+    return sealed(storedFieldsOf(*step.file), RecordKind::Attachment, error);
+}
+
+bool Protection::protectFile(const Step& step, NSError* error)
 {
     OVEncryptableNoteFile& file = *step.file;
+    const Vault::Record record = recordOfFile(step, error);
     const auto clear = file.storedFileURL();
-    const bool isExchanged = file.exchangeStoredFile(
-        opaqueFileName(),
-        [&](const fs::path& place, NSError* failure) {
-            return sealItem(*clear, place, step.record->objectKey(), step.record->identifier(), failure);
-        },
-        error);
-    if (!isExchanged)
+    const auto seal = [&](const fs::path& place, NSError* failure) {
+        return sealItem(*clear, place, record->objectKey(), record->identifier(), failure);
+    };
+    if (!record || !file.exchangeStoredFile(opaqueFileName(), seal, error))
         return false;
-    file.setEncryptionState(protectedState(step.record, *password_));
+    file.setEncryptionState(step.before.encrypted ? step.before : protectedState(record));
     storeFieldsBesideName({}, file);
     file.didAddEncryption();
-    vault_.remember(step.record);
+    vault_.remember(record);
     return true;
 }
 
-bool Protection::unprotectFile(Step& step, NSError* error)
+bool Protection::unprotectFile(const Step& step, NSError* error)
 {
     OVEncryptableNoteFile& file = *step.file;
+    const Vault::Record record = vault_.open(file, error);
+    const auto fields = record ? record->fields(error) : std::nullopt;
+    if (!fields)
+        return false;
     const auto sealed = file.storedFileURL();
-    const bool isExchanged = file.exchangeStoredFile(
-        DecryptedCopies::nameForFile(step.fields.filename),
-        [&](const fs::path& place, NSError* failure) {
-            return unsealItem(*sealed, place, step.record->objectKey(), step.record->identifier(), failure);
-        },
-        error);
-    if (!isExchanged)
+    const auto unseal = [&](const fs::path& place, NSError* failure) {
+        return unsealItem(*sealed, place, record->objectKey(), record->identifier(), failure);
+    };
+    if (!file.exchangeStoredFile(DecryptedCopies::nameForFile(fields->filename), unseal, error))
         return false;
     vault_.copies.removeOfSealedFile(*sealed);
-    file.setEncryptionState({});
-    storeFieldsBesideName(step.fields, file);
+    file.setEncryptionState(step.before.encrypted ? OVEncryptionState() : step.before);
+    storeFieldsBesideName(*fields, file);
     file.didRemoveEncryption();
-    return true;
-}
-
-bool Protection::protectAgain(Step& step, NSError* error)
-{
-    password_ = step.before.password;
-    if (!protectFile(step, error))
-        return false;
-    step.file->setEncryptionState(step.before);
     return true;
 }
 

@@ -23,28 +23,29 @@ public:
     bool remove(OVEncryptableObject& object, NSError* error);
 
 private:
+    /// An attachment that has to change. Its key is not kept meanwhile: a note may have more of them than there is room
+    /// for keys.
     struct Step {
         OVEncryptableNoteFile* file = nullptr;
         OVEncryptionState before;
-        Vault::Record record; ///< of the attachment while it is protected
-        ClearFields fields;
     };
+    using Go = bool (Protection::*)(const Step& step, NSError* error);
     bool isProtectedBy(OVEncryptableObject& object, const OVEncryptingPassword& password, NSError* error) const;
-    bool takeUnprotected(
-        const std::vector<OVEncryptableNoteFile*>& files, const OVEncryptingPassword& password, NSError* error);
+    bool takeUnprotected(const std::vector<OVEncryptableNoteFile*>& files, NSError* error);
     bool takeProtected(const std::vector<OVEncryptableNoteFile*>& files, NSError* error);
-    bool inOrder(bool (Protection::*go)(Step&, NSError*), bool (Protection::*back)(Step&, NSError*), NSError* error);
+    bool inOrder(Go go, Go back, NSError* error);
 
-    bool protectFile(Step& step, NSError* error);
-    bool unprotectFile(Step& step, NSError* error);
-    bool protectAgain(Step& step, NSError* error);
-    bool protectNote(OVEncryptableNote& note, const Vault::Record& record);
-    static OVEncryptionState protectedState(const Vault::Record& record, OVEncryptingPassword& password);
+    bool protectFile(const Step& step, NSError* error);
+    bool unprotectFile(const Step& step, NSError* error);
+    Vault::Record recordOfFile(const Step& step, NSError* error) const;
+    bool protectNote(OVEncryptableNote& note, NSError* error);
+    Vault::Record sealed(const ClearFields& fields, RecordKind kind, NSError* error) const;
+    OVEncryptionState protectedState(const Vault::Record& record) const;
 
     Vault& vault_;
-    std::optional<MasterKey> masterKey_;
-    OVEncryptingPassword* password_ = nullptr;
-    std::vector<Step> steps_; ///< one for each attachment that has to change
+    std::optional<MasterKey> masterKey_;       ///< where something is to be protected
+    OVEncryptingPassword* password_ = nullptr; ///< of that key
+    std::vector<Step> steps_;
 };
 
 } // namespace tarn

@@ -26,55 +26,51 @@ UnlockedKeys::UnlockedKeys(std::chrono::seconds timeLimit, Events events)
 
 void UnlockedKeys::unlock(const std::string& password, KeyRing ring)
 {
-    {
-        std::lock_guard lock(mutex_);
-        if (isClosed_)
-            return;
-        std::erase_if(open_, [&](const Ring& open) { return open.password == password; });
-        open_.push_back({password, std::move(ring), now()});
-    }
-    events_.didUnlock();
+    Outcome outcome;
+    outcome.unlocked = true;
+    std::unique_lock lock(mutex_);
+    if (isClosed_)
+        return;
+    std::erase_if(open_, [&](const Ring& open) { return open.password == password; });
+    open_.push_back({password, std::move(ring), now()});
+    tell(std::move(lock), outcome);
 }
 
 void UnlockedKeys::lock(std::string_view password)
 {
     Outcome outcome;
-    {
-        std::lock_guard lock(mutex_);
-        const auto found = std::ranges::find(open_, password, &Ring::password);
-        if (found == open_.end())
-            return;
-        Ring ring = std::move(*found);
-        open_.erase(found);
-        lockRing(std::move(ring), outcome);
-    }
-    tell(outcome);
+    std::unique_lock lock(mutex_);
+    const auto found = std::ranges::find(open_, password, &Ring::password);
+    if (found == open_.end())
+        return;
+    Ring ring = std::move(*found);
+    open_.erase(found);
+    lockRing(std::move(ring), outcome);
+    tell(std::move(lock), outcome);
 }
 
 void UnlockedKeys::lockAll()
 {
     Outcome outcome;
-    {
-        std::lock_guard lock(mutex_);
-        for (Ring& ring : std::exchange(open_, {}))
-            lockRing(std::move(ring), outcome);
-    }
-    tell(outcome);
+    std::unique_lock lock(mutex_);
+    for (Ring& ring : std::exchange(open_, {}))
+        lockRing(std::move(ring), outcome);
+    tell(std::move(lock), outcome);
 }
 
 void UnlockedKeys::close()
 {
     Outcome outcome;
-    {
-        std::lock_guard lock(mutex_);
-        isClosed_ = true;
-        holders_.clear();
-        for (HeldRing& held : std::exchange(held_, {}))
-            outcome.forgotten.push_back(held.ring.password);
-        for (Ring& ring : std::exchange(open_, {}))
-            lockRing(std::move(ring), outcome);
-    }
-    tell(outcome);
+    std::unique_lock lock(mutex_);
+    isClosed_ = true;
+    holders_.clear();
+    for (const HeldRing& held : std::exchange(held_, {}))
+        outcome.forgotten.push_back(held.ring.password);
+    for (Ring& ring : std::exchange(open_, {}))
+        lockRing(std::move(ring), outcome);
+    const auto self = std::this_thread::get_id();
+    toldAll_.wait(lock, [&] { return telling_.size() == telling_.count(self); });
+    tell(std::move(lock), outcome);
 }
 
 void UnlockedKeys::lockRing(Ring ring, Outcome& outcome)
@@ -133,8 +129,7 @@ template <typename Find> auto UnlockedKeys::use(const Find& find)
     const NSDate present = now(); // under the lock, so that two threads do not seem to turn the clock back
     expire(present, outcome);
     auto result = find(present);
-    lock.unlock();
-    tell(outcome);
+    tell(std::move(lock), outcome);
     return result;
 }
 
@@ -146,17 +141,6 @@ std::optional<MasterKey> UnlockedKeys::key(const MasterKeyIdentifier& identifier
             return std::nullopt;
         ring->lastUse = std::max(ring->lastUse, present);
         return *keyIn(ring->keys, identifier);
-    });
-}
-
-std::optional<MasterKey> UnlockedKeys::newestKey(std::string_view password)
-{
-    return use([&](NSDate present) -> std::optional<MasterKey> {
-        Ring* const ring = ringWhere([&](const Ring& one) { return one.password == password; });
-        if (!ring)
-            return std::nullopt;
-        ring->lastUse = std::max(ring->lastUse, present);
-        return ring->keys.front();
     });
 }
 
@@ -183,22 +167,20 @@ std::shared_ptr<void> UnlockedKeys::hold()
 void UnlockedKeys::release(Token token)
 {
     Outcome outcome;
-    {
-        std::lock_guard lock(mutex_);
-        holders_.erase(token);
-        for (std::size_t index = held_.size(); index-- > 0;) {
-            held_[index].holders.erase(token);
-            if (!held_[index].holders.empty())
-                continue;
-            const std::string password = held_[index].ring.password;
-            held_.erase(std::next(held_.begin(), static_cast<std::ptrdiff_t>(index)));
-            const auto isIt = [&](const Ring& ring) { return ring.password == password; };
-            const auto isHeld = [&](const HeldRing& held) { return isIt(held.ring); };
-            if (std::ranges::none_of(open_, isIt) && std::ranges::none_of(held_, isHeld))
-                outcome.forgotten.push_back(password);
-        }
+    std::unique_lock lock(mutex_);
+    holders_.erase(token);
+    for (std::size_t index = held_.size(); index-- > 0;) {
+        held_[index].holders.erase(token);
+        if (!held_[index].holders.empty())
+            continue;
+        const std::string password = held_[index].ring.password;
+        held_.erase(std::next(held_.begin(), static_cast<std::ptrdiff_t>(index)));
+        const auto isIt = [&](const Ring& ring) { return ring.password == password; };
+        const auto isHeld = [&](const HeldRing& held) { return isIt(held.ring); };
+        if (std::ranges::none_of(open_, isIt) && std::ranges::none_of(held_, isHeld))
+            outcome.forgotten.push_back(password);
     }
-    tell(outcome);
+    tell(std::move(lock), outcome);
 }
 
 std::optional<std::chrono::microseconds> UnlockedKeys::lockWhatIsDue()
@@ -215,12 +197,25 @@ std::optional<std::chrono::microseconds> UnlockedKeys::lockWhatIsDue()
     });
 }
 
-void UnlockedKeys::tell(const Outcome& outcome)
+void UnlockedKeys::tell(std::unique_lock<std::mutex> lock, const Outcome& outcome)
 {
+    if (!outcome.unlocked && !outcome.locked && outcome.forgotten.empty())
+        return;
+    const auto alive = weak_from_this().lock(); // also when an observer ends the manager
+    const auto self = telling_.insert(std::this_thread::get_id());
+    lock.unlock();
+    // An observer may throw; whoever waits for the end of this must not wait for ever.
+    const std::shared_ptr<void> end(nullptr, [&](void*) {
+        const std::lock_guard again(mutex_);
+        telling_.erase(self);
+        toldAll_.notify_all();
+    });
     for (const std::string& password : outcome.forgotten)
         events_.didForget(password);
     if (outcome.locked)
         events_.didLock();
+    if (outcome.unlocked)
+        events_.didUnlock();
 }
 
 } // namespace tarn

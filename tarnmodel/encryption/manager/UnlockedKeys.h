@@ -4,6 +4,7 @@
 #include "tarnmodel/platform/foundation/values/NSDate.h"
 
 #include <chrono>
+#include <condition_variable>
 #include <cstdint>
 #include <functional>
 #include <map>
@@ -36,14 +37,12 @@ public:
     void unlock(const std::string& password, KeyRing ring);
     void lock(std::string_view password);
     void lockAll();
-    /// Locks everything, holds or not, and tells nobody who has to do with it any more.
+    /// Locks everything, holds or not. Nobody is told of anything any more once this returns.
     void close();
 
     // Each of these is a use, from which the time limit counts anew.
     /// The key of this name; none while it is locked, or unknown.
     std::optional<MasterKey> key(const MasterKeyIdentifier& identifier);
-    /// The newest key of a password; none while that is locked.
-    std::optional<MasterKey> newestKey(std::string_view password);
     /// Whose key that is.
     std::optional<std::string> passwordOf(const MasterKeyIdentifier& identifier);
 
@@ -66,6 +65,7 @@ private:
         std::set<Token> holders;
     };
     struct Outcome {
+        bool unlocked = false;
         bool locked = false;
         std::vector<std::string> forgotten;
     };
@@ -76,7 +76,7 @@ private:
     void expire(NSDate now, Outcome& outcome);
     void lockRing(Ring ring, Outcome& outcome);
     void release(Token token);
-    void tell(const Outcome& outcome);
+    void tell(std::unique_lock<std::mutex> lock, const Outcome& outcome);
 
     const std::chrono::microseconds timeLimit_;
     const Events events_;
@@ -85,6 +85,8 @@ private:
     std::vector<HeldRing> held_;
     std::map<Token, std::thread::id> holders_;
     Token lastToken_ = 0;
+    std::multiset<std::thread::id> telling_; ///< threads that are in `events_`
+    std::condition_variable toldAll_;
     bool isClosed_ = false;
 };
 

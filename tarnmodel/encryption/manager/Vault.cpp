@@ -72,18 +72,17 @@ std::optional<MasterKey> OVEncryptionCoreManager::Vault::newestKeyOf(
     const OVEncryptingPassword& record, NSError* error) const
 {
     const auto verifier = record.verifier();
-    const auto key = verifier ? keys->newestKey(record.passwordIdentifier()) : std::nullopt;
-    if (!key) {
+    if (!verifier) {
         failEncryption(error, OVEncryptionErrorLocked);
         return std::nullopt;
     }
-    // A key that the record does not keep, because it was set anew elsewhere, would be lost with the next lock.
+    // None but what the record keeps: a key that is not in there would be lost with the next lock.
     const auto blob = PasswordBlob::read(*verifier, error);
     if (!blob)
         return std::nullopt;
-    if (!blob->isVouchedForBy(*key)) {
-        failEncryption(
-            error, OVEncryptionErrorLocked, "The password was changed elsewhere and has to be unlocked anew");
+    auto key = keys->key(blob->newestKey());
+    if (!key || !blob->isVouchedForBy(*key)) {
+        failEncryption(error, OVEncryptionErrorLocked);
         return std::nullopt;
     }
     return key;
@@ -92,9 +91,12 @@ std::optional<MasterKey> OVEncryptionCoreManager::Vault::newestKeyOf(
 OVEncryptionCoreManager::Vault::Record OVEncryptionCoreManager::Vault::open(
     const OVEncryptableObject& object, NSError* error) const
 {
-    const RecordKind kind = kindOf(object);
-    auto data = object.sealedFields();
-    const auto identifier = object.encryptionIdentifier();
+    return open(object.sealedFields(), object.encryptionIdentifier(), kindOf(object), error);
+}
+
+OVEncryptionCoreManager::Vault::Record OVEncryptionCoreManager::Vault::open(
+    std::optional<NSData> data, const std::optional<std::string>& identifier, RecordKind kind, NSError* error) const
+{
     if (!data || !identifier) {
         failEncryption(error, OVEncryptionErrorDamaged, "The encrypted data is not here");
         return nullptr;

@@ -25,12 +25,15 @@ public:
     const std::shared_ptr<UnlockedKeys> keys;
     DecryptedCopies copies;
 
-    /// The newest master key of a password that is unlocked, and that the record keeps for good; none and "locked".
+    /// The master key of an unlocked password that its record names as the newest; none and "locked".
     std::optional<MasterKey> newestKeyOf(const OVEncryptingPassword& record, NSError* error) const;
 
     using Record = VerifiedRecords::Record;
     /// The fields of a protected record, opened; null and why it counts as locked.
     Record open(const OVEncryptableObject& object, NSError* error) const;
+    /// The same of what a record holds, or held.
+    Record open(std::optional<NSData> data, const std::optional<std::string>& identifier, RecordKind kind,
+        NSError* error) const;
     /// The same, decrypted.
     std::optional<ClearFields> fields(const OVEncryptableObject& object, NSError* error) const;
     /// Stores other fields; a record that is locked, or that cannot be made out, is logged and stays as it is.

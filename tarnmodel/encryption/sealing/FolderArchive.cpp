@@ -84,7 +84,7 @@ private:
         if (!S_ISREG(status.st_mode))
             return failFileAccess(error_, EINVAL, item, "read");
         archive_entry_set_size(entry.get(), status.st_size);
-        return writeHeader(entry) && writeBytes(item, static_cast<std::uint64_t>(status.st_size));
+        return writeHeader(entry) && writeBytes(item, status);
     }
 
     bool writeHeader(ArchiveEntry& entry)
@@ -105,8 +105,9 @@ private:
         return writeHeader(entry);
     }
 
-    bool writeBytes(const fs::path& item, std::uint64_t rest)
+    bool writeBytes(const fs::path& item, const struct stat& status)
     {
+        auto rest = static_cast<std::uint64_t>(status.st_size);
         FileDescriptor file;
         if (bytes_ == ArchivedBytes::OfFiles) {
             file.reset(::open(item.c_str(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC));
@@ -126,7 +127,13 @@ private:
                 return failUnlessRefused();
             rest -= some.size();
         }
-        return true;
+        struct stat after = status;
+        if (file && ::fstat(file.get(), &after) != 0)
+            return failFileAccess(error_, errno, item, "read");
+        // The clear folder goes when this is done, so it has to be all of it.
+        const bool isSame = after.st_size == status.st_size && after.st_mtim.tv_sec == status.st_mtim.tv_sec
+            && after.st_mtim.tv_nsec == status.st_mtim.tv_nsec;
+        return isSame || failFileAccess(error_, ESTALE, item, "read");
     }
 
     const fs::path& folder_;

@@ -1,3 +1,4 @@
+#include "tarnmodel/encryption/keys/KeyArena.h"
 #include "tests/encryption/EncryptionFixture.h"
 
 namespace tarn {
@@ -221,6 +222,24 @@ TEST_F(ProtectedRecords, AreNotProtectedWhenOneIsNotPrepared)
     EXPECT_EQ(codeOfProtecting(note, password), 1);
     EXPECT_EQ(note.text, "text");
     EXPECT_EQ(file.filename, "file.txt");
+}
+
+TEST_F(ProtectedRecords, MayHaveMoreAttachmentsThanThereIsRoomForKeys)
+{
+    const KeyArenaOverride arena(std::make_shared<KeyArena>(40 * KeyArena::slotSize));
+    OVPassword& password = passwordOf("secret");
+    PlainNote& note = plainNote("text");
+    for (int number = 0; number < 60; ++number)
+        note.files.push_back(&plainFile("file", std::to_string(number)));
+    protect(note, password);
+    NSError error;
+    EXPECT_TRUE(manager->removeEncryptionFromObject(note, &error)) << error;
+    static_cast<PlainNoteFile*>(note.files.back())->exchangesThatSucceed = 0;
+    EXPECT_FALSE(manager->addEncryptionToObject(note, password, &error));
+    for (OVEncryptableNoteFile* const file : note.files)
+        EXPECT_FALSE(file->isEncrypted());
+    EXPECT_EQ(contentsOf(*note.files[59]->storedFileURL()), "59");
+    manager->lock();
 }
 
 TEST_F(ProtectedRecords, OpenAsDuplicates)

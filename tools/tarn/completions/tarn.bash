@@ -5,7 +5,7 @@ _tarn()
     local commands="import new show append prepend replace edit duplicate merge list search predicate highlight tags tag links backlinks
         unresolved orphans url conflicts conflict trash restore archive unarchive pin unpin readonly editable delete
         protect unprotect passwords password
-        attach files file thumb export changes baseline stats doctor migrate parse"
+        attach files file thumb export backup restore-backup changes baseline stats doctor migrate parse"
     local global="--store --json --password-file --help --version"
     local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} command="" word index
     COMPREPLY=()
@@ -51,6 +51,8 @@ _tarn()
         protect) options="--password --memory --latest" ;;
         unprotect) options="--latest" ;;
         password) options="--hint --memory --new-password-file --yes" ;;
+        backup) options="--yes" ;;
+        restore-backup) options="--verify --salvage" ;;
         changes) options="--since" ;;
         doctor) options="--repair" ;;
         migrate) options="--dry-run" ;;
@@ -58,7 +60,8 @@ _tarn()
     if [[ -z $command || $current == -* ]]; then
         [[ -n $command ]] && options="$options $global"
         mapfile -t COMPREPLY < <(compgen -W "$options" -- "$current")
-    elif [[ $command == import || $command == parse || $command == attach || $command == thumb || $command == export ]]; then
+    elif [[ $command == import || $command == parse || $command == attach || $command == thumb || $command == export
+        || $command == backup || $command == restore-backup ]]; then
         mapfile -t COMPREPLY < <(compgen -f -- "$current")
     fi
 }

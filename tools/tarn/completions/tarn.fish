@@ -1,6 +1,6 @@
 # Completion of tarn for fish.
 
-set -l commands import new show append prepend replace edit duplicate merge list search predicate highlight tags tag links backlinks unresolved orphans url conflicts conflict trash restore archive unarchive pin unpin readonly editable delete protect unprotect passwords password attach files file thumb export changes baseline stats doctor migrate parse
+set -l commands import new show append prepend replace edit duplicate merge list search predicate highlight tags tag links backlinks unresolved orphans url conflicts conflict trash restore archive unarchive pin unpin readonly editable delete protect unprotect passwords password attach files file thumb export backup restore-backup changes baseline stats doctor migrate parse
 
 complete -c tarn -f
 complete -c tarn -l store -r -a '(__fish_complete_directories)' -d 'The folder of the store'
@@ -49,6 +49,8 @@ complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a files -d 'Lis
 complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a file -d 'Rename attachments, and delete unused ones'
 complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a thumb -d 'Make or find a thumbnail of a picture'
 complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a export -d 'Write notes as Markdown files, with their attachments'
+complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a backup -d 'Write the whole store into one file'
+complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a restore-backup -d 'Bring a backup back into the store'
 complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a changes -d 'List what was saved since a token'
 complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a baseline -d 'Fold the change log into one change'
 complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a stats -d 'Count what is in the store'
@@ -56,7 +58,7 @@ complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a doctor -d 'Ex
 complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a migrate -d 'Bring an old store forward to the current version'
 complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a parse -d 'Show what the Markdown parser sees'
 
-complete -c tarn -n '__fish_seen_subcommand_from import parse attach thumb export' -F
+complete -c tarn -n '__fish_seen_subcommand_from import parse attach thumb export backup restore-backup' -F
 complete -c tarn -n '__fish_seen_subcommand_from import' -l tag -x -d 'Add this tag to every note'
 complete -c tarn -n '__fish_seen_subcommand_from import' -l verbose -d 'Name each file that was skipped'
 complete -c tarn -n '__fish_seen_subcommand_from import' -l dry-run -d 'Write nothing'
@@ -74,6 +76,9 @@ complete -c tarn -n '__fish_seen_subcommand_from thumb' -l trim -d 'Cut transpar
 complete -c tarn -n '__fish_seen_subcommand_from thumb' -l background -x -d 'Paint this colour under it'
 complete -c tarn -n '__fish_seen_subcommand_from thumb' -l output -r -F -d 'Write it to this file'
 complete -c tarn -n '__fish_seen_subcommand_from export' -l all -d 'Archived notes and those in the trash as well'
+complete -c tarn -n '__fish_seen_subcommand_from backup' -l yes -d 'Replace a file without asking'
+complete -c tarn -n '__fish_seen_subcommand_from restore-backup' -l verify -d 'Only examine the backup'
+complete -c tarn -n '__fish_seen_subcommand_from restore-backup' -l salvage -d 'Restore what is whole of a damaged one'
 complete -c tarn -n '__fish_seen_subcommand_from list' -l filter -x -a 'active trashed archived pinned conflicted encrypted all' -d 'Which notes'
 complete -c tarn -n '__fish_seen_subcommand_from list' -l tag -x -d 'Only notes with this tag'
 complete -c tarn -n '__fish_seen_subcommand_from list search' -l limit -x -d 'At most so many notes'
