@@ -26,7 +26,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int kOldNotes = 12;
+constexpr int kNotesOfOldStore = 12;
 
 std::shared_ptr<const NSManagedObjectModel> modelOfVersion(std::string_view version)
 {
@@ -46,7 +46,7 @@ void makeOldStore()
         error);
     NSManagedObjectContext context(NSManagedObjectContext::ConcurrencyType::MainQueue);
     context.setPersistentStoreCoordinator(coordinator);
-    for (int number = 0; number < kOldNotes; ++number) {
+    for (int number = 0; number < kNotesOfOldStore; ++number) {
         NSManagedObject& note = context.insertObject("OVNote");
         const std::string title = "Note " + std::to_string(number);
         note.setValueForKey("uniqueIdentifier", Value("NOTE-" + std::to_string(number)));

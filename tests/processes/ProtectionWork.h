@@ -1,39 +1,18 @@
 #pragma once
 
-#include <compare>
-#include <map>
 #include <span>
-#include <string>
 #include <string_view>
 
 namespace tarn {
 
-/// What is to be known of one note of the play, whose title is "Note <number>".
-struct PlayedNote {
-    int revision = 0;
-    bool isProtected = false;
-    std::string filename; ///< of its one attachment; empty for none
-    int fileRevision = 0;
+/// What people write into a note that is protected: each of them is in its text, in the name of its attachment or in
+/// the bytes of that, before or after a work.
+std::span<const std::string_view> protectedMarkers();
+/// What a worker may do with a note that is protected, each in one save: "edit", "rename", "bytes" and so on.
+std::span<const std::string_view> protectedWorks();
 
-    friend auto operator<=>(const PlayedNote&, const PlayedNote&) = default;
-};
-
-/// All notes by their numbers.
-using PlayedStore = std::map<int, PlayedNote>;
-
-/// The text of a note: its markers are found nowhere else.
-std::string textOfPlayedNote(int number, const PlayedNote& note);
-/// The bytes of its attachment.
-std::string bytesOfPlayedFile(int number, const PlayedNote& note);
-/// What every text of this note, and every attachment of it, begins its markers with.
-std::string markerOfPlayedNote(int number);
-/// One line a note.
-std::string describe(const PlayedStore& store);
-
-/// protection ROOT PASSWORDS WORK: opens the store as an application does and does that work in one save. PASSWORDS
-/// are separated by commas; the first that opens is used. WORK is a word and numbers: "make", "show", "protect 1",
-/// "unprotect 1", "edit 1 REVISION", "duplicate 1 NEW-NUMBER", "attach 1 REVISION", "rename 1 REVISION",
-/// "bytes 1 REVISION", "delete 1", "change NEW-PASSWORD", "rotate".
+/// protection FOLDER WORK: opens the store as an application does and does that work. "make" makes a store with a
+/// protected note, "owe" one whose file is to be written anew, "open" only opens it and tells what notes it has.
 void workWithProtection(std::span<const std::string_view> arguments);
 
 } // namespace tarn

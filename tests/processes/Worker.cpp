@@ -7,7 +7,7 @@
 #include "tests/processes/KnownWorld.h"
 #include "tests/processes/MigrationWork.h"
 #include "tests/processes/ProtectionWork.h"
-#include "tests/processes/SecretWork.h"
+#include "tests/processes/RoundsOfProtection.h"
 #include "tests/processes/SharedStore.h"
 #include "tests/processes/Workload.h"
 #include "tests/support/FaultyDisk.h"
@@ -82,8 +82,8 @@ constexpr std::array kParts{
     Part{"append", 2, append},
     Part{"attachments", 2, workWithAttachments},
     Part{"migration", 2, workOnMigration},
-    Part{"protection", 3, workWithProtection},
-    Part{"secret", 2, workWithSecret},
+    Part{"protection", 2, workWithProtection},
+    Part{"round", 3, playRoundOfProtection},
 };
 
 } // namespace
