@@ -261,5 +261,45 @@ TEST_P(ProtectedNotes, GiveTheirPasswordToNewAttachments)
     EXPECT_EQ(filesWith("marker"), std::vector<std::string>());
 }
 
+TEST_P(ProtectedNotes, ComeBackFromTheDictionariesOfTheirAttachmentsLockedOrNot)
+{
+    OVPassword& password = passwordOf("secret");
+    OVNote& trip = note("# Trip\n\n[list](list.txt)\n");
+    OVNoteFile& file = attach(trip, "list.txt", "the bytes");
+    file.setSearchText("recognised");
+    protect(trip, password);
+    const auto json = file.jsonRepresentation();
+    const auto sealed = file.sealedFields();
+    for (const bool isLocked : {false, true}) {
+        if (isLocked)
+            manager->lock();
+        OVNoteFile* restored = OVNoteFile::noteFileFromJsonRepresentation(json, context());
+        ASSERT_NE(restored, nullptr);
+        EXPECT_EQ(restored->sealedFields(), sealed);
+        EXPECT_EQ(restored->password(), &password);
+        EXPECT_EQ(restored->storedFilename(), std::nullopt) << "the clear name is in the encrypted data alone";
+        EXPECT_EQ(restored->storedSearchText(), std::nullopt);
+        EXPECT_EQ(manager->isObjectLocked(*restored), isLocked);
+        ASSERT_TRUE(manager->unlock(password, "secret", nullptr));
+        EXPECT_EQ(restored->filename(), "list.txt");
+        EXPECT_EQ(restored->searchText(), "recognised");
+        context().deleteObject(*restored);
+    }
+}
+
+TEST_P(ProtectedNotes, CountAsLockedWhenTheirEncryptedDataIsGone)
+{
+    OVPassword& password = passwordOf("secret");
+    OVNote& trip = note("# Trip\n\n[list](list.txt)\n");
+    OVNoteFile& file = attach(trip, "list.txt", "the bytes");
+    protect(trip, password);
+    ASSERT_TRUE(context().save(nullptr));
+    trip.setEncryptedData(std::nullopt);
+    file.setEncryptedData(std::nullopt);
+    EXPECT_TRUE(manager->isObjectLocked(trip));
+    EXPECT_TRUE(manager->isObjectLocked(file));
+    EXPECT_THROW(file.setFilename("other.txt"), NSException);
+}
+
 } // namespace
 } // namespace tarn

@@ -41,7 +41,7 @@ bool OVEncryptionCoreManager::areKeysLockedInMemory() const noexcept
 
 bool OVEncryptionCoreManager::isObjectLocked(const OVEncryptableObject& object) const
 {
-    return object.isEncrypted() && !vault_->open(object, nullptr);
+    return object.isEncrypted() && !isYetToBeFilled(object) && !vault_->open(object, nullptr);
 }
 
 NSError OVEncryptionCoreManager::reasonForLock(const OVEncryptableObject& object) const

@@ -1,6 +1,7 @@
 #include "tarnmodel/encryption/manager/Vault.h"
 
 #include "tarnmodel/encryption/keys/EncryptionErrors.h"
+#include "tarnmodel/platform/coredata/NSManagedObject.h"
 #include "tarnmodel/platform/foundation/events/NSNotificationCenter.h"
 #include "tarnmodel/platform/foundation/events/Queue.h"
 #include "tarnmodel/platform/foundation/system/Log.h"
@@ -26,6 +27,12 @@ void post(std::string_view name, const void* manager)
 RecordKind kindOf(const OVEncryptableObject& object)
 {
     return dynamic_cast<const OVEncryptableNote*>(&object) ? RecordKind::Note : RecordKind::Attachment;
+}
+
+bool isYetToBeFilled(const OVEncryptableObject& object)
+{
+    return kindOf(object) == RecordKind::Attachment && !object.sealedFields()
+        && object.encryptableRecord().isInserted();
 }
 
 std::string opaqueFileName()
@@ -133,6 +140,8 @@ std::optional<ClearFields> OVEncryptionCoreManager::Vault::fields(
 void OVEncryptionCoreManager::Vault::change(
     OVEncryptableObject& object, const std::function<void(ClearFields&)>& change)
 {
+    if (isYetToBeFilled(object))
+        return;
     NSError failure;
     const Record record = open(object, &failure);
     auto clear = record ? record->fields(&failure) : std::nullopt;

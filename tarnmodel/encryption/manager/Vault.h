@@ -47,6 +47,9 @@ private:
     IdleWatch watch_; ///< last: it ends before what it uses
 };
 
+/// Whether it is an attachment in the making, as from a dictionary: its flag is set before its encrypted fields, and in
+/// between there is nothing to unlock. What is set meanwhile need not be stored: it comes again, encrypted.
+bool isYetToBeFilled(const OVEncryptableObject& object);
 /// What a record is to the formats of the kit.
 RecordKind kindOf(const OVEncryptableObject& object);
 /// A name for a sealed file, which tells nothing.
