@@ -21,6 +21,7 @@ struct FreeEntry {
 
 constexpr int kOwnerOnly = 0600;
 constexpr int kOwnersFolder = 0700;
+constexpr std::uint64_t kMostToFillUp = std::uint64_t{64} << 20;
 
 } // namespace
 
@@ -40,21 +41,25 @@ ArchiveWriter::ArchiveWriter(int descriptor, std::filesystem::path file, NSDate 
 
 ArchiveWriter::~ArchiveWriter()
 {
-    // Freeing ends an archive that is not ended yet, and nobody is to write then.
-    if (tar_)
+    // Freeing ends an archive that is not ended yet, and nobody is to write then. The library lets go of all it has
+    // only where it may end the archive, which means to fill up the member that is begun: not with gigabytes.
+    isGivenUp_ = true;
+    if (tar_ && bytesLeft_ > kMostToFillUp)
         archive_write_fail(tar_);
     archive_write_free(tar_);
 }
 
-std::ptrdiff_t ArchiveWriter::takeBytes(archive* tar, void* writer, const void* bytes, std::size_t length)
+/// Failures are told by `check`: the library would not let go of all it has after one.
+std::ptrdiff_t ArchiveWriter::takeBytes(archive*, void* writer, const void* bytes, std::size_t length)
 {
     auto& self = *static_cast<ArchiveWriter*>(writer);
     const std::span piece(static_cast<const std::byte*>(bytes), length);
-    if (!self.writeAll(piece)) {
-        archive_set_error(tar, errno, "written");
-        return -1;
+    if (self.failure_ == 0 && !self.isGivenUp_) {
+        if (self.writeAll(piece))
+            self.hash_.add(piece);
+        else
+            self.failure_ = errno > 0 ? errno : EIO;
     }
-    self.hash_.add(piece);
     return static_cast<std::ptrdiff_t>(length);
 }
 
@@ -73,9 +78,9 @@ bool ArchiveWriter::writeAll(std::span<const std::byte> bytes)
 
 void ArchiveWriter::check(int result)
 {
-    if (result >= ARCHIVE_WARN)
+    if (result >= ARCHIVE_WARN && failure_ == 0)
         return;
-    errno = archive_errno(tar_);
+    errno = failure_ != 0 ? failure_ : archive_errno(tar_);
     if (errno <= 0)
         errno = EIO;
     failWithSystem(file_, "written");
@@ -92,11 +97,13 @@ void ArchiveWriter::addMember(
     archive_entry_set_size(entry.get(), static_cast<la_int64_t>(size));
     archive_entry_set_mtime(entry.get(), static_cast<time_t>(date_.microsecondsSince1970() / 1'000'000), 0);
     check(archive_write_header(tar_, entry.get()));
+    bytesLeft_ = size;
     std::uint64_t total = 0;
     write([&](std::span<const std::byte> bytes) {
         total += bytes.size();
         if (total > size)
             return;
+        bytesLeft_ -= bytes.size();
         const auto taken = archive_write_data(tar_, bytes.data(), bytes.size());
         check(taken < 0 ? ARCHIVE_FATAL : ARCHIVE_OK);
     });

@@ -46,6 +46,9 @@ private:
     std::filesystem::path file_;
     NSDate date_;
     archive* tar_;
+    int failure_ = 0;             ///< the system's number for what could not be written; nothing more is written then
+    bool isGivenUp_ = false;      ///< nothing more is written
+    std::uint64_t bytesLeft_ = 0; ///< of the member that is being added
     BackupHash hash_;
 };
 

@@ -21,7 +21,7 @@ std::string base64String(std::span<const std::byte> bytes)
 
 std::optional<NSData> dataFromBase64String(std::string_view text)
 {
-    std::vector<std::byte> bytes(text.size() / 4 * 3);
+    std::vector<std::byte> bytes(text.size() / 4 * 3 + 1); // the library wants room also for nothing
     std::size_t length = 0;
     const char* end = nullptr;
     if (sodium_base642bin(reinterpret_cast<unsigned char*>(bytes.data()), bytes.size(), text.data(), text.size(),
