@@ -97,6 +97,10 @@ public:
     static OVEncryptionCoreManagerProtocol* managerGuarding(const OVEncryptableObject& object, bool isEncrypted);
     /// Whether a file is a decrypted copy that a manager made: nothing made of it is to be kept on disk. Any thread.
     static bool isDecryptedFile(const std::filesystem::path& file);
+    /// Calls `use` with a folder for clear bytes of about that length: in memory where there is room, and removed
+    /// behind it. False and an error when there can be none, or `use` says so.
+    static bool performWithScratchFolder(std::uint64_t length,
+        const std::function<bool(const std::filesystem::path& folder, NSError* error)>& use, NSError* error);
     /// Removes the decrypted copies that processes left which died. Managers do so when they begin.
     static void removeAbandonedDecryptedFiles();
 
@@ -145,6 +149,8 @@ public:
     // Protection -----------------------------------------------------------------------------------------------------
     // Of a note together with its attachments. Not saved. False and an error when it stays as it was, whole.
     bool addEncryptionToObject(OVEncryptableObject& object, OVEncryptingPassword& record, NSError* error) override;
+    bool addEncryptionToNewFile(OVEncryptableNoteFile& file, const std::filesystem::path& contents,
+        OVEncryptingPassword& record, NSError* error) override;
     bool removeEncryptionFromObject(OVEncryptableObject& object, NSError* error);
     /// Whether it is protected under another key than the newest of its password. False while that is locked.
     bool isReencryptionNeeded(const OVEncryptableObject& object) const;

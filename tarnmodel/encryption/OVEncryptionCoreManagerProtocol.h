@@ -24,6 +24,11 @@ public:
     virtual bool isObjectLocked(const OVEncryptableObject& object) const = 0;
     /// Protects a record with a password. False and an error when it stays as it was.
     virtual bool addEncryptionToObject(OVEncryptableObject& object, OVEncryptingPassword& password, NSError* error) = 0;
+    /// Protects a new attachment whose bytes lie elsewhere, in a file that stays: only encrypted ones come into its
+    /// folder. False and an error when it stays as it was. What a manager of one's own does not override copies the
+    /// file first, and protects it then.
+    virtual bool addEncryptionToNewFile(OVEncryptableNoteFile& file, const std::filesystem::path& contents,
+        OVEncryptingPassword& password, NSError* error);
     /// Whether the clear password is at hand without asking anybody.
     virtual bool hasCachedPassword(const OVEncryptingPassword& password) const = 0;
     /// Keeps what is unlocked readable for the calling thread until the token goes, whatever is locked meanwhile: for

@@ -103,6 +103,8 @@ OVNoteFile* OVNoteFile::getOrCreateFileFromURL(const FileURL& url, OVNote& note,
         safeFilenameForFilename(name, note, match, [&] { return NSFileWrapper::withURL(url.path); }));
     if (match)
         return match->revived(error);
+    if (note.encryptedValue())
+        return sealedFromURL(url, safeName, note, error);
     OVNoteFile* const file = factoryNoteFileForFileURL(url, note.managedObjectContext(), error);
     if (!file)
         return nullptr;
@@ -123,11 +125,13 @@ OVNoteFile* OVNoteFile::getOrCreateFileFromFileWrapper(const NSFileWrapper& file
         safeFilenameForFilename(given.filename().string(), note, match, [&] { return fileWrapper; }));
     if (match)
         return match->revived(error);
+    if (note.encryptedValue())
+        return sealedFromFileWrapper(fileWrapper, name, note, error);
     OVNoteFile* file = nullptr;
     const fs::path scratch = OVLocalFileManager::temporaryUniqueDirectoryURL() / name;
     if (fileWrapper.writeToURL(scratch, error))
         file = factoryNoteFileForFileURL(scratch, note.managedObjectContext(), error);
-    // Nobody else knows of it, and what is to be protected must not stay readable.
+    // Nobody else knows of it.
     NSFileManager::removeItemAtURL(scratch.parent_path());
     return file ? file->attachedTo(note, error) : nullptr;
 }
@@ -155,6 +159,61 @@ void OVNoteFile::takeBack()
 {
     UnsavedFileChanges::ofRecord(*this).takeBack(RecordFolder::ofRecord(*this));
     managedObjectContext().deleteObject(*this);
+}
+
+// Attachments of a protected note: of these, clear bytes never come into the store's folders
+// ----------------------------
+
+/// What is known of a file that stays where it is.
+void OVNoteFile::describeFile(const FileURL& url, const std::string& name)
+{
+    setFilename(name);
+    updateNormalizedExtension();
+    setDownloadedValue(true);
+    setInUse();
+    const auto attributes = NSFileManager::attributesOfItemAtURL(url.path);
+    setFileSize(attributes ? sizeOfItem(url.path).value_or(attributes->size) : 0);
+    setModificationDate(attributes ? std::optional(attributes->modificationDate) : std::nullopt);
+    setCreationDate(attributes ? attributes->creationDate : std::nullopt);
+}
+
+OVNoteFile* OVNoteFile::sealedFromURL(const FileURL& url, const std::string& name, OVNote& note, NSError* error)
+{
+    OVEncryptionCoreManagerProtocol* const manager = note.encryptionCoreManager();
+    OVPassword* const password = note.password();
+    if (!manager || !password) {
+        assignError(
+            error, NSError(TarnEncryptionErrorDomain, OVEncryptionErrorLocked, "The note's password is not here"));
+        return nullptr;
+    }
+    OVNoteFile* file = nullptr;
+    for (const Kind& kind : concreteSubclasses())
+        if (!file && kind.canImportFileURL(url))
+            file = kind.recordForFileURL(url, note.managedObjectContext(), error);
+    if (!file)
+        return nullptr;
+    file->describeFile(url, name);
+    file->setNote(&note);
+    if (manager->addEncryptionToNewFile(*file, url.path, *password, error))
+        return file;
+    file->takeBack();
+    return nullptr;
+}
+
+OVNoteFile* OVNoteFile::sealedFromFileWrapper(
+    const NSFileWrapper& fileWrapper, const std::string& name, OVNote& note, NSError* error)
+{
+    OVNoteFile* file = nullptr;
+    const NSData* const bytes = fileWrapper.regularFileContents();
+    OVEncryptionCoreManager::performWithScratchFolder(
+        bytes ? bytes->length() : 0,
+        [&](const fs::path& folder, NSError* failure) {
+            if (fileWrapper.writeToURL(folder / name, failure))
+                file = sealedFromURL(folder / name, name, note, failure);
+            return file != nullptr;
+        },
+        error);
+    return file;
 }
 
 /// Gives a file that was just taken in another name, the record's included.

@@ -12,9 +12,10 @@ namespace {
 
 /// In the order in which they are asked: a picture that cannot be opened is still a file.
 constexpr std::array kKinds{
-    OVNoteFile::Kind{OVNoteImage::entityName(), OVNoteImage::canImportFileURL, OVNoteImage::noteFileForFileURL},
-    OVNoteFile::Kind{
-        OVNoteGenericFile::entityName(), OVNoteGenericFile::canImportFileURL, OVNoteGenericFile::noteFileForFileURL},
+    OVNoteFile::Kind{OVNoteImage::entityName(), OVNoteImage::canImportFileURL, OVNoteImage::noteFileForFileURL,
+        OVNoteImage::recordForFileURL},
+    OVNoteFile::Kind{OVNoteGenericFile::entityName(), OVNoteGenericFile::canImportFileURL,
+        OVNoteGenericFile::noteFileForFileURL, OVNoteGenericFile::recordForFileURL},
 };
 
 } // namespace

@@ -14,6 +14,11 @@ OVNoteFile* OVNoteGenericFile::noteFileForFileURL(const FileURL& url, NSManagedO
     return insertInManagedObjectContext(context)->takeFile(url, error);
 }
 
+OVNoteFile* OVNoteGenericFile::recordForFileURL(const FileURL&, NSManagedObjectContext& context, NSError*)
+{
+    return insertInManagedObjectContext(context);
+}
+
 std::string OVNoteGenericFile::localFolderName() const
 {
     return OVNoteFile::localFolderName() + "/" + std::string(OVNoteGenericFileDirectoryName);

@@ -25,17 +25,29 @@ bool OVNoteImage::canImportFileURL(const FileURL& url)
     return type && type->conformsToImage() && !type->conformsToSVG();
 }
 
-OVNoteFile* OVNoteImage::noteFileForFileURL(const FileURL& url, NSManagedObjectContext& context, NSError* error)
+OVNoteFile* OVNoteImage::recordForFileURL(const FileURL& url, NSManagedObjectContext& context, NSError* error)
 {
     // What its header says it is, and within what a thumbnail can be made of; decoded it is only when it is shown.
     const auto header = readImageHeader(url.path, error);
     if (!header || !imageIsWithinLimits(*header, ImageLimits::current(), error))
         return nullptr;
     OVNoteImage* const image = insertInManagedObjectContext(context);
-    if (!image->takeFile(url, error))
-        return nullptr;
     image->setWidthValue(header->uprightWidth());
     image->setHeightValue(header->uprightHeight());
+    return image;
+}
+
+OVNoteFile* OVNoteImage::noteFileForFileURL(const FileURL& url, NSManagedObjectContext& context, NSError* error)
+{
+    auto* const image = static_cast<OVNoteImage*>(recordForFileURL(url, context, error));
+    if (!image)
+        return nullptr;
+    const std::int64_t width = image->widthValue();
+    const std::int64_t height = image->heightValue();
+    if (!image->takeFile(url, error))
+        return nullptr;
+    image->setWidthValue(width);
+    image->setHeightValue(height);
     return image;
 }
 

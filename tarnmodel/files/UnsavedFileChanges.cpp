@@ -167,9 +167,11 @@ bool UnsavedFileChanges::exchangeFile(
     FileJournal* const noted = journal(error);
     // The name of one that was never saved is nobody's business: it may be what is to be protected.
     const bool wasMade = wasMadeHere(origin, folder);
+    const bool isNameless = wasMade || !NSFileManager::fileExistsAtURL(origin);
     const std::string noName;
     if (!noted || !clearNameOfFormer(folder, place, error)
-        || !noted->noteExchange(folder, wasMade ? noName : origin.filename().string(), place.filename().string(), error)
+        || !noted->noteExchange(
+            folder, isNameless ? noName : origin.filename().string(), place.filename().string(), error)
         || (isNew && !noted->noteNew(folder, error))
         || !manager->getOrCreateFolderForUniqueID(folder.identifier, error))
         return false;

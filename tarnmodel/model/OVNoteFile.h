@@ -38,6 +38,8 @@ public:
         bool (*canImportFileURL)(const FileURL& url); ///< its operation of that name
         /// Its operation of that name.
         OVNoteFile* (*noteFileForFileURL)(const FileURL& url, NSManagedObjectContext& context, NSError* error);
+        /// The same record without the bytes, which come in another way.
+        OVNoteFile* (*recordForFileURL)(const FileURL& url, NSManagedObjectContext& context, NSError* error);
     };
     /// `OVNoteImage` and `OVNoteGenericFile`: the first one that can import a file does.
     static std::span<const Kind> concreteSubclasses() noexcept;
@@ -243,6 +245,10 @@ protected:
 
 private:
     void renameTaken(const std::string& name);
+    static OVNoteFile* sealedFromURL(const FileURL& url, const std::string& name, OVNote& note, NSError* error);
+    static OVNoteFile* sealedFromFileWrapper(
+        const NSFileWrapper& fileWrapper, const std::string& name, OVNote& note, NSError* error);
+    void describeFile(const FileURL& url, const std::string& name);
     OVNoteFile* revived(NSError* error);
     OVNoteFile* attachedTo(OVNote& note, NSError* error);
     void giveStoredFileItsDate() const;

@@ -20,6 +20,8 @@ public:
     /// A new attachment with a copy of the file, of no note yet. Null and an error when it cannot be copied.
     static OVNoteFile* noteFileForFileURL(
         const FileURL& url, NSManagedObjectContext& context, NSError* error = nullptr);
+    /// The same without a copy of the file: its bytes come in another way.
+    static OVNoteFile* recordForFileURL(const FileURL& url, NSManagedObjectContext& context, NSError* error = nullptr);
 
     std::string localFolderName() const override;
     std::map<std::string, Value> additionalFileData() const override;

@@ -21,6 +21,8 @@ public:
     /// is larger than `ImageLimits` lets be decoded, or cannot be copied.
     static OVNoteFile* noteFileForFileURL(
         const FileURL& url, NSManagedObjectContext& context, NSError* error = nullptr);
+    /// The same without a copy of the file: its bytes come in another way.
+    static OVNoteFile* recordForFileURL(const FileURL& url, NSManagedObjectContext& context, NSError* error = nullptr);
     /// Width and height of a picture as it is looked at, upright, in pixels.
     struct Size {
         double width = 0;  ///< pixels

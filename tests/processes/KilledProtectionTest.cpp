@@ -96,11 +96,8 @@ TEST_P(KilledWorkOnAProtectedNote, LeavesNothingInClear)
                 = runProtection(folder, GetParam(), fmt::format("inject={}:signal=KILL:when={}", call, time));
             SCOPED_TRACE(fmt::format("{} number {}: {}", call, time, result.output));
             const fs::path root = folder.file().parent_path();
-            // Decrypted copies lie in memory, and go when the next manager begins. What is to be attached comes in
-            // clear and is sealed then; before the record is saved, the next start removes it.
-            if (GetParam() != "attach") {
-                EXPECT_THAT(filesWithMarkers(root, root / "Run"), IsEmpty());
-            }
+            // Decrypted copies lie in memory, and go when the next manager begins.
+            EXPECT_THAT(filesWithMarkers(root, root / "Run"), IsEmpty());
             if (result.signal == 0) {
                 EXPECT_EQ(result.exitCode, 0);
                 EXPECT_THAT(filesWithMarkers(root), IsEmpty());

@@ -213,7 +213,7 @@ TEST_F(RoundsOfProtection, LosesNothingAndLeavesNothingReadable)
         const bool isDone = result.signal == 0;
         deaths += !isDone;
         ASSERT_TRUE(!isDone || result.exitCode == 0) << when << "\n" << result.output;
-        if (round.isOnProtected && !round.work.starts_with("unprotect") && !round.work.starts_with("attach"))
+        if (round.isOnProtected && !round.work.starts_with("unprotect"))
             // What was decrypted to be looked at lies in memory until the next start.
             expectNoClearText(store_, {"Data", "Cache"}, "right after " + when);
         takeOver(round, isDone, when);

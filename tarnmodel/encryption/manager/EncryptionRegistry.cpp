@@ -2,6 +2,7 @@
 
 #include "tarnmodel/encryption/OVEncryptionCoreManager.h"
 #include "tarnmodel/platform/coredata/NSManagedObjectContext.h"
+#include "tarnmodel/platform/foundation/filesystem/NSFileManager.h"
 #include "tarnmodel/platform/foundation/values/NSException.h"
 
 #include <atomic>
@@ -82,6 +83,16 @@ std::optional<std::string> OVEncryptionCoreManagerProtocol::searchTextForNoteFil
 void OVEncryptionCoreManagerProtocol::setSearchText(std::optional<std::string_view> text, OVEncryptableNoteFile& file)
 {
     file.updatePrimitiveSearchText(text);
+}
+
+bool OVEncryptionCoreManagerProtocol::addEncryptionToNewFile(
+    OVEncryptableNoteFile& file, const std::filesystem::path& contents, OVEncryptingPassword& password, NSError* error)
+{
+    const auto copy = [&](const std::filesystem::path& place, NSError* failure) {
+        return NSFileManager::copyItemAtURL(contents, place, failure);
+    };
+    return file.exchangeStoredFile(file.storedFilename().value_or(""), copy, error)
+        && addEncryptionToObject(file, password, error);
 }
 
 bool OVEncryptionCoreManagerProtocol::setContents(

@@ -11,6 +11,12 @@ bool OVEncryptionCoreManager::addEncryptionToObject(
     return Protection(*vault_).add(object, record, error);
 }
 
+bool OVEncryptionCoreManager::addEncryptionToNewFile(
+    OVEncryptableNoteFile& file, const std::filesystem::path& contents, OVEncryptingPassword& record, NSError* error)
+{
+    return Protection(*vault_).addNewFile(file, contents, record, error);
+}
+
 bool OVEncryptionCoreManager::removeEncryptionFromObject(OVEncryptableObject& object, NSError* error)
 {
     return Protection(*vault_).remove(object, error);

@@ -3,6 +3,7 @@
 #include "tarnmodel/encryption/keys/EncryptionErrors.h"
 #include "tarnmodel/encryption/manager/EncryptionRegistry.h"
 #include "tarnmodel/encryption/manager/Vault.h"
+#include "tarnmodel/platform/foundation/filesystem/NSFileManager.h"
 #include "tarnmodel/platform/foundation/system/Environment.h"
 
 namespace tarn {
@@ -25,6 +26,18 @@ OVEncryptionCoreManager::~OVEncryptionCoreManager()
 bool OVEncryptionCoreManager::isDecryptedFile(const std::filesystem::path& file)
 {
     return DecryptedCopies::hold(file);
+}
+
+bool OVEncryptionCoreManager::performWithScratchFolder(
+    std::uint64_t length, const std::function<bool(const std::filesystem::path&, NSError*)>& use, NSError* error)
+{
+    DecryptedCopies copies({});
+    return copies.withScratchPlace(
+        length,
+        [&](const std::filesystem::path& place, NSError* failure) {
+            return NSFileManager::createDirectoryAtURL(place, failure) && use(place, failure);
+        },
+        error);
 }
 
 void OVEncryptionCoreManager::removeAbandonedDecryptedFiles()

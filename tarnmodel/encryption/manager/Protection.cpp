@@ -169,13 +169,26 @@ Protection::Vault::Record Protection::recordOfFile(const Step& step, NSError* er
     return sealed(storedFieldsOf(*step.file), RecordKind::Attachment, error);
 }
 
+bool Protection::addNewFile(
+    OVEncryptableNoteFile& file, const fs::path& contents, OVEncryptingPassword& password, NSError* error)
+{
+    masterKey_ = vault_.newestKeyOf(password, error);
+    password_ = &password;
+    return masterKey_ && file.prepareToAddEncryption(error)
+        && protectFileWith(contents, Step{&file, file.encryptionState()}, error);
+}
+
 bool Protection::protectFile(const Step& step, NSError* error)
+{
+    return protectFileWith(step.file->storedFileURL().value_or(""), step, error);
+}
+
+bool Protection::protectFileWith(const fs::path& contents, const Step& step, NSError* error)
 {
     OVEncryptableNoteFile& file = *step.file;
     const Vault::Record record = recordOfFile(step, error);
-    const auto clear = file.storedFileURL();
     const auto seal = [&](const fs::path& place, NSError* failure) {
-        return sealItem(*clear, place, record->objectKey(), record->identifier(), failure);
+        return sealItem(contents, place, record->objectKey(), record->identifier(), failure);
     };
     if (!record || !file.exchangeStoredFile(opaqueFileName(), seal, error))
         return false;

@@ -20,6 +20,8 @@ public:
 
     // False and an error when all is as it was.
     bool add(OVEncryptableObject& object, OVEncryptingPassword& password, NSError* error);
+    bool addNewFile(OVEncryptableNoteFile& file, const std::filesystem::path& contents, OVEncryptingPassword& password,
+        NSError* error);
     bool remove(OVEncryptableObject& object, NSError* error);
 
 private:
@@ -36,6 +38,7 @@ private:
     bool inOrder(Go go, Go back, NSError* error);
 
     bool protectFile(const Step& step, NSError* error);
+    bool protectFileWith(const std::filesystem::path& contents, const Step& step, NSError* error);
     bool unprotectFile(const Step& step, NSError* error);
     Vault::Record recordOfFile(const Step& step, NSError* error) const;
     bool protectNote(OVEncryptableNote& note, NSError* error);
