@@ -110,7 +110,8 @@ OVNoteFile* OVNoteFile::getOrCreateFileFromURL(const FileURL& url, OVNote& note,
         return nullptr;
     if (safeName != file->filename())
         file->renameTaken(safeName);
-    return file->attachedTo(note, error);
+    file->setNote(&note);
+    return file;
 }
 
 OVNoteFile* OVNoteFile::getOrCreateFileFromFileWrapper(const NSFileWrapper& fileWrapper, OVNote& note, NSError* error)
@@ -133,7 +134,9 @@ OVNoteFile* OVNoteFile::getOrCreateFileFromFileWrapper(const NSFileWrapper& file
         file = factoryNoteFileForFileURL(scratch, note.managedObjectContext(), error);
     // Nobody else knows of it.
     NSFileManager::removeItemAtURL(scratch.parent_path());
-    return file ? file->attachedTo(note, error) : nullptr;
+    if (file)
+        file->setNote(&note);
+    return file;
 }
 
 /// An unused attachment is one that is in use again.
@@ -145,16 +148,7 @@ OVNoteFile* OVNoteFile::revived(NSError* error)
     return this;
 }
 
-/// Taken back, with what lies on disk for it, when it cannot be protected as the note is.
-OVNoteFile* OVNoteFile::attachedTo(OVNote& note, NSError* error)
-{
-    setNote(&note);
-    if (encryptFileIfNeeded(*this, error))
-        return this;
-    takeBack();
-    return nullptr;
-}
-
+/// With what lies on disk for it.
 void OVNoteFile::takeBack()
 {
     UnsavedFileChanges::ofRecord(*this).takeBack(RecordFolder::ofRecord(*this));

@@ -250,7 +250,6 @@ private:
         const NSFileWrapper& fileWrapper, const std::string& name, OVNote& note, NSError* error);
     void describeFile(const FileURL& url, const std::string& name);
     OVNoteFile* revived(NSError* error);
-    OVNoteFile* attachedTo(OVNote& note, NSError* error);
     void giveStoredFileItsDate() const;
     /// The manager to ask; null where it is not protected. Raises where the protected fields cannot be read.
     OVEncryptionCoreManagerProtocol* requireOpen() const;

@@ -2,8 +2,10 @@
 
 #include <gmock/gmock.h>
 
+#include <chrono>
 #include <fstream>
 #include <sstream>
+#include <thread>
 
 namespace tarn::test {
 
@@ -323,6 +325,29 @@ TEST_F(ProtectCommands, NameAStoreThatWasSetAside)
     EXPECT_EQ(result.exitCode, 0);
     EXPECT_THAT(result.errors, HasSubstr(aside.filename().string()));
     EXPECT_TRUE(std::filesystem::exists(aside));
+}
+
+TEST_F(ProtectCommands, LeaveTheStoreToOthersWhileSomebodyThinks)
+{
+    protectedNote("# Diary\n\nthe text");
+    note("# Plain");
+    using Command = std::vector<std::string>;
+    for (const auto& [command, answers] : {std::pair(Command{"append", "Diary", "more"}, "correct horse\n"),
+             std::pair(
+                 Command{"password", "change", "--memory", "1"}, "correct horse\ncorrect horse\ncorrect horse\n")}) {
+        TarnProcess asking(arguments(command));
+        asking.useTerminalAnsweringQuestions();
+        asking.setInput(answers);
+        asking.start();
+        std::this_thread::sleep_for(std::chrono::milliseconds(500)); // it asks by then
+        ASSERT_TRUE(asking.isRunning());
+        TarnProcess other(arguments({"append", "Plain", "meanwhile"}));
+        other.setVariable("TARN_LOCK_WAIT", "1");
+        EXPECT_EQ(other.finish().exitCode, 0) << command.front();
+        const TarnResult result = asking.finish();
+        EXPECT_EQ(result.exitCode, 0) << result.output;
+    }
+    EXPECT_EQ(output(withPassword({"show", "Diary"})), "# Diary\n\nthe text\nmore");
 }
 
 } // namespace tarn::test

@@ -97,7 +97,7 @@ ClearPassword passwordOfLine(const WipedBuffer& buffer, const std::string& sourc
 {
     if (buffer.isFull() && !buffer.hasLine())
         throw CommandFailure(ExitCode::Usage, "the first line of " + source + " is too long for a password");
-    return ClearPassword(std::string(buffer.line()));
+    return ClearPassword(buffer.line());
 }
 
 } // namespace

@@ -11,7 +11,8 @@ namespace tarn {
 /// A password as somebody wrote it; its bytes are wiped when it goes.
 class ClearPassword {
 public:
-    explicit ClearPassword(std::string text) : text_(std::move(text)) { }
+    /// Copies at once: whatever held the text before is its owner's to wipe.
+    explicit ClearPassword(std::string_view text) : text_(text) { }
     ~ClearPassword();
     ClearPassword(ClearPassword&& other) noexcept;
     ClearPassword& operator=(ClearPassword&& other) noexcept;

@@ -113,15 +113,13 @@ ExitCode changeOne(const Invocation& invocation, const PasswordArguments& argume
     protection.setCost(costOfMemory(arguments.memory));
     // The right one is asked for before a new one is thought of.
     protection.unlock(password);
-    std::optional<ClearPassword> clear;
-    if (arguments.newPasswordFile)
-        clear = passwordOfOption("--new-password-file", *arguments.newPasswordFile);
-    else if (isSomebodyAtTheTerminal())
-        clear = newPasswordFromTerminal();
-    else
+    if (!arguments.newPasswordFile && !isSomebodyAtTheTerminal())
         throw CommandFailure(ExitCode::Usage, "there is no new password; name its file with --new-password-file");
+    const ClearPassword clear = arguments.newPasswordFile
+        ? passwordOfOption("--new-password-file", *arguments.newPasswordFile)
+        : protection.typedNewPassword(); // the file of --password-file has the old one
     withClearPassword(session, password, [&](const ClearPassword& old, NSError* error) {
-        return protection.manager().changePassword(password, old.text(), clear->text(), error);
+        return protection.manager().changePassword(password, old.text(), clear.text(), error);
     });
     if (arguments.hint)
         session.write([&] { OVEncryptionCoreManager::setHint(*arguments.hint, password); });
@@ -172,17 +170,25 @@ ExitCode rotateOne(const Invocation& invocation, const PasswordArguments& argume
     return ExitCode::Done;
 }
 
+/// The store is nobody's while somebody thinks.
+bool confirmsDeletion(const Invocation& invocation, const PasswordArguments& arguments)
+{
+    StoreSession session(invocation, StoreSession::Access::Read);
+    return confirmedOnTerminal(
+        "Delete " + nameOfPassword(passwordNamed(arguments, session)) + "?", "password delete asks before it deletes");
+}
+
 ExitCode deleteOne(const Invocation& invocation, const PasswordArguments& arguments)
 {
-    StoreSession session(invocation, StoreSession::Access::Write);
-    const std::string name = nameOfPassword(passwordNamed(arguments, session));
-    if (!arguments.confirmed
-        && !confirmedOnTerminal("Delete " + name + "?", "password delete asks before it deletes")) {
+    if (!arguments.confirmed && !confirmsDeletion(invocation, arguments)) {
         tellOnStandardError("nothing was deleted");
         return ExitCode::Failed;
     }
+    StoreSession session(invocation, StoreSession::Access::Write);
+    std::string name;
     session.write([&] {
         OVPassword& password = passwordNamed(arguments, session);
+        name = nameOfPassword(password);
         const std::size_t notes = password.notesSet().count();
         const std::size_t files = password.filesSet().count();
         if (notes + files > 0)

@@ -49,7 +49,7 @@ ExitCode protectNotes(const Invocation& invocation, const ProtectArguments& argu
     StoreSession session(invocation, StoreSession::Access::Write);
     arguments.notes.all(session); // before somebody thinks of a password for a note that is not there
     OVPassword* password = passwordToProtectWith(session, arguments);
-    const auto first = password ? std::nullopt : std::optional(session.protection().source().newPassword());
+    const auto first = password ? std::nullopt : std::optional(session.protection().newPassword());
     if (first)
         session.protection().setCost(costOfMemory(arguments.memory));
     std::vector<OVNote*> notes;

@@ -61,13 +61,8 @@ Protection::Protection(NSManagedObjectContext& context, std::shared_ptr<Password
     std::function<void(const std::function<void()>&)> whileAsking)
     : context_(context), source_(std::move(source)), whileAsking_(std::move(whileAsking))
 {
-    if (hasPasswords())
+    if (!passwords().empty())
         manager();
-}
-
-bool Protection::hasPasswords() const
-{
-    return !passwords().empty();
 }
 
 OVEncryptionCoreManager& Protection::manager()
@@ -76,6 +71,18 @@ OVEncryptionCoreManager& Protection::manager()
         manager_ = std::make_unique<OVEncryptionCoreManager>(
             context_, OVEncryptionOptions{.cost = cost_, .timeLimit = std::chrono::seconds(0)});
     return *manager_;
+}
+
+ClearPassword Protection::newPassword()
+{
+    return source_->isFile() || !isSomebodyAtTheTerminal() ? source_->newPassword() : typedNewPassword();
+}
+
+ClearPassword Protection::typedNewPassword()
+{
+    std::optional<ClearPassword> typed;
+    whileAsking_([&] { typed = newPasswordFromTerminal(); });
+    return std::move(*typed);
 }
 
 void Protection::setCost(const OVKeyDerivationCost& cost)

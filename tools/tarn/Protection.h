@@ -25,12 +25,17 @@ public:
         std::function<void(const std::function<void()>&)> whileAsking);
 
     /// Whether the store has passwords. What is protected is then locked until it is unlocked.
-    bool hasPasswords() const;
+    bool hasPasswords() const noexcept { return manager_ != nullptr; }
     /// Made when it is needed first: with the session where the store has passwords.
     OVEncryptionCoreManager& manager();
     PasswordSource& source() noexcept { return *source_; }
     /// By the time of their making; borrowed from the context.
     std::vector<OVPassword*> passwords() const;
+    /// A password for something new: that of the file, else one that is typed. Raises `CommandFailure` where there is
+    /// neither.
+    ClearPassword newPassword();
+    /// One that is typed, whatever the file says; the store is nobody's meanwhile.
+    ClearPassword typedNewPassword();
     /// How much work passwords that are set from now on take; before anything is unlocked.
     void setCost(const OVKeyDerivationCost& cost);
 

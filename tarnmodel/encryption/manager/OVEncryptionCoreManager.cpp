@@ -54,7 +54,7 @@ bool OVEncryptionCoreManager::areKeysLockedInMemory() const noexcept
 
 bool OVEncryptionCoreManager::isObjectLocked(const OVEncryptableObject& object) const
 {
-    return object.isEncrypted() && !isYetToBeFilled(object) && !vault_->open(object, nullptr);
+    return object.isEncrypted() && !vault_->open(object, nullptr) && !isYetToBeFilled(object);
 }
 
 NSError OVEncryptionCoreManager::reasonForLock(const OVEncryptableObject& object) const

@@ -140,13 +140,12 @@ std::optional<ClearFields> OVEncryptionCoreManager::Vault::fields(
 void OVEncryptionCoreManager::Vault::change(
     OVEncryptableObject& object, const std::function<void(ClearFields&)>& change)
 {
-    if (isYetToBeFilled(object))
-        return;
     NSError failure;
     const Record record = open(object, &failure);
     auto clear = record ? record->fields(&failure) : std::nullopt;
     if (!clear) {
-        logMessage("A protected field was not stored: " + failure.localizedDescription());
+        if (!isYetToBeFilled(object))
+            logMessage("A protected field was not stored: " + failure.localizedDescription());
         return;
     }
     change(*clear);
