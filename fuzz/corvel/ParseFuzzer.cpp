@@ -7,6 +7,32 @@
 
 using namespace tarn;
 
+namespace {
+
+void requireSoundLists(const CVKAST& document)
+{
+    const std::string& text = document.markdown();
+    const auto lies = [&](CVKRange range) { return range.location <= text.size() && range.end() <= text.size(); };
+    const auto definitions = document.linkDefinitions();
+    for (const CVKLinkDefinition& definition : definitions)
+        require(lies(definition.range) && lies(definition.destination) && lies(definition.title));
+    const auto links = document.links();
+    require(links.size() == document.document().links.size() + document.document().wikiLinks.size());
+    for (std::size_t i = 0; i < links.size(); ++i) {
+        const CVKLink& link = links[i];
+        require(lies(link.range) && lies(link.text) && lies(link.destination) && lies(link.title));
+        require(i == 0 || links[i - 1].range.location < link.range.location);
+        require(!link.definition || definitions[*link.definition].destination == link.destination);
+    }
+    std::size_t endOfBlock = 0;
+    for (const CVKBlock& block : document.topLevelBlocks(text.size())) {
+        require(lies(block.range) && block.range.location >= endOfBlock);
+        endOfBlock = block.range.end();
+    }
+}
+
+} // namespace
+
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const std::string text(data, data + size);
@@ -30,6 +56,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         require(i == 0 || parse.wikiLinks[i - 1].range.end <= parse.wikiLinks[i].range.begin);
         require(!summary.wikiLinks[i].decodedTitle().empty());
     }
+    requireSoundLists(document);
     for (std::size_t i = 0; i < parse.hashtags.size(); ++i) {
         require(parse.slice(parse.hashtags[i].range).starts_with('#'));
         require(i == 0 || parse.hashtags[i - 1].range.end <= parse.hashtags[i].range.begin);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -19,6 +20,9 @@ public:
     const std::string& decodedTitle() const noexcept { return decodedTitle_; }
     /// Where the link starts in the text, in UTF-16 code units.
     std::size_t offset() const noexcept { return offset_; }
+
+    /// A wiki link as a text writes it: the title escaped, on one line; the alias as it is.
+    static std::string markdown(std::string_view title, const std::optional<std::string>& alias = std::nullopt);
 
     /// The text with every wiki link to `title` (compared folded) pointing at `newTitle`; aliases and inner blanks
     /// stay. With `skipInTitle` links that start in the title line stay as they are.

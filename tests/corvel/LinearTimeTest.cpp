@@ -149,6 +149,9 @@ std::vector<Family> families()
             }},
         repeating("DefinitionsWithoutDestination", "[a]:\n"),
         {"DefinitionsWithOpenTitles", [](std::size_t n) { return repeated("[a]: b 'c\n", n); }},
+        repeating("RowsOfTables", "[a](b) | c\n-|-\n"),
+        repeating("RowsOfBars", "[a](b) |||\n"),
+        repeating("DefinitionsInQuotes", "> [a]: b\n\n"),
         repeating("Underlines", "[a]: b\n===\n"),
         repeating("LineFeeds", "\n"),
         repeating("Returns", "\r"),
@@ -178,6 +181,17 @@ TEST_P(LinearTime, ParsingTheSummaryAndHtml)
         document.html();
     };
     expectLinear(parse, GetParam().text, 32 * 1024);
+}
+
+TEST_P(LinearTime, ListingLinksAndBlocks)
+{
+    const auto list = [](const std::string& text) {
+        const CVKAST document = CVKAST::fromMarkdown(text);
+        document.links();
+        document.linkDefinitions();
+        document.topLevelBlocks(text.size());
+    };
+    expectLinear(list, GetParam().text, 32 * 1024);
 }
 
 TEST_P(LinearTime, Rewriting)

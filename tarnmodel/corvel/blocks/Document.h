@@ -4,6 +4,7 @@
 #include "tarnmodel/corvel/blocks/LinkReferences.h"
 #include "tarnmodel/corvel/scanning/SourceRange.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <mutex>
@@ -60,6 +61,9 @@ struct Block {
     std::uint32_t lastSourceLine = 0;
     SourceRange range; ///< of a leaf: from its first mark to the end of its last line, line ending excluded
     SourceRange info;  ///< of a fence: the info string
+
+    /// Where its inlines begin in its content: after a to-do box.
+    std::size_t inlineBegin() const noexcept { return todo == TodoState::None ? 0 : 3; }
 };
 
 enum class LinkKind : std::uint8_t { Inline, Reference, Autolink, EmailAutolink };

@@ -6,61 +6,7 @@
 
 #include "tarnmodel/platform/foundation/text/Folding.h"
 
-#include <optional>
-
 namespace tarn::corvel {
-
-namespace {
-
-struct ScannedDefinition {
-    SourceRange label;
-    SourceRange destination;
-    std::optional<SourceRange> title;
-    std::size_t end = 0; ///< at the start of the next line
-};
-
-/// The offset after blanks and the line's end; nothing when ink is left on the line.
-std::optional<std::size_t> endOfBlankRest(std::string_view content, std::size_t offset)
-{
-    while (offset < content.size() && isSpaceOrTab(content[offset]))
-        ++offset;
-    if (offset == content.size())
-        return offset;
-    if (!isLineEnd(content[offset]))
-        return std::nullopt;
-    const bool pair = content[offset] == '\r' && offset + 1 < content.size() && content[offset + 1] == '\n';
-    return offset + (pair ? 2 : 1);
-}
-
-std::optional<ScannedDefinition> scanDefinition(std::string_view content, std::size_t offset)
-{
-    const auto label = scanLabel(content, offset);
-    if (!label || label->end + 1 >= content.size() || content[label->end + 1] != ':')
-        return std::nullopt;
-    const std::size_t begin = skipBlanksAndOneLineEnd(content, label->end + 2);
-    const auto destination = scanDestination(content, begin);
-    if (!destination || destination->end == begin)
-        return std::nullopt;
-
-    ScannedDefinition definition{*label, destination->range, std::nullopt, 0};
-    const std::size_t titleBegin = skipBlanksAndOneLineEnd(content, destination->end);
-    const auto title = titleBegin > destination->end ? scanTitle(content, titleBegin) : std::nullopt;
-    if (title) {
-        if (const auto end = endOfBlankRest(content, title->end)) {
-            definition.title = title->range;
-            definition.end = *end;
-            return definition;
-        }
-    }
-    // What looked like a title may be the text of the next line.
-    const auto end = endOfBlankRest(content, destination->end);
-    if (!end)
-        return std::nullopt;
-    definition.end = *end;
-    return definition;
-}
-
-} // namespace
 
 std::string normalizedLabel(std::string_view label)
 {

@@ -11,7 +11,6 @@ namespace tarn::corvel {
 namespace {
 
 constexpr std::size_t kLongestText = 0x80000000; // offsets have 32 bits
-constexpr std::size_t kTodoBoxLength = 3;
 
 template <typename T> void sortByStart(std::vector<T>& items, std::size_t from)
 {
@@ -30,10 +29,9 @@ void parseInlines(CVKAST::Document& document)
         if (leaf.type != BlockType::Paragraph && leaf.type != BlockType::Heading)
             continue;
         content.assign(document, leaf);
-        const std::size_t begin = leaf.todo == TodoState::None ? 0 : kTodoBoxLength;
         const std::size_t firstLink = document.links.size();
-        parser.parse(
-            content, begin, static_cast<BlockIndex>(i), {document.links, document.wikiLinks, document.hashtags});
+        parser.parse(content, leaf.inlineBegin(), static_cast<BlockIndex>(i),
+            {document.links, document.wikiLinks, document.hashtags});
         sortByStart(document.links, firstLink);
     }
 }

@@ -267,7 +267,7 @@ std::size_t InlineParser::takeOpeningBracket(std::size_t at)
             return takeWikiLink(at, *link);
     }
     Bracket bracket;
-    bracket.image = at > plainFrom_ && text_[at - 1] == '!';
+    bracket.image = isMarked(at);
     bracket.begin = bracket.image ? at - 1 : at;
     bracket.textBegin = at + 1;
     if (tokens_) {
@@ -291,11 +291,11 @@ std::size_t InlineParser::takeWikiLink(std::size_t at, const ScannedWikiLink& li
         added.block = block_;
     }
     flushText(at, link.end);
-    plainFrom_ = link.end;
     if (tokens_) {
         addToken(TokenType::WikiLink, at, link.end, static_cast<std::uint32_t>(tokens_->wikiLinks.size()));
-        tokens_->wikiLinks.push_back(link);
+        tokens_->wikiLinks.push_back({link, isMarked(at)});
     }
+    plainFrom_ = link.end;
     return link.end;
 }
 

@@ -74,6 +74,8 @@ private:
     void finishLink(const Bracket& opener, std::size_t at, const Target& target);
     void addLink(LinkKind kind, bool image, std::size_t begin, std::size_t end, const TokenLink& link);
 
+    /// Whether a "!" that means itself stands before the bracket.
+    bool isMarked(std::size_t bracket) const noexcept { return bracket > plainFrom_ && text_[bracket - 1] == '!'; }
     std::string_view slice(SourceRange range) const { return text_.substr(range.begin, range.length()); }
     /// Text up to `end` becomes a token; what follows `next` is plain again.
     void flushText(std::size_t end, std::size_t next);

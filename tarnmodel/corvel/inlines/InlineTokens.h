@@ -44,11 +44,15 @@ struct TokenLink {
     DefinitionIndex definition = kNoDefinition; ///< of a reference; then it holds destination and title
 };
 
+struct TokenWikiLink : ScannedWikiLink {
+    bool isEmbed = false; ///< a "!" stands before it
+};
+
 /// What a leaf is made of, flat. Reuse one object for many leaves.
 struct InlineTokens {
     std::vector<InlineToken> tokens;
     std::vector<TokenLink> links;
-    std::vector<ScannedWikiLink> wikiLinks;
+    std::vector<TokenWikiLink> wikiLinks;
     DelimiterStack emphasis;
 
     void clear()

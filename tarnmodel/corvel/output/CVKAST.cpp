@@ -1,7 +1,9 @@
 #include "tarnmodel/corvel/CVKAST.h"
 
 #include "tarnmodel/corvel/blocks/Document.h"
+#include "tarnmodel/corvel/output/BlockList.h"
 #include "tarnmodel/corvel/output/HtmlRenderer.h"
+#include "tarnmodel/corvel/output/LinkList.h"
 #include "tarnmodel/corvel/output/TextSummary.h"
 
 namespace tarn {
@@ -28,6 +30,21 @@ const CVKTextSummary& CVKAST::textSummary() const
 {
     std::call_once(document_->summaryOnce, [this] { document_->summary = corvel::makeTextSummary(*document_); });
     return document_->summary;
+}
+
+std::vector<CVKLink> CVKAST::links() const
+{
+    return corvel::listLinks(*document_);
+}
+
+std::vector<CVKLinkDefinition> CVKAST::linkDefinitions() const
+{
+    return corvel::listDefinitions(*document_).all;
+}
+
+std::vector<CVKBlock> CVKAST::topLevelBlocks(std::size_t limit) const
+{
+    return corvel::listTopLevelBlocks(*document_, limit);
 }
 
 std::string CVKAST::html() const

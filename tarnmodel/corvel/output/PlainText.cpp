@@ -12,8 +12,6 @@ namespace tarn::corvel {
 
 namespace {
 
-constexpr std::size_t kTodoBoxLength = 3;
-
 bool holdsInlines(const Block& leaf)
 {
     return leaf.type == BlockType::Paragraph || leaf.type == BlockType::Heading;
@@ -31,7 +29,7 @@ void PlainText::setLeaf(const Block& leaf)
     if (!holdsInlines(leaf))
         return;
     content_.assign(document_, leaf);
-    parser_.parseTokens(content_, leaf.todo == TodoState::None ? 0 : kTodoBoxLength, tokens_);
+    parser_.parseTokens(content_, leaf.inlineBegin(), tokens_);
 }
 
 std::string PlainText::line(std::uint32_t index) const

@@ -187,12 +187,11 @@ std::vector<std::string> tagsOfHashtags(const CVKAST::Document& document)
     return tags.take();
 }
 
-std::string decodedDestination(const CVKAST::Document& document, const Link& link)
+std::string decodedDestination(LinkKind kind, std::string_view written)
 {
-    const std::string_view written = document.slice(link.destination);
-    if (link.kind == LinkKind::EmailAutolink)
+    if (kind == LinkKind::EmailAutolink)
         return "mailto:" + std::string(written);
-    return link.kind == LinkKind::Autolink ? std::string(written) : unescaped(written);
+    return kind == LinkKind::Autolink ? std::string(written) : unescaped(written);
 }
 
 CVKTextSummary makeTextSummary(const CVKAST::Document& document)
@@ -204,7 +203,7 @@ CVKTextSummary makeTextSummary(const CVKAST::Document& document)
     summary.wikiLinks = wikiLinksOf(document);
     summary.links.reserve(document.links.size());
     for (const Link& link : document.links)
-        summary.links.push_back(decodedDestination(document, link));
+        summary.links.push_back(decodedDestination(link.kind, document.slice(link.destination)));
     return summary;
 }
 

@@ -4,6 +4,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace tarn::corvel {
@@ -20,6 +21,6 @@ bool holdsOnlyHashtags(const CVKAST::Document& document, SourceRange line);
 std::vector<std::string> tagsOfHashtags(const CVKAST::Document& document);
 
 /// A destination as it is meant: without escapes; of an e-mail autolink with `mailto:`.
-std::string decodedDestination(const CVKAST::Document& document, const Link& link);
+std::string decodedDestination(LinkKind kind, std::string_view written);
 
 } // namespace tarn::corvel

@@ -99,7 +99,7 @@ CVKTextOperationResult CVKAST::updateLinksURLs(
     CVKTextOperationResult result;
     const std::string_view text = document_->text;
     for (const auto& [begin, link] : links) {
-        const auto url = newURL(corvel::decodedDestination(*document_, *link));
+        const auto url = newURL(corvel::decodedDestination(link->kind, document_->slice(link->destination)));
         if (!url)
             continue;
         std::string written = corvel::encodedDestination(*url, corvel::isBetweenAngles(text, link->destination));

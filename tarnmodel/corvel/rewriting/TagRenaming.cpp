@@ -52,8 +52,10 @@ public:
     {
         if (edits_.empty())
             return before_;
-        return applyChecked(before_, edits_,
-            [this](const CVKAST& after, const std::vector<bool>& taken) { return check(after, taken); });
+        return before_
+            .applyEdits(
+                edits_, [this](const CVKAST& after, const std::vector<bool>& taken) { return check(after, taken); })
+            .document;
     }
 
 private:

@@ -5,7 +5,9 @@
 
 #include <algorithm>
 
-namespace tarn::corvel {
+namespace tarn {
+
+namespace corvel {
 
 namespace {
 
@@ -68,16 +70,27 @@ CVKRange movedSelection(std::string_view text, std::span<const CVKTextEdit> edit
     return {begin, std::max(begin, end) - begin};
 }
 
-CVKAST applyChecked(const CVKAST& before, std::span<const CVKTextEdit> edits, const EditCheck& check)
+bool haveSameLinksAndCounts(const CVKTextSummary& a, const CVKTextSummary& b)
 {
-    CVKAST best = before;
+    const auto sameTitle
+        = [](const CVKWikiLink& x, const CVKWikiLink& y) { return x.decodedTitle() == y.decodedTitle(); };
+    return a.todoCount == b.todoCount && a.doneCount == b.doneCount && a.codeBlockCount == b.codeBlockCount
+        && a.links == b.links
+        && std::equal(a.wikiLinks.begin(), a.wikiLinks.end(), b.wikiLinks.begin(), b.wikiLinks.end(), sameTitle);
+}
+
+} // namespace corvel
+
+CVKCheckedEdits CVKAST::applyEdits(std::span<const CVKTextEdit> edits, const CVKEditCheck& check) const
+{
+    CVKAST best = *this;
     std::vector<bool> taken(edits.size(), false);
     struct Stretch {
         std::size_t begin;
         std::size_t end;
     };
     std::vector<Stretch> open{{0, edits.size()}};
-    for (int attempt = 0; attempt < kMostAttempts && !open.empty(); ++attempt) {
+    for (int attempt = 0; attempt < corvel::kMostAttempts && !open.empty(); ++attempt) {
         const Stretch stretch = open.back();
         open.pop_back();
         if (stretch.begin == stretch.end)
@@ -87,7 +100,7 @@ CVKAST applyChecked(const CVKAST& before, std::span<const CVKTextEdit> edits, co
                 taken.begin() + static_cast<std::ptrdiff_t>(stretch.end), value);
         };
         mark(true);
-        CVKAST after = CVKAST::fromMarkdown(appliedEdits(before.markdown(), takenEdits(edits, taken)));
+        CVKAST after = fromMarkdown(corvel::appliedEdits(markdown(), corvel::takenEdits(edits, taken)));
         if (check(after, taken)) {
             best = std::move(after);
             continue;
@@ -99,16 +112,7 @@ CVKAST applyChecked(const CVKAST& before, std::span<const CVKTextEdit> edits, co
         open.push_back({middle, stretch.end});
         open.push_back({stretch.begin, middle});
     }
-    return best;
+    return {std::move(best), std::move(taken)};
 }
 
-bool haveSameLinksAndCounts(const CVKTextSummary& a, const CVKTextSummary& b)
-{
-    const auto sameTitle
-        = [](const CVKWikiLink& x, const CVKWikiLink& y) { return x.decodedTitle() == y.decodedTitle(); };
-    return a.todoCount == b.todoCount && a.doneCount == b.doneCount && a.codeBlockCount == b.codeBlockCount
-        && a.links == b.links
-        && std::equal(a.wikiLinks.begin(), a.wikiLinks.end(), b.wikiLinks.begin(), b.wikiLinks.end(), sameTitle);
-}
-
-} // namespace tarn::corvel
+} // namespace tarn

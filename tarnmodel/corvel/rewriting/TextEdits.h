@@ -2,7 +2,6 @@
 
 #include "tarnmodel/corvel/CVKAST.h"
 
-#include <functional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -15,11 +14,6 @@ namespace tarn::corvel {
 std::string appliedEdits(std::string_view text, std::span<const CVKTextEdit> edits);
 /// Where a UTF-16 range of the text lies after the edits; a place within replaced text stays as near as it can.
 CVKRange movedSelection(std::string_view text, std::span<const CVKTextEdit> edits, CVKRange selection);
-
-/// Whether a text after some edits (true where taken) still says what it must.
-using EditCheck = std::function<bool(const CVKAST& after, const std::vector<bool>& taken)>;
-/// Makes the edits and keeps those with which the check holds: mostly all; where one spoils the text, all but it.
-CVKAST applyChecked(const CVKAST& before, std::span<const CVKTextEdit> edits, const EditCheck& check);
 
 /// Counts, links and wiki titles: what no rewriting of tags changes.
 bool haveSameLinksAndCounts(const CVKTextSummary& a, const CVKTextSummary& b);

@@ -43,8 +43,10 @@ public:
     {
         if (newTitle_.empty() || edits_.empty())
             return before_;
-        return applyChecked(before_, edits_,
-            [this](const CVKAST& after, const std::vector<bool>& taken) { return check(after, taken); });
+        return before_
+            .applyEdits(
+                edits_, [this](const CVKAST& after, const std::vector<bool>& taken) { return check(after, taken); })
+            .document;
     }
 
 private:
@@ -86,6 +88,11 @@ private:
 } // namespace
 
 } // namespace corvel
+
+std::string CVKWikiLink::markdown(std::string_view title, const std::optional<std::string>& alias)
+{
+    return "[[" + corvel::encodedWikiTitle(trimmed(title)) + (alias ? "|" + *alias : "") + "]]";
+}
 
 CVKAST CVKWikiLink::updateWikiLinkWithTitle(
     std::string_view title, std::string_view newTitle, bool skipInTitle, std::string_view text)

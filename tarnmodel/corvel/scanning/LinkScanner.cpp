@@ -48,6 +48,19 @@ std::optional<ScannedDestination> scanBareDestination(std::string_view content, 
     return ScannedDestination{rangeOf(offset, i), i};
 }
 
+/// The offset after blanks and the line's end; nothing when ink is left on the line.
+std::optional<std::size_t> endOfBlankRest(std::string_view content, std::size_t offset)
+{
+    while (offset < content.size() && isSpaceOrTab(content[offset]))
+        ++offset;
+    if (offset == content.size())
+        return offset;
+    if (!isLineEnd(content[offset]))
+        return std::nullopt;
+    const bool pair = content[offset] == '\r' && offset + 1 < content.size() && content[offset + 1] == '\n';
+    return offset + (pair ? 2 : 1);
+}
+
 } // namespace
 
 std::optional<ScannedDestination> scanDestination(std::string_view content, std::size_t offset) noexcept
@@ -131,6 +144,34 @@ std::optional<ScannedTail> scanInlineTail(std::string_view content, std::size_t 
         return std::nullopt;
     ++tail.end;
     return tail;
+}
+
+std::optional<ScannedDefinition> scanDefinition(std::string_view content, std::size_t offset) noexcept
+{
+    const auto label = scanLabel(content, offset);
+    if (!label || label->end + 1 >= content.size() || content[label->end + 1] != ':')
+        return std::nullopt;
+    const std::size_t begin = skipBlanksAndOneLineEnd(content, label->end + 2);
+    const auto destination = scanDestination(content, begin);
+    if (!destination || destination->end == begin)
+        return std::nullopt;
+
+    ScannedDefinition definition{*label, destination->range, std::nullopt, 0};
+    const std::size_t titleBegin = skipBlanksAndOneLineEnd(content, destination->end);
+    const auto title = titleBegin > destination->end ? scanTitle(content, titleBegin) : std::nullopt;
+    if (title) {
+        if (const auto end = endOfBlankRest(content, title->end)) {
+            definition.title = title->range;
+            definition.end = *end;
+            return definition;
+        }
+    }
+    // What looked like a title may be the text of the next line.
+    const auto end = endOfBlankRest(content, destination->end);
+    if (!end)
+        return std::nullopt;
+    definition.end = *end;
+    return definition;
 }
 
 } // namespace tarn::corvel

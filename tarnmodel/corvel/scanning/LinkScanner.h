@@ -37,6 +37,15 @@ struct ScannedTail {
 /// `(destination "title")` at `offset`: what follows the text of an inline link.
 std::optional<ScannedTail> scanInlineTail(std::string_view content, std::size_t offset) noexcept;
 
+struct ScannedDefinition {
+    SourceRange label;
+    SourceRange destination;
+    std::optional<SourceRange> title;
+    std::size_t end = 0; ///< at the start of the next line
+};
+/// `[label]: destination "title"` at `offset`, to the end of a line.
+std::optional<ScannedDefinition> scanDefinition(std::string_view content, std::size_t offset) noexcept;
+
 /// The offset after blanks, at most one line end among them.
 std::size_t skipBlanksAndOneLineEnd(std::string_view content, std::size_t offset) noexcept;
 

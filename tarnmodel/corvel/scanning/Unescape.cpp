@@ -39,9 +39,9 @@ std::size_t appendNumericEntity(std::string& result, std::string_view content, s
 
 std::size_t appendNamedEntity(std::string& result, std::string_view content, std::size_t offset)
 {
-    constexpr std::size_t kLongestName = 31;
+    constexpr std::size_t kLongestEntityName = 31;
     std::size_t end = offset + 1;
-    while (end < content.size() && end - offset <= kLongestName + 1 && isASCIIAlphanumeric(content[end]))
+    while (end < content.size() && end - offset <= kLongestEntityName + 1 && isASCIIAlphanumeric(content[end]))
         ++end;
     if (end == content.size() || content[end] != ';')
         return 0;
