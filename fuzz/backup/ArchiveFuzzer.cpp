@@ -1,9 +1,9 @@
 // Archives of any bytes: read to their end, or refused. The first byte says whether the rest is a list of contents
 // or an archive as it lies on disk.
 
-#include "tarnmodel/backup/ArchiveContentsInternal.h"
 #include "tarnmodel/backup/BackupFailureInternal.h"
-#include "tarnmodel/backup/BackupManifestInternal.h"
+#include "tarnmodel/backup/archive/ArchiveContents.h"
+#include "tarnmodel/backup/archive/ManifestText.h"
 
 #include <cstdint>
 #include <cstdlib>

@@ -1,12 +1,13 @@
 #include "tests/backup/BackupFixture.h"
 
-#include "tarnmodel/backup/StoredRecordInternal.h"
+#include "tarnmodel/backup/archive/StoredRecord.h"
 #include "tarnmodel/files/OVLocalFileManager.h"
 #include "tarnmodel/model/OVNoteBackLink.h"
 #include "tarnmodel/model/OVNoteGenericFile.h"
 #include "tarnmodel/model/OVNoteImage.h"
 #include "tarnmodel/model/OVPassword.h"
 #include "tarnmodel/store/BackupMigration.h"
+#include "tarnmodel/sync/TolVectorClock.h"
 
 #include <algorithm>
 #include <fstream>
@@ -160,6 +161,13 @@ OVNote& BackupFixture::noteOf(NSManagedObjectContext& context, std::string_view 
     OVNote* note = OVNote::noteWithTitle(title, context);
     EXPECT_NE(note, nullptr) << title;
     return *note;
+}
+
+void BackupFixture::makeUnrelated(OVNote& note)
+{
+    TolVectorClock clock;
+    clock.updateClockValueForID("another device");
+    note.setVectorClock(clock.data());
 }
 
 BackupManifest BackupFixture::backUp(const BackupOptions& options)

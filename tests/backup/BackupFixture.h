@@ -36,6 +36,8 @@ protected:
     void fillNotebook();
     OVNoteFile& attach(OVNote& note, std::string_view name, std::string_view bytes);
     OVNote& noteOf(NSManagedObjectContext& context, std::string_view title);
+    /// Gives the note's state a past of its own, so that it neither descends from another one nor the other way.
+    static void makeUnrelated(OVNote& note);
 
     BackupManifest backUp(const BackupOptions& options = {});
     /// A store of its own with a data folder of its own, which is the application's from then on.

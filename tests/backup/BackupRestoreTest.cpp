@@ -4,7 +4,6 @@
 #include "tarnmodel/model/OVNoteBackLink.h"
 #include "tarnmodel/model/OVPassword.h"
 #include "tarnmodel/platform/foundation/values/NSException.h"
-#include "tarnmodel/sync/TolVectorClock.h"
 
 namespace tarn {
 namespace {
@@ -12,11 +11,57 @@ namespace {
 using testing::IsEmpty;
 using testing::SizeIs;
 
-class RestoredStore : public BackupFixture { };
+class RestoredStore : public BackupFixture {
+protected:
+    void SetUp() override
+    {
+        BackupFixture::SetUp();
+        fillNotebook();
+    }
+    /// Backs the notebook up and restores it to a store that was empty.
+    TestStore& restoredElsewhere()
+    {
+        backUp();
+        restore(otherStore());
+        return otherStore();
+    }
+    /// What the restore of a later state of the notebook does; `edit` makes that state.
+    template <typename Edit> BackupRestoration restoreLater(Edit edit)
+    {
+        useFirstFolder();
+        edit();
+        save();
+        backUp({.replacesFile = true});
+        return restore(otherStore());
+    }
+    /// Makes of a note of the store another state than that in the backup; neither descends from the other.
+    void makeConflict(TestStore& store, std::string_view title, std::string_view text)
+    {
+        OVNote& theirs = noteOf(store.context(), title);
+        theirs.updateNoteWithText(text);
+        makeUnrelated(theirs);
+        store.save();
+    }
+    /// That a restore to the store where the backup comes from changes nothing, besides what it tells of.
+    BackupRestoration expectKept()
+    {
+        const auto records = contentsOfStore(context());
+        BackupRestoration restoration = restore(*this);
+        EXPECT_EQ(restoration.restored, 0U);
+        EXPECT_EQ(restoration.files, 0U);
+        EXPECT_EQ(contentsOfStore(context()), records);
+        return restoration;
+    }
+    void expectSameState(OVNote& restored, std::string_view title)
+    {
+        const OVNote& backedUp = noteOf(context(), title);
+        EXPECT_EQ(restored.modificationDate(), backedUp.modificationDate());
+        EXPECT_EQ(restored.storedValueForKey("vectorClock"), backedUp.storedValueForKey("vectorClock"));
+    }
+};
 
 TEST_F(RestoredStore, HasTheRecordsTextsAndBytesOfTheBackup)
 {
-    fillNotebook();
     const auto records = contentsOfStore(context());
     const auto files = filesBelow(filesRoot());
     ASSERT_EQ(files.size(), 3U);
@@ -35,10 +80,7 @@ TEST_F(RestoredStore, HasTheRecordsTextsAndBytesOfTheBackup)
 
 TEST_F(RestoredStore, IsTheSameAfterASecondRestore)
 {
-    fillNotebook();
-    backUp();
-    TestStore& other = otherStore();
-    restore(other);
+    TestStore& other = restoredElsewhere();
     const auto records = contentsOfStore(other.context());
     const auto* change = OVChange::latestChangeInManagedObjectContext(other.context());
     ASSERT_NE(change, nullptr);
@@ -54,10 +96,7 @@ TEST_F(RestoredStore, IsTheSameAfterASecondRestore)
 
 TEST_F(RestoredStore, BeginsItsChangeLogWithABaseline)
 {
-    fillNotebook();
-    backUp();
-    TestStore& other = otherStore();
-    restore(other);
+    TestStore& other = restoredElsewhere();
     const auto* change = OVChange::latestChangeInManagedObjectContext(other.context());
     ASSERT_NE(change, nullptr);
     EXPECT_EQ(change->orderValue(), 0);
@@ -70,33 +109,17 @@ TEST_F(RestoredStore, BeginsItsChangeLogWithABaseline)
 
 TEST_F(RestoredStore, KeepsALaterStateOfANote)
 {
-    fillNotebook();
     backUp();
     noteOf(context(), "Trip").updateNoteWithText("# Trip\n\nlater");
     save();
-    const auto records = contentsOfStore(context());
-    const BackupRestoration restoration = restore(*this);
-    EXPECT_EQ(restoration.restored, 0U);
-    EXPECT_EQ(restoration.kept, 4U);
-    EXPECT_EQ(contentsOfStore(context()), records);
+    EXPECT_EQ(expectKept().kept, 4U);
 }
 
 TEST_F(RestoredStore, TakesALaterStateOfTheBackup)
 {
-    fillNotebook();
-    BackupOptions options;
-    backUp();
-    TestStore& other = otherStore();
-    restore(other);
-    useFirstFolder();
-    noteOf(context(), "Trip").updateNoteWithText("# Trip\n\n#venice\n\n[[Old]]");
-    save();
-    const auto records = contentsOfStore(context());
-    options.replacesFile = true;
-    backUp(options);
-    otherStore();
-
-    const BackupRestoration restoration = restore(other);
+    TestStore& other = restoredElsewhere();
+    const BackupRestoration restoration
+        = restoreLater([&] { noteOf(context(), "Trip").updateNoteWithText("# Trip\n\n#venice\n\n[[Old]]"); });
     EXPECT_EQ(restoration.restored, 1U);
     EXPECT_EQ(restoration.kept, 3U);
     OVNote& trip = noteOf(other.context(), "Trip");
@@ -104,30 +127,20 @@ TEST_F(RestoredStore, TakesALaterStateOfTheBackup)
     EXPECT_EQ(trip.tagsStrings(), std::vector<std::string>{"venice"});
     ASSERT_EQ(trip.linkingToSet().allObjects().size(), 1U);
     EXPECT_EQ(trip.linkingToSet().allObjects().front()->title(), "Old");
-    EXPECT_EQ(trip.storedValueForKey("vectorClock"), noteOf(context(), "Trip").storedValueForKey("vectorClock"));
-    EXPECT_EQ(trip.modificationDate(), noteOf(context(), "Trip").modificationDate());
+    expectSameState(trip, "Trip");
 }
 
-/// Makes a note of the store two states of which neither descends from the other: here and in the backup.
 TEST_F(RestoredStore, KeepsBothStatesOfAConflictOnce)
 {
-    fillNotebook();
-    backUp();
-    TestStore& other = otherStore();
-    restore(other);
-    OVNote& theirs = noteOf(other.context(), "Shopping");
-    theirs.updateNoteWithText("# Shopping\n\nother device\n\n[receipt](receipt.pdf)");
-    TolVectorClock clock;
-    clock.updateClockValueForID("another device");
-    theirs.setVectorClock(clock.data());
-    other.save();
-
+    TestStore& other = restoredElsewhere();
+    const std::string text = "# Shopping\n\nother device\n\n[receipt](receipt.pdf)";
+    makeConflict(other, "Shopping", text);
     const BackupRestoration restoration = restore(other);
     EXPECT_EQ(restoration.conflicts, 1U);
     EXPECT_EQ(restoration.restored, 1U);
     OVNote& kept
         = *OVNote::noteWithUniqueIdentifier(*noteOf(context(), "Shopping").uniqueIdentifier(), other.context());
-    EXPECT_EQ(kept.text(), "# Shopping\n\nother device\n\n[receipt](receipt.pdf)");
+    EXPECT_EQ(kept.text(), text);
     ASSERT_THAT(kept.conflictedNotes(), SizeIs(2));
     OVNote& copy = *kept.conflictedNotes().front();
     EXPECT_NE(&copy, &kept);
@@ -145,16 +158,8 @@ TEST_F(RestoredStore, KeepsBothStatesOfAConflictOnce)
 
 TEST_F(RestoredStore, MakesNoSecondCopyOfOneThatWasEdited)
 {
-    fillNotebook();
-    backUp();
-    TestStore& other = otherStore();
-    restore(other);
-    OVNote& theirs = noteOf(other.context(), "Shopping");
-    theirs.updateNoteWithText("# Shopping\n\nother device");
-    TolVectorClock clock;
-    clock.updateClockValueForID("another device");
-    theirs.setVectorClock(clock.data());
-    other.save();
+    TestStore& other = restoredElsewhere();
+    makeConflict(other, "Shopping", "# Shopping\n\nother device");
     restore(other);
     OVNote& copy = *OVNote::allConflictedNotesInManagedObjectContext(other.context()).front();
     for (OVNote* version : copy.conflictedNotes())
@@ -167,7 +172,6 @@ TEST_F(RestoredStore, MakesNoSecondCopyOfOneThatWasEdited)
 
 TEST_F(RestoredStore, JoinsItsTagsAndLinksWithThoseThatAreThere)
 {
-    fillNotebook();
     backUp();
     TestStore& other = otherStore();
     other.note("# Plan\n\n#Rome\n\n[[Trip]]");
@@ -179,13 +183,11 @@ TEST_F(RestoredStore, JoinsItsTagsAndLinksWithThoseThatAreThere)
                   .size(),
         1U);
     EXPECT_THAT(trip.linkedByNotes(), testing::Contains(&noteOf(other.context(), "Plan")));
-    EXPECT_EQ(trip.modificationDate(), noteOf(context(), "Trip").modificationDate());
-    EXPECT_EQ(trip.storedValueForKey("vectorClock"), noteOf(context(), "Trip").storedValueForKey("vectorClock"));
+    expectSameState(trip, "Trip");
 }
 
 TEST_F(RestoredStore, GetsLostAttachmentsOfANoteThatIsTheSame)
 {
-    fillNotebook();
     backUp();
     OVNote& shopping = noteOf(context(), "Shopping");
     const auto files = filesBelow(filesRoot());
@@ -200,23 +202,18 @@ TEST_F(RestoredStore, GetsLostAttachmentsOfANoteThatIsTheSame)
 
 TEST_F(RestoredStore, LeavesOutWhatALaterStateOfANoteHasDropped)
 {
-    fillNotebook();
     backUp();
     OVNote& shopping = noteOf(context(), "Shopping");
     shopping.orderedFiles().front()->permanentlyDelete();
     shopping.updateNoteWithText("# Shopping\n\nwithout the receipt");
     save();
-    const auto records = contentsOfStore(context());
-    const BackupRestoration restoration = restore(*this);
-    EXPECT_EQ(restoration.files, 0U);
+    const BackupRestoration restoration = expectKept();
     ASSERT_THAT(restoration.skipped, SizeIs(1));
     EXPECT_EQ(restoration.skipped.front().title, "receipt.pdf");
-    EXPECT_EQ(contentsOfStore(context()), records);
 }
 
 TEST_F(RestoredStore, KeepsTheLinksOfAProtectedNoteThatItReplaces)
 {
-    fillNotebook();
     const auto addLink = [](OVNote& from, OVNote& to, std::string_view title) {
         auto* link = OVNoteBackLink::insertInManagedObjectContext(from.managedObjectContext());
         link->setTitle(title);
@@ -228,18 +225,15 @@ TEST_F(RestoredStore, KeepsTheLinksOfAProtectedNoteThatItReplaces)
     };
     addLink(*secretOf(context()), noteOf(context(), "Trip"), "Trip");
     save();
-    backUp();
-    TestStore& other = otherStore();
-    restore(other);
-    useFirstFolder();
-    context().deleteObject(*secretOf(context())->linkingToSet().allObjects().front());
-    addLink(*secretOf(context()), noteOf(context(), "Old"), "Old");
-    secretOf(context())->setEncryptedData(NSData::fromText("sealed anew"));
-    secretOf(context())->updateNoteVectorClock();
-    save();
-    backUp({.replacesFile = true});
-    otherStore();
-    EXPECT_EQ(restore(other).restored, 1U);
+    TestStore& other = restoredElsewhere();
+    const BackupRestoration restoration = restoreLater([&] {
+        OVNote& later = *secretOf(context());
+        context().deleteObject(*later.linkingToSet().allObjects().front());
+        addLink(later, noteOf(context(), "Old"), "Old");
+        later.setEncryptedData(NSData::fromText("sealed anew"));
+        later.updateNoteVectorClock();
+    });
+    EXPECT_EQ(restoration.restored, 1U);
     const OVNote* secret = secretOf(other.context());
     EXPECT_EQ(secret->encryptedData(), NSData::fromText("sealed anew"));
     ASSERT_THAT(secret->linkingToSet().allObjects(), SizeIs(1));
@@ -250,7 +244,6 @@ TEST_F(RestoredStore, KeepsTheLinksOfAProtectedNoteThatItReplaces)
 
 TEST_F(RestoredStore, SaysOfAnAttachmentWithoutBytesThatTheyAreNotHere)
 {
-    fillNotebook();
     OVNote& shopping = noteOf(context(), "Shopping");
     std::filesystem::remove(*shopping.orderedFiles().front()->fileURL());
     const BackupManifest manifest = backUp();
@@ -265,11 +258,10 @@ TEST_F(RestoredStore, SaysOfAnAttachmentWithoutBytesThatTheyAreNotHere)
 
 TEST_F(RestoredStore, TellsOfAPasswordInAnotherState)
 {
-    fillNotebook();
     backUp();
     all<OVPassword>().front()->setEncryptedData(NSData::fromText("rotated"));
     save();
-    const BackupRestoration restoration = restore(*this);
+    const BackupRestoration restoration = expectKept();
     ASSERT_THAT(restoration.skipped, SizeIs(1));
     EXPECT_THAT(restoration.skipped.front().reason, testing::HasSubstr("another state of this password"));
     EXPECT_EQ(all<OVPassword>().front()->encryptedData(), NSData::fromText("rotated"));
@@ -277,7 +269,6 @@ TEST_F(RestoredStore, TellsOfAPasswordInAnotherState)
 
 TEST_F(RestoredStore, IsWantedWithoutUnsavedChanges)
 {
-    fillNotebook();
     backUp();
     note("unsaved");
     EXPECT_THROW(BackupRestore(archive()).restoreIntoContext(context()), NSException);

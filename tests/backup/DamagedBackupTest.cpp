@@ -1,9 +1,9 @@
 #include "tests/backup/BackupFixture.h"
 
-#include "tarnmodel/backup/ArchiveReaderInternal.h"
-#include "tarnmodel/backup/ArchiveWriterInternal.h"
-#include "tarnmodel/backup/BackupHashInternal.h"
-#include "tarnmodel/backup/BackupManifestInternal.h"
+#include "tarnmodel/backup/archive/ArchiveReader.h"
+#include "tarnmodel/backup/archive/ArchiveWriter.h"
+#include "tarnmodel/backup/archive/BackupHash.h"
+#include "tarnmodel/backup/archive/ManifestText.h"
 #include "tarnmodel/platform/foundation/filesystem/FileDescriptorInternal.h"
 
 #include <archive.h>

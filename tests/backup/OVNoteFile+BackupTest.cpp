@@ -1,62 +1,18 @@
 #include "tests/backup/RepresentationFixture.h"
 
 #include "tarnmodel/encryption/OVEncryptionCoreManager.h"
+#include "tarnmodel/platform/coredata/NSEntityDescription.h"
 #include "tarnmodel/platform/foundation/values/NSException.h"
+#include "tests/support/BackwardsManager.h"
+#include "tests/support/InvalidAccessor.h"
+
+#include <array>
 
 namespace tarn {
 namespace {
 
 using testing::ElementsAre;
 using testing::IsNull;
-
-/// Keeps names back to front, and all else as it is.
-class TurningManager final : public OVEncryptionCoreManagerProtocol {
-public:
-    bool isLocked = false;
-
-    bool isObjectLocked(const OVEncryptableObject&) const override { return isLocked; }
-    bool addEncryptionToObject(OVEncryptableObject&, OVEncryptingPassword&, NSError*) override { return false; }
-    bool hasCachedPassword(const OVEncryptingPassword&) const override { return !isLocked; }
-    std::optional<std::string> textForNote(const OVEncryptableNote& note, NSError*) override
-    {
-        return note.storedText();
-    }
-    void setText(std::optional<std::string_view> text, OVEncryptableNote& note) override
-    {
-        note.updatePrimitiveText(text);
-    }
-    std::optional<std::string> filenameForNoteFile(const OVEncryptableNoteFile& file, NSError*) override
-    {
-        return turned(file.storedFilename().value_or(""));
-    }
-    void setFilename(std::optional<std::string_view> filename, OVEncryptableNoteFile& file) override
-    {
-        file.updatePrimitiveFilename(turned(filename.value_or("")));
-    }
-    std::optional<std::string> normalizedFileExtensionForNoteFile(const OVEncryptableNoteFile& file, NSError*) override
-    {
-        return file.storedNormalizedFileExtension();
-    }
-    void setNormalizedFileExtension(std::optional<std::string_view> extension, OVEncryptableNoteFile& file) override
-    {
-        file.updatePrimitiveNormalizedFileExtension(extension);
-    }
-    std::optional<std::int64_t> fileSizeForNoteFile(const OVEncryptableNoteFile& file, NSError*) override
-    {
-        return file.storedFileSize();
-    }
-    void setFileSize(std::optional<std::int64_t> bytes, OVEncryptableNoteFile& file) override
-    {
-        file.updatePrimitiveFileSize(bytes);
-    }
-    std::optional<std::filesystem::path> fileURLForNoteFile(const OVEncryptableNoteFile&, NSError*) override
-    {
-        return {};
-    }
-
-private:
-    static std::string turned(std::string_view text) { return {text.rbegin(), text.rend()}; }
-};
 
 class FileRepresentation : public RepresentationFixture {
 protected:
@@ -65,18 +21,18 @@ protected:
         OVEncryptionCoreManager::setEncryptionCoreManager(nullptr, context());
         RepresentationFixture::TearDown();
     }
-    void serve(TurningManager& manager) { OVEncryptionCoreManager::setEncryptionCoreManager(&manager, context()); }
-};
-
-template <typename Call> void expectGuarded(Call call)
-{
-    try {
-        call();
-        ADD_FAILURE() << "nothing was raised";
-    } catch (const NSException& exception) {
-        EXPECT_EQ(exception.name(), OVInvalidAccessorException);
+    void serve(BackwardsManager& manager) { OVEncryptionCoreManager::setEncryptionCoreManager(&manager, context()); }
+    /// What an attachment without any of it is a dictionary of once it has loaded `entries`, in any order.
+    nlohmann::json loaded(const Dictionary& entries)
+    {
+        auto& file = insert<OVNoteGenericFile>();
+        file.loadDictionaryRepresentation(entries);
+        return file.dictionaryRepresentation();
     }
-}
+
+    static constexpr std::array<std::string_view, 4> guardedKeys{
+        "filename", "fileSize", "normalizedFileExtension", "searchText"};
+};
 
 TEST_P(FileRepresentation, ListsItsKeysByKind)
 {
@@ -115,6 +71,40 @@ TEST_P(FileRepresentation, ComesBackWithEveryField)
     reopen();
     ASSERT_EQ(all<OVNoteFile>().size(), 2U);
     EXPECT_EQ(all<OVNoteFile>().back()->dictionaryRepresentation(), dictionary);
+}
+
+TEST_P(FileRepresentation, CutsDatesToTheWholeSecond)
+{
+    OVNoteFile& file = aFullFile();
+    file.setSearchTextDate(dateWithMicrosecondsSince1970(1'706'704'496'999'999));
+    file.setEncryptionDate(dateWithMicrosecondsSince1970(1'706'704'497'500'000));
+    const Dictionary dictionary = file.dictionaryRepresentation();
+    const OVNoteFile* restored = OVNoteFile::noteFileFromDictionaryRepresentation(dictionary, context());
+    EXPECT_EQ(restored->searchTextDate(), dateWithMicrosecondsSince1970(1'706'704'496'000'000));
+    EXPECT_EQ(restored->encryptionDate(), dateWithMicrosecondsSince1970(1'706'704'497'000'000));
+}
+
+TEST_P(FileRepresentation, LoadsEachKeyByItselfAndMayLackIt)
+{
+    OVNoteFile& file = aFullFile();
+    file.setEncryptedValue(true);
+    const Dictionary full = file.dictionaryRepresentation();
+    ASSERT_EQ(full.size(), 12U);
+    const nlohmann::json without = loaded(Dictionary::object());
+    for (const auto& [key, entry] : full.items()) {
+        SCOPED_TRACE(key);
+        nlohmann::json expected = without;
+        EXPECT_NE(expected.value(key, nlohmann::json()), nlohmann::json(entry)) << "it would tell nothing";
+        expected[key] = entry;
+        EXPECT_EQ(loaded({{key, entry}}), expected);
+
+        Dictionary rest = full;
+        rest.erase(key);
+        expected = rest;
+        if (without.contains(key))
+            expected[key] = without[key];
+        EXPECT_EQ(loaded(rest), expected);
+    }
 }
 
 TEST_P(FileRepresentation, LoadsIntoAnAttachmentAndLeavesWhatIsNotInIt)
@@ -184,6 +174,17 @@ TEST_P(FileRepresentation, WithoutAnIdentifierIsTheAttachmentThatHasNone)
     EXPECT_EQ(all<OVNoteFile>().size(), 2U);
 }
 
+TEST_P(FileRepresentation, WithoutAnIdentifierIsAnyAttachmentThatHasNone)
+{
+    aFullFile();
+    auto& picture = insert<OVNoteImage>();
+    picture.setUniqueIdentifier(std::nullopt);
+    const nlohmann::json before = picture.dictionaryRepresentation();
+    EXPECT_EQ(OVNoteFile::noteFileFromDictionaryRepresentation({{"filename", "a.pdf"}}, context()), &picture);
+    EXPECT_EQ(nlohmann::json(picture.dictionaryRepresentation()), before);
+    EXPECT_EQ(all<OVNoteFile>().size(), 2U);
+}
+
 TEST_P(FileRepresentation, OfAnUnknownIdentifierMakesARecordWithoutOne)
 {
     const Dictionary dictionary{{"uniqueIdentifier", "NOWHERE"}, {"filename", "a.txt"}};
@@ -196,10 +197,34 @@ TEST_P(FileRepresentation, IgnoresValuesOfAnotherType)
 {
     OVNoteFile& file = aFullFile();
     const Dictionary before = file.dictionaryRepresentation();
-    file.loadDictionaryRepresentation({{"filename", 5}, {"fileSize", "5"}, {"index", Dictionary::array()},
-        {"searchText", Dictionary::object()}, {"encrypted", "yes"}, {"version", nullptr}, {"encryptedData", nullptr},
-        {"encryptionDate", 12}, {"unknown", "key"}});
-    EXPECT_EQ(file.dictionaryRepresentation(), before);
+    const auto expectLeft = [&](std::string_view key, const Dictionary& entry) {
+        file.loadDictionaryRepresentation({{std::string(key), entry}});
+        EXPECT_EQ(file.dictionaryRepresentation(), before) << key << " " << entry;
+    };
+    const std::vector<Dictionary> nothings{nullptr, Dictionary::array(), Dictionary::object(), {1, 2}};
+    for (const std::string_view key : OVNoteFile::dictionaryRepresentationValueKeys()) {
+        const bool isText = file.entity().attributeNamed(key)->type() == NSAttributeType::String;
+        const std::vector<Dictionary> others
+            = isText ? std::vector<Dictionary>{5, 7.5, true} : std::vector<Dictionary>{"5", ""};
+        for (const auto& entries : {nothings, others})
+            for (const Dictionary& entry : entries)
+                expectLeft(key, entry);
+    }
+    for (const std::string_view key : OVNoteFile::dictionaryRepresentationDateKeys())
+        for (const auto& entries : {nothings, {12, true, "soon"}})
+            for (const Dictionary& entry : entries)
+                expectLeft(key, entry);
+    expectLeft("encryptedData", nullptr);
+    expectLeft("unknown", "key");
+}
+
+TEST_P(FileRepresentation, HasNoDataWhereTheEntryIsNone)
+{
+    for (const Dictionary& entry : {Dictionary(12), Dictionary(true), Dictionary::array(), Dictionary::object()}) {
+        OVNoteFile& file = aFullFile();
+        file.loadDictionaryRepresentation({{"encryptedData", entry}});
+        EXPECT_FALSE(file.encryptedData()) << entry;
+    }
 }
 
 TEST_P(FileRepresentation, OfAProtectedAttachmentWithoutAManagerIsWhatIsStored)
@@ -216,38 +241,62 @@ TEST_P(FileRepresentation, OfAProtectedAttachmentWithoutAManagerIsWhatIsStored)
 
 TEST_P(FileRepresentation, OfAnUnlockedAttachmentGoesThroughTheManager)
 {
-    TurningManager manager;
+    BackwardsManager manager;
     OVNoteFile& file = aFullFile();
-    file.setFilename("fdp.a");
     file.setEncryptedValue(true);
+    const Dictionary stored = file.dictionaryRepresentation();
     serve(manager);
     const Dictionary dictionary = file.dictionaryRepresentation();
-    EXPECT_EQ(dictionary["filename"], "a.pdf");
+    EXPECT_EQ(dictionary["normalizedFileExtension"], "fdp");
+    EXPECT_EQ(dictionary["fileSize"].dump(), "-5000000000");
+    for (const std::string_view key : guardedKeys)
+        EXPECT_NE(dictionary[std::string(key)], stored[std::string(key)]) << key;
     OVNoteFile* restored = OVNoteFile::noteFileFromDictionaryRepresentation(dictionary, context());
-    EXPECT_EQ(restored->storedFilename(), "fdp.a");
     EXPECT_EQ(restored->dictionaryRepresentation(), dictionary);
+    OVEncryptionCoreManager::setEncryptionCoreManager(nullptr, context());
+    EXPECT_EQ(restored->dictionaryRepresentation(), stored);
 }
 
 TEST_P(FileRepresentation, OfALockedAttachmentRaises)
 {
-    TurningManager manager;
+    BackwardsManager manager;
     OVNoteFile& file = aFullFile();
     file.setEncryptedValue(true);
+    const Dictionary stored = file.dictionaryRepresentation();
+    save();
     serve(manager);
     manager.isLocked = true;
-    expectGuarded([&] { (void)file.dictionaryRepresentation(); });
-    expectGuarded([&] { (void)file.jsonRepresentation(); });
-    expectGuarded([&] { file.loadDictionaryRepresentation({{"filename", "a"}}); });
-    EXPECT_EQ(file.storedFilename(), "Bericht ü.pdf");
+    expectInvalidAccessor([&] { (void)file.dictionaryRepresentation(); });
+    expectInvalidAccessor([&] { (void)file.jsonRepresentation(); });
+    for (const std::string_view key : guardedKeys) {
+        const Dictionary entry{{std::string(key), stored[std::string(key)]}};
+        expectInvalidAccessor([&] { file.loadDictionaryRepresentation(entry); });
+        EXPECT_FALSE(context().hasChanges()) << key;
+    }
+    file.loadDictionaryRepresentation({{"index", 7}, {"searchTextDate", "2001-02-03T04:05:06Z"}});
+    EXPECT_EQ(file.indexValue(), 7) << "what is not protected";
+    EXPECT_NE(file.searchTextDate(), aFullFile().searchTextDate());
+}
+
+TEST_P(FileRepresentation, OfAnAttachmentThatIsNotProtectedNeedsNoPassword)
+{
+    BackwardsManager manager;
+    manager.isLocked = true;
+    OVNoteFile& file = aFullFile();
+    const Dictionary dictionary = file.dictionaryRepresentation();
+    serve(manager);
+    EXPECT_EQ(file.dictionaryRepresentation(), dictionary);
+    const OVNoteFile* restored = OVNoteFile::noteFileFromDictionaryRepresentation(dictionary, context());
+    EXPECT_EQ(restored->dictionaryRepresentation(), dictionary);
 }
 
 TEST_P(FileRepresentation, ThatRaisesWhileItIsReadLeavesNoRecord)
 {
-    TurningManager manager;
+    BackwardsManager manager;
     serve(manager);
     manager.isLocked = true;
     const Dictionary dictionary{{"encrypted", 1}, {"filename", "a"}};
-    expectGuarded([&] { OVNoteFile::noteFileFromDictionaryRepresentation(dictionary, context()); });
+    expectInvalidAccessor([&] { OVNoteFile::noteFileFromDictionaryRepresentation(dictionary, context()); });
     EXPECT_TRUE(all<OVNoteFile>().empty());
     OVEncryptionCoreManager::performInManagedObjectContext(
         context(), [&] { EXPECT_TRUE(OVNoteFile::noteFileFromDictionaryRepresentation(dictionary, context())); });
@@ -263,6 +312,31 @@ TEST_P(FileRepresentation, AsJsonComesBack)
     ASSERT_NE(restored, nullptr);
     EXPECT_EQ(restored->jsonRepresentation(), json);
     EXPECT_EQ(restored->password(), file.password());
+}
+
+TEST_P(FileRepresentation, AsJsonHasItsPasswordInside)
+{
+    OVNoteFile& file = aFullFile();
+    OVPassword& password = aPassword();
+    file.setPassword(&password);
+    const auto json = file.jsonRepresentation();
+    ASSERT_TRUE(json);
+    EXPECT_THAT(
+        json->text(), testing::StartsWith("{\n  \"encrypted\": 0,\n  \"encryptionUniqueIdentifier\": \"KEY-1\",\n"));
+    EXPECT_THAT(
+        json->text(), testing::HasSubstr("\n  \"password\": {\n    \"biometry\": 1,\n    \"creationDevice\": "));
+    EXPECT_EQ(Dictionary::parse(json->text())["password"], password.dictionaryRepresentation());
+}
+
+TEST_P(FileRepresentation, AsJsonIsNothingWhereATextIsNoUTF8)
+{
+    BackwardsManager manager;
+    OVNoteFile& file = aFullFile();
+    file.setEncryptedValue(true);
+    EXPECT_TRUE(file.jsonRepresentation());
+    serve(manager);
+    EXPECT_EQ(file.filename()->find("ü"), std::string::npos) << "its bytes are back to front";
+    EXPECT_EQ(file.jsonRepresentation(), std::nullopt);
 }
 
 TEST_P(FileRepresentation, IsNothingFromWhatIsNoJsonObject)

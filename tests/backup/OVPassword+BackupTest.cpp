@@ -100,6 +100,35 @@ TEST_P(PasswordRepresentation, WithoutAnIdentifierMakesAPasswordWithANewOne)
     EXPECT_EQ(other->creationDevice(), StillWorld::deviceName);
 }
 
+TEST_P(PasswordRepresentation, MayLackAnyKey)
+{
+    OVPassword& password = aPassword();
+    password.setHint(NSData::fromText("a hint"));
+    password.setCreationDate(dateWithMicrosecondsSince1970(0));
+    password.setCreationDevice("another device");
+    const Dictionary full = password.dictionaryRepresentation();
+    ASSERT_EQ(full.size(), 7U);
+    const nlohmann::json defaults{
+        {"biometry", 0}, {"creationDevice", StillWorld::deviceName}, {"encryptionVersion", 0}};
+    for (const auto& [key, entry] : full.items()) {
+        SCOPED_TRACE(key);
+        Dictionary rest = full;
+        rest["uniqueIdentifier"] = "without " + key;
+        rest.erase(key);
+        const Dictionary restored
+            = OVPassword::passwordFromDictionaryRepresentation(rest, context())->dictionaryRepresentation();
+        nlohmann::json expected = rest;
+        if (key == "uniqueIdentifier" || key == "creationDate") { // those of a new record
+            ASSERT_TRUE(restored.contains(key));
+            EXPECT_NE(restored[key], entry);
+            expected[key] = restored[key];
+        } else if (defaults.contains(key)) {
+            expected[key] = defaults[key];
+        }
+        EXPECT_EQ(nlohmann::json(restored), expected);
+    }
+}
+
 TEST_P(PasswordRepresentation, IgnoresValuesOfAnotherType)
 {
     const Dictionary dictionary{{"uniqueIdentifier", 5}, {"creationDevice", 7.5}, {"biometry", "yes"},
@@ -191,6 +220,27 @@ TEST_P(PasswordRepresentation, RaisesForWhatIsNoDictionary)
 }
 
 INSTANTIATE_TEST_SUITE_P(Stores, PasswordRepresentation, everyStore(), storeName);
+
+// Where the store cannot be read --------------------------------------------------------------------------------------
+
+class UnreadableRecords : public RepresentationFixture { };
+INSTANTIATE_TEST_SUITE_P(Stores, UnreadableRecords, testing::Values(StoreType::SQLite), storeName);
+
+TEST_P(UnreadableRecords, AreNotMadeASecondTime)
+{
+    const Dictionary password = aPassword().dictionaryRepresentation();
+    const Dictionary file = aFullFile().dictionaryRepresentation();
+    save();
+    for (const std::string table : {"OVPassword", "OVNoteFile"})
+        runSQL(("ALTER TABLE \"" + table + "\" RENAME TO \"hidden " + table + "\"").c_str());
+    EXPECT_THAT(OVPassword::passwordFromDictionaryRepresentation(password, context()), IsNull());
+    EXPECT_THAT(OVNoteFile::noteFileFromDictionaryRepresentation(file, context()), IsNull());
+    EXPECT_FALSE(context().hasChanges());
+    for (const std::string table : {"OVPassword", "OVNoteFile"})
+        runSQL(("ALTER TABLE \"hidden " + table + "\" RENAME TO \"" + table + "\"").c_str());
+    const auto failure = testing::StartsWith("Error while fetching\n");
+    EXPECT_THAT(takeLog(), ElementsAre(failure, failure));
+}
 
 } // namespace
 } // namespace tarn

@@ -4,7 +4,6 @@
 #include "tarnmodel/files/OVLocalFileManager.h"
 #include "tarnmodel/model/OVNoteGenericFile.h"
 #include "tarnmodel/model/OVPassword.h"
-#include "tarnmodel/sync/TolVectorClock.h"
 
 #include <fstream>
 
@@ -95,9 +94,7 @@ TEST_F(ProtectedBackup, KeepsBothStatesOfAProtectedNoteReadable)
         OVNote* secret = OVNote::allEncryptedNotesInManagedObjectContext(other.context()).front();
         ASSERT_TRUE(manager.unlock(*secret->password(), "correct horse", nullptr));
         secret->setText("# Secret\n\nothers' words");
-        TolVectorClock clock;
-        clock.updateClockValueForID("another device");
-        secret->setVectorClock(clock.data());
+        makeUnrelated(*secret);
         other.save();
     }
     EXPECT_EQ(restore(other).conflicts, 1U);
@@ -113,6 +110,61 @@ TEST_F(ProtectedBackup, KeepsBothStatesOfAProtectedNoteReadable)
     }
     EXPECT_THAT(texts,
         testing::UnorderedElementsAre("# Secret\n\nunspoken words\n\n[](plan.txt)", "# Secret\n\nothers' words"));
+}
+
+TEST_F(ProtectedBackup, NamesWhatStaysLockedSinceAKeyIsNotInTheStore)
+{
+    protectANote();
+    backUp();
+    TestStore& other = otherStore();
+    restore(other);
+    const auto protectUnderANewKey = [this] {
+        OVEncryptionCoreManager manager(context(), quickly());
+        OVPassword& password = *OVPassword::passwordsInManagedObjectContext(context(), std::nullopt).front();
+        ASSERT_TRUE(manager.unlock(password, "correct horse", nullptr));
+        ASSERT_TRUE(manager.rotateMasterKey(password, "correct horse", nullptr));
+        OVNote& later = note("# Later");
+        ASSERT_TRUE(manager.addEncryptionToObject(later, password, nullptr));
+        save();
+    };
+    protectUnderANewKey();
+    std::filesystem::remove(archive());
+    backUp();
+    const BackupRestoration restoration = restore(other);
+    ASSERT_EQ(restoration.skipped.size(), 2U);
+    EXPECT_THAT(restoration.skipped.front().reason, testing::HasSubstr("another state of this password"));
+    EXPECT_EQ(restoration.skipped.back().title, "Later");
+    EXPECT_THAT(restoration.skipped.back().reason, testing::HasSubstr("stays locked"));
+    EXPECT_EQ(restoration.restored, 1U);
+    OVEncryptionCoreManager manager(other.context(), quickly());
+    OVNote* const secret = OVNote::noteWithTitle("Secret", other.context());
+    ASSERT_TRUE(manager.unlock(*secret->password(), "correct horse", nullptr));
+    EXPECT_FALSE(manager.isObjectLocked(*secret)) << "the former key is in both";
+    EXPECT_TRUE(manager.isObjectLocked(*OVNote::noteWithTitle("Later", other.context())));
+}
+
+TEST_F(ProtectedBackup, SaysNothingOfAPasswordThatHasAllKeysInTheStore)
+{
+    protectANote();
+    backUp();
+    TestStore& other = otherStore();
+    restore(other);
+    {
+        OVEncryptionCoreManager manager(other.context(), quickly());
+        OVPassword& password = *OVPassword::passwordsInManagedObjectContext(other.context(), std::nullopt).front();
+        NSError error;
+        ASSERT_TRUE(manager.changePassword(password, "correct horse", "another", &error)) << error;
+        ASSERT_TRUE(manager.rotateMasterKey(password, "another", &error)) << error;
+        other.context().deleteObject(*OVNote::noteWithTitle("Secret", other.context()));
+        other.save();
+    }
+    const BackupRestoration restoration = restore(other);
+    EXPECT_THAT(restoration.skipped, testing::IsEmpty());
+    EXPECT_EQ(restoration.restored, 1U);
+    OVEncryptionCoreManager manager(other.context(), quickly());
+    OVNote* const secret = OVNote::noteWithTitle("Secret", other.context());
+    ASSERT_TRUE(manager.unlock(*secret->password(), "another", nullptr)) << "the store's password opens it";
+    EXPECT_FALSE(manager.isObjectLocked(*secret));
 }
 
 } // namespace

@@ -34,7 +34,7 @@ protected:
         file.setNormalizedFileExtension("pdf");
         file.setIndexValue(3);
         file.setLastEditingDevice("Zoë’s phone");
-        file.setVersionValue(3);
+        file.setVersionValue(2);
         file.setSearchText("a \"quoted\"\nline \xF0\x9F\x8D\x8B");
         file.setSearchTextDate(dateWithMicrosecondsSince1970(1'706'704'496'000'000));
         file.setEncryptionDate(dateWithMicrosecondsSince1970(1'706'704'497'000'000));

@@ -1,6 +1,6 @@
 #include "tests/backup/BackupFixture.h"
 
-#include "tarnmodel/backup/ArchiveReaderInternal.h"
+#include "tarnmodel/backup/archive/ArchiveReader.h"
 #include "tarnmodel/files/OVLocalFileManager.h"
 #include "tarnmodel/model/OVNoteGenericFile.h"
 #include "tarnmodel/platform/foundation/filesystem/NSFileManager.h"

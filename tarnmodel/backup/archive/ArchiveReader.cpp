@@ -1,4 +1,4 @@
-#include "tarnmodel/backup/ArchiveReaderInternal.h"
+#include "tarnmodel/backup/archive/ArchiveReader.h"
 
 #include "tarnmodel/backup/BackupFailureInternal.h"
 

@@ -1,5 +1,5 @@
 #include "tarnmodel/backup/BackupFailureInternal.h"
-#include "tarnmodel/backup/BackupMergeInternal.h"
+#include "tarnmodel/backup/restoring/BackupMerge.h"
 #include "tarnmodel/corvel/CVKAST.h"
 #include "tarnmodel/corvel/CVKTextSummary.h"
 #include "tarnmodel/model/OVNote.h"

@@ -1,4 +1,4 @@
-#include "tarnmodel/backup/UnfinishedArchiveInternal.h"
+#include "tarnmodel/backup/archive/UnfinishedArchive.h"
 
 #include "tarnmodel/backup/BackupFailureInternal.h"
 #include "tarnmodel/platform/foundation/filesystem/NSFileManager.h"

@@ -1,4 +1,4 @@
-#include "tarnmodel/backup/FileSnapshotInternal.h"
+#include "tarnmodel/backup/snapshot/FileSnapshot.h"
 
 #include "tarnmodel/backup/BackupFailureInternal.h"
 #include "tarnmodel/files/FileJournal.h"

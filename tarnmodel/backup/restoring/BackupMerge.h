@@ -1,7 +1,7 @@
 #pragma once
 
-#include "tarnmodel/backup/BackupRecordsInternal.h"
 #include "tarnmodel/backup/BackupRestore.h"
+#include "tarnmodel/backup/restoring/BackupRecords.h"
 #include "tarnmodel/platform/coredata/NSManagedObjectContext.h"
 
 #include <cstdint>
@@ -60,6 +60,9 @@ private:
     void remember(
         std::unordered_map<std::int64_t, NSManagedObjectID>& known, std::int64_t number, NSManagedObject& record);
     void tell(const BackupRecord& record, std::string_view reason);
+    void takeNoteOfKeys(const BackupRecord& record, const NSManagedObject& password);
+    bool isUnderLostKey(const BackupRecord& record) const;
+    void tellWhereLocked(const BackupRecord& record);
 
     // BackupMerge.cpp
     void mergePasswords(const Page& page);
@@ -94,6 +97,7 @@ private:
     std::unordered_set<NSManagedObjectID> met_;
     std::set<const NSManagedObject*> metOnPage_;
     std::unordered_map<std::int64_t, NSManagedObjectID> passwords_;
+    std::set<std::string> lostKeys_; ///< that the backup's passwords have, and those of the store have not
     std::unordered_map<std::int64_t, NSManagedObjectID> tags_;
     std::unordered_map<std::int64_t, Note> notes_;
     std::vector<NSManagedObjectID> toDerive_;

@@ -1,7 +1,7 @@
-#include "tarnmodel/backup/ArchiveWriterInternal.h"
+#include "tarnmodel/backup/archive/ArchiveWriter.h"
 
-#include "tarnmodel/backup/ArchiveFormatInternal.h"
 #include "tarnmodel/backup/BackupFailureInternal.h"
+#include "tarnmodel/backup/archive/ArchiveFormat.h"
 
 #include <archive.h>
 #include <archive_entry.h>

@@ -1,6 +1,6 @@
-#include "tarnmodel/backup/BackupExtractionInternal.h"
 #include "tarnmodel/backup/BackupFailureInternal.h"
-#include "tarnmodel/backup/BackupMergeInternal.h"
+#include "tarnmodel/backup/restoring/BackupExtraction.h"
+#include "tarnmodel/backup/restoring/BackupMerge.h"
 #include "tarnmodel/files/RecordFolder.h"
 #include "tarnmodel/model/OVNote.h"
 #include "tarnmodel/model/OVNoteFile.h"
@@ -47,6 +47,7 @@ void BackupMerge::mergeFile(const BackupRecord& record, NSManagedObject* existin
     auto& file = static_cast<OVNoteFile&>(insertRecord(record));
     file.setPassword(static_cast<OVPassword*>(recordFor(passwords_, record.toOne("password"))));
     file.setNote(note);
+    tellWhereLocked(record);
     bringBytes(record, file);
 }
 

@@ -1,7 +1,7 @@
-#include "tarnmodel/backup/BackupExtractionInternal.h"
+#include "tarnmodel/backup/restoring/BackupExtraction.h"
 
 #include "tarnmodel/backup/BackupFailureInternal.h"
-#include "tarnmodel/backup/BackupManifestInternal.h"
+#include "tarnmodel/backup/archive/ManifestText.h"
 #include "tarnmodel/platform/foundation/filesystem/NSFileManager.h"
 
 #include <algorithm>

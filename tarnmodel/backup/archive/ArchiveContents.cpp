@@ -1,7 +1,7 @@
-#include "tarnmodel/backup/ArchiveContentsInternal.h"
+#include "tarnmodel/backup/archive/ArchiveContents.h"
 
 #include "tarnmodel/backup/BackupFailureInternal.h"
-#include "tarnmodel/backup/BackupManifestInternal.h"
+#include "tarnmodel/backup/archive/ManifestText.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "tarnmodel/backup/ArchiveReaderInternal.h"
 #include "tarnmodel/backup/BackupLimits.h"
 #include "tarnmodel/backup/BackupManifest.h"
+#include "tarnmodel/backup/archive/ArchiveReader.h"
 
 #include <cstddef>
 #include <cstdint>

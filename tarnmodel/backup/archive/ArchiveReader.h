@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tarnmodel/backup/ArchiveFormatInternal.h"
+#include "tarnmodel/backup/archive/ArchiveFormat.h"
 #include "tarnmodel/platform/foundation/filesystem/FileDescriptorInternal.h"
 
 #include <cstddef>

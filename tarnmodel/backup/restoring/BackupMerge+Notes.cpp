@@ -1,5 +1,5 @@
 #include "tarnmodel/backup/BackupFailureInternal.h"
-#include "tarnmodel/backup/BackupMergeInternal.h"
+#include "tarnmodel/backup/restoring/BackupMerge.h"
 #include "tarnmodel/model/OVNote.h"
 #include "tarnmodel/model/OVNoteBackLink.h"
 #include "tarnmodel/model/OVNoteTag.h"
@@ -136,6 +136,7 @@ void BackupMerge::setRelationships(const BackupRecord& record, OVNote& note)
     note.tagsSet().setObjects(tagsOf("tags"));
     note.pinnedInTagsSet().setObjects(tagsOf("pinnedInTags"));
     note.setPassword(static_cast<OVPassword*>(recordFor(passwords_, record.toOne("password"))));
+    tellWhereLocked(record);
 }
 
 } // namespace tarn

@@ -1,4 +1,4 @@
-#include "tarnmodel/backup/ArchiveFormatInternal.h"
+#include "tarnmodel/backup/archive/ArchiveFormat.h"
 
 #include <algorithm>
 #include <cstring>

@@ -1,7 +1,7 @@
 #include "tarnmodel/backup/StoreBackup.h"
 
 #include "tarnmodel/backup/BackupFailureInternal.h"
-#include "tarnmodel/backup/BackupRunInternal.h"
+#include "tarnmodel/backup/snapshot/BackupRun.h"
 #include "tarnmodel/platform/coredata/NSPersistentStoreCoordinator.h"
 
 namespace tarn {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "tarnmodel/backup/ArchiveContentsInternal.h"
-#include "tarnmodel/backup/StagedFileInternal.h"
+#include "tarnmodel/backup/archive/ArchiveContents.h"
+#include "tarnmodel/backup/archive/StagedFile.h"
 
 #include <cstdint>
 #include <filesystem>

@@ -1,4 +1,4 @@
-#include "tarnmodel/backup/BackupHashInternal.h"
+#include "tarnmodel/backup/archive/BackupHash.h"
 
 namespace tarn {
 

@@ -1,16 +1,13 @@
-#include "tarnmodel/backup/BackupManifest.h"
+#include "tarnmodel/backup/archive/ManifestText.h"
 
 #include "tarnmodel/backup/BackupFailureInternal.h"
-#include "tarnmodel/backup/BackupManifestInternal.h"
-#include "tarnmodel/backup/StoredTextInternal.h"
+#include "tarnmodel/backup/archive/StoredText.h"
 
 #include <nlohmann/json.hpp>
 
 namespace tarn {
 
 namespace {
-
-using JSON = nlohmann::ordered_json;
 
 /// Throws for what is no such value, so that each field is of its type or the manifest is none.
 template <typename T> T fieldOf(const JSON& object, const char* key)

@@ -1,4 +1,4 @@
-#include "tarnmodel/backup/BackupScratchInternal.h"
+#include "tarnmodel/backup/archive/BackupScratch.h"
 
 #include "tarnmodel/backup/BackupFailureInternal.h"
 #include "tarnmodel/files/OVLocalFileManager.h"

@@ -1,12 +1,10 @@
+#include "tarnmodel/backup/archive/StoredText.h"
 #include "tarnmodel/backup/Base64Internal.h"
-#include "tarnmodel/backup/StoredTextInternal.h"
 #include "tarnmodel/platform/foundation/text/UTF.h"
 
 #include <nlohmann/json.hpp>
 
 namespace tarn {
-
-using JSON = nlohmann::ordered_json;
 
 JSON jsonOfStoredText(std::string_view text)
 {

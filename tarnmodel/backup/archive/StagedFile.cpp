@@ -1,5 +1,5 @@
+#include "tarnmodel/backup/archive/StagedFile.h"
 #include "tarnmodel/backup/BackupFailureInternal.h"
-#include "tarnmodel/backup/StagedFileInternal.h"
 
 #include <cerrno>
 #include <vector>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tarnmodel/backup/BackupHashInternal.h"
+#include "tarnmodel/backup/archive/BackupHash.h"
 
 #include <array>
 #include <cstddef>

@@ -7,9 +7,12 @@
 
 namespace tarn {
 
+/// What records and the list of contents are made of: objects whose keys keep their order.
+using JSON = nlohmann::ordered_json;
+
 /// A text as JSON: a string, or where it is no UTF-8 an object with its bytes in base64.
-nlohmann::ordered_json jsonOfStoredText(std::string_view text);
+JSON jsonOfStoredText(std::string_view text);
 /// The other way. Throws one of the JSON library's exceptions for anything else.
-std::string storedTextOfJSON(const nlohmann::ordered_json& json);
+std::string storedTextOfJSON(const JSON& json);
 
 } // namespace tarn

@@ -1,7 +1,7 @@
+#include "tarnmodel/backup/archive/StoredRecord.h"
 #include "tarnmodel/backup/BackupFailureInternal.h"
 #include "tarnmodel/backup/Base64Internal.h"
-#include "tarnmodel/backup/StoredRecordInternal.h"
-#include "tarnmodel/backup/StoredTextInternal.h"
+#include "tarnmodel/backup/archive/StoredText.h"
 #include "tarnmodel/platform/coredata/NSEntityDescription.h"
 #include "tarnmodel/platform/coredata/NSManagedObject.h"
 #include "tarnmodel/platform/coredata/NSManagedObjectModel.h"
@@ -18,8 +18,6 @@
 namespace tarn {
 
 namespace {
-
-using JSON = nlohmann::ordered_json;
 
 constexpr std::array<std::string_view, 7> kLeftOut{"OVChange", "OVChangeItem", "OVInternalChanges", "OVExternalChanges",
     "OVServerMetadata", "OVNoteServerData", "OVNoteFileServerData"};

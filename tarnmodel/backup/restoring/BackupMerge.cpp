@@ -1,5 +1,5 @@
+#include "tarnmodel/backup/restoring/BackupMerge.h"
 #include "tarnmodel/backup/BackupFailureInternal.h"
-#include "tarnmodel/backup/BackupMergeInternal.h"
 #include "tarnmodel/encryption/OVEncryptionCoreManager.h"
 #include "tarnmodel/model/OVNote.h"
 #include "tarnmodel/model/OVNoteTag.h"
@@ -158,15 +158,58 @@ void BackupMerge::tell(const BackupRecord& record, std::string_view reason)
     restoration_.skipped.push_back({std::move(title), std::string(reason)});
 }
 
+namespace {
+
+std::vector<std::string> keysOf(const Value& verifier)
+{
+    return verifier.kind() == Value::Kind::Data ? OVEncryptionCoreManager::namesOfKeys(verifier.asData())
+                                                : std::vector<std::string>();
+}
+
+} // namespace
+
+/// A row that has all keys of the backup's, and perhaps more or another password, is as good.
+void BackupMerge::takeNoteOfKeys(const BackupRecord& record, const NSManagedObject& password)
+{
+    const Value& theirs = record.attribute("encryptedData");
+    const Value ours = password.storedValueForKey("encryptedData");
+    if (theirs == ours)
+        return;
+    const std::vector<std::string> here = keysOf(ours);
+    const std::vector<std::string> there = keysOf(theirs);
+    const std::size_t lostBefore = lostKeys_.size();
+    std::ranges::copy_if(there, std::inserter(lostKeys_, lostKeys_.end()),
+        [&](const std::string& key) { return std::ranges::find(here, key) == here.end(); });
+    if (lostKeys_.size() > lostBefore || there.empty() || here.empty())
+        tell(record,
+            "the store has another state of this password, which stays; what the backup protects by a key that is not "
+            "in it stays locked");
+}
+
+bool BackupMerge::isUnderLostKey(const BackupRecord& record) const
+{
+    const Value& sealed = record.attribute("encryptedData");
+    if (lostKeys_.empty() || sealed.kind() != Value::Kind::Data)
+        return false;
+    const auto key = OVEncryptionCoreManager::nameOfKey(sealed.asData());
+    return key && lostKeys_.contains(*key);
+}
+
+void BackupMerge::tellWhereLocked(const BackupRecord& record)
+{
+    if (isUnderLostKey(record))
+        tell(record,
+            "it is protected by a key that the store's state of the password has not got, and stays locked until that "
+            "comes from the device where the keys were rotated");
+}
+
 void BackupMerge::mergePasswords(const Page& page)
 {
     const Existing existing = existingRecords("OVPassword", page);
     for (const BackupRecord& record : page) {
         NSManagedObject* password = existingRecord(existing, record);
-        if (password && password->storedValueForKey("encryptedData") != record.attribute("encryptedData"))
-            tell(record,
-                "the store has another state of this password, which stays; what the backup protects by a key that is "
-                "not in it stays locked");
+        if (password)
+            takeNoteOfKeys(record, *password);
         remember(passwords_, record.number, password ? *password : insertRecord(record));
     }
 }

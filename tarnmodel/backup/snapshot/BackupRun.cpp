@@ -1,11 +1,11 @@
-#include "tarnmodel/backup/ArchiveContentsInternal.h"
-#include "tarnmodel/backup/ArchiveWriterInternal.h"
+#include "tarnmodel/backup/snapshot/BackupRun.h"
 #include "tarnmodel/backup/BackupFailureInternal.h"
-#include "tarnmodel/backup/BackupManifestInternal.h"
-#include "tarnmodel/backup/BackupRunInternal.h"
-#include "tarnmodel/backup/StagedFileInternal.h"
-#include "tarnmodel/backup/StoredRecordInternal.h"
-#include "tarnmodel/backup/UnfinishedArchiveInternal.h"
+#include "tarnmodel/backup/archive/ArchiveContents.h"
+#include "tarnmodel/backup/archive/ArchiveWriter.h"
+#include "tarnmodel/backup/archive/ManifestText.h"
+#include "tarnmodel/backup/archive/StagedFile.h"
+#include "tarnmodel/backup/archive/StoredRecord.h"
+#include "tarnmodel/backup/archive/UnfinishedArchive.h"
 #include "tarnmodel/files/OVLocalFileManager.h"
 #include "tarnmodel/model/ManagedObjectModel.h"
 #include "tarnmodel/platform/coredata/NSManagedObjectContext.h"
@@ -219,11 +219,10 @@ void BackupRun::hashFiles()
         manifest_.members[index].hash = hash.hexadecimal();
         manifest_.members[index].size = size;
     }
-    const auto isRecords = [](const BackupManifest::Member& member) { return member.name.starts_with(kRecordFolder); };
     std::vector<std::size_t> order(staged_.size());
     std::ranges::generate(order, [next = std::size_t(0)]() mutable { return next++; });
-    std::ranges::stable_partition(
-        order, isRecords, [&](std::size_t index) -> const BackupManifest::Member& { return manifest_.members[index]; });
+    std::stable_partition(order.begin(), order.end(),
+        [&](std::size_t index) { return manifest_.members[index].name.starts_with(kRecordFolder); });
     std::vector<BackupManifest::Member> members;
     std::vector<fs::path> staged;
     for (const std::size_t index : order) {

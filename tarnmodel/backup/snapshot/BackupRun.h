@@ -1,10 +1,10 @@
 #pragma once
 
-#include "tarnmodel/backup/BackupHashInternal.h"
 #include "tarnmodel/backup/BackupManifest.h"
-#include "tarnmodel/backup/BackupScratchInternal.h"
-#include "tarnmodel/backup/FileSnapshotInternal.h"
 #include "tarnmodel/backup/StoreBackup.h"
+#include "tarnmodel/backup/archive/BackupHash.h"
+#include "tarnmodel/backup/archive/BackupScratch.h"
+#include "tarnmodel/backup/snapshot/FileSnapshot.h"
 
 #include <cstdint>
 #include <filesystem>
