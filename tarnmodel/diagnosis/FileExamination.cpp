@@ -1,5 +1,6 @@
 #include "tarnmodel/diagnosis/FileExaminationInternal.h"
 
+#include "tarnmodel/diagnosis/ClearTextInternal.h"
 #include "tarnmodel/diagnosis/RecordFileInternal.h"
 #include "tarnmodel/diagnosis/RecordReadingInternal.h"
 #include "tarnmodel/files/OVLocalFileManager.h"
@@ -117,13 +118,15 @@ void FileComparison::examineRecord(OVNoteFile& record)
     const RecordFile file = RecordFile::ofRecord(record);
     for (const fs::path& unfinished : file.unfinished)
         add(Kind::UnfinishedFile, folder, unfinished);
+    if (file.isClearBeside(record))
+        add(Kind::ClearFile, folder, folder);
     const auto kind = file.whatIsAmiss(record);
     if (!kind)
         return;
     StoreFinding& finding = add(*kind, folder, file.place);
     finding.objectID = record.objectID();
     finding.uniqueIdentifier = record.uniqueIdentifier();
-    finding.title = record.storedFilename();
+    finding.title = tellableNameOf(record);
     finding.description.clear();
     if (*kind == Kind::WrongFileSize) {
         finding.stored = Value(record.storedFileSize());
@@ -150,6 +153,14 @@ bool hasFilesOfApplication(const NSManagedObjectContext& context)
     // Asking where the application's lies makes its folder: not for a store in memory.
     return store && fs::exists(store->file(), failure)
         && fs::equivalent(store->file(), OVLocalFileManager::databaseURL(), failure) && !failure;
+}
+
+bool hasThumbsOfApplication(const NSManagedObjectContext& context)
+{
+    const fs::path own = OVLocalFileManager::databaseURLInGroupFolder(OVLocalFileManager::defaultApplicationGroupURL());
+    std::error_code failure;
+    return hasFilesOfApplication(context)
+        && fs::equivalent(context.persistentStoreCoordinator().persistentStore()->file(), own, failure) && !failure;
 }
 
 FileExamination examineFiles(NSManagedObjectContext& context)

@@ -19,6 +19,9 @@ struct FileExamination {
 /// none, and must not cost the application its own.
 bool hasFilesOfApplication(const NSManagedObjectContext& context);
 
+/// Whether the application's thumbnails are of this store: of others that a program opens there may be some as well.
+bool hasThumbsOfApplication(const NSManagedObjectContext& context);
+
 /// Compares folders and records both ways: one listing of each kind's folder, one look into each record's, the records
 /// in pages. What a living process has under way is no finding. Resets the context. Raises `DiagnosisFailure`.
 FileExamination examineFiles(NSManagedObjectContext& context);

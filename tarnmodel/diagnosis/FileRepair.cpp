@@ -59,6 +59,8 @@ std::size_t mendFiles(std::span<const FileToMend> files, NSManagedObjectContext&
     for (const FileToMend& file : files) {
         if (underWay.contains(file.item) || underWay.contains(file.item.parent_path()))
             continue;
+        if (file.kind == Kind::ClearFile)
+            continue; // removed by the sweep of all of them
         if (file.objectID) {
             DiagnosisFailure failure;
             auto* record = static_cast<OVNoteFile*>(context.existingObjectWithID(*file.objectID, &failure.error));

@@ -1,6 +1,7 @@
 #include "tarnmodel/corvel/CVKAST.h"
 #include "tarnmodel/corvel/CVKHashtag.h"
 #include "tarnmodel/corvel/CVKTextSummary.h"
+#include "tarnmodel/diagnosis/ClearTextInternal.h"
 #include "tarnmodel/diagnosis/NoteExaminationInternal.h"
 #include "tarnmodel/diagnosis/TagRepairInternal.h"
 #include "tarnmodel/model/OVNote.h"
@@ -12,6 +13,7 @@
 #include "tarnmodel/platform/foundation/text/Folding.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace tarn {
@@ -143,7 +145,9 @@ std::vector<StoreFinding> findingsInNote(const OVNote& note, std::set<std::strin
     Comparison comparison(note);
     if (note.encryptedValue()) {
         comparison.require(hasParentTags(note), Kind::MissingParentTags);
-        return comparison.takeFindings();
+        std::vector<StoreFinding> findings = comparison.takeFindings();
+        std::ranges::move(clearTextsOfNote(note), std::back_inserter(findings));
+        return findings;
     }
     const CVKAST document = CVKAST::fromMarkdown(note.text().value_or(""));
     const CVKTextSummary& summary = document.textSummary();

@@ -29,17 +29,22 @@ RecordFile RecordFile::ofRecord(const OVNoteFile& record)
 
 std::optional<StoreFinding::Kind> RecordFile::whatIsAmiss(const OVNoteFile& record) const
 {
-    using Kind = StoreFinding::Kind;
+    using enum StoreFinding::Kind;
     if (!record.downloadedValue())
         return std::nullopt;
     if (!size) {
         // Beside a protected one that is gone nobody can tell what lies there: it may be clear.
         const bool isMisnamed = others == 1 && record.storedFilename() && !record.encryptedValue();
-        return isMisnamed ? Kind::MisnamedFile : Kind::MissingFile;
+        return isMisnamed ? MisnamedFile : MissingFile;
     }
     // Of a protected one the size is as unreadable as the name.
     const bool isOfSize = record.encryptedValue() || size == record.storedFileSize();
-    return isOfSize ? std::nullopt : std::optional(Kind::WrongFileSize);
+    return isOfSize ? std::nullopt : std::optional(WrongFileSize);
+}
+
+bool RecordFile::isClearBeside(const OVNoteFile& record) const
+{
+    return others > 0 && record.encryptedValue() && (size || !record.downloadedValue());
 }
 
 FilesUnderWay::FilesUnderWay(std::string_view storeUUID)

@@ -24,6 +24,9 @@ struct RecordFile {
 
     /// What a record that says that its bytes are here has to fear; none when all is well.
     std::optional<StoreFinding::Kind> whatIsAmiss(const OVNoteFile& record) const;
+    /// Whether a protected record has something beside its file, which may be clear, and this is the finding: one whose
+    /// bytes are said to be here and are not is amiss in another way.
+    bool isClearBeside(const OVNoteFile& record) const;
 };
 
 /// Folders of records whose files some process is changing, as its journal says, or was changing when it died.

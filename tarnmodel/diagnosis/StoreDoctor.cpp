@@ -2,6 +2,7 @@
 
 #include "tarnmodel/corvel/CVKAST.h"
 #include "tarnmodel/corvel/CVKTextSummary.h"
+#include "tarnmodel/diagnosis/ClearTextInternal.h"
 #include "tarnmodel/diagnosis/FileExaminationInternal.h"
 #include "tarnmodel/diagnosis/FileRepairInternal.h"
 #include "tarnmodel/diagnosis/NoteExaminationInternal.h"
@@ -9,6 +10,8 @@
 #include "tarnmodel/diagnosis/RecordReadingInternal.h"
 #include "tarnmodel/diagnosis/TagExaminationInternal.h"
 #include "tarnmodel/diagnosis/TagRepairInternal.h"
+#include "tarnmodel/files/OVLocalFileManager.h"
+#include "tarnmodel/files/thumbnails/OVThumbFileManager.h"
 #include "tarnmodel/model/OVNote.h"
 #include "tarnmodel/model/OVNoteFile.h"
 #include "tarnmodel/platform/coredata/NSPersistentStore.h"
@@ -16,6 +19,7 @@
 #include "tarnmodel/platform/foundation/values/NSException.h"
 
 #include <algorithm>
+#include <memory>
 #include <utility>
 
 namespace tarn {
@@ -33,6 +37,13 @@ NSManagedObjectContext& requireUsable(NSManagedObjectContext& context)
     if (!context.persistentStoreCoordinator().persistentStore())
         throw NSException(NSInvalidArgumentException, "The context has no store to examine.");
     return context;
+}
+
+/// Not the one of the process, which makes its folder: to examine makes nothing.
+std::shared_ptr<OVThumbFileManager> thumbs()
+{
+    return OVThumbFileManager::initWithBaseURL(
+        OVLocalFileManager::applicationSupportURL() / OVNoteThumbFileDirectoryName);
 }
 
 /// A wrong title is no old one: nobody's links are rewritten for it.
@@ -76,6 +87,8 @@ void StoreDoctor::examineAll()
     for (StoreFinding& finding : findingsInTags(context_, tagKeysInTexts_))
         add(std::move(finding));
     context_.reset();
+    for (StoreFinding& finding : clearTextsOfFiles(context_))
+        add(std::move(finding));
     if (hasFilesOfApplication(context_))
         examineFiles();
 }
@@ -86,10 +99,17 @@ void StoreDoctor::examineFiles()
     for (StoreFinding& finding : files.findings)
         add(std::move(finding));
     examination_.filesToMend = std::move(files.filesToMend);
+    if (!hasThumbsOfApplication(context_) || !OVThumbFileManager::areTherePicturesWithoutThumbs(context_))
+        return;
+    for (const std::filesystem::path& thumb : thumbs()->thumbsWithoutPicture(context_))
+        addAll(StoreFinding::Kind::ClearThumbnail, {thumb.string()});
+    context_.reset();
 }
 
 void StoreDoctor::add(StoreFinding finding)
 {
+    if (finding.check() == StoreCheck::Protection && finding.objectID && finding.isRepairable())
+        examination_.recordsToClear.push_back(*finding.objectID);
     StoreCheckResult& result = examination_.results[static_cast<std::size_t>(finding.check())];
     ++result.count;
     if (result.findings.size() < findingsKept_)
@@ -164,6 +184,7 @@ std::optional<StoreRepairs> StoreDoctor::repair(const StoreExamination& examinat
         repairs.notes = repairNotes(examination.notesToDerive);
         repairs.indexedTexts = repairSearchIndex();
         repairs.files = repairFiles(examination);
+        repairs.clearItems = repairProtection(examination);
         return repairs;
     } catch (const DiagnosisFailure& failure) {
         assignError(error, failure.error);
@@ -231,6 +252,24 @@ std::size_t StoreDoctor::repairFiles(const StoreExamination& examination)
         files = files.subspan(page.size());
     }
     return mended;
+}
+
+std::size_t StoreDoctor::repairProtection(const StoreExamination& examination)
+{
+    std::size_t cleared = 0;
+    std::span<const NSManagedObjectID> records = examination.recordsToClear;
+    while (!records.empty()) {
+        const auto page = records.first(std::min(records.size(), kPage));
+        save([&] { cleared += clearRecords(page, context_); });
+        records = records.subspan(page.size());
+    }
+    if (examination.resultOf(StoreCheck::Protection).count == 0 || !hasFilesOfApplication(context_))
+        return cleared;
+    cleared += OVNoteFile::removeClearLeftoversInManagedObjectContext(context_);
+    if (hasThumbsOfApplication(context_))
+        cleared += thumbs()->deleteThumbsWithoutPicture(context_);
+    context_.reset();
+    return cleared;
 }
 
 /// Under the lock of the store, so that it builds upon what others wrote. Nothing is left of it when it fails.

@@ -51,7 +51,8 @@ public:
     /// Gives tags the names that texts can give them, derives the notes anew whose fields were found wrong, and brings
     /// the index of texts in step. Texts and dates of notes stay as they are; so do links of other notes to a wrong
     /// title. Files get their attachments' names, attachments learn what lies on disk, and what is nobody's goes to
-    /// "Lost and Found": no bytes are deleted but what was never whole. None and an error when something cannot be read
+    /// "Lost and Found": no bytes are deleted but what was never whole, and clear ones of what is protected: these go,
+    /// as long as the encrypted ones are there. None and an error when something cannot be read
     /// or saved; what was saved before stays repaired. A damaged file is refused with `StoreErrorCorrupt`, since
     /// writing could make it worse.
     std::optional<StoreRepairs> repair(const StoreExamination& examination, NSError* error = nullptr);
@@ -73,6 +74,7 @@ private:
     std::size_t deriveNotes(std::span<const NSManagedObjectID> notes);
     std::size_t repairSearchIndex();
     std::size_t repairFiles(const StoreExamination& examination);
+    std::size_t repairProtection(const StoreExamination& examination);
     void save(const std::function<void()>& work);
 
     NSManagedObjectContext& context_;

@@ -40,6 +40,13 @@ StoreCheck StoreFinding::check() const noexcept
     case Kind::UnfinishedFile:
     case Kind::AbandonedFileChanges:
         return StoreCheck::Files;
+    case Kind::ClearText:
+    case Kind::ClearSubtitle:
+    case Kind::ClearFilename:
+    case Kind::ClearFields:
+    case Kind::ClearFile:
+    case Kind::ClearThumbnail:
+        return StoreCheck::Protection;
     }
     return StoreCheck::Tags;
 }

@@ -23,11 +23,12 @@ enum class StoreCheck : std::uint8_t {
     ToDos,
     Flags,
     NoteTags,
-    Links, ///< and do they lead to notes of the titles that they name?
-    Tags,  ///< are tags what texts name, and can texts name each?
-    Files, ///< is what lies on disk what the attachments say, and nothing else?
+    Links,      ///< and do they lead to notes of the titles that they name?
+    Tags,       ///< are tags what texts name, and can texts name each?
+    Protection, ///< is nothing of what is protected stored in clear as well?
+    Files,      ///< is what lies on disk what the attachments say, and nothing else?
 };
-inline constexpr std::size_t kStoreCheckCount = 10;
+inline constexpr std::size_t kStoreCheckCount = 11;
 
 /// One thing that is amiss in a store.
 struct StoreFinding {
@@ -56,6 +57,13 @@ struct StoreFinding {
         FolderWithoutRecord,  ///< of no attachment; `description` says where, as of the two that follow
         UnfinishedFile,       ///< a file that was never written whole
         AbandonedFileChanges, ///< a process died while it was changing files
+        // In clear although it is protected; no finding repeats it.
+        ClearText,      ///< of a note, beside its encrypted text
+        ClearSubtitle,  ///< of a note
+        ClearFilename,  ///< of an attachment, like the two that follow
+        ClearFields,    ///< its recognised text, extension or size
+        ClearFile,      ///< something lies beside its encrypted file; `description` says in which folder
+        ClearThumbnail, ///< of no picture that may have one; `description` says where
     };
 
     Kind kind = Kind::DamagedFile; ///< what is amiss
@@ -63,7 +71,7 @@ struct StoreFinding {
     std::optional<NSManagedObjectID> objectID;
     std::optional<std::string> uniqueIdentifier;
     /// Of a note as it is stored; of a tag as `displayTitle` gives it, an unusable one as it is stored; of a missing
-    /// tag its name, folded; of an attachment its name as it is stored.
+    /// tag its name, folded; of an attachment its name as it is stored, of a protected one none that tells something.
     std::optional<std::string> title;
     /// What the note holds, and what its text says: texts, numbers or booleans, of tags the folded names as a sorted
     /// array. Nil for findings that are not of one field.
@@ -74,8 +82,9 @@ struct StoreFinding {
 
     /// The question that it answers.
     StoreCheck check() const noexcept;
-    /// Whether `StoreDoctor::repair` makes it good: all but damage of the file.
-    bool isRepairable() const noexcept { return kind != Kind::DamagedFile; }
+    /// Whether `StoreDoctor::repair` makes it good: all but damage of the file and clear names of protected files; a
+    /// clear text only where the encrypted one can be read, and says the same.
+    bool isRepairable() const noexcept { return kind != Kind::DamagedFile && kind != Kind::ClearFilename; }
 };
 
 /// Something on disk that is not as the store has it.
@@ -96,6 +105,7 @@ struct StoreExamination {
     std::array<StoreCheckResult, kStoreCheckCount> results; ///< by `StoreCheck`
     std::vector<NSManagedObjectID> notesToDerive;           ///< those whose fields are not what their texts say
     std::vector<FileToMend> filesToMend;                    ///< all that the check of files found on disk
+    std::vector<NSManagedObjectID> recordsToClear;          ///< protected ones that store something in clear
 
     /// What that check found.
     const StoreCheckResult& resultOf(StoreCheck check) const noexcept
@@ -114,8 +124,9 @@ struct StoreRepairs {
     std::size_t notes = 0;        ///< derived anew
     std::size_t indexedTexts = 0; ///< that the index of texts did not know, or knew wrongly
     std::size_t files = 0;        ///< renamed, moved away or removed, and attachments told what is there
+    std::size_t clearItems = 0;   ///< protected records and thumbnails of such, of which nothing clear is left now
     /// Whether nothing had to be changed.
-    bool isEmpty() const noexcept { return tags + notes + indexedTexts + files == 0; }
+    bool isEmpty() const noexcept { return tags + notes + indexedTexts + files + clearItems == 0; }
 };
 
 } // namespace tarn

@@ -40,10 +40,12 @@ TEST_F(DoctorCommand, FindsNothingInASoundStore)
 
 TEST_F(DoctorCommand, FindsAndRepairsFieldsThatAreNotWhatTheTextSays)
 {
+    int files = 0;
     for (const Damage& damaged : kDamages) {
         SCOPED_TRACE(damaged.sql);
         output({"import",
-            file("sound.md", "---\nupdated: 2020-01-02\n---\n# Sound\n\nbody\n\n- [x] a\n- [ ] b\n\n#a/b\n")});
+            file(std::to_string(files++) + ".md",
+                "---\nupdated: 2020-01-02\n---\n# Sound\n\nbody\n\n- [x] a\n- [ ] b\n\n#a/b\n")});
         const nlohmann::json before = json({"show", "Sound"});
         damage(damaged.sql);
 

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <array>
 #include <memory>
+#include <string_view>
 
 namespace tarn {
 
@@ -29,8 +30,8 @@ struct Diagnosis {
 };
 
 /// By `StoreCheck`.
-constexpr std::array<const char*, kStoreCheckCount> kCheckNames{
-    "integrity", "searchIndex", "title", "subtitle", "todos", "flags", "noteTags", "links", "tags", "files"};
+constexpr std::array<const char*, kStoreCheckCount> kCheckNames{"integrity", "searchIndex", "title", "subtitle",
+    "todos", "flags", "noteTags", "links", "tags", "protection", "files"};
 
 /// The sentences about findings, behind the names of what they are about.
 struct FindingSentence {
@@ -60,6 +61,13 @@ constexpr std::array kSentences{
     FindingSentence{StoreFinding::Kind::FolderWithoutRecord, "no attachment has this"},
     FindingSentence{StoreFinding::Kind::UnfinishedFile, "it was never written whole"},
     FindingSentence{StoreFinding::Kind::AbandonedFileChanges, "a program ended while it was changing files"},
+    FindingSentence{StoreFinding::Kind::ClearText, "its text is stored in clear beside the encrypted one"},
+    FindingSentence{StoreFinding::Kind::ClearSubtitle, "its subtitle is stored in clear although it is protected"},
+    FindingSentence{StoreFinding::Kind::ClearFilename, "its name is stored in clear although it is protected"},
+    FindingSentence{StoreFinding::Kind::ClearFields,
+        "its recognised text, extension or size is stored in clear although it is protected"},
+    FindingSentence{StoreFinding::Kind::ClearFile, "something lies beside the encrypted file, maybe in clear"},
+    FindingSentence{StoreFinding::Kind::ClearThumbnail, "this thumbnail is of no picture that is not protected"},
 };
 
 std::string sentenceOf(StoreFinding::Kind kind)
@@ -71,12 +79,13 @@ std::string sentenceOf(StoreFinding::Kind kind)
 std::string problemOf(const StoreFinding& finding)
 {
     if (!finding.description.empty())
-        return finding.check() == StoreCheck::Files ? finding.description + ": " + sentenceOf(finding.kind)
-                                                    : finding.description;
+        return finding.check() == StoreCheck::Files || finding.check() == StoreCheck::Protection
+            ? finding.description + ": " + sentenceOf(finding.kind)
+            : finding.description;
     const std::string title = finding.title.value_or("");
     const std::string name = finding.check() == StoreCheck::Tags
         ? "#" + title
-        : finding.uniqueIdentifier.value_or("?") + " \"" + title + "\"";
+        : finding.uniqueIdentifier.value_or("?") + (finding.title ? " \"" + title + "\"" : "");
     return name + ": " + sentenceOf(finding.kind);
 }
 
@@ -131,6 +140,8 @@ Diagnosis diagnose(const Invocation& invocation, bool repair)
     NSError error;
     StoreExamination examination = required(doctor.examine(&error), error, doctor, session);
     if (repair && !examination.fileIsDamaged()) {
+        if (examination.resultOf(StoreCheck::Protection).count > 0)
+            session.protection().unlockByFile();
         diagnosis.repairs = required(doctor.repair(examination, &error), error, doctor, session);
         if (!diagnosis.repairs.isEmpty())
             examination = required(doctor.examine(&error), error, doctor, session);
@@ -152,10 +163,24 @@ Diagnosis diagnosisOfFailure(const CommandFailure& failure)
     return diagnosis;
 }
 
-bool onlyFilesAreAmiss(const Diagnosis& diagnosis)
+bool isAmiss(const Diagnosis& diagnosis, std::string_view name)
 {
-    return std::ranges::all_of(
-        diagnosis.checks, [](const DoctorCheck& check) { return check.found == 0 || check.name == "files"; });
+    return std::ranges::any_of(
+        diagnosis.checks, [&](const DoctorCheck& check) { return check.found > 0 && check.name == name; });
+}
+
+/// What a doctor that repairs nothing has to say of what it found.
+std::string adviceOf(const Diagnosis& diagnosis)
+{
+    const bool isClear = isAmiss(diagnosis, "protection");
+    const bool isAnyOther = std::ranges::any_of(diagnosis.checks, [](const DoctorCheck& check) {
+        return check.found > 0 && check.name != "files" && check.name != "protection";
+    });
+    if (isAnyOther)
+        return "what is derived from the texts is not what they say; 'tarn doctor --repair' derives it anew";
+    return isClear
+        ? "clear text lies beside what is protected; 'tarn doctor --repair' takes away what is there encrypted"
+        : "files of attachments are not what the store says; 'tarn doctor --repair' brings them in step";
 }
 
 JSON jsonOf(const Diagnosis& diagnosis, bool repair)
@@ -176,6 +201,7 @@ JSON jsonOf(const Diagnosis& diagnosis, bool repair)
         document["mendedTags"] = diagnosis.repairs.tags;
         document["indexed"] = diagnosis.repairs.indexedTexts;
         document["mendedFiles"] = diagnosis.repairs.files;
+        document["cleared"] = diagnosis.repairs.clearItems;
     }
     return document;
 }
@@ -200,6 +226,8 @@ void writeDiagnosis(Output& output, const Diagnosis& diagnosis, bool repair)
         output.writeLine("entered " + numbered(diagnosis.repairs.indexedTexts, "text") + " in the search index");
     if (diagnosis.repairs.files > 0)
         output.writeLine("mended " + numbered(diagnosis.repairs.files, "file"));
+    if (diagnosis.repairs.clearItems > 0)
+        output.writeLine("took clear text from " + numbered(diagnosis.repairs.clearItems, "protected item"));
 }
 
 ExitCode examine(const Invocation& invocation, bool repair)
@@ -217,9 +245,12 @@ ExitCode examine(const Invocation& invocation, bool repair)
     else
         writeDiagnosis(invocation.output, diagnosis, repair);
     if (diagnosis.code == ExitCode::Failed && !repair)
-        tellOnStandardError(onlyFilesAreAmiss(diagnosis)
-                ? "files of attachments are not what the store says; 'tarn doctor --repair' brings them in step"
-                : "what is derived from the texts is not what they say; 'tarn doctor --repair' derives it anew");
+        tellOnStandardError(adviceOf(diagnosis));
+    if (diagnosis.code == ExitCode::Failed && repair && isAmiss(diagnosis, "protection"))
+        tellOnStandardError(
+            "clear text is left beside what is protected: it is taken away where the encrypted one can "
+            "be read, with --password-file, and says the same; else 'tarn unprotect' and 'tarn protect' "
+            "make one of both");
     if (diagnosis.code == ExitCode::Corrupt)
         tellOnStandardError("the file of the store is damaged; keep a copy of it before anything else");
     return diagnosis.code;
@@ -232,9 +263,9 @@ void addDoctorCommand(CommandLine& commandLine)
     const auto repair = std::make_shared<bool>(false);
     const Command command = commandLine.addCommand(
         {.name = "doctor",
-            .summary
-            = "Examine the store: its file, its search index, whether the notes' fields are what their texts say, and "
-              "the files of attachments",
+            .summary = "Examine the store: its file, its search index, whether the notes' fields are what their texts "
+                       "say, clear "
+                       "text of what is protected, and the files of attachments",
             .explanation = "Exits with 0 when all is well, with 5 when the file itself is damaged.",
             .examples = {"tarn doctor", "tarn doctor --repair"}},
         [repair](const Invocation& invocation) { return examine(invocation, *repair); });
