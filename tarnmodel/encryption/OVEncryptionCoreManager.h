@@ -10,6 +10,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tarn {
 
@@ -63,6 +64,12 @@ struct OVEncryptionOptions {
     std::function<std::filesystem::path()> scratchDirectory{};
 };
 
+/// What a password protects, by the keys that it is under; borrowed from the record's context.
+struct OVObjectsByKey {
+    std::vector<OVEncryptableObject*> underNewestKey;  ///< the one that new protection gets
+    std::vector<OVEncryptableObject*> underFormerKeys; ///< what `reencrypt` is still to bring to it
+};
+
 /// Protects notes and attachments by passwords, and knows which manager serves which context.
 ///
 /// A manager serves a context and the children of it. It keeps keys, not passwords: in memory that is locked, guarded
@@ -95,6 +102,13 @@ public:
     /// The manager that has to be asked for a protected field; null when the stored value is to be used, because no
     /// manager serves the record's context or the record is not protected. Raises "Invalid accessor" when it is locked.
     static OVEncryptionCoreManagerProtocol* managerGuarding(const OVEncryptableObject& object, bool isEncrypted);
+    /// Whether a protected attachment is stored with a name that tells something: files that this class has sealed have
+    /// none. False of what a manager of another class has protected.
+    static bool hasTellingName(const OVEncryptableNoteFile& file);
+    /// The names of the master keys that are kept of a password, the newest first, and of the one that encrypted fields
+    /// are under: bytes, which nobody needs a password for. None of what is no such data, or of a later version.
+    static std::vector<std::string> namesOfKeys(const NSData& verifier);
+    static std::optional<std::string> nameOfKey(const NSData& sealedFields);
     /// Whether a file is a decrypted copy that a manager made: nothing made of it is to be kept on disk. Any thread.
     static bool isDecryptedFile(const std::filesystem::path& file);
     /// Calls `use` with a folder for clear bytes of about that length: in memory where there is room, and removed
@@ -154,6 +168,9 @@ public:
     bool removeEncryptionFromObject(OVEncryptableObject& object, NSError* error);
     /// Whether it is protected under another key than the newest of its password. False while that is locked.
     bool isReencryptionNeeded(const OVEncryptableObject& object) const;
+    /// The same of all that a password protects, each looked at once. What cannot be opened is in neither list: all of
+    /// it while the password is locked.
+    OVObjectsByKey objectsByKey(const OVEncryptingPassword& record) const;
     /// Encrypts it, fields and file, with a new key of its own under the newest master key; of a note without its
     /// attachments. Its identifier of the encryption stays.
     bool reencrypt(OVEncryptableObject& object, NSError* error);

@@ -53,6 +53,13 @@ fs::path OVLocalFileManager::applicationGroupURL()
     return current.group ? *current.group : userDataFolder() / current.identity.groupIdentifier;
 }
 
+fs::path OVLocalFileManager::defaultApplicationGroupURL()
+{
+    Settings& current = settings();
+    const std::lock_guard lock(current.mutex);
+    return userDataFolder() / current.identity.groupIdentifier;
+}
+
 fs::path OVLocalFileManager::applicationPersistentDataURL()
 {
     {

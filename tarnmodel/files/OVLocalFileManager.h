@@ -56,6 +56,9 @@ public:
     /// The folder that all programs of the application share: the one that was set, else the one that the group
     /// identifier names. Not made here.
     static std::filesystem::path applicationGroupURL();
+    /// The same whatever `setApplicationGroupURL` has said: where the user's own store lies, whose pictures have their
+    /// thumbnails in the application's folder.
+    static std::filesystem::path defaultApplicationGroupURL();
     /// "Application Data" in the group folder, made when it is missing (a failure is ignored); or the folder of
     /// `setApplicationPersistentDataTestURL`, as it is.
     static std::filesystem::path applicationPersistentDataURL();

@@ -6,7 +6,6 @@
 #include "tarnmodel/platform/coredata/NSPersistentStoreCoordinator.h"
 #include "tarnmodel/platform/foundation/filesystem/NSFileManager.h"
 #include "tarnmodel/platform/foundation/system/Log.h"
-#include "tarnmodel/platform/predicate/NSPredicate.h"
 
 #include <algorithm>
 #include <set>
@@ -63,22 +62,21 @@ std::size_t removeLeftoversOf(OVNoteFile& record, std::vector<fs::path> leftover
 
 } // namespace
 
-void OVNoteFile::removeClearLeftoversInManagedObjectContext(NSManagedObjectContext& context)
+std::size_t OVNoteFile::removeClearLeftoversInManagedObjectContext(NSManagedObjectContext& context)
 {
     const NSPersistentStore* const store = context.persistentStoreCoordinator().persistentStore();
     if (!store)
-        return;
+        return 0;
     struct Find {
         OVNoteFile* record;
         std::vector<fs::path> leftovers;
     };
     std::vector<Find> finds;
-    for (OVNoteFile* record :
-        filesInManagedObjectContext(context, NSPredicate::predicateWithFormat("encrypted == YES")))
+    for (OVNoteFile* record : filesWithPasswordInManagedObjectContext(context))
         if (auto leftovers = leftoversOf(*record); !leftovers.empty())
             finds.push_back({record, std::move(leftovers)});
     if (finds.empty())
-        return;
+        return 0;
     // A process notes what it is about to do before it does it: what was seen above is in a journal, or was finished.
     const std::set<RecordFolder> underWay = foldersInJournals(store->identifier());
     std::size_t removed = 0;
@@ -87,6 +85,7 @@ void OVNoteFile::removeClearLeftoversInManagedObjectContext(NSManagedObjectConte
             removed += removeLeftoversOf(*find.record, std::move(find.leftovers));
     if (removed > 0)
         logMessage(std::to_string(removed) + " files beside those of protected attachments were removed");
+    return removed;
 }
 
 } // namespace tarn

@@ -7,6 +7,7 @@
 #include "tarnmodel/notes/OwedCompaction.h"
 #include "tarnmodel/platform/coredata/NSManagedObjectContext.h"
 #include "tarnmodel/platform/foundation/filesystem/NSFileManager.h"
+#include "tarnmodel/platform/foundation/system/Log.h"
 #include "tarnmodel/platform/foundation/values/NSError.h"
 #include "tarnmodel/platform/foundation/values/NSException.h"
 
@@ -120,6 +121,7 @@ void OVNoteFile::updatePrimitiveSearchText(std::optional<std::string_view> text)
 
 bool OVNoteFile::prepareToAddEncryption(NSError* /*error*/)
 {
+    storesSearchTextAsIs_ = false;
     deleteFileThumbnails();
     return true;
 }
@@ -133,10 +135,43 @@ std::optional<std::string> OVNoteFile::searchText() const
 
 void OVNoteFile::setSearchText(std::optional<std::string_view> text)
 {
-    if (auto* manager = OVEncryptionCoreManager::managerGuarding(*this, encryptedValue()))
+    if (auto* manager = OVEncryptionCoreManager::managerGuarding(*this, encryptedValue())) {
         manager->setSearchText(text, *this);
+        return;
+    }
+    storesSearchTextAsIs_ = encryptedValue();
+    updatePrimitiveSearchText(text);
+}
+
+void OVNoteFile::willSave()
+{
+    leaveNoSearchTextInClear();
+}
+
+void OVNoteFile::deriveFromOthers()
+{
+    leaveNoSearchTextInClear();
+}
+
+/// One writer recognised a text, another one protected the attachment: the text is merged by itself. What was stored
+/// beside the protection by who knew of it, as a dictionary has it, is not touched.
+void OVNoteFile::leaveNoSearchTextInClear()
+{
+    if (!encryptedValue() || isInserted() || storesSearchTextAsIs_)
+        return;
+    const auto text = primitiveSearchText();
+    if (!text || !encryptedData())
+        return;
+    const auto changed = changedValues();
+    if (!changed.contains("searchText") && !changed.contains("encryptedData"))
+        return;
+    OVEncryptionCoreManagerProtocol* const manager = encryptionCoreManager();
+    if (manager && !manager->isObjectLocked(*this))
+        manager->setSearchText(*text, *this);
     else
-        updatePrimitiveSearchText(text);
+        logMessage("What was recognised in an attachment was dropped, which is protected and locked: "
+            + uniqueIdentifier().value_or(""));
+    updatePrimitiveSearchText(std::nullopt);
 }
 
 void OVNoteFile::didAddEncryption()

@@ -1,7 +1,10 @@
 #include "tarnmodel/model/OVNoteFile.h"
+#include "tarnmodel/model/OVPassword.h"
 #include "tarnmodel/model/RecordFetch.h"
 #include "tarnmodel/platform/predicate/NSPredicate.h"
 
+#include <algorithm>
+#include <iterator>
 #include <system_error>
 
 namespace tarn {
@@ -40,6 +43,16 @@ std::vector<OVNoteFile*> OVNoteFile::filesInManagedObjectContext(
     NSFetchRequest request(entityInManagedObjectContext(context));
     request.predicate = withPredicate;
     return fetchRecords<OVNoteFile>(request, context).value_or(std::vector<OVNoteFile*>());
+}
+
+std::vector<OVNoteFile*> OVNoteFile::filesWithPasswordInManagedObjectContext(NSManagedObjectContext& context)
+{
+    std::vector<OVNoteFile*> files;
+    for (const OVPassword* password : OVPassword::passwordsInManagedObjectContext(context, std::nullopt))
+        std::ranges::copy(
+            filesWhere(NSPredicate::predicateWithFormat("password == %@ AND encrypted == YES", password), context),
+            std::back_inserter(files));
+    return files;
 }
 
 OVNoteFile* OVNoteFile::noteFileWithUniqueIdentifier(std::string_view uniqueIdentifier, NSManagedObjectContext& context)

@@ -10,7 +10,6 @@
 
 #include <algorithm>
 #include <iterator>
-#include <ranges>
 
 namespace tarn {
 
@@ -139,8 +138,8 @@ void UnsavedFileChanges::didSaveIntoParent(NSManagedObjectContext& parent)
 
 void UnsavedFileChanges::didDropChanges()
 {
-    for (const Change& change : changes_ | std::views::reverse)
-        undo(change);
+    for (auto change = changes_.rbegin(); change != changes_.rend(); ++change)
+        undo(*change);
     clear();
 }
 

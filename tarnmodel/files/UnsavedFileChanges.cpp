@@ -11,7 +11,6 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <ranges>
 #include <system_error>
 #include <utility>
 
@@ -243,9 +242,9 @@ bool UnsavedFileChanges::removeFolder(const RecordFolder& folder, NSError* error
 
 void UnsavedFileChanges::takeBack(const RecordFolder& folder)
 {
-    for (const Change& change : changes_ | std::views::reverse)
-        if (change.folder == folder)
-            undo(change);
+    for (auto change = changes_.rbegin(); change != changes_.rend(); ++change)
+        if (change->folder == folder)
+            undo(*change);
     std::erase_if(changes_, [&](const Change& change) { return change.folder == folder; });
 }
 

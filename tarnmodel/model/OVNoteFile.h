@@ -55,6 +55,9 @@ public:
     /// All that the predicate picks; all there are without one.
     static std::vector<OVNoteFile*> filesInManagedObjectContext(
         NSManagedObjectContext& context, const std::optional<NSPredicate>& withPredicate);
+    /// Those that passwords of the store protect: found from these, by an index, and not among all that are clear. One
+    /// whose password has not come yet is not among them.
+    static std::vector<OVNoteFile*> filesWithPasswordInManagedObjectContext(NSManagedObjectContext& context);
     /// The first one of this identifier; null for none.
     static OVNoteFile* noteFileWithUniqueIdentifier(std::string_view uniqueIdentifier, NSManagedObjectContext& context);
     /// Those of these identifiers.
@@ -158,8 +161,9 @@ public:
     static void recoverFilesInManagedObjectContext(NSManagedObjectContext& context);
     /// After that: removes what lies in the folders of protected attachments beside their files, such as clear copies
     /// that a loss of power brought back. What living processes have under way stays, and what lies beside a file that
-    /// is missing, which is logged. Costs nothing without protected attachments. On the context's queue.
-    static void removeClearLeftoversInManagedObjectContext(NSManagedObjectContext& context);
+    /// is missing, which is logged. How many went. Costs nothing without protected attachments, and
+    /// nothing for clear ones. On the context's queue.
+    static std::size_t removeClearLeftoversInManagedObjectContext(NSManagedObjectContext& context);
 
     // Copies (tarnmodel/files/OVNoteFile+Copying.cpp) ----------------------------------------------------------------
     /// A new random identifier.
@@ -202,6 +206,10 @@ public:
     std::optional<NSData> sealedFields() const override { return encryptedData(); }
     void setSealedFields(const NSData& sealed) override { setEncryptedData(sealed); }
     std::optional<std::string> encryptionIdentifier() const override { return encryptionUniqueIdentifier(); }
+    /// What was recognised in an attachment that another writer has protected meanwhile goes to what is encrypted,
+    /// where it is unlocked; else it is dropped, which is logged. So no save leaves it in clear.
+    void willSave() override;
+    void deriveFromOthers() override;
     bool prepareToAddEncryption(NSError* error) override;
     void didAddEncryption() override;
     void didRemoveEncryption() override;
@@ -251,9 +259,12 @@ private:
     void describeFile(const FileURL& url, const std::string& name);
     OVNoteFile* revived(NSError* error);
     void giveStoredFileItsDate() const;
+    void leaveNoSearchTextInClear();
     /// The manager to ask; null where it is not protected. Raises where the protected fields cannot be read.
     OVEncryptionCoreManagerProtocol* requireOpen() const;
     void takeCopyOfFile(const OVNoteFile& source);
+
+    bool storesSearchTextAsIs_ = false; ///< it was set without a manager, of a record that was known to be protected
 };
 
 } // namespace tarn

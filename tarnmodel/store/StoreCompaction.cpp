@@ -2,6 +2,7 @@
 
 #include "tarnmodel/notes/OwedCompaction.h"
 #include "tarnmodel/platform/coredata/HeldStoreFile.h"
+#include "tarnmodel/platform/coredata/NSPersistentStore.h"
 #include "tarnmodel/platform/coredata/NSPersistentStoreCoordinator.h"
 #include "tarnmodel/platform/coredata/StoreErrors.h"
 #include "tarnmodel/platform/coredata/StoreFileCompaction.h"
@@ -10,6 +11,7 @@
 #include "tarnmodel/platform/foundation/text/ByteCount.h"
 
 #include <array>
+#include <map>
 #include <memory>
 #include <string>
 #include <system_error>
@@ -59,6 +61,12 @@ void removeLeftoversOf(const HeldStoreFile& held)
     }
 }
 
+bool saysThatItIsOwed(const std::map<std::string, std::string>& metadata)
+{
+    const auto value = metadata.find(std::string(StoreCompactionKey));
+    return value != metadata.end() && value->second == StoreCompactionOwed;
+}
+
 bool hasRoomBeside(const HeldStoreFile& held, NSError* error)
 {
     const fs::path folder = held.file().parent_path();
@@ -78,10 +86,12 @@ bool hasRoomBeside(const HeldStoreFile& held, NSError* error)
 bool StoreCompaction::isOwed(const fs::path& store)
 {
     const auto metadata = NSPersistentStoreCoordinator::metadataForPersistentStoreOfType(StoreType::SQLite, store);
-    if (!metadata)
-        return false;
-    const auto value = metadata->find(std::string(StoreCompactionKey));
-    return value != metadata->end() && value->second == StoreCompactionOwed;
+    return metadata && saysThatItIsOwed(*metadata);
+}
+
+bool StoreCompaction::isOwed(NSPersistentStore& store)
+{
+    return saysThatItIsOwed(store.metadata(nullptr));
 }
 
 bool StoreCompaction::compact(

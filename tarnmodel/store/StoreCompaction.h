@@ -8,6 +8,8 @@
 
 namespace tarn {
 
+class NSPersistentStore;
+
 /// Writes the file of a store anew, once, after something in it was protected: clear texts may lie in pages that were
 /// freed before free pages were wiped.
 ///
@@ -19,6 +21,8 @@ public:
 
     /// Whether the store says that it is to be done. False also when there is no store, or it cannot be read.
     static bool isOwed(const std::filesystem::path& store);
+    /// The same of a store that is open: for who closes it for the compaction, and opens it again.
+    static bool isOwed(NSPersistentStore& store);
     /// Does it, whether it is owed or not: under the lock of the store, whose file is exchanged without a moment in
     /// which there is none. Waits up to 30 seconds for others, as `StoreOptions::whileWaiting` allows. False and an
     /// error, and the store and what it owes as before, when the lock cannot be had, the disk has no room, or a step

@@ -4,6 +4,7 @@
 #include "tarnmodel/platform/coredata/NSManagedObject.h"
 #include "tarnmodel/platform/foundation/filesystem/NSFileManager.h"
 
+#include <atomic>
 #include <filesystem>
 #include <functional>
 #include <optional>
@@ -21,6 +22,7 @@ public:
     int prepared = 0;    ///< calls of `prepareToAddEncryption`
     int protections = 0; ///< calls of `didAddEncryption` and, taken away, of `didRemoveEncryption`
     bool refusesToPrepare = false;
+    mutable std::atomic<int> looks = 0; ///< calls of `sealedFields`
 
     NSManagedObject& encryptableRecord() noexcept override { return *record_; }
     const NSManagedObject& encryptableRecord() const noexcept override { return *record_; }
@@ -37,7 +39,11 @@ public:
     OVEncryptionState encryptionState() const override { return state; }
     void setEncryptionState(const OVEncryptionState& other) override { state = other; }
     bool isEncrypted() const override { return state.encrypted; }
-    std::optional<NSData> sealedFields() const override { return state.encryptedData; }
+    std::optional<NSData> sealedFields() const override
+    {
+        ++looks;
+        return state.encryptedData;
+    }
     void setSealedFields(const NSData& sealed) override { state.encryptedData = sealed; }
     std::optional<std::string> encryptionIdentifier() const override { return state.encryptionUniqueIdentifier; }
     bool prepareToAddEncryption(NSError* error) override

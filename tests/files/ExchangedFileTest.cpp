@@ -15,10 +15,6 @@ using testing::IsEmpty;
 
 class ExchangedFile : public FilesFixture {
 protected:
-    OVNoteFile& attached(std::string_view name, std::string_view bytes)
-    {
-        return *note("# T\n").addAttachmentFromFileURL(aFile(name, bytes));
-    }
     OVNoteFile& saved(std::string_view name, std::string_view bytes)
     {
         OVNoteFile& file = attached(name, bytes);
@@ -38,6 +34,27 @@ protected:
     static std::vector<std::string> namesBeside(const OVNoteFile& file)
     {
         return namesIn(file.primitiveFileURL()->parent_path());
+    }
+    /// The attachment has a file of this name, and no other one lies in its folder.
+    static void expectOnly(const OVNoteFile& file, std::string_view name, std::string_view bytes)
+    {
+        EXPECT_EQ(file.storedFilename(), name);
+        EXPECT_THAT(namesBeside(file), ElementsAre(name));
+        EXPECT_EQ(contentsOf(*file.primitiveFileURL()), bytes);
+    }
+    /// Drops what `change` does to a saved attachment, then saves it; the file is left with this name and "opened".
+    template <typename Change> OVNoteFile& dropThenSave(Change change, std::string_view name)
+    {
+        OVNoteFile& file = saved("a.bin", "one");
+        change(file);
+        context().rollback();
+        expectOnly(file, "a.bin", "one");
+        EXPECT_THAT(besidesTheKinds(), IsEmpty());
+        change(file);
+        save();
+        expectOnly(file, name, "opened");
+        EXPECT_THAT(besidesTheKinds(), IsEmpty());
+        return file;
     }
 };
 INSTANTIATE_TEST_SUITE_P(Stores, ExchangedFile, everyStore(), storeName);
@@ -61,10 +78,8 @@ TEST_P(ExchangedFile, GivesWayToTheFormerOneWhenItIsDropped)
     OVNoteFile& file = saved("a.bin", "one");
     ASSERT_TRUE(exchange(file, "opaque", "sealed"));
     context().rollback();
-    EXPECT_EQ(file.storedFilename(), "a.bin");
     EXPECT_TRUE(file.uploadedValue());
-    EXPECT_THAT(namesBeside(file), ElementsAre("a.bin"));
-    EXPECT_EQ(contentsOf(*file.primitiveFileURL()), "one");
+    expectOnly(file, "a.bin", "one");
     EXPECT_THAT(besidesTheKinds(), IsEmpty());
 }
 
@@ -94,8 +109,7 @@ TEST_P(ExchangedFile, IsNoneWhenItCannotBeWritten)
     };
     EXPECT_FALSE(file.exchangeStoredFile("opaque", fail, &error));
     EXPECT_EQ(error, NSError("test", 7, "full"));
-    EXPECT_THAT(namesBeside(file), ElementsAre("a.bin"));
-    EXPECT_EQ(file.storedFilename(), "a.bin");
+    expectOnly(file, "a.bin", "one");
     EXPECT_FALSE(context().hasChanges());
 }
 
@@ -103,57 +117,51 @@ TEST_P(ExchangedFile, TakesTheFormerOneAwayAtOnceWhereThatWasNeverSaved)
 {
     OVNoteFile& file = attached("a.bin", "one");
     ASSERT_TRUE(exchange(file, "opaque", "sealed"));
-    EXPECT_THAT(namesBeside(file), ElementsAre("opaque"));
+    expectOnly(file, "opaque", "sealed");
     ASSERT_TRUE(exchange(file, "again", "sealed again"));
-    EXPECT_THAT(namesBeside(file), ElementsAre("again"));
+    expectOnly(file, "again", "sealed again");
     context().rollback();
-    EXPECT_THAT(foldersOnDisk(), IsEmpty());
-    EXPECT_THAT(besidesTheKinds(), IsEmpty());
+    expectNothingLeft();
 }
 
 TEST_P(ExchangedFile, MayHaveTheFormerNameAgainBeforeTheSave)
 {
-    OVNoteFile& file = saved("a.bin", "one");
-    ASSERT_TRUE(exchange(file, "opaque", "sealed"));
-    ASSERT_TRUE(exchange(file, "a.bin", "opened"));
-    EXPECT_THAT(namesBeside(file), ElementsAre("a.bin"));
-    EXPECT_EQ(contentsOf(*file.primitiveFileURL()), "opened");
-    context().rollback();
-    EXPECT_THAT(namesBeside(file), ElementsAre("a.bin"));
-    EXPECT_EQ(contentsOf(*file.primitiveFileURL()), "one");
-
-    ASSERT_TRUE(exchange(file, "opaque", "sealed"));
-    ASSERT_TRUE(exchange(file, "a.bin", "opened"));
-    save();
-    EXPECT_THAT(namesBeside(file), ElementsAre("a.bin"));
-    EXPECT_EQ(contentsOf(*file.primitiveFileURL()), "opened");
-    EXPECT_THAT(besidesTheKinds(), IsEmpty());
+    dropThenSave(
+        [](OVNoteFile& file) {
+            ASSERT_TRUE(exchange(file, "opaque", "sealed"));
+            ASSERT_TRUE(exchange(file, "a.bin", "opened"));
+            expectOnly(file, "a.bin", "opened");
+        },
+        "a.bin");
 }
 
 TEST_P(ExchangedFile, GoesAlongWithOtherChangesOfTheFile)
 {
-    OVNoteFile& file = saved("a.bin", "one");
-    ASSERT_TRUE(file.updateAttachmentWithFileWrapper(NSFileWrapper::withContents(NSData::fromText("other"))));
-    file.renameWithFilename("b.bin");
-    ASSERT_TRUE(exchange(file, "opaque", "sealed"));
-    ASSERT_TRUE(exchange(file, "c.bin", "opened"));
-    file.renameWithFilename("d.bin");
-    context().rollback();
-    EXPECT_EQ(file.storedFilename(), "a.bin");
-    EXPECT_THAT(namesBeside(file), ElementsAre("a.bin"));
-    EXPECT_EQ(contentsOf(*file.primitiveFileURL()), "one");
-
-    file.renameWithFilename("b.bin");
-    ASSERT_TRUE(exchange(file, "opaque", "sealed"));
-    ASSERT_TRUE(exchange(file, "c.bin", "opened"));
-    file.renameWithFilename("d.bin");
-    save();
-    EXPECT_THAT(namesBeside(file), ElementsAre("d.bin"));
-    EXPECT_EQ(contentsOf(*file.primitiveFileURL()), "opened");
+    OVNoteFile& file = dropThenSave(
+        [](OVNoteFile& changed) {
+            const auto other = NSFileWrapper::withContents(NSData::fromText("other"));
+            ASSERT_TRUE(changed.updateAttachmentWithFileWrapper(other));
+            changed.renameWithFilename("b.bin");
+            ASSERT_TRUE(exchange(changed, "opaque", "sealed"));
+            ASSERT_TRUE(exchange(changed, "c.bin", "opened"));
+            changed.renameWithFilename("d.bin");
+        },
+        "d.bin");
     file.permanentlyDelete();
     save();
-    EXPECT_THAT(foldersOnDisk(), IsEmpty());
-    EXPECT_THAT(besidesTheKinds(), IsEmpty());
+    expectNothingLeft();
+}
+
+TEST_P(ExchangedFile, GoesAlongWithRenamingsOfTheFile)
+{
+    dropThenSave(
+        [](OVNoteFile& file) {
+            file.renameWithFilename("b.bin");
+            ASSERT_TRUE(exchange(file, "opaque", "sealed"));
+            ASSERT_TRUE(exchange(file, "c.bin", "opened"));
+            file.renameWithFilename("d.bin");
+        },
+        "d.bin");
 }
 
 TEST_P(ExchangedFile, OfARecordThatIsDeletedGoesWithIt)
@@ -162,8 +170,7 @@ TEST_P(ExchangedFile, OfARecordThatIsDeletedGoesWithIt)
     ASSERT_TRUE(exchange(file, "opaque", "sealed"));
     file.permanentlyDelete();
     save();
-    EXPECT_THAT(foldersOnDisk(), IsEmpty());
-    EXPECT_THAT(besidesTheKinds(), IsEmpty());
+    expectNothingLeft();
 }
 
 TEST_P(ExchangedFile, NeedsNoFormerOne)
@@ -176,7 +183,7 @@ TEST_P(ExchangedFile, NeedsNoFormerOne)
     EXPECT_THAT(foldersOnDisk(), IsEmpty());
     ASSERT_TRUE(exchange(file, "opaque", "sealed"));
     save();
-    EXPECT_THAT(namesBeside(file), ElementsAre("opaque"));
+    expectOnly(file, "opaque", "sealed");
 }
 
 TEST_P(ExchangedFile, OfAChildIsOneOfItsParent)
@@ -190,21 +197,32 @@ TEST_P(ExchangedFile, OfAChildIsOneOfItsParent)
         ASSERT_TRUE(!saves || child.save());
     };
     exchangeInChild(false);
-    EXPECT_THAT(namesBeside(file), ElementsAre("a.bin"));
+    expectOnly(file, "a.bin", "one");
     exchangeInChild(true);
     EXPECT_EQ(file.storedFilename(), "opaque");
     EXPECT_THAT(namesBeside(file), ElementsAre("a.bin", "opaque"));
     context().rollback();
-    EXPECT_THAT(namesBeside(file), ElementsAre("a.bin"));
+    expectOnly(file, "a.bin", "one");
     exchangeInChild(true);
     save();
-    EXPECT_THAT(namesBeside(file), ElementsAre("opaque"));
+    expectOnly(file, "opaque", "sealed");
 }
 
 // Two writers ---------------------------------------------------------------------------------------------------------
 
 class ExchangedFileOfTwo : public ExchangedFile {
 protected:
+    void TearDown() override
+    {
+        (void)takeLog(); // merges say there what they decided
+        ExchangedFile::TearDown();
+    }
+    /// A saved attachment of which the store keeps what others wrote.
+    OVNoteFile& contested()
+    {
+        context().setMergePolicy(NSMergePolicy::MergeByPropertyStoreTrump);
+        return saved("a.bin", "one");
+    }
     std::vector<std::string> bytesKeptAside() const
     {
         std::vector<std::string> bytes;
@@ -221,94 +239,91 @@ protected:
         change(*OVNoteFile::noteFileWithUniqueIdentifier(*file.uniqueIdentifier(), *other));
         ASSERT_TRUE(other->save());
     }
+    static void sealTheirs(OVNoteFile& file)
+    {
+        ASSERT_TRUE(exchange(file, "theirs", "sealed by others"));
+        file.setEncryptedValue(true);
+    }
+    static void writeOver(OVNoteFile& file, std::string_view bytes)
+    {
+        ASSERT_TRUE(file.updateAttachmentWithFileWrapper(NSFileWrapper::withContents(NSData::fromText(bytes))));
+    }
 };
 INSTANTIATE_TEST_SUITE_P(Stores, ExchangedFileOfTwo, testing::Values(StoreType::SQLite), storeName);
 
 TEST_P(ExchangedFileOfTwo, GivesWayWhereAMergeKeptTheFormerOne)
 {
-    OVNoteFile& file = saved("a.bin", "one");
-    context().setMergePolicy(NSMergePolicy::MergeByPropertyStoreTrump);
+    OVNoteFile& file = contested();
     meanwhile(file, [](OVNoteFile& other) { other.renameWithFilename("b.bin"); });
     ASSERT_TRUE(exchange(file, "opaque", "sealed"));
     save();
-    EXPECT_EQ(file.storedFilename(), "b.bin");
-    EXPECT_THAT(namesBeside(file), ElementsAre("b.bin"));
-    EXPECT_EQ(contentsOf(*file.primitiveFileURL()), "one");
+    expectOnly(file, "b.bin", "one");
     EXPECT_THAT(besidesTheKinds(), IsEmpty());
-    (void)takeLog();
 }
 
 TEST_P(ExchangedFileOfTwo, StaysAloneWhereBothExchangedIt)
 {
-    OVNoteFile& file = saved("a.bin", "one");
-    context().setMergePolicy(NSMergePolicy::MergeByPropertyStoreTrump);
+    OVNoteFile& file = contested();
     ASSERT_TRUE(exchange(file, "opaque", "sealed"));
-    meanwhile(file, [](OVNoteFile& other) {
-        ASSERT_TRUE(exchange(other, "theirs", "sealed by others"));
-        other.setEncryptedValue(true);
-    });
+    meanwhile(file, sealTheirs);
     save();
-    EXPECT_EQ(file.storedFilename(), "theirs");
-    EXPECT_THAT(namesBeside(file), ElementsAre("theirs"));
-    EXPECT_EQ(contentsOf(*file.primitiveFileURL()), "sealed by others");
-    (void)takeLog();
+    expectOnly(file, "theirs", "sealed by others");
 }
 
 TEST_P(ExchangedFileOfTwo, LeavesNoClearOneThatWasRenamedMeanwhile)
 {
-    OVNoteFile& file = saved("a.bin", "one");
-    context().setMergePolicy(NSMergePolicy::MergeByPropertyStoreTrump);
+    OVNoteFile& file = contested();
     file.renameWithFilename("b.bin");
-    meanwhile(file, [](OVNoteFile& other) {
-        ASSERT_TRUE(exchange(other, "theirs", "sealed by others"));
-        other.setEncryptedValue(true);
-    });
+    meanwhile(file, sealTheirs);
     save();
-    EXPECT_EQ(file.storedFilename(), "theirs");
-    EXPECT_THAT(namesBeside(file), ElementsAre("theirs"));
-    (void)takeLog();
+    expectOnly(file, "theirs", "sealed by others");
 }
 
 TEST_P(ExchangedFileOfTwo, KeepsBytesAsideThatAnotherPutThereMeanwhile)
 {
-    OVNoteFile& file = saved("a.bin", "one");
-    context().setMergePolicy(NSMergePolicy::MergeByPropertyStoreTrump);
+    OVNoteFile& file = contested();
     ASSERT_TRUE(exchange(file, "opaque", "sealed"));
     file.setEncryptedValue(true);
     file.setSealedFields(NSData::fromText("fields"));
-    meanwhile(file, [](OVNoteFile& other) {
-        ASSERT_TRUE(other.updateAttachmentWithFileWrapper(NSFileWrapper::withContents(NSData::fromText("others"))));
-    });
+    meanwhile(file, [](OVNoteFile& other) { writeOver(other, "others"); });
     save();
-    EXPECT_EQ(file.storedFilename(), "opaque");
-    EXPECT_THAT(namesBeside(file), ElementsAre("opaque"));
+    expectOnly(file, "opaque", "sealed");
     EXPECT_THAT(bytesKeptAside(), ElementsAre("others"));
-    (void)takeLog();
 }
 
 TEST_P(ExchangedFileOfTwo, KeepsBytesAsideOfOneThatAnotherProtectedMeanwhile)
 {
-    OVNoteFile& file = saved("a.bin", "one");
-    context().setMergePolicy(NSMergePolicy::MergeByPropertyStoreTrump);
+    OVNoteFile& file = contested();
     meanwhile(file, [&](OVNoteFile& other) {
-        ASSERT_TRUE(exchange(other, "theirs", "sealed by others"));
-        other.setEncryptedValue(true);
+        sealTheirs(other);
         other.setSealedFields(NSData::fromText("fields"));
-        ASSERT_TRUE(file.updateAttachmentWithFileWrapper(NSFileWrapper::withContents(NSData::fromText("ours"))));
+        writeOver(file, "ours");
     });
     save();
-    EXPECT_EQ(file.storedFilename(), "theirs");
-    EXPECT_THAT(namesBeside(file), ElementsAre("theirs"));
+    expectOnly(file, "theirs", "sealed by others");
     EXPECT_THAT(bytesKeptAside(), ElementsAre("ours"));
-    (void)takeLog();
 }
 
 // After a process died ------------------------------------------------------------------------------------------------
 
 class ExchangeOfADeadProcess : public ExchangedFile {
 protected:
-    /// Puts a file beside that of the attachment, and a journal with these lines about its folder.
-    void leave(const OVNoteFile& file, const std::vector<std::pair<std::string, std::string>>& exchanges)
+    /// A saved attachment with more files in its folder, each of which holds its own name.
+    OVNoteFile& savedBeside(const std::vector<std::string>& names)
+    {
+        OVNoteFile& file = saved("a.bin", "one");
+        for (const std::string& name : names)
+            std::ofstream(file.primitiveFileURL()->parent_path() / name) << name;
+        return file;
+    }
+    void saveAs(OVNoteFile& file, std::string_view name, bool isProtected = true)
+    {
+        file.updatePrimitiveFilename(name);
+        file.setEncryptedValue(isProtected);
+        save();
+    }
+    /// Recovers from a journal with these exchanges, former name and new one, in the folder of the attachment.
+    void recoverFrom(const OVNoteFile& file, const std::vector<std::pair<std::string, std::string>>& exchanges)
     {
         const auto journal = filesRoot() / "Local Files" / (".unsaved-" + store().identifier() + "-abcdef");
         std::filesystem::create_directory(journal);
@@ -316,13 +331,7 @@ protected:
         for (const auto& [former, name] : exchanges)
             lines << "=\tLocal Files/Note Files\t" << *file.uniqueIdentifier() << '\t' << former << '\t' << name
                   << '\n';
-    }
-    static void put(const OVNoteFile& file, std::string_view name)
-    {
-        std::ofstream(file.primitiveFileURL()->parent_path() / name) << name;
-    }
-    void recover()
-    {
+        lines.close();
         OVNoteFile::recoverFilesInManagedObjectContext(context());
         EXPECT_THAT(takeLog(), testing::SizeIs(1));
         EXPECT_THAT(besidesTheKinds(), IsEmpty());
@@ -332,25 +341,17 @@ INSTANTIATE_TEST_SUITE_P(Stores, ExchangeOfADeadProcess, everyStore(), storeName
 
 TEST_P(ExchangeOfADeadProcess, IsUndoneWhereItWasNotSaved)
 {
-    OVNoteFile& file = saved("a.bin", "one");
-    put(file, "opaque");
-    put(file, ".unfinished-1");
-    leave(file, {{"a.bin", "opaque"}});
-    recover();
-    EXPECT_THAT(namesBeside(file), ElementsAre("a.bin"));
-    EXPECT_EQ(contentsOf(*file.primitiveFileURL()), "one");
+    OVNoteFile& file = savedBeside({"opaque", ".unfinished-1"});
+    recoverFrom(file, {{"a.bin", "opaque"}});
+    expectOnly(file, "a.bin", "one");
 }
 
 TEST_P(ExchangeOfADeadProcess, IsFinishedWhereItWasSaved)
 {
-    OVNoteFile& file = saved("a.bin", "one");
-    put(file, "opaque");
-    file.updatePrimitiveFilename("opaque");
-    file.setEncryptedValue(true);
-    save();
-    leave(file, {{"a.bin", "opaque"}});
-    recover();
-    EXPECT_THAT(namesBeside(file), ElementsAre("opaque"));
+    OVNoteFile& file = savedBeside({"opaque"});
+    saveAs(file, "opaque");
+    recoverFrom(file, {{"a.bin", "opaque"}});
+    expectOnly(file, "opaque", "opaque");
 }
 
 TEST_P(ExchangeOfADeadProcess, KnowsNoFormerNameOfOneThatWasNeverSaved)
@@ -362,48 +363,34 @@ TEST_P(ExchangeOfADeadProcess, KnowsNoFormerNameOfOneThatWasNeverSaved)
     EXPECT_THAT(contentsOf(filesRoot() / "Local Files" / journals.front() / "journal"),
         testing::Not(testing::HasSubstr("a.bin")));
     save();
-    leave(file, {{"", "opaque"}});
-    recover();
-    EXPECT_THAT(namesBeside(file), ElementsAre("opaque"));
-    file.updatePrimitiveFilename("another");
-    save();
-    leave(file, {{"", "opaque"}});
-    recover();
-    EXPECT_THAT(namesBeside(file), ElementsAre("another"));
+    recoverFrom(file, {{"", "opaque"}});
+    expectOnly(file, "opaque", "sealed");
+    saveAs(file, "another", false);
+    recoverFrom(file, {{"", "opaque"}});
+    expectOnly(file, "another", "sealed");
 }
 
 TEST_P(ExchangeOfADeadProcess, LeavesTheOneThatIsNamedOfMany)
 {
-    OVNoteFile& file = saved("a.bin", "one");
-    put(file, "first");
-    put(file, "second");
-    file.updatePrimitiveFilename("first");
-    file.setEncryptedValue(true);
-    save();
-    leave(file, {{"a.bin", "first"}, {"first", "second"}});
-    recover();
-    EXPECT_THAT(namesBeside(file), ElementsAre("first"));
+    OVNoteFile& file = savedBeside({"first", "second"});
+    saveAs(file, "first");
+    recoverFrom(file, {{"a.bin", "first"}, {"first", "second"}});
+    expectOnly(file, "first", "first");
 }
 
 TEST_P(ExchangeOfADeadProcess, ThatCameAfterARenamingLeavesTheFileItsName)
 {
-    OVNoteFile& file = saved("a.bin", "one");
+    OVNoteFile& file = savedBeside({"opaque"});
     std::filesystem::rename(*file.primitiveFileURL(), file.primitiveFileURL()->parent_path() / "b.bin");
-    put(file, "opaque");
-    leave(file, {{"b.bin", "opaque"}});
-    recover();
-    EXPECT_THAT(namesBeside(file), ElementsAre("a.bin"));
-    EXPECT_EQ(contentsOf(*file.primitiveFileURL()), "one");
+    recoverFrom(file, {{"b.bin", "opaque"}});
+    expectOnly(file, "a.bin", "one");
 }
 
 TEST_P(ExchangeOfADeadProcess, RemovesNothingWhereTheFileOfAProtectedOneIsMissing)
 {
-    OVNoteFile& file = saved("a.bin", "one");
-    file.updatePrimitiveFilename("opaque");
-    file.setEncryptedValue(true);
-    save();
-    leave(file, {{"a.bin", "opaque"}});
-    recover();
+    OVNoteFile& file = savedBeside({});
+    saveAs(file, "opaque");
+    recoverFrom(file, {{"a.bin", "opaque"}});
     EXPECT_THAT(namesBeside(file), ElementsAre("a.bin")) << "and it does not pass for the protected one";
 }
 

@@ -42,6 +42,11 @@ protected:
         std::ofstream(scratch() / name, std::ios::binary | std::ios::trunc) << bytes;
         return scratch() / name;
     }
+    /// A new attachment of a new note.
+    OVNoteFile& attached(std::string_view name, std::string_view bytes = "bytes")
+    {
+        return *note("# T\n").addAttachmentFromFileURL(aFile(name, bytes));
+    }
     /// The folders of records that lie on disk, of both kinds; asides and journals do not count.
     std::vector<std::string> foldersOnDisk() const
     {
@@ -56,6 +61,12 @@ protected:
         std::vector<std::string> names = namesIn(filesRoot() / "Local Files");
         std::erase_if(names, [](const std::string& name) { return name == "Note Images" || name == "Note Files"; });
         return names;
+    }
+    /// No attachment lies on disk, nor anything else that one leaves.
+    void expectNothingLeft() const
+    {
+        EXPECT_THAT(foldersOnDisk(), testing::IsEmpty());
+        EXPECT_THAT(besidesTheKinds(), testing::IsEmpty());
     }
 };
 

@@ -1,7 +1,10 @@
 #include "tests/files/FilesFixture.h"
 #include "tests/support/ProtectedStore.h"
+#include "tests/support/SQLStatistics.h"
 
+#include "tarnmodel/files/thumbnails/OVThumbFileManager.h"
 #include "tarnmodel/model/OVNoteGenericFile.h"
+#include "tarnmodel/model/OVNoteImage.h"
 #include "tarnmodel/platform/foundation/filesystem/NSFileWrapper.h"
 
 namespace tarn {
@@ -85,6 +88,28 @@ TEST_P(ClearLeftovers, AreNotWhatThisContextHasUnderWay)
     EXPECT_THAT(namesIn(folderOf(secret)), testing::SizeIs(2));
     context().rollback();
     EXPECT_EQ(contentsOf(*secret.fileURL()), "bytes of a.bin");
+}
+
+/// What the store does is counted.
+class CountedClearLeftovers : public ClearLeftovers {
+protected:
+    SQLStatistics statistics_;
+};
+INSTANTIATE_TEST_SUITE_P(Stores, CountedClearLeftovers, testing::Values(StoreType::SQLite), storeName);
+
+TEST_P(CountedClearLeftovers, AreLookedForWithoutALookAtClearAttachments)
+{
+    for (int index = 0; index < 300; ++index)
+        insert<OVNoteImage>();
+    OVNoteFile& secret = protectedFile("a.bin");
+    leaveBeside(secret, "a.bin");
+    statistics_.take();
+    sweep();
+    EXPECT_FALSE(OVThumbFileManager::areTherePicturesWithoutThumbs(context()));
+    const SQLStatistics::Counts counts = statistics_.take();
+    EXPECT_GT(counts.statements, 0);
+    EXPECT_LT(counts.scannedRows, 30);
+    EXPECT_THAT(takeLog(), ElementsAre(HasSubstr("1 files")));
 }
 
 } // namespace

@@ -19,13 +19,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::UnorderedElementsAre;
 
-class NoteFile : public FilesFixture {
-protected:
-    OVNoteFile& attached(std::string_view name, std::string_view bytes = "bytes")
-    {
-        return *note("# T\n").addAttachmentFromFileURL(aFile(name, bytes));
-    }
-};
+using NoteFile = FilesFixture;
 INSTANTIATE_TEST_SUITE_P(Stores, NoteFile, everyStore(), storeName);
 
 TEST_P(NoteFile, HasAFolderOfItsKindAndItself)

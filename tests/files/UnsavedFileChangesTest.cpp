@@ -14,10 +14,6 @@ using testing::IsEmpty;
 
 class UnsavedFiles : public FilesFixture {
 protected:
-    OVNoteFile& attached(std::string_view name, std::string_view bytes)
-    {
-        return *note("# T\n").addAttachmentFromFileURL(aFile(name, bytes));
-    }
     /// One that is saved, with what lies on disk for it.
     OVNoteFile& saved(std::string_view name, std::string_view bytes)
     {
@@ -34,8 +30,7 @@ TEST_P(UnsavedFiles, OfAnImportGoWithTheRecord)
     EXPECT_THAT(foldersOnDisk(), ElementsAre(*file.uniqueIdentifier()));
     EXPECT_EQ(besidesTheKinds().size(), 1) << "the journal";
     context().rollback();
-    EXPECT_THAT(foldersOnDisk(), IsEmpty());
-    EXPECT_THAT(besidesTheKinds(), IsEmpty());
+    expectNothingLeft();
 }
 
 TEST_P(UnsavedFiles, AreNoneAnyMoreAfterTheSave)
@@ -56,8 +51,7 @@ TEST_P(UnsavedFiles, OfADeletionAreOutOfSightAndComeBack)
     EXPECT_EQ(contentsOf(url), "one");
     file.permanentlyDelete();
     save();
-    EXPECT_THAT(foldersOnDisk(), IsEmpty());
-    EXPECT_THAT(besidesTheKinds(), IsEmpty());
+    expectNothingLeft();
 }
 
 TEST_P(UnsavedFiles, GoWithTheirNote)
@@ -69,8 +63,7 @@ TEST_P(UnsavedFiles, GoWithTheirNote)
     EXPECT_THAT(foldersOnDisk(), ElementsAre(*file.uniqueIdentifier()));
     file.note()->permanentlyDelete();
     save();
-    EXPECT_THAT(foldersOnDisk(), IsEmpty());
-    EXPECT_THAT(besidesTheKinds(), IsEmpty());
+    expectNothingLeft();
 }
 
 TEST_P(UnsavedFiles, OfARenamingGoBackToTheFormerName)

@@ -3,78 +3,13 @@
 #include "tarnmodel/model/OVNoteGenericFile.h"
 #include "tarnmodel/model/OVPassword.h"
 #include "tarnmodel/platform/coredata/KeyValueObservation.h"
-#include "tarnmodel/platform/foundation/values/NSException.h"
+#include "tests/support/BackwardsManager.h"
 #include "tests/support/StoreFixture.h"
 
-#include <algorithm>
+#include <stdexcept>
 
 namespace tarn {
 namespace {
-
-/// Keeps values back to front in the record: enough to tell what went through it.
-class BackwardsManager : public OVEncryptionCoreManagerProtocol {
-public:
-    bool locked = false;
-
-    bool isObjectLocked(const OVEncryptableObject& object) const override { return locked && object.hasEncryption(); }
-    bool addEncryptionToObject(OVEncryptableObject& object, OVEncryptingPassword& password, NSError*) override
-    {
-        object.setEncryptionState({true, NSData::fromText("cipher"), now(), "key 1", &password});
-        return true;
-    }
-    bool hasCachedPassword(const OVEncryptingPassword&) const override { return !locked; }
-
-    std::optional<std::string> textForNote(const OVEncryptableNote& note, NSError*) override
-    {
-        return backwards(note.storedText());
-    }
-    void setText(std::optional<std::string_view> text, OVEncryptableNote& note) override
-    {
-        note.updatePrimitiveText(backwards(text));
-    }
-    std::optional<std::string> filenameForNoteFile(const OVEncryptableNoteFile& file, NSError*) override
-    {
-        return backwards(file.storedFilename());
-    }
-    void setFilename(std::optional<std::string_view> filename, OVEncryptableNoteFile& file) override
-    {
-        file.updatePrimitiveFilename(backwards(filename));
-    }
-    std::optional<std::string> normalizedFileExtensionForNoteFile(const OVEncryptableNoteFile& file, NSError*) override
-    {
-        return backwards(file.storedNormalizedFileExtension());
-    }
-    void setNormalizedFileExtension(std::optional<std::string_view> extension, OVEncryptableNoteFile& file) override
-    {
-        file.updatePrimitiveNormalizedFileExtension(backwards(extension));
-    }
-    std::optional<std::int64_t> fileSizeForNoteFile(const OVEncryptableNoteFile& file, NSError*) override
-    {
-        return -file.storedFileSize().value_or(0);
-    }
-    void setFileSize(std::optional<std::int64_t> bytes, OVEncryptableNoteFile& file) override
-    {
-        file.updatePrimitiveFileSize(-bytes.value_or(0));
-    }
-    std::optional<std::string> searchTextForNoteFile(const OVEncryptableNoteFile& file, NSError*) override
-    {
-        return backwards(file.storedSearchText());
-    }
-    void setSearchText(std::optional<std::string_view> text, OVEncryptableNoteFile& file) override
-    {
-        file.updatePrimitiveSearchText(backwards(text));
-    }
-    std::optional<std::filesystem::path> fileURLForNoteFile(const OVEncryptableNoteFile&, NSError*) override
-    {
-        return {};
-    }
-
-private:
-    template <typename Text> static std::optional<std::string> backwards(const std::optional<Text>& text)
-    {
-        return text ? std::optional<std::string>(std::in_place, text->rbegin(), text->rend()) : std::nullopt;
-    }
-};
 
 class Protection : public StoreFixture {
 protected:
@@ -86,104 +21,26 @@ protected:
     void serve(BackwardsManager& manager) { OVEncryptionCoreManager::setEncryptionCoreManager(&manager, context()); }
 };
 
-template <typename Call> void expectInvalidAccessor(Call call)
+TEST_P(Protection, CountsAsLockedWithoutAManager)
 {
-    try {
-        call();
-        ADD_FAILURE() << "nothing was raised";
-    } catch (const NSException& exception) {
-        EXPECT_EQ(exception.name(), "Invalid accessor");
-        EXPECT_EQ(exception.reason(),
-            "Called an encrypted accessor with Encryption Manager available and the object locked. Unlock the object "
-            "using the Encryption Manager first, or use the primitive accessor (primitive accessors should be used in "
-            "very special cases, so be fully aware of what you are doing).");
-    }
-}
-
-TEST_P(Protection, WithoutAManagerGivesWhatIsStored)
-{
+    BackwardsManager manager;
     auto& note = insert<OVNote>();
     auto& file = insert<OVNoteGenericFile>();
+    EXPECT_FALSE(note.hasEncryptionAndIsLocked());
+    EXPECT_FALSE(file.hasEncryptionAndIsLocked());
     note.setEncryptedValue(true);
     file.setEncryptedValue(true);
-    note.setText("text");
-    file.setFilename("a.pdf");
-    EXPECT_EQ(note.text(), "text");
-    EXPECT_EQ(file.filename(), "a.pdf");
     EXPECT_EQ(note.encryptionCoreManager(), nullptr);
     EXPECT_TRUE(note.hasEncryptionAndIsLocked());
     EXPECT_TRUE(file.hasEncryptionAndIsLocked());
-}
-
-TEST_P(Protection, OfALockedRecordRaises)
-{
-    BackwardsManager manager;
-    auto& note = insert<OVNote>();
-    auto& file = insert<OVNoteGenericFile>();
-    note.setText("text");
-    file.setFilename("a.pdf");
-    note.setEncryptedValue(true);
-    file.setEncryptedValue(true);
     serve(manager);
-    manager.locked = true;
-    expectInvalidAccessor([&] { (void)note.text(); });
-    expectInvalidAccessor([&] { note.setText("other"); });
-    expectInvalidAccessor([&] { (void)note.valueForKey("text"); });
-    expectInvalidAccessor([&] { (void)file.filename(); });
-    expectInvalidAccessor([&] { file.setFilename("b.pdf"); });
-    expectInvalidAccessor([&] { (void)file.normalizedFileExtension(); });
-    expectInvalidAccessor([&] { file.setNormalizedFileExtension("pdf"); });
-    expectInvalidAccessor([&] { (void)file.fileSizeValue(); });
-    expectInvalidAccessor([&] { file.setFileSizeValue(1); });
-    expectInvalidAccessor([&] { (void)file.searchText(); });
-    expectInvalidAccessor([&] { (void)file.valueForKey("searchText"); });
-    expectInvalidAccessor([&] { file.setSearchText("words"); });
-    EXPECT_EQ(note.primitiveText(), "text");
-    EXPECT_EQ(note.storedValueForKey("text"), Value("text"));
-    EXPECT_EQ(file.storedFilename(), "a.pdf");
-    EXPECT_TRUE(note.hasEncryptionAndIsLocked());
-}
-
-TEST_P(Protection, OfAnOpenRecordGoesThroughTheManager)
-{
-    BackwardsManager manager;
-    auto& note = insert<OVNote>();
-    auto& file = insert<OVNoteGenericFile>();
-    note.setEncryptedValue(true);
-    file.setEncryptedValue(true);
-    serve(manager);
-    note.setText("abc");
-    file.setFilename("a.pdf");
-    file.setNormalizedFileExtension("pdf");
-    file.setFileSizeValue(7);
-    EXPECT_EQ(note.primitiveText(), "cba");
-    EXPECT_EQ(file.primitiveFilename(), "fdp.a");
-    EXPECT_EQ(file.primitiveNormalizedFileExtension(), "fdp");
-    EXPECT_EQ(file.primitiveFileSize(), -7);
-    file.setSearchText("ab");
-    EXPECT_EQ(file.primitiveSearchText(), "ba");
-    EXPECT_EQ(file.searchText(), "ab");
-    EXPECT_EQ(file.valueForKey("searchText"), Value("ab"));
-    EXPECT_EQ(note.text(), "abc");
-    EXPECT_EQ(file.filename(), "a.pdf");
-    EXPECT_EQ(file.normalizedFileExtension(), "pdf");
-    EXPECT_EQ(file.fileSizeValue(), 7);
-    EXPECT_FALSE(note.hasEncryptionAndIsLocked());
-}
-
-TEST_P(Protection, LeavesUnprotectedRecordsAlone)
-{
-    BackwardsManager manager;
-    manager.locked = true;
-    serve(manager);
-    auto& note = insert<OVNote>();
-    int heard = 0;
-    auto observation = note.addObserver("text", [&](NSManagedObject&, std::string_view) { ++heard; });
-    note.setText("abc");
-    EXPECT_EQ(note.primitiveText(), "abc");
-    EXPECT_EQ(note.text(), "abc");
-    EXPECT_EQ(heard, 1);
-    EXPECT_FALSE(note.hasEncryption());
+    for (const bool isLocked : {false, true}) {
+        manager.isLocked = isLocked;
+        EXPECT_EQ(note.hasEncryptionAndIsLocked(), isLocked);
+        EXPECT_EQ(file.hasEncryptionAndIsLocked(), isLocked);
+        EXPECT_TRUE(note.hasEncryption());
+        EXPECT_TRUE(file.hasEncryption());
+    }
 }
 
 TEST_P(Protection, DoesNotKeepANewTextFromObservers)
@@ -209,7 +66,7 @@ TEST_P(Protection, DoesNotKeepANewTextFromObservers)
 TEST_P(Protection, IsOutOfSightInsideABlock)
 {
     BackwardsManager manager;
-    manager.locked = true;
+    manager.isLocked = true;
     auto& note = insert<OVNote>();
     note.setText("stored");
     note.setEncryptedValue(true);
@@ -298,6 +155,22 @@ TEST_P(Protection, HasPasswordsThatAreFound)
     EXPECT_EQ(OVPassword::passwordWithUniqueIdentifier(*password.uniqueIdentifier(), context()), &password);
     EXPECT_EQ(OVPassword::passwordWithUniqueIdentifier("none", context()), nullptr);
     EXPECT_EQ(OVPassword::passwordsInManagedObjectContext(context(), std::nullopt).size(), 2u);
+}
+
+class UnreadablePasswords : public Protection { };
+INSTANTIATE_TEST_SUITE_P(Stores, UnreadablePasswords, testing::Values(StoreType::SQLite), storeName);
+
+TEST_P(UnreadablePasswords, AreNoneAndLogged)
+{
+    const std::string identifier = *insert<OVPassword>().uniqueIdentifier();
+    save();
+    runSQL("ALTER TABLE \"OVPassword\" RENAME TO \"hidden\"");
+    EXPECT_EQ(OVPassword::passwordWithUniqueIdentifier(identifier, context()), nullptr);
+    EXPECT_THAT(OVPassword::passwordsInManagedObjectContext(context(), std::nullopt), testing::IsEmpty());
+    runSQL("ALTER TABLE \"hidden\" RENAME TO \"OVPassword\"");
+    const auto failure = testing::StartsWith("Error while fetching\n");
+    EXPECT_THAT(takeLog(), testing::ElementsAre(failure, failure));
+    EXPECT_NE(OVPassword::passwordWithUniqueIdentifier(identifier, context()), nullptr);
 }
 
 TEST_P(Protection, OfFilesIsTheHostsToAllow)

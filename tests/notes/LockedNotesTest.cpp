@@ -6,6 +6,8 @@
 #include "tarnmodel/platform/foundation/filesystem/NSFileWrapper.h"
 #include "tarnmodel/platform/foundation/values/NSException.h"
 
+#include <nlohmann/json.hpp>
+
 #include <functional>
 #include <vector>
 
@@ -100,6 +102,26 @@ const std::vector<LockedOperation>& lockedOperations()
         {"filename", Raises, [](OVNote& locked, OVNote&) { (void)fileOf(locked).filename(); }},
         {"fileURL", Raises, [](OVNote& locked, OVNote&) { (void)fileOf(locked).fileURL(); }},
         {"searchText", Raises, [](OVNote& locked, OVNote&) { (void)fileOf(locked).searchText(); }},
+        {"normalizedFileExtension", Raises,
+            [](OVNote& locked, OVNote&) { (void)fileOf(locked).normalizedFileExtension(); }},
+        {"fileSize", Raises, [](OVNote& locked, OVNote&) { (void)fileOf(locked).fileSize(); }},
+        {"setFilename", Raises, [](OVNote& locked, OVNote&) { fileOf(locked).setFilename("x"); }},
+        {"setNormalizedFileExtension", Raises,
+            [](OVNote& locked, OVNote&) { fileOf(locked).setNormalizedFileExtension("x"); }},
+        {"setFileSize", Raises, [](OVNote& locked, OVNote&) { fileOf(locked).setFileSize(1); }},
+        {"setSearchText", Raises, [](OVNote& locked, OVNote&) { fileOf(locked).setSearchText("x"); }},
+        {"dictionaryRepresentation", Raises,
+            [](OVNote& locked, OVNote&) { (void)fileOf(locked).dictionaryRepresentation(); }},
+        {"jsonRepresentation", Raises, [](OVNote& locked, OVNote&) { (void)fileOf(locked).jsonRepresentation(); }},
+        {"loadDictionaryRepresentation", Raises,
+            [](OVNote& locked, OVNote&) {
+                fileOf(locked).loadDictionaryRepresentation({{"filename", "x"}});
+            }},
+        {"encryptableObjects", GoesOn,
+            [](OVNote& locked, OVNote&) {
+                EXPECT_THAT(
+                    locked.password()->encryptableObjects(), testing::UnorderedElementsAre(&locked, &fileOf(locked)));
+            }},
         {"filenameIsEqualTo", Raises, [](OVNote& locked, OVNote&) { (void)fileOf(locked).filenameIsEqualTo("x"); }},
         {"renameWithFilename", Raises, [](OVNote& locked, OVNote&) { fileOf(locked).renameWithFilename("x"); }},
         {"updateNormalizedExtension", Raises,

@@ -4,6 +4,7 @@
 #include "tarnmodel/encryption/OVEncryptionCoreManager.h"
 #include "tarnmodel/model/OVNoteGenericFile.h"
 #include "tarnmodel/platform/foundation/values/NSException.h"
+#include "tests/support/InvalidAccessor.h"
 #include "tests/support/TextKeeper.h"
 
 namespace tarn {
@@ -112,16 +113,7 @@ TEST_P(NoteEncryption, RefusesTheTextOfALockedNoteAndChangesNothing)
     const auto modified = protected_->modificationDate();
     const auto clock = protected_->vectorClock();
 
-    try {
-        static_cast<void>(protected_->text());
-        FAIL() << "no exception";
-    } catch (const NSException& exception) {
-        EXPECT_EQ(exception.name(), "Invalid accessor");
-        EXPECT_EQ(exception.reason(),
-            "Called an encrypted accessor with Encryption Manager available and the object locked. Unlock the object "
-            "using the Encryption Manager first, or use the primitive accessor (primitive accessors should be used in "
-            "very special cases, so be fully aware of what you are doing).");
-    }
+    expectInvalidAccessor([&] { static_cast<void>(protected_->text()); });
     EXPECT_THROW(protected_->setText("x"), NSException);
     EXPECT_THROW(protected_->updateNoteWithText("# Other #tag"), NSException);
     EXPECT_THROW(protected_->appendNoteWithText("x"), NSException);

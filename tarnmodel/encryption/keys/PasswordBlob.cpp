@@ -119,6 +119,14 @@ std::optional<PasswordBlob> PasswordBlob::read(const NSData& data, NSError* erro
     return blob;
 }
 
+std::vector<MasterKeyIdentifier> PasswordBlob::keys() const
+{
+    std::vector<MasterKeyIdentifier> names{newestKey_};
+    for (std::size_t index = 0; index < formerKeys_; ++index)
+        names.push_back(arrayOf<sizeof(MasterKeyIdentifier)>(data_.span().subspan(kFormerAt + index * kFormerLength)));
+    return names;
+}
+
 bool PasswordBlob::readDerivation(NSError* error)
 {
     const std::span<const std::byte> bytes = data_.span();

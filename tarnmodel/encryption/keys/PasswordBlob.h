@@ -38,6 +38,8 @@ public:
 
     const KeyDerivation& derivation() const noexcept { return derivation_; }
     const MasterKeyIdentifier& newestKey() const noexcept { return newestKey_; }
+    /// The names of all its keys, the newest first; what they are is not needed.
+    std::vector<MasterKeyIdentifier> keys() const;
     /// Whether it was written by one who had this key, which is its newest.
     bool isVouchedForBy(const MasterKey& key) const;
 

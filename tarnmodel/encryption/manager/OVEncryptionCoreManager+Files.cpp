@@ -6,6 +6,14 @@
 
 namespace tarn {
 
+bool OVEncryptionCoreManager::hasTellingName(const OVEncryptableNoteFile& file)
+{
+    const auto name = file.storedFilename();
+    const auto sealed = file.isEncrypted() ? file.sealedFields() : std::nullopt;
+    return name && !isOpaqueFileName(*name) && sealed
+        && SealedRecord::masterKeyOf(*sealed, RecordKind::Attachment, nullptr);
+}
+
 std::optional<std::filesystem::path> OVEncryptionCoreManager::fileURLForNoteFile(
     const OVEncryptableNoteFile& file, NSError* error)
 {

@@ -3,7 +3,35 @@
 #include "tarnmodel/encryption/manager/Protection.h"
 #include "tarnmodel/encryption/sealing/SealedFile.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace tarn {
+
+namespace {
+
+std::string textOf(const MasterKeyIdentifier& name)
+{
+    return {reinterpret_cast<const char*>(name.data()), name.size()};
+}
+
+} // namespace
+
+std::vector<std::string> OVEncryptionCoreManager::namesOfKeys(const NSData& verifier)
+{
+    std::vector<std::string> names;
+    if (const auto blob = PasswordBlob::read(verifier, nullptr))
+        std::ranges::transform(blob->keys(), std::back_inserter(names), textOf);
+    return names;
+}
+
+std::optional<std::string> OVEncryptionCoreManager::nameOfKey(const NSData& sealedFields)
+{
+    for (const RecordKind kind : {RecordKind::Note, RecordKind::Attachment})
+        if (const auto name = SealedRecord::masterKeyOf(sealedFields, kind, nullptr))
+            return textOf(*name);
+    return std::nullopt;
+}
 
 bool OVEncryptionCoreManager::addEncryptionToObject(
     OVEncryptableObject& object, OVEncryptingPassword& record, NSError* error)
@@ -28,6 +56,22 @@ bool OVEncryptionCoreManager::isReencryptionNeeded(const OVEncryptableObject& ob
     const auto newest = password ? vault_->newestKeyOf(*password, nullptr) : std::nullopt;
     const auto record = newest ? vault_->open(object, nullptr) : nullptr;
     return record && record->masterKey() != newest->identifier;
+}
+
+OVObjectsByKey OVEncryptionCoreManager::objectsByKey(const OVEncryptingPassword& record) const
+{
+    OVObjectsByKey objects;
+    const auto newest = vault_->newestKeyOf(record, nullptr);
+    if (!newest)
+        return objects;
+    for (OVEncryptableObject* object : record.encryptableObjects()) {
+        const Vault::Record opened = object->isEncrypted() ? vault_->open(*object, nullptr) : nullptr;
+        if (!opened)
+            continue;
+        const bool isNewest = opened->masterKey() == newest->identifier;
+        (isNewest ? objects.underNewestKey : objects.underFormerKeys).push_back(object);
+    }
+    return objects;
 }
 
 bool OVEncryptionCoreManager::reencrypt(OVEncryptableObject& object, NSError* error)

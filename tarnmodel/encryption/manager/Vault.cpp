@@ -11,6 +11,10 @@
 namespace tarn {
 namespace {
 
+/// Of the names of sealed files.
+constexpr std::string_view kDigits = "0123456789abcdef";
+constexpr std::size_t kBytesOfName = 16;
+
 /// Observers are of the main queue; `manager` tells them who it is, and is not followed.
 void post(std::string_view name, const void* manager)
 {
@@ -37,13 +41,17 @@ bool isYetToBeFilled(const OVEncryptableObject& object)
 
 std::string opaqueFileName()
 {
-    constexpr std::string_view digits = "0123456789abcdef";
     std::string name;
-    for (const std::byte byte : randomArray<std::array<std::byte, 16>>()) {
-        name += digits[std::to_integer<std::size_t>(byte) >> 4U];
-        name += digits[std::to_integer<std::size_t>(byte) & 15U];
+    for (const std::byte byte : randomArray<std::array<std::byte, kBytesOfName>>()) {
+        name += kDigits[std::to_integer<std::size_t>(byte) >> 4U];
+        name += kDigits[std::to_integer<std::size_t>(byte) & 15U];
     }
     return name;
+}
+
+bool isOpaqueFileName(std::string_view name)
+{
+    return name.size() == 2 * kBytesOfName && name.find_first_not_of(kDigits) == std::string_view::npos;
 }
 
 OVEncryptionCoreManager::Vault::Vault(const OVEncryptionCoreManager& manager, const OVEncryptionOptions& wanted)

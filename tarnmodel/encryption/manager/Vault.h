@@ -54,5 +54,6 @@ bool isYetToBeFilled(const OVEncryptableObject& object);
 RecordKind kindOf(const OVEncryptableObject& object);
 /// A name for a sealed file, which tells nothing.
 std::string opaqueFileName();
+bool isOpaqueFileName(std::string_view name);
 
 } // namespace tarn

@@ -18,6 +18,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::size_t kBufferLength = std::size_t{64} << 10;
+constexpr std::uint64_t kMostToFillUp = std::uint64_t{1} << 30;
 
 enum class ArchivedBytes : std::uint8_t { OfFiles, Zeros };
 
@@ -27,7 +28,15 @@ public:
     FolderArchiver(const fs::path& folder, const ArchiveSink& sink, ArchivedBytes bytes, NSError* error)
         : folder_(folder), sink_(sink), bytes_(bytes), error_(error), buffer_(kBufferLength)
     { }
-    ~FolderArchiver() { std::ranges::fill(buffer_, std::byte{0}); }
+    ~FolderArchiver()
+    {
+        std::ranges::fill(buffer_, std::byte{0});
+        // Freeing ends an archive that is not ended yet, and nobody is to hear of it. The library lets go of all it has
+        // only where it may end the archive, which means to fill up the file that is begun: not for seconds.
+        isGivenUp_ = true;
+        if (bytesLeft_ > kMostToFillUp)
+            archive_write_fail(writer_.get());
+    }
     FolderArchiver(const FolderArchiver&) = delete;
     FolderArchiver& operator=(const FolderArchiver&) = delete;
 
@@ -39,21 +48,20 @@ public:
         archive_write_set_bytes_per_block(writer, 0);
         if (archive_write_open2(writer, this, nullptr, pass, nullptr, nullptr) != ARCHIVE_OK)
             return failArchive(error_, writer);
-        return writeContentsOf(folder_, {}) && (archive_write_close(writer) == ARCHIVE_OK || failUnlessRefused());
+        return writeContentsOf(folder_, {}) && succeed(archive_write_close(writer) == ARCHIVE_OK);
     }
 
 private:
-    static la_ssize_t pass(archive* writer, void* self, const void* bytes, std::size_t length)
+    /// Never fails: the library would not let go of all it has after that. `succeed` tells of a refusal.
+    static la_ssize_t pass(archive* /*writer*/, void* self, const void* bytes, std::size_t length)
     {
-        auto* const archiver = static_cast<FolderArchiver*>(self);
-        if (archiver->sink_({static_cast<const std::byte*>(bytes), length}))
-            return static_cast<la_ssize_t>(length);
-        archiver->isRefused_ = true;
-        archive_set_error(writer, ECANCELED, "refused");
-        return -1;
+        auto& archiver = *static_cast<FolderArchiver*>(self);
+        if (!archiver.isRefused_ && !archiver.isGivenUp_)
+            archiver.isRefused_ = !archiver.sink_({static_cast<const std::byte*>(bytes), length});
+        return static_cast<la_ssize_t>(length);
     }
 
-    bool failUnlessRefused() { return isRefused_ ? false : failArchive(error_, writer_.get()); }
+    bool succeed(bool isWritten) { return !isRefused_ && (isWritten || failArchive(error_, writer_.get())); }
 
     bool writeContentsOf(const fs::path& folder, const fs::path& name)
     {
@@ -89,7 +97,7 @@ private:
 
     bool writeHeader(ArchiveEntry& entry)
     {
-        return archive_write_header(writer_.get(), entry.get()) == ARCHIVE_OK || failUnlessRefused();
+        return succeed(archive_write_header(writer_.get(), entry.get()) == ARCHIVE_OK);
     }
 
     bool writeLink(ArchiveEntry& entry, const fs::path& item, const fs::path& name)
@@ -107,15 +115,15 @@ private:
 
     bool writeBytes(const fs::path& item, const struct stat& status)
     {
-        auto rest = static_cast<std::uint64_t>(status.st_size);
+        bytesLeft_ = static_cast<std::uint64_t>(status.st_size);
         FileDescriptor file;
         if (bytes_ == ArchivedBytes::OfFiles) {
             file.reset(::open(item.c_str(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC));
             if (!file)
                 return failFileAccess(error_, errno, item, "read");
         }
-        while (rest > 0) {
-            const auto some = std::span(buffer_).first(std::min<std::uint64_t>(rest, buffer_.size()));
+        while (bytesLeft_ > 0) {
+            const auto some = std::span(buffer_).first(std::min<std::uint64_t>(bytesLeft_, buffer_.size()));
             if (file) {
                 const auto length = readFully(file, some, item, error_);
                 if (!length)
@@ -123,9 +131,10 @@ private:
                 if (*length < some.size()) // it became shorter
                     return failFileAccess(error_, ESTALE, item, "read");
             }
-            if (archive_write_data(writer_.get(), some.data(), some.size()) != static_cast<la_ssize_t>(some.size()))
-                return failUnlessRefused();
-            rest -= some.size();
+            const auto written = archive_write_data(writer_.get(), some.data(), some.size());
+            if (!succeed(written == static_cast<la_ssize_t>(some.size())))
+                return false;
+            bytesLeft_ -= some.size();
         }
         struct stat after = status;
         if (file && ::fstat(file.get(), &after) != 0)
@@ -141,7 +150,9 @@ private:
     const ArchivedBytes bytes_;
     NSError* const error_;
     std::vector<std::byte> buffer_;
-    bool isRefused_ = false; ///< by the sink, which has said why
+    std::uint64_t bytesLeft_ = 0; ///< of the file that is being written
+    bool isRefused_ = false;      ///< by the sink, which has said why
+    bool isGivenUp_ = false;      ///< the sink may be gone
     ArchiveWriter writer_;
 };
 

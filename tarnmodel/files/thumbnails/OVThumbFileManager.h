@@ -4,6 +4,7 @@
 #include "tarnmodel/platform/foundation/filetypes/UTType.h"
 #include "tarnmodel/platform/imaging/Bitmap.h"
 
+#include <cstddef>
 #include <filesystem>
 #include <functional>
 #include <map>
@@ -14,6 +15,7 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 namespace tarn {
 
@@ -85,11 +87,14 @@ public:
     void deleteAllThumbsForImageURLs(std::span<const std::filesystem::path> imageURLs) const;
 
     // Sweeping (OVThumbFileManager+Sweeping.cpp) ----------------------------------------------------------------------
-    /// Whether the store has protected pictures. On the context's queue.
+    /// Whether passwords of the store protect pictures. On the context's queue.
     static bool areTherePicturesWithoutThumbs(NSManagedObjectContext& context);
-    /// Where the store has protected pictures: deletes the thumbnails here that are of none of its clear ones, such as
-    /// those that were made in clear times and that nobody deleted. Reads all pictures. On the context's queue.
-    void deleteThumbsWithoutPicture(NSManagedObjectContext& context) const;
+    /// Where the store has protected pictures: the thumbnails here that are of none of its clear ones, such as those
+    /// that were made in clear times and that nobody deleted. Reads all pictures; none where the store cannot be asked.
+    /// On the context's queue.
+    std::vector<std::filesystem::path> thumbsWithoutPicture(NSManagedObjectContext& context) const;
+    /// Deletes these; how many went. On the context's queue.
+    std::size_t deleteThumbsWithoutPicture(NSManagedObjectContext& context) const;
 
     // Making (OVThumbFileManager+Making.cpp) ------------------------------------------------------------------------
     /// Makes the thumbnail, upright, in place of an earlier one. Readers see the earlier one or this one, whole. None

@@ -5,8 +5,40 @@
 #include "tests/encryption/EncryptionFixture.h"
 #include "tests/support/FaultyDisk.h"
 
+#include <gmock/gmock.h>
+
+#include <array>
+#include <atomic>
+#include <utility>
+#include <vector>
+
 namespace tarn {
 namespace {
+
+/// A password that protects plain objects.
+class PasswordOf final : public OVEncryptingPassword {
+public:
+    PasswordOf(OVPassword& record, std::vector<OVEncryptableObject*> objects)
+        : record_(record), objects_(std::move(objects))
+    { }
+
+    NSManagedObject& passwordRecord() noexcept override { return record_; }
+    const NSManagedObject& passwordRecord() const noexcept override { return record_; }
+    std::string passwordIdentifier() const override { return record_.passwordIdentifier(); }
+    std::optional<NSData> verifier() const override { return record_.verifier(); }
+    void setVerifier(const std::optional<NSData>& verifier) override { record_.setVerifier(verifier); }
+    std::int16_t verifierVersion() const override { return record_.verifierVersion(); }
+    void setVerifierVersion(std::int16_t version) override { record_.setVerifierVersion(version); }
+    std::optional<NSData> passwordHint() const override { return record_.passwordHint(); }
+    void setPasswordHint(const std::optional<NSData>& hint) override { record_.setPasswordHint(hint); }
+    bool allowsBiometry() const override { return record_.allowsBiometry(); }
+    void setAllowsBiometry(bool allows) override { record_.setAllowsBiometry(allows); }
+    std::vector<OVEncryptableObject*> encryptableObjects() const override { return objects_; }
+
+private:
+    OVPassword& record_;
+    std::vector<OVEncryptableObject*> objects_;
+};
 
 class PasswordChanges : public EncryptionFixture {
 protected:
@@ -119,6 +151,29 @@ TEST_F(PasswordChanges, AreBroughtToRecordsOneByOne)
     manager->lock();
     EXPECT_FALSE(manager->reencrypt(note, &error));
     EXPECT_EQ(error.code(), OVEncryptionErrorLocked);
+}
+
+TEST_F(PasswordChanges, LeaveRecordsByTheirKeysEachLookedAtOnce)
+{
+    OVPassword& password = savedPassword("secret");
+    PlainNote& old = protectedNote("old", password);
+    PlainNoteFile& file = protectedFile("plan.pdf", "the bytes", password);
+    PlainNote& broken = protectedNote("broken", password);
+    broken.state.encryptedData = NSData::fromText("nothing of ours");
+    ASSERT_TRUE(manager->rotateMasterKey(password, "secret", nullptr));
+    PlainNote& young = protectedNote("young", password);
+    PlainNote& clear = plainNote("clear");
+    const PasswordOf own(password, {&old, &clear, &young, &broken, &file});
+    for (std::atomic<int>* const looks : {&old.looks, &young.looks, &broken.looks, &file.looks})
+        *looks = 0;
+    const OVObjectsByKey objects = manager->objectsByKey(own);
+    EXPECT_THAT(objects.underNewestKey, testing::ElementsAre(&young));
+    EXPECT_THAT(objects.underFormerKeys, testing::ElementsAre(&old, &file));
+    EXPECT_THAT((std::array<int, 4>{old.looks, young.looks, broken.looks, file.looks}), testing::Each(1));
+    manager->lock();
+    const OVObjectsByKey locked = manager->objectsByKey(own);
+    EXPECT_THAT(locked.underNewestKey, testing::IsEmpty());
+    EXPECT_THAT(locked.underFormerKeys, testing::IsEmpty());
 }
 
 TEST_F(PasswordChanges, AreMadeInAContextOnAStore)

@@ -138,6 +138,47 @@ TEST_F(FolderArchives, HoldFilesFoldersAndLinksOnly)
     EXPECT_EQ(error.code(), OVEncryptionErrorFile);
 }
 
+TEST_F(FolderArchives, EndWhereTheyAreRefused)
+{
+    const fs::path folder = place("folder");
+    fs::create_directory(folder);
+    writeFile(folder / "file", std::string(200'000, 'x'));
+    const auto length = lengthOfFolderArchive(folder, nullptr);
+    ASSERT_TRUE(length);
+    for (const std::uint64_t most : {std::uint64_t(0), std::uint64_t(600), std::uint64_t(100'000), *length - 1}) {
+        std::uint64_t taken = 0;
+        int refusals = 0;
+        const ArchiveSink sink = [&](std::span<const std::byte> bytes) {
+            taken += bytes.size();
+            refusals += taken > most ? 1 : 0;
+            return taken <= most;
+        };
+        NSError error;
+        EXPECT_FALSE(writeFolderArchive(folder, sink, &error)) << most;
+        EXPECT_EQ(refusals, 1) << "nothing comes behind it";
+        EXPECT_EQ(error, NSError()) << "which the sink gives";
+    }
+}
+
+TEST_F(FolderArchives, EndWhereAFileCannotBeReadToItsEnd)
+{
+    const fs::path folder = place("folder");
+    fs::create_directory(folder);
+    writeFile(folder / "file", std::string(200'000, 'x'));
+    const auto length = lengthOfFolderArchive(folder, nullptr);
+    std::uint64_t taken = 0;
+    const ArchiveSink sink = [&](std::span<const std::byte> bytes) {
+        taken += bytes.size();
+        fs::resize_file(folder / "file", 100'000);
+        return true;
+    };
+    NSError error;
+    EXPECT_FALSE(writeFolderArchive(folder, sink, &error));
+    EXPECT_EQ(error.code(), OVEncryptionErrorFile);
+    EXPECT_GT(taken, 0U);
+    EXPECT_LT(taken, *length) << "it is not filled up with what is not the file's";
+}
+
 TEST_F(FolderArchives, AreNotTrustedWithNames)
 {
     EXPECT_TRUE(isTaken("file", AE_IFREG));

@@ -36,7 +36,7 @@ const std::string& SignatureTable::columnTable() const noexcept
 
 // Tables and columns --------------------------------------------------------------------------------------------------
 
-StoreSchema::StoreSchema(const NSManagedObjectModel& model) : model_(model)
+StoreSchema::StoreSchema(const NSManagedObjectModel& model)
 {
     for (const NSEntityDescription* entity : model.entities())
         if (&entity->rootEntity() == entity)

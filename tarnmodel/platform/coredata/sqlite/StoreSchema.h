@@ -129,7 +129,6 @@ private:
     void linkColumns();
     StoreTable& mutableTable(const NSEntityDescription& entity) { return *tablesByRoot_.at(&entity.rootEntity()); }
 
-    const NSManagedObjectModel& model_;
     std::vector<std::unique_ptr<StoreTable>> tables_;
     std::vector<std::unique_ptr<JoinTable>> joins_;
     std::unordered_map<const NSEntityDescription*, StoreTable*> tablesByRoot_;
