@@ -21,6 +21,7 @@ COREDATA = f"{LIBRARY}/platform/coredata"
 CORVEL = f"{LIBRARY}/corvel"
 IMAGING = f"{LIBRARY}/platform/imaging"
 ENCRYPTION = f"{LIBRARY}/encryption"
+BACKUP = f"{LIBRARY}/backup"
 FLOORS = [
     {f"{FOUNDATION}/values"},
     {f"{FOUNDATION}/text"},
@@ -59,6 +60,8 @@ FLOORS = [
     {f"{ENCRYPTION}/manager"},
     {f"{LIBRARY}/model"},
     {f"{LIBRARY}/{room}" for room in ("notes", "tags", "files", "files/thumbnails", "sync", "search", "backup")},
+    {f"{BACKUP}/archive"},
+    {f"{BACKUP}/snapshot", f"{BACKUP}/restoring"},
     {f"{LIBRARY}/{room}" for room in ("diagnosis", "store")},
     {LIBRARY},
     {"tools/tarn"},
@@ -77,7 +80,7 @@ STANDS_ALONE_ON = {
 }
 
 # Below the face of these lie their own rooms: nobody includes them from outside, and they are not installed.
-FACES = (COREDATA, CORVEL, IMAGING, ENCRYPTION)
+FACES = (COREDATA, CORVEL, IMAGING, ENCRYPTION, BACKUP)
 # Who may look behind a face all the same.
 LOOKS_BEHIND = {"tests", "benchmarks", "fuzz", "tools/modelgen"}
 

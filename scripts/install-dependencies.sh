@@ -11,7 +11,8 @@ set -euo pipefail
 declare -A packages=(
   [build]="g++ cmake ninja-build libicu-dev libsqlite3-dev nlohmann-json3-dev libfmt-dev libmd-dev libsodium-dev libcli11-dev
     libjpeg-dev libjpeg62-turbo-dev libpng-dev libwebp-dev libgif-dev libarchive-dev"
-  [tests]="libgtest-dev libgmock-dev librapidcheck-dev libcmark-dev python3 sqlite3 strace tzdata zstd clang-format doxygen git npm"
+  [tests]="libgtest-dev libgmock-dev librapidcheck-dev libcmark-dev python3 python3-markdown-it sqlite3 strace tzdata zstd clang-format
+    doxygen git npm"
   [bench]="libbenchmark-dev libcmark-dev ripgrep npm python3 zstd"
   [format]="clang-format"
   [tidy]="clang clang-tidy clang-tools python3"

@@ -60,7 +60,10 @@
 
 // The Markdown parser.
 #include "tarnmodel/corvel/CVKAST.h"
+#include "tarnmodel/corvel/CVKBlock.h"
 #include "tarnmodel/corvel/CVKHashtag.h"
+#include "tarnmodel/corvel/CVKLink.h"
+#include "tarnmodel/corvel/CVKRange.h"
 #include "tarnmodel/corvel/CVKTextSummary.h"
 #include "tarnmodel/corvel/CVKWikiLink.h"
 

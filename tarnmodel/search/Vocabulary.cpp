@@ -134,6 +134,11 @@ std::string_view Term::matchingSpelling(std::string_view word) const noexcept
     return {};
 }
 
+std::span<const Term> termsOfSearches() noexcept
+{
+    return kTerms;
+}
+
 const Term* termOfWord(std::string_view word) noexcept
 {
     if (!word.starts_with('@'))

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -37,6 +38,8 @@ struct Term {
     std::string_view matchingSpelling(std::string_view word) const noexcept;
 };
 
+/// All terms; they live as long as the program. Any thread.
+std::span<const Term> termsOfSearches() noexcept;
 /// The first term that the word matches, or null.
 const Term* termOfWord(std::string_view word) noexcept;
 /// The term with this English spelling, or null.

@@ -53,6 +53,17 @@ TEST_F(EditCommands, AppendPrependAndReplaceTexts)
     EXPECT_EQ(output({"show", "List"}), "# List\nall\nnew\nfrom a pipe");
 }
 
+TEST_F(EditCommands, ReplaceTheWholeTextWhereTold)
+{
+    const std::string identifier = note("# List\n\nfirst\n\n#home");
+    EXPECT_EQ(json({"replace", "--whole", "List"}, "# New\r\n\nall\n").at("title"), "New");
+    EXPECT_EQ(output({"show", identifier}), "# New\r\n\nall\n");
+    EXPECT_EQ(json({"tags"}).at("tags").size(), 0U);
+    output({"replace", identifier, "--whole", ""});
+    EXPECT_EQ(output({"show", identifier}), "");
+    EXPECT_EQ(run({"append", "--whole", identifier, "x"}).exitCode, 2);
+}
+
 TEST_F(EditCommands, AppendNothingForAnEmptyText)
 {
     const std::string identifier = note("body");

@@ -1,4 +1,4 @@
-#include "tools/tarn/ExportNames.h"
+#include "tools/tarn/export/ExportNames.h"
 
 #include <gtest/gtest.h>
 
@@ -38,31 +38,59 @@ TEST(ExportNames, AreCutBetweenCharactersBeforeTheExtension)
     EXPECT_EQ(portableFileName("a." + repeated("b", 300), 255).size(), 255U);
 }
 
+namespace {
+
+/// Gives a name to a note of this title where nobody has any.
+std::string givenTo(ExportNames& names, const std::string& title)
+{
+    return names.noteFile({}, portableNoteName(title), [](const auto&) { return false; }).native();
+}
+
+} // namespace
+
 TEST(ExportNames, AreGivenOutOnce)
 {
     ExportNames names;
-    EXPECT_EQ(names.fileName("a.png"), "a.png");
-    EXPECT_EQ(names.fileName("A.PNG"), "A (2).PNG");
-    EXPECT_EQ(names.fileName("a (2).png"), "a (2) (2).png");
-    EXPECT_EQ(names.fileName("a.png"), "a (3).png");
-    EXPECT_EQ(names.fileName("\xC3\xA9"), "\xC3\xA9");
-    EXPECT_EQ(names.fileName("E\xCC\x81"), "E\xCC\x81 (2)");
-    EXPECT_EQ(names.fileName("stra\xC3\x9F"
-                             "e"),
+    EXPECT_EQ(givenTo(names, "a"), "a.md");
+    EXPECT_EQ(givenTo(names, "A"), "A 2.md");
+    EXPECT_EQ(givenTo(names, "a 2"), "a 2 2.md");
+    EXPECT_EQ(givenTo(names, "a"), "a 3.md");
+    EXPECT_EQ(givenTo(names, "\xC3\xA9"), "\xC3\xA9.md");
+    EXPECT_EQ(givenTo(names, "E\xCC\x81"), "E\xCC\x81 2.md");
+    EXPECT_EQ(givenTo(names,
+                  "stra\xC3\x9F"
+                  "e"),
         "stra\xC3\x9F"
-        "e");
-    EXPECT_EQ(names.fileName("STRASSE"), "STRASSE (2)");
-    EXPECT_EQ(names.fileName("a?"), "a_");
-    EXPECT_EQ(names.fileName("a*"), "a_ (2)");
-    EXPECT_EQ(names.fileName("e"), "e");
+        "e.md");
+    EXPECT_EQ(givenTo(names, "STRASSE"), "STRASSE 2.md");
+    EXPECT_EQ(givenTo(names, "a?"), "a_.md");
+    EXPECT_EQ(givenTo(names, "a*"), "a_ 2.md");
+    EXPECT_EQ(givenTo(names, "e"), "e.md");
 }
 
 TEST(ExportNames, StayWithinTheirLengthWithACounter)
 {
     ExportNames names;
     const std::string title = repeated("\xE3\x82\xAC", 100);
-    EXPECT_EQ(names.noteName(title).size(), 240U);
-    EXPECT_EQ(names.noteName(title), repeated("\xE3\x82\xAC", 78) + " (2)");
+    EXPECT_EQ(givenTo(names, title).size(), 255U);
+    EXPECT_EQ(givenTo(names, title), repeated("\xE3\x82\xAC", 83) + " 2.md");
+}
+
+TEST(ExportNames, LeaveOutWhatOthersHave)
+{
+    ExportNames names;
+    EXPECT_EQ(names.folder("Work/Home"), "Work/Home");
+    EXPECT_EQ(names.folder("work/HOME/x"), "Work/Home/x");
+    EXPECT_EQ(
+        names.noteFile("Work", "home", [](const auto& path) { return path == "Work/home.md"; }), "Work/home 2.md");
+    EXPECT_EQ(names.folder("a.md"), "a.md");
+    EXPECT_EQ(givenTo(names, "A"), "A 2.md") << "a folder has it";
+}
+
+TEST(ExportNames, KeepFoldersOfNotesApartFromThoseOfAttachments)
+{
+    EXPECT_EQ(portableFolder("a: b/Attachments/.c"), "a_ b/_Attachments/_c");
+    EXPECT_EQ(portableFolder("attached"), "attached");
 }
 
 } // namespace tarn::test

@@ -27,8 +27,8 @@ TEST_F(ImportCommand, MakesNotesOfFilesWithTheirDates)
     ASSERT_EQ(::utimensat(AT_FDCWD, path.c_str(), times.data(), 0), 0);
     const auto document = nlohmann::ordered_json::parse(run({"--json", "import", folder() / "in"}).output);
     EXPECT_EQ(keysOf(document),
-        (std::vector<std::string>{
-            "imported", "attachments", "skipped", "skippedFiles", "failed", "links", "leftLinks", "seconds"}));
+        (std::vector<std::string>{"imported", "updated", "unchanged", "conflicted", "moved", "gone", "goneFiles",
+            "attachments", "skipped", "skippedFiles", "failed", "links", "leftLinks", "seconds"}));
     EXPECT_EQ(document.at("imported"), 1);
     EXPECT_EQ(document.at("skipped"), 0);
     EXPECT_TRUE(document.at("failed").empty());
@@ -116,7 +116,8 @@ TEST_F(ImportCommand, NamesWhatItSkips)
             ".b.md: hidden", ".git: a hidden folder", "a.md: seen before", "p.png: a picture", "q.JPEG: a picture"}));
     const TarnResult quiet = run({"import", path, folder() / "in"});
     EXPECT_EQ(quiet.errors, "");
-    EXPECT_TRUE(quiet.output.starts_with("imported 1 note, skipped 5 files (2 pictures) in ")) << quiet.output;
+    EXPECT_TRUE(quiet.output.starts_with("imported 0 notes, 1 unchanged, skipped 5 files (2 pictures) in "))
+        << quiet.output;
     const TarnResult told = run({"import", "--verbose", path, folder() / "in"});
     EXPECT_EQ(std::ranges::count(told.errors, '\n'), 5) << told.errors;
     EXPECT_NE(told.errors.find("tarn: skipped: " + (folder() / "in" / ".git").string() + ": a hidden folder\n"),

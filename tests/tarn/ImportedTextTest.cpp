@@ -1,4 +1,5 @@
-#include "tools/tarn/ImportedText.h"
+#include "tools/tarn/import/SourceText.h"
+#include "tools/tarn/import/TitleRules.h"
 
 #include "tests/support/CaseName.h"
 
@@ -46,6 +47,19 @@ std::vector<Case> readCases()
         cases.back()[line.substr(0, colon)] = unescaped(std::string_view(line).substr(colon + 2));
     }
     return cases;
+}
+
+struct ImportedText : SourceText {
+    std::string text;
+};
+
+/// As an import makes it that leaves titles to the texts.
+ImportedText importedTextOfFile(std::string_view contents)
+{
+    ImportedText imported{sourceTextOfFile(contents), {}};
+    const TitleFacts facts = titleFactsOf(imported, "/a/Name.md", TitleMode::Text);
+    imported.text = textOfNote(imported, facts, titleRuleFor(facts, TitleMode::Text, std::nullopt, false), "");
+    return imported;
 }
 
 std::string textOfDate(const std::optional<NSDate>& date)

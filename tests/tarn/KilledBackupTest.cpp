@@ -1,38 +1,19 @@
 // A process may die at any step of a backup or of a restore: under the name of a backup there is a whole one, and a
 // restore that was cut off is completed by the next one.
 
-#include "tests/tarn/TarnCommandTest.h"
+#include "tests/tarn/KilledTarnTest.h"
 
 #include <gmock/gmock.h>
 
-#include <array>
-#include <cstdlib>
 #include <filesystem>
 #include <string>
-#include <string_view>
-
-#include <sys/wait.h>
+#include <vector>
 
 namespace tarn::test {
 
 namespace fs = std::filesystem;
 
-namespace {
-
-struct Death {
-    std::string_view call;
-    int stride; ///< from one of these calls to the next at which it dies
-    int deaths; ///< so many at least
-};
-
-std::ostream& operator<<(std::ostream& stream, const Death& death)
-{
-    return stream << death.call;
-}
-
-} // namespace
-
-class KilledBackup : public TarnCommandTest, public testing::WithParamInterface<Death> {
+class KilledBackup : public KilledTarnTest {
 protected:
     KilledBackup()
     {
@@ -44,30 +25,6 @@ protected:
     }
 
     fs::path backup() const { return folder() / "all.tarnbackup"; }
-    /// Whether the program came to its end, killed at that call or not.
-    bool comesToItsEnd(int time, const fs::path& store, const std::string& command) const
-    {
-        const std::string line = "XDG_CACHE_HOME='" + (folder() / "cache").string()
-            + "' strace -f -qq -o /dev/null -e inject=" + std::string(GetParam().call)
-            + ":signal=KILL:when=" + std::to_string(time) + " " + TARN_PROGRAM + " --store '" + store.string() + "' "
-            + command + " >/dev/null 2>&1";
-        const int status = std::system(line.c_str());
-        return WIFEXITED(status) && WEXITSTATUS(status) == 0;
-    }
-    /// Not where the system forbids it, and not with a leak checker, which wants to trace the program itself.
-    static bool canBeTraced()
-    {
-        static const std::string line
-            = std::string("strace -f -qq -o /dev/null ") + TARN_PROGRAM + " --version >/dev/null 2>&1";
-        return std::system(line.c_str()) == 0;
-    }
-    TarnResult runIn(const fs::path& store, std::vector<std::string> command) const
-    {
-        command.insert(command.begin(), {"--store", store.string()});
-        TarnProcess process(command);
-        process.setVariable("XDG_CACHE_HOME", (folder() / "cache").string());
-        return process.finish();
-    }
     std::string contentsOf(const fs::path& store) const
     {
         std::string contents;
@@ -129,6 +86,6 @@ TEST_P(KilledBackup, IsRestoredByTheNextRun)
 INSTANTIATE_TEST_SUITE_P(Calls, KilledBackup,
     testing::Values(Death{"pwrite64", 47, 3}, Death{"fsync", 2, 2}, Death{"unlink", 5, 1},
         Death{"rename,renameat2", 1, 1}, Death{"write", 3, 1}, Death{"openat", 41, 2}),
-    [](const auto& death) { return std::string(death.param.call.substr(0, death.param.call.find(','))); });
+    nameOfDeath);
 
 } // namespace tarn::test

@@ -2,6 +2,7 @@
 
 #include "tests/tarn/TarnCommandTest.h"
 
+#include <filesystem>
 #include <gmock/gmock.h>
 
 #include <cstdlib>
@@ -100,7 +101,9 @@ TEST_F(Limits, OfThreadsAreNoMatter)
     writeFolder(kNotes);
     for (const int threads : {0, 1, 2}) {
         SCOPED_TRACE(threads);
-        const TarnResult imported = runWithThreads(threads, {"import", folder() / "in", "--json"});
+        const auto place = folder() / ("in " + std::to_string(threads));
+        std::filesystem::copy(folder() / "in", place);
+        const TarnResult imported = runWithThreads(threads, {"import", place, "--json"});
         EXPECT_EQ(imported.exitCode, 0) << imported.errors;
         EXPECT_EQ(nlohmann::json::parse(imported.output).at("imported"), kNotes) << imported.output;
         EXPECT_EQ(runWithThreads(threads, {"search", "--count", "text"}).output,

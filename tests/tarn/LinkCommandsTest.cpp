@@ -140,4 +140,31 @@ TEST_F(LinkCommands, ShowAndResolveConflicts)
     EXPECT_EQ(run({"conflict", "resolve", third}).exitCode, 1);
 }
 
+TEST_F(LinkCommands, TakeTheURLOfANoteForIt)
+{
+    const std::string identifier = note("# Ärger & Co + 1?\n\nfirst");
+    const std::string lower = "tarn://x-callback-url/open-note?id=";
+    const auto url = [&](std::vector<std::string> options) {
+        options.insert(options.begin(), {"url", identifier});
+        const std::string line = output(options);
+        return line.substr(0, line.size() - 1);
+    };
+    for (const std::string& argument : {url({}), url({"--title"}), url({"--new-window"}), url({"--header", "A & B"}),
+             "TARN://X-Callback-URL/open-note?id=" + identifier, url({}) + "#part", " " + url({}) + " ",
+             lower + identifier.substr(0, 8),
+             std::string("tarn://x-callback-url/open-note?title=%c3%a4rger%20%26%20co%20+%201%3F")})
+        EXPECT_EQ(output({"show", argument}), "# Ärger & Co + 1?\n\nfirst") << argument;
+    for (const std::string& argument : {lower + "4711", lower, std::string("tarn://x-callback-url/open-tag?name=x"),
+             std::string("tarn://x-callback-url/open-note?title=%"),
+             std::string("tarn://x-callback-url/open-note?title=%20"),
+             std::string("https://example.org/?id=") + identifier, lower + "4711&title=%C3%84rger"}) {
+        const TarnResult result = run({"show", argument});
+        EXPECT_EQ(result.exitCode, 1) << argument;
+        EXPECT_NE(result.errors.find("there is no note \"" + argument), std::string::npos) << result.errors;
+    }
+    note("# Ärger & Co + 1?\n\nsecond");
+    EXPECT_EQ(run({"pin", url({"--title"})}).exitCode, 2) << "several have the title";
+    EXPECT_EQ(json({"pin", url({})}).at("notes").at(0).at("uniqueIdentifier"), identifier);
+}
+
 } // namespace tarn::test

@@ -4,6 +4,7 @@
 
 #include <chrono>
 #include <fstream>
+#include <iterator>
 #include <sstream>
 #include <thread>
 
@@ -73,6 +74,27 @@ TEST_F(ProtectCommands, MakeTheFirstPasswordAndEncryptTheText)
     EXPECT_THAT(json({"passwords"}).at("passwords"), SizeIs(1));
     EXPECT_THAT(allBytesIn(store()), Not(HasSubstr("MARKER-OF-THE-TEXT")));
     EXPECT_EQ(output(withPassword({"show", identifier})), "# Diary\n\nMARKER-OF-THE-TEXT");
+}
+
+TEST_F(ProtectCommands, LeaveNoHashOfAnImportedText)
+{
+    output({"import", file("in/a.md", "# A\n\nsecret"), file("in/b.md", "# B")});
+    const auto record = database().parent_path() / "database.imports.jsonl";
+    const auto hashes = [&] {
+        std::ifstream stream(record);
+        const std::string text(std::istreambuf_iterator<char>(stream), {});
+        std::size_t count = 0;
+        for (std::size_t at = 0; (at = text.find("\"whole\"", at)) != std::string::npos; ++at)
+            ++count;
+        return count;
+    };
+    EXPECT_EQ(hashes(), 2U);
+    protect(json({"show", "A"}).at("uniqueIdentifier"));
+    EXPECT_EQ(hashes(), 1U);
+    EXPECT_EQ(json({"import", folder() / "in"}).at("unchanged"), 2);
+    file("in/a.md", "# A\n\nanother");
+    const auto document = json({"import", folder() / "in"});
+    EXPECT_EQ(document.at("skippedFiles").at(0).at("reason"), "its note is protected by a password");
 }
 
 TEST_F(ProtectCommands, LeaveALockedNoteAloneAndEndWith3)
@@ -237,7 +259,8 @@ TEST_F(ProtectCommands, RotateTheKeysOfAPassword)
 {
     protectedNote("# Diary\n\nhidden");
     const std::string before = stored("SELECT hex(encryptedData) FROM OVNote_large");
-    output(withPassword({"password", "rotate", identifierOfPassword().substr(0, 8)}));
+    EXPECT_THAT(output(withPassword({"password", "rotate", identifierOfPassword().substr(0, 8)})),
+        HasSubstr("encrypted 1 record anew"));
     EXPECT_NE(stored("SELECT hex(encryptedData) FROM OVNote_large"), before);
     EXPECT_EQ(output(withPassword({"show", "Diary"})), "# Diary\n\nhidden");
 }

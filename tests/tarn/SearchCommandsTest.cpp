@@ -72,12 +72,13 @@ TEST_F(SearchCommands, PrintWhatAnApplicationNeeds)
     writeNotes();
     const auto document = nlohmann::ordered_json::parse(
         output({"--json", "search", "--limit", "1", "apple -pear \"big red\" #fruit or apples"}));
-    EXPECT_EQ(keysOf(document), (std::vector<std::string>{"count", "notes", "predicate", "highlight", "editorTerm"}));
+    EXPECT_EQ(keysOf(document),
+        (std::vector<std::string>{"count", "notes", "predicate", "highlight", "editorTerm", "hints"}));
     EXPECT_EQ(document.at("highlight"), "(big red)|(#fruit)|(apple)|(apples)");
     EXPECT_EQ(document.at("editorTerm"), "apple");
     const auto explained = nlohmann::ordered_json::parse(output({"--json", "search", "--explain", "apple"}));
     EXPECT_EQ(keysOf(explained),
-        (std::vector<std::string>{"count", "notes", "predicate", "highlight", "editorTerm", "plan", "times"}));
+        (std::vector<std::string>{"count", "notes", "predicate", "highlight", "editorTerm", "plan", "times", "hints"}));
     EXPECT_EQ(keysOf(explained.at("times")), (std::vector<std::string>{"compileMilliseconds", "fetchMilliseconds"}));
     const std::string text = output({"search", "--explain", "apple"});
     EXPECT_NE(text.find("title CONTAINS[cd] \"apple\""), std::string::npos) << text;

@@ -34,10 +34,11 @@ TEST_F(StoreSafety, TwentyFourWritersAtOnceKeepAllNotes)
 TEST_F(StoreSafety, TwoImportsAtOnceMakeOneTagOfEachName)
 {
     for (int index = 0; index < 150; ++index)
-        file("in/" + std::to_string(index) + ".md",
-            "# N" + std::to_string(index) + "\n\n#a #b/" + std::to_string(index % 50) + "\n");
+        for (const char* place : {"in/", "also/"})
+            file(place + std::to_string(index) + ".md",
+                "# N" + std::to_string(index) + "\n\n#a #b/" + std::to_string(index % 50) + "\n");
     TarnProcess first(arguments({"import", folder() / "in"}));
-    TarnProcess second(arguments({"import", folder() / "in"}));
+    TarnProcess second(arguments({"import", folder() / "also"}));
     first.start();
     second.start();
     EXPECT_EQ(first.finish().exitCode, 0);

@@ -1,6 +1,6 @@
 #include "tools/tarn/TextFile.h"
 #include "tarnmodel/model/OVNote.h"
-#include "tools/tarn/MarkdownFiles.h"
+#include "tools/tarn/import/MarkdownFiles.h"
 
 #include <gtest/gtest.h>
 

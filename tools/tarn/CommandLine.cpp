@@ -143,8 +143,9 @@ CommandLine::CommandLine(Output& output)
         "  tarn new '# Groceries'\n"
         "  tarn search '#home garden'\n"
         "  tarn COMMAND --help\n\n"
-        "NOTE is an identifier, the first 8 or more characters of one, or a title. Where several notes have the\n"
-        "title, commands that read take the latest modified; those that write take none, or it with --latest.\n"
+        "NOTE is an identifier, the first 8 or more characters of one, a title, or the URL of a note. Where several\n"
+        "notes have the title, commands that read take the latest modified; those that write take none, or it with\n"
+        "--latest.\n"
         "Exit codes: 0 done, 1 nothing found or failed, 2 usage, 3 locked, 4 needs migration, 5 corrupt,\n"
         "6 input or output.");
 }

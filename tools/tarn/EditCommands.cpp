@@ -17,25 +17,27 @@ struct EditCommand {
     const char* explanation;
     std::array<const char*, 2> examples;
     void (OVNote::*edit)(std::string_view);
+    void (OVNote::*editWhole)(std::string_view); ///< with --whole; null where there is no such flag
 };
 
 constexpr std::array kEditCommands{
     EditCommand{"append", "Add text at the end of a note",
         "The text stands on lines of its own, above a last line of the note's tags.",
-        {"tarn append Groceries '- [ ] pears'", "date | tarn append Diary"}, &OVNote::appendNoteWithText},
+        {"tarn append Groceries '- [ ] pears'", "date | tarn append Diary"}, &OVNote::appendNoteWithText, nullptr},
     EditCommand{"prepend", "Add text at the beginning of a note",
         "The text stands below a first line that begins with \"# \", else in front of everything.",
-        {"tarn prepend Groceries '- [ ] plums'", "date | tarn prepend Diary"}, &OVNote::prependNoteWithText},
+        {"tarn prepend Groceries '- [ ] plums'", "date | tarn prepend Diary"}, &OVNote::prependNoteWithText, nullptr},
     EditCommand{"replace", "Replace the text of a note",
         "A heading of level 1 to 3 on the first of several lines stays; without one the new text begins with an empty "
         "line.",
-        {"tarn replace Groceries '- [ ] pears'", "curl -s https://example.org/list.md | tarn replace List"},
-        &OVNote::replaceNoteWithText},
+        {"tarn replace Groceries '- [ ] pears'", "curl -s https://example.org/list.md | tarn replace --whole List"},
+        &OVNote::replaceNoteWithText, &OVNote::updateNoteWithText},
 };
 
 struct EditArguments {
     NotesToChange note;
     std::optional<std::string> text;
+    bool whole = false;
 };
 
 ExitCode editNote(const Invocation& invocation, const EditArguments& arguments, const EditCommand& edit)
@@ -55,7 +57,7 @@ ExitCode editNote(const Invocation& invocation, const EditArguments& arguments, 
         session->write([&] {
             note = &arguments.note.one(*session);
             requireEditable(*note);
-            (note->*edit.edit)(text.text());
+            (note->*(arguments.whole ? edit.editWhole : edit.edit))(text.text());
         });
     });
     writeNote(invocation, *note);
@@ -73,6 +75,8 @@ void addEditCommands(CommandLine& commandLine)
                                                            .explanation = edit.explanation,
                                                            .examples = {edit.examples.begin(), edit.examples.end()}},
             [arguments, &edit](const Invocation& invocation) { return editNote(invocation, *arguments, edit); });
+        if (edit.editWhole)
+            command.addFlag("--whole", arguments->whole, "Replace everything, a heading and the tags included");
         arguments->note.addOneTo(command, "An identifier, the beginning of one, or a title");
         command.addArgument("TEXT", arguments->text, "The text; standard input when there is none, or \"-\"");
     }

@@ -7,6 +7,7 @@
 #include "tools/tarn/Interruption.h"
 #include "tools/tarn/NoteList.h"
 #include "tools/tarn/NotesToChange.h"
+#include "tools/tarn/TitledText.h"
 
 #include <memory>
 #include <optional>
@@ -18,6 +19,7 @@ namespace {
 struct EditorArguments {
     NotesToChange note;
     bool allowEmpty = false;
+    bool create = false;
 };
 
 /// A note as it was when the editor began with it.
@@ -37,13 +39,20 @@ std::string commandOfEditor()
     throw CommandFailure(ExitCode::Usage, "there is no editor; set VISUAL or EDITOR, for example to \"nano\"");
 }
 
-NoteBefore readNote(const Invocation& invocation, const NotesToChange& argument)
+/// The note that is to be edited; none where it is to be made, for which no store is made yet.
+std::optional<NoteBefore> readNote(const Invocation& invocation, const EditorArguments& arguments)
 {
+    if (arguments.create && !storeExists(invocation))
+        return std::nullopt;
     StoreSession session(invocation, StoreSession::Access::Write);
-    OVNote& note = argument.one(session);
+    OVNote* found = arguments.create ? arguments.note.find(session) : &arguments.note.one(session);
+    if (!found)
+        return std::nullopt;
+    OVNote& note = *found;
     session.unlock([&] { return std::vector{&note}; });
     requireEditable(note);
-    return {note.uniqueIdentifier().value_or(""), nameOfNote(note), note.text().value_or(""), note.encryptedValue()};
+    return NoteBefore{
+        note.uniqueIdentifier().value_or(""), nameOfNote(note), note.text().value_or(""), note.encryptedValue()};
 }
 
 OVNote& noteAsItIsNow(const NoteBefore& before, StoreSession& session)
@@ -106,10 +115,15 @@ ExitCode leaveUnchanged(const Invocation& invocation, const NoteBefore& before, 
     return ExitCode::Done;
 }
 
-ExitCode edit(const Invocation& invocation, const EditorArguments& arguments)
+void refuseBlank(const std::string& edited, const std::string& before, const EditorArguments& arguments)
 {
-    const std::string editor = commandOfEditor();
-    const NoteBefore before = readNote(invocation, arguments.note);
+    if (isBlank(edited) && !isBlank(before) && !arguments.allowEmpty)
+        throw CommandFailure(ExitCode::Failed, "the text came back empty, and was not saved; --allow-empty saves it");
+}
+
+ExitCode editNote(
+    const Invocation& invocation, const EditorArguments& arguments, const NoteBefore& before, const std::string& editor)
+{
     const Interruption interruption;
     EditorRun run(before.text,
         before.isProtected ? PrivateTextFile::Content::OfProtectedNote : PrivateTextFile::Content::OfOpenNote);
@@ -119,14 +133,56 @@ ExitCode edit(const Invocation& invocation, const EditorArguments& arguments)
     std::optional<StoreSession> session;
     const OVNote* note = nullptr;
     run.saveBy([&] {
-        if (isBlank(edited) && !isBlank(before.text) && !arguments.allowEmpty)
-            throw CommandFailure(
-                ExitCode::Failed, "the text came back empty, and was not saved; --allow-empty saves it");
+        refuseBlank(edited, before.text, arguments);
         session.emplace(invocation, StoreSession::Access::Write);
         note = &save(before, edited, *session);
     });
     writeNote(invocation, *note);
     return ExitCode::Done;
+}
+
+/// A new note of this text. Somebody else may have made one of the same title meanwhile; it stays, and is told of.
+OVNote& make(const std::string& text, const EditorArguments& arguments, StoreSession& session)
+{
+    OVNote* note = nullptr;
+    const OVNote* other = nullptr;
+    session.write([&] {
+        other = arguments.note.findLatest(session);
+        note = OVNote::noteWithText(text, session.context());
+    });
+    if (other)
+        tellOnStandardError(
+            nameOfNote(*other) + " was made while the editor was open; the edited text is in " + nameOfNote(*note));
+    return *note;
+}
+
+ExitCode createNote(const Invocation& invocation, const EditorArguments& arguments, const std::string& editor)
+{
+    const std::string text = textWithTitle(arguments.note.title());
+    const Interruption interruption;
+    EditorRun run(text, PrivateTextFile::Content::OfOpenNote);
+    const std::string edited = run.textFromEditor(editor);
+    if (edited == text) {
+        const std::string place = run.placeOfUnsaved();
+        tellOnStandardError("no note was made" + (place.empty() ? "" : "; what the editor left is in " + place));
+        return ExitCode::Failed;
+    }
+    std::optional<StoreSession> session;
+    const OVNote* note = nullptr;
+    run.saveBy([&] {
+        refuseBlank(edited, text, arguments);
+        session.emplace(invocation, StoreSession::Access::Write);
+        note = &make(edited, arguments, *session);
+    });
+    writeNote(invocation, *note);
+    return ExitCode::Done;
+}
+
+ExitCode edit(const Invocation& invocation, const EditorArguments& arguments)
+{
+    const std::string editor = commandOfEditor();
+    const std::optional<NoteBefore> before = readNote(invocation, arguments);
+    return before ? editNote(invocation, arguments, *before, editor) : createNote(invocation, arguments, editor);
 }
 
 } // namespace
@@ -141,9 +197,12 @@ void addEditorCommand(CommandLine& commandLine)
                            "locked only to read\nand to save. Where somebody else has changed the text meanwhile, both "
                            "texts are kept, as versions of one\nnote (see 'tarn conflicts'). When the editor fails, "
                            "nothing is saved. A file that was changed and could not\nbe saved stays, and is named.",
-            .examples = {"tarn edit Groceries", "EDITOR=nano tarn edit Groceries"}},
+            .examples
+            = {"tarn edit Groceries", "EDITOR=nano tarn edit Groceries", "tarn edit --create 'Packing list'"}},
         [arguments](const Invocation& invocation) { return edit(invocation, *arguments); });
     command.addFlag("--allow-empty", arguments->allowEmpty, "Save also a text that came back empty");
+    command.addFlag("--create", arguments->create,
+        "Where there is no such note, make one of this title; none when the editor changes nothing");
     arguments->note.addOneTo(command, "An identifier, the beginning of one, or a title");
 }
 

@@ -1,6 +1,7 @@
 #include "tarnmodel/tags/TagPredicates.h"
 #include "tools/tarn/CommandLine.h"
 #include "tools/tarn/Commands.h"
+#include "tools/tarn/ListingOptions.h"
 #include "tools/tarn/NoteFilter.h"
 #include "tools/tarn/NoteJSON.h"
 #include "tools/tarn/NoteList.h"
@@ -17,22 +18,26 @@ struct ListOptions {
     std::optional<std::string> filter;
     std::optional<std::string> tag;
     std::size_t limit = 0;
+    ListingOptions listing;
 };
 
 ExitCode list(const Invocation& invocation, const ListOptions& options)
 {
     const auto tagPredicate
         = options.tag ? std::optional(predicateForNotesTagged(tagNameForArgument(*options.tag))) : std::nullopt;
+    options.listing.refuseNULInJSON(invocation);
+    const auto since = options.listing.predicate();
     StoreSession session(invocation, StoreSession::Access::Read);
-    const auto predicate = conjunction(tagPredicate, predicateOfFilter(options.filter.value_or("active")));
-    const auto notes = session.notes(predicate, options.limit);
+    const auto predicate
+        = conjunction(conjunction(tagPredicate, since), predicateOfFilter(options.filter.value_or("active")));
+    const auto notes = session.notes(predicate, options.listing.order(), options.limit);
     if (invocation.json) {
         const bool isWhole = options.limit == 0 || notes.size() < options.limit;
         writeNoteList(invocation.output, notes.size(), notes,
             {{"total", isWhole ? notes.size() : session.countNotes(predicate)}});
     } else {
         for (const OVNote* note : notes)
-            writeNoteLine(invocation.output, *note);
+            invocation.output.write(noteLine(invocation.output, *note).append(options.listing.end()));
     }
     return session.exitCodeOfSearch(!notes.empty(), "no notes found; 'tarn list --filter all' shows every note");
 }
@@ -48,7 +53,8 @@ void addListCommand(CommandLine& commandLine)
             .explanation
             = "A line holds the beginning of the identifier, the date of the last change, marks and the title.\n"
               "Marks: * pinned, x trashed, a archived, r read-only, e encrypted, ! in conflict.",
-            .examples = {"tarn list --limit 20", "tarn list --filter trashed", "tarn --json list --tag home/kitchen"}},
+            .examples = {"tarn list --limit 20", "tarn list --filter trashed", "tarn --json list --tag home/kitchen",
+                "tarn list --since 2021-03-15 --sort title"}},
         [options](const Invocation& invocation) { return list(invocation, *options); });
     command
         .addOption("--filter", options->filter,
@@ -57,6 +63,7 @@ void addListCommand(CommandLine& commandLine)
         .called("NAME");
     command.addOption("--tag", options->tag, "Only notes with this tag, or one below it").called("NAME");
     command.addCount("--limit", options->limit, "At most so many notes");
+    options->listing.addTo(command);
 }
 
 } // namespace tarn

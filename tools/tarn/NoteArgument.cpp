@@ -4,6 +4,7 @@
 #include "tarnmodel/platform/foundation/text/Folding.h"
 #include "tools/tarn/CommandFailure.h"
 #include "tools/tarn/NoteList.h"
+#include "tools/tarn/NoteURL.h"
 
 #include <algorithm>
 #include <span>
@@ -90,6 +91,16 @@ OVNote* noteWithTitle(std::string_view title, StoreSession& session, SharedTitle
     return nullptr;
 }
 
+/// The identifier is what lasts; the title counts where there is none.
+OVNote* noteOfURL(const NoteURL& url, StoreSession& session, SharedTitle sharedTitle)
+{
+    if (!url.identifier.empty()) {
+        OVNote* note = noteWithIdentifier(url.identifier, session);
+        return note ? note : noteWithIdentifierBeginning(url.identifier, session);
+    }
+    return fold(url.title).empty() ? nullptr : noteWithTitle(url.title, session, sharedTitle);
+}
+
 } // namespace
 
 OVNote* noteWithIdentifier(std::string_view identifier, StoreSession& session)
@@ -98,14 +109,21 @@ OVNote* noteWithIdentifier(std::string_view identifier, StoreSession& session)
     return matches.empty() ? nullptr : matches.front();
 }
 
-OVNote& noteForArgument(std::string_view argument, StoreSession& session, SharedTitle sharedTitle)
+OVNote* findNoteForArgument(std::string_view argument, StoreSession& session, SharedTitle sharedTitle)
 {
     // A script with an unset variable means no note; a note without a title would be found by it.
     if (fold(argument).empty())
         throw CommandFailure(ExitCode::Failed, "NOTE is empty; give an identifier, the beginning of one, or a title");
+    if (const auto url = noteURLFromText(argument))
+        return noteOfURL(*url, session, sharedTitle);
     if (OVNote* note = noteWithIdentifierBeginning(argument, session))
-        return *note;
-    if (OVNote* note = noteWithTitle(argument, session, sharedTitle))
+        return note;
+    return noteWithTitle(argument, session, sharedTitle);
+}
+
+OVNote& noteForArgument(std::string_view argument, StoreSession& session, SharedTitle sharedTitle)
+{
+    if (OVNote* note = findNoteForArgument(argument, session, sharedTitle))
         return *note;
     throw CommandFailure(ExitCode::Failed,
         "there is no note \"" + std::string(argument) + "\"; 'tarn list --filter all' shows identifiers and titles");

@@ -49,7 +49,7 @@ std::string nameOfNote(const OVNote& note)
         + note.uniqueIdentifier().value_or("").substr(0, kIdentifierColumns) + ")";
 }
 
-void writeNoteLine(Output& output, const OVNote& note)
+std::string noteLine(const Output& output, const OVNote& note)
 {
     const std::string identifier = displayText(note.uniqueIdentifier().value_or("").substr(0, kIdentifierColumns));
     const std::string date = note.modificationDate() ? displayDate(*note.modificationDate()) : std::string(16, ' ');
@@ -74,7 +74,12 @@ void writeNoteLine(Output& output, const OVNote& note)
         + output.styled(title, untitled ? TextStyle::Faint : TextStyle::Strong);
     if (!subtitle.empty())
         line += "  " + output.styled(subtitle, TextStyle::Faint);
-    output.writeLine(line);
+    return line;
+}
+
+void writeNoteLine(Output& output, const OVNote& note)
+{
+    output.writeLine(noteLine(output, note));
 }
 
 } // namespace tarn

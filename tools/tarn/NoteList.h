@@ -13,6 +13,8 @@ namespace tarn {
 ///
 /// Marks: `*` pinned, `x` trashed, `a` archived, `r` read-only, `e` encrypted, `!` in conflict.
 void writeNoteLine(Output& output, const OVNote& note);
+/// The same line, without its end.
+std::string noteLine(const Output& output, const OVNote& note);
 
 /// A note as messages name it: its title in quotes and the beginning of its identifier.
 std::string nameOfNote(const OVNote& note);

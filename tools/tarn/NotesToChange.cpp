@@ -1,5 +1,8 @@
 #include "tools/tarn/NotesToChange.h"
 
+#include "tools/tarn/CommandFailure.h"
+#include "tools/tarn/NoteURL.h"
+
 #include <algorithm>
 
 namespace tarn {
@@ -12,8 +15,14 @@ void NotesToChange::addOneTo(const Command& command, const std::string& descript
 
 void NotesToChange::addAllTo(const Command& command, const std::string& description)
 {
-    command.addArguments("NOTE", names_, description).required();
+    addAnyTo(command, description).required();
+}
+
+CommandOption NotesToChange::addAnyTo(const Command& command, const std::string& description)
+{
+    const CommandOption notes = command.addArguments("NOTE", names_, description);
     addFlagTo(command);
+    return notes;
 }
 
 void NotesToChange::addFlagTo(const Command& command)
@@ -29,6 +38,27 @@ OVNote& NotesToChange::noteNamed(const std::string& argument, StoreSession& sess
 OVNote& NotesToChange::one(StoreSession& session) const
 {
     return noteNamed(name_.value_or(""), session);
+}
+
+OVNote* NotesToChange::find(StoreSession& session) const
+{
+    return findNoteForArgument(
+        name_.value_or(""), session, latest_ ? SharedTitle::LatestToChange : SharedTitle::Refused);
+}
+
+OVNote* NotesToChange::findLatest(StoreSession& session) const
+{
+    return findNoteForArgument(name_.value_or(""), session, SharedTitle::LatestToChange);
+}
+
+std::string NotesToChange::title() const
+{
+    const std::string argument = name_.value_or("");
+    const auto url = noteURLFromText(argument);
+    if (url && url->title.empty())
+        throw CommandFailure(
+            ExitCode::Failed, "there is no note \"" + argument + "\", and the URL has no title for one");
+    return url ? url->title : argument;
 }
 
 std::vector<OVNote*> NotesToChange::all(StoreSession& session) const

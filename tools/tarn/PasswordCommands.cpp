@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <array>
 #include <memory>
+#include <span>
 
 namespace tarn {
 
@@ -127,12 +128,10 @@ ExitCode changeOne(const Invocation& invocation, const PasswordArguments& argume
     return ExitCode::Done;
 }
 
-/// Brings what a password protects to its newest key, some records at a time; what is done stays done.
-std::size_t reencryptAll(StoreSession& session, OVPassword& password)
+/// Brings records to the newest key of their password, some at a time; what is done stays done.
+void reencryptAll(StoreSession& session, std::span<OVEncryptableObject* const> waiting)
 {
     OVEncryptionCoreManager& manager = session.protection().manager();
-    std::vector<OVEncryptableObject*> waiting = password.encryptableObjects();
-    std::erase_if(waiting, [&](const OVEncryptableObject* object) { return !manager.isReencryptionNeeded(*object); });
     Progress progress("encrypting anew", waiting.size());
     for (std::size_t begin = 0; begin < waiting.size(); begin += kRecordsAtATime) {
         Interruption::endIfRequested("interrupted; 'tarn password rotate' goes on where it stopped");
@@ -145,7 +144,6 @@ std::size_t reencryptAll(StoreSession& session, OVPassword& password)
         for (std::size_t index = begin; index < end; ++index)
             progress.advance();
     }
-    return waiting.size();
 }
 
 ExitCode rotateOne(const Invocation& invocation, const PasswordArguments& arguments)
@@ -154,18 +152,18 @@ ExitCode rotateOne(const Invocation& invocation, const PasswordArguments& argume
     Protection& protection = session.protection();
     OVPassword& password = passwordNamed(arguments, session);
     protection.unlock(password);
-    const std::vector<OVEncryptableObject*> objects = password.encryptableObjects();
-    const bool isGoingOn = std::ranges::any_of(
-        objects, [&](const OVEncryptableObject* object) { return protection.manager().isReencryptionNeeded(*object); });
+    const OVObjectsByKey objects = protection.manager().objectsByKey(password);
     // One that was interrupted is brought to its end, and no further key made.
+    const bool isGoingOn = !objects.underFormerKeys.empty();
     if (!isGoingOn)
         withClearPassword(session, password, [&](const ClearPassword& clear, NSError* error) {
             return protection.manager().rotateMasterKey(password, clear.text(), error);
         });
+    const std::vector<OVEncryptableObject*>& waiting = isGoingOn ? objects.underFormerKeys : objects.underNewestKey;
     const Interruption interruption;
-    const std::size_t count = reencryptAll(session, password);
+    reencryptAll(session, waiting);
     if (!invocation.json)
-        invocation.output.writeLine("encrypted " + numbered(count, "record") + " anew");
+        invocation.output.writeLine("encrypted " + numbered(waiting.size(), "record") + " anew");
     writePasswords(invocation, {&password});
     return ExitCode::Done;
 }

@@ -8,6 +8,7 @@
 #include "tools/tarn/NotesToChange.h"
 #include "tools/tarn/PasswordArgument.h"
 #include "tools/tarn/ProtectedStore.h"
+#include "tools/tarn/import/Importer.h"
 
 #include <memory>
 
@@ -64,6 +65,7 @@ ExitCode protectNotes(const Invocation& invocation, const ProtectArguments& argu
     if (first && !invocation.json)
         tellOnStandardError("this is the first password of the store: who forgets it has lost what it protects");
     writeNotes(invocation, notes);
+    Importer(&session, true, {}, {}).forgetProtectedNotes();
     clearAwayClearText(session);
     return ExitCode::Done;
 }

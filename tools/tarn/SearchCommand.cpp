@@ -4,14 +4,19 @@
 #include "tarnmodel/search/TermFinder.h"
 #include "tools/tarn/CommandLine.h"
 #include "tools/tarn/Commands.h"
+#include "tools/tarn/ListingOptions.h"
 #include "tools/tarn/MatchingLine.h"
+#include "tools/tarn/NearestNames.h"
 #include "tools/tarn/NoteFilter.h"
 #include "tools/tarn/NoteJSON.h"
 #include "tools/tarn/NoteList.h"
 #include "tools/tarn/QueryArgument.h"
+#include "tools/tarn/SearchHints.h"
 #include "tools/tarn/StoreSession.h"
 
+#include <algorithm>
 #include <chrono>
+#include <iterator>
 #include <memory>
 
 namespace tarn {
@@ -26,6 +31,13 @@ struct SearchOptions {
     bool countOnly = false;
     bool explain = false;
     bool all = false;
+    ListingOptions listing;
+};
+
+/// What a search asks for, and the notes that it looks at.
+struct Wanted {
+    std::optional<NSPredicate> query;
+    std::optional<NSPredicate> among;
 };
 
 /// What a search shows of itself in the notes that it found.
@@ -43,6 +55,7 @@ struct SearchResult {
     std::string plan;
     double compileMilliseconds = 0;
     double fetchMilliseconds = 0;
+    std::vector<SearchHint> hints;
 };
 
 Highlight highlightOf(const std::string& query)
@@ -56,32 +69,31 @@ double millisecondsSince(std::chrono::steady_clock::time_point start)
     return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
 }
 
-std::string planOf(StoreSession& session, const NSPredicate& predicate, std::size_t limit)
+std::string planOf(StoreSession& session, const NSPredicate& predicate, const SearchOptions& options)
 {
     NSFetchRequest request(OVNote::entityInManagedObjectContext(session.context()));
     request.predicate = predicate;
-    request.sortDescriptors = OVNote::standardSortDescriptors();
-    request.fetchLimit = limit;
+    request.sortDescriptors = options.listing.order();
+    request.fetchLimit = options.limit;
     const std::string plan = session.context().explain(request);
     return std::string(trimmed(plan)); // its lines end with a line feed, also the last one
 }
 
-SearchResult searchNotes(StoreSession& session, const std::optional<NSPredicate>& wanted, const SearchOptions& options)
+SearchResult searchNotes(StoreSession& session, const Wanted& wanted, const SearchOptions& options)
 {
     SearchResult result;
-    const auto predicate = conjunction(wanted, options.all ? std::nullopt : predicateOfFilter("active"))
-                               .value_or(NSPredicate::predicateWithValue(true));
+    const auto predicate = conjunction(wanted.query, wanted.among).value_or(NSPredicate::predicateWithValue(true));
     result.predicate = predicate.predicateFormat();
     const auto start = std::chrono::steady_clock::now();
     if (options.countOnly)
         result.count = session.countNotes(predicate);
     else
-        result.notes = session.notes(predicate, options.limit);
+        result.notes = session.notes(predicate, options.listing.order(), options.limit);
     result.fetchMilliseconds = millisecondsSince(start);
     if (!options.countOnly)
         result.count = result.notes.size();
     if (options.explain)
-        result.plan = planOf(session, predicate, options.limit);
+        result.plan = planOf(session, predicate, options);
     return result;
 }
 
@@ -93,17 +105,16 @@ std::vector<LinePiece> lineOfHit(const OVNote& note, const Highlight& highlight,
     return firstMatchingLine(note.text().value_or(""), highlight.terms, width);
 }
 
-void writeHit(Output& output, const OVNote& note, const Highlight& highlight)
+void writeHit(Output& output, const OVNote& note, const Highlight& highlight, std::string_view end)
 {
-    writeNoteLine(output, note);
+    std::string text = noteLine(output, note);
     const std::size_t width = output.width().value_or(kWidthWithoutTerminal);
     const std::vector<LinePiece> line = lineOfHit(note, highlight, width > 14 ? width - 4 : 10);
-    if (line.empty())
-        return;
-    std::string text = "    ";
+    if (!line.empty())
+        text += "\n    ";
     for (const LinePiece& piece : line)
         text += piece.isMatch ? output.styled(piece.text, TextStyle::Match) : piece.text;
-    output.writeLine(text);
+    output.write(text.append(end));
 }
 
 void writeExplanation(Output& output, const SearchResult& result)
@@ -143,6 +154,7 @@ JSON jsonOfExtras(const SearchResult& result, const Highlight& highlight, bool e
         extras["times"]
             = {{"compileMilliseconds", result.compileMilliseconds}, {"fetchMilliseconds", result.fetchMilliseconds}};
     }
+    extras["hints"] = jsonOfHints(result.hints);
     return extras;
 }
 
@@ -160,22 +172,36 @@ void writeResult(
     if (options.countOnly)
         output.writeLine(std::to_string(result.count));
     for (const OVNote* note : result.notes)
-        writeHit(output, *note, highlight);
+        writeHit(output, *note, highlight, options.listing.end());
+}
+
+/// What may have been meant, where somebody wrote what is no term, or nothing was found.
+void addHints(SearchResult& result, StoreSession& session, const std::string& query, const Wanted& wanted)
+{
+    result.hints = hintsForSearch(query);
+    if (result.count > 0)
+        return;
+    std::ranges::move(hintsOfNearestNames(query, wanted.among, session), std::back_inserter(result.hints));
 }
 
 ExitCode search(const Invocation& invocation, const SearchOptions& options)
 {
     const auto start = std::chrono::steady_clock::now();
-    const auto wanted = options.query.predicate();
+    options.listing.refuseNULInJSON(invocation);
+    const Wanted wanted{options.query.predicate(),
+        conjunction(options.listing.predicate(), options.all ? std::nullopt : predicateOfFilter("active"))};
     const double compileMilliseconds = millisecondsSince(start);
     StoreSession session(invocation, StoreSession::Access::Read);
     SearchResult result = searchNotes(session, wanted, options);
     result.compileMilliseconds = compileMilliseconds;
+    addHints(result, session, options.query.text(), wanted);
     writeResult(invocation, result, highlightOf(options.query.text()), options);
-    if (options.countOnly)
-        return result.count > 0 ? ExitCode::Done : ExitCode::Failed;
-    return session.exitCodeOfSearch(
-        result.count > 0, options.all ? "nothing found" : "nothing found; --all looks into archive and trash as well");
+    const bool found = result.count > 0;
+    if (!found && !options.countOnly)
+        session.exitCodeOfSearch(
+            false, options.all ? "nothing found" : "nothing found; --all looks into archive and trash as well");
+    tellHints(result.hints);
+    return found ? ExitCode::Done : ExitCode::Failed;
 }
 
 } // namespace
@@ -200,14 +226,19 @@ void addSearchCommand(CommandLine& commandLine)
               "  @date(2021-03) @date(>2020) @cdate(...)  a day, a month or a year; after it, before it\n"
               "  @title apple       in titles only        @ocr apple         in attachments only (with --ocr)\n"
               "Words that stand together bind tighter than \"or\". The terms are known in six languages. A query that\n"
-              "begins with \"-\" goes after \"--\". Trashed and archived notes are left out.",
+              "begins with \"-\" goes after \"--\". Trashed and archived notes are left out. Standard error tells of "
+              "words\n"
+              "that look like terms and are none, and, where nothing is found, of the nearest titles and tags.",
             .examples = {"tarn search '@todo #home -apple'", "tarn search '\"big red\" or @date(2021-03)'",
                 "tarn search -- -#work"}},
         [options](const Invocation& invocation) { return search(invocation, *options); });
     command.addCount("--limit", options->limit, "At most so many notes");
-    command.addFlag("--count", options->countOnly, "Print how many notes there are, and none of them");
-    command.addFlag("--explain", options->explain, "Tell how the store finds them: predicate, plan and times");
+    const CommandOption count
+        = command.addFlag("--count", options->countOnly, "Print how many notes there are, and none of them");
+    const CommandOption explain
+        = command.addFlag("--explain", options->explain, "Tell how the store finds them: predicate, plan and times");
     command.addFlag("--all", options->all, "Look into archive and trash as well");
+    options->listing.addTo(command).excludes({count, explain});
     options->query.addOCRFlagTo(command);
     options->query.addTo(command);
 }

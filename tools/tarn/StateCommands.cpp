@@ -1,14 +1,12 @@
-#include "tools/tarn/CommandFailure.h"
 #include "tools/tarn/CommandLine.h"
 #include "tools/tarn/Commands.h"
 #include "tools/tarn/Confirmation.h"
 #include "tools/tarn/DisplayText.h"
 #include "tools/tarn/NoteJSON.h"
 #include "tools/tarn/NoteList.h"
-#include "tools/tarn/NotesToChange.h"
+#include "tools/tarn/NotesOrQuery.h"
 
 #include <array>
-#include <cstdio>
 #include <memory>
 
 namespace tarn {
@@ -20,92 +18,66 @@ struct StateCommand {
     const char* summary;
     const char* example;
     void (OVNote::*change)();
+    const char* searched = "active"; ///< the notes among which --query finds, as a filter of lists
 };
-
-constexpr const char* kDescription = "Identifiers, beginnings of them, or titles";
 
 constexpr std::array kStateCommands{
     StateCommand{"trash", "Move notes to the trash", "tarn trash 'Old list' 3F2504E0", &OVNote::trash},
-    StateCommand{"restore", "Take notes out of the trash", "tarn restore 3F2504E0", &OVNote::restoreFromTrash},
+    StateCommand{
+        "restore", "Take notes out of the trash", "tarn restore 3F2504E0", &OVNote::restoreFromTrash, "trashed"},
     StateCommand{"archive", "Move notes to the archive", "tarn archive 'Tax 2019'", &OVNote::archive},
-    StateCommand{"unarchive", "Take notes out of the archive", "tarn unarchive 'Tax 2019'", &OVNote::unarchive},
+    StateCommand{
+        "unarchive", "Take notes out of the archive", "tarn unarchive 'Tax 2019'", &OVNote::unarchive, "archived"},
     StateCommand{"pin", "Keep notes on top of the list", "tarn pin Groceries", &OVNote::pin},
     StateCommand{"unpin", "No longer keep notes on top", "tarn unpin Groceries", &OVNote::unpin},
     StateCommand{"readonly", "Protect notes from being edited", "tarn readonly 'House manual'", &OVNote::makeReadOnly},
     StateCommand{"editable", "Let notes be edited again", "tarn editable 'House manual'", &OVNote::makeEditable},
 };
 
-ExitCode changeState(const Invocation& invocation, const NotesToChange& arguments, const StateCommand& state)
+ExitCode writeNotes(const Invocation& invocation, const std::vector<OVNote*>& notes)
 {
+    if (invocation.json)
+        writeJSON(invocation.output, jsonOfNotes(notes));
+    else
+        for (const OVNote* note : notes)
+            writeNoteLine(invocation.output, *note);
+    return notes.empty() ? ExitCode::Failed : ExitCode::Done;
+}
+
+ExitCode changeState(const Invocation& invocation, const NotesOrQuery& arguments, const StateCommand& state)
+{
+    const ChosenNotes chosen = arguments.choose(invocation, state.name);
+    if (chosen.areNone())
+        return writeNotes(invocation, {});
     StoreSession session(invocation, StoreSession::Access::Write);
     std::vector<OVNote*> notes;
     session.write([&] {
-        notes = arguments.all(session);
+        notes = chosen.all(session);
         for (OVNote* note : notes)
             (note->*state.change)();
     });
-    if (invocation.json) {
-        writeJSON(invocation.output, jsonOfNotes(notes));
-        return ExitCode::Done;
-    }
-    for (const OVNote* note : notes)
-        writeNoteLine(invocation.output, *note);
-    return ExitCode::Done;
+    return writeNotes(invocation, notes);
 }
 
 bool confirmsDeletion(const std::vector<OVNote*>& notes)
 {
-    if (notes.size() > 1) {
-        for (const OVNote* note : notes)
-            std::fprintf(stderr, "  %s\n", displayText(nameOfNote(*note)).c_str());
-    }
+    if (notes.size() > 1)
+        showNotesToAskAbout(notes);
     const std::string what
         = notes.size() == 1 ? displayText(nameOfNote(*notes.front())) : "these " + numbered(notes.size(), "note");
     return confirmedOnTerminal("Delete " + what + " for good?", "delete asks before it deletes");
 }
 
-/// Shows the notes to who has to confirm. The store is nobody's while somebody thinks.
-std::vector<std::string> confirmedIdentifiers(const Invocation& invocation, const NotesToChange& arguments)
+ExitCode deleteNotes(const Invocation& invocation, const NotesOrQuery& arguments)
 {
-    StoreSession session(invocation, StoreSession::Access::Read);
-    const std::vector<OVNote*> notes = arguments.all(session);
-    std::vector<std::string> identifiers;
-    if (confirmsDeletion(notes)) {
-        for (const OVNote* note : notes)
-            identifiers.push_back(note->uniqueIdentifier().value_or(""));
-    }
-    return identifiers;
-}
-
-std::vector<OVNote*> notesWithIdentifiers(const std::vector<std::string>& identifiers, StoreSession& session)
-{
-    std::vector<OVNote*> notes;
-    for (const std::string& identifier : identifiers) {
-        OVNote* note = noteWithIdentifier(identifier, session);
-        if (!note)
-            throw CommandFailure(
-                ExitCode::Failed, "the note " + identifier + " is gone meanwhile; nothing was deleted");
-        notes.push_back(note);
-    }
-    return notes;
-}
-
-ExitCode deleteNotes(const Invocation& invocation, const NotesToChange& arguments, bool confirmed)
-{
-    std::vector<std::string> identifiers;
-    if (!confirmed) {
-        identifiers = confirmedIdentifiers(invocation, arguments);
-        if (identifiers.empty()) {
-            tellOnStandardError("nothing was deleted");
-            return ExitCode::Failed;
-        }
-    }
+    const ChosenNotes chosen = arguments.chooseAsking(invocation, confirmsDeletion);
+    if (chosen.areNone())
+        return writeNotes(invocation, {});
     StoreSession session(invocation, StoreSession::Access::Write);
     JSON document;
     std::vector<std::string> names;
     session.write([&] {
-        const std::vector<OVNote*> notes
-            = confirmed ? arguments.all(session) : notesWithIdentifiers(identifiers, session);
+        const std::vector<OVNote*> notes = chosen.all(session);
         document = jsonOfNotes(notes); // as they were
         for (OVNote* note : notes) {
             names.push_back(nameOfNote(*note));
@@ -118,7 +90,7 @@ ExitCode deleteNotes(const Invocation& invocation, const NotesToChange& argument
         if (!invocation.json)
             invocation.output.writeLine("deleted " + displayText(name));
     }
-    return ExitCode::Done;
+    return names.empty() ? ExitCode::Failed : ExitCode::Done;
 }
 
 } // namespace
@@ -126,29 +98,31 @@ ExitCode deleteNotes(const Invocation& invocation, const NotesToChange& argument
 void addStateCommands(CommandLine& commandLine)
 {
     for (const StateCommand& state : kStateCommands) {
-        const auto notes = std::make_shared<NotesToChange>();
-        const Command command
-            = commandLine.addCommand({.name = state.name,
-                                         .summary = state.summary,
-                                         .explanation = "When one of the notes is not found, nothing is changed.",
-                                         .examples = {state.example}},
-                [notes, &state](const Invocation& invocation) { return changeState(invocation, *notes, state); });
-        notes->addAllTo(command, kDescription);
+        const auto notes = std::make_shared<NotesOrQuery>();
+        const std::string among = state.searched == std::string_view("active")
+            ? ""
+            : " --query looks at " + std::string(state.searched) + " notes.";
+        const Command command = commandLine.addCommand(
+            {.name = state.name,
+                .summary = state.summary,
+                .explanation = "When one of the notes is not found, nothing is changed." + among,
+                .examples = {state.example, "tarn " + std::string(state.name) + " --query '#home @last7days'"}},
+            [notes, &state](const Invocation& invocation) { return changeState(invocation, *notes, state); });
+        notes->addTo(command, state.searched);
     }
 }
 
 void addDeleteCommand(CommandLine& commandLine)
 {
-    const auto notes = std::make_shared<NotesToChange>();
-    const auto confirmed = std::make_shared<bool>(false);
+    const auto notes = std::make_shared<NotesOrQuery>();
     const Command command = commandLine.addCommand(
         {.name = "delete",
             .summary = "Delete notes for good, trashed or not",
-            .explanation = "Asks before it does. Nobody can bring them back; 'tarn trash' is the gentler way.",
-            .examples = {"tarn delete 3F2504E0", "tarn delete --yes 'Old list'"}},
-        [notes, confirmed](const Invocation& invocation) { return deleteNotes(invocation, *notes, *confirmed); });
-    command.addFlag("--yes", *confirmed, "Do not ask");
-    notes->addAllTo(command, kDescription);
+            .explanation = "Asks before it does. Nobody can bring them back; 'tarn trash' is "
+                           "the gentler way.",
+            .examples = {"tarn delete 3F2504E0", "tarn delete --yes 'Old list'", "tarn delete --all --query '@empty'"}},
+        [notes](const Invocation& invocation) { return deleteNotes(invocation, *notes); });
+    notes->addTo(command, "active");
 }
 
 } // namespace tarn

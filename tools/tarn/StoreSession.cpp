@@ -41,6 +41,12 @@ fs::path storeFolderOf(const Invocation& invocation)
     return OVLocalFileManager::applicationGroupURL();
 }
 
+bool storeExists(const Invocation& invocation)
+{
+    std::error_code error;
+    return fs::exists(OVLocalFileManager::databaseURLInGroupFolder(storeFolderOf(invocation)), error);
+}
+
 StoreSession::StoreSession(const Invocation& invocation, Access access)
     : folder_(storeFolderOf(invocation)), database_(OVLocalFileManager::databaseURLInGroupFolder(folder_)),
       wait_(database_)
@@ -53,6 +59,8 @@ StoreSession::StoreSession(const Invocation& invocation, Access access)
     open(access);
     // After programs that died: under the lock of the store, so that no other tarn is at it.
     if (access == Access::Write) {
+        if (closeAndCompactWhereOwed())
+            open(access);
         OVNoteFile::recoverFilesInManagedObjectContext(*context_);
         OVNoteFile::removeClearLeftoversInManagedObjectContext(*context_);
         context_->reset();
@@ -86,30 +94,37 @@ void StoreSession::prepareForWriting()
         throw failureForSystemError("cannot make the folder " + folder.string(), failure.value());
     takeLock();
     StoreCompaction::removeLeftovers(database_);
-    compactWhereOwed();
 }
 
-/// What a program began that died, or could not do. It stays owed where it cannot be done now either.
-void StoreSession::compactWhereOwed()
+/// What a program began that died, or could not do; it stays owed where it cannot be done now either. The store that is
+/// open is asked, since hardly any owes something; false, and it stays open, where it does not.
+bool StoreSession::closeAndCompactWhereOwed()
 {
-    if (!StoreCompaction::isOwed(database_))
-        return;
+    if (!StoreCompaction::isOwed(*store_))
+        return false;
+    close();
     NSError error;
     const auto goesOn = [this](std::chrono::milliseconds waited) { return wait_.goesOn(waited); };
     if (!StoreCompaction::compact(database_, goesOn, &error))
         tellOnStandardError("clear text may be left in free pages of " + database_.string()
             + ", which could not be written anew: " + singleLine(error.localizedDescription())
             + "; the next command that writes tries again");
+    return true;
 }
 
 void StoreSession::closeAndCompact()
+{
+    if (!closeAndCompactWhereOwed())
+        close();
+}
+
+void StoreSession::close()
 {
     changeLog_ = {};
     protection_.reset();
     context_.reset();
     store_ = nullptr;
     coordinator_.reset();
-    compactWhereOwed();
 }
 
 void StoreSession::takeLock()
@@ -194,9 +209,15 @@ ExitCode StoreSession::exitCodeOfSearch(bool found, std::string_view nothing) co
 
 std::vector<OVNote*> StoreSession::notes(const std::optional<NSPredicate>& predicate, std::size_t limit)
 {
+    return notes(predicate, OVNote::standardSortDescriptors(), limit);
+}
+
+std::vector<OVNote*> StoreSession::notes(
+    const std::optional<NSPredicate>& predicate, const std::vector<NSSortDescriptor>& order, std::size_t limit)
+{
     NSFetchRequest request(OVNote::entityInManagedObjectContext(*context_));
     request.predicate = predicate;
-    request.sortDescriptors = OVNote::standardSortDescriptors();
+    request.sortDescriptors = order;
     request.fetchLimit = limit;
     return records<OVNote>(request);
 }
@@ -220,11 +241,7 @@ void StoreSession::forEachNote(
 
 std::vector<OVNote*> StoreSession::latestNotes(const std::optional<NSPredicate>& predicate, std::size_t limit)
 {
-    NSFetchRequest request(OVNote::entityInManagedObjectContext(*context_));
-    request.predicate = predicate;
-    request.sortDescriptors = {{.key = "modificationDate", .ascending = false}};
-    request.fetchLimit = limit;
-    return records<OVNote>(request);
+    return notes(predicate, {{.key = "modificationDate", .ascending = false}}, limit);
 }
 
 std::size_t StoreSession::countNotes(const std::optional<NSPredicate>& predicate)

@@ -25,6 +25,9 @@ namespace tarn {
 
 /// The folder of the store: --store, else $TARN_STORE, else "tarn" in the XDG data folder.
 std::filesystem::path storeFolderOf(const Invocation& invocation);
+/// Whether there is a database in it.
+bool storeExists(const Invocation& invocation);
+
 /// One command's way to the store: opened (and made, by a command that writes) by the constructor, closed by the
 /// destructor.
 ///
@@ -58,6 +61,9 @@ public:
 
     /// Notes in the standard order: pinned first, then the latest modified. `limit` 0: all.
     std::vector<OVNote*> notes(const std::optional<NSPredicate>& predicate, std::size_t limit = 0);
+    /// Notes in this order.
+    std::vector<OVNote*> notes(
+        const std::optional<NSPredicate>& predicate, const std::vector<NSSortDescriptor>& order, std::size_t limit);
     /// Each note in the order in which they came into the store, a page at a time: records end with their page.
     void forEachNote(const std::optional<NSPredicate>& predicate, const std::function<void(const OVNote&)>& handler);
     /// The latest modified first.
@@ -93,8 +99,9 @@ private:
     void prepareForWriting();
     void refuseOtherVersions() const;
     void open(Access access);
+    void close();
     void takeLock();
-    void compactWhereOwed();
+    bool closeAndCompactWhereOwed();
     void withoutLock(const std::function<void()>& work);
     template <typename Record> std::vector<Record*> records(const NSFetchRequest& request);
 

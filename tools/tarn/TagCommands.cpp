@@ -8,7 +8,7 @@
 #include "tools/tarn/EditableNote.h"
 #include "tools/tarn/JSON.h"
 #include "tools/tarn/NoteList.h"
-#include "tools/tarn/NotesToChange.h"
+#include "tools/tarn/NotesOrQuery.h"
 #include "tools/tarn/TagArgument.h"
 
 #include <array>
@@ -21,7 +21,7 @@ namespace {
 struct TagArguments {
     std::optional<std::string> name;
     std::optional<std::string> newName;
-    NotesToChange notes;
+    NotesOrQuery notes;
     bool top = false;
     bool confirmed = false;
 };
@@ -34,6 +34,14 @@ void report(const Invocation& invocation, const std::string& tag, std::size_t no
     else
         invocation.output.writeLine(
             invocation.output.styled(displayText(tag), TextStyle::Strong) + "  " + numbered(notes, "note") + more);
+}
+
+/// A search found no notes, or nobody wants them changed.
+ExitCode reportNothing(const Invocation& invocation, const std::string& tag)
+{
+    if (invocation.json)
+        report(invocation, tag, 0);
+    return ExitCode::Failed;
 }
 
 /// Adds the tag to those of the notes that do not carry it; how many took it.
@@ -55,13 +63,16 @@ std::size_t addTagTo(OVNoteTag& tag, std::vector<OVNote*>& notes, bool top)
 ExitCode addTag(const Invocation& invocation, const TagArguments& arguments)
 {
     const std::string name = tagNameForArgument(*arguments.name);
+    const ChosenNotes chosen = arguments.notes.choose(invocation, "tag add");
+    if (chosen.areNone())
+        return reportNothing(invocation, name);
     StoreSession session(invocation, StoreSession::Access::Write);
-    session.unlock([&] { return arguments.notes.all(session); });
+    session.unlock([&] { return chosen.all(session); });
     const OVNoteTag* tag = nullptr;
     std::vector<OVNote*> untagged;
     std::size_t added = 0;
     session.write([&] {
-        untagged = arguments.notes.all(session);
+        untagged = chosen.all(session);
         OVNoteTag* found = OVNoteTag::getOrCreateTagWithName(name, session.context());
         if (!found)
             throw CommandFailure(
@@ -75,13 +86,17 @@ ExitCode addTag(const Invocation& invocation, const TagArguments& arguments)
 
 ExitCode removeTag(const Invocation& invocation, const TagArguments& arguments)
 {
+    const std::string name = tagNameForArgument(*arguments.name);
+    const ChosenNotes chosen = arguments.notes.choose(invocation, "tag remove");
+    if (chosen.areNone())
+        return reportNothing(invocation, name);
     StoreSession session(invocation, StoreSession::Access::Write);
-    session.unlock([&] { return arguments.notes.all(session); });
+    session.unlock([&] { return chosen.all(session); });
     const OVNoteTag* tag = nullptr;
     std::vector<OVNote*> tagged;
     session.write([&] {
-        OVNoteTag& found = tagForArgument(*arguments.name, session);
-        tagged = arguments.notes.all(session);
+        OVNoteTag& found = tagForArgument(name, session);
+        tagged = chosen.all(session);
         std::erase_if(tagged, [&found](const OVNote* note) { return !note->tagsSet().containsObject(found); });
         requireUnlocked(tagged);
         found.deleteTagInNotes(tagged);
@@ -250,7 +265,7 @@ void addArguments(const Command& command, TagArguments& arguments, Takes takes)
     if (isRename)
         command.addArgument("NEW", arguments.newName, "Its new path").required();
     if (takes == Takes::NameAndNotes)
-        arguments.notes.addAllTo(command, "Identifiers, beginnings of them, or titles");
+        arguments.notes.addTo(command, "active");
 }
 
 } // namespace

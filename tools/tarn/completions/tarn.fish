@@ -1,5 +1,59 @@
 # Completion of tarn for fish.
 
+# The titles or tags in what the program prints, run on the store that the command line names, without a word should it
+# fail. What holds control characters could not be typed.
+function __tarn_ask
+    set -l words (commandline -opc)
+    set -l call (string unescape -- $words[1])
+    if set -l place (contains -i -- --store $words)
+        set -a call --store (string replace -r '^~/' "$HOME/" -- (string unescape -- $words[(math $place + 1)]))
+    end
+    command $call --json $argv </dev/null 2>/dev/null |
+        sed -nE 's/^ *"title": "(([^\\\\]|\\\\["\\\\])+)",$/\1/p' | sed -E 's/\\\\(.)/\1/g'
+end
+
+function __tarn_tags
+    __tarn_ask tags --all
+end
+
+# Titles with what is typed; of many the pinned ones and the latest modified.
+function __tarn_notes
+    set -l query (string match -ra '[\p{L}\p{N}]+' -- (commandline -ct) | string match -vi or)
+    if set -q query[1]
+        __tarn_ask search --all --limit 1000 -- "@title $query" | string match -v -- '-*'
+    else
+        __tarn_ask list --filter all --limit 200 | string match -v -- '-*'
+    end
+end
+
+# The command and how many arguments stand behind it: "tag 2".
+function __tarn_place
+    set -l arguments
+    set -l isValue no
+    for word in (commandline -opc)[2..-1]
+        if test $isValue = yes
+            set isValue no
+            continue
+        end
+        switch $word
+            case --store --password-file --new-password-file --password --memory --header --tag --query
+                set isValue yes
+            case '-*'
+            case '*'
+                set -a arguments $word
+        end
+    end
+    echo "$arguments[1] "(math (count $arguments) - 1)
+end
+
+function __tarn_takes_note
+    string match -rq '^((show|append|prepend|replace|edit|duplicate|links|backlinks|url|conflicts|files|attach) 0|(file|conflict) 1|export [1-9].*|tag ([2-9]|\d\d+)|(merge|trash|restore|archive|unarchive|pin|unpin|readonly|editable|delete|protect|unprotect) .*)$' -- (__tarn_place)
+end
+
+function __tarn_takes_tag
+    string match -q 'tag 1' -- (__tarn_place)
+end
+
 set -l commands import new show append prepend replace edit duplicate merge list search predicate highlight tags tag links backlinks unresolved orphans url conflicts conflict trash restore archive unarchive pin unpin readonly editable delete protect unprotect passwords password attach files file thumb export backup restore-backup changes baseline stats doctor migrate parse
 
 complete -c tarn -f
@@ -58,8 +112,14 @@ complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a doctor -d 'Ex
 complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a migrate -d 'Bring an old store forward to the current version'
 complete -c tarn -n "not __fish_seen_subcommand_from $commands" -a parse -d 'Show what the Markdown parser sees'
 
+complete -c tarn -n __tarn_takes_note -a '(__tarn_notes)'
+complete -c tarn -n __tarn_takes_tag -a '(__tarn_tags)'
 complete -c tarn -n '__fish_seen_subcommand_from import parse attach thumb export backup restore-backup' -F
-complete -c tarn -n '__fish_seen_subcommand_from import' -l tag -x -d 'Add this tag to every note'
+complete -c tarn -n '__fish_seen_subcommand_from import' -l tag -x -a '(__tarn_tags)' -d 'Add this tag to every note'
+complete -c tarn -n '__fish_seen_subcommand_from import' -l titles -x -a 'auto text file unique' -d 'Where titles come from'
+complete -c tarn -n '__fish_seen_subcommand_from import' -l links -x -a 'wiki keep' -d 'Links between the files'
+complete -c tarn -n '__fish_seen_subcommand_from import' -l folders-as-tags -d 'Add the path of its folder as a tag'
+complete -c tarn -n '__fish_seen_subcommand_from import' -l moved-from -r -a '(__fish_complete_directories)' -d 'Where it lay before'
 complete -c tarn -n '__fish_seen_subcommand_from import' -l verbose -d 'Name each file that was skipped'
 complete -c tarn -n '__fish_seen_subcommand_from import' -l dry-run -d 'Write nothing'
 complete -c tarn -n '__fish_seen_subcommand_from files' -l to-upload -d 'Only those that the server does not have'
@@ -75,13 +135,19 @@ complete -c tarn -n '__fish_seen_subcommand_from thumb' -l align -x -d 'Where th
 complete -c tarn -n '__fish_seen_subcommand_from thumb' -l trim -d 'Cut transparent rows away'
 complete -c tarn -n '__fish_seen_subcommand_from thumb' -l background -x -d 'Paint this colour under it'
 complete -c tarn -n '__fish_seen_subcommand_from thumb' -l output -r -F -d 'Write it to this file'
-complete -c tarn -n '__fish_seen_subcommand_from export' -l all -d 'Archived notes and those in the trash as well'
+complete -c tarn -n '__fish_seen_subcommand_from export' -l all -d 'Archived, trashed, and unused attachments as well'
+complete -c tarn -n '__fish_seen_subcommand_from export' -l layout -x -a 'flat tags source' -d 'Folders'
+complete -c tarn -n '__fish_seen_subcommand_from export' -l links -x -a 'wiki files' -d 'Links between notes'
 complete -c tarn -n '__fish_seen_subcommand_from backup' -l yes -d 'Replace a file without asking'
 complete -c tarn -n '__fish_seen_subcommand_from restore-backup' -l verify -d 'Only examine the backup'
 complete -c tarn -n '__fish_seen_subcommand_from restore-backup' -l salvage -d 'Restore what is whole of a damaged one'
 complete -c tarn -n '__fish_seen_subcommand_from list' -l filter -x -a 'active trashed archived pinned conflicted encrypted all' -d 'Which notes'
-complete -c tarn -n '__fish_seen_subcommand_from list' -l tag -x -d 'Only notes with this tag'
+complete -c tarn -n '__fish_seen_subcommand_from list' -l tag -x -a '(__tarn_tags)' -d 'Only notes with this tag'
 complete -c tarn -n '__fish_seen_subcommand_from list search' -l limit -x -d 'At most so many notes'
+complete -c tarn -n '__fish_seen_subcommand_from list search' -l sort -x -a 'modified created title' -d 'In this order'
+complete -c tarn -n '__fish_seen_subcommand_from list search' -l reverse -d 'The last note first'
+complete -c tarn -n '__fish_seen_subcommand_from list search' -l since -x -d 'Only notes changed since this day'
+complete -c tarn -n '__fish_seen_subcommand_from list search' -l null -s 0 -d 'A NUL behind each note'
 complete -c tarn -n '__fish_seen_subcommand_from search' -l count -d 'Print how many notes there are'
 complete -c tarn -n '__fish_seen_subcommand_from search' -l explain -d 'Tell how the store finds them'
 complete -c tarn -n '__fish_seen_subcommand_from search' -l all -d 'Look into archive and trash as well'
@@ -90,12 +156,11 @@ complete -c tarn -n '__fish_seen_subcommand_from changes' -l since -x -d 'Only w
 complete -c tarn -n '__fish_seen_subcommand_from tags' -l all -d 'Also tags without active notes'
 complete -c tarn -n '__fish_seen_subcommand_from tag' -a 'add remove rename delete pin unpin prune'
 complete -c tarn -n '__fish_seen_subcommand_from tag' -l top -d 'Write the hashtag below the title'
-complete -c tarn -n '__fish_seen_subcommand_from tag' -l yes -d 'Do not ask'
 complete -c tarn -n '__fish_seen_subcommand_from conflict' -a resolve -d 'Keep one version of a note'
 complete -c tarn -n '__fish_seen_subcommand_from url' -l title -d 'Name the note by its title'
 complete -c tarn -n '__fish_seen_subcommand_from url' -l new-window -d 'Open it in a window of its own'
 complete -c tarn -n '__fish_seen_subcommand_from url' -l header -x -d 'Open it at this heading'
-complete -c tarn -n '__fish_seen_subcommand_from url' -l tag -x -d 'Open this tag'
+complete -c tarn -n '__fish_seen_subcommand_from url' -l tag -x -a '(__tarn_tags)' -d 'Open this tag'
 complete -c tarn -n '__fish_seen_subcommand_from append prepend replace edit duplicate merge tag attach file conflict trash restore archive unarchive pin unpin readonly editable delete protect unprotect' -l latest -d 'Of several notes with one title take the latest modified'
 complete -c tarn -n '__fish_seen_subcommand_from edit' -l allow-empty -d 'Save also a text that came back empty'
 complete -c tarn -n '__fish_seen_subcommand_from protect' -l password -x -d 'Of several passwords this one'
@@ -103,6 +168,10 @@ complete -c tarn -n '__fish_seen_subcommand_from protect password' -l memory -x 
 complete -c tarn -n '__fish_seen_subcommand_from password' -a 'add change rotate delete'
 complete -c tarn -n '__fish_seen_subcommand_from password' -l hint -x -d 'What reminds of it'
 complete -c tarn -n '__fish_seen_subcommand_from password' -l new-password-file -r -F -d 'A file whose first line is the new password'
-complete -c tarn -n '__fish_seen_subcommand_from delete password' -l yes -d 'Do not ask'
+complete -c tarn -n '__fish_seen_subcommand_from edit' -l create -d 'Make a note of this title where there is none'
+complete -c tarn -n '__fish_seen_subcommand_from replace' -l whole -d 'Replace everything, a heading and the tags included'
+complete -c tarn -n '__fish_seen_subcommand_from tag trash restore archive unarchive pin unpin readonly editable delete' -l query -x -d 'All notes that this search finds'
+complete -c tarn -n '__fish_seen_subcommand_from tag trash archive pin unpin readonly editable delete' -l all -d 'With --query, look into archive and trash as well'
+complete -c tarn -n '__fish_seen_subcommand_from tag trash restore archive unarchive pin unpin readonly editable delete password' -l yes -d 'Do not ask'
 complete -c tarn -n '__fish_seen_subcommand_from doctor' -l repair -d 'Derive wrong fields anew'
 complete -c tarn -n '__fish_seen_subcommand_from migrate' -l dry-run -d 'Change nothing'

@@ -1,0 +1,320 @@
+#include "tools/tarn/import/ImportPlan.h"
+
+#include "tarnmodel/corvel/CVKAST.h"
+#include "tarnmodel/platform/foundation/system/NSUUID.h"
+#include "tarnmodel/platform/foundation/text/Folding.h"
+#include "tarnmodel/platform/foundation/text/Normalization.h"
+#include "tarnmodel/platform/foundation/text/UTF.h"
+#include "tools/tarn/Interruption.h"
+#include "tools/tarn/StoreSession.h"
+#include "tools/tarn/TextFile.h"
+#include "tools/tarn/import/SourceText.h"
+
+#include <algorithm>
+#include <iterator>
+#include <system_error>
+#include <utility>
+
+namespace tarn {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Files of one folder that begin with one heading before it is a habit and no title.
+constexpr std::size_t kCommonHeading = 3;
+/// Notes of one question to the store.
+constexpr std::size_t kNotesAtOnce = 500;
+
+bool isWholePath(const fs::path& path, std::size_t parts)
+{
+    return parts >= static_cast<std::size_t>(std::distance(path.begin(), path.end()));
+}
+
+/// The last parts of a path, without the ending of the file.
+std::string endOfPath(const fs::path& path, std::size_t parts)
+{
+    auto part = path.end();
+    for (std::size_t i = 0; i < parts && part != path.begin(); ++i)
+        --part;
+    fs::path end;
+    for (; part != path.end(); ++part)
+        end /= *part;
+    return canonicallyComposed(validUTF8(end.replace_extension().native()));
+}
+
+/// Behind it stands when a version came to it.
+std::string groupOfConflict(std::string_view conflict)
+{
+    return std::string(conflict.substr(0, conflict.find('/')));
+}
+
+bool isThere(const fs::path& path)
+{
+    std::error_code failure;
+    return fs::exists(fs::symlink_status(path, failure));
+}
+
+} // namespace
+
+ImportPlan::ImportPlan(StoreSession* session, const ImportRecord* record, const ImportRules& rules)
+    : session_(session), record_(record), rules_(rules), storeTitles_(session)
+{ }
+
+void ImportPlan::make(const std::vector<MarkdownFile>& files, const FailureHandler& failed)
+{
+    for (const MarkdownFile& file : files) {
+        Interruption::endIfRequested("interrupted");
+        try {
+            look(file);
+        } catch (const TextFileError& error) {
+            failed(file.path, error);
+        }
+    }
+    putInOrder();
+    countHeadings();
+    recognise();
+    decideTitles();
+    if (rules_.titles == TitleMode::Unique)
+        tellTitlesApart();
+    giveIdentifiers();
+    askStore();
+    for (const PlannedFile& planned : files_) {
+        const auto aliases = aliases_.find(planned.path.native());
+        index_.add({planned.path, rootOf(planned.file), planned.title,
+            aliases == aliases_.end() ? std::vector<std::string>() : std::move(aliases->second)});
+    }
+}
+
+void ImportPlan::look(const MarkdownFile& file)
+{
+    const TextFile found = readTextFile(file.path);
+    SourceText source = sourceTextOfFile(found.text);
+    PlannedFile planned{.file = file,
+        .path = pathWithoutSymbolicLinks(file.path),
+        .bytes = hashOfBytes(found.text),
+        .facts = titleFactsOf(source, fs::absolute(file.path).lexically_normal(), rules_.titles)};
+    if (source.exported) {
+        planned.identifier = source.exported->identifier;
+        planned.exported = source.creationDate.value_or(NSDate());
+        ++conflicts_[groupOfConflict(source.exported->conflict)];
+    }
+    if (!rules_.keepsLinks && source.body.find("[[") != std::string::npos) {
+        const CVKAST document = CVKAST::fromMarkdown(source.body);
+        for (const CVKWikiLink& link : document.textSummary().wikiLinks)
+            linkedNames_.add(link.decodedTitle());
+    }
+    paths_.insert(planned.path.native());
+    if (!source.aliases.empty())
+        aliases_[planned.path.native()] = std::move(source.aliases);
+    files_.push_back(std::move(planned));
+}
+
+/// What was exported comes in the order in which it was made: of notes of one title the first gets the links.
+void ImportPlan::putInOrder()
+{
+    std::ranges::stable_sort(files_, [](const PlannedFile& one, const PlannedFile& other) {
+        if (one.exported && other.exported)
+            return std::pair(*one.exported, one.identifier) < std::pair(*other.exported, other.identifier);
+        return one.exported.has_value() && !other.exported;
+    });
+}
+
+std::string ImportPlan::headingKey(const PlannedFile& planned) const
+{
+    return planned.path.parent_path().native() + '\0' + fold(planned.facts.headingTitle);
+}
+
+void ImportPlan::countHeadings()
+{
+    for (const PlannedFile& planned : files_) {
+        if (planned.facts.headingLevel > 0)
+            ++headings_[headingKey(planned)];
+    }
+}
+
+void ImportPlan::recognise()
+{
+    if (!record_)
+        return;
+    for (PlannedFile& planned : files_) {
+        if (const ImportedSource* known = record_->sourceAtPath(planned.path))
+            planned.known = *known;
+    }
+    for (PlannedFile& planned : files_) {
+        if (!planned.known)
+            recogniseMoved(planned);
+    }
+}
+
+/// A file of the same bytes as one that is not there any more is that one, where it can be no other.
+void ImportPlan::recogniseMoved(PlannedFile& planned)
+{
+    const ImportedSource* candidate = nullptr;
+    for (const ImportedSource* source : record_->sourcesOfBytes(planned.bytes)) {
+        if (isThere(source->path))
+            continue;
+        if (candidate)
+            return;
+        candidate = source;
+    }
+    if (!candidate || !movedFrom_.insert(candidate->path.native()).second)
+        return;
+    planned.known = *candidate;
+    planned.hasMoved = true;
+}
+
+void ImportPlan::decideTitles()
+{
+    for (PlannedFile& planned : files_) {
+        const bool isCommon = planned.facts.headingLevel > 0 && headings_.at(headingKey(planned)) >= kCommonHeading;
+        const auto known = planned.known ? std::optional(planned.known->titleRule) : std::nullopt;
+        // What was exported says its title itself.
+        planned.titleRule
+            = planned.exported ? TitleRule::Text : titleRuleFor(planned.facts, rules_.titles, known, isCommon);
+        planned.title = titleByRule(planned.facts, planned.titleRule);
+        if (planned.known && !planned.known->titleSuffix.empty()) {
+            planned.titleSuffix = planned.known->titleSuffix;
+            planned.title += " (" + planned.titleSuffix + ")";
+        }
+    }
+}
+
+/// Each title gets the shortest end of the path, from the folder that was named, that no other file of the title has.
+void ImportPlan::tellTitlesApart()
+{
+    std::unordered_map<std::string, std::vector<PlannedFile*>> sharing;
+    for (PlannedFile& planned : files_) {
+        if (!planned.title.empty())
+            sharing[fold(planned.title)].push_back(&planned);
+    }
+    for (const auto& [title, files] : sharing) {
+        if (files.size() > 1)
+            tellApart(files);
+    }
+}
+
+void ImportPlan::tellApart(const std::vector<PlannedFile*>& files)
+{
+    std::vector<fs::path> paths;
+    for (const PlannedFile* planned : files)
+        paths.push_back(planned->path.lexically_relative(rootOf(planned->file)));
+    std::vector<std::string> suffixes(files.size());
+    for (std::size_t parts = 1; std::ranges::count(suffixes, std::string()) > 0; ++parts) {
+        std::unordered_map<std::string, std::size_t> counts;
+        for (const fs::path& path : paths)
+            ++counts[fold(endOfPath(path, parts))];
+        for (std::size_t i = 0; i < files.size(); ++i) {
+            const std::string end = endOfPath(paths[i], parts);
+            if (suffixes[i].empty() && (counts.at(fold(end)) == 1 || isWholePath(paths[i], parts)))
+                suffixes[i] = end;
+        }
+    }
+    for (std::size_t i = 0; i < files.size(); ++i) {
+        PlannedFile& planned = *files[i];
+        if (planned.titleRule == TitleRule::Text || !planned.titleSuffix.empty())
+            continue; // it gets no heading, or has its title from before
+        planned.titleSuffix = suffixes[i];
+        planned.title += " (" + suffixes[i] + ")";
+    }
+}
+
+void ImportPlan::giveIdentifiers()
+{
+    for (PlannedFile& planned : files_) {
+        if (planned.known)
+            identifiers_.insert(planned.known->note);
+    }
+    for (PlannedFile& planned : files_) {
+        std::string told = std::exchange(planned.identifier, {});
+        if (planned.known) {
+            planned.identifier = planned.known->note;
+            continue;
+        }
+        const std::string reserved = record_ ? record_->reservedIdentifier(planned.path) : "";
+        if (!reserved.empty())
+            planned.identifier = reserved;
+        else
+            planned.identifier = told.empty() || identifiers_.contains(told) ? newUUIDString() : told;
+        if (!told.empty() && planned.identifier != told)
+            planned.takenIdentifier = std::move(told);
+        identifiers_.insert(planned.identifier);
+    }
+}
+
+std::size_t ImportPlan::versionsInConflict(std::string_view group) const
+{
+    const auto versions = conflicts_.find(groupOfConflict(group));
+    return versions == conflicts_.end() ? 0 : versions->second;
+}
+
+void ImportPlan::askStore()
+{
+    std::unordered_map<std::string, std::pair<std::string, bool>> stored; // title and whether in the trash, by note
+    std::vector<std::string> known;
+    for (const PlannedFile& planned : files_) {
+        if (planned.known)
+            known.push_back(planned.identifier);
+    }
+    for (std::size_t from = 0; session_ && session_->exists() && from < known.size(); from += kNotesAtOnce) {
+        const std::size_t end = std::min(from + kNotesAtOnce, known.size());
+        const std::vector<std::string> some(
+            known.begin() + static_cast<std::ptrdiff_t>(from), known.begin() + static_cast<std::ptrdiff_t>(end));
+        for (const OVNote* note : OVNote::notesWithUUIDs(some, {}, session_->context()))
+            stored[note->uniqueIdentifier().value_or("")] = {note->title().value_or(""), note->isTrashed()};
+    }
+    std::vector<std::string> titles(linkedNames_.all().begin(), linkedNames_.all().end());
+    for (PlannedFile& planned : files_) {
+        const auto note = stored.find(planned.identifier);
+        const bool isUnchanged = planned.known && planned.known->file == planned.bytes;
+        if (note != stored.end() && isUnchanged)
+            planned.title = note->second.first;
+        if (note != stored.end() && note->second.second)
+            continue; // nobody links what is in the trash
+        plannedTitles_[fold(planned.title)].push_back(planned.identifier);
+        titles.push_back(planned.title);
+    }
+    storeTitles_.lookUp(titles);
+}
+
+std::optional<std::string> ImportPlan::onlyNoteOf(const std::string& title)
+{
+    std::optional<std::string> only;
+    if (const auto planned = plannedTitles_.find(fold(title)); planned != plannedTitles_.end()) {
+        if (planned->second.size() > 1)
+            return std::nullopt;
+        only = planned->second.front();
+    }
+    for (const std::string& note : storeTitles_.notesOf(title)) {
+        if (identifiers_.contains(note))
+            continue;
+        if (only)
+            return std::nullopt;
+        only = note;
+    }
+    return only;
+}
+
+bool ImportPlan::hasTitle(const std::string& title)
+{
+    const auto isElsewhere = [this](const std::string& note) { return !identifiers_.contains(note); };
+    return plannedTitles_.contains(fold(title)) || std::ranges::any_of(storeTitles_.notesOf(title), isElsewhere);
+}
+
+std::vector<const ImportedSource*> ImportPlan::goneBelow(const std::vector<fs::path>& roots) const
+{
+    std::vector<const ImportedSource*> gone;
+    if (!record_)
+        return gone;
+    for (const auto& [path, source] : record_->sources()) {
+        const bool isBelow = std::ranges::any_of(roots, [&path](const fs::path& root) {
+            const fs::path relative = path.lexically_relative(root);
+            return !relative.empty() && *relative.begin() != "..";
+        });
+        if (isBelow && !paths_.contains(path.native()) && !movedFrom_.contains(path.native()) && !isThere(path))
+            gone.push_back(&source);
+    }
+    return gone;
+}
+
+} // namespace tarn
