@@ -1,6 +1,7 @@
 #include "tarnmodel/platform/foundation/text/Characters.h"
 
-#include <unicode/locid.h>
+#include "tarnmodel/platform/foundation/text/LocaleInternal.h"
+
 #include <unicode/uchar.h>
 #include <unicode/unistr.h>
 
@@ -48,7 +49,7 @@ std::string lowercased(std::string_view text)
         return result;
     }
     const icu::StringPiece piece(text.data(), static_cast<int32_t>(text.size()));
-    icu::UnicodeString::fromUTF8(piece).toLower(icu::Locale::getRoot()).toUTF8String(result);
+    icu::UnicodeString::fromUTF8(piece).toLower(rootLocale()).toUTF8String(result);
     return result;
 }
 

@@ -1,5 +1,6 @@
 #include "tarnmodel/platform/foundation/text/SpelledOutNumber.h"
 
+#include "tarnmodel/platform/foundation/text/LocaleInternal.h"
 #include "tarnmodel/platform/foundation/text/RegularExpression.h"
 
 #include <unicode/fmtable.h>
@@ -39,8 +40,8 @@ const icu::NumberFormat* chineseFormat()
 {
     static const std::unique_ptr<const icu::NumberFormat> format = [] {
         UErrorCode status = U_ZERO_ERROR;
-        auto made
-            = std::make_unique<icu::RuleBasedNumberFormat>(icu::URBNF_SPELLOUT, icu::Locale("zh_Hans_CN"), status);
+        auto made = std::make_unique<icu::RuleBasedNumberFormat>(
+            icu::URBNF_SPELLOUT, localeWithIdentifier("zh_Hans_CN"), status);
         return U_SUCCESS(status) ? std::move(made) : nullptr;
     }();
     return format.get();

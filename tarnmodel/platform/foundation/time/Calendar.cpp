@@ -1,9 +1,11 @@
 #include "tarnmodel/platform/foundation/time/Calendar.h"
 
+#include "tarnmodel/platform/foundation/text/LocaleInternal.h"
 #include "tarnmodel/platform/foundation/time/CalendarInternal.h"
 
 #include <cmath>
 #include <memory>
+#include <new>
 
 namespace tarn {
 
@@ -24,7 +26,10 @@ std::unique_ptr<icu::GregorianCalendar> calendarOfTheWall()
 {
     static const icu::GregorianCalendar prototype = [] {
         UErrorCode status = U_ZERO_ERROR;
-        return icu::GregorianCalendar(*icu::TimeZone::getGMT(), icu::Locale::getRoot(), status);
+        icu::GregorianCalendar made(*icu::TimeZone::getGMT(), rootLocale(), status);
+        if (status == U_MEMORY_ALLOCATION_ERROR)
+            throw std::bad_alloc();
+        return made;
     }();
     return std::make_unique<icu::GregorianCalendar>(prototype);
 }

@@ -1,9 +1,9 @@
 #include "tarnmodel/platform/foundation/time/Collation.h"
 
 #include "tarnmodel/platform/foundation/system/Environment.h"
+#include "tarnmodel/platform/foundation/text/LocaleInternal.h"
 
 #include <unicode/coll.h>
-#include <unicode/locid.h>
 
 #include <memory>
 #include <mutex>
@@ -17,10 +17,10 @@ namespace {
 std::shared_ptr<const icu::Collator> makeCollator(const std::string& locale)
 {
     UErrorCode status = U_ZERO_ERROR;
-    icu::Locale wanted(locale.c_str());
+    icu::Locale wanted = localeWithIdentifier(locale);
     // Where no language is set ("C", "POSIX"), ICU would order by code points, capitals before small letters.
     if (std::string_view(wanted.getVariant()) == "POSIX")
-        wanted = icu::Locale::getRoot();
+        wanted = rootLocale();
     std::unique_ptr<icu::Collator> collator(icu::Collator::createInstance(wanted, status));
     if (U_FAILURE(status) || !collator)
         return nullptr;

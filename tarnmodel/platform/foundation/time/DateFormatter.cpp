@@ -1,6 +1,7 @@
 #include "tarnmodel/platform/foundation/time/DateFormatter.h"
 
 #include "tarnmodel/platform/foundation/system/Environment.h"
+#include "tarnmodel/platform/foundation/text/LocaleInternal.h"
 #include "tarnmodel/platform/foundation/time/Calendar.h"
 #include "tarnmodel/platform/foundation/time/CalendarInternal.h"
 #include "tarnmodel/platform/foundation/time/DatePattern.h"
@@ -21,7 +22,7 @@ constexpr int kYearsBack = 80;
 class LocaleCalendar {
 public:
     explicit LocaleCalendar(const std::string& locale)
-        : calendar_(icu::Calendar::createInstance(*icu::TimeZone::getGMT(), icu::Locale(locale.c_str()), status_))
+        : calendar_(icu::Calendar::createInstance(*icu::TimeZone::getGMT(), localeWithIdentifier(locale), status_))
     { }
 
     DateNumbers numbersOfDate(NSDate date)
@@ -62,7 +63,7 @@ private:
 std::string shortPatternFromICU(const std::string& locale)
 {
     const std::unique_ptr<icu::DateFormat> format(
-        icu::DateFormat::createDateInstance(icu::DateFormat::kShort, icu::Locale(locale.c_str())));
+        icu::DateFormat::createDateInstance(icu::DateFormat::kShort, localeWithIdentifier(locale)));
     icu::UnicodeString pattern;
     if (const auto* simple = dynamic_cast<const icu::SimpleDateFormat*>(format.get()))
         simple->toPattern(pattern);
