@@ -87,7 +87,7 @@ private:
     void putInOrder();
     void countHeadings();
     void recognise();
-    void recogniseMoved(PlannedFile& planned);
+    const ImportedSource* onlyGoneFileOf(const std::string& bytes) const;
     void decideTitles();
     void tellTitlesApart();
     static void tellApart(const std::vector<PlannedFile*>& files);
