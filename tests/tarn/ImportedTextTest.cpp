@@ -1,5 +1,5 @@
-#include "tools/tarn/import/SourceText.h"
-#include "tools/tarn/import/TitleRules.h"
+#include "tools/tarn/import/reading/SourceText.h"
+#include "tools/tarn/import/titles/TitleRules.h"
 
 #include "tests/support/CaseName.h"
 

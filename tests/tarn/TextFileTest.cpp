@@ -1,6 +1,6 @@
-#include "tools/tarn/TextFile.h"
+#include "tools/tarn/files/TextFile.h"
 #include "tarnmodel/model/OVNote.h"
-#include "tools/tarn/import/MarkdownFiles.h"
+#include "tools/tarn/import/reading/MarkdownFiles.h"
 
 #include <gtest/gtest.h>
 

@@ -4,10 +4,10 @@
 #include "tarnmodel/model/OVNoteFile.h"
 #include "tarnmodel/platform/foundation/filesystem/NSFileManager.h"
 #include "tarnmodel/platform/foundation/values/NSError.h"
-#include "tools/tarn/DisplayText.h"
-#include "tools/tarn/FileList.h"
-#include "tools/tarn/import/ExportedFiles.h"
-#include "tools/tarn/import/TextFingerprint.h"
+#include "tools/tarn/commandline/DisplayText.h"
+#include "tools/tarn/files/FileList.h"
+#include "tools/tarn/import/reading/ExportedFiles.h"
+#include "tools/tarn/import/record/TextFingerprint.h"
 
 #include <filesystem>
 #include <map>

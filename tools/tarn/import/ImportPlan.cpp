@@ -5,10 +5,10 @@
 #include "tarnmodel/platform/foundation/text/Folding.h"
 #include "tarnmodel/platform/foundation/text/Normalization.h"
 #include "tarnmodel/platform/foundation/text/UTF.h"
-#include "tools/tarn/Interruption.h"
-#include "tools/tarn/StoreSession.h"
-#include "tools/tarn/TextFile.h"
-#include "tools/tarn/import/SourceText.h"
+#include "tools/tarn/commandline/Interruption.h"
+#include "tools/tarn/files/TextFile.h"
+#include "tools/tarn/import/reading/SourceText.h"
+#include "tools/tarn/session/StoreSession.h"
 
 #include <algorithm>
 #include <iterator>
