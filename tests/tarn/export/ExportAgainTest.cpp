@@ -1,6 +1,6 @@
 // Exports into a folder that holds an earlier one, after the store, the folder or both have changed.
 
-#include "tests/tarn/ExportFixture.h"
+#include "tests/tarn/export/ExportFixture.h"
 
 #include <gmock/gmock.h>
 

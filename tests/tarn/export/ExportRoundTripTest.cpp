@@ -1,6 +1,6 @@
 // What was exported comes back from an import: texts, bytes, dates, states, identifiers, links.
 
-#include "tests/tarn/ExportFixture.h"
+#include "tests/tarn/export/ExportFixture.h"
 
 #include "tarnmodel/platform/foundation/text/Folding.h"
 

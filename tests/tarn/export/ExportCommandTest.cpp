@@ -1,4 +1,4 @@
-#include "tests/tarn/ExportFixture.h"
+#include "tests/tarn/export/ExportFixture.h"
 
 #include <gmock/gmock.h>
 
