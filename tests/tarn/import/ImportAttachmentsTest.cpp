@@ -77,6 +77,23 @@ TEST_F(ImportAttachments, TellsFilesOfOneNameApart)
     EXPECT_EQ(linked, (std::vector<int>{2, 1, 3, 2})) << links;
 }
 
+TEST_F(ImportAttachments, KnowsFilesByTheirBytesAndNotByTheirSizes)
+{
+    file("in/a.pdf", "one");
+    file("in/b.pdf", "two");
+    file("in/sub/c.pdf", "one");
+    file("in/d.bin", "one");
+    file("in/n.md", "# N\n\n[a](a.pdf) [b](b.pdf) [c](sub/c.pdf) [d](d.bin)\n");
+    EXPECT_EQ(import().at("attachments"), 3);
+    EXPECT_EQ(text("N"), "# N\n\n[a](a.pdf) [b](b.pdf) [c](a.pdf) [d](d.bin)\n");
+    file("in/e.pdf", "six");
+    file("in/n.md", "# N\n\n[a](a.pdf) [b](b.pdf) [c](sub/c.pdf) [e](e.pdf)\n");
+    const auto again = import();
+    EXPECT_EQ(again.at("updated"), 1);
+    EXPECT_EQ(again.at("attachments"), 1);
+    EXPECT_EQ(text("N"), "# N\n\n[a](a.pdf) [b](b.pdf) [c](a.pdf) [e](e.pdf)\n");
+}
+
 TEST_F(ImportAttachments, LeavesWhatLeadsElsewhereOrNowhere)
 {
     const auto outside = file("elsewhere/secret.pdf", "secret");
