@@ -51,6 +51,7 @@ struct Highlight {
 struct SearchResult {
     std::vector<OVNote*> notes;
     std::size_t count = 0;
+    std::size_t total = 0; ///< without the limit; for JSON
     std::string predicate;
     std::string plan;
     double compileMilliseconds = 0;
@@ -79,7 +80,7 @@ std::string planOf(StoreSession& session, const NSPredicate& predicate, const Se
     return std::string(trimmed(plan)); // its lines end with a line feed, also the last one
 }
 
-SearchResult searchNotes(StoreSession& session, const Wanted& wanted, const SearchOptions& options)
+SearchResult searchNotes(StoreSession& session, const Wanted& wanted, const SearchOptions& options, bool asksForTotal)
 {
     SearchResult result;
     const auto predicate = conjunction(wanted.query, wanted.among).value_or(NSPredicate::predicateWithValue(true));
@@ -92,6 +93,9 @@ SearchResult searchNotes(StoreSession& session, const Wanted& wanted, const Sear
     result.fetchMilliseconds = millisecondsSince(start);
     if (!options.countOnly)
         result.count = result.notes.size();
+    const bool isWhole = options.countOnly || options.limit == 0 || result.count < options.limit;
+    if (asksForTotal)
+        result.total = isWhole ? result.count : session.countNotes(predicate);
     if (options.explain)
         result.plan = planOf(session, predicate, options);
     return result;
@@ -146,6 +150,7 @@ JSON jsonOfHit(const OVNote& note, const Highlight& highlight)
 JSON jsonOfExtras(const SearchResult& result, const Highlight& highlight, bool explain)
 {
     JSON extras;
+    extras["total"] = result.total;
     extras["predicate"] = result.predicate;
     extras["highlight"] = highlight.pattern;
     extras["editorTerm"] = highlight.editorTerm;
@@ -192,7 +197,7 @@ ExitCode search(const Invocation& invocation, const SearchOptions& options)
         conjunction(options.listing.predicate(), options.all ? std::nullopt : predicateOfFilter("active"))};
     const double compileMilliseconds = millisecondsSince(start);
     StoreSession session(invocation, StoreSession::Access::Read);
-    SearchResult result = searchNotes(session, wanted, options);
+    SearchResult result = searchNotes(session, wanted, options, invocation.json);
     result.compileMilliseconds = compileMilliseconds;
     addHints(result, session, options.query.text(), wanted);
     writeResult(invocation, result, highlightOf(options.query.text()), options);
