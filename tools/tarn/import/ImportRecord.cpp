@@ -11,6 +11,17 @@ namespace tarn {
 
 namespace fs = std::filesystem;
 
+namespace {
+
+/// What a record that is written anew says of an identifier that was announced and came to nothing. It belongs to no
+/// batch: that a later one was saved, or was not, says nothing of it.
+bool isReservation(const ImportedSource& announced)
+{
+    return announced.file.empty() && announced.stamp.empty() && !announced.text && announced.copy.empty();
+}
+
+} // namespace
+
 fs::path ImportRecord::pathForDatabase(const fs::path& database)
 {
     return fs::path(database).replace_extension(".imports.jsonl");
@@ -60,8 +71,7 @@ void ImportRecord::read(const RecordEntry& entry)
         adoptAnnounced();
         break;
     case RecordEntry::Kind::Withdrawn:
-        announced_.clear();
-        movedAway_.clear();
+        dropAnnounced();
         break;
     case RecordEntry::Kind::Format:
         break;
@@ -95,8 +105,18 @@ void ImportRecord::adoptAnnounced()
 {
     for (const fs::path& path : std::exchange(movedAway_, {}))
         drop(path);
-    for (ImportedSource& source : std::exchange(announced_, {}))
-        take(std::move(source));
+    for (ImportedSource& source : std::exchange(announced_, {})) {
+        if (isReservation(source))
+            announced_.push_back(std::move(source));
+        else
+            take(std::move(source));
+    }
+}
+
+void ImportRecord::dropAnnounced()
+{
+    std::erase_if(announced_, [](const ImportedSource& source) { return !isReservation(source); });
+    movedAway_.clear();
 }
 
 void ImportRecord::settle(const Judge& happened)
@@ -171,8 +191,7 @@ void ImportRecord::withdraw()
     if (announced_.empty() && movedAway_.empty())
         return;
     append(lineOfEntry({RecordEntry::Kind::Withdrawn, {}}), 1);
-    announced_.clear();
-    movedAway_.clear();
+    dropAnnounced();
 }
 
 void ImportRecord::forgetTexts(const std::function<bool(const ImportedSource&)>& isProtected,

@@ -85,6 +85,7 @@ private:
     void take(ImportedSource source);
     void drop(const std::filesystem::path& path);
     void adoptAnnounced();
+    void dropAnnounced();
     void append(const std::string& lines, std::size_t count);
     void rewrite();
 
