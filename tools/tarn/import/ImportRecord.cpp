@@ -4,6 +4,7 @@
 #include "tools/tarn/DurableFile.h"
 #include "tools/tarn/import/ImportRecordLines.h"
 
+#include <algorithm>
 #include <fstream>
 #include <utility>
 
@@ -27,7 +28,9 @@ fs::path ImportRecord::pathForDatabase(const fs::path& database)
     return fs::path(database).replace_extension(".imports.jsonl");
 }
 
-ImportRecord::ImportRecord(fs::path database) : file_(pathForDatabase(database))
+ImportRecord::ImportRecord(const fs::path& database) : ImportRecord(Place{pathForDatabase(database)}) { }
+
+ImportRecord::ImportRecord(Place place) : file_(std::move(place.file))
 {
     read();
 }
@@ -40,13 +43,14 @@ void ImportRecord::read()
     std::ifstream stream(file_, std::ios::binary);
     if (!stream)
         throw CommandFailure(ExitCode::InputOutput, "cannot read " + file_.string());
-    for (std::string line; std::getline(stream, line); ++lines_) {
+    for (std::string line; readRecordLine(stream, line); ++lines_) {
         const auto entry = recordEntryOfLine(line);
         if (entry && entry->isOfLaterFormat)
             throw CommandFailure(ExitCode::NeedsMigration, file_.string() + " was written by a later version of tarn");
         // A line that was cut off is that of a batch which was never saved.
         if (!entry || stream.eof()) {
             mustBeRewritten_ = true;
+            isDamaged_ = true;
             break;
         }
         read(*entry);
@@ -194,21 +198,28 @@ void ImportRecord::withdraw()
     dropAnnounced();
 }
 
-void ImportRecord::forgetTexts(const std::function<bool(const ImportedSource&)>& isProtected,
+bool ImportRecord::forgetTexts(const std::function<bool(const ImportedSource&)>& isProtected,
     const std::function<std::string(const fs::path&)>& stampOf)
 {
-    for (auto& [path, source] : sources_) {
+    bool hasForgotten = false;
+    const auto forget = [&](ImportedSource& source) {
         if ((source.file.empty() && !source.text && !source.copyText) || !isProtected(source))
-            continue;
-        ImportedSource forgotten = source;
-        forgotten.stamp = stampOf(path);
-        forgotten.file.clear();
-        forgotten.text.reset();
-        forgotten.copyText.reset();
-        byBytes_[source.file].erase(path);
-        source = std::move(forgotten);
-        mustBeRewritten_ = true;
+            return;
+        source.stamp = stampOf(source.path);
+        source.file.clear();
+        source.text.reset();
+        source.copyText.reset();
+        hasForgotten = true;
+    };
+    for (auto& [path, source] : sources_) {
+        const std::string bytes = source.file;
+        forget(source);
+        if (source.file != bytes)
+            byBytes_[bytes].erase(path);
     }
+    std::ranges::for_each(announced_, forget);
+    mustBeRewritten_ = mustBeRewritten_ || hasForgotten;
+    return hasForgotten;
 }
 
 void ImportRecord::moveRoot(const fs::path& old, const fs::path& now)
@@ -249,15 +260,23 @@ void ImportRecord::rewrite()
         lines += lineOfEntry({RecordEntry::Kind::Source, source});
     for (const auto& [path, note] : reserved_)
         lines += lineOfEntry({RecordEntry::Kind::Announced, {.path = path, .note = note}});
+    for (const ImportedSource& source : announced_)
+        lines += lineOfEntry({RecordEntry::Kind::Announced, source});
+    for (const fs::path& path : movedAway_)
+        lines += lineOfEntry({RecordEntry::Kind::Moved, {.path = path}});
     writeDurably(file_, lines);
-    lines_ = 1 + sources_.size() + reserved_.size();
+    lines_ = neededLines();
     mustBeRewritten_ = false;
+}
+
+std::size_t ImportRecord::neededLines() const noexcept
+{
+    return 1 + sources_.size() + reserved_.size() + announced_.size() + movedAway_.size();
 }
 
 void ImportRecord::finish()
 {
-    const std::size_t needed = 1 + sources_.size() + reserved_.size();
-    if (mustBeRewritten_ || lines_ > 2 * needed)
+    if (mustBeRewritten_ || lines_ > 2 * neededLines())
         rewrite();
 }
 

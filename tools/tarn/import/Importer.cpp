@@ -143,23 +143,32 @@ void Importer::prepare(const MarkdownFiles& found)
 
 void Importer::settleRecord()
 {
-    if (!record_)
-        return;
-    record_->settle([this](const ImportedSource& source) { return hasHappened(source); });
+    if (record_)
+        settle(*record_);
+}
+
+void Importer::settle(ImportRecord& record)
+{
+    record.settle([&](const ImportedSource& source) { return hasHappened(source, record); });
+    forgetProtectedNotes(record);
+}
+
+bool Importer::forgetProtectedNotes(ImportRecord& record)
+{
     std::set<std::string> protectedNotes;
     session_->forEachNote(predicateOfFilter("encrypted"),
         [&](const OVNote& note) { protectedNotes.insert(note.uniqueIdentifier().value_or("")); });
-    record_->forgetTexts(
+    return record.forgetTexts(
         [&](const ImportedSource& source) { return protectedNotes.contains(source.note); }, stampOfFile);
 }
 
 /// Of what an import announced that did not come to its end.
-bool Importer::hasHappened(const ImportedSource& source)
+bool Importer::hasHappened(const ImportedSource& source, const ImportRecord& record)
 {
     const OVNote* note = noteWithIdentifier(source.note, *session_);
     if (!note)
         return false;
-    const ImportedSource* before = record_->sourceOfNote(source.note);
+    const ImportedSource* before = record.sourceOfNote(source.note);
     if (!before)
         return true;
     if (source.copy != before->copy)

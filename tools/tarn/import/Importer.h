@@ -36,6 +36,10 @@ public:
 
     /// Takes hashes of what is protected by now out of the record of imports, as each import does.
     void forgetProtectedNotes();
+    /// Asks the store what became of what a record announces and does not confirm, and takes such hashes out of it.
+    void settle(ImportRecord& record);
+    /// Takes such hashes out of a record; whether there were any.
+    bool forgetProtectedNotes(ImportRecord& record);
 
     using FileHandler = std::function<void(const ImportedFile&)>;
     /// `handler` hears of each file, before its note is saved.
@@ -50,7 +54,7 @@ private:
 
     void prepare(const MarkdownFiles& found);
     void settleRecord();
-    bool hasHappened(const ImportedSource& source);
+    bool hasHappened(const ImportedSource& source, const ImportRecord& record);
     void readFile(std::size_t number);
     void take(Pending pending);
     void saveBatch();
