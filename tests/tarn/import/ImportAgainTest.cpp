@@ -221,6 +221,21 @@ TEST_F(ImportAgain, KeepsTheRuleThatNamedANote)
     EXPECT_THAT(titles, testing::UnorderedElementsAre("Improvements", "two", "three"));
 }
 
+TEST_F(ImportAgain, MakesANoteThatAnEarlierImportAnnouncedAndDidNotSaveAfterOthersWereImported)
+{
+    file("in/a.md", "# A");
+    file("in/b.md", "# B");
+    file("other/c.md", "# C");
+    json({"import", folder() / "in/b.md"});
+    const fs::path record = store() / "Application Data/database.imports.jsonl";
+    std::ofstream(record, std::ios::binary | std::ios::app)
+        << R"({"announced":{"path":")" << (fs::canonical(folder()) / "in/a.md").string()
+        << R"(","note":"DCB78F3C-7CF1-44EE-B40E-7FC537BE4B91","file":"00"}})" << '\n';
+    EXPECT_EQ(countsOf(json({"import", folder() / "other"})), (Counts{.imported = 1}));
+    EXPECT_EQ(countsOf(import()), (Counts{.imported = 1, .unchanged = 1}));
+    EXPECT_EQ(json({"show", "A"}).at("uniqueIdentifier"), "DCB78F3C-7CF1-44EE-B40E-7FC537BE4B91");
+}
+
 TEST_F(ImportAgain, TellsInADryRunWhatItWouldDo)
 {
     file("in/a.md", "# A\n\none");

@@ -88,6 +88,34 @@ TEST_P(KilledImport, IsCompletedByTheNextRun)
     EXPECT_GE(deaths, GetParam().deaths);
 }
 
+TEST_P(KilledImport, IsCompletedInAStoreThatIsRestoredFromItsBackup)
+{
+    if (!canBeTraced())
+        GTEST_SKIP() << "this system does not let one process look at another";
+    const fs::path whole = folder() / "whole";
+    fs::copy(store(), whole, fs::copy_options::recursive);
+    ASSERT_EQ(runIn(whole, {"import", (folder() / "in").string()}).exitCode, 0);
+    const std::vector<std::string> expected = contentsOf(whole);
+    const fs::path backup = folder() / "all.tarnbackup";
+    int deaths = 0;
+    bool isDone = false;
+    for (int time = 1; !isDone && !HasFailure(); time += GetParam().stride) {
+        const fs::path target = folder() / ("target " + std::to_string(time));
+        const fs::path restored = folder() / ("restored " + std::to_string(time));
+        fs::copy(store(), target, fs::copy_options::recursive);
+        isDone = comesToItsEnd(time, target, importing());
+        deaths += !isDone;
+        // A program that is about to change the store clears away first what a dead one left; a backup does not.
+        EXPECT_EQ(runIn(target, {"backup", "--yes", backup.string()}).exitCode, 0) << time;
+        EXPECT_EQ(runIn(restored, {"restore-backup", backup.string()}).exitCode, 0) << time;
+        EXPECT_EQ(runIn(restored, {"import", (folder() / "in").string()}).exitCode, 0) << time;
+        EXPECT_EQ(contentsOf(restored), expected) << time;
+        const TarnResult third = runIn(restored, {"--json", "import", (folder() / "in").string()});
+        EXPECT_EQ(nlohmann::json::parse(third.output).at("unchanged"), 8) << time;
+    }
+    EXPECT_GE(deaths, GetParam().deaths);
+}
+
 INSTANTIATE_TEST_SUITE_P(Calls, KilledImport,
     testing::Values(Death{"pwrite64", 17, 3}, Death{"fsync", 1, 2}, Death{"unlink", 3, 1},
         Death{"rename,renameat2", 1, 1}, Death{"write", 1, 1}, Death{"openat", 41, 2}),

@@ -12,12 +12,25 @@ namespace tarn {
 
 namespace fs = std::filesystem;
 
+namespace {
+
+/// What a record that is written anew says of an identifier that was announced and came to nothing. It belongs to no
+/// batch: that a later one was saved, or was not, says nothing of it.
+bool isReservation(const ImportedSource& announced)
+{
+    return announced.file.empty() && announced.stamp.empty() && !announced.text && announced.copy.empty();
+}
+
+} // namespace
+
 fs::path ImportRecord::pathForDatabase(const fs::path& database)
 {
     return fs::path(database).replace_extension(".imports.jsonl");
 }
 
-ImportRecord::ImportRecord(const fs::path& database) : file_(pathForDatabase(database))
+ImportRecord::ImportRecord(const fs::path& database) : ImportRecord(Place{pathForDatabase(database)}) { }
+
+ImportRecord::ImportRecord(Place place) : file_(std::move(place.file))
 {
     read();
 }
@@ -30,13 +43,14 @@ void ImportRecord::read()
     std::ifstream stream(file_, std::ios::binary);
     if (!stream)
         throw CommandFailure(ExitCode::InputOutput, "cannot read " + file_.string());
-    for (std::string line; std::getline(stream, line); ++lines_) {
+    for (std::string line; readRecordLine(stream, line); ++lines_) {
         const auto entry = recordEntryOfLine(line);
         if (entry && entry->isOfLaterFormat)
             throw CommandFailure(ExitCode::NeedsMigration, file_.string() + " was written by a later version of tarn");
         // A line that was cut off is that of a batch which was never saved.
         if (!entry || stream.eof()) {
             mustBeRewritten_ = true;
+            isDamaged_ = true;
             break;
         }
         read(*entry);
@@ -61,8 +75,7 @@ void ImportRecord::read(const RecordEntry& entry)
         adoptAnnounced();
         break;
     case RecordEntry::Kind::Withdrawn:
-        announced_.clear();
-        movedAway_.clear();
+        dropAnnounced();
         break;
     case RecordEntry::Kind::Format:
         break;
@@ -108,8 +121,18 @@ void ImportRecord::adoptAnnounced()
 {
     for (const std::string& path : std::exchange(movedAway_, {}))
         drop(path);
-    for (ImportedSource& source : std::exchange(announced_, {}))
-        take(std::move(source));
+    for (ImportedSource& source : std::exchange(announced_, {})) {
+        if (isReservation(source))
+            announced_.push_back(std::move(source));
+        else
+            take(std::move(source));
+    }
+}
+
+void ImportRecord::dropAnnounced()
+{
+    std::erase_if(announced_, [](const ImportedSource& source) { return !isReservation(source); });
+    movedAway_.clear();
 }
 
 void ImportRecord::settle(const Judge& happened)
@@ -183,23 +206,29 @@ void ImportRecord::withdraw()
     if (announced_.empty() && movedAway_.empty())
         return;
     append(lineOfEntry({RecordEntry::Kind::Withdrawn, {}}), 1);
-    announced_.clear();
-    movedAway_.clear();
+    dropAnnounced();
 }
 
-void ImportRecord::forgetTexts(const std::function<bool(const ImportedSource&)>& isProtected,
+bool ImportRecord::forgetTexts(const std::function<bool(const ImportedSource&)>& isProtected,
     const std::function<std::string(const fs::path&)>& stampOf)
 {
+    bool hasForgotten = false;
+    const auto forget = [&](ImportedSource& source) {
+        if ((source.file.empty() && !source.text && !source.copyText) || !isProtected(source))
+            return;
+        forgetBytes(source);
+        source.stamp = stampOf(source.path);
+        source.file.clear();
+        source.text.reset();
+        source.copyText.reset();
+        hasForgotten = true;
+    };
     for (const auto& [path, source] : sources_) {
-        if ((source->file.empty() && !source->text && !source->copyText) || !isProtected(*source))
-            continue;
-        forgetBytes(*source);
-        source->stamp = stampOf(fs::path(path));
-        source->file.clear();
-        source->text.reset();
-        source->copyText.reset();
-        mustBeRewritten_ = true;
+        forget(*source);
     }
+    std::ranges::for_each(announced_, forget);
+    mustBeRewritten_ = mustBeRewritten_ || hasForgotten;
+    return hasForgotten;
 }
 
 void ImportRecord::moveRoot(const fs::path& old, const fs::path& now)
@@ -240,15 +269,23 @@ void ImportRecord::rewrite()
         lines += lineOfEntry({RecordEntry::Kind::Source, *source});
     for (const auto& [path, note] : reserved_)
         lines += lineOfEntry({RecordEntry::Kind::Announced, {.path = path, .note = note}});
+    for (const ImportedSource& source : announced_)
+        lines += lineOfEntry({RecordEntry::Kind::Announced, source});
+    for (const std::string& path : movedAway_)
+        lines += lineOfEntry({RecordEntry::Kind::Moved, {.path = path}});
     writeDurably(file_, lines);
-    lines_ = 1 + sources_.size() + reserved_.size();
+    lines_ = neededLines();
     mustBeRewritten_ = false;
+}
+
+std::size_t ImportRecord::neededLines() const noexcept
+{
+    return 1 + sources_.size() + reserved_.size() + announced_.size() + movedAway_.size();
 }
 
 void ImportRecord::finish()
 {
-    const std::size_t needed = 1 + sources_.size() + reserved_.size();
-    if (mustBeRewritten_ || lines_ > 2 * needed)
+    if (mustBeRewritten_ || lines_ > 2 * neededLines())
         rewrite();
 }
 

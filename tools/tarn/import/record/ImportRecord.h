@@ -13,6 +13,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace tarn {
@@ -46,9 +47,18 @@ public:
     explicit ImportRecord(const std::filesystem::path& database);
     ImportRecord(const ImportRecord&) = delete;
     ImportRecord& operator=(const ImportRecord&) = delete;
+    ImportRecord(ImportRecord&&) = default;
 
     /// By the path in it. Where it lies in memory it stays until it goes.
     using SourcesByPath = std::map<std::string_view, std::unique_ptr<ImportedSource>>;
+
+    /// One that lies anywhere.
+    static ImportRecord inFile(std::filesystem::path file) { return ImportRecord(Place{std::move(file)}); }
+
+    /// Whether something in it is no entry: what stands behind it was not read.
+    bool isDamaged() const noexcept { return isDamaged_; }
+    /// Whether it says nothing of any file.
+    bool isEmpty() const noexcept { return sources_.empty() && reserved_.empty() && announced_.empty(); }
 
     /// Whether the store got what was to become of a file; asked of what was never confirmed.
     using Judge = std::function<bool(const ImportedSource&)>;
@@ -73,26 +83,41 @@ public:
     void confirm();
     /// What was announced is not going to be.
     void withdraw();
-    /// Takes away hashes of what is protected now; `stampOf` tells what stands for that of a file.
-    void forgetTexts(const std::function<bool(const ImportedSource&)>& isProtected,
+    /// Takes away hashes of what is protected now; `stampOf` tells what stands for that of a file. Whether there were
+    /// any.
+    bool forgetTexts(const std::function<bool(const ImportedSource&)>& isProtected,
         const std::function<std::string(const std::filesystem::path&)>& stampOf);
     /// Paths below `old` lie below `now`.
     void moveRoot(const std::filesystem::path& old, const std::filesystem::path& now);
+    /// Those of the notes that are to be had.
+    using NotesThere = std::function<std::set<std::string>(const std::vector<std::string>& identifiers)>;
+    /// Takes over what another record, which is settled, says of files and notes of which this one says nothing: of
+    /// notes that are there.
+    void takeFrom(const ImportRecord& other, const NotesThere& notesThere);
     /// Writes the record anew, without what is settled, where it has grown by that.
     void finish();
 
     /// Where it lies for the store in this file.
     static std::filesystem::path pathForDatabase(const std::filesystem::path& database);
+    /// What it is called in a backup. Part of the format of backups.
+    static constexpr std::string_view nameInBackups = "imports.jsonl";
 
 private:
+    struct Place {
+        std::filesystem::path file;
+    };
+    explicit ImportRecord(Place place);
+
     void read();
     void read(const RecordEntry& entry);
     void take(ImportedSource source);
     void drop(std::string_view path);
     void forgetBytes(const ImportedSource& source);
     void adoptAnnounced();
+    void dropAnnounced();
     void append(const std::string& lines, std::size_t count);
     void rewrite();
+    std::size_t neededLines() const noexcept;
 
     std::filesystem::path file_;
     SourcesByPath sources_;
@@ -104,6 +129,7 @@ private:
     std::vector<std::string> movedAway_; ///< with what is announced
     std::size_t lines_ = 0;              ///< of the file
     bool mustBeRewritten_ = false;
+    bool isDamaged_ = false;
 };
 
 } // namespace tarn

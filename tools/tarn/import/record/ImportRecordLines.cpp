@@ -12,6 +12,9 @@ namespace tarn {
 namespace {
 
 constexpr int kFormat = 1;
+/// A note of 30 MiB that is nothing but links has less.
+constexpr std::size_t kLongestLine = std::size_t(256) << 20;
+constexpr int kDeepestValue = 8;
 
 using Kind = RecordEntry::Kind;
 constexpr std::array kKinds{
@@ -22,6 +25,8 @@ constexpr std::array kKinds{
     std::pair<Kind, std::string_view>{Kind::Confirmed, "confirmed"},
     std::pair<Kind, std::string_view>{Kind::Withdrawn, "withdrawn"},
 };
+
+struct TooDeep { };
 
 constexpr std::string_view kHexadecimal = "0123456789abcdef";
 
@@ -129,10 +134,33 @@ std::string lineOfEntry(const RecordEntry& entry)
     return json.dump() + "\n";
 }
 
+bool readRecordLine(std::istream& stream, std::string& line)
+{
+    std::array<char, 4096> piece{};
+    line.clear();
+    while (line.size() <= kLongestLine) {
+        stream.getline(piece.data(), piece.size());
+        const auto count = static_cast<std::size_t>(stream.gcount());
+        const bool isPartOfLine = stream.fail() && !stream.eof() && !stream.bad() && count > 0;
+        const bool hasLineFeed = !stream.fail() && !stream.eof();
+        line.append(piece.data(), hasLineFeed ? count - 1 : count);
+        if (!isPartOfLine)
+            return hasLineFeed || !line.empty();
+        stream.clear();
+    }
+    return true;
+}
+
 std::optional<RecordEntry> recordEntryOfLine(std::string_view line)
 {
+    // What is nested without end would take a multiple of its length.
+    const auto isShallow = [](int depth, JSON::parse_event_t, JSON&) {
+        if (depth > kDeepestValue)
+            throw TooDeep();
+        return true;
+    };
     try {
-        const JSON json = JSON::parse(line);
+        const JSON json = JSON::parse(line, isShallow);
         for (const auto& [kind, name] : kKinds) {
             const auto value = json.find(std::string(name));
             if (value == json.end())
@@ -143,6 +171,8 @@ std::optional<RecordEntry> recordEntryOfLine(std::string_view line)
                 .isOfLaterFormat = kind == Kind::Format && value->get<int>() > kFormat};
         }
     } catch (const JSON::exception&) {
+        // none
+    } catch (const TooDeep&) {
         // none
     }
     return std::nullopt;

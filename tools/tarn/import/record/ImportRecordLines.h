@@ -2,6 +2,7 @@
 
 #include "tools/tarn/import/record/ImportRecord.h"
 
+#include <istream>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -25,6 +26,9 @@ struct RecordEntry {
 
 /// One line of JSON with its line feed. A path that is no UTF-8 stands in hexadecimal digits.
 std::string lineOfEntry(const RecordEntry& entry);
+/// The next line without its line feed, at most so much of it as an entry can have; false at the end. The stream is at
+/// its end behind a line that has no line feed.
+bool readRecordLine(std::istream& stream, std::string& line);
 /// None for a line that is none.
 std::optional<RecordEntry> recordEntryOfLine(std::string_view line);
 

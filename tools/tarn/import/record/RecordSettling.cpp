@@ -35,10 +35,16 @@ void settleRecord(ImportRecord& record, StoreSession& session)
 {
     StoreTitles titles(&session);
     record.settle([&](const ImportedSource& source) { return hasHappened(source, record, session, titles); });
+    forgetProtectedNotes(record, session);
+}
+
+bool forgetProtectedNotes(ImportRecord& record, StoreSession& session)
+{
     std::set<std::string> protectedNotes;
     session.forEachNote(predicateOfFilter("encrypted"),
         [&](const OVNote& note) { protectedNotes.insert(note.uniqueIdentifier().value_or("")); });
-    record.forgetTexts([&](const ImportedSource& source) { return protectedNotes.contains(source.note); }, stampOfFile);
+    return record.forgetTexts(
+        [&](const ImportedSource& source) { return protectedNotes.contains(source.note); }, stampOfFile);
 }
 
 bool isAsImported(

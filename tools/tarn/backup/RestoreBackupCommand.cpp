@@ -2,12 +2,13 @@
 #include "tarnmodel/files/OVLocalFileManager.h"
 #include "tarnmodel/platform/foundation/text/UTF.h"
 #include "tarnmodel/store/BackupMigration.h"
+#include "tools/tarn/backup/BackedUpRecord.h"
+#include "tools/tarn/backup/BackupProgress.h"
 #include "tools/tarn/commandline/CommandFailure.h"
 #include "tools/tarn/commandline/CommandLine.h"
 #include "tools/tarn/commandline/DisplayText.h"
 #include "tools/tarn/commandline/Interruption.h"
 #include "tools/tarn/commandline/JSON.h"
-#include "tools/tarn/commands/BackupProgress.h"
 #include "tools/tarn/commands/Commands.h"
 #include "tools/tarn/files/FileList.h"
 #include "tools/tarn/session/StoreSession.h"
@@ -121,6 +122,7 @@ ExitCode restoreBackup(const Invocation& invocation, const RestoreArguments& arg
         return verify(invocation, arguments);
     refuseBeforeMakingAStore(invocation, arguments);
     StoreSession session(invocation, StoreSession::Access::Write);
+    RestoredRecord record(session, arguments.salvage);
     std::optional<BackupRestoration> restoration;
     NSError error;
     {
@@ -130,11 +132,15 @@ ExitCode restoreBackup(const Invocation& invocation, const RestoreArguments& arg
         options.progress = progress.handler();
         options.migrate = migrateRecordsOfBackup;
         options.recordsChanges = false; // the session does
+        options.takeCompanion = record.taker();
         restoration = BackupRestore(*arguments.file).restoreIntoContext(session.context(), options, &error);
     }
     if (!restoration)
         throw failureOfBackup("the backup was not restored, or not all of it", error);
+    if (record.omission())
+        restoration->skipped.push_back(*record.omission());
     writeRestoration(invocation, *restoration);
+    record.finish();
     return restoration->damaged == 0 ? ExitCode::Done : ExitCode::Failed;
 }
 

@@ -1,13 +1,14 @@
 #include "tarnmodel/backup/BackupRestore.h"
 #include "tarnmodel/backup/StoreBackup.h"
 #include "tarnmodel/files/OVLocalFileManager.h"
+#include "tools/tarn/backup/BackedUpRecord.h"
+#include "tools/tarn/backup/BackupProgress.h"
 #include "tools/tarn/commandline/CommandFailure.h"
 #include "tools/tarn/commandline/CommandLine.h"
 #include "tools/tarn/commandline/Confirmation.h"
 #include "tools/tarn/commandline/DisplayText.h"
 #include "tools/tarn/commandline/Interruption.h"
 #include "tools/tarn/commandline/JSON.h"
-#include "tools/tarn/commands/BackupProgress.h"
 #include "tools/tarn/commands/Commands.h"
 #include "tools/tarn/files/FileList.h"
 #include "tools/tarn/session/StoreSession.h"
@@ -90,7 +91,7 @@ ExitCode backUp(const Invocation& invocation, const BackupArguments& arguments)
 {
     const Interruption interruption;
     const fs::path file = *arguments.file;
-    const StoreSession session(invocation, StoreSession::Access::Read);
+    StoreSession session(invocation, StoreSession::Access::Read);
     if (!session.exists()) {
         if (invocation.json)
             writeBackupResult(invocation, {}, file);
@@ -112,7 +113,8 @@ ExitCode backUp(const Invocation& invocation, const BackupArguments& arguments)
         BackupProgress progress("Backing up");
         const BackupOptions options{.replacesFile = fs::exists(file, failure),
             .progress = progress.handler(),
-            .whileWaiting = [&wait](std::chrono::milliseconds waited) { return wait.goesOn(waited); }};
+            .whileWaiting = [&wait](std::chrono::milliseconds waited) { return wait.goesOn(waited); },
+            .companions = {companionOfImportRecord(session)}};
         manifest = StoreBackup(database).writeToURL(file, options, &error);
     }
     if (!manifest)
