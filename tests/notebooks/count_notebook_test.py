@@ -14,12 +14,13 @@ import note_links  # noqa: E402
 import note_text  # noqa: E402
 import notebook_files  # noqa: E402
 import notebook_plan  # noqa: E402
+import shown_links  # noqa: E402
 from count_notebook import counted  # noqa: E402
 from notebook_plan import NotebookPlan  # noqa: E402
 
 
 def load_tests(_loader, tests, _pattern):
-    for module in (front_matter, link_targets, note_links, note_text, notebook_files, notebook_plan):
+    for module in (front_matter, link_targets, note_links, note_text, notebook_files, notebook_plan, shown_links):
         tests.addTests(doctest.DocTestSuite(module))
     return tests
 
@@ -179,7 +180,7 @@ class LinksByPath(Notebook):
         text = "[a \\[x\\]](b.md) [![p](p.png)](b.md) ![note](b.md)"
         self.assertEqual(
             self.leads({"a.md": text, "b.md": "# B", "p.png": ""}),
-            [("byIdentifier", "b.md"), ("byIdentifier", "b.md"), "files", ("byIdentifier", "b.md")])
+            [("byIdentifier", "b.md"), ("byIdentifier", "b.md"), "files", ("wiki", "b.md")])
 
     def test_a_cell_of_a_table_takes_no_other_text(self):
         text = "| h |\n|---|\n| [B](b.md) |\n| [other](b.md) |\n| [[b\\|other]] |\n| [[b\\|B]] |\n"
@@ -244,7 +245,7 @@ class LinksByName(Notebook):
     def test_kept_links_lead_by_title_alone(self):
         files = {"a.md": "[[B]] [[c]] [x](b.md) [y](no.md) [[Two]]", "b.md": "# B", "c.md": "# Two", "d.md": "# Two"}
         leads = self.leads(files, links="keep")
-        self.assertEqual(leads, [("wiki", "b.md"), "waiting", "left", "nowhere", ("wiki", "c.md")])
+        self.assertEqual(leads, [("wiki", "b.md"), "waiting", "as it is", "nowhere", ("wiki", "c.md")])
 
 
 class Figures(Notebook):

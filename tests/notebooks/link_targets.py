@@ -12,12 +12,14 @@ from notebook_files import FOLDER_PAGES, stem
 
 @dataclass
 class Found:
-    """Where a link leads: `note` when to a note; else `reason` is "outside", "files" or "nowhere"."""
+    """Where a link leads: `note` when to a note; else `reason` is "outside", "files" or "nowhere". `name` is what of a
+    link in two brackets names the note."""
 
     note: Any = None
     reason: str = ""
     anchor: str = ""
     is_ambiguous: bool = False
+    name: str = ""
 
 
 def joined(folder, path):
@@ -95,7 +97,7 @@ class Targets:
         for tried, rest in ((written, ""), (name.strip(), anchor)):
             for candidates in self._candidates(source, tried):
                 if candidates:
-                    return Found(self._nearest(source, candidates), "", rest, len(candidates) > 1)
+                    return Found(self._nearest(source, candidates), "", rest, len(candidates) > 1, tried)
         return Found(reason="files" if fold(name.strip().strip("/")) in self.others_by_end else "nowhere")
 
     def _candidates(self, source, name):

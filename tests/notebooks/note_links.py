@@ -13,7 +13,7 @@ SCHEME = re.compile(r"[A-Za-z][A-Za-z0-9+.-]*:|//")
 class Link:
     """A link as it is written. `target` is a path, or what stands in two brackets in front of a bar, `whole` the
     same where no table parts it; `text` is what a reader sees, None where a link in two brackets has no other text.
-    `is_plain` says whether the text holds no marks. `line` counts from the first line of the text."""
+    `is_plain` says whether the text holds no marks, `is_on_one_line` whether it has one line. `line` counts from the first line of the text."""
 
     is_wiki: bool
     target: str
@@ -22,6 +22,7 @@ class Link:
     is_in_table: bool = False
     is_in_link: bool = False
     is_plain: bool = True
+    is_on_one_line: bool = True
     line: int = 0
     whole: str = ""
 
@@ -74,7 +75,7 @@ def _collect(tokens, line, in_table, found):
                 text = " ".join(plain(inner))
                 holds_picture = any(t.type in ("image", "wiki_link") for t in inner)
                 found.append(Link(False, token.attrs["href"], "[" + text if holds_picture else text, False,
-                    line in in_table, False, is_plain, line))
+                    line in in_table, False, is_plain, not any(t.type.endswith("break") for t in inner), line))
         elif token.type == "link_close":
             is_in_link = False
 

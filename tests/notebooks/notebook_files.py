@@ -3,6 +3,7 @@
 import os
 import posixpath
 import re
+import unicodedata
 from dataclasses import dataclass, field
 
 import front_matter
@@ -46,7 +47,7 @@ def start_below_comments(text):
 @dataclass
 class NoteFile:
     """A file that becomes a note: its path from the root, its text below the front matter, what that says, how the text
-    starts; and the title that the note gets."""
+    starts; the title that the note gets, and whether the text says it by itself."""
 
     path: str
     body: str = ""
@@ -54,6 +55,7 @@ class NoteFile:
     aliases: list = field(default_factory=list)
     start: Start = field(default_factory=Start)
     title: str = ""
+    says_title: bool = False
 
     @property
     def folder(self):
@@ -70,7 +72,8 @@ class NoteFile:
         ['b', 'a', 'root']
         """
         own = stem(posixpath.basename(self.path))
-        return posixpath.basename(self.folder) or root if own.lower() in FOLDER_PAGES else own
+        name = posixpath.basename(self.folder) or root if own.lower() in FOLDER_PAGES else own
+        return unicodedata.normalize("NFC", name)
 
 
 def note_file(path, text, start):

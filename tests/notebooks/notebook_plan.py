@@ -3,6 +3,7 @@ how it is written then."""
 
 import os
 import re
+import unicodedata
 from collections import Counter, defaultdict
 from dataclasses import dataclass
 
@@ -10,9 +11,10 @@ from link_targets import Targets
 from note_links import links_of
 from note_text import fold, holds_hashtag, start_of
 from notebook_files import NotebookFiles, start_below_comments, stem
+from shown_links import shown_before, shown_by_identifier, shown_by_title, shown_of_file
 
 MANY = 3
-KINDS = ("wiki", "byIdentifier", "waiting", "ambiguous", "anchors", "outside", "files", "nowhere", "left", "within")
+KINDS = ("wiki", "byIdentifier", "waiting", "ambiguous", "anchors", "outside", "files", "nowhere", "left", "within", "as it is")
 
 
 @dataclass
@@ -31,6 +33,7 @@ def shortest_end(path, others):
     >>> shortest_end("a/b/c.md", ["d/b/c.md"]), shortest_end("c.md", ["b/c.md"]), shortest_end("a.md", ["b.md"])
     ('a/b/c', 'c', 'a')
     """
+    path = unicodedata.normalize("NFC", path)
     parts, ends = stem(path).split("/"), [fold(stem(other)).split("/") for other in others]
     folded = fold(stem(path)).split("/")
     for length in range(1, len(parts)):
@@ -47,6 +50,7 @@ class Titles:
         self.starts = Counter((note.folder, fold(note.start.title)) for note in notes if note.start.level)
         for note in notes:
             note.title = self._title_of(note)
+            note.says_title = note.title == note.start.title
         if rule == "unique":
             self._tell_apart(notes)
 
@@ -71,7 +75,7 @@ class Titles:
             same[fold(note.title)].append(note)
         for group in same.values():
             for note in group if len(group) > 1 else ():
-                if not note.is_plain_text:
+                if not note.is_plain_text or (note.named and not note.start.level):
                     end = shortest_end(note.path, [other.path for other in group if other is not note])
                     note.title = f"{note.title} ({end})"
 
@@ -109,17 +113,27 @@ class NotebookPlan:
 
     def _lead(self, note, link):
         if link.target.startswith("#"):
-            return Lead("within", note, link)
+            is_same = not link.is_wiki or link.is_embedded or self._reads_the_same(note, link, link.text)
+            return Lead("within" if is_same else "left", note, link)
         found = (self.targets.of_name if link.is_wiki else self.targets.of_path)(note.path, link.target)
-        if found.note is None:
-            return Lead("waiting" if link.is_wiki and found.reason == "nowhere" else found.reason, note, link)
-        self.count["ambiguous"] += found.is_ambiguous
+        if found.note:
+            return self._lead_to_note(note, link, found)
+        if link.is_wiki and found.reason == "files" and not self._reads_the_same(note, link, shown_of_file(link)):
+            return Lead("left", note, link)
+        return Lead("waiting" if link.is_wiki and found.reason == "nowhere" else found.reason, note, link)
+
+    def _lead_to_note(self, note, link, found):
+        title = found.note.title
         if self._goes_by_title(link, found.note):
-            kind = "left" if self._changes_the_text(note, link, found) else "wiki"
+            kind, shown = "wiki", shown_by_title(link, title, found)
         else:
-            kind = "left" if link.is_in_link or link.is_embedded else "byIdentifier"
-        if kind == "left":
-            return Lead(kind, note, link)
+            kind, shown = "byIdentifier", shown_by_identifier(link, found)
+            if link.is_in_link or link.is_embedded:
+                return Lead("left", note, link)
+        makes_marks_text = kind == "wiki" and not link.is_wiki
+        if makes_marks_text and holds_hashtag(link.text) or not self._reads_the_same(note, link, shown, makes_marks_text):
+            return Lead("left", note, link)
+        self.count["ambiguous"] += found.is_ambiguous
         self.count["anchors"] += bool(found.anchor)
         return Lead(kind, note, link, found.note)
 
@@ -131,18 +145,21 @@ class NotebookPlan:
         return link.is_wiki or not re.search(r"[\[\]]", link.text)
 
     @staticmethod
-    def _changes_the_text(note, link, found):
-        """Whether a title or a tag would be lost: what stands behind a bar is shown as it is written."""
-        if not link.is_wiki and holds_hashtag(link.text):
+    def _reads_the_same(note, link, shown, makes_marks_text=False):
+        """Where the title stands, links that read otherwise stay: by another text, or since what stands behind a bar is
+        shown as it is written, on one line."""
+        if not note.says_title or link.line != note.start.line:
             return True
-        gives_title = note.start.title == note.title and link.line == note.start.line
-        is_picture = link.is_embedded and not link.is_wiki
-        return gives_title and (not link.is_plain or is_picture or (link.is_wiki and link.text is None and bool(found.anchor)))
+        if makes_marks_text and not (link.is_plain and link.is_on_one_line):
+            return False
+        return shown == shown_before(link)
 
     def _lead_as_written(self, note, link):
         """Without new links: those in two brackets lead by title, and no other does."""
         if not link.is_wiki:
-            lead = self._lead(note, link)
-            return lead if lead.target is None else Lead("left", note, link)
+            if link.target.startswith("#"):
+                return Lead("within", note, link)
+            found = self.targets.of_path(note.path, link.target)
+            return Lead("as it is" if found.note else found.reason, note, link)
         same = self.targets.by_title.get(fold(link.whole))
         return Lead("wiki" if same else "waiting", note, link, same[0] if same else None)
