@@ -40,7 +40,10 @@ std::string endOfPath(const fs::path& path, std::size_t parts)
     fs::path end;
     for (; part != path.end(); ++part)
         end /= *part;
-    return canonicallyComposed(validUTF8(end.replace_extension().native()));
+    std::string text = canonicallyComposed(validUTF8(end.replace_extension().native()));
+    for (const char lineEnd : {'\n', '\r'})
+        std::ranges::replace(text, lineEnd, ' ');
+    return text;
 }
 
 /// Behind it stands when a version came to it.

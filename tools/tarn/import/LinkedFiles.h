@@ -10,6 +10,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tarn {
 
@@ -45,6 +46,7 @@ public:
 private:
     LinkedFile fileAtPath(const std::filesystem::path& path, const std::filesystem::path& root) const;
     std::optional<LinkedFile> noteNear(const std::filesystem::path& place, const std::filesystem::path& root);
+    std::vector<std::filesystem::path> pagesOf(const std::filesystem::path& folder);
     std::optional<std::filesystem::path> existing(
         const std::filesystem::path& folder, const std::filesystem::path& relative);
     const std::filesystem::path& canonicalRoot(const std::filesystem::path& root);

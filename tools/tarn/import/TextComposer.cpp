@@ -9,6 +9,7 @@
 #include "tools/tarn/import/ExportedFiles.h"
 
 #include <array>
+#include <system_error>
 #include <utility>
 
 namespace tarn {
@@ -144,15 +145,19 @@ TextComposer::TextComposer(
     ImportPlan& plan, const ImportRules& rules, std::vector<std::string> tags, const MarkdownFiles& found)
     : plan_(plan), rules_(rules), tags_(std::move(tags)), linkedFiles_(found.files), otherFiles_(plan.linkedNames())
 {
-    for (const MarkdownFile& file : found.others)
-        otherFiles_.add(
-            {.path = pathWithoutSymbolicLinks(file.path), .root = rootOf(file), .title = {}, .aliases = {}});
+    for (const MarkdownFile& file : found.others) {
+        const fs::path path = pathWithoutSymbolicLinks(file.path);
+        const fs::path root = rootOf(file);
+        std::error_code failure;
+        if (*path.lexically_relative(root).begin() != ".." && fs::is_regular_file(path, failure))
+            otherFiles_.add({.path = path, .root = root, .title = {}, .aliases = {}});
+    }
 }
 
 LinkedFile TextComposer::fileForLink(std::size_t number, const std::string& destination)
 {
-    const MarkdownFile& file = plan_.files()[number].file;
-    return linkedFiles_.fileForLink(destination, file.path, file.root);
+    const PlannedFile& planned = plan_.files()[number];
+    return linkedFiles_.fileForLink(destination, planned.path, planned.file.root);
 }
 
 ComposedNote TextComposer::compose(std::size_t number)
