@@ -75,7 +75,7 @@ class Files(Notebook):
         (self.root / "Z.md").symlink_to("d.md")
         (self.root / "e.md").symlink_to("nowhere")
         plan = NotebookPlan(self.root)
-        self.assertEqual([n.path for n in plan.notes], ["Z.md", "a/c.md"])
+        self.assertEqual([n.path for n in plan.notes], ["d.md", "b/c.md"])
         self.assertEqual(([l.kind for l in plan.leads], plan.files.failed), (["wiki", "wiki"], ["e.md"]))
 
 
@@ -205,7 +205,7 @@ class LinksByPath(Notebook):
         text = "[1 [[c]] 2](b.md) [3 [4](c.md)](b.md) [![5](p.png)](b.md)"
         self.assertEqual(
             self.leads({"a.md": text, "b.md": "", "c.md": ""}),
-            [("byIdentifier", "b.md"), ("wiki", "c.md"), ("wiki", "c.md"), ("byIdentifier", "b.md"), "nowhere"])
+            [("byIdentifier", "b.md"), ("wiki", "c.md"), "left", ("byIdentifier", "b.md"), "nowhere"])
 
     def test_anchors_lead_to_the_note(self):
         plan = self.plan({"a.md": "[1](b.md#x) [2](b.md) [[b#x]] [3](no.md#x) [[no#x]]", "b.md": ""})

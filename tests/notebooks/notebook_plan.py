@@ -6,11 +6,12 @@ import re
 import unicodedata
 from collections import Counter, defaultdict
 from dataclasses import dataclass
+from posixpath import splitext
 
 from link_targets import Targets
 from note_links import links_of
 from note_text import fold, holds_hashtag, start_of
-from notebook_files import NotebookFiles, start_below_comments, stem
+from notebook_files import NotebookFiles, start_below_comments
 from shown_links import shown_before, shown_by_identifier, shown_by_title, shown_of_file
 
 MANY = 3
@@ -34,8 +35,8 @@ def shortest_end(path, others):
     ('a/b/c', 'c', 'a')
     """
     path = unicodedata.normalize("NFC", path)
-    parts, ends = stem(path).split("/"), [fold(stem(other)).split("/") for other in others]
-    folded = fold(stem(path)).split("/")
+    parts, ends = splitext(path)[0].split("/"), [fold(splitext(other)[0]).split("/") for other in others]
+    folded = fold(splitext(path)[0]).split("/")
     for length in range(1, len(parts)):
         if all(end[-length:] != folded[-length:] for end in ends):
             return "/".join(parts[-length:])
@@ -88,7 +89,7 @@ class NotebookPlan:
         self.notes = self.files.notes
         Titles(self.notes, titles, os.path.basename(self.files.root))
         self.shared = Counter(fold(note.title) for note in self.notes)
-        self.targets = Targets(self.notes, self.files.others, self.files.folders, self.files.first_path)
+        self.targets = Targets(self.notes, self.files)
         self.count = Counter({kind: 0 for kind in KINDS})
         lead = self._lead if links == "wiki" else self._lead_as_written
         self.leads = [lead(note, link) for note in self.notes for link in links_of(note.body) if link.target]
@@ -112,13 +113,15 @@ class NotebookPlan:
         return [note for note in self.notes if note.path not in linked]
 
     def _lead(self, note, link):
-        if link.target.startswith("#"):
-            is_same = not link.is_wiki or link.is_embedded or self._reads_the_same(note, link, link.text)
-            return Lead("within" if is_same else "left", note, link)
+        if link.target.startswith("?") and not link.is_wiki:
+            return Lead("as it is", note, link)
         found = (self.targets.of_name if link.is_wiki else self.targets.of_path)(note.path, link.target)
+        if link.target.startswith("#") and (not link.is_wiki or not found.note and not link.is_embedded):
+            is_same = not link.is_wiki or self._reads_the_same(note, link, link.text)
+            return Lead("within" if is_same else "left", note, link)
         if found.note:
             return self._lead_to_note(note, link, found)
-        if link.is_wiki and found.reason == "files" and not self._reads_the_same(note, link, shown_of_file(link)):
+        if link.is_wiki and found.reason == "files" and not self._reads_the_same(note, link, shown_of_file(link, found)):
             return Lead("left", note, link)
         return Lead("waiting" if link.is_wiki and found.reason == "nowhere" else found.reason, note, link)
 
@@ -130,6 +133,8 @@ class NotebookPlan:
             kind, shown = "byIdentifier", shown_by_identifier(link, found)
             if link.is_in_link or link.is_embedded:
                 return Lead("left", note, link)
+        if kind == "wiki" and link.is_in_brackets:
+            return Lead("left", note, link)
         makes_marks_text = kind == "wiki" and not link.is_wiki
         if makes_marks_text and holds_hashtag(link.text) or not self._reads_the_same(note, link, shown, makes_marks_text):
             return Lead("left", note, link)
@@ -157,7 +162,7 @@ class NotebookPlan:
     def _lead_as_written(self, note, link):
         """Without new links: those in two brackets lead by title, and no other does."""
         if not link.is_wiki:
-            if link.target.startswith("#"):
+            if link.target.startswith(("#", "?")):
                 return Lead("within", note, link)
             found = self.targets.of_path(note.path, link.target)
             return Lead("as it is" if found.note else found.reason, note, link)

