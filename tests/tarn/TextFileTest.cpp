@@ -36,7 +36,7 @@ protected:
     {
         std::vector<std::string> names;
         for (const MarkdownFile& file : found.files)
-            names.push_back(file.path.lexically_relative(folder_).string());
+            names.push_back(std::filesystem::path(file.path).lexically_relative(folder_).string());
         return names;
     }
     std::vector<std::string> skippedIn(const MarkdownFiles& found) const

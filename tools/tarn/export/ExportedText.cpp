@@ -8,7 +8,8 @@
 #include "tools/tarn/AttachmentLinks.h"
 #include "tools/tarn/JSON.h"
 #include "tools/tarn/import/ExportedFiles.h"
-#include "tools/tarn/import/LinkRewriting.h"
+#include "tools/tarn/import/LinkComparison.h"
+#include "tools/tarn/import/LinkText.h"
 
 #include <algorithm>
 #include <optional>

@@ -4,6 +4,7 @@
 #include "tools/tarn/DurableFile.h"
 #include "tools/tarn/import/ImportRecordLines.h"
 
+#include <algorithm>
 #include <fstream>
 #include <utility>
 
@@ -16,7 +17,7 @@ fs::path ImportRecord::pathForDatabase(const fs::path& database)
     return fs::path(database).replace_extension(".imports.jsonl");
 }
 
-ImportRecord::ImportRecord(fs::path database) : file_(pathForDatabase(database))
+ImportRecord::ImportRecord(const fs::path& database) : file_(pathForDatabase(database))
 {
     read();
 }
@@ -71,29 +72,41 @@ void ImportRecord::read(const RecordEntry& entry)
 void ImportRecord::take(ImportedSource source)
 {
     drop(source.path);
-    reserved_.erase(source.path);
-    byNote_[source.note] = source.path;
-    if (!source.file.empty())
-        byBytes_[source.file].insert(source.path);
-    fs::path path = source.path;
-    sources_.insert_or_assign(std::move(path), std::move(source));
+    if (const auto reserved = reserved_.find(source.path); reserved != reserved_.end())
+        reserved_.erase(reserved);
+    auto taken = std::make_unique<ImportedSource>(std::move(source));
+    // The key goes with the source that it is part of.
+    byNote_.erase(taken->note);
+    byNote_.emplace(taken->note, taken.get());
+    if (!taken->file.empty())
+        byBytes_.emplace(taken->file, taken.get());
+    const std::string_view path = taken->path;
+    sources_.emplace(path, std::move(taken));
 }
 
-void ImportRecord::drop(const fs::path& path)
+void ImportRecord::drop(std::string_view path)
 {
     const auto known = sources_.find(path);
     if (known == sources_.end())
         return;
-    if (const auto note = byNote_.find(known->second.note); note != byNote_.end() && note->second == path)
+    const ImportedSource& source = *known->second;
+    if (const auto note = byNote_.find(source.note); note != byNote_.end() && note->second == &source)
         byNote_.erase(note);
-    if (const auto bytes = byBytes_.find(known->second.file); bytes != byBytes_.end())
-        bytes->second.erase(path);
+    forgetBytes(source);
     sources_.erase(known);
+}
+
+void ImportRecord::forgetBytes(const ImportedSource& source)
+{
+    const auto [begin, end] = byBytes_.equal_range(source.file);
+    const auto known = std::find_if(begin, end, [&source](const auto& entry) { return entry.second == &source; });
+    if (known != end)
+        byBytes_.erase(known);
 }
 
 void ImportRecord::adoptAnnounced()
 {
-    for (const fs::path& path : std::exchange(movedAway_, {}))
+    for (const std::string& path : std::exchange(movedAway_, {}))
         drop(path);
     for (ImportedSource& source : std::exchange(announced_, {}))
         take(std::move(source));
@@ -112,7 +125,7 @@ void ImportRecord::settle(const Judge& happened)
         else if (!sources_.contains(source.path) && !byNote_.contains(source.note))
             reserved_.insert_or_assign(source.path, source.note);
     }
-    for (const fs::path& path : std::exchange(movedAway_, {})) {
+    for (const std::string& path : std::exchange(movedAway_, {})) {
         if (!saved.empty())
             drop(path);
     }
@@ -120,19 +133,19 @@ void ImportRecord::settle(const Judge& happened)
         take(std::move(source));
 }
 
-const ImportedSource* ImportRecord::sourceAtPath(const fs::path& path) const
+const ImportedSource* ImportRecord::sourceAtPath(std::string_view path) const
 {
     const auto known = sources_.find(path);
-    return known == sources_.end() ? nullptr : &known->second;
+    return known == sources_.end() ? nullptr : known->second.get();
 }
 
 const ImportedSource* ImportRecord::sourceOfNote(const std::string& identifier) const
 {
     const auto known = byNote_.find(identifier);
-    return known == byNote_.end() ? nullptr : sourceAtPath(known->second);
+    return known == byNote_.end() ? nullptr : known->second;
 }
 
-std::string ImportRecord::reservedIdentifier(const fs::path& path) const
+std::string ImportRecord::reservedIdentifier(std::string_view path) const
 {
     const auto known = reserved_.find(path);
     return known == reserved_.end() ? std::string() : known->second;
@@ -141,19 +154,18 @@ std::string ImportRecord::reservedIdentifier(const fs::path& path) const
 std::vector<const ImportedSource*> ImportRecord::sourcesOfBytes(const std::string& file) const
 {
     std::vector<const ImportedSource*> sources;
-    if (const auto known = byBytes_.find(file); known != byBytes_.end()) {
-        for (const fs::path& path : known->second)
-            sources.push_back(&sources_.at(path));
-    }
+    const auto [begin, end] = byBytes_.equal_range(file);
+    for (auto known = begin; known != end; ++known)
+        sources.push_back(known->second);
     return sources;
 }
 
-void ImportRecord::announce(std::vector<ImportedSource> batch, std::vector<fs::path> moved)
+void ImportRecord::announce(std::vector<ImportedSource> batch, std::vector<std::string> moved)
 {
     std::string lines;
     for (const ImportedSource& source : batch)
         lines += lineOfEntry({RecordEntry::Kind::Announced, source});
-    for (const fs::path& path : moved)
+    for (const std::string& path : moved)
         lines += lineOfEntry({RecordEntry::Kind::Moved, {.path = path}});
     append(lines, batch.size() + moved.size());
     announced_ = std::move(batch);
@@ -178,16 +190,14 @@ void ImportRecord::withdraw()
 void ImportRecord::forgetTexts(const std::function<bool(const ImportedSource&)>& isProtected,
     const std::function<std::string(const fs::path&)>& stampOf)
 {
-    for (auto& [path, source] : sources_) {
-        if ((source.file.empty() && !source.text && !source.copyText) || !isProtected(source))
+    for (const auto& [path, source] : sources_) {
+        if ((source->file.empty() && !source->text && !source->copyText) || !isProtected(*source))
             continue;
-        ImportedSource forgotten = source;
-        forgotten.stamp = stampOf(path);
-        forgotten.file.clear();
-        forgotten.text.reset();
-        forgotten.copyText.reset();
-        byBytes_[source.file].erase(path);
-        source = std::move(forgotten);
+        forgetBytes(*source);
+        source->stamp = stampOf(fs::path(path));
+        source->file.clear();
+        source->text.reset();
+        source->copyText.reset();
         mustBeRewritten_ = true;
     }
 }
@@ -198,14 +208,14 @@ void ImportRecord::moveRoot(const fs::path& old, const fs::path& now)
         return;
     std::vector<ImportedSource> moved;
     for (const auto& [path, source] : sources_) {
-        const fs::path relative = path.lexically_relative(old);
+        const fs::path relative = fs::path(path).lexically_relative(old);
         if (!relative.empty() && *relative.begin() != "..")
-            moved.push_back(source);
+            moved.push_back(*source);
     }
     for (const ImportedSource& source : moved)
         drop(source.path);
     for (ImportedSource& source : moved) {
-        const fs::path relative = source.path.lexically_relative(old);
+        const fs::path relative = fs::path(source.path).lexically_relative(old);
         source.path = relative == "." ? now : now / relative;
         take(std::move(source));
     }
@@ -227,7 +237,7 @@ void ImportRecord::rewrite()
 {
     std::string lines = lineOfEntry({RecordEntry::Kind::Format, {}});
     for (const auto& [path, source] : sources_)
-        lines += lineOfEntry({RecordEntry::Kind::Source, source});
+        lines += lineOfEntry({RecordEntry::Kind::Source, *source});
     for (const auto& [path, note] : reserved_)
         lines += lineOfEntry({RecordEntry::Kind::Announced, {.path = path, .note = note}});
     writeDurably(file_, lines);

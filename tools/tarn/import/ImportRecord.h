@@ -8,8 +8,8 @@
 #include <filesystem>
 #include <functional>
 #include <map>
+#include <memory>
 #include <optional>
-#include <set>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -19,7 +19,7 @@ namespace tarn {
 
 /// What became of a file when it was last imported.
 struct ImportedSource {
-    std::filesystem::path path;            ///< without symbolic links
+    std::string path;                      ///< without symbolic links
     std::string note{};                    ///< the identifier of the note that was made of it
     std::string file{};                    ///< a hash of its bytes; "" while the note is protected
     std::string stamp{};                   ///< its size and date, in place of the hash; "" while there is one
@@ -43,7 +43,12 @@ struct RecordEntry;
 class ImportRecord {
 public:
     /// The record beside this database, which is not there yet when nothing was imported.
-    explicit ImportRecord(std::filesystem::path database);
+    explicit ImportRecord(const std::filesystem::path& database);
+    ImportRecord(const ImportRecord&) = delete;
+    ImportRecord& operator=(const ImportRecord&) = delete;
+
+    /// By the path in it. Where it lies in memory it stays until it goes.
+    using SourcesByPath = std::map<std::string_view, std::unique_ptr<ImportedSource>>;
 
     /// Whether the store got what was to become of a file; asked of what was never confirmed.
     using Judge = std::function<bool(const ImportedSource&)>;
@@ -51,19 +56,19 @@ public:
     /// next attempt.
     void settle(const Judge& happened);
 
-    const ImportedSource* sourceAtPath(const std::filesystem::path& path) const;
+    const ImportedSource* sourceAtPath(std::string_view path) const;
     /// Of the note of this identifier.
     const ImportedSource* sourceOfNote(const std::string& identifier) const;
     /// The identifier that an import gave a file whose note it could not save; "" for none.
-    std::string reservedIdentifier(const std::filesystem::path& path) const;
+    std::string reservedIdentifier(std::string_view path) const;
     /// The files that had these bytes.
     std::vector<const ImportedSource*> sourcesOfBytes(const std::string& file) const;
     /// All, by path.
-    const std::map<std::filesystem::path, ImportedSource>& sources() const noexcept { return sources_; }
+    const SourcesByPath& sources() const noexcept { return sources_; }
 
     /// Announces what a batch is going to make of files, and the paths from which files have moved. On the disk when it
     /// returns.
-    void announce(std::vector<ImportedSource> batch, std::vector<std::filesystem::path> moved);
+    void announce(std::vector<ImportedSource> batch, std::vector<std::string> moved);
     /// What was announced is saved.
     void confirm();
     /// What was announced is not going to be.
@@ -83,19 +88,21 @@ private:
     void read();
     void read(const RecordEntry& entry);
     void take(ImportedSource source);
-    void drop(const std::filesystem::path& path);
+    void drop(std::string_view path);
+    void forgetBytes(const ImportedSource& source);
     void adoptAnnounced();
     void append(const std::string& lines, std::size_t count);
     void rewrite();
 
     std::filesystem::path file_;
-    std::map<std::filesystem::path, ImportedSource> sources_;
-    std::unordered_map<std::string, std::filesystem::path> byNote_;
-    std::unordered_map<std::string, std::set<std::filesystem::path>> byBytes_;
-    std::map<std::filesystem::path, std::string> reserved_;
+    SourcesByPath sources_;
+    // Keys are those of the sources themselves.
+    std::unordered_map<std::string_view, const ImportedSource*> byNote_;
+    std::unordered_multimap<std::string_view, const ImportedSource*> byBytes_;
+    std::map<std::string, std::string, std::less<>> reserved_; ///< identifiers by path
     std::vector<ImportedSource> announced_;
-    std::vector<std::filesystem::path> movedAway_; ///< with what is announced
-    std::size_t lines_ = 0;                        ///< of the file
+    std::vector<std::string> movedAway_; ///< with what is announced
+    std::size_t lines_ = 0;              ///< of the file
     bool mustBeRewritten_ = false;
 };
 

@@ -69,10 +69,10 @@ std::optional<TextFingerprint> fingerprintOf(const JSON& source, const char* key
 JSON jsonOf(const ImportedSource& source)
 {
     JSON json;
-    if (isValidUTF8(source.path.native()))
-        json["path"] = source.path.native();
+    if (isValidUTF8(source.path))
+        json["path"] = source.path;
     else
-        json["pathBytes"] = hexadecimalOf(source.path.native());
+        json["pathBytes"] = hexadecimalOf(source.path);
     const auto put = [&json](const char* key, const std::string& value) {
         if (!value.empty())
             json[key] = value;

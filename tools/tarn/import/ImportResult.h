@@ -75,6 +75,9 @@ struct ImportResult {
 
     /// Notes that were made or changed.
     std::size_t written() const noexcept { return imported + updated + conflicted; }
+
+    /// Adds what one batch came to.
+    void add(ImportResult batch);
 };
 
 } // namespace tarn

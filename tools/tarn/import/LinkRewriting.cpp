@@ -3,8 +3,9 @@
 #include "tarnmodel/corvel/CVKLink.h"
 #include "tarnmodel/corvel/CVKWikiLink.h"
 #include "tarnmodel/platform/foundation/text/Folding.h"
-#include "tarnmodel/platform/foundation/text/PercentEncoding.h"
 #include "tarnmodel/platform/foundation/text/UTF.h"
+#include "tools/tarn/import/LinkComparison.h"
+#include "tools/tarn/import/LinkText.h"
 
 #include <algorithm>
 #include <utility>
@@ -15,102 +16,13 @@ namespace {
 
 using Outcome = RewrittenLink::Outcome;
 
-/// What a link of the text is after all edits.
-struct ExpectedLink {
-    bool isWiki = false;
-    std::string destination;
-    friend bool operator==(const ExpectedLink&, const ExpectedLink&) = default;
-};
-
 /// An edit of one link, and what the link is with it.
 struct LinkEdit {
     std::size_t link = 0; ///< its number in the text
     CVKTextEdit edit;
-    ExpectedLink after;
+    LinkTarget after;
     Outcome outcome = Outcome::Other;
 };
-
-/// A text on one line; what begins the lines of a quote is no part of it.
-std::string withoutLineBreaks(std::string_view text, bool isInQuote)
-{
-    std::string line;
-    for (std::size_t i = 0; i < text.size();) {
-        if (text[i] != '\n' && text[i] != '\r') {
-            line += text[i++];
-            continue;
-        }
-        line += ' ';
-        i = std::min(text.find_first_not_of(isInQuote ? "\r\n\t >" : "\r\n\t ", i), text.size());
-    }
-    return line;
-}
-
-/// What a text means that was written with backslashes before its marks.
-std::string unescaped(std::string_view text)
-{
-    std::string plain;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const bool escapes = text[i] == '\\' && i + 1 < text.size()
-            && std::string_view("!\"#$%&'()*+,-./:;<=>?@[\\]^_`{|}~").find(text[i + 1]) != std::string_view::npos;
-        i += escapes ? 1 : 0;
-        plain += text[i];
-    }
-    return plain;
-}
-
-std::vector<ExpectedLink> linksOf(const CVKAST& document)
-{
-    std::vector<ExpectedLink> links;
-    for (CVKLink& link : document.links())
-        links.push_back({link.form == CVKLinkForm::Wiki, std::move(link.decodedDestination)});
-    return links;
-}
-
-/// The lines of a range with their line ends; none where something else stands in them.
-std::optional<CVKRange> wholeLines(std::string_view text, CVKRange range)
-{
-    const std::size_t lineEnd = range.location == 0 ? std::string_view::npos : text.rfind('\n', range.location - 1);
-    const std::size_t begin = lineEnd == std::string_view::npos ? 0 : lineEnd + 1;
-    const std::size_t end = std::min(text.find('\n', range.end()), text.size() - 1) + 1;
-    const bool isAlone = trimmed(text.substr(begin, range.location - begin)).empty()
-        && trimmed(text.substr(range.end(), end - range.end())).empty();
-    return isAlone ? std::optional(CVKRange{begin, end - begin}) : std::nullopt;
-}
-
-/// "Note > Heading > Lower", as readers know it from other programs.
-std::string nameWithAnchor(const std::string& name, const std::string& anchor)
-{
-    std::string text = name;
-    for (std::size_t offset = 0; offset <= anchor.size();) {
-        const std::size_t end = std::min(anchor.find('#', offset), anchor.size());
-        if (end > offset)
-            text += " > " + anchor.substr(offset, end - offset);
-        offset = end + 1;
-    }
-    return text;
-}
-
-std::string lastPart(const std::string& name)
-{
-    const std::size_t slash = name.rfind('/');
-    return slash == std::string::npos ? name : name.substr(slash + 1);
-}
-
-/// Percent-encoded but for what paths are made of.
-std::string percentEncodedPath(std::string_view path)
-{
-    return stringByAddingPercentEncoding(path, UnescapedCharacters::URLQueryHeader);
-}
-
-/// A name without the ending of a note's file.
-std::string withoutEnding(const std::string& name)
-{
-    for (const std::string_view ending : {".md", ".markdown", ".txt"}) {
-        if (name.ends_with(ending))
-            return name.substr(0, name.size() - ending.size());
-    }
-    return name;
-}
 
 bool isPicture(CVKLinkForm form)
 {
@@ -152,7 +64,6 @@ private:
     CVKTextEdit editOfDestination(const CVKLink& link, const std::string& url) const;
     bool check(const CVKAST& after, const std::vector<bool>& taken) const;
     RewrittenText rewritten();
-    std::string withoutUnusedDefinitions(const CVKAST& after) const;
 
     CVKAST document_;
     std::vector<CVKLink> links_;
@@ -218,7 +129,7 @@ std::optional<std::string> LinkRewriting::textOf(const CVKLink& link) const
     if (const std::size_t bar = barInTable(link); bar != std::string::npos)
         return link.decodedDestination.substr(bar + 1);
     if (link.form == CVKLinkForm::Wiki)
-        return link.hasText ? std::optional(unescaped(slice(link.text))) : std::nullopt;
+        return link.hasText ? std::optional(unescapedLinkText(slice(link.text))) : std::nullopt;
     return withoutLineBreaks(slice(link.text), isInQuote(link));
 }
 
@@ -283,10 +194,10 @@ std::optional<std::string> LinkRewriting::textBeside(const CVKLink& link, const 
     }
     if (link.isInTableRow)
         return std::nullopt;
-    const std::string name = lastPart(meaning.name);
+    const std::string name = lastPartOfName(meaning.name);
     std::string shown = meaning.anchor.empty() ? name : nameWithAnchor(meaning.name, meaning.anchor);
     const bool repeats
-        = meaning.anchor.empty() && (fold(name) == fold(title) || fold(withoutEnding(name)) == fold(title));
+        = meaning.anchor.empty() && (fold(name) == fold(title) || fold(withoutNoteExtension(name)) == fold(title));
     const bool isWritable = shown.find_first_of("[]|\\") == std::string::npos;
     return repeats || !isWritable ? std::nullopt : std::optional(std::move(shown));
 }
@@ -302,7 +213,7 @@ void LinkRewriting::leadToFile(std::size_t number, const LinkMeaning& meaning)
 {
     const CVKLink& link = links_[number];
     const std::string url = percentEncodedPath(meaning.path);
-    const std::string shown = textOf(link).value_or(link.isEmbed ? std::string() : lastPart(meaning.name));
+    const std::string shown = textOf(link).value_or(link.isEmbed ? std::string() : lastPartOfName(meaning.name));
     const std::string written = std::string(link.isEmbed ? "![" : "[") + escapedLinkText(shown) + "](" + url + ")";
     edit({number, {link.range, written}, {false, url}, Outcome::File});
 }
@@ -324,14 +235,14 @@ void LinkRewriting::edit(LinkEdit made)
 
 bool LinkRewriting::check(const CVKAST& after, const std::vector<bool>& taken) const
 {
-    std::vector<ExpectedLink> expected;
+    std::vector<LinkTarget> expected;
     for (const CVKLink& link : links_)
         expected.push_back({link.form == CVKLinkForm::Wiki, link.decodedDestination});
     for (std::size_t i = 0; i < edits_.size(); ++i) {
         if (taken[i])
             expected[edits_[i].link] = edits_[i].after;
     }
-    return saysTheSame(document_, after) && linksOf(after) == expected;
+    return saysTheSame(document_, after) && linkTargetsOf(after) == expected;
 }
 
 RewrittenText LinkRewriting::rewritten()
@@ -348,32 +259,7 @@ RewrittenText LinkRewriting::rewritten()
         if (!result.taken[i])
             told_[edits_[i].link].outcome = Outcome::Kept;
     }
-    return {withoutUnusedDefinitions(result.document), std::move(told_)};
-}
-
-/// A definition that had its uses for links which do not need it any more goes with them.
-std::string LinkRewriting::withoutUnusedDefinitions(const CVKAST& after) const
-{
-    const std::vector<CVKLinkDefinition> before = document_.linkDefinitions();
-    const std::vector<CVKLinkDefinition> now = after.linkDefinitions();
-    if (before.size() != now.size())
-        return after.markdown();
-    std::vector<CVKTextEdit> edits;
-    for (std::size_t i = 0; i < now.size(); ++i) {
-        const auto lines
-            = before[i].uses > 0 && now[i].uses == 0 ? wholeLines(after.markdown(), now[i].range) : std::nullopt;
-        if (lines)
-            edits.push_back({*lines, ""});
-    }
-    if (edits.empty())
-        return after.markdown();
-    std::vector<ExpectedLink> expected = linksOf(after);
-    return after
-        .applyEdits(edits,
-            [&](const CVKAST& shorter, const std::vector<bool>&) {
-                return saysTheSame(after, shorter) && linksOf(shorter) == expected;
-            })
-        .document.markdown();
+    return {withoutUnusedDefinitions(document_, result.document), std::move(told_)};
 }
 
 Outcome outcomeOfKept(const CVKLink& link, LinkMeanings& meanings)
@@ -396,25 +282,6 @@ Outcome outcomeOfKept(const CVKLink& link, LinkMeanings& meanings)
 }
 
 } // namespace
-
-bool saysTheSame(const CVKAST& before, const CVKAST& after)
-{
-    const CVKTextSummary& old = before.textSummary();
-    const CVKTextSummary& now = after.textSummary();
-    return old.title == now.title && old.tags == now.tags && old.todoCount == now.todoCount
-        && old.doneCount == now.doneCount && old.codeBlockCount == now.codeBlockCount;
-}
-
-std::string escapedLinkText(std::string_view text)
-{
-    std::string escaped;
-    for (const char character : text) {
-        if (std::string_view("\\`*_[]<>&#|!").find(character) != std::string_view::npos)
-            escaped += '\\';
-        escaped += character;
-    }
-    return escaped;
-}
 
 RewrittenText textWithLinksKept(const std::string& text, LinkMeanings& meanings)
 {

@@ -79,9 +79,4 @@ RewrittenText textWithLinksToNotes(const std::string& text, LinkMeanings& meanin
 /// The text as it is, and what its links come to like that.
 RewrittenText textWithLinksKept(const std::string& text, LinkMeanings& meanings);
 
-/// Whether texts differ in nothing but links, as far as a note is concerned.
-bool saysTheSame(const CVKAST& before, const CVKAST& after);
-/// A text as it is written between the brackets of a Markdown link.
-std::string escapedLinkText(std::string_view text);
-
 } // namespace tarn

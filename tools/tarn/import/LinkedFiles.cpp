@@ -77,39 +77,26 @@ fs::path placeOf(const fs::path& folder)
     return folder.empty() ? fs::path(".") : folder;
 }
 
-fs::path withoutLinks(const fs::path& path)
-{
-    std::error_code failure;
-    fs::path target = fs::canonical(path, failure);
-    return failure ? path : target;
-}
-
 } // namespace
 
-LinkedFiles::LinkedFiles(std::span<const MarkdownFile> notes)
-{
-    for (const MarkdownFile& note : notes)
-        notes_.insert(withoutLinks(note.path));
-}
-
-LinkedFile LinkedFiles::fileForLink(std::string_view destination, const fs::path& note, const fs::path& root)
+LinkedFile LinkedFiles::fileForLink(std::string_view destination, const MarkdownFile& note)
 {
     using Kind = LinkedFile::Kind;
     if (destination.empty() || destination.front() == '#' || destination.front() == '?' || hasScheme(destination)
         || destination.starts_with("//"))
         return {};
-    const fs::path& canonical = canonicalRoot(root);
+    const fs::path& root = note.root->target;
     bool leadsOut = false;
     for (const MeantPath& meant : pathsForDestination(destination)) {
         const bool fromRoot = meant.path.starts_with('/');
-        const fs::path folder = fromRoot ? root : note.parent_path();
+        const fs::path folder = fromRoot ? note.root->path : fs::path(note.path).parent_path();
         const fs::path relative = fs::path(meant.path).relative_path();
         const auto path = existing(folder, relative);
         LinkedFile file;
         if (path)
-            file = fileAtPath(*path, canonical);
+            file = fileAtPath(*path, root);
         if (file.kind == Kind::NoPath) {
-            if (auto near = noteNear(path.value_or(folder / relative), canonical))
+            if (auto near = noteNear(path.value_or(folder / relative), root))
                 file = std::move(*near);
         }
         if (file.kind != Kind::NoPath) {
@@ -118,7 +105,7 @@ LinkedFile LinkedFiles::fileForLink(std::string_view destination, const fs::path
         }
         std::error_code failure;
         const fs::path place = fs::weakly_canonical(placeOf(folder) / relative, failure);
-        leadsOut = leadsOut || (!failure && !isBelow(place, canonical));
+        leadsOut = leadsOut || (!failure && !isBelow(place, root));
     }
     return {.kind = leadsOut ? Kind::Outside : Kind::Missing, .path = {}, .target = {}, .anchor = {}};
 }
@@ -133,7 +120,7 @@ LinkedFile LinkedFiles::fileAtPath(const fs::path& path, const fs::path& root) c
         return {};
     if (!isBelow(target, root))
         return {.kind = Kind::Outside, .path = {}, .target = {}, .anchor = {}};
-    if (notes_.contains(target))
+    if (isNote_(target.native()))
         return {.kind = Kind::ImportedNote, .path = path, .target = std::move(target), .anchor = {}};
     if (fs::is_regular_file(target, failure))
         return {.kind = Kind::Found, .path = path, .target = std::move(target), .anchor = {}};
@@ -199,14 +186,6 @@ std::optional<fs::path> LinkedFiles::existing(const fs::path& folder, const fs::
         path /= found->second;
     }
     return fs::exists(path, failure) ? std::optional(std::move(path)) : std::nullopt;
-}
-
-const fs::path& LinkedFiles::canonicalRoot(const fs::path& root)
-{
-    const auto [known, isNew] = roots_.try_emplace(root);
-    if (isNew)
-        known->second = withoutLinks(placeOf(root));
-    return known->second;
 }
 
 const LinkedFiles::NamesOfFolder& LinkedFiles::namesIn(const fs::path& folder)

@@ -6,10 +6,9 @@
 #include <functional>
 #include <map>
 #include <optional>
-#include <set>
-#include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace tarn {
@@ -31,17 +30,17 @@ struct LinkedFile {
 
 /// Finds the files that links of imported texts name.
 ///
-///     LinkedFiles files(imported);
-///     const LinkedFile file = files.fileForLink("img/a%20b.png", note, root);
+///     LinkedFiles files(isNote);
+///     const LinkedFile file = files.fileForLink("img/a%20b.png", note);
 class LinkedFiles {
 public:
-    /// `notes`: the files that become notes.
-    explicit LinkedFiles(std::span<const MarkdownFile> notes);
+    /// Whether the file of this path, which has no symbolic links, becomes a note.
+    using NotePredicate = std::function<bool(const std::string& path)>;
+    explicit LinkedFiles(NotePredicate isNote) : isNote_(std::move(isNote)) { }
 
-    /// What `destination` means in the text of `note`, which was found below `root`. Percent-encoded or not, composed
-    /// or not, with "?" or "#" behind it or not; one that begins with "/" begins at `root`.
-    LinkedFile fileForLink(
-        std::string_view destination, const std::filesystem::path& note, const std::filesystem::path& root);
+    /// What `destination` means in the text of `note`. Percent-encoded or not, composed
+    /// or not, with "?" or "#" behind it or not; one that begins with "/" begins at its root.
+    LinkedFile fileForLink(std::string_view destination, const MarkdownFile& note);
 
 private:
     LinkedFile fileAtPath(const std::filesystem::path& path, const std::filesystem::path& root) const;
@@ -49,13 +48,11 @@ private:
     std::vector<std::filesystem::path> pagesOf(const std::filesystem::path& folder);
     std::optional<std::filesystem::path> existing(
         const std::filesystem::path& folder, const std::filesystem::path& relative);
-    const std::filesystem::path& canonicalRoot(const std::filesystem::path& root);
 
     using NamesOfFolder = std::map<std::string, std::string, std::less<>>; ///< by their composed form
     const NamesOfFolder& namesIn(const std::filesystem::path& folder);
 
-    std::set<std::filesystem::path> notes_; ///< without symbolic links
-    std::map<std::filesystem::path, std::filesystem::path> roots_;
+    NotePredicate isNote_;
     std::map<std::filesystem::path, NamesOfFolder> names_;
 };
 

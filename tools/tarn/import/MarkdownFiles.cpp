@@ -87,8 +87,8 @@ private:
     }
 
     MarkdownFiles result_;
-    std::map<fs::path, bool> exports_; ///< folders of attachments; whether an export wrote them
-    fs::path root_;
+    std::map<fs::path, bool> exports_;       ///< folders of attachments; whether an export wrote them
+    std::shared_ptr<const ImportRoot> root_; ///< of the path that was given
     std::set<std::string> seen_;
     bool isInAssets_ = false;
 };
@@ -96,7 +96,11 @@ private:
 void Walk::begin(const fs::path& path)
 {
     std::error_code error;
-    root_ = fs::is_directory(path, error) ? path : path.parent_path();
+    fs::path folder = fs::is_directory(path, error) ? path : path.parent_path();
+    if (!root_ || root_->path != folder) {
+        fs::path target = pathWithoutSymbolicLinks(folder.empty() ? fs::path(".") : folder);
+        root_ = std::make_shared<const ImportRoot>(ImportRoot{std::move(folder), std::move(target)});
+    }
     visit(path);
 }
 
@@ -115,9 +119,9 @@ void Walk::visit(const fs::path& path)
         visitFolder(path);
     else if (isInAssets_) {
         skip(path, SkipReason::InAssets);
-        result_.others.push_back({path, root_});
+        result_.others.push_back({path.native(), root_});
     } else
-        result_.files.push_back({path, root_});
+        result_.files.push_back({path.native(), root_});
 }
 
 void Walk::visitFolder(const fs::path& folder)
@@ -150,7 +154,7 @@ void Walk::visitEntry(const fs::path& entry)
         visit(entry);
         isInAssets_ = wasInAssets;
     } else {
-        result_.others.push_back({entry, root_});
+        result_.others.push_back({entry.native(), root_});
         if (hasExtension(entry, kPictureExtensions))
             skip(entry, SkipReason::Picture);
     }
@@ -163,11 +167,6 @@ fs::path pathWithoutSymbolicLinks(const fs::path& path)
     std::error_code failure;
     fs::path target = fs::canonical(path, failure);
     return failure ? fs::absolute(path, failure).lexically_normal() : target;
-}
-
-fs::path rootOf(const MarkdownFile& file)
-{
-    return pathWithoutSymbolicLinks(file.root.empty() ? fs::path(".") : file.root);
 }
 
 std::string_view textOfReason(SkipReason reason) noexcept

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,11 +22,16 @@ struct SkippedPath {
     SkipReason reason;
 };
 
-/// A file that becomes a note.
+/// The folder that was given, or of a file that was given its own: files in it may be attached to notes.
+struct ImportRoot {
+    std::filesystem::path path;   ///< as it was given
+    std::filesystem::path target; ///< without symbolic links
+};
+
+/// A file that becomes a note. Of many thousands: paths are strings here, which take a fraction of the memory.
 struct MarkdownFile {
-    std::filesystem::path path;
-    std::filesystem::path root; ///< the folder that was given, or of a file that was given its own: files in it may be
-                                ///< attached to the note
+    std::string path;
+    std::shared_ptr<const ImportRoot> root;
 };
 
 /// What an import finds below the paths that it is given.
@@ -45,8 +51,6 @@ MarkdownFiles markdownFilesAtPaths(const std::vector<std::string>& paths);
 
 /// The path without symbolic links; of what is not there an absolute one.
 std::filesystem::path pathWithoutSymbolicLinks(const std::filesystem::path& path);
-/// The file's root without symbolic links.
-std::filesystem::path rootOf(const MarkdownFile& file);
 
 /// "hidden", "a picture" and so on.
 std::string_view textOfReason(SkipReason reason) noexcept;

@@ -1,7 +1,9 @@
 #pragma once
 
+#include "tools/tarn/import/MarkdownFiles.h"
+
 #include <cstddef>
-#include <filesystem>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -13,8 +15,8 @@ namespace tarn {
 
 /// A note of an import, or another file, as links find it.
 struct LinkableNote {
-    std::filesystem::path path; ///< without symbolic links
-    std::filesystem::path root; ///< the folder that was named, without symbolic links
+    std::string path;                       ///< without symbolic links
+    std::shared_ptr<const ImportRoot> root; ///< the folder that was named
     std::string title;
     std::vector<std::string> aliases;
 };
@@ -60,7 +62,7 @@ public:
     std::size_t size() const noexcept { return notes_.size(); }
 
     /// The note of this file. `path` has no symbolic links.
-    std::optional<Number> noteAtPath(const std::filesystem::path& path) const;
+    std::optional<Number> noteAtPath(const std::string& path) const;
     /// The note that the text of `from` names so; it need not be one of these.
     std::optional<Match> noteNamed(std::string_view name, const LinkableNote& from) const;
 
@@ -69,14 +71,17 @@ private:
     class Names {
     public:
         void add(const std::string& key, const NoteIndex& index, Number number);
-        std::optional<Match> nearest(const std::string& key, const std::filesystem::path& folder) const;
+        std::optional<Match> nearest(const std::string& key, std::string_view folder) const;
 
     private:
+        static std::string keyInFolder(const std::string& key, std::string_view folder);
+
         std::unordered_map<std::string, Match> everywhere_;
         std::unordered_map<std::string, Number> inFolder_; ///< by the key, and behind a null byte the folder
     };
 
     bool isNearer(Number one, Number other) const;
+    void addPaths(const std::string& whole, const std::string& relative, Number number);
     void addName(Names& names, const std::string& key, Number number);
     std::optional<Match> atPath(const std::string& name, const LinkableNote& from) const;
 

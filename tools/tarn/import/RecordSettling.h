@@ -1,0 +1,26 @@
+#pragma once
+
+#include "tarnmodel/model/OVNote.h"
+#include "tools/tarn/import/ImportRecord.h"
+#include "tools/tarn/import/TextFingerprint.h"
+
+#include <filesystem>
+#include <optional>
+#include <string>
+
+namespace tarn {
+
+class StoreSession;
+
+/// Asks the store what became of an import that did not come to its end, and takes hashes of what is protected by now
+/// out of the record.
+void settleRecord(ImportRecord& record, StoreSession& session);
+
+/// Whether a note still has the text that an import gave it; never of one that is protected.
+bool isAsImported(
+    const OVNote& note, const std::optional<TextFingerprint>& imported, const TextFingerprint::LeadsTo& leadsTo);
+
+/// What tells one state of a file from another without a hash of its bytes; "" where it cannot be looked at.
+std::string stampOfFile(const std::filesystem::path& path);
+
+} // namespace tarn
