@@ -108,6 +108,7 @@ class ImportModel:
         self.targets = Targets(planned, files)
         gone = [path for path in self.sources if not self._is_there(path) and path not in self._moved]
         self.prediction.counts["gone"] = len(gone)
+        self._let_links_follow(planned)
         for file in planned:
             self._take(file)
         return self.prediction
@@ -147,21 +148,44 @@ class ImportModel:
             file.note = file.source.note if file.source else new_note(file.path)
 
     def _find_titles(self, planned):
-        """Of notes that stay as they are the title that they have; nobody links what is in the trash."""
+        """Of notes that stay as they are the title that they have, and that of the file goes to the copy which an edited
+        one gets; nobody links what is in the trash."""
         mine = {file.note for file in planned}
         titles = []
+        others = [(note.identifier, note.title) for note in self.stored.values() if not note.is_trashed]
+        self.stored_titles = Titles(others)
         for file in planned:
             note = self.stored.get(file.note)
-            if note and file.source.digest == file.digest:
+            if note and note.is_trashed:
+                continue
+            is_unchanged = note and file.source.digest == file.digest
+            is_edited = note and not file.source.imported.matches(note.text, self._is_called)
+            if is_edited and not is_unchanged:
+                titles.append((f"copy of {file.note}", file.title))
+            if is_unchanged or is_edited:
                 file.title = note.title
-            if not (note and note.is_trashed):
-                titles.append((file.note, file.title))
-        others = [(note.identifier, note.title) for note in self.stored.values() if not note.is_trashed]
+            titles.append((file.note, file.title))
         self.titles = Titles(titles + [(note, title) for note, title in others if note not in mine])
-        self.stored_titles = Titles(others)
+
+    def _is_called(self, title, note):
+        return self.stored_titles.only(title) == note
 
     def _leads_to(self, title, note):
         return note in (self.titles.only(title), self.stored_titles.only(title))
+
+    def _is_ours(self, file):
+        note = self.stored.get(file.note)
+        return bool(note) and not note.is_trashed and file.source.imported.matches(note.text, self._leads_to)
+
+    def _let_links_follow(self, planned):
+        """Notes that get another title take the links along that lead to them, before any text is written."""
+        self.ours = {file.note for file in planned if file.source and self._is_ours(file)}
+        retitled = {file.note: file.title for file in planned if file.note in self.ours}
+
+        def followed(match):
+            return retitled.get(self.stored_titles.only(match[0]), match[0])
+
+        self.texts = {note: WIKI_TITLE.sub(followed, stored.text) for note, stored in self.stored.items()}
 
     def _take(self, file):
         source, counts = file.source, self.prediction.counts
@@ -176,10 +200,10 @@ class ImportModel:
         note = self.stored.get(file.note)
         if not note or note.is_trashed:
             return self._keep(file, source) if is_unchanged else self._skip()
-        is_ours = source.imported.matches(note.text, self._leads_to)
+        is_ours = file.note in self.ours
         if is_unchanged and not is_ours:
             return self._keep(file, source)
-        if text == note.text:
+        if text == self.texts[file.note]:
             return self._keep(file, source if is_unchanged else made)
         if is_ours:
             return self._write(file, "updated", made, made.note, made.imported, is_mended=is_unchanged)

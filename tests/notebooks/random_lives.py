@@ -16,7 +16,7 @@ from import_model import COUNTED, ImportModel
 from killed_import import KilledImport
 from notebook_life import Hand, LivingFolder
 from round_trip import RoundTrip
-from tarn_store import LINK_BY_IDENTIFIER, TarnStore, Titles
+from tarn_store import TarnStore, Titles
 
 WORD = re.compile(r"\b(?:word|hand)\d+\b")
 
@@ -87,7 +87,7 @@ class Life:
         self.name_new_notes(predicted, before, after)
         self.hold_texts(predicted, before, after)
         if self.kills and not is_again:
-            killed.require_the_same_as(after)
+            killed.require_the_same_as(self.store)
 
     def name_new_notes(self, predicted, before, after):
         """Each file that has no note gets one, each conflict one copy at most, and nobody else gets any."""

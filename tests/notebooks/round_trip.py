@@ -24,9 +24,9 @@ class RoundTrip:
         self.rules += ["--all"] if rng.random() < 0.6 else []
 
     def make(self):
-        notes = self.store.notes()
+        self.notes = self.store.notes()
         self.chosen = {
-            identifier: note for identifier, note in notes.items()
+            identifier: note for identifier, note in self.notes.items()
             if "--all" in self.rules or not (note.is_trashed or note.is_archived)
         }
         self.export(self.store, exported=len(self.chosen))
@@ -81,7 +81,7 @@ class RoundTrip:
 
     def graph(self, store):
         """Of titles that several notes have any may be meant."""
-        titles = [fold(note.title) for note in self.chosen.values()]
+        titles = [fold(note.title) for note in self.notes.values()]
         return sorted(
             (source, title, target if target in self.chosen and titles.count(title) == 1 else "")
             for source, title, target in store.links() if source in self.chosen)

@@ -235,6 +235,18 @@ TEST_F(ImportAgain, GivesTheTitleThatANoteLeavesToANewOne)
     EXPECT_EQ(countsOf(import()), (Counts{.unchanged = 3}));
 }
 
+TEST_F(ImportAgain, LeadsToAnEditedNoteByTheTitleThatItKeeps)
+{
+    file("in/a.md", "# A\n\none");
+    import();
+    output({"append", "A", "mine"});
+    file("in/a.md", "# A of the file\n\ntwo");
+    file("in/links.md", "# Links\n\n[a](a.md) [[A of the file]]");
+    const auto document = import();
+    EXPECT_EQ(countsOf(document), (Counts{.imported = 1, .conflicted = 1}));
+    EXPECT_EQ(text("Links"), "# Links\n\n[[A|a]] [[A of the file]]");
+}
+
 TEST_F(ImportAgain, KeepsTheRuleThatNamedANote)
 {
     file("in/one.md", "## Improvements\n\nof one");
