@@ -14,12 +14,13 @@ import note_links  # noqa: E402
 import note_text  # noqa: E402
 import notebook_files  # noqa: E402
 import notebook_plan  # noqa: E402
+import shown_links  # noqa: E402
 from count_notebook import counted  # noqa: E402
 from notebook_plan import NotebookPlan  # noqa: E402
 
 
 def load_tests(_loader, tests, _pattern):
-    for module in (front_matter, link_targets, note_links, note_text, notebook_files, notebook_plan):
+    for module in (front_matter, link_targets, note_links, note_text, notebook_files, notebook_plan, shown_links):
         tests.addTests(doctest.DocTestSuite(module))
     return tests
 
@@ -74,7 +75,7 @@ class Files(Notebook):
         (self.root / "Z.md").symlink_to("d.md")
         (self.root / "e.md").symlink_to("nowhere")
         plan = NotebookPlan(self.root)
-        self.assertEqual([n.path for n in plan.notes], ["Z.md", "a/c.md"])
+        self.assertEqual([n.path for n in plan.notes], ["d.md", "b/c.md"])
         self.assertEqual(([l.kind for l in plan.leads], plan.files.failed), (["wiki", "wiki"], ["e.md"]))
 
 
@@ -179,7 +180,7 @@ class LinksByPath(Notebook):
         text = "[a \\[x\\]](b.md) [![p](p.png)](b.md) ![note](b.md)"
         self.assertEqual(
             self.leads({"a.md": text, "b.md": "# B", "p.png": ""}),
-            [("byIdentifier", "b.md"), ("byIdentifier", "b.md"), "files", ("byIdentifier", "b.md")])
+            [("byIdentifier", "b.md"), ("byIdentifier", "b.md"), "files", ("wiki", "b.md")])
 
     def test_a_cell_of_a_table_takes_no_other_text(self):
         text = "| h |\n|---|\n| [B](b.md) |\n| [other](b.md) |\n| [[b\\|other]] |\n| [[b\\|B]] |\n"
@@ -204,7 +205,7 @@ class LinksByPath(Notebook):
         text = "[1 [[c]] 2](b.md) [3 [4](c.md)](b.md) [![5](p.png)](b.md)"
         self.assertEqual(
             self.leads({"a.md": text, "b.md": "", "c.md": ""}),
-            [("byIdentifier", "b.md"), ("wiki", "c.md"), ("wiki", "c.md"), ("byIdentifier", "b.md"), "nowhere"])
+            [("byIdentifier", "b.md"), ("wiki", "c.md"), "left", ("byIdentifier", "b.md"), "nowhere"])
 
     def test_anchors_lead_to_the_note(self):
         plan = self.plan({"a.md": "[1](b.md#x) [2](b.md) [[b#x]] [3](no.md#x) [[no#x]]", "b.md": ""})
@@ -244,7 +245,7 @@ class LinksByName(Notebook):
     def test_kept_links_lead_by_title_alone(self):
         files = {"a.md": "[[B]] [[c]] [x](b.md) [y](no.md) [[Two]]", "b.md": "# B", "c.md": "# Two", "d.md": "# Two"}
         leads = self.leads(files, links="keep")
-        self.assertEqual(leads, [("wiki", "b.md"), "waiting", "left", "nowhere", ("wiki", "c.md")])
+        self.assertEqual(leads, [("wiki", "b.md"), "waiting", "as it is", "nowhere", ("wiki", "c.md")])
 
 
 class Figures(Notebook):

@@ -44,7 +44,7 @@ def scalar(written):
     if written[:1] == "'":
         quoted = re.match(r"'((?:[^']|'')*)'\s*(?:#.*)?$", written)
         return quoted and quoted.group(1).replace("''", "'")
-    if written[:1] in tuple("|>&*!{[%@`"):
+    if written[:1] in tuple("|>&*!{[%@`") or re.match(r"[?:-](?:\s|$)", written):
         return None
     bare = re.sub(r"(?:^|\s)#.*$", "", written).strip()
     return "" if bare in ("~", "null", "Null", "NULL") else bare

@@ -12,12 +12,14 @@ from notebook_files import FOLDER_PAGES, stem
 
 @dataclass
 class Found:
-    """Where a link leads: `note` when to a note; else `reason` is "outside", "files" or "nowhere"."""
+    """Where a link leads: `note` when to a note; else `reason` is "outside", "files" or "nowhere". `name` is what of a
+    link in two brackets names the note."""
 
     note: Any = None
     reason: str = ""
     anchor: str = ""
     is_ambiguous: bool = False
+    name: str = ""
 
 
 def joined(folder, path):
@@ -40,21 +42,24 @@ def ends_of(path):
 
 
 class Targets:
-    """Where links lead among `notes`, which have a path from the root, a title and aliases, and among other files and
-    folders. `first_path` gives the path by which a file with several is known."""
+    """Where links lead among `notes`, which have a path from the root, a title and aliases, and among other files of the
+    folder, `files`."""
 
-    def __init__(self, notes, others=(), folders=(), first_path=lambda path: None):
+    def __init__(self, notes, files):
         self.by_path = {note.path: note for note in notes}
-        self.others, self.folders, self.first_path = set(others), set(folders), first_path
+        self.files = files
         self.page_of_folder = {}
+        self.by_folded_path = defaultdict(list)
         self.by_end, self.by_title, self.by_alias = defaultdict(list), defaultdict(list), defaultdict(list)
-        self.others_by_end = {end for path in self.others for end in ends_of(path)}
+        self.others_by_end = {end for path in files.others for end in ends_of(path) + ends_of(stem(path))}
         for note in notes:
             self._add(note)
 
     def _add(self, note):
-        for end in ends_of(note.path) + ends_of(stem(note.path)):
+        for end in {*ends_of(note.path), *ends_of(stem(note.path))}:
             self.by_end[end].append(note)
+        for path in {note.path, stem(note.path)}:
+            self.by_folded_path[fold(path)].append(note)
         self.by_title[fold(note.title)].append(note)
         for alias in note.aliases:
             self.by_alias[fold(alias)].append(note)
@@ -72,13 +77,17 @@ class Targets:
         if whole is None:
             return Found(reason="outside")
         for name in self._names_for(whole, path.endswith("/")):
-            known = name if name in self.by_path or name in self.others else self.first_path(name)
-            if known in self.by_path:
-                return Found(self.by_path[known], anchor=anchor)
-            if known in self.others:
+            place = self.files.place(name)
+            if place is None:
+                continue
+            if place.startswith("../"):
+                return Found(reason="outside")
+            if place in self.by_path:
+                return Found(self.by_path[place], anchor=anchor)
+            if name == whole and self.files.is_regular(place) and place not in self.files.unread:
                 return Found(reason="files")
-            if known in self.page_of_folder:
-                return Found(self.page_of_folder[known][1], anchor=anchor)
+            if place in self.page_of_folder:
+                return Found(self.page_of_folder[place][1], anchor=anchor)
         return Found(reason="nowhere")
 
     @staticmethod
@@ -95,19 +104,27 @@ class Targets:
         for tried, rest in ((written, ""), (name.strip(), anchor)):
             for candidates in self._candidates(source, tried):
                 if candidates:
-                    return Found(self._nearest(source, candidates), "", rest, len(candidates) > 1)
-        return Found(reason="files" if fold(name.strip().strip("/")) in self.others_by_end else "nowhere")
+                    return Found(self._nearest(source, candidates), "", rest, len(candidates) > 1, tried)
+        for tried in (written, name.strip()):
+            if fold(tried.strip("/")) in self.others_by_end:
+                return Found(reason="files", name=tried)
+        return Found(reason="nowhere")
 
     def _candidates(self, source, name):
         if not name:
             return
         for path in (joined("", name), joined(posixpath.dirname(source), name)) if "/" in name else ():
             yield [self.by_path[p] for p in (path, f"{path}.md") if p in self.by_path][:1]
+            yield self.by_folded_path.get(path and fold(path))
         yield self.by_end.get(fold(name.strip("/")))
         yield self.by_title.get(fold(name))
         yield self.by_alias.get(fold(name))
 
-    @staticmethod
-    def _nearest(source, candidates):
+    def _nearest(self, source, candidates):
         own = posixpath.dirname(source)
-        return min(candidates, key=lambda n: (posixpath.dirname(n.path) != own, n.path.count("/"), n.path))
+
+        def distance(note):
+            whole = posixpath.normpath(posixpath.join(self.files.root, note.path))
+            return posixpath.dirname(note.path) != own, whole.count("/"), whole
+
+        return min(candidates, key=distance)

@@ -13,7 +13,8 @@ SCHEME = re.compile(r"[A-Za-z][A-Za-z0-9+.-]*:|//")
 class Link:
     """A link as it is written. `target` is a path, or what stands in two brackets in front of a bar, `whole` the
     same where no table parts it; `text` is what a reader sees, None where a link in two brackets has no other text.
-    `is_plain` says whether the text holds no marks. `line` counts from the first line of the text."""
+    `is_plain` says whether the text holds no marks, `is_on_one_line` whether it has one line;
+    `is_in_brackets` whether the brackets around it would make a link of it if it were none. `line` counts from the first line of the text."""
 
     is_wiki: bool
     target: str
@@ -22,6 +23,8 @@ class Link:
     is_in_table: bool = False
     is_in_link: bool = False
     is_plain: bool = True
+    is_on_one_line: bool = True
+    is_in_brackets: bool = False
     line: int = 0
     whole: str = ""
 
@@ -54,6 +57,11 @@ def links_of(text):
     return found
 
 
+def holds(tokens, pattern):
+    """Whether the words of some tokens, and nothing in their marks, match."""
+    return re.search(pattern, "".join(t.content for t in tokens if t.type == "text")) is not None
+
+
 def _collect(tokens, line, in_table, found):
     is_in_link = False
     for at, token in enumerate(tokens):
@@ -72,9 +80,11 @@ def _collect(tokens, line, in_table, found):
             if token.info != "auto" and not SCHEME.match(token.attrs["href"]):
                 is_plain = all(t.type in ("text", "softbreak", "hardbreak") for t in inner)
                 text = " ".join(plain(inner))
+                is_in_brackets = holds(tokens[:at], r"\[[^\]]*$") and holds(tokens[end:], r"^[^\[]*\][(\[]")
                 holds_picture = any(t.type in ("image", "wiki_link") for t in inner)
                 found.append(Link(False, token.attrs["href"], "[" + text if holds_picture else text, False,
-                    line in in_table, False, is_plain, line))
+                    line in in_table, False, is_plain, not any(t.type.endswith("break") for t in inner),
+                    is_in_brackets, line))
         elif token.type == "link_close":
             is_in_link = False
 
@@ -83,6 +93,7 @@ def _wiki(token, line, is_in_table, is_in_link):
     link = token.meta["link"]
     target, alias = link.target, link.alias
     if is_in_table and alias is None and "\\|" in target:
-        target, alias = (part.strip() for part in target.split("\\|", 1))
+        before, behind = (part.strip() for part in target.split("\\|", 1))
+        target, alias = (before, behind) if before else (target, alias)
     return Link(True, unescaped(target), None if alias is None else unescaped(alias), token.meta["embedded"],
         is_in_table, is_in_link, line=line, whole=unescaped(link.target))

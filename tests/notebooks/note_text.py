@@ -249,5 +249,5 @@ def start_of(text):
             if opening.type == "paragraph_open" and line == token.map[0] and LIST_ITEM.match(lines[line]):
                 title = re.sub(r"^\[[ xX]\]\s+", "", title)
             level = int(opening.tag[1]) if opening.type == "heading_open" and opening.level == 0 else 0
-            return Start(title, level, line)
+            return Start(title, level if title else 0, line)
     return Start(line=line)

@@ -3,6 +3,7 @@
 import os
 import posixpath
 import re
+import unicodedata
 from dataclasses import dataclass, field
 
 import front_matter
@@ -45,15 +46,17 @@ def start_below_comments(text):
 
 @dataclass
 class NoteFile:
-    """A file that becomes a note: its path from the root, its text below the front matter, what that says, how the text
-    starts; and the title that the note gets."""
+    """A file that becomes a note: where it lies, from the root; the path by which it was found; its text below the front matter, what that says, how the text
+    starts; the title that the note gets, and whether the text says it by itself."""
 
     path: str
+    found: str = ""
     body: str = ""
     named: str = ""
     aliases: list = field(default_factory=list)
     start: Start = field(default_factory=Start)
     title: str = ""
+    says_title: bool = False
 
     @property
     def folder(self):
@@ -61,7 +64,7 @@ class NoteFile:
 
     @property
     def is_plain_text(self):
-        return self.path.lower().endswith(".txt")
+        return (self.found or self.path).lower().endswith(".txt")
 
     def name(self, root):
         """The name of the file; that of its folder, of the root at last, where it is the folder's page.
@@ -69,13 +72,15 @@ class NoteFile:
         >>> [NoteFile(path).name("root") for path in ("a/b.md", "a/README.md", "index.md")]
         ['b', 'a', 'root']
         """
-        own = stem(posixpath.basename(self.path))
-        return posixpath.basename(self.folder) or root if own.lower() in FOLDER_PAGES else own
+        found = self.found or self.path
+        own = stem(posixpath.basename(found))
+        name = posixpath.basename(posixpath.dirname(found)) or root if own.lower() in FOLDER_PAGES else own
+        return unicodedata.normalize("NFC", name)
 
 
-def note_file(path, text, start):
+def note_file(path, found, text, start):
     front = front_matter.read(text)
-    return NoteFile(path, front.body, front.title, front.aliases, start(front.body))
+    return NoteFile(path, found, front.body, front.title, front.aliases, start(front.body))
 
 
 def decoded(raw):
@@ -92,38 +97,62 @@ def decoded(raw):
 
 class NotebookFiles:
     """Hidden files are passed over, and so are texts in a folder `X.assets` beside `X.md`. Symbolic links are followed;
-    what was there before under another name is passed over, and found under that name, too. `start` is `start_of` where
-    comments stay where they are."""
+    a file is known by where it lies, and what was there before under another name is passed over. `start` is `start_of`
+    where comments stay where they are."""
 
     def __init__(self, root, start=start_below_comments):
         self.root, self._start = os.path.realpath(root), start
-        self.notes, self.others, self.folders, self.failed = [], set(), {""}, []
-        self._first = {self.root: ""}
+        self.notes, self.others, self.failed, self.unread = [], set(), [], set()
+        self._seen = {self.root}
         self._walk("")
 
-    def first_path(self, path):
-        """The path by which the file or folder with this path is known, or None."""
-        return self._first.get(os.path.realpath(os.path.join(self.root, path)))
+    def place(self, path):
+        """Where the file with this path from the root lies, from the root: in names it does not matter whether letters
+        are composed. None where nothing is."""
+        whole = self.root
+        for part in path.split("/") if path else ():
+            if not os.path.exists(os.path.join(whole, part)):
+                composed = unicodedata.normalize("NFC", part)
+                names = os.listdir(whole) if os.path.isdir(whole) else []
+                part = next((name for name in names if unicodedata.normalize("NFC", name) == composed), part)
+            whole = os.path.join(whole, part)
+        return self._from_root(whole) if os.path.exists(whole) else None
 
-    def _walk(self, folder):
+    def is_regular(self, place):
+        return os.path.isfile(os.path.join(self.root, place))
+
+    def _from_root(self, whole):
+        place = os.path.relpath(os.path.realpath(whole), self.root)
+        return "" if place == "." else place
+
+    def _walk(self, folder, is_attachments=False):
         for name in sorted(os.listdir(os.path.join(self.root, folder)), key=os.fsencode):
             path = posixpath.join(folder, name)
             whole = os.path.join(self.root, path)
-            real = os.path.realpath(whole)
-            if name.startswith(".") or real in self._first:
+            if name.startswith("."):
                 continue
-            self._first[real] = path
-            if os.path.isdir(whole):
-                self.folders.add(path)
-                self._walk(path)
-            elif name.lower().endswith(ENDINGS) and not self._is_attachment(folder):
-                self._take(path, whole)
-            else:
-                self.others.add(path)
+            is_note = name.lower().endswith(ENDINGS)
+            if not os.path.isdir(whole) and not is_note:
+                self._add_other(whole)
+            elif not os.path.exists(whole):
+                self.failed.append(path)
+            elif os.path.realpath(whole) not in self._seen:
+                self._seen.add(os.path.realpath(whole))
+                if os.path.isdir(whole):
+                    self._walk(path, is_attachments or self._is_of_attachments(path))
+                elif is_attachments:
+                    self._add_other(whole)
+                else:
+                    self._take(path, whole)
 
-    def _is_attachment(self, folder):
-        owner = folder[: -len(".assets")]
-        return folder.endswith(".assets") and os.path.isfile(os.path.join(self.root, owner + ".md"))
+    def _add_other(self, whole):
+        place = self._from_root(whole)
+        if not place.startswith("../") and os.path.isfile(whole):
+            self.others.add(place)
+
+    def _is_of_attachments(self, folder):
+        owner = os.path.join(self.root, folder[: -len(".assets")])
+        return folder.endswith(".assets") and any(os.path.exists(owner + ending) for ending in ENDINGS)
 
     def _take(self, path, whole):
         text = None
@@ -132,6 +161,7 @@ class NotebookFiles:
                 text = decoded(file.read())
         if text is None:
             self.failed.append(path)
+            self.unread.add(self._from_root(whole))
         else:
             start = start_of if path.lower().endswith(".txt") else self._start
-            self.notes.append(note_file(path, text, start))
+            self.notes.append(note_file(self._from_root(whole), path, text, start))

@@ -3,16 +3,19 @@ how it is written then."""
 
 import os
 import re
+import unicodedata
 from collections import Counter, defaultdict
 from dataclasses import dataclass
+from posixpath import splitext
 
 from link_targets import Targets
 from note_links import links_of
 from note_text import fold, holds_hashtag, start_of
-from notebook_files import NotebookFiles, start_below_comments, stem
+from notebook_files import NotebookFiles, start_below_comments
+from shown_links import shown_before, shown_by_identifier, shown_by_title, shown_of_file
 
 MANY = 3
-KINDS = ("wiki", "byIdentifier", "waiting", "ambiguous", "anchors", "outside", "files", "nowhere", "left", "within")
+KINDS = ("wiki", "byIdentifier", "waiting", "ambiguous", "anchors", "outside", "files", "nowhere", "left", "within", "as it is")
 
 
 @dataclass
@@ -31,8 +34,9 @@ def shortest_end(path, others):
     >>> shortest_end("a/b/c.md", ["d/b/c.md"]), shortest_end("c.md", ["b/c.md"]), shortest_end("a.md", ["b.md"])
     ('a/b/c', 'c', 'a')
     """
-    parts, ends = stem(path).split("/"), [fold(stem(other)).split("/") for other in others]
-    folded = fold(stem(path)).split("/")
+    path = unicodedata.normalize("NFC", path)
+    parts, ends = splitext(path)[0].split("/"), [fold(splitext(other)[0]).split("/") for other in others]
+    folded = fold(splitext(path)[0]).split("/")
     for length in range(1, len(parts)):
         if all(end[-length:] != folded[-length:] for end in ends):
             return "/".join(parts[-length:])
@@ -47,6 +51,7 @@ class Titles:
         self.starts = Counter((note.folder, fold(note.start.title)) for note in notes if note.start.level)
         for note in notes:
             note.title = self._title_of(note)
+            note.says_title = note.title == note.start.title
         if rule == "unique":
             self._tell_apart(notes)
 
@@ -71,7 +76,7 @@ class Titles:
             same[fold(note.title)].append(note)
         for group in same.values():
             for note in group if len(group) > 1 else ():
-                if not note.is_plain_text:
+                if not note.is_plain_text or (note.named and not note.start.level):
                     end = shortest_end(note.path, [other.path for other in group if other is not note])
                     note.title = f"{note.title} ({end})"
 
@@ -84,7 +89,7 @@ class NotebookPlan:
         self.notes = self.files.notes
         Titles(self.notes, titles, os.path.basename(self.files.root))
         self.shared = Counter(fold(note.title) for note in self.notes)
-        self.targets = Targets(self.notes, self.files.others, self.files.folders, self.files.first_path)
+        self.targets = Targets(self.notes, self.files)
         self.count = Counter({kind: 0 for kind in KINDS})
         lead = self._lead if links == "wiki" else self._lead_as_written
         self.leads = [lead(note, link) for note in self.notes for link in links_of(note.body) if link.target]
@@ -108,18 +113,32 @@ class NotebookPlan:
         return [note for note in self.notes if note.path not in linked]
 
     def _lead(self, note, link):
-        if link.target.startswith("#"):
-            return Lead("within", note, link)
+        if link.target.startswith("?") and not link.is_wiki:
+            return Lead("as it is", note, link)
         found = (self.targets.of_name if link.is_wiki else self.targets.of_path)(note.path, link.target)
-        if found.note is None:
-            return Lead("waiting" if link.is_wiki and found.reason == "nowhere" else found.reason, note, link)
-        self.count["ambiguous"] += found.is_ambiguous
+        if link.target.startswith("#") and (not link.is_wiki or not found.note and not link.is_embedded):
+            is_same = not link.is_wiki or self._reads_the_same(note, link, link.text)
+            return Lead("within" if is_same else "left", note, link)
+        if found.note:
+            return self._lead_to_note(note, link, found)
+        if link.is_wiki and found.reason == "files" and not self._reads_the_same(note, link, shown_of_file(link, found)):
+            return Lead("left", note, link)
+        return Lead("waiting" if link.is_wiki and found.reason == "nowhere" else found.reason, note, link)
+
+    def _lead_to_note(self, note, link, found):
+        title = found.note.title
         if self._goes_by_title(link, found.note):
-            kind = "left" if self._changes_the_text(note, link, found) else "wiki"
+            kind, shown = "wiki", shown_by_title(link, title, found)
         else:
-            kind = "left" if link.is_in_link or link.is_embedded else "byIdentifier"
-        if kind == "left":
-            return Lead(kind, note, link)
+            kind, shown = "byIdentifier", shown_by_identifier(link, found)
+            if link.is_in_link or link.is_embedded:
+                return Lead("left", note, link)
+        if kind == "wiki" and link.is_in_brackets:
+            return Lead("left", note, link)
+        makes_marks_text = kind == "wiki" and not link.is_wiki
+        if makes_marks_text and holds_hashtag(link.text) or not self._reads_the_same(note, link, shown, makes_marks_text):
+            return Lead("left", note, link)
+        self.count["ambiguous"] += found.is_ambiguous
         self.count["anchors"] += bool(found.anchor)
         return Lead(kind, note, link, found.note)
 
@@ -131,18 +150,21 @@ class NotebookPlan:
         return link.is_wiki or not re.search(r"[\[\]]", link.text)
 
     @staticmethod
-    def _changes_the_text(note, link, found):
-        """Whether a title or a tag would be lost: what stands behind a bar is shown as it is written."""
-        if not link.is_wiki and holds_hashtag(link.text):
+    def _reads_the_same(note, link, shown, makes_marks_text=False):
+        """Where the title stands, links that read otherwise stay: by another text, or since what stands behind a bar is
+        shown as it is written, on one line."""
+        if not note.says_title or link.line != note.start.line:
             return True
-        gives_title = note.start.title == note.title and link.line == note.start.line
-        is_picture = link.is_embedded and not link.is_wiki
-        return gives_title and (not link.is_plain or is_picture or (link.is_wiki and link.text is None and bool(found.anchor)))
+        if makes_marks_text and not (link.is_plain and link.is_on_one_line):
+            return False
+        return shown == shown_before(link)
 
     def _lead_as_written(self, note, link):
         """Without new links: those in two brackets lead by title, and no other does."""
         if not link.is_wiki:
-            lead = self._lead(note, link)
-            return lead if lead.target is None else Lead("left", note, link)
+            if link.target.startswith(("#", "?")):
+                return Lead("within", note, link)
+            found = self.targets.of_path(note.path, link.target)
+            return Lead("as it is" if found.note else found.reason, note, link)
         same = self.targets.by_title.get(fold(link.whole))
         return Lead("wiki" if same else "waiting", note, link, same[0] if same else None)

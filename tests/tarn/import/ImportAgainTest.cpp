@@ -205,6 +205,48 @@ TEST_F(ImportAgain, TakesATargetsNewTitleForNoEdit)
     EXPECT_EQ(text("A"), "# A\n\n[[New|b]] more");
 }
 
+TEST_F(ImportAgain, FollowsTitlesThatNotesTakeFromEachOther)
+{
+    file("in/1.md", "# One\n\nfirst");
+    file("in/2.md", "# Two\n\nsecond");
+    file("in/links.md", "# Links\n\n[[1]] [[2]]");
+    import();
+    const std::string mine = note("# Mine\n\n[[One|first]] [[Two|second]]");
+    file("in/1.md", "# Two\n\nfirst");
+    file("in/2.md", "# One\n\nsecond [me](2.md)");
+    EXPECT_EQ(countsOf(import()), (Counts{.updated = 2, .unchanged = 1}));
+    EXPECT_EQ(text(mine), "# Mine\n\n[[Two|first]] [[One|second]]");
+    EXPECT_EQ(text("Links"), "# Links\n\n[[Two|1]] [[One|2]]");
+    EXPECT_EQ(text("One"), "# One\n\nsecond [[One|me]]");
+    EXPECT_EQ(countsOf(import()), (Counts{.unchanged = 3}));
+}
+
+TEST_F(ImportAgain, GivesTheTitleThatANoteLeavesToANewOne)
+{
+    file("in/a.md", "# Chapter\n\n[[nobody]]");
+    file("in/links.md", "# Links\n\n[[Chapter]] [[nobody]]");
+    import();
+    const std::string mine = note("# Mine\n\n[[Chapter]]");
+    file("in/a.md", "# Former chapter");
+    file("in/0.md", "# Chapter\n\nanother");
+    EXPECT_EQ(countsOf(import()), (Counts{.imported = 1, .updated = 2}));
+    EXPECT_EQ(text(mine), "# Mine\n\n[[Former chapter]]");
+    EXPECT_EQ(text("Links"), "# Links\n\n[[Chapter]] [[nobody]]") << "what the file says now";
+    EXPECT_EQ(countsOf(import()), (Counts{.unchanged = 3}));
+}
+
+TEST_F(ImportAgain, LeadsToAnEditedNoteByTheTitleThatItKeeps)
+{
+    file("in/a.md", "# A\n\none");
+    import();
+    output({"append", "A", "mine"});
+    file("in/a.md", "# A of the file\n\ntwo");
+    file("in/links.md", "# Links\n\n[a](a.md) [[A of the file]]");
+    const auto document = import();
+    EXPECT_EQ(countsOf(document), (Counts{.imported = 1, .conflicted = 1}));
+    EXPECT_EQ(text("Links"), "# Links\n\n[[A|a]] [[A of the file]]");
+}
+
 TEST_F(ImportAgain, KeepsTheRuleThatNamedANote)
 {
     file("in/one.md", "## Improvements\n\nof one");

@@ -1,6 +1,7 @@
 #include "tools/tarn/import/ImportBatch.h"
 
 #include "tarnmodel/notes/OVNoteCacheLoan.h"
+#include "tarnmodel/platform/foundation/text/Folding.h"
 #include "tools/tarn/arguments/NoteArgument.h"
 #include "tools/tarn/commandline/DisplayText.h"
 #include "tools/tarn/import/record/RecordSettling.h"
@@ -47,11 +48,40 @@ bool hasWaitingLinks(const ComposedNote& composed)
 
 } // namespace
 
+OVNote* ImportBatch::noteOf(const PlannedFile& planned) const
+{
+    const bool isThere = import_.session && import_.session->exists();
+    return isThere ? noteWithIdentifier(planned.identifier, *import_.session) : nullptr;
+}
+
+void ImportBatch::begin(const std::vector<const PlannedFile*>& files)
+{
+    std::unordered_set<std::string> wanted;
+    std::vector<OVNote*> retitled;
+    for (const PlannedFile* planned : files) {
+        OVNote* note = planned->known ? noteOf(*planned) : nullptr;
+        const bool isFree = note && obstacleOf(note).empty() && isAsImported(*note, planned->known->text);
+        if (isFree)
+            asImported_.insert(planned->identifier);
+        if (note && note->title() == planned->title)
+            continue;
+        wanted.insert(fold(planned->title));
+        if (isFree && retitled_.insert(planned->identifier).second)
+            retitled.push_back(note);
+    }
+    if (!import_.writes)
+        return;
+    for (OVNote* note : retitled) {
+        // No other note is called so.
+        const std::string aside = "# " + note->uniqueIdentifier().value_or("") + "\n\n";
+        if (wanted.contains(fold(note->title().value_or(""))))
+            note->updateNoteWithText(aside + note->text().value_or(""), false);
+    }
+}
+
 void ImportBatch::apply(const PlannedFile& planned, const ComposedNote& composed)
 {
-    OVNote* note = import_.session && import_.session->exists()
-        ? noteWithIdentifier(planned.identifier, *import_.session)
-        : nullptr;
+    OVNote* note = noteOf(planned);
     if (planned.known || note)
         changeNote(planned, composed, note);
     else
@@ -103,7 +133,7 @@ void ImportBatch::changeNote(const PlannedFile& planned, const ComposedNote& com
     const std::string obstacle = obstacleOf(note);
     if (!obstacle.empty())
         return isUnchanged ? keep(planned, composed, nullptr) : skip(planned, obstacle);
-    const bool isOurs = planned.known && isAsImported(*note, planned.known->text);
+    const bool isOurs = planned.known && asImported_.contains(planned.identifier);
     if (isUnchanged && !isOurs)
         return keep(planned, composed, nullptr);
     if (isUnchangedBy(composed, *note))

@@ -13,6 +13,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <unordered_set>
 #include <vector>
 
 namespace tarn {
@@ -35,6 +36,11 @@ public:
     ImportBatch(const ImportBatch&) = delete;
     ImportBatch& operator=(const ImportBatch&) = delete;
 
+    /// Before the first is applied: says which notes nobody edited, and takes titles off those whose title another one
+    /// gets, so that links that lead there follow each note to its own.
+    void begin(const std::vector<const PlannedFile*>& files);
+    /// Whether its note gets another title. Those come first: what they do to links is no change of what files say.
+    bool isRetitled(const PlannedFile& planned) const { return retitled_.contains(planned.identifier); }
     void apply(const PlannedFile& planned, const ComposedNote& composed);
 
     /// What is to be announced before the batch is saved: what becomes of files, and paths from which files have moved.
@@ -53,6 +59,7 @@ private:
     void skip(const PlannedFile& planned, const std::string& reason);
     std::string setText(OVNote& note, const ComposedNote& composed);
     bool isUnchangedBy(const ComposedNote& composed, OVNote& note);
+    OVNote* noteOf(const PlannedFile& planned) const;
     bool isAsImported(const OVNote& note, const std::optional<TextFingerprint>& imported);
     ImportedSource sourceOf(const PlannedFile& planned, const ComposedNote& composed, const std::string& text);
     void announce(const PlannedFile& planned, ImportedSource source);
@@ -61,6 +68,8 @@ private:
     Import import_;
     ImportResult result_;
     AttachedFiles files_{result_};
+    std::unordered_set<std::string> asImported_; ///< notes by identifier
+    std::unordered_set<std::string> retitled_;   ///< notes by identifier
     std::vector<ImportedSource> announced_;
     std::vector<std::string> moved_;
     // What the notes of a batch ask for again and again.

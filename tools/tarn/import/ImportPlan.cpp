@@ -8,6 +8,7 @@
 #include "tools/tarn/commandline/Interruption.h"
 #include "tools/tarn/files/TextFile.h"
 #include "tools/tarn/import/reading/SourceText.h"
+#include "tools/tarn/import/record/RecordSettling.h"
 #include "tools/tarn/session/StoreSession.h"
 
 #include <algorithm>
@@ -40,7 +41,10 @@ std::string endOfPath(const fs::path& path, std::size_t parts)
     fs::path end;
     for (; part != path.end(); ++part)
         end /= *part;
-    return canonicallyComposed(validUTF8(end.replace_extension().native()));
+    std::string text = canonicallyComposed(validUTF8(end.replace_extension().native()));
+    for (const char lineEnd : {'\n', '\r'})
+        std::ranges::replace(text, lineEnd, ' ');
+    return text;
 }
 
 /// Behind it stands when a version came to it.
@@ -255,32 +259,55 @@ std::size_t ImportPlan::versionsInConflict(std::string_view group) const
 
 void ImportPlan::askStore()
 {
-    std::unordered_map<std::string, std::pair<std::string, bool>> stored; // title and whether in the trash, by note
+    std::unordered_map<std::string, StoredNote> stored;
     std::vector<std::string> known;
+    std::unordered_map<std::string, const PlannedFile*> files;
     for (const PlannedFile& planned : files_) {
-        if (planned.known)
+        if (planned.known && files.try_emplace(planned.identifier, &planned).second)
             known.push_back(planned.identifier);
     }
     for (std::size_t from = 0; session_ && session_->exists() && from < known.size(); from += kNotesAtOnce) {
         const std::size_t end = std::min(from + kNotesAtOnce, known.size());
         const std::vector<std::string> some(
             known.begin() + static_cast<std::ptrdiff_t>(from), known.begin() + static_cast<std::ptrdiff_t>(end));
-        for (const OVNote* note : OVNote::notesWithUUIDs(some, {}, session_->context()))
-            stored[note->uniqueIdentifier().value_or("")] = {note->title().value_or(""), note->isTrashed()};
+        for (const OVNote* note : OVNote::notesWithUUIDs(some, {}, session_->context())) {
+            const std::string identifier = note->uniqueIdentifier().value_or("");
+            stored[identifier] = storedNote(*note, *files.at(identifier));
+        }
     }
     std::vector<std::string> titles(linkedNames_.all().begin(), linkedNames_.all().end());
     for (PlannedFile& planned : files_) {
         const auto note = stored.find(planned.identifier);
-        const bool isUnchanged = planned.known && planned.known->file == planned.bytes;
-        if (note != stored.end() && isUnchanged)
-            planned.title = note->second.first;
-        if (note != stored.end() && note->second.second)
+        if (note != stored.end() && note->second.isTrashed)
             continue; // nobody links what is in the trash
-        const auto [title, isNew] = plannedTitles_.try_emplace(fold(planned.title), PlannedTitle{planned.identifier});
-        title->second.isShared = title->second.isShared || !isNew;
-        titles.push_back(planned.title);
+        if (note != stored.end() && note->second.getsCopy)
+            addTitle(planned.title, "a copy of " + planned.identifier, titles);
+        if (note != stored.end() && note->second.keepsTitle)
+            planned.title = note->second.title;
+        addTitle(planned.title, planned.identifier, titles);
     }
     storeTitles_.lookUp(titles);
+}
+
+/// A note that somebody edited keeps its title, and that of the file goes to its conflicted copy.
+ImportPlan::StoredNote ImportPlan::storedNote(const OVNote& note, const PlannedFile& planned)
+{
+    const bool isUnchanged = planned.known->file == planned.bytes;
+    const bool isEdited = !isUnchanged
+        && !isAsImported(note, planned.known->text, [this](const std::string& title, const std::string& target) {
+               return storeTitles_.onlyNoteOf(title) == target;
+           });
+    return {.title = note.title().value_or(""),
+        .isTrashed = note.isTrashed(),
+        .keepsTitle = isUnchanged || isEdited,
+        .getsCopy = isEdited && !note.hasEncryption()};
+}
+
+void ImportPlan::addTitle(const std::string& title, const std::string& note, std::vector<std::string>& titles)
+{
+    const auto [known, isNew] = plannedTitles_.try_emplace(fold(title), PlannedTitle{note});
+    known->second.isShared = known->second.isShared || !isNew;
+    titles.push_back(title);
 }
 
 std::optional<std::string> ImportPlan::onlyNoteOf(const std::string& title)

@@ -19,6 +19,7 @@
 
 namespace tarn {
 
+class OVNote;
 class StoreSession;
 class TextFileError;
 
@@ -93,6 +94,15 @@ private:
     static void tellApart(const std::vector<PlannedFile*>& files);
     void giveIdentifiers();
     void askStore();
+    /// The note of a file that is known, as it is before the import.
+    struct StoredNote {
+        std::string title;
+        bool isTrashed = false;
+        bool keepsTitle = false; ///< whatever the file says
+        bool getsCopy = false;   ///< of the title that the file says
+    };
+    StoredNote storedNote(const OVNote& note, const PlannedFile& planned);
+    void addTitle(const std::string& title, const std::string& note, std::vector<std::string>& titles);
     std::string headingKey(const PlannedFile& planned) const;
 
     StoreSession* session_;

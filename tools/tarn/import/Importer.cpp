@@ -155,9 +155,17 @@ void Importer::saveBatch()
 void Importer::fill(std::optional<ImportBatch>& batch)
 {
     batch.emplace(ImportBatch::Import{session_, writes_, *plan_, storeTitles_, *handler_});
-    for (const Pending& pending : pending_) {
-        Interruption::endIfRequested(kInterrupted);
-        batch->apply(plan_->files()[pending.number], pending.composed);
+    std::vector<const PlannedFile*> files;
+    for (const Pending& pending : pending_)
+        files.push_back(&plan_->files()[pending.number]);
+    batch->begin(files);
+    for (const bool isRetitled : {true, false}) {
+        for (const Pending& pending : pending_) {
+            Interruption::endIfRequested(kInterrupted);
+            const PlannedFile& planned = plan_->files()[pending.number];
+            if (batch->isRetitled(planned) == isRetitled)
+                batch->apply(planned, pending.composed);
+        }
     }
     if (writes_ && !batch->announced().empty())
         record_->announce(batch->announced(), batch->moved());

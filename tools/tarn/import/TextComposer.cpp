@@ -9,6 +9,7 @@
 #include "tools/tarn/import/reading/ExportedFiles.h"
 
 #include <array>
+#include <system_error>
 #include <utility>
 
 namespace tarn {
@@ -146,15 +147,18 @@ TextComposer::TextComposer(
       linkedFiles_([&plan](const std::string& path) { return plan.isFileOfNote(path); }),
       otherFiles_(plan.linkedNames())
 {
-    for (const MarkdownFile& file : found.others)
-        otherFiles_.add(
-            {.path = pathWithoutSymbolicLinks(file.path).native(), .root = file.root, .title = {}, .aliases = {}});
+    for (const MarkdownFile& file : found.others) {
+        const fs::path path = pathWithoutSymbolicLinks(file.path);
+        std::error_code failure;
+        if (*path.lexically_relative(file.root->target).begin() != ".." && fs::is_regular_file(path, failure))
+            otherFiles_.add({.path = path.native(), .root = file.root, .title = {}, .aliases = {}});
+    }
 }
 
 LinkedFile TextComposer::fileForLink(std::size_t number, const std::string& destination)
 {
-    const MarkdownFile& file = plan_.files()[number].file;
-    return linkedFiles_.fileForLink(destination, file);
+    const PlannedFile& planned = plan_.files()[number];
+    return linkedFiles_.fileForLink(destination, {.path = planned.path, .root = planned.file.root});
 }
 
 ComposedNote TextComposer::compose(std::size_t number)

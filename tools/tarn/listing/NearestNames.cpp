@@ -75,7 +75,7 @@ std::vector<Spelling> wordsLookedFor(std::string_view searchString)
 
 /// Parts of a word of which each slip leaves all but one as they were, two neighbours swapped across a border included:
 /// there is a letter between parts.
-std::vector<std::u32string_view> piecesOf(std::u32string_view word)
+std::vector<std::u32string_view> partsOfName(std::u32string_view word)
 {
     const std::size_t size = word.size();
     if (size < kShortestWordInHalves)
@@ -94,7 +94,7 @@ NSPredicate predicateForPieces(const std::vector<Spelling>& words)
 {
     std::vector<NSPredicate> holds;
     for (const Spelling& word : words)
-        for (const std::u32string_view piece : piecesOf(word))
+        for (const std::u32string_view piece : partsOfName(word))
             holds.push_back(NSPredicate::predicateWithFormat("title CONTAINS[cd] %@", textOf(piece)));
     return NSPredicate::orPredicateWithSubpredicates(holds);
 }

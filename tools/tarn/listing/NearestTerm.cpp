@@ -7,7 +7,7 @@ namespace tarn {
 
 namespace {
 
-constexpr std::size_t kLongestWord = 40; ///< code points; the longest term has 12
+constexpr std::size_t kLongestTerm = 40; ///< code points; the longest term has 12
 constexpr std::size_t kShortestBeginning = 4;
 
 /// What to write for a spelling of a term. One with capitals is known to nobody, since words are brought to lower case.
@@ -38,7 +38,7 @@ NearestTerm termWithFewestSlips(std::string_view word)
 {
     const std::u32string wanted = spellingOf(withoutArgument(word));
     NearestTerm nearest;
-    std::size_t fewest = wanted.size() > kLongestWord ? 0 : slipsIn(wanted.size() - 1) + 1;
+    std::size_t fewest = wanted.size() > kLongestTerm ? 0 : slipsIn(wanted.size() - 1) + 1;
     forEachSpelling([&](const Term& term, std::string_view spelling) {
         if (fewest == 0)
             return;

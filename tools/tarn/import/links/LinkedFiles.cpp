@@ -1,9 +1,11 @@
 #include "tools/tarn/import/links/LinkedFiles.h"
 
+#include "tarnmodel/platform/foundation/text/Folding.h"
 #include "tarnmodel/platform/foundation/text/Normalization.h"
 #include "tarnmodel/platform/foundation/text/PercentEncoding.h"
 
 #include <algorithm>
+#include <iterator>
 #include <system_error>
 #include <utility>
 #include <vector>
@@ -135,8 +137,7 @@ std::optional<LinkedFile> LinkedFiles::noteNear(const fs::path& place, const fs:
         if (place.extension() == ".html" || place.extension() == ".htm")
             names.push_back(fs::path(place).replace_extension(".md"));
     }
-    for (const char* name : {"README.md", "readme.md", "Readme.md", "index.md"})
-        names.push_back(place / name);
+    std::ranges::move(pagesOf(place), std::back_inserter(names));
     for (const fs::path& name : names) {
         const auto path = existing(name.parent_path(), name.filename());
         if (!path)
@@ -146,6 +147,22 @@ std::optional<LinkedFile> LinkedFiles::noteNear(const fs::path& place, const fs:
             return file;
     }
     return std::nullopt;
+}
+
+/// The notes that stand for a folder, the likeliest first.
+std::vector<fs::path> LinkedFiles::pagesOf(const fs::path& folder)
+{
+    std::vector<fs::path> pages;
+    std::error_code failure;
+    if (!fs::is_directory(placeOf(folder), failure))
+        return pages;
+    for (const std::string_view page : {"readme", "index"}) {
+        for (const auto& [composed, name] : namesIn(folder)) {
+            if (foldCase(fs::path(name).stem().native()) == page)
+                pages.push_back(folder / name);
+        }
+    }
+    return pages;
 }
 
 /// What is there by that name, or by one that is written the same: some systems decompose names, others do not.

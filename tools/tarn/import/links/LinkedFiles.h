@@ -9,6 +9,7 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 namespace tarn {
 
@@ -44,6 +45,7 @@ public:
 private:
     LinkedFile fileAtPath(const std::filesystem::path& path, const std::filesystem::path& root) const;
     std::optional<LinkedFile> noteNear(const std::filesystem::path& place, const std::filesystem::path& root);
+    std::vector<std::filesystem::path> pagesOf(const std::filesystem::path& folder);
     std::optional<std::filesystem::path> existing(
         const std::filesystem::path& folder, const std::filesystem::path& relative);
 

@@ -148,8 +148,12 @@ void ImportRecord::settle(const Judge& happened)
         else if (!sources_.contains(source.path) && !byNote_.contains(source.note))
             reserved_.insert_or_assign(source.path, source.note);
     }
+    const auto isSaved = [&saved](const std::string& note) {
+        return std::ranges::find(saved, note, &ImportedSource::note) != saved.end();
+    };
     for (const std::string& path : std::exchange(movedAway_, {})) {
-        if (!saved.empty())
+        const ImportedSource* moved = sourceAtPath(path);
+        if (moved && isSaved(moved->note))
             drop(path);
     }
     for (ImportedSource& source : saved)

@@ -23,10 +23,18 @@ bool hasHappened(const ImportedSource& source, const ImportRecord& record, Store
     const ImportedSource* before = record.sourceOfNote(source.note);
     if (!before)
         return true;
+    // A file that has moved only changes nothing in the store.
+    if (source.file == before->file && source.text == before->text && source.copy == before->copy)
+        return true;
+    const OVNote* written = note;
+    if (!source.copy.empty())
+        written = noteWithIdentifier(source.copy, session);
     if (source.copy != before->copy)
-        return noteWithIdentifier(source.copy, session) != nullptr;
-    return isAsImported(*note, source.text,
-        [&titles](const std::string& title, const std::string& target) { return titles.onlyNoteOf(title) == target; });
+        return written != nullptr;
+    return written
+        && isAsImported(*written, source.copy.empty() ? source.text : source.copyText,
+            [&titles](
+                const std::string& title, const std::string& target) { return titles.onlyNoteOf(title) == target; });
 }
 
 } // namespace

@@ -81,6 +81,8 @@ std::string titleOfFileName(const std::filesystem::path& path)
         if (!folder.empty() && folder != "." && folder != "..")
             name = canonicallyComposed(validUTF8(folder.native()));
     }
+    for (const char lineEnd : {'\n', '\r'})
+        std::ranges::replace(name, lineEnd, ' ');
     return std::string(trimmed(std::string_view(name)));
 }
 

@@ -1,4 +1,4 @@
-#include "tests/tarn/BackedUpRecordFixture.h"
+#include "tests/tarn/import/BackedUpRecordFixture.h"
 
 #include <gmock/gmock.h>
 

@@ -1,6 +1,6 @@
 // What a record of imports may not say in a backup, and what it must not do to a restore.
 
-#include "tests/tarn/BackedUpRecordFixture.h"
+#include "tests/tarn/import/BackedUpRecordFixture.h"
 
 #include <gmock/gmock.h>
 
