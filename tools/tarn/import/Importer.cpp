@@ -158,8 +158,11 @@ bool Importer::forgetProtectedNotes(ImportRecord& record)
     std::set<std::string> protectedNotes;
     session_->forEachNote(predicateOfFilter("encrypted"),
         [&](const OVNote& note) { protectedNotes.insert(note.uniqueIdentifier().value_or("")); });
-    return record.forgetTexts(
-        [&](const ImportedSource& source) { return protectedNotes.contains(source.note); }, stampOfFile);
+    // A copy has the text of the file as well.
+    const auto isProtected = [&](const ImportedSource& source) {
+        return protectedNotes.contains(source.note) || (!source.copy.empty() && protectedNotes.contains(source.copy));
+    };
+    return record.forgetTexts(isProtected, stampOfFile);
 }
 
 /// Of what an import announced that did not come to its end.
