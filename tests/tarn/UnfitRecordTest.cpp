@@ -168,6 +168,21 @@ TEST_F(DamagedRecordInABackup, OfALaterVersionIsLeftOut)
     EXPECT_FALSE(fs::exists(recordOf(other())));
 }
 
+TEST_F(DamagedRecordInABackup, IsNoReasonToLoseNotesWhereItCannotBeWritten)
+{
+    backUp();
+    runIn(other(), {"new", "# One"});
+    fs::create_directories(recordOf(other()));
+    const TarnResult result = runIn(other(), {"restore-backup", backup()});
+    EXPECT_EQ(result.exitCode, 6) << result.errors;
+    EXPECT_THAT(result.errors, HasSubstr("the same restore completes it"));
+    EXPECT_EQ(count(other()), 3);
+    EXPECT_EQ(runIn(other(), {"doctor"}).exitCode, 0);
+    fs::remove(recordOf(other()));
+    EXPECT_EQ(restoreTo(other()).at("kept"), 2);
+    EXPECT_EQ(import(other()), "2 unchanged");
+}
+
 TEST_F(DamagedRecordInABackup, LeavesARecordOfTheStoreAloneThatCannotBeRead)
 {
     backUp();
