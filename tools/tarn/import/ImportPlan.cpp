@@ -5,10 +5,10 @@
 #include "tarnmodel/platform/foundation/text/Folding.h"
 #include "tarnmodel/platform/foundation/text/Normalization.h"
 #include "tarnmodel/platform/foundation/text/UTF.h"
-#include "tools/tarn/Interruption.h"
-#include "tools/tarn/StoreSession.h"
-#include "tools/tarn/TextFile.h"
-#include "tools/tarn/import/SourceText.h"
+#include "tools/tarn/commandline/Interruption.h"
+#include "tools/tarn/files/TextFile.h"
+#include "tools/tarn/import/reading/SourceText.h"
+#include "tools/tarn/session/StoreSession.h"
 
 #include <algorithm>
 #include <iterator>
@@ -68,6 +68,7 @@ void ImportPlan::make(const std::vector<MarkdownFile>& files, const FailureHandl
         try {
             look(file);
         } catch (const TextFileError& error) {
+            unreadable_.insert(pathWithoutSymbolicLinks(file.path).native());
             failed(file.path, error);
         }
     }
@@ -80,8 +81,8 @@ void ImportPlan::make(const std::vector<MarkdownFile>& files, const FailureHandl
     giveIdentifiers();
     askStore();
     for (const PlannedFile& planned : files_) {
-        const auto aliases = aliases_.find(planned.path.native());
-        index_.add({planned.path, rootOf(planned.file), planned.title,
+        const auto aliases = aliases_.find(planned.path);
+        index_.add({planned.path, planned.file.root, planned.title,
             aliases == aliases_.end() ? std::vector<std::string>() : std::move(aliases->second)});
     }
 }
@@ -91,7 +92,7 @@ void ImportPlan::look(const MarkdownFile& file)
     const TextFile found = readTextFile(file.path);
     SourceText source = sourceTextOfFile(found.text);
     PlannedFile planned{.file = file,
-        .path = pathWithoutSymbolicLinks(file.path),
+        .path = pathWithoutSymbolicLinks(file.path).native(),
         .bytes = hashOfBytes(found.text),
         .facts = titleFactsOf(source, fs::absolute(file.path).lexically_normal(), rules_.titles)};
     if (source.exported) {
@@ -104,9 +105,8 @@ void ImportPlan::look(const MarkdownFile& file)
         for (const CVKWikiLink& link : document.textSummary().wikiLinks)
             linkedNames_.add(link.decodedTitle());
     }
-    paths_.insert(planned.path.native());
     if (!source.aliases.empty())
-        aliases_[planned.path.native()] = std::move(source.aliases);
+        aliases_[planned.path] = std::move(source.aliases);
     files_.push_back(std::move(planned));
 }
 
@@ -122,7 +122,7 @@ void ImportPlan::putInOrder()
 
 std::string ImportPlan::headingKey(const PlannedFile& planned) const
 {
-    return planned.path.parent_path().native() + '\0' + fold(planned.facts.headingTitle);
+    return fs::path(planned.path).parent_path().native() + '\0' + fold(planned.facts.headingTitle);
 }
 
 void ImportPlan::countHeadings()
@@ -139,29 +139,34 @@ void ImportPlan::recognise()
         return;
     for (PlannedFile& planned : files_) {
         if (const ImportedSource* known = record_->sourceAtPath(planned.path))
-            planned.known = *known;
+            planned.known = std::make_unique<const ImportedSource>(*known);
     }
+    std::unordered_map<std::string_view, const ImportedSource*> goneByBytes; // each looked at once
     for (PlannedFile& planned : files_) {
-        if (!planned.known)
-            recogniseMoved(planned);
+        if (planned.known)
+            continue;
+        const auto [gone, isNew] = goneByBytes.try_emplace(planned.bytes);
+        if (isNew)
+            gone->second = onlyGoneFileOf(planned.bytes);
+        if (!gone->second || !movedFrom_.insert(gone->second->path).second)
+            continue;
+        planned.known = std::make_unique<const ImportedSource>(*gone->second);
+        planned.hasMoved = true;
     }
 }
 
 /// A file of the same bytes as one that is not there any more is that one, where it can be no other.
-void ImportPlan::recogniseMoved(PlannedFile& planned)
+const ImportedSource* ImportPlan::onlyGoneFileOf(const std::string& bytes) const
 {
-    const ImportedSource* candidate = nullptr;
-    for (const ImportedSource* source : record_->sourcesOfBytes(planned.bytes)) {
+    const ImportedSource* only = nullptr;
+    for (const ImportedSource* source : record_->sourcesOfBytes(bytes)) {
         if (isThere(source->path))
             continue;
-        if (candidate)
-            return;
-        candidate = source;
+        if (only)
+            return nullptr;
+        only = source;
     }
-    if (!candidate || !movedFrom_.insert(candidate->path.native()).second)
-        return;
-    planned.known = *candidate;
-    planned.hasMoved = true;
+    return only;
 }
 
 void ImportPlan::decideTitles()
@@ -198,7 +203,7 @@ void ImportPlan::tellApart(const std::vector<PlannedFile*>& files)
 {
     std::vector<fs::path> paths;
     for (const PlannedFile* planned : files)
-        paths.push_back(planned->path.lexically_relative(rootOf(planned->file)));
+        paths.push_back(fs::path(planned->path).lexically_relative(planned->file.root->target));
     std::vector<std::string> suffixes(files.size());
     for (std::size_t parts = 1; std::ranges::count(suffixes, std::string()) > 0; ++parts) {
         std::unordered_map<std::string, std::size_t> counts;
@@ -271,7 +276,8 @@ void ImportPlan::askStore()
             planned.title = note->second.first;
         if (note != stored.end() && note->second.second)
             continue; // nobody links what is in the trash
-        plannedTitles_[fold(planned.title)].push_back(planned.identifier);
+        const auto [title, isNew] = plannedTitles_.try_emplace(fold(planned.title), PlannedTitle{planned.identifier});
+        title->second.isShared = title->second.isShared || !isNew;
         titles.push_back(planned.title);
     }
     storeTitles_.lookUp(titles);
@@ -281,9 +287,9 @@ std::optional<std::string> ImportPlan::onlyNoteOf(const std::string& title)
 {
     std::optional<std::string> only;
     if (const auto planned = plannedTitles_.find(fold(title)); planned != plannedTitles_.end()) {
-        if (planned->second.size() > 1)
+        if (planned->second.isShared)
             return std::nullopt;
-        only = planned->second.front();
+        only = planned->second.note;
     }
     for (const std::string& note : storeTitles_.notesOf(title)) {
         if (identifiers_.contains(note))
@@ -301,18 +307,24 @@ bool ImportPlan::hasTitle(const std::string& title)
     return plannedTitles_.contains(fold(title)) || std::ranges::any_of(storeTitles_.notesOf(title), isElsewhere);
 }
 
+bool ImportPlan::isFileOfNote(const std::string& path) const
+{
+    return index_.noteAtPath(path) || unreadable_.contains(path);
+}
+
 std::vector<const ImportedSource*> ImportPlan::goneBelow(const std::vector<fs::path>& roots) const
 {
     std::vector<const ImportedSource*> gone;
     if (!record_)
         return gone;
     for (const auto& [path, source] : record_->sources()) {
-        const bool isBelow = std::ranges::any_of(roots, [&path](const fs::path& root) {
-            const fs::path relative = path.lexically_relative(root);
+        const fs::path place(path);
+        const bool isBelow = std::ranges::any_of(roots, [&place](const fs::path& root) {
+            const fs::path relative = place.lexically_relative(root);
             return !relative.empty() && *relative.begin() != "..";
         });
-        if (isBelow && !paths_.contains(path.native()) && !movedFrom_.contains(path.native()) && !isThere(path))
-            gone.push_back(&source);
+        if (isBelow && !index_.noteAtPath(source->path) && !movedFrom_.contains(source->path) && !isThere(place))
+            gone.push_back(source.get());
     }
     return gone;
 }

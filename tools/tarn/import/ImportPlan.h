@@ -1,15 +1,16 @@
 #pragma once
 
 #include "tarnmodel/platform/foundation/values/NSDate.h"
-#include "tools/tarn/import/ImportRecord.h"
-#include "tools/tarn/import/MarkdownFiles.h"
-#include "tools/tarn/import/NoteIndex.h"
 #include "tools/tarn/import/StoreTitles.h"
-#include "tools/tarn/import/TitleRules.h"
+#include "tools/tarn/import/links/NoteIndex.h"
+#include "tools/tarn/import/reading/MarkdownFiles.h"
+#include "tools/tarn/import/record/ImportRecord.h"
+#include "tools/tarn/import/titles/TitleRules.h"
 
 #include <cstddef>
 #include <filesystem>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <unordered_map>
@@ -31,17 +32,17 @@ struct ImportRules {
 /// A file of an import that was looked at.
 struct PlannedFile {
     MarkdownFile file;
-    std::filesystem::path path; ///< without symbolic links
-    std::string bytes;          ///< a hash of them
+    std::string path;  ///< without symbolic links
+    std::string bytes; ///< a hash of them
     TitleFacts facts;
     TitleRule titleRule = TitleRule::Text;
     std::string titleSuffix{}; ///< what stands behind the title in parentheses; "" for nothing
     std::string title{};       ///< that the note is going to have; of one that stays as it is that which it has
     std::string identifier{};  ///< of the note
-    std::optional<ImportedSource> known{};        ///< what became of it before, be it at another path
-    bool hasMoved = false;                        ///< it was known at a path where nothing is any more
-    std::optional<std::string> takenIdentifier{}; ///< one that the file tells and another note has
-    std::optional<NSDate> exported{};             ///< of a file of an export: when its note was made
+    std::unique_ptr<const ImportedSource> known{}; ///< what became of it before, be it at another path
+    bool hasMoved = false;                         ///< it was known at a path where nothing is any more
+    std::optional<std::string> takenIdentifier{};  ///< one that the file tells and another note has
+    std::optional<NSDate> exported{};              ///< of a file of an export: when its note was made
 };
 
 /// What the notes of an import are going to be called, and which note each file is, so that their texts can name each
@@ -64,6 +65,8 @@ public:
     std::size_t versionsInConflict(std::string_view group) const;
     /// Finds the files by their numbers in `files()`.
     const NoteIndex& index() const noexcept { return index_; }
+    /// Whether this is a file of the import, be it one that cannot be read. `path` has no symbolic links.
+    bool isFileOfNote(const std::string& path) const;
     const LinkedNames& linkedNames() const noexcept { return linkedNames_; }
     /// Known files below the folders of this import that are not there any more, and not elsewhere.
     std::vector<const ImportedSource*> goneBelow(const std::vector<std::filesystem::path>& roots) const;
@@ -74,11 +77,17 @@ public:
     bool hasTitle(const std::string& title);
 
 private:
+    /// The notes of one title.
+    struct PlannedTitle {
+        std::string note; ///< the first, by identifier
+        bool isShared = false;
+    };
+
     void look(const MarkdownFile& file);
     void putInOrder();
     void countHeadings();
     void recognise();
-    void recogniseMoved(PlannedFile& planned);
+    const ImportedSource* onlyGoneFileOf(const std::string& bytes) const;
     void decideTitles();
     void tellTitlesApart();
     static void tellApart(const std::vector<PlannedFile*>& files);
@@ -92,13 +101,13 @@ private:
     StoreTitles storeTitles_;
     std::vector<PlannedFile> files_;
     std::unordered_map<std::string, std::vector<std::string>> aliases_; ///< by path
-    std::unordered_set<std::string> paths_;
+    std::unordered_set<std::string> unreadable_;
     std::unordered_set<std::string> movedFrom_;
     LinkedNames linkedNames_;
-    std::unordered_map<std::string, std::size_t> headings_;  ///< how many files of a folder begin with one
-    std::unordered_set<std::string> identifiers_;            ///< of the planned notes
-    std::unordered_map<std::string, std::size_t> conflicts_; ///< exported files by their group
-    std::unordered_map<std::string, std::vector<std::string>> plannedTitles_; ///< notes by the folded title
+    std::unordered_map<std::string, std::size_t> headings_;       ///< how many files of a folder begin with one
+    std::unordered_set<std::string> identifiers_;                 ///< of the planned notes
+    std::unordered_map<std::string, std::size_t> conflicts_;      ///< exported files by their group
+    std::unordered_map<std::string, PlannedTitle> plannedTitles_; ///< by the folded title
     NoteIndex index_{linkedNames_};
 };
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "tools/tarn/ExitCode.h"
-#include "tools/tarn/import/LinkRewriting.h"
-#include "tools/tarn/import/MarkdownFiles.h"
+#include "tools/tarn/commandline/ExitCode.h"
+#include "tools/tarn/import/links/LinkRewriting.h"
+#include "tools/tarn/import/reading/MarkdownFiles.h"
 
 #include <cstddef>
 #include <filesystem>
@@ -75,6 +75,9 @@ struct ImportResult {
 
     /// Notes that were made or changed.
     std::size_t written() const noexcept { return imported + updated + conflicted; }
+
+    /// Adds what one batch came to.
+    void add(ImportResult batch);
 };
 
 } // namespace tarn

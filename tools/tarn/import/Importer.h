@@ -1,17 +1,15 @@
 #pragma once
 
-#include "tarnmodel/model/OVNote.h"
-#include "tarnmodel/model/OVNoteCaches.h"
-#include "tools/tarn/StoreSession.h"
+#include "tools/tarn/import/ImportBatch.h"
 #include "tools/tarn/import/ImportPlan.h"
-#include "tools/tarn/import/ImportRecord.h"
 #include "tools/tarn/import/ImportResult.h"
-#include "tools/tarn/import/MarkdownFiles.h"
 #include "tools/tarn/import/TextComposer.h"
+#include "tools/tarn/import/reading/MarkdownFiles.h"
+#include "tools/tarn/import/record/ImportRecord.h"
+#include "tools/tarn/session/StoreSession.h"
 
 #include <cstddef>
 #include <filesystem>
-#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -36,12 +34,8 @@ public:
 
     /// Takes hashes of what is protected by now out of the record of imports, as each import does.
     void forgetProtectedNotes();
-    /// Asks the store what became of what a record announces and does not confirm, and takes such hashes out of it.
-    void settle(ImportRecord& record);
-    /// Takes such hashes out of a record; whether there were any.
-    bool forgetProtectedNotes(ImportRecord& record);
 
-    using FileHandler = std::function<void(const ImportedFile&)>;
+    using FileHandler = ImportBatch::FileHandler;
     /// `handler` hears of each file, before its note is saved.
     ImportResult importFiles(const MarkdownFiles& found, const FileHandler& handler);
 
@@ -53,30 +47,11 @@ private:
     };
 
     void prepare(const MarkdownFiles& found);
-    void settleRecord();
-    bool hasHappened(const ImportedSource& source, const ImportRecord& record);
     void readFile(std::size_t number);
     void take(Pending pending);
     void saveBatch();
-    void applyBatch();
+    void fill(std::optional<ImportBatch>& batch);
     void withdraw();
-    void apply(const PlannedFile& planned, const ComposedNote& composed);
-    void insertNote(const PlannedFile& planned, const ComposedNote& composed);
-    void setExportedState(OVNote& note, const PlannedFile& planned, const ExportedIdentity& exported);
-    void changeNote(const PlannedFile& planned, const ComposedNote& composed, OVNote* note);
-    void keep(const PlannedFile& planned, const ComposedNote& composed, const OVNote* note);
-    void updateNote(const PlannedFile& planned, const ComposedNote& composed, OVNote& note);
-    void addCopy(const PlannedFile& planned, const ComposedNote& composed, OVNote& note);
-    void skip(const PlannedFile& planned, const std::string& reason);
-    std::string setText(OVNote& note, const ComposedNote& composed);
-    std::optional<std::string> textWithAttachments(const ComposedNote& composed, OVNote& note, bool attaches);
-    std::optional<std::string> nameOfAttached(const LinkedFile& file, OVNote& note, bool attaches, bool isExported);
-    bool isUnchangedBy(const ComposedNote& composed, OVNote& note);
-    void countFilesToAttach(const ComposedNote& composed);
-    ImportedSource sourceOf(const PlannedFile& planned, const ComposedNote& composed, const std::string& text);
-    void announce(const PlannedFile& planned, ImportedSource source);
-    bool isAsImported(const OVNote& note, const std::optional<TextFingerprint>& imported);
-    void tell(const PlannedFile& planned, const ComposedNote& composed, FileOutcome outcome);
     void fail(const std::filesystem::path& path, const TextFileError& error);
     void leave(const MarkdownFiles& found, std::size_t next);
 
@@ -90,14 +65,8 @@ private:
     std::optional<TextComposer> composer_;
     const FileHandler* handler_ = nullptr;
     ImportResult result_;
-    ImportResult batchResult_; ///< counted when the batch is saved
-    std::vector<Pending> batch_;
-    std::size_t batchBytes_ = 0;
-    std::vector<ImportedSource> announced_;
-    std::vector<std::filesystem::path> moved_;
-    // What the notes of a batch ask for again and again.
-    OVNote::TagsCache tagsOfBatch_;
-    OVNote::NotesCache notesOfBatch_;
+    std::vector<Pending> pending_; ///< for the next batch
+    std::size_t pendingBytes_ = 0;
 };
 
 } // namespace tarn

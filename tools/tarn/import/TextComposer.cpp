@@ -5,8 +5,8 @@
 #include "tarnmodel/model/OVNote.h"
 #include "tarnmodel/platform/foundation/text/Normalization.h"
 #include "tarnmodel/platform/foundation/text/UTF.h"
-#include "tools/tarn/TextFile.h"
-#include "tools/tarn/import/ExportedFiles.h"
+#include "tools/tarn/files/TextFile.h"
+#include "tools/tarn/import/reading/ExportedFiles.h"
 
 #include <array>
 #include <utility>
@@ -87,7 +87,7 @@ LinkMeaning TextComposer::Links::ofDestination(const std::string& destination)
         return {};
     const LinkedFile file = composer_.fileForLink(number_, destination);
     if (file.kind == Kind::ImportedNote) {
-        if (const auto number = composer_.plan_.index().noteAtPath(file.target)) {
+        if (const auto number = composer_.plan_.index().noteAtPath(file.target.native())) {
             LinkMeaning meaning{.kind = LinkMeaning::Kind::Note, .note = noteOf(*number), .anchor = file.anchor};
             // An export writes an empty anchor where the link led by identifier.
             if (composer_.linksAreExported_ && destination.ends_with('#'))
@@ -134,7 +134,7 @@ LinkMeaning TextComposer::Links::fileNamed(const std::string& name) const
         const fs::path path = composer_.otherFiles_.note(match->note).path;
         return {.kind = LinkMeaning::Kind::File,
             .name = part,
-            .path = path.lexically_relative(here.path.parent_path()).native(),
+            .path = path.lexically_relative(fs::path(here.path).parent_path()).native(),
             .isOneOfSeveral = match->isOneOfSeveral};
     }
     return {};
@@ -142,17 +142,19 @@ LinkMeaning TextComposer::Links::fileNamed(const std::string& name) const
 
 TextComposer::TextComposer(
     ImportPlan& plan, const ImportRules& rules, std::vector<std::string> tags, const MarkdownFiles& found)
-    : plan_(plan), rules_(rules), tags_(std::move(tags)), linkedFiles_(found.files), otherFiles_(plan.linkedNames())
+    : plan_(plan), rules_(rules), tags_(std::move(tags)),
+      linkedFiles_([&plan](const std::string& path) { return plan.isFileOfNote(path); }),
+      otherFiles_(plan.linkedNames())
 {
     for (const MarkdownFile& file : found.others)
         otherFiles_.add(
-            {.path = pathWithoutSymbolicLinks(file.path), .root = rootOf(file), .title = {}, .aliases = {}});
+            {.path = pathWithoutSymbolicLinks(file.path).native(), .root = file.root, .title = {}, .aliases = {}});
 }
 
 LinkedFile TextComposer::fileForLink(std::size_t number, const std::string& destination)
 {
     const MarkdownFile& file = plan_.files()[number].file;
-    return linkedFiles_.fileForLink(destination, file.path, file.root);
+    return linkedFiles_.fileForLink(destination, file);
 }
 
 ComposedNote TextComposer::compose(std::size_t number)
@@ -208,7 +210,7 @@ std::vector<std::string> TextComposer::tagsOf(const PlannedFile& planned) const
     std::vector<std::string> tags = tags_;
     if (!rules_.makesTagsOfFolders)
         return tags;
-    const fs::path folder = planned.path.parent_path().lexically_relative(rootOf(planned.file));
+    const fs::path folder = fs::path(planned.path).parent_path().lexically_relative(planned.file.root->target);
     const std::string name
         = folder == "." ? std::string() : CVKHashtag::sanitizeTagName(canonicallyComposed(validUTF8(folder.native())));
     if (!name.empty())
