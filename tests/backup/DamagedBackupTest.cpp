@@ -124,6 +124,7 @@ TEST_F(DamagedBackup, OfSomeRecordsGivesThoseBehindThem)
     EXPECT_EQ(restoration.restored, 1U);
     EXPECT_EQ(restoration.damaged, 1U);
     EXPECT_EQ(restoration.skipped.front().title, "records/OVNoteTag.jsonl");
+    EXPECT_EQ(noteOf(otherStore().context(), "Note").uniqueIdentifier(), "Note");
 }
 
 TEST_F(DamagedBackup, LosesOnlyWhatLiesBehindACut)

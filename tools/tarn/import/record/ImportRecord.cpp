@@ -217,20 +217,26 @@ bool ImportRecord::forgetTexts(const std::function<bool(const ImportedSource&)>&
     const std::function<std::string(const fs::path&)>& stampOf)
 {
     bool hasForgotten = false;
+    const auto isToForget = [&](const ImportedSource& source) {
+        return (!source.file.empty() || source.text || source.copyText) && isProtected(source);
+    };
     const auto forget = [&](ImportedSource& source) {
-        if ((source.file.empty() && !source.text && !source.copyText) || !isProtected(source))
-            return;
-        forgetBytes(source);
-        source.stamp = stampOf(source.path);
+        source.stamp = stampOf(fs::path(source.path));
         source.file.clear();
         source.text.reset();
         source.copyText.reset();
         hasForgotten = true;
     };
     for (const auto& [path, source] : sources_) {
+        if (!isToForget(*source))
+            continue;
+        forgetBytes(*source);
         forget(*source);
     }
-    std::ranges::for_each(announced_, forget);
+    for (ImportedSource& source : announced_) {
+        if (isToForget(source))
+            forget(source);
+    }
     mustBeRewritten_ = mustBeRewritten_ || hasForgotten;
     return hasForgotten;
 }

@@ -10,10 +10,10 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <unordered_map>
-#include <utility>
 #include <vector>
 
 namespace tarn {
@@ -45,20 +45,21 @@ class ImportRecord {
 public:
     /// The record beside this database, which is not there yet when nothing was imported.
     explicit ImportRecord(const std::filesystem::path& database);
+    struct Place {
+        std::filesystem::path file;
+    };
+    /// One that lies anywhere.
+    explicit ImportRecord(Place place);
     ImportRecord(const ImportRecord&) = delete;
     ImportRecord& operator=(const ImportRecord&) = delete;
-    ImportRecord(ImportRecord&&) = default;
-
-    /// By the path in it. Where it lies in memory it stays until it goes.
-    using SourcesByPath = std::map<std::string_view, std::unique_ptr<ImportedSource>>;
-
-    /// One that lies anywhere.
-    static ImportRecord inFile(std::filesystem::path file) { return ImportRecord(Place{std::move(file)}); }
 
     /// Whether something in it is no entry: what stands behind it was not read.
     bool isDamaged() const noexcept { return isDamaged_; }
     /// Whether it says nothing of any file.
     bool isEmpty() const noexcept { return sources_.empty() && reserved_.empty() && announced_.empty(); }
+
+    /// By the path in it. Where it lies in memory it stays until it goes.
+    using SourcesByPath = std::map<std::string_view, std::unique_ptr<ImportedSource>>;
 
     /// Whether the store got what was to become of a file; asked of what was never confirmed.
     using Judge = std::function<bool(const ImportedSource&)>;
@@ -103,11 +104,6 @@ public:
     static constexpr std::string_view nameInBackups = "imports.jsonl";
 
 private:
-    struct Place {
-        std::filesystem::path file;
-    };
-    explicit ImportRecord(Place place);
-
     void read();
     void read(const RecordEntry& entry);
     void take(ImportedSource source);

@@ -7,8 +7,7 @@ namespace tarn {
 void ImportRecord::takeFrom(const ImportRecord& other, const NotesThere& notesThere)
 {
     const auto isNews = [this](std::string_view path, const std::string& note) {
-        return std::filesystem::path(path).is_absolute() && !note.empty() && !sources_.contains(path)
-            && !byNote_.contains(note);
+        return path.starts_with('/') && !note.empty() && !sources_.contains(path) && !byNote_.contains(note);
     };
     std::vector<ImportedSource> news;
     std::vector<std::string> notes;

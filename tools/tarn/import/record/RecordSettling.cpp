@@ -43,16 +43,19 @@ void settleRecord(ImportRecord& record, StoreSession& session)
 {
     StoreTitles titles(&session);
     record.settle([&](const ImportedSource& source) { return hasHappened(source, record, session, titles); });
-    forgetProtectedNotes(record, session);
+    forgetProtectedTexts(record, session);
 }
 
-bool forgetProtectedNotes(ImportRecord& record, StoreSession& session)
+bool forgetProtectedTexts(ImportRecord& record, StoreSession& session)
 {
     std::set<std::string> protectedNotes;
     session.forEachNote(predicateOfFilter("encrypted"),
         [&](const OVNote& note) { protectedNotes.insert(note.uniqueIdentifier().value_or("")); });
-    return record.forgetTexts(
-        [&](const ImportedSource& source) { return protectedNotes.contains(source.note); }, stampOfFile);
+    // A copy has the text of the file as well.
+    const auto isProtected = [&](const ImportedSource& source) {
+        return protectedNotes.contains(source.note) || (!source.copy.empty() && protectedNotes.contains(source.copy));
+    };
+    return record.forgetTexts(isProtected, stampOfFile);
 }
 
 bool isAsImported(

@@ -15,8 +15,8 @@ class StoreSession;
 /// Asks the store what became of an import that did not come to its end, and takes hashes of what is protected by now
 /// out of the record.
 void settleRecord(ImportRecord& record, StoreSession& session);
-/// Takes such hashes out; whether there were any.
-bool forgetProtectedNotes(ImportRecord& record, StoreSession& session);
+/// Takes such hashes out of a record; whether there were any.
+bool forgetProtectedTexts(ImportRecord& record, StoreSession& session);
 
 /// Whether a note still has the text that an import gave it; never of one that is protected.
 bool isAsImported(

@@ -1,6 +1,6 @@
-#include "tools/tarn/backup/BackedUpRecord.h"
+#include "tools/tarn/import/record/BackedUpRecord.h"
 
-#include "tools/tarn/import/Importer.h"
+#include "tools/tarn/commandline/CommandFailure.h"
 #include "tools/tarn/import/record/ImportRecord.h"
 #include "tools/tarn/import/record/RecordSettling.h"
 
@@ -41,10 +41,10 @@ std::set<std::string> notesInStore(const std::vector<std::string>& identifiers, 
 // them twice; one copied behind it could have confirmed notes that the store has not got, which then count as deleted.
 BackupCompanion companionOfImportRecord(StoreSession& session)
 {
-    const auto forget = [&session](const fs::path& copy) {
+    const auto forgetProtectedNotes = [&session](const fs::path& copy) {
         try {
-            ImportRecord record = ImportRecord::inFile(copy);
-            if (forgetProtectedNotes(record, session))
+            ImportRecord record(ImportRecord::Place{copy});
+            if (forgetProtectedTexts(record, session))
                 record.finish();
         } catch (const CommandFailure& failure) {
             // What a later version wrote is for a later version to read.
@@ -54,7 +54,7 @@ BackupCompanion companionOfImportRecord(StoreSession& session)
     };
     return {.name = std::string(ImportRecord::nameInBackups),
         .file = ImportRecord::pathForDatabase(session.database()),
-        .prepare = forget};
+        .prepare = forgetProtectedNotes};
 }
 
 std::function<void(const std::string&, const fs::path&)> RestoredRecord::taker()
@@ -75,7 +75,7 @@ void RestoredRecord::take(const fs::path& file)
 {
     std::optional<ImportRecord> restored;
     try {
-        restored.emplace(ImportRecord::inFile(file));
+        restored.emplace(ImportRecord::Place{file});
     } catch (const CommandFailure& failure) {
         if (failure.code() != ExitCode::NeedsMigration)
             throw;
@@ -102,8 +102,11 @@ void RestoredRecord::finish()
     try {
         if (failure_)
             std::rethrow_exception(failure_);
-        if (!isTaken_)
-            Importer(&session_, true, {}, {}).forgetProtectedNotes();
+        if (isTaken_)
+            return;
+        ImportRecord own(session_.database());
+        settleRecord(own, session_);
+        own.finish();
     } catch (const CommandFailure& failure) {
         throw CommandFailure(failure.code(),
             std::string("the backup was restored, but not ") + kRecordOfImports + ": " + failure.what()

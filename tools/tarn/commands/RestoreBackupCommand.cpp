@@ -2,15 +2,15 @@
 #include "tarnmodel/files/OVLocalFileManager.h"
 #include "tarnmodel/platform/foundation/text/UTF.h"
 #include "tarnmodel/store/BackupMigration.h"
-#include "tools/tarn/backup/BackedUpRecord.h"
-#include "tools/tarn/backup/BackupProgress.h"
 #include "tools/tarn/commandline/CommandFailure.h"
 #include "tools/tarn/commandline/CommandLine.h"
 #include "tools/tarn/commandline/DisplayText.h"
 #include "tools/tarn/commandline/Interruption.h"
 #include "tools/tarn/commandline/JSON.h"
+#include "tools/tarn/commands/BackupProgress.h"
 #include "tools/tarn/commands/Commands.h"
 #include "tools/tarn/files/FileList.h"
+#include "tools/tarn/import/record/BackedUpRecord.h"
 #include "tools/tarn/session/StoreSession.h"
 
 #include <filesystem>

@@ -1,4 +1,4 @@
-#include "tools/tarn/backup/BackupProgress.h"
+#include "tools/tarn/commands/BackupProgress.h"
 
 #include "tarnmodel/backup/BackupErrors.h"
 #include "tarnmodel/store/VexMigrationManager.h"
