@@ -16,6 +16,7 @@ from notebook_files import NotebookFiles
 from tarn_store import WIKI_TITLE, Titles
 
 LINK = re.compile(r"\[(?P<word>\w+)\]\((?P<path>[^)\s:]+)\)|\[\[(?P<name>[^\]|]+)(?:\|(?P<alias>\w+))?\]\]")
+ANY_LINK = re.compile(r"\[\w+\]\([^)\s]+\)|\[\[[^\]]+\]\]")
 COUNTED = ("imported", "updated", "unchanged", "conflicted", "moved", "gone")
 
 
@@ -205,6 +206,8 @@ class ImportModel:
             return self._keep(file, source)
         if text == self.texts[file.note]:
             return self._keep(file, source if is_unchanged else made)
+        if is_unchanged and self._loses_links(file):
+            return self._keep(file, source)
         if is_ours:
             return self._write(file, "updated", made, made.note, made.imported, is_mended=is_unchanged)
         made.copied, made.imported = made.imported, source.imported
@@ -212,6 +215,19 @@ class ImportModel:
         is_free = copy and not copy.is_trashed and source.copied.matches(copy.text, self._leads_to)
         made.copy = source.copy if is_free else f"copy of {new_note(file.path)}"
         self._write(file, "conflicted", made, made.copy, made.copied)
+
+    def _loses_links(self, file):
+        """Whether links of the file lead nowhere that lead somewhere in the note: the file has moved away from the notes."""
+        old = [match[0] for match in ANY_LINK.finditer(self.texts[file.note])]
+        links = list(LINK.finditer(file.body))
+        if len(old) != len(links):
+            return True
+        return any(self._is_dead(file, match) and match[0] != was for match, was in zip(links, old))
+
+    def _is_dead(self, file, match):
+        path, name = match["path"], match["name"]
+        found = self.targets.of_path(file.path, path) if path else self.targets.of_name(file.path, name)
+        return not found.note and not (name and self.titles.of(name))
 
     def _skip(self):
         self.prediction.skipped += 1

@@ -22,7 +22,7 @@ struct ProtectArguments {
     std::size_t memory = 0;
 };
 
-void writeNotes(const Invocation& invocation, const std::vector<OVNote*>& notes)
+void writeProtected(const Invocation& invocation, const std::vector<OVNote*>& notes)
 {
     if (invocation.json) {
         writeJSON(invocation.output, jsonOfNotes(notes));
@@ -64,7 +64,7 @@ ExitCode protectNotes(const Invocation& invocation, const ProtectArguments& argu
     });
     if (first && !invocation.json)
         tellOnStandardError("this is the first password of the store: who forgets it has lost what it protects");
-    writeNotes(invocation, notes);
+    writeProtected(invocation, notes);
     Importer(&session, true, {}, {}).forgetProtectedNotes();
     clearAwayClearText(session);
     return ExitCode::Done;
@@ -82,7 +82,7 @@ ExitCode unprotectNotes(const Invocation& invocation, const NotesToChange& argum
             if (NSError error; !session.protection().manager().removeEncryptionFromObject(*note, &error))
                 throw failureForEncryptionError("cannot take the protection off " + nameOfNote(*note), error);
     });
-    writeNotes(invocation, notes);
+    writeProtected(invocation, notes);
     return ExitCode::Done;
 }
 

@@ -4,6 +4,7 @@
 #include "tarnmodel/platform/foundation/text/Folding.h"
 #include "tools/tarn/arguments/NoteArgument.h"
 #include "tools/tarn/commandline/DisplayText.h"
+#include "tools/tarn/import/links/LinkComparison.h"
 #include "tools/tarn/import/record/RecordSettling.h"
 
 #include <algorithm>
@@ -44,6 +45,25 @@ bool hasWaitingLinks(const ComposedNote& composed)
     return std::ranges::any_of(composed.links, [](const RewrittenLink& link) {
         return link.outcome == RewrittenLink::Outcome::Waiting || link.outcome == RewrittenLink::Outcome::Missing;
     });
+}
+
+/// Whether links lead nowhere from the place of the file that it had led to notes and attachments before: it has moved
+/// away from them, or they are gone. The note keeps them.
+bool losesLinks(const OVNote& note, const ComposedNote& composed)
+{
+    using Outcome = RewrittenLink::Outcome;
+    const std::vector<LinkTarget> old = linkTargetsOf(CVKAST::fromMarkdown(note.text().value_or("")));
+    const std::vector<LinkTarget> now = linkTargetsOf(CVKAST::fromMarkdown(composed.text));
+    if (old.size() != now.size() || now.size() != composed.links.size())
+        return true;
+    for (std::size_t i = 0; i < now.size(); ++i) {
+        const Outcome outcome = composed.links[i].outcome;
+        const bool leadsNowhere = outcome == Outcome::Waiting || outcome == Outcome::Missing
+            || outcome == Outcome::Outside || outcome == Outcome::Kept;
+        if (leadsNowhere && old[i] != now[i])
+            return true;
+    }
+    return false;
 }
 
 } // namespace
@@ -138,6 +158,8 @@ void ImportBatch::changeNote(const PlannedFile& planned, const ComposedNote& com
         return keep(planned, composed, nullptr);
     if (isUnchangedBy(composed, *note))
         return keep(planned, composed, note);
+    if (isUnchanged && losesLinks(*note, composed))
+        return keep(planned, composed, nullptr);
     if (isOurs)
         return updateNote(planned, composed, *note);
     addCopy(planned, composed, *note);

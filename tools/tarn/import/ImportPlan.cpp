@@ -5,6 +5,7 @@
 #include "tarnmodel/platform/foundation/text/Folding.h"
 #include "tarnmodel/platform/foundation/text/Normalization.h"
 #include "tarnmodel/platform/foundation/text/UTF.h"
+#include "tools/tarn/arguments/NoteArgument.h"
 #include "tools/tarn/commandline/Interruption.h"
 #include "tools/tarn/files/TextFile.h"
 #include "tools/tarn/import/reading/SourceText.h"
@@ -84,18 +85,66 @@ void ImportPlan::make(const std::vector<MarkdownFile>& files, const FailureHandl
         tellTitlesApart();
     giveIdentifiers();
     askStore();
+    fillIndex();
+}
+
+void ImportPlan::fillIndex()
+{
+    std::unordered_set<std::string> indexed;
     for (const PlannedFile& planned : files_) {
         const auto aliases = aliases_.find(planned.path);
         index_.add({planned.path, planned.file.root, planned.title,
             aliases == aliases_.end() ? std::vector<std::string>() : std::move(aliases->second)});
+        indexed.insert(planned.path);
     }
+    if (!record_)
+        return;
+    // Who imports one file again means the folder that it was imported with.
+    std::map<std::string, std::shared_ptr<const ImportRoot>> roots;
+    for (const auto& [given, root] : roots_)
+        roots.emplace(root->target.native() + "/", root);
+    for (const auto& [beginning, root] : roots) {
+        const auto& sources = record_->sources();
+        for (auto known = sources.lower_bound(beginning); known != sources.end() && known->first.starts_with(beginning);
+             ++known) {
+            const ImportedSource& source = *known->second;
+            if (indexed.contains(source.path) || !isThere(source.path))
+                continue;
+            indexed.insert(source.path);
+            othersOfIndex_.push_back(source.note);
+            index_.add({source.path, root, {}, {}});
+        }
+    }
+}
+
+std::optional<ImportPlan::FoundNote> ImportPlan::noteOfNumber(NoteIndex::Number number)
+{
+    if (number < files_.size())
+        return FoundNote{files_[number].title, files_[number].identifier};
+    const std::string& identifier = othersOfIndex_[number - files_.size()];
+    const OVNote* note = session_ ? noteWithIdentifier(identifier, *session_) : nullptr;
+    if (!note || note->isTrashed())
+        return std::nullopt;
+    return FoundNote{note->title().value_or(""), identifier};
+}
+
+/// A folder below one that was imported before is part of that.
+std::shared_ptr<const ImportRoot> ImportPlan::wholeRoot(const std::shared_ptr<const ImportRoot>& given)
+{
+    const auto [known, isNew] = roots_.try_emplace(given.get(), given);
+    const std::string above = isNew && record_ ? record_->rootAbove(given->target) : std::string();
+    const bool isHigher = above != given->target;
+    if (!above.empty() && (isHigher || !given->isWalked))
+        known->second = std::make_shared<const ImportRoot>(
+            ImportRoot{.path = above, .target = above, .isWalked = given->isWalked && !isHigher, .isRecorded = true});
+    return known->second;
 }
 
 void ImportPlan::look(const MarkdownFile& file)
 {
     const TextFile found = readTextFile(file.path);
     SourceText source = sourceTextOfFile(found.text);
-    PlannedFile planned{.file = file,
+    PlannedFile planned{.file = {file.path, wholeRoot(file.root)},
         .path = pathWithoutSymbolicLinks(file.path).native(),
         .bytes = hashOfBytes(found.text),
         .facts = titleFactsOf(source, fs::absolute(file.path).lexically_normal(), rules_.titles)};

@@ -10,6 +10,7 @@
 #include <cstddef>
 #include <filesystem>
 #include <functional>
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -64,13 +65,23 @@ public:
     const std::vector<PlannedFile>& files() const noexcept { return files_; }
     /// How many exported files say that they belong to a group of conflicted versions.
     std::size_t versionsInConflict(std::string_view group) const;
-    /// Finds the files by their numbers in `files()`.
+    /// Finds the files by their numbers in `files()`, and behind them others that were imported before.
     const NoteIndex& index() const noexcept { return index_; }
+    /// A note of the index.
+    struct FoundNote {
+        std::string title;
+        std::string identifier;
+    };
+    /// None for one that was imported before and is not there any more, or in the trash.
+    std::optional<FoundNote> noteOfNumber(NoteIndex::Number number);
     /// Whether this is a file of the import, be it one that cannot be read. `path` has no symbolic links.
     bool isFileOfNote(const std::string& path) const;
     const LinkedNames& linkedNames() const noexcept { return linkedNames_; }
     /// Known files below the folders of this import that are not there any more, and not elsewhere.
     std::vector<const ImportedSource*> goneBelow(const std::vector<std::filesystem::path>& roots) const;
+
+    /// What counts as the root of files that were found below `given`.
+    std::shared_ptr<const ImportRoot> wholeRoot(const std::shared_ptr<const ImportRoot>& given);
 
     /// The note that alone has a title, be it planned or in the store and not in the trash: by identifier.
     std::optional<std::string> onlyNoteOf(const std::string& title);
@@ -94,6 +105,7 @@ private:
     static void tellApart(const std::vector<PlannedFile*>& files);
     void giveIdentifiers();
     void askStore();
+    void fillIndex();
     /// The note of a file that is known, as it is before the import.
     struct StoredNote {
         std::string title;
@@ -114,10 +126,12 @@ private:
     std::unordered_set<std::string> unreadable_;
     std::unordered_set<std::string> movedFrom_;
     LinkedNames linkedNames_;
-    std::unordered_map<std::string, std::size_t> headings_;       ///< how many files of a folder begin with one
-    std::unordered_set<std::string> identifiers_;                 ///< of the planned notes
-    std::unordered_map<std::string, std::size_t> conflicts_;      ///< exported files by their group
-    std::unordered_map<std::string, PlannedTitle> plannedTitles_; ///< by the folded title
+    std::unordered_map<std::string, std::size_t> headings_; ///< how many files of a folder begin with one
+    std::unordered_set<std::string> identifiers_;           ///< of the planned notes
+    std::vector<std::string> othersOfIndex_;                ///< notes of files that were imported before, by identifier
+    std::map<const ImportRoot*, std::shared_ptr<const ImportRoot>> roots_; ///< those of the files, and what is theirs
+    std::unordered_map<std::string, std::size_t> conflicts_;               ///< exported files by their group
+    std::unordered_map<std::string, PlannedTitle> plannedTitles_;          ///< by the folded title
     NoteIndex index_{linkedNames_};
 };
 

@@ -81,8 +81,10 @@ void Importer::prepare(const MarkdownFiles& found)
     plan_->make(found.files, [this](const fs::path& path, const TextFileError& error) { fail(path, error); });
     composer_.emplace(*plan_, rules_, tags_, found);
     std::set<fs::path> roots;
-    for (const MarkdownFile& file : found.files)
-        roots.insert(file.root->target);
+    for (const MarkdownFile& file : found.files) {
+        if (roots.insert(file.root->target).second && record_ && file.root->isWalked)
+            record_->addRoot(file.root->target);
+    }
     for (const ImportedSource* source : plan_->goneBelow({roots.begin(), roots.end()}))
         result_.gone.push_back(source->path);
 }

@@ -65,19 +65,20 @@ public:
     }
 
 private:
-    LinkedNote noteOf(NoteIndex::Number number) const;
+    std::optional<LinkedNote> noteOf(NoteIndex::Number number) const;
     LinkMeaning fileNamed(const std::string& name) const;
 
     TextComposer& composer_;
     std::size_t number_;
 };
 
-LinkedNote TextComposer::Links::noteOf(NoteIndex::Number number) const
+std::optional<LinkedNote> TextComposer::Links::noteOf(NoteIndex::Number number) const
 {
-    const PlannedFile& planned = composer_.plan_.files()[number];
-    return {.title = planned.title,
-        .identifier = planned.identifier,
-        .isKnownByTitle = !planned.title.empty() && composer_.plan_.onlyNoteOf(planned.title) == planned.identifier};
+    auto note = composer_.plan_.noteOfNumber(number);
+    if (!note)
+        return std::nullopt;
+    const bool isKnownByTitle = !note->title.empty() && composer_.plan_.onlyNoteOf(note->title) == note->identifier;
+    return LinkedNote{std::move(note->title), std::move(note->identifier), isKnownByTitle};
 }
 
 LinkMeaning TextComposer::Links::ofDestination(const std::string& destination)
@@ -88,8 +89,9 @@ LinkMeaning TextComposer::Links::ofDestination(const std::string& destination)
         return {};
     const LinkedFile file = composer_.fileForLink(number_, destination);
     if (file.kind == Kind::ImportedNote) {
-        if (const auto number = composer_.plan_.index().noteAtPath(file.target.native())) {
-            LinkMeaning meaning{.kind = LinkMeaning::Kind::Note, .note = noteOf(*number), .anchor = file.anchor};
+        const auto number = composer_.plan_.index().noteAtPath(file.target.native());
+        if (auto note = number ? noteOf(*number) : std::nullopt) {
+            LinkMeaning meaning{.kind = LinkMeaning::Kind::Note, .note = std::move(*note), .anchor = file.anchor};
             // An export writes an empty anchor where the link led by identifier.
             if (composer_.linksAreExported_ && destination.ends_with('#'))
                 meaning.note.isKnownByTitle = false;
@@ -112,10 +114,11 @@ LinkMeaning TextComposer::Links::ofName(const std::string& name)
     for (const std::size_t hash : {std::string::npos, name.find('#')}) {
         const std::string part = name.substr(0, hash);
         const auto match = index.noteNamed(part, index.note(number_));
-        if (!match)
+        auto note = match ? noteOf(match->note) : std::nullopt;
+        if (!note)
             continue;
         return {.kind = LinkMeaning::Kind::Note,
-            .note = noteOf(match->note),
+            .note = std::move(*note),
             .name = part,
             .anchor = hash == std::string::npos ? std::string() : name.substr(hash + 1),
             .isOneOfSeveral = match->isOneOfSeveral};
@@ -125,11 +128,10 @@ LinkMeaning TextComposer::Links::ofName(const std::string& name)
 
 LinkMeaning TextComposer::Links::fileNamed(const std::string& name) const
 {
-    const NoteIndex& index = composer_.plan_.index();
-    const LinkableNote& here = index.note(number_);
+    const LinkableNote& here = composer_.plan_.index().note(number_);
     for (const std::size_t hash : {std::string::npos, name.find('#')}) {
         const std::string part = name.substr(0, hash);
-        const auto match = composer_.otherFiles_.noteNamed(part, here);
+        const auto match = composer_.otherFileNamed(part, here);
         if (!match)
             continue;
         const fs::path path = composer_.otherFiles_.note(match->note).path;
@@ -147,12 +149,30 @@ TextComposer::TextComposer(
       linkedFiles_([&plan](const std::string& path) { return plan.isFileOfNote(path); }),
       otherFiles_(plan.linkedNames())
 {
-    for (const MarkdownFile& file : found.others) {
+    addOtherFiles(found.others);
+}
+
+void TextComposer::addOtherFiles(const std::vector<MarkdownFile>& files)
+{
+    for (const MarkdownFile& file : files) {
         const fs::path path = pathWithoutSymbolicLinks(file.path);
+        const auto root = plan_.wholeRoot(file.root);
         std::error_code failure;
-        if (*path.lexically_relative(file.root->target).begin() != ".." && fs::is_regular_file(path, failure))
-            otherFiles_.add({.path = path.native(), .root = file.root, .title = {}, .aliases = {}});
+        if (*path.lexically_relative(root->target).begin() != ".." && fs::is_regular_file(path, failure)
+            && !otherFiles_.noteAtPath(path.native()))
+            otherFiles_.add({.path = path.native(), .root = root, .title = {}, .aliases = {}});
     }
+}
+
+/// Where only part of a folder is imported again, the rest of it is looked through for the first name that needs it.
+std::optional<NoteIndex::Match> TextComposer::otherFileNamed(const std::string& name, const LinkableNote& from)
+{
+    const ImportRoot& root = *from.root;
+    auto match = otherFiles_.noteNamed(name, from);
+    if (match || root.isWalked || !root.isRecorded || !walked_.insert(&root).second)
+        return match;
+    addOtherFiles(markdownFilesAtPaths({root.target.native()}).others);
+    return otherFiles_.noteNamed(name, from);
 }
 
 LinkedFile TextComposer::fileForLink(std::size_t number, const std::string& destination)

@@ -10,6 +10,7 @@
 #include <filesystem>
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -43,6 +44,8 @@ public:
 private:
     class Links;
 
+    void addOtherFiles(const std::vector<MarkdownFile>& files);
+    std::optional<NoteIndex::Match> otherFileNamed(const std::string& name, const LinkableNote& from);
     std::map<std::string, LinkedFile> filesToAttach(std::size_t number, const std::string& text);
     std::vector<std::string> tagsOf(const PlannedFile& planned) const;
 
@@ -50,8 +53,9 @@ private:
     ImportRules rules_;
     std::vector<std::string> tags_;
     LinkedFiles linkedFiles_;
-    NoteIndex otherFiles_;          ///< that become no notes
-    bool linksAreExported_ = false; ///< the text at hand is one of an export, with links to files
+    NoteIndex otherFiles_;               ///< that become no notes
+    std::set<const ImportRoot*> walked_; ///< looked through for such files
+    bool linksAreExported_ = false;      ///< the text at hand is one of an export, with links to files
 };
 
 } // namespace tarn

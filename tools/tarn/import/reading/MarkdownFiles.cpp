@@ -96,10 +96,11 @@ private:
 void Walk::begin(const fs::path& path)
 {
     std::error_code error;
-    fs::path folder = fs::is_directory(path, error) ? path : path.parent_path();
-    if (!root_ || root_->path != folder) {
+    const bool isFolder = fs::is_directory(path, error);
+    fs::path folder = isFolder ? path : path.parent_path();
+    if (!root_ || root_->path != folder || root_->isWalked != isFolder) {
         fs::path target = pathWithoutSymbolicLinks(folder.empty() ? fs::path(".") : folder);
-        root_ = std::make_shared<const ImportRoot>(ImportRoot{std::move(folder), std::move(target)});
+        root_ = std::make_shared<const ImportRoot>(ImportRoot{std::move(folder), std::move(target), isFolder});
     }
     visit(path);
 }

@@ -26,6 +26,8 @@ struct SkippedPath {
 struct ImportRoot {
     std::filesystem::path path;   ///< as it was given
     std::filesystem::path target; ///< without symbolic links
+    bool isWalked = true;         ///< whether everything in it was found
+    bool isRecorded = false;      ///< whether it was imported before
 };
 
 /// A file that becomes a note. Of many thousands: paths are strings here, which take a fraction of the memory.

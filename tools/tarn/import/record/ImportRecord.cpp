@@ -62,6 +62,9 @@ void ImportRecord::read()
 void ImportRecord::read(const RecordEntry& entry)
 {
     switch (entry.kind) {
+    case RecordEntry::Kind::Root:
+        roots_.insert(entry.source.path);
+        break;
     case RecordEntry::Kind::Source:
         take(entry.source);
         break;
@@ -187,6 +190,22 @@ std::vector<const ImportedSource*> ImportRecord::sourcesOfBytes(const std::strin
     return sources;
 }
 
+std::string ImportRecord::rootAbove(const fs::path& folder) const
+{
+    std::string highest;
+    for (fs::path place = folder;; place = place.parent_path()) {
+        if (roots_.contains(place.native()))
+            highest = place;
+        if (!place.has_relative_path())
+            return highest;
+    }
+}
+
+void ImportRecord::addRoot(const std::string& folder)
+{
+    mustBeRewritten_ = roots_.insert(folder).second || mustBeRewritten_;
+}
+
 void ImportRecord::announce(std::vector<ImportedSource> batch, std::vector<std::string> moved)
 {
     std::string lines;
@@ -245,19 +264,28 @@ void ImportRecord::moveRoot(const fs::path& old, const fs::path& now)
 {
     if (old == now)
         return;
+    // None for a path that does not lie below.
+    const auto pathNow = [&](std::string_view path) -> std::optional<std::string> {
+        const fs::path relative = fs::path(path).lexically_relative(old);
+        if (relative.empty() || *relative.begin() == "..")
+            return std::nullopt;
+        return relative == "." ? now : now / relative;
+    };
     std::vector<ImportedSource> moved;
     for (const auto& [path, source] : sources_) {
-        const fs::path relative = fs::path(path).lexically_relative(old);
-        if (!relative.empty() && *relative.begin() != "..")
+        if (pathNow(path))
             moved.push_back(*source);
     }
     for (const ImportedSource& source : moved)
         drop(source.path);
     for (ImportedSource& source : moved) {
-        const fs::path relative = fs::path(source.path).lexically_relative(old);
-        source.path = relative == "." ? now : now / relative;
+        source.path = *pathNow(source.path);
         take(std::move(source));
     }
+    std::set<std::string> roots;
+    for (const std::string& root : roots_)
+        roots.insert(pathNow(root).value_or(root));
+    roots_ = std::move(roots);
     mustBeRewritten_ = mustBeRewritten_ || !moved.empty();
 }
 
@@ -275,6 +303,8 @@ void ImportRecord::append(const std::string& lines, std::size_t count)
 void ImportRecord::rewrite()
 {
     std::string lines = lineOfEntry({RecordEntry::Kind::Format, {}});
+    for (const std::string& root : roots_)
+        lines += lineOfEntry({RecordEntry::Kind::Root, {.path = root}});
     for (const auto& [path, source] : sources_)
         lines += lineOfEntry({RecordEntry::Kind::Source, *source});
     for (const auto& [path, note] : reserved_)
@@ -290,7 +320,7 @@ void ImportRecord::rewrite()
 
 std::size_t ImportRecord::neededLines() const noexcept
 {
-    return 1 + sources_.size() + reserved_.size() + announced_.size() + movedAway_.size();
+    return 1 + roots_.size() + sources_.size() + reserved_.size() + announced_.size() + movedAway_.size();
 }
 
 void ImportRecord::finish()

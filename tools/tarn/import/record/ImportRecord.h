@@ -77,6 +77,12 @@ public:
     /// All, by path.
     const SourcesByPath& sources() const noexcept { return sources_; }
 
+    /// The highest folder that was imported and holds this one, or is it; "" for none. Below it files know each other,
+    /// also when one of them is imported alone.
+    std::string rootAbove(const std::filesystem::path& folder) const;
+    /// A folder is imported. On the disk with the next batch.
+    void addRoot(const std::string& folder);
+
     /// Announces what a batch is going to make of files, and the paths from which files have moved. On the disk when it
     /// returns.
     void announce(std::vector<ImportedSource> batch, std::vector<std::string> moved);
@@ -120,6 +126,7 @@ private:
     // Keys are those of the sources themselves.
     std::unordered_map<std::string_view, const ImportedSource*> byNote_;
     std::unordered_multimap<std::string_view, const ImportedSource*> byBytes_;
+    std::set<std::string> roots_;
     std::map<std::string, std::string, std::less<>> reserved_; ///< identifiers by path
     std::vector<ImportedSource> announced_;
     std::vector<std::string> movedAway_; ///< with what is announced

@@ -19,6 +19,7 @@ constexpr int kDeepestValue = 8;
 using Kind = RecordEntry::Kind;
 constexpr std::array kKinds{
     std::pair<Kind, std::string_view>{Kind::Format, "format"},
+    std::pair<Kind, std::string_view>{Kind::Root, "root"},
     std::pair<Kind, std::string_view>{Kind::Source, "source"},
     std::pair<Kind, std::string_view>{Kind::Announced, "announced"},
     std::pair<Kind, std::string_view>{Kind::Moved, "moved"},
@@ -165,7 +166,8 @@ std::optional<RecordEntry> recordEntryOfLine(std::string_view line)
             const auto value = json.find(std::string(name));
             if (value == json.end())
                 continue;
-            const bool holdsSource = kind == Kind::Source || kind == Kind::Announced || kind == Kind::Moved;
+            const bool holdsSource
+                = kind == Kind::Root || kind == Kind::Source || kind == Kind::Announced || kind == Kind::Moved;
             return RecordEntry{.kind = kind,
                 .source = holdsSource ? sourceOf(*value) : ImportedSource{},
                 .isOfLaterFormat = kind == Kind::Format && value->get<int>() > kFormat};

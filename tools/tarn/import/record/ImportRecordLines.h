@@ -13,6 +13,7 @@ namespace tarn {
 struct RecordEntry {
     enum class Kind {
         Format,    ///< the first: of which format the lines are
+        Root,      ///< a folder that was imported
         Source,    ///< what became of a file
         Announced, ///< what is going to become of one
         Moved,     ///< a path that has nothing any more when what was announced is saved
@@ -20,7 +21,7 @@ struct RecordEntry {
         Withdrawn, ///< what was announced was not saved
     };
     Kind kind = Kind::Format;
-    ImportedSource source{}; ///< of a path that has moved the path alone
+    ImportedSource source{}; ///< of a folder, and of a path that has moved, the path alone
     bool isOfLaterFormat = false;
 };
 

@@ -9,6 +9,10 @@ void ImportRecord::takeFrom(const ImportRecord& other, const NotesThere& notesTh
     const auto isNews = [this](std::string_view path, const std::string& note) {
         return path.starts_with('/') && !note.empty() && !sources_.contains(path) && !byNote_.contains(note);
     };
+    for (const std::string& root : other.roots_) {
+        if (std::filesystem::path(root).is_absolute())
+            addRoot(root);
+    }
     std::vector<ImportedSource> news;
     std::vector<std::string> notes;
     for (const auto& [path, source] : other.sources_) {
