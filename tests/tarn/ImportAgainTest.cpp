@@ -169,6 +169,19 @@ TEST_F(ImportAgain, KeepsNotesOfFilesThatAreGone)
     EXPECT_EQ(countsOf(json({"import", folder() / "in/b.md"})), (Counts{.unchanged = 1, .gone = 1}));
 }
 
+TEST_F(ImportAgain, TellsThatAllFilesOfAFolderAreGone)
+{
+    file("in/a.md", "# A");
+    file("in/b.md", "# B");
+    import();
+    fs::remove(folder() / "in/a.md");
+    fs::remove(folder() / "in/b.md");
+    const TarnResult result = run({"--json", "import", (folder() / "in").string()});
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_EQ(countsOf(nlohmann::json::parse(result.output)), (Counts{.gone = 2}));
+    EXPECT_EQ(count(), 2);
+}
+
 TEST_F(ImportAgain, FollowsAFolderThatHasMoved)
 {
     file("in/a.md", "# A\n\none");
