@@ -29,14 +29,15 @@ class RoundTrip:
             identifier: note for identifier, note in self.notes.items()
             if "--all" in self.rules or not (note.is_trashed or note.is_archived)
         }
+        if not self.chosen:
+            return
         self.export(self.store, exported=len(self.chosen))
         states = self.states()
         self.export(self.store, unchanged=len(self.chosen))
         require(self.states() == states, "a second export wrote files")
         require(self.identifiers() == sorted(self.chosen), lambda: f"files of {self.identifiers()}")
-        if self.chosen:
-            self.bring_back()
-            self.bring_into_its_own()
+        self.bring_back()
+        self.bring_into_its_own()
 
     def export(self, store, codes=(0,), **expected):
         report = store.run("export", self.folder, *self.rules, codes=codes)
