@@ -149,23 +149,23 @@ class ImportModel:
             file.note = file.source.note if file.source else new_note(file.path)
 
     def _find_titles(self, planned):
-        """Of notes that stay as they are the title that they have, and that of the file goes to the copy which an edited
-        one gets; nobody links what is in the trash."""
+        """Of notes that stay as they are the title that they have; that of the file goes to the copy which an edited
+        one gets. Nobody links what is in the trash."""
         mine = {file.note for file in planned}
         titles = []
         others = [(note.identifier, note.title) for note in self.stored.values() if not note.is_trashed]
         self.stored_titles = Titles(others)
         for file in planned:
             note = self.stored.get(file.note)
-            if note and note.is_trashed:
-                continue
+            is_trashed = note and note.is_trashed
             is_unchanged = note and file.source.digest == file.digest
             is_edited = note and not file.source.imported.matches(note.text, self._is_called)
-            if is_edited and not is_unchanged:
+            if is_edited and not is_unchanged and not is_trashed:
                 titles.append((f"copy of {file.note}", file.title))
             if is_unchanged or is_edited:
                 file.title = note.title
-            titles.append((file.note, file.title))
+            if not is_trashed:
+                titles.append((file.note, file.title))
         self.titles = Titles(titles + [(note, title) for note, title in others if note not in mine])
 
     def _is_called(self, title, note):

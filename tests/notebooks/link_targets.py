@@ -42,8 +42,8 @@ def ends_of(path):
 
 
 class Targets:
-    """Where links lead among `notes`, which have a path from the root, a title and aliases, and among other files of the
-    folder, `files`."""
+    """Where links lead among `notes`, which have a path from the root, a title and aliases, and among the other files
+    of the folder, `files`."""
 
     def __init__(self, notes, files):
         self.by_path = {note.path: note for note in notes}

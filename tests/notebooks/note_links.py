@@ -13,8 +13,8 @@ SCHEME = re.compile(r"[A-Za-z][A-Za-z0-9+.-]*:|//")
 class Link:
     """A link as it is written. `target` is a path, or what stands in two brackets in front of a bar, `whole` the
     same where no table parts it; `text` is what a reader sees, None where a link in two brackets has no other text.
-    `is_plain` says whether the text holds no marks, `is_on_one_line` whether it has one line;
-    `is_in_brackets` whether the brackets around it would make a link of it if it were none. `line` counts from the first line of the text."""
+    `is_plain` says whether the text holds no marks, `is_on_one_line` whether it has one line, `is_in_brackets` whether
+    the brackets around it would make a link of it if it were none. `line` counts from the first line of the text."""
 
     is_wiki: bool
     target: str

@@ -46,8 +46,9 @@ def start_below_comments(text):
 
 @dataclass
 class NoteFile:
-    """A file that becomes a note: where it lies, from the root; the path by which it was found; its text below the front matter, what that says, how the text
-    starts; the title that the note gets, and whether the text says it by itself."""
+    """A file that becomes a note: where it lies, from the root; the path by which it was found; its text below the
+    front matter, what that says, how the text starts; the title that the note gets, and whether the text says it by
+    itself."""
 
     path: str
     found: str = ""

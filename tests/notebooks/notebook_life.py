@@ -2,7 +2,6 @@
 
 import os
 import pathlib
-import shutil
 
 FOLDERS = ("", "sub", "sub/deep", "other folder")
 LIFE_TIME = 1_600_000_000
@@ -19,8 +18,8 @@ class LivingFolder:
             self.add()
 
     def change(self):
-        names = ("write", "write", "retitle", "add", "remove", "move", "move", "replace", "swap", "copy", "link_symbolically")
-        getattr(self, self.rng.choice(names))()
+        once = (self.retitle, self.add, self.remove, self.replace, self.swap, self.copy, self.link_symbolically)
+        self.rng.choice([self.write, self.write, self.move, self.move, *once])()
 
     def files(self):
         return sorted(p for p in self.root.rglob("*.md") if p.is_file() and not p.is_symlink())
@@ -34,7 +33,8 @@ class LivingFolder:
 
     def new_place(self):
         self.count += 1
-        place = self.root / self.rng.choice(FOLDERS) / f"n{self.count if self.rng.random() < 0.7 else self.count % 7}.md"
+        number = self.count if self.rng.random() < 0.7 else self.count % 7
+        place = self.root / self.rng.choice(FOLDERS) / f"n{number}.md"
         place.parent.mkdir(parents=True, exist_ok=True)
         return place if not os.path.lexists(place) else self.new_place()
 
@@ -51,7 +51,8 @@ class LivingFolder:
     def link(self):
         files = self.files()
         if not files or self.rng.random() < 0.2:
-            return self.rng.choice([f"[x](n{self.count + 2}.md)", f"[[n{self.count + 3}]]", "[y](../../away.md)", "[[nobody|z]]"])
+            to_come = f"n{self.count + self.rng.randint(2, 3)}"
+            return self.rng.choice([f"[x]({to_come}.md)", f"[[{to_come}]]", "[y](../../away.md)", "[[nobody|z]]"])
         target = self.rng.choice(files)
         path = "/" + target.relative_to(self.root).as_posix().replace(" ", "%20")
         title = target.read_text().split("\n")[0][2:]
@@ -101,7 +102,7 @@ class LivingFolder:
         file = self.some_file()
         title = file.read_text().split("\n")[0]
         if sum(p.read_text().split("\n")[0] == title for p in self.files()) < 2:
-            shutil.copy2(file, self.new_place())
+            self.write_text(self.new_place(), file.read_text())
 
     def link_symbolically(self):
         target = self.some_file()

@@ -15,7 +15,10 @@ from notebook_files import NotebookFiles, start_below_comments
 from shown_links import shown_before, shown_by_identifier, shown_by_title, shown_of_file
 
 MANY = 3
-KINDS = ("wiki", "byIdentifier", "waiting", "ambiguous", "anchors", "outside", "files", "nowhere", "left", "within", "as it is")
+KINDS = (
+    "wiki", "byIdentifier", "waiting", "ambiguous", "anchors", "outside", "files", "nowhere", "left", "within",
+    "as it is",
+)
 
 
 @dataclass
@@ -121,7 +124,8 @@ class NotebookPlan:
             return Lead("within" if is_same else "left", note, link)
         if found.note:
             return self._lead_to_note(note, link, found)
-        if link.is_wiki and found.reason == "files" and not self._reads_the_same(note, link, shown_of_file(link, found)):
+        is_file = link.is_wiki and found.reason == "files"
+        if is_file and not self._reads_the_same(note, link, shown_of_file(link, found)):
             return Lead("left", note, link)
         return Lead("waiting" if link.is_wiki and found.reason == "nowhere" else found.reason, note, link)
 
@@ -136,7 +140,8 @@ class NotebookPlan:
         if kind == "wiki" and link.is_in_brackets:
             return Lead("left", note, link)
         makes_marks_text = kind == "wiki" and not link.is_wiki
-        if makes_marks_text and holds_hashtag(link.text) or not self._reads_the_same(note, link, shown, makes_marks_text):
+        loses_tag = makes_marks_text and holds_hashtag(link.text)
+        if loses_tag or not self._reads_the_same(note, link, shown, makes_marks_text):
             return Lead("left", note, link)
         self.count["ambiguous"] += found.is_ambiguous
         self.count["anchors"] += bool(found.anchor)

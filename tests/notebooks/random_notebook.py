@@ -12,13 +12,14 @@ import random
 import unicodedata
 
 STEMS = [
-    "Alpha", "alpha", "Beta note", "Gamma", "Grün", "Ünïcode", "C#", "a#b", "100%", "x%20y", "(draft)", "[x]", "README",
-    "index", "2024-05-01 Lunch", "v1.2.3", "Delta", "Straße", "日本", "e\u0301t\u00e9", "Note, with comma", "under_score",
-    "st*r", "tag #t", "Beta",
+    "Alpha", "alpha", "Beta note", "Gamma", "Grün", "Ünïcode", "C#", "a#b", "100%", "x%20y", "(draft)", "[x]",
+    "README", "index", "2024-05-01 Lunch", "v1.2.3", "Delta", "Straße", "日本", "e\u0301t\u00e9", "Note, with comma",
+    "under_score", "st*r", "tag #t", "Beta",
 ]
 NASTY_STEMS = [
     '"quoted"', "it's", "two\nlines", "trailing ", " leading", "a%2Fb", "#start", "a|b", "[[x]]", "😀 face", "-dash",
-    "..dots", "con", "NUL", "ALPHA", "été", "e\u0301te\u0301", "L" * 260, "é" * 130, "a.md", "back\\slash", "~", "a:b",
+    "..dots", "con", "NUL", "ALPHA", "été", "e\u0301te\u0301", "L" * 260, "é" * 130, "a.md", "back\\slash", "~",
+    "a:b",
     "<angle>", "&amp;", "`code`", "__init__", "a]b[", "%", "%zz", "?", "a?b", "$x$", "1. one", "- item", "2024-13-45",
 ]
 FOLDERS = ["", "", "Sub", "Sub/Deep", "Ordner ü", "a b", "Sub.d"]
@@ -88,7 +89,8 @@ class Notebook:
     def link_symbolically(self):
         rng = self.random
         for _ in range(rng.randint(0, 4)):
-            path = os.path.join(rng.choice(FOLDERS), rng.choice(["ln.md", "Alpha.md", "linked", "0", "zz.txt", "p.png"]))
+            name = rng.choice(["ln.md", "Alpha.md", "linked", "0", "zz.txt", "p.png"])
+            path = os.path.join(rng.choice(FOLDERS), name)
             if path in self.notes or path in self.others:
                 continue
             inside = rng.choice([*self.notes, *FOLDERS, *self.others, path, "no such file.md"])
@@ -119,7 +121,8 @@ class Notebook:
             return "- [ ] do " + self.link(path) + "\n- [x] done"
         if kind < 0.35:
             label = rng.choice(["ref", "other"])
-            return f"see [{rng.choice(['text', 'some words'])}][{label}] and [{label}]\n\n[{label}]: <{self.path_of_link(path)}>"
+            text = rng.choice(["text", "some words"])
+            return f"see [{text}][{label}] and [{label}]\n\n[{label}]: <{self.path_of_link(path)}>"
         return " and ".join(["words", *(self.link(path) for _ in range(rng.randint(1, 3)))])
 
     def target(self):
@@ -148,9 +151,13 @@ class Notebook:
         if kind < 0.45:
             return f"![{rng.choice(['', 'alt'])}]({self.path_of_link(path)})"
         if kind < 0.5:
-            return rng.choice(["<https://example.org/x>", "[web](https://example.org)", "[own](#head)", "[[#head|own]]", "[up](../../out.md)"])
+            return rng.choice([
+                "<https://example.org/x>", "[web](https://example.org)", "[own](#head)", "[[#head|own]]",
+                "[up](../../out.md)",
+            ])
         name = self.target()
-        name = rng.choice([name, str(pathlib.PurePath(name).with_suffix("")), pathlib.PurePath(name).stem, pathlib.PurePath(name).name])
+        whole = pathlib.PurePath(name)
+        name = rng.choice([name, str(whole.with_suffix("")), whole.stem, whole.name])
         name = name.replace("[", "\\[").replace("]", "\\]")
         anchor = rng.choice(["", "", "", "#Head", "#A#B", "#^id"])
         alias = rng.choice(["", "", "|alias", "|*x*"])
@@ -161,10 +168,13 @@ class Notebook:
         return self.random.choice([
             f"<{to}>", f"[angle](<{to}>)", f'[titled]({to} "a title")', f"[titled]({to} 'x')", f"`[code]({to})`",
             f'<a href="{to}">html</a>', f"[collapsed][]\n\n[collapsed]: {to}", f"[full][r 1]\n\n[r 1]: {to} (t)",
-            f"\\[escaped]({to})", f"[a [nested]({to}) b]({to})", f"[tag #t{self.random.randrange(10**9)}]({to})", f"~~[struck]({to})~~",
+            f"\\[escaped]({to})", f"[a [nested]({to}) b]({to})",
+            f"[tag #t{self.random.randrange(10**9)}]({to})", f"~~[struck]({to})~~",
             f"[`code` in](<{to}>)", "[[ Alpha ]]", "[[Alpha|]]", "[[|x]]", "[[#]]", "![[p.png|100x200]]",
-            "[[p.png]]", "[[q r.pdf|the *paper*]]", "[[Alpha#^block|b]]", "[[/Sub/Alpha]]", "[[../Alpha]]", "[[./Alpha]]",
-            "[[a\\|b]]", "![[p.png]](x.md)", "[dead](file:///etc/passwd)", "[](%2e%2e/outside.md)", "[out](/../outside.md)",
+            "[[p.png]]", "[[q r.pdf|the *paper*]]", "[[Alpha#^block|b]]", "[[/Sub/Alpha]]", "[[../Alpha]]",
+            "[[./Alpha]]",
+            "[[a\\|b]]", "![[p.png]](x.md)", "[dead](file:///etc/passwd)", "[](%2e%2e/outside.md)",
+            "[out](/../outside.md)",
             "[mail](mailto:a@example.org)", "[[second]]", "[[Al Alpha|al]]", "[folder](Sub/)", "[folder](.)", "[q](?x)",
         ])
 

@@ -71,6 +71,10 @@ class TarnStore:
         done = subprocess.run(tracer + given, capture_output=True, timeout=120, check=False)
         return done.returncode >= 0 and done.returncode < 128
 
+    def can_be_traced(self):
+        tracer = ["strace", "-f", "-qq", "-o", os.devnull, self.tarn, "--version"]
+        return bool(shutil.which("strace")) and subprocess.run(tracer, capture_output=True, check=False).returncode == 0
+
     def copy(self, folder):
         if self.folder.exists():
             shutil.copytree(self.folder, folder)

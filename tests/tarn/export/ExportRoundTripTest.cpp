@@ -174,6 +174,22 @@ INSTANTIATE_TEST_SUITE_P(Seeds, ExportRoundTrip, testing::Range(1U, 7U));
 
 using ExportAndImport = ExportFixture;
 
+TEST_F(ExportAndImport, TurnsLinksBackWhateverElseTheStoreHolds)
+{
+    note("# Links\n\n[[Shared|x]] [[Trashed|y]]");
+    note("# Shared\n\nactive");
+    output({"archive", note("# Shared\n\nin the archive")});
+    output({"trash", note("# Trashed")});
+    exported({"--links", "files"});
+    EXPECT_EQ(jsonOn(store(), {"import", out().string()}).at("unchanged"), 2);
+    const fs::path all = folder() / "all";
+    output({"export", all.string(), "--all", "--links", "files"});
+    const fs::path other = folder() / "another store";
+    EXPECT_EQ(jsonOn(other, {"import", all.string()}).at("imported"), 4);
+    EXPECT_EQ(jsonOn(other, {"import", all.string()}).at("unchanged"), 4);
+    EXPECT_EQ(jsonOn(other, {"show", "Links"}).at("text"), "# Links\n\n[[Shared|x]] [[Trashed|y]]");
+}
+
 TEST_F(ExportAndImport, GivesEachIdentifierToOneNote)
 {
     note("# A");

@@ -169,6 +169,19 @@ TEST_F(ImportAgain, KeepsNotesOfFilesThatAreGone)
     EXPECT_EQ(countsOf(json({"import", folder() / "in/b.md"})), (Counts{.unchanged = 1, .gone = 1}));
 }
 
+TEST_F(ImportAgain, TellsThatAllFilesOfAFolderAreGone)
+{
+    file("in/a.md", "# A");
+    file("in/b.md", "# B");
+    import();
+    fs::remove(folder() / "in/a.md");
+    fs::remove(folder() / "in/b.md");
+    const TarnResult result = run({"--json", "import", (folder() / "in").string()});
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_EQ(countsOf(nlohmann::json::parse(result.output)), (Counts{.gone = 2}));
+    EXPECT_EQ(count(), 2);
+}
+
 TEST_F(ImportAgain, FollowsAFolderThatHasMoved)
 {
     file("in/a.md", "# A\n\none");
@@ -205,6 +218,18 @@ TEST_F(ImportAgain, TakesATargetsNewTitleForNoEdit)
     EXPECT_EQ(text("A"), "# A\n\n[[New|b]] more");
 }
 
+TEST_F(ImportAgain, TakesATitleThatIsSharedByNowForNoEdit)
+{
+    file("in/a.md", "# A\n\n[b](b.md) [c](c.md)");
+    file("in/b.md", "# B");
+    file("in/c.md", "# C");
+    import();
+    output({"replace", "--whole", "C", "# New"});
+    note("# B\n\nanother");
+    file("in/a.md", "# A\n\n[b](b.md) [c](c.md) more");
+    EXPECT_EQ(countsOf(import()), (Counts{.updated = 1, .unchanged = 2}));
+}
+
 TEST_F(ImportAgain, FollowsTitlesThatNotesTakeFromEachOther)
 {
     file("in/1.md", "# One\n\nfirst");
@@ -219,6 +244,17 @@ TEST_F(ImportAgain, FollowsTitlesThatNotesTakeFromEachOther)
     EXPECT_EQ(text("Links"), "# Links\n\n[[Two|1]] [[One|2]]");
     EXPECT_EQ(text("One"), "# One\n\nsecond [[One|me]]");
     EXPECT_EQ(countsOf(import()), (Counts{.unchanged = 3}));
+}
+
+TEST_F(ImportAgain, LeavesLinksToAFormerTitleThatTheFileSaysNow)
+{
+    file("in/a.md", "# Old\n\ntext");
+    import();
+    const std::string mine = note("# Mine\n\n[[Old]]");
+    file("in/a.md", "# New\n\n[[Old|former]]");
+    EXPECT_EQ(countsOf(import()), (Counts{.updated = 1}));
+    EXPECT_EQ(text("New"), "# New\n\n[[Old|former]]");
+    EXPECT_EQ(text(mine), "# Mine\n\n[[New]]");
 }
 
 TEST_F(ImportAgain, GivesTheTitleThatANoteLeavesToANewOne)

@@ -1,7 +1,6 @@
 #include "tools/tarn/import/ImportBatch.h"
 
 #include "tarnmodel/notes/OVNoteCacheLoan.h"
-#include "tarnmodel/platform/foundation/text/Folding.h"
 #include "tools/tarn/arguments/NoteArgument.h"
 #include "tools/tarn/commandline/DisplayText.h"
 #include "tools/tarn/import/links/LinkComparison.h"
@@ -76,26 +75,21 @@ OVNote* ImportBatch::noteOf(const PlannedFile& planned) const
 
 void ImportBatch::begin(const std::vector<const PlannedFile*>& files)
 {
-    std::unordered_set<std::string> wanted;
     std::vector<OVNote*> retitled;
     for (const PlannedFile* planned : files) {
         OVNote* note = planned->known ? noteOf(*planned) : nullptr;
         const bool isFree = note && obstacleOf(note).empty() && isAsImported(*note, planned->known->text);
         if (isFree)
             asImported_.insert(planned->identifier);
-        if (note && note->title() == planned->title)
-            continue;
-        wanted.insert(fold(planned->title));
-        if (isFree && retitled_.insert(planned->identifier).second)
+        if (isFree && note->title() != planned->title && retitled_.insert(planned->identifier).second)
             retitled.push_back(note);
     }
     if (!import_.writes)
         return;
     for (OVNote* note : retitled) {
-        // No other note is called so.
+        // No other note is called so, and no new text links it by that.
         const std::string aside = "# " + note->uniqueIdentifier().value_or("") + "\n\n";
-        if (wanted.contains(fold(note->title().value_or(""))))
-            note->updateNoteWithText(aside + note->text().value_or(""), false);
+        note->updateNoteWithText(aside + note->text().value_or(""), false);
     }
 }
 

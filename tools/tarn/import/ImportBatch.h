@@ -36,8 +36,8 @@ public:
     ImportBatch(const ImportBatch&) = delete;
     ImportBatch& operator=(const ImportBatch&) = delete;
 
-    /// Before the first is applied: says which notes nobody edited, and takes titles off those whose title another one
-    /// gets, so that links that lead there follow each note to its own.
+    /// Before the first is applied: says which notes nobody edited, and takes the titles off those that get
+    /// another one, so that links follow each note to its own, and none that says a former title from now on.
     void begin(const std::vector<const PlannedFile*>& files);
     /// Whether its note gets another title. Those come first: what they do to links is no change of what files say.
     bool isRetitled(const PlannedFile& planned) const { return retitled_.contains(planned.identifier); }

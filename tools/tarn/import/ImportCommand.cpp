@@ -99,10 +99,13 @@ ImportResult importFiles(const Invocation& invocation, const ImportOptions& opti
     // An import that finds nothing, or was ended before it began, makes no store.
     std::optional<StoreSession> session;
     std::error_code failure;
+    const bool isThere
+        = std::filesystem::exists(OVLocalFileManager::databaseURLInGroupFolder(storeFolderOf(invocation)), failure);
+    const bool isToBe = isThere || !found.files.empty();
     if (options.dryRun) {
-        if (std::filesystem::exists(OVLocalFileManager::databaseURLInGroupFolder(storeFolderOf(invocation)), failure))
+        if (isThere)
             session.emplace(invocation, StoreSession::Access::Read);
-    } else if (!found.files.empty() && !Interruption::requested()) {
+    } else if (isToBe && !Interruption::requested()) {
         session.emplace(invocation, StoreSession::Access::Write);
     }
     Progress progress(options.dryRun ? "Reading" : "Importing", found.files.size());

@@ -327,12 +327,15 @@ void ImportPlan::askStore()
     std::vector<std::string> titles(linkedNames_.all().begin(), linkedNames_.all().end());
     for (PlannedFile& planned : files_) {
         const auto note = stored.find(planned.identifier);
-        if (note != stored.end() && note->second.isTrashed)
-            continue; // nobody links what is in the trash
-        if (note != stored.end() && note->second.getsCopy)
+        const bool isTrashed = note != stored.end() && note->second.isTrashed;
+        if (!isTrashed && note != stored.end() && note->second.getsCopy)
             addTitle(planned.title, "a copy of " + planned.identifier, titles);
         if (note != stored.end() && note->second.keepsTitle)
             planned.title = note->second.title;
+        if (planned.exported)
+            ++exportedTitles_[fold(planned.title)];
+        if (isTrashed)
+            continue; // nobody links what is in the trash
         addTitle(planned.title, planned.identifier, titles);
     }
     storeTitles_.lookUp(titles);
@@ -375,6 +378,12 @@ std::optional<std::string> ImportPlan::onlyNoteOf(const std::string& title)
         only = note;
     }
     return only;
+}
+
+bool ImportPlan::isOnlyExportedTitle(const std::string& title) const
+{
+    const auto known = exportedTitles_.find(fold(title));
+    return known != exportedTitles_.end() && known->second == 1;
 }
 
 bool ImportPlan::hasTitle(const std::string& title)

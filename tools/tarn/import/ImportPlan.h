@@ -85,6 +85,8 @@ public:
 
     /// The note that alone has a title, be it planned or in the store and not in the trash: by identifier.
     std::optional<std::string> onlyNoteOf(const std::string& title);
+    /// Whether one file of an export alone has it, whatever else is in the store and wherever its note is.
+    bool isOnlyExportedTitle(const std::string& title) const;
     /// Whether any has it.
     bool hasTitle(const std::string& title);
 
@@ -131,6 +133,7 @@ private:
     std::vector<std::string> othersOfIndex_;                ///< notes of files that were imported before, by identifier
     std::map<const ImportRoot*, std::shared_ptr<const ImportRoot>> roots_; ///< those of the files, and what is theirs
     std::unordered_map<std::string, std::size_t> conflicts_;               ///< exported files by their group
+    std::unordered_map<std::string, std::size_t> exportedTitles_;          ///< folded; how many exported files have it
     std::unordered_map<std::string, PlannedTitle> plannedTitles_;          ///< by the folded title
     NoteIndex index_{linkedNames_};
 };

@@ -7,7 +7,6 @@
 #include "tools/tarn/import/record/RecordSettling.h"
 
 #include <optional>
-#include <set>
 #include <utility>
 
 namespace tarn {
@@ -80,12 +79,11 @@ void Importer::prepare(const MarkdownFiles& found)
     plan_.emplace(session_, record_ ? &*record_ : nullptr, rules_);
     plan_->make(found.files, [this](const fs::path& path, const TextFileError& error) { fail(path, error); });
     composer_.emplace(*plan_, rules_, tags_, found);
-    std::set<fs::path> roots;
     for (const MarkdownFile& file : found.files) {
-        if (roots.insert(file.root->target).second && record_ && file.root->isWalked)
+        if (record_ && file.root->isWalked)
             record_->addRoot(file.root->target);
     }
-    for (const ImportedSource* source : plan_->goneBelow({roots.begin(), roots.end()}))
+    for (const ImportedSource* source : plan_->goneBelow({found.roots.begin(), found.roots.end()}))
         result_.gone.push_back(source->path);
 }
 

@@ -92,9 +92,10 @@ LinkMeaning TextComposer::Links::ofDestination(const std::string& destination)
         const auto number = composer_.plan_.index().noteAtPath(file.target.native());
         if (auto note = number ? noteOf(*number) : std::nullopt) {
             LinkMeaning meaning{.kind = LinkMeaning::Kind::Note, .note = std::move(*note), .anchor = file.anchor};
-            // An export writes an empty anchor where the link led by identifier.
-            if (composer_.linksAreExported_ && destination.ends_with('#'))
-                meaning.note.isKnownByTitle = false;
+            // An export writes an empty anchor where the link led by identifier; all others led by title.
+            if (composer_.linksAreExported_)
+                meaning.note.isKnownByTitle = !destination.ends_with('#')
+                    && (meaning.note.isKnownByTitle || composer_.plan_.isOnlyExportedTitle(meaning.note.title));
             return meaning;
         }
     }

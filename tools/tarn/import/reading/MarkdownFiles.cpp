@@ -102,6 +102,8 @@ void Walk::begin(const fs::path& path)
         fs::path target = pathWithoutSymbolicLinks(folder.empty() ? fs::path(".") : folder);
         root_ = std::make_shared<const ImportRoot>(ImportRoot{std::move(folder), std::move(target), isFolder});
     }
+    if (fs::exists(path, error))
+        result_.roots.insert(root_->target);
     visit(path);
 }
 

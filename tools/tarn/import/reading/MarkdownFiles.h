@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <memory>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -38,8 +39,9 @@ struct MarkdownFile {
 
 /// What an import finds below the paths that it is given.
 struct MarkdownFiles {
-    std::vector<MarkdownFile> files;  ///< in the order of the paths, each folder's in the order of names
-    std::vector<MarkdownFile> others; ///< files of other kinds, which texts may link; none that is hidden
+    std::vector<MarkdownFile> files;       ///< in the order of the paths, each folder's in the order of names
+    std::vector<MarkdownFile> others;      ///< files of other kinds, which texts may link; none that is hidden
+    std::set<std::filesystem::path> roots; ///< without symbolic links, also those in which nothing was found
     std::vector<SkippedPath> skipped;
     std::vector<PathFailure> failures;
 };

@@ -87,8 +87,10 @@ TextFingerprint TextFingerprint::of(const std::string& text, const Resolver& res
     if (parts.titles.empty())
         return fingerprint;
     fingerprint.body = hashOfBytes(parts.body);
-    for (const std::string& title : parts.titles)
-        fingerprint.links.push_back(resolve(title).value_or(markOfTitle(title)));
+    for (const std::string& title : parts.titles) {
+        const auto note = resolve(title);
+        fingerprint.links.push_back((note ? *note + " " : std::string()) + markOfTitle(title));
+    }
     return fingerprint;
 }
 
@@ -103,7 +105,7 @@ bool TextFingerprint::matches(const std::string& text, const LeadsTo& leadsTo) c
         return false;
     for (std::size_t i = 0; i < links.size(); ++i) {
         const std::string& title = parts.titles[i];
-        if (links[i] != markOfTitle(title) && !leadsTo(title, links[i]))
+        if (!links[i].ends_with(markOfTitle(title)) && !leadsTo(title, links[i].substr(0, links[i].find(' '))))
             return false;
     }
     return true;

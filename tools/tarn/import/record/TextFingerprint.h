@@ -14,9 +14,10 @@ class CVKAST;
 /// Tells whether a text is still the one that an import wrote. A link that follows the new title of its note is no
 /// change.
 struct TextFingerprint {
-    std::string whole;              ///< a hash of the text
-    std::string body;               ///< one of the text without the titles of its wiki links; "" where it has none
-    std::vector<std::string> links; ///< the notes that these lead to, by identifier; a hash of the title where none is
+    std::string whole; ///< a hash of the text
+    std::string body;  ///< one of the text without the titles of its wiki links; "" where it has none
+    /// Of each of these the note to which it leads, by identifier, and a hash of the title; without a note that alone.
+    std::vector<std::string> links;
 
     /// The note that a title leads to, by identifier; none for a title that nobody has.
     using Resolver = std::function<std::optional<std::string>(const std::string& title)>;
