@@ -127,8 +127,8 @@ protected:
 
 TEST_F(DamagedRecordInABackup, IsTakenUpToTheDamage)
 {
-    const std::size_t second = record_.find('\n', record_.find('\n') + 1) + 1;
-    const std::string known = record_.substr(0, second) + "{\"confirmed\":true}\n";
+    const std::size_t first = record_.find("{\"announced\"");
+    const std::string known = record_.substr(0, record_.find('\n', first) + 1) + "{\"confirmed\":true}\n";
     for (const std::string& damage : {std::string("{\"source\":\n"), std::string("no JSON\n"),
              std::string("\xFF\xFE\n"), std::string("\0\0\n", 3), std::string("{\"source\":{\"path\":5}}\n"),
              std::string("{\"source\":[]}\n"), std::string("[]\n"), std::string("{\"source\":{\"path\":\"/x\",\"no"),
