@@ -27,6 +27,10 @@ struct BackupReadOptions {
     std::function<bool(const std::filesystem::path& store, NSError* error)> migrate{};
     /// Whether the restore writes what it saves into the change log; not where the context does so by itself.
     bool recordsChanges = true;
+    /// Called with each companion that is whole, by its name and as a file that is there during the call, when all of
+    /// the backup is in the store for good. It may read the context; what it throws ends the restore. A restore that is
+    /// repeated gives them again. May be empty: they are passed over. On the calling thread.
+    std::function<void(const std::string& name, const std::filesystem::path& file)> takeCompanion{};
 };
 
 /// What was not restored, or not as it was.

@@ -9,8 +9,19 @@
 #include <filesystem>
 #include <functional>
 #include <optional>
+#include <string>
+#include <vector>
 
 namespace tarn {
+
+/// A file of the host's that lies beside the store and says something about its records.
+struct BackupCompanion {
+    std::string name;           ///< in the backup; a name without folders
+    std::filesystem::path file; ///< where it lies; one that is not there is left out
+    /// Called with the copy that goes into the backup, which may be changed. Others may write to the store by then.
+    /// What it throws ends the backup. May be empty. On the calling thread.
+    std::function<void(const std::filesystem::path& copy)> prepare{};
+};
 
 /// How a backup is made.
 struct BackupOptions {
@@ -19,6 +30,9 @@ struct BackupOptions {
     std::function<bool(std::uint64_t done, std::uint64_t total)> progress{};
     /// As in `StoreOptions`.
     std::function<bool(std::chrono::milliseconds)> whileWaiting{};
+    /// Copied while nobody can write to the store, so that they go with what is in the backup of it. Of different
+    /// names.
+    std::vector<BackupCompanion> companions{};
 };
 
 /// Writes a whole store with its attachments into one file: records as they are stored, so that what is protected stays
@@ -36,7 +50,7 @@ public:
 
     /// Writes the backup under another name, reads it back and decodes it, compares each hash, and then gives it its
     /// name: under that there is a whole backup or what was there before. What it holds; none and an error when it
-    /// cannot be made.
+    /// cannot be made. Raises `NSException` for companions whose names are none.
     std::optional<BackupManifest> writeToURL(
         const std::filesystem::path& file, const BackupOptions& options = {}, NSError* error = nullptr);
 

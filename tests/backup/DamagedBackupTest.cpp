@@ -1,15 +1,11 @@
-#include "tests/backup/BackupFixture.h"
+#include "tests/backup/ForgedBackup.h"
 
 #include "tarnmodel/backup/archive/ArchiveReader.h"
-#include "tarnmodel/backup/archive/ArchiveWriter.h"
-#include "tarnmodel/backup/archive/BackupHash.h"
 #include "tarnmodel/backup/archive/ManifestText.h"
-#include "tarnmodel/platform/foundation/filesystem/FileDescriptorInternal.h"
 
 #include <archive.h>
 #include <archive_entry.h>
 
-#include <fcntl.h>
 #include <sys/resource.h>
 
 namespace tarn {
@@ -19,43 +15,9 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
 
-std::string hashOf(std::string_view bytes)
-{
-    BackupHash hash;
-    hash.add(std::as_bytes(std::span(bytes)));
-    return hash.hexadecimal();
-}
-
 /// Archives that nobody makes by accident.
-class DamagedBackup : public BackupFixture {
+class DamagedBackup : public ForgedBackup {
 protected:
-    using Members = std::vector<std::pair<std::string, std::string>>;
-
-    static BackupManifest manifestOf(const Members& members)
-    {
-        BackupManifest manifest;
-        manifest.modelVersion = "Model 3";
-        manifest.storeUUID = "STORE";
-        for (const auto& [name, bytes] : members)
-            manifest.members.push_back({name, bytes.size(), hashOf(bytes)});
-        return manifest;
-    }
-    void writeArchive(const std::string& manifest, const Members& members) const
-    {
-        const FileDescriptor descriptor(::open(archive().c_str(), O_RDWR | O_CREAT | O_TRUNC, 0600));
-        ArchiveWriter writer(descriptor.get(), archive(), NSDate(), ArchiveWriter::Names::Ascii);
-        const auto add = [&](const std::string& name, std::string_view bytes) {
-            writer.addMember(
-                name, bytes.size(), [&](const ArchiveWriter::Sink& sink) { sink(std::as_bytes(std::span(bytes))); });
-        };
-        add("manifest.json", manifest);
-        for (const auto& [name, bytes] : members)
-            add(name, bytes);
-        BackupHash hash;
-        hash.add(std::as_bytes(std::span(manifest)));
-        writer.finish(manifest.size(), hash.digest());
-    }
-    void writeArchive(const Members& members) const { writeArchive(textOfManifest(manifestOf(members)), members); }
     /// What the store holds after it refused the archive: nothing.
     NSError refusal(const BackupReadOptions& options = {})
     {
@@ -126,14 +88,7 @@ TEST_F(DamagedBackup, GivesWhatIsWholeAndNamesTheRest)
     save();
     backUp();
     // The same archive, in which the bytes of one attachment are others than its list says.
-    ArchiveReader reader(archive());
-    Members members;
-    while (const auto member = reader.next()) {
-        std::string bytes;
-        for (auto piece = reader.read(); !piece.empty(); piece = reader.read())
-            bytes.append(reinterpret_cast<const char*>(piece.data()), piece.size());
-        members.emplace_back(member->name, bytes);
-    }
+    Members members = membersOfArchive();
     const std::string manifest = members.front().second;
     members.erase(members.begin());
     for (auto& [name, bytes] : members)
@@ -151,6 +106,25 @@ TEST_F(DamagedBackup, GivesWhatIsWholeAndNamesTheRest)
     ASSERT_EQ(restoration.skipped.size(), 2U);
     EXPECT_EQ(restoration.skipped.front().title, "files/" + first + "/a.txt");
     EXPECT_EQ(restoration.skipped.back().title, "a.txt");
+}
+
+TEST_F(DamagedBackup, OfSomeRecordsGivesThoseBehindThem)
+{
+    const auto recordOf = [](int number, const std::string& key) {
+        return "{\"number\": " + std::to_string(number) + ", \"attributes\": {\"uniqueIdentifier\": \"" + key
+            + "\", \"title\": \"" + key + "\"}, \"relationships\": {}}\n";
+    };
+    Members members{{"records/OVNoteTag.jsonl", recordOf(1, "tag")}, {"records/OVNote.jsonl", recordOf(1, "Note")}};
+    const std::string manifest = textOfManifest(manifestOf(members));
+    members.front().second.back() = ' ';
+    writeArchive(manifest, members);
+    BackupReadOptions salvaging;
+    salvaging.salvages = true;
+    const BackupRestoration restoration = restore(otherStore(), salvaging);
+    EXPECT_EQ(restoration.restored, 1U);
+    EXPECT_EQ(restoration.damaged, 1U);
+    EXPECT_EQ(restoration.skipped.front().title, "records/OVNoteTag.jsonl");
+    EXPECT_EQ(noteOf(otherStore().context(), "Note").uniqueIdentifier(), "Note");
 }
 
 TEST_F(DamagedBackup, LosesOnlyWhatLiesBehindACut)

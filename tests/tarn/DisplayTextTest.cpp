@@ -1,4 +1,4 @@
-#include "tools/tarn/DisplayText.h"
+#include "tools/tarn/commandline/DisplayText.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 // `tarn edit --create`, with editors that are scripts.
 
 #include "tests/tarn/TarnCommandTest.h"
-#include "tools/tarn/CommandFailure.h"
-#include "tools/tarn/TitledText.h"
+#include "tools/tarn/commandline/CommandFailure.h"
+#include "tools/tarn/files/TitledText.h"
 
 #include "tarnmodel/corvel/CVKAST.h"
 

@@ -6,6 +6,8 @@
 #include <gmock/gmock.h>
 
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <string>
 #include <vector>
 
@@ -22,9 +24,25 @@ protected:
         output({"attach", "Pears", file("bild ü.txt", "the bytes").string(), file("b.txt", "more").string()});
         for (int index = 0; index < 20; ++index)
             note("# Note " + std::to_string(index) + "\n\n[[Pears]] #some");
+        for (const char* name : {"one", "two", "three"})
+            file("in/" + std::string(name) + ".md", "# " + std::string(name));
+        file("more/four.md", "# four");
+        output({"import", (folder() / "in").string()});
     }
 
     fs::path backup() const { return folder() / "all.tarnbackup"; }
+    static fs::path recordOf(const fs::path& store) { return store / "Application Data" / "database.imports.jsonl"; }
+    static std::string bytesOf(const fs::path& path)
+    {
+        std::ifstream stream(path, std::ios::binary);
+        return {std::istreambuf_iterator<char>(stream), {}};
+    }
+    /// How many files of a folder an import finds unchanged.
+    int unchangedIn(const fs::path& store, const std::string& name) const
+    {
+        const TarnResult result = runIn(store, {"--json", "import", (folder() / name).string()});
+        return nlohmann::json::parse(result.output, nullptr, false).value("unchanged", -1);
+    }
     std::string contentsOf(const fs::path& store) const
     {
         std::string contents;
@@ -79,8 +97,41 @@ TEST_P(KilledBackup, IsRestoredByTheNextRun)
         EXPECT_EQ(contentsOf(target), expected) << time;
         const TarnResult examination = runIn(target, {"doctor"});
         EXPECT_EQ(examination.exitCode, 0) << time << examination.output;
+        EXPECT_EQ(bytesOf(recordOf(target)), bytesOf(recordOf(whole))) << time;
+        EXPECT_EQ(unchangedIn(target, "in"), 3) << time;
     }
     EXPECT_GE(deaths, GetParam().deaths);
+}
+
+TEST_P(KilledBackup, LeavesTheFormerRecordOfImportsOrTheMergedOne)
+{
+    if (!canBeTraced())
+        GTEST_SKIP() << "this system does not let one process look at another";
+    ASSERT_EQ(run({"backup", backup().string()}).exitCode, 0);
+    const fs::path own = folder() / "own";
+    ASSERT_EQ(runIn(own, {"import", (folder() / "more").string()}).exitCode, 0);
+    const std::string former = bytesOf(recordOf(own));
+    const fs::path whole = folder() / "whole";
+    fs::copy(own, whole, fs::copy_options::recursive);
+    ASSERT_EQ(runIn(whole, {"restore-backup", backup().string()}).exitCode, 0);
+    const std::string merged = bytesOf(recordOf(whole));
+    ASSERT_NE(merged, former);
+    const int stride = GetParam().call == "fsync" ? 1 : GetParam().stride;
+    int deaths = 0;
+    bool isDone = false;
+    for (int time = 1; !isDone && !HasFailure(); time += stride) {
+        const fs::path target = folder() / ("target " + std::to_string(time));
+        fs::copy(own, target, fs::copy_options::recursive);
+        isDone = comesToItsEnd(time, target, "restore-backup '" + backup().string() + "'");
+        deaths += !isDone;
+        const std::string record = bytesOf(recordOf(target));
+        EXPECT_TRUE(record == merged || (!isDone && record == former)) << time << record;
+        EXPECT_EQ(runIn(target, {"restore-backup", backup().string()}).exitCode, 0) << time;
+        EXPECT_EQ(bytesOf(recordOf(target)), merged) << time;
+        EXPECT_EQ(unchangedIn(target, "in"), 3) << time;
+        EXPECT_EQ(unchangedIn(target, "more"), 1) << time;
+    }
+    EXPECT_GE(deaths, 1);
 }
 
 INSTANTIATE_TEST_SUITE_P(Calls, KilledBackup,

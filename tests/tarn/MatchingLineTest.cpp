@@ -1,6 +1,6 @@
-#include "tools/tarn/MatchingLine.h"
+#include "tools/tarn/listing/MatchingLine.h"
 
-#include "tools/tarn/DisplayText.h"
+#include "tools/tarn/commandline/DisplayText.h"
 
 #include <gtest/gtest.h>
 

@@ -288,7 +288,7 @@ TEST_F(NoteCommands, SearchShowsTheFirstMatchingLineAndCounts)
     EXPECT_EQ(run({"search", "--count", "drei"}).exitCode, 1);
     const auto document = nlohmann::ordered_json::parse(run({"--json", "search", "zwei"}).output);
     EXPECT_EQ(keysOf(document),
-        (std::vector<std::string>{"count", "notes", "predicate", "highlight", "editorTerm", "hints"}));
+        (std::vector<std::string>{"count", "notes", "total", "predicate", "highlight", "editorTerm", "hints"}));
     const std::string explained = output({"search", "--explain", "zwei"});
     EXPECT_NE(explained.find("SELECT"), std::string::npos) << explained;
 }

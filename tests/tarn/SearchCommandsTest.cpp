@@ -73,12 +73,15 @@ TEST_F(SearchCommands, PrintWhatAnApplicationNeeds)
     const auto document = nlohmann::ordered_json::parse(
         output({"--json", "search", "--limit", "1", "apple -pear \"big red\" #fruit or apples"}));
     EXPECT_EQ(keysOf(document),
-        (std::vector<std::string>{"count", "notes", "predicate", "highlight", "editorTerm", "hints"}));
+        (std::vector<std::string>{"count", "notes", "total", "predicate", "highlight", "editorTerm", "hints"}));
+    EXPECT_EQ(document.at("count"), 1);
+    EXPECT_EQ(document.at("total"), 2);
     EXPECT_EQ(document.at("highlight"), "(big red)|(#fruit)|(apple)|(apples)");
     EXPECT_EQ(document.at("editorTerm"), "apple");
     const auto explained = nlohmann::ordered_json::parse(output({"--json", "search", "--explain", "apple"}));
     EXPECT_EQ(keysOf(explained),
-        (std::vector<std::string>{"count", "notes", "predicate", "highlight", "editorTerm", "plan", "times", "hints"}));
+        (std::vector<std::string>{
+            "count", "notes", "total", "predicate", "highlight", "editorTerm", "plan", "times", "hints"}));
     EXPECT_EQ(keysOf(explained.at("times")), (std::vector<std::string>{"compileMilliseconds", "fetchMilliseconds"}));
     const std::string text = output({"search", "--explain", "apple"});
     EXPECT_NE(text.find("title CONTAINS[cd] \"apple\""), std::string::npos) << text;

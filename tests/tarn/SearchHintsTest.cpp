@@ -1,8 +1,8 @@
 // What `tarn search` tells of words that look like terms and are none, and of names that are near.
 
-#include "tools/tarn/SearchHints.h"
+#include "tools/tarn/listing/SearchHints.h"
 #include "tests/tarn/TarnCommandTest.h"
-#include "tools/tarn/SpellingDistance.h"
+#include "tools/tarn/listing/SpellingDistance.h"
 
 namespace tarn::test {
 

@@ -1,9 +1,9 @@
 #include "tarnmodel/platform/foundation/system/Log.h"
-#include "tools/tarn/CommandLine.h"
-#include "tools/tarn/Commands.h"
-#include "tools/tarn/Interruption.h"
-#include "tools/tarn/MemoryShortage.h"
-#include "tools/tarn/StandardStreams.h"
+#include "tools/tarn/commandline/CommandLine.h"
+#include "tools/tarn/commandline/Interruption.h"
+#include "tools/tarn/commandline/MemoryShortage.h"
+#include "tools/tarn/commandline/StandardStreams.h"
+#include "tools/tarn/commands/Commands.h"
 
 #include <unistd.h>
 

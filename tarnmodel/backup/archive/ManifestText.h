@@ -14,6 +14,7 @@ inline constexpr int kBackupFormat = 1;
 inline constexpr std::string_view kManifestName = "manifest.json";
 inline constexpr std::string_view kRecordFolder = "records/";
 inline constexpr std::string_view kRecordExtension = ".jsonl";
+inline constexpr std::string_view kCompanionFolder = "companions/";
 inline constexpr std::string_view kFileFolder = "files/";
 
 /// The manifest as JSON, UTF-8.

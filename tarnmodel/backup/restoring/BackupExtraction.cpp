@@ -2,6 +2,7 @@
 
 #include "tarnmodel/backup/BackupFailureInternal.h"
 #include "tarnmodel/backup/archive/ManifestText.h"
+#include "tarnmodel/backup/archive/MemberName.h"
 #include "tarnmodel/platform/foundation/filesystem/NSFileManager.h"
 
 #include <algorithm>
@@ -13,25 +14,6 @@ namespace tarn {
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr std::size_t kLongestName = 255;
-
-std::vector<std::string> componentsOf(std::string_view name)
-{
-    std::vector<std::string> components;
-    for (std::size_t end = name.find('/'); end != std::string_view::npos; end = name.find('/')) {
-        components.emplace_back(name.substr(0, end));
-        name.remove_prefix(end + 1);
-    }
-    components.emplace_back(name);
-    return components;
-}
-
-bool isNameInFolder(const std::string& component)
-{
-    return !component.empty() && component != "." && component != ".." && component.size() <= kLongestName
-        && component.find('\0') == std::string::npos;
-}
 
 [[noreturn]] void refuse(const std::string& name)
 {
@@ -57,16 +39,23 @@ std::optional<fs::path> BackupExtraction::itemOfFile(std::string_view uniqueIden
 std::optional<fs::path> BackupExtraction::placeOfMember(const std::string& name)
 {
     const bool isFolder = name.ends_with('/');
-    const auto components = componentsOf(isFolder ? std::string_view(name).substr(0, name.size() - 1) : name);
+    const auto components = componentsOfMemberName(isFolder ? std::string_view(name).substr(0, name.size() - 1) : name);
     if (!std::ranges::all_of(components, isNameInFolder))
         refuse(name);
     if (components.size() >= 3 && components[0] + "/" == kFileFolder)
         return placeInItem(components);
+    if (components.size() == 2 && components[0] + "/" == kCompanionFolder && !isFolder)
+        return companions_[components[1]] = nextPlace("companion");
     if (components.size() != 2 || components[0] + "/" != kRecordFolder || !components[1].ends_with(kRecordExtension)
         || isFolder)
         refuse(name);
     const std::string entity = components[1].substr(0, components[1].size() - kRecordExtension.size());
-    return records_[entity] = folder_ / ("records" + std::to_string(records_.size()));
+    return records_[entity] = nextPlace("records");
+}
+
+fs::path BackupExtraction::nextPlace(std::string_view kind)
+{
+    return folder_ / (std::string(kind) + std::to_string(placeCount_++));
 }
 
 std::optional<fs::path> BackupExtraction::placeInItem(const std::vector<std::string>& components)
@@ -74,7 +63,7 @@ std::optional<fs::path> BackupExtraction::placeInItem(const std::vector<std::str
     const auto [found, isNew] = items_.try_emplace(components[1]);
     Item& item = found->second;
     if (isNew)
-        item = {components[2], folder_ / ("file" + std::to_string(items_.size())), true};
+        item = {components[2], nextPlace("file"), true};
     else if (item.name != components[2])
         refuse(kFileFolder.data() + components[1] + "/" + components[2]);
     fs::path place = item.place;
@@ -113,9 +102,11 @@ void BackupExtraction::end(bool isWhole)
     writer_.reset();
     if (isWhole)
         return;
-    const auto components = componentsOf(memberName_);
+    const auto components = componentsOfMemberName(memberName_);
     if (components[0] + "/" == kFileFolder)
         items_[components[1]].isWhole = false;
+    else if (components[0] + "/" == kCompanionFolder)
+        companions_.erase(components[1]);
     else
         records_.erase(components[1].substr(0, components[1].size() - kRecordExtension.size()));
 }

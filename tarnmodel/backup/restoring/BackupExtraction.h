@@ -3,6 +3,7 @@
 #include "tarnmodel/backup/archive/ArchiveContents.h"
 #include "tarnmodel/backup/archive/StagedFile.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <filesystem>
 #include <map>
@@ -24,6 +25,9 @@ public:
     /// The file, or folder, of an attachment; none when it is not in the archive, or not whole.
     std::optional<std::filesystem::path> itemOfFile(std::string_view uniqueIdentifier) const;
 
+    /// The host's files that are whole, by name.
+    const std::map<std::string, std::filesystem::path>& companions() const noexcept { return companions_; }
+
     bool begin(const BackupManifest::Member& member) override;
     void take(std::span<const std::byte> bytes) override;
     void end(bool isWhole) override;
@@ -38,9 +42,14 @@ private:
     std::optional<std::filesystem::path> placeOfMember(const std::string& name);
     std::optional<std::filesystem::path> placeInItem(const std::vector<std::string>& components);
 
+    /// Which nothing has, nor had where it turned out to be damaged.
+    std::filesystem::path nextPlace(std::string_view kind);
+
     std::filesystem::path folder_;
+    std::size_t placeCount_ = 0;
     std::map<std::string, std::filesystem::path> records_; ///< by entity
     std::map<std::string, Item, std::less<>> items_;       ///< by the identifier of the attachment
+    std::map<std::string, std::filesystem::path> companions_;
     std::optional<StagedWriter> writer_;
     std::string memberName_;
 };

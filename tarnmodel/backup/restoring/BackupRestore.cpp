@@ -139,7 +139,17 @@ private:
         merge.run();
         if (merge.hasWritten() || mark.isResumed())
             beginLogAnew();
+        giveCompanions(extraction);
         mark.set("");
+    }
+
+    /// While the store still knows of the restore: who dies here repeats it.
+    void giveCompanions(const BackupExtraction& extraction) const
+    {
+        if (!options_.takeCompanion)
+            return;
+        for (const auto& [name, file] : extraction.companions())
+            options_.takeCompanion(name, file);
     }
 
     /// What an engine has dealt with so far says nothing about the store any more.

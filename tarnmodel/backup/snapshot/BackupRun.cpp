@@ -78,6 +78,7 @@ void BackupRun::takeSnapshot(const fs::path& store)
     const auto takeFiles = [&] {
         try {
             files_.emplace(scratch_.url() / "files", manifest_.storeUUID);
+            companions_.emplace(scratch_.url() / "companions", options_.companions);
             return true;
         } catch (const BackupFailure& caught) {
             failure = caught;
@@ -98,6 +99,7 @@ void BackupRun::takeSnapshot(const fs::path& store)
 
 BackupManifest BackupRun::run()
 {
+    stageCompanions();
     writeRecords();
     hashFiles();
     manifestText_ = textOfManifest(manifest_);
@@ -161,6 +163,18 @@ void BackupRun::writeRecordsOf(const NSEntityDescription& entity, NSManagedObjec
     manifest_.recordCounts[entity.name()] = count;
     if (count > 0)
         stage(writer.url(), std::string(kRecordFolder) + entity.name() + std::string(kRecordExtension), writer.size());
+}
+
+/// Before the files, so that they lie before them in the archive: what is behind a damaged place cannot be had.
+void BackupRun::stageCompanions()
+{
+    for (const auto& [companion, copy] : companions_->copies()) {
+        if (companion->prepare)
+            companion->prepare(copy);
+        std::error_code failure;
+        const std::uint64_t size = fs::file_size(copy, failure);
+        stage(copy, std::string(kCompanionFolder) + companion->name, failure ? 0 : size);
+    }
 }
 
 // Files ---------------------------------------------------------------------------------------------------------------

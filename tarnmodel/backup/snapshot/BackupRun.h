@@ -4,6 +4,7 @@
 #include "tarnmodel/backup/StoreBackup.h"
 #include "tarnmodel/backup/archive/BackupHash.h"
 #include "tarnmodel/backup/archive/BackupScratch.h"
+#include "tarnmodel/backup/snapshot/CompanionSnapshot.h"
 #include "tarnmodel/backup/snapshot/FileSnapshot.h"
 
 #include <cstdint>
@@ -32,6 +33,7 @@ public:
 private:
     void findModel(const std::filesystem::path& store);
     void takeSnapshot(const std::filesystem::path& store);
+    void stageCompanions();
     void writeRecords();
     void writeRecordsOf(const NSEntityDescription& entity, NSManagedObjectContext& context);
     void noteFileOf(const NSManagedObject& record);
@@ -47,6 +49,7 @@ private:
     BackupScratch scratch_;
     std::shared_ptr<NSManagedObjectModel> model_;
     std::optional<FileSnapshot> files_;
+    std::optional<CompanionSnapshot> companions_;
     BackupManifest manifest_;
     std::vector<std::filesystem::path> staged_; ///< the file of each member of the manifest
     std::string manifestText_;

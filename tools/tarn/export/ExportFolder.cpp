@@ -3,9 +3,9 @@
 #include "tarnmodel/platform/foundation/filesystem/NSFileManager.h"
 #include "tarnmodel/platform/foundation/values/NSData.h"
 #include "tarnmodel/platform/foundation/values/NSError.h"
-#include "tools/tarn/CommandFailure.h"
-#include "tools/tarn/DisplayText.h"
-#include "tools/tarn/import/TextFingerprint.h"
+#include "tools/tarn/commandline/CommandFailure.h"
+#include "tools/tarn/commandline/DisplayText.h"
+#include "tools/tarn/import/record/TextFingerprint.h"
 
 #include <cerrno>
 #include <system_error>

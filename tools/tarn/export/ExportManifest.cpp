@@ -1,8 +1,8 @@
 #include "tools/tarn/export/ExportManifest.h"
 
-#include "tools/tarn/CommandFailure.h"
-#include "tools/tarn/DurableFile.h"
-#include "tools/tarn/JSON.h"
+#include "tools/tarn/commandline/CommandFailure.h"
+#include "tools/tarn/commandline/JSON.h"
+#include "tools/tarn/files/DurableFile.h"
 
 #include <algorithm>
 #include <iterator>

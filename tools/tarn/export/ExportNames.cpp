@@ -4,7 +4,7 @@
 #include "tarnmodel/platform/foundation/text/Folding.h"
 #include "tarnmodel/platform/foundation/text/Normalization.h"
 #include "tarnmodel/platform/foundation/text/UTF.h"
-#include "tools/tarn/import/ExportedFiles.h"
+#include "tools/tarn/import/reading/ExportedFiles.h"
 
 #include <algorithm>
 #include <array>

@@ -4,7 +4,7 @@
 #include "tarnmodel/platform/foundation/values/NSDate.h"
 #include "tools/tarn/export/ExportManifest.h"
 #include "tools/tarn/export/ExportNames.h"
-#include "tools/tarn/import/ImportRecord.h"
+#include "tools/tarn/import/record/ImportRecord.h"
 
 #include <cstddef>
 #include <filesystem>

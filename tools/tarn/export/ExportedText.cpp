@@ -5,11 +5,11 @@
 #include "tarnmodel/model/OVNoteBackLink.h"
 #include "tarnmodel/model/OVNoteFile.h"
 #include "tarnmodel/platform/foundation/text/PercentEncoding.h"
-#include "tools/tarn/AttachmentLinks.h"
-#include "tools/tarn/JSON.h"
-#include "tools/tarn/import/ExportedFiles.h"
-#include "tools/tarn/import/LinkComparison.h"
-#include "tools/tarn/import/LinkText.h"
+#include "tools/tarn/commandline/JSON.h"
+#include "tools/tarn/files/AttachmentLinks.h"
+#include "tools/tarn/import/links/LinkComparison.h"
+#include "tools/tarn/import/links/LinkText.h"
+#include "tools/tarn/import/reading/ExportedFiles.h"
 
 #include <algorithm>
 #include <optional>

@@ -2,10 +2,10 @@
 
 #include "tarnmodel/model/OVNoteFile.h"
 #include "tarnmodel/platform/foundation/values/NSException.h"
-#include "tools/tarn/AttachmentLinks.h"
-#include "tools/tarn/FileList.h"
-#include "tools/tarn/import/ExportedFiles.h"
-#include "tools/tarn/import/TextFingerprint.h"
+#include "tools/tarn/files/AttachmentLinks.h"
+#include "tools/tarn/files/FileList.h"
+#include "tools/tarn/import/reading/ExportedFiles.h"
+#include "tools/tarn/import/record/TextFingerprint.h"
 
 #include <algorithm>
 #include <set>

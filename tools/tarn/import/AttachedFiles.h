@@ -25,7 +25,7 @@ public:
 
 private:
     std::optional<std::string> text(const ComposedNote& composed, OVNote& note, bool attaches);
-    std::optional<std::string> nameOfAttached(const LinkedFile& file, OVNote& note, bool attaches, bool isExported);
+    OVNoteFile* attachedFile(const LinkedFile& file, OVNote& note, bool isExported);
 
     ImportResult& result_;
 };

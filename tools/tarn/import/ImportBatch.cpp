@@ -1,9 +1,9 @@
 #include "tools/tarn/import/ImportBatch.h"
 
 #include "tarnmodel/notes/OVNoteCacheLoan.h"
-#include "tools/tarn/DisplayText.h"
-#include "tools/tarn/NoteArgument.h"
-#include "tools/tarn/import/RecordSettling.h"
+#include "tools/tarn/arguments/NoteArgument.h"
+#include "tools/tarn/commandline/DisplayText.h"
+#include "tools/tarn/import/record/RecordSettling.h"
 
 #include <algorithm>
 #include <utility>

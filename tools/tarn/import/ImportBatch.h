@@ -2,13 +2,13 @@
 
 #include "tarnmodel/model/OVNote.h"
 #include "tarnmodel/model/OVNoteCaches.h"
-#include "tools/tarn/StoreSession.h"
 #include "tools/tarn/import/AttachedFiles.h"
 #include "tools/tarn/import/ImportPlan.h"
-#include "tools/tarn/import/ImportRecord.h"
 #include "tools/tarn/import/ImportResult.h"
 #include "tools/tarn/import/StoreTitles.h"
 #include "tools/tarn/import/TextComposer.h"
+#include "tools/tarn/import/record/ImportRecord.h"
+#include "tools/tarn/session/StoreSession.h"
 
 #include <functional>
 #include <optional>

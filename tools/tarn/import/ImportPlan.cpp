@@ -5,11 +5,11 @@
 #include "tarnmodel/platform/foundation/text/Folding.h"
 #include "tarnmodel/platform/foundation/text/Normalization.h"
 #include "tarnmodel/platform/foundation/text/UTF.h"
-#include "tools/tarn/Interruption.h"
-#include "tools/tarn/StoreSession.h"
-#include "tools/tarn/TextFile.h"
-#include "tools/tarn/import/RecordSettling.h"
-#include "tools/tarn/import/SourceText.h"
+#include "tools/tarn/commandline/Interruption.h"
+#include "tools/tarn/files/TextFile.h"
+#include "tools/tarn/import/reading/SourceText.h"
+#include "tools/tarn/import/record/RecordSettling.h"
+#include "tools/tarn/session/StoreSession.h"
 
 #include <algorithm>
 #include <iterator>
@@ -145,27 +145,32 @@ void ImportPlan::recognise()
         if (const ImportedSource* known = record_->sourceAtPath(planned.path))
             planned.known = std::make_unique<const ImportedSource>(*known);
     }
+    std::unordered_map<std::string_view, const ImportedSource*> goneByBytes; // each looked at once
     for (PlannedFile& planned : files_) {
-        if (!planned.known)
-            recogniseMoved(planned);
+        if (planned.known)
+            continue;
+        const auto [gone, isNew] = goneByBytes.try_emplace(planned.bytes);
+        if (isNew)
+            gone->second = onlyGoneFileOf(planned.bytes);
+        if (!gone->second || !movedFrom_.insert(gone->second->path).second)
+            continue;
+        planned.known = std::make_unique<const ImportedSource>(*gone->second);
+        planned.hasMoved = true;
     }
 }
 
 /// A file of the same bytes as one that is not there any more is that one, where it can be no other.
-void ImportPlan::recogniseMoved(PlannedFile& planned)
+const ImportedSource* ImportPlan::onlyGoneFileOf(const std::string& bytes) const
 {
-    const ImportedSource* candidate = nullptr;
-    for (const ImportedSource* source : record_->sourcesOfBytes(planned.bytes)) {
+    const ImportedSource* only = nullptr;
+    for (const ImportedSource* source : record_->sourcesOfBytes(bytes)) {
         if (isThere(source->path))
             continue;
-        if (candidate)
-            return;
-        candidate = source;
+        if (only)
+            return nullptr;
+        only = source;
     }
-    if (!candidate || !movedFrom_.insert(candidate->path).second)
-        return;
-    planned.known = std::make_unique<const ImportedSource>(*candidate);
-    planned.hasMoved = true;
+    return only;
 }
 
 void ImportPlan::decideTitles()

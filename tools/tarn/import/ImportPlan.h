@@ -1,11 +1,11 @@
 #pragma once
 
 #include "tarnmodel/platform/foundation/values/NSDate.h"
-#include "tools/tarn/import/ImportRecord.h"
-#include "tools/tarn/import/MarkdownFiles.h"
-#include "tools/tarn/import/NoteIndex.h"
 #include "tools/tarn/import/StoreTitles.h"
-#include "tools/tarn/import/TitleRules.h"
+#include "tools/tarn/import/links/NoteIndex.h"
+#include "tools/tarn/import/reading/MarkdownFiles.h"
+#include "tools/tarn/import/record/ImportRecord.h"
+#include "tools/tarn/import/titles/TitleRules.h"
 
 #include <cstddef>
 #include <filesystem>
@@ -90,7 +90,7 @@ private:
     void putInOrder();
     void countHeadings();
     void recognise();
-    void recogniseMoved(PlannedFile& planned);
+    const ImportedSource* onlyGoneFileOf(const std::string& bytes) const;
     void decideTitles();
     void tellTitlesApart();
     static void tellApart(const std::vector<PlannedFile*>& files);

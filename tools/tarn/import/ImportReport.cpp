@@ -1,8 +1,8 @@
 #include "tools/tarn/import/ImportReport.h"
 
 #include "tarnmodel/platform/foundation/text/UTF.h"
-#include "tools/tarn/CommandLine.h"
-#include "tools/tarn/DisplayText.h"
+#include "tools/tarn/commandline/CommandLine.h"
+#include "tools/tarn/commandline/DisplayText.h"
 
 #include <algorithm>
 #include <array>

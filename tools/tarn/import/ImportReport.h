@@ -1,8 +1,8 @@
 #pragma once
 
-#include "tools/tarn/JSON.h"
+#include "tools/tarn/commandline/JSON.h"
 #include "tools/tarn/import/ImportResult.h"
-#include "tools/tarn/import/MarkdownFiles.h"
+#include "tools/tarn/import/reading/MarkdownFiles.h"
 
 #include <string>
 #include <vector>

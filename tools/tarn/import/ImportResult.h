@@ -1,8 +1,8 @@
 #pragma once
 
-#include "tools/tarn/ExitCode.h"
-#include "tools/tarn/import/LinkRewriting.h"
-#include "tools/tarn/import/MarkdownFiles.h"
+#include "tools/tarn/commandline/ExitCode.h"
+#include "tools/tarn/import/links/LinkRewriting.h"
+#include "tools/tarn/import/reading/MarkdownFiles.h"
 
 #include <cstddef>
 #include <filesystem>

@@ -1,10 +1,10 @@
 #include "tools/tarn/import/Importer.h"
 
-#include "tools/tarn/CommandFailure.h"
-#include "tools/tarn/Interruption.h"
-#include "tools/tarn/TextFile.h"
+#include "tools/tarn/commandline/CommandFailure.h"
+#include "tools/tarn/commandline/Interruption.h"
+#include "tools/tarn/files/TextFile.h"
 #include "tools/tarn/import/ImportBatch.h"
-#include "tools/tarn/import/RecordSettling.h"
+#include "tools/tarn/import/record/RecordSettling.h"
 
 #include <optional>
 #include <utility>

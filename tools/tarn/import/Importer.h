@@ -1,12 +1,12 @@
 #pragma once
 
-#include "tools/tarn/StoreSession.h"
 #include "tools/tarn/import/ImportBatch.h"
 #include "tools/tarn/import/ImportPlan.h"
-#include "tools/tarn/import/ImportRecord.h"
 #include "tools/tarn/import/ImportResult.h"
-#include "tools/tarn/import/MarkdownFiles.h"
 #include "tools/tarn/import/TextComposer.h"
+#include "tools/tarn/import/reading/MarkdownFiles.h"
+#include "tools/tarn/import/record/ImportRecord.h"
+#include "tools/tarn/session/StoreSession.h"
 
 #include <cstddef>
 #include <filesystem>

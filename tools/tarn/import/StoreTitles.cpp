@@ -1,7 +1,7 @@
 #include "tools/tarn/import/StoreTitles.h"
 
 #include "tarnmodel/platform/foundation/text/Folding.h"
-#include "tools/tarn/StoreSession.h"
+#include "tools/tarn/session/StoreSession.h"
 
 #include <algorithm>
 

@@ -5,8 +5,8 @@
 #include "tarnmodel/model/OVNote.h"
 #include "tarnmodel/platform/foundation/text/Normalization.h"
 #include "tarnmodel/platform/foundation/text/UTF.h"
-#include "tools/tarn/TextFile.h"
-#include "tools/tarn/import/ExportedFiles.h"
+#include "tools/tarn/files/TextFile.h"
+#include "tools/tarn/import/reading/ExportedFiles.h"
 
 #include <array>
 #include <system_error>

@@ -2,9 +2,9 @@
 
 #include "tarnmodel/platform/foundation/values/NSDate.h"
 #include "tools/tarn/import/ImportPlan.h"
-#include "tools/tarn/import/LinkRewriting.h"
-#include "tools/tarn/import/LinkedFiles.h"
-#include "tools/tarn/import/SourceText.h"
+#include "tools/tarn/import/links/LinkRewriting.h"
+#include "tools/tarn/import/links/LinkedFiles.h"
+#include "tools/tarn/import/reading/SourceText.h"
 
 #include <cstddef>
 #include <filesystem>
