@@ -169,7 +169,7 @@ ExitCode rotateOne(const Invocation& invocation, const PasswordArguments& argume
 }
 
 /// The store is nobody's while somebody thinks.
-bool confirmsDeletion(const Invocation& invocation, const PasswordArguments& arguments)
+bool confirmsDeletionOfPassword(const Invocation& invocation, const PasswordArguments& arguments)
 {
     StoreSession session(invocation, StoreSession::Access::Read);
     return confirmedOnTerminal(
@@ -178,7 +178,7 @@ bool confirmsDeletion(const Invocation& invocation, const PasswordArguments& arg
 
 ExitCode deleteOne(const Invocation& invocation, const PasswordArguments& arguments)
 {
-    if (!arguments.confirmed && !confirmsDeletion(invocation, arguments)) {
+    if (!arguments.confirmed && !confirmsDeletionOfPassword(invocation, arguments)) {
         tellOnStandardError("nothing was deleted");
         return ExitCode::Failed;
     }

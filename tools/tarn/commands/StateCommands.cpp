@@ -59,7 +59,7 @@ ExitCode changeState(const Invocation& invocation, const NotesOrQuery& arguments
     return writeNotes(invocation, notes);
 }
 
-bool confirmsDeletion(const std::vector<OVNote*>& notes)
+bool confirmsDeletionOfNotes(const std::vector<OVNote*>& notes)
 {
     if (notes.size() > 1)
         showNotesToAskAbout(notes);
@@ -70,7 +70,7 @@ bool confirmsDeletion(const std::vector<OVNote*>& notes)
 
 ExitCode deleteNotes(const Invocation& invocation, const NotesOrQuery& arguments)
 {
-    const ChosenNotes chosen = arguments.chooseAsking(invocation, confirmsDeletion);
+    const ChosenNotes chosen = arguments.chooseAsking(invocation, confirmsDeletionOfNotes);
     if (chosen.areNone())
         return writeNotes(invocation, {});
     StoreSession session(invocation, StoreSession::Access::Write);

@@ -157,7 +157,7 @@ std::size_t countTagsBelow(const OVNoteTag& tag, StoreSession& session)
 }
 
 /// Asks who would take out more than what was named. The store is nobody's while somebody thinks.
-bool confirmsDeletion(const Invocation& invocation, const TagArguments& arguments)
+bool confirmsDeletionOfTag(const Invocation& invocation, const TagArguments& arguments)
 {
     StoreSession session(invocation, StoreSession::Access::Read);
     const OVNoteTag& tag = tagForArgument(*arguments.name, session);
@@ -174,7 +174,7 @@ bool confirmsDeletion(const Invocation& invocation, const TagArguments& argument
 
 ExitCode deleteTag(const Invocation& invocation, const TagArguments& arguments)
 {
-    if (!arguments.confirmed && !confirmsDeletion(invocation, arguments)) {
+    if (!arguments.confirmed && !confirmsDeletionOfTag(invocation, arguments)) {
         tellOnStandardError("nothing was changed");
         return ExitCode::Failed;
     }
