@@ -9,7 +9,7 @@ namespace tarn {
 namespace {
 
 // What is markup mostly, and all that a backslash may stand before.
-constexpr std::string_view kMarkup = "\\`*_[]<>#&~=!|";
+constexpr std::string_view kMarksInTitles = "\\`*_[]<>#&~=!|";
 constexpr std::string_view kASCIIPunctuation = "!\"#$%&'()*+,-./:;<=>?@[\\]^_`{|}~";
 
 std::string escaped(std::string_view title, std::string_view marks)
@@ -34,7 +34,7 @@ bool headingMeans(const std::string& heading, std::string_view title)
 
 std::optional<std::string> headingForTitle(std::string_view title)
 {
-    for (const std::string_view marks : {std::string_view(), kMarkup, kASCIIPunctuation}) {
+    for (const std::string_view marks : {std::string_view(), kMarksInTitles, kASCIIPunctuation}) {
         std::string heading = "# " + escaped(title, marks);
         if (!title.empty() && headingMeans(heading, title))
             return heading;
