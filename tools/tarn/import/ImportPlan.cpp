@@ -3,17 +3,15 @@
 #include "tarnmodel/corvel/CVKAST.h"
 #include "tarnmodel/platform/foundation/system/NSUUID.h"
 #include "tarnmodel/platform/foundation/text/Folding.h"
-#include "tarnmodel/platform/foundation/text/Normalization.h"
-#include "tarnmodel/platform/foundation/text/UTF.h"
 #include "tools/tarn/arguments/NoteArgument.h"
 #include "tools/tarn/commandline/Interruption.h"
 #include "tools/tarn/files/TextFile.h"
 #include "tools/tarn/import/reading/SourceText.h"
 #include "tools/tarn/import/record/RecordSettling.h"
+#include "tools/tarn/import/titles/TitleSuffixes.h"
 #include "tools/tarn/session/StoreSession.h"
 
 #include <algorithm>
-#include <iterator>
 #include <system_error>
 #include <utility>
 
@@ -27,26 +25,6 @@ namespace fs = std::filesystem;
 constexpr std::size_t kCommonHeading = 3;
 /// Notes of one question to the store.
 constexpr std::size_t kNotesAtOnce = 500;
-
-bool isWholePath(const fs::path& path, std::size_t parts)
-{
-    return parts >= static_cast<std::size_t>(std::distance(path.begin(), path.end()));
-}
-
-/// The last parts of a path, without the ending of the file.
-std::string endOfPath(const fs::path& path, std::size_t parts)
-{
-    auto part = path.end();
-    for (std::size_t i = 0; i < parts && part != path.begin(); ++i)
-        --part;
-    fs::path end;
-    for (; part != path.end(); ++part)
-        end /= *part;
-    std::string text = canonicallyComposed(validUTF8(end.replace_extension().native()));
-    for (const char lineEnd : {'\n', '\r'})
-        std::ranges::replace(text, lineEnd, ' ');
-    return text;
-}
 
 /// Behind it stands when a version came to it.
 std::string groupOfConflict(std::string_view conflict)
@@ -257,17 +235,7 @@ void ImportPlan::tellApart(const std::vector<PlannedFile*>& files)
     std::vector<fs::path> paths;
     for (const PlannedFile* planned : files)
         paths.push_back(fs::path(planned->path).lexically_relative(planned->file.root->target));
-    std::vector<std::string> suffixes(files.size());
-    for (std::size_t parts = 1; std::ranges::count(suffixes, std::string()) > 0; ++parts) {
-        std::unordered_map<std::string, std::size_t> counts;
-        for (const fs::path& path : paths)
-            ++counts[fold(endOfPath(path, parts))];
-        for (std::size_t i = 0; i < files.size(); ++i) {
-            const std::string end = endOfPath(paths[i], parts);
-            if (suffixes[i].empty() && (counts.at(fold(end)) == 1 || isWholePath(paths[i], parts)))
-                suffixes[i] = end;
-        }
-    }
+    const std::vector<std::string> suffixes = suffixesTellingApart(paths);
     for (std::size_t i = 0; i < files.size(); ++i) {
         PlannedFile& planned = *files[i];
         if (planned.titleRule == TitleRule::Text || !planned.titleSuffix.empty())
