@@ -174,9 +174,12 @@ void addImportCommand(CommandLine& commandLine)
               "Notes are saved 2,500 at a time: where Control-C ends an import, it says up to which file.\n"
               "Importing a file again changes the note that was made of it, unless somebody else did: then it gets a\n"
               "conflicted copy.\n"
-              "YAML front matter is taken off: its title becomes the heading of a text that begins with none, its "
-              "tags\n"
-              "become hashtags, its dates win over those of the file; anything else stays in a block below the text.",
+              "A text that does not say its title gets a heading that does, from front matter or the name of the file, "
+              "and links\n"
+              "between the files lead to their notes.\n"
+              "YAML front matter is taken off: its tags become hashtags, its dates win over those of the file; "
+              "anything else\n"
+              "stays in a block below the text.",
             .examples = {"tarn import ~/Documents/notes", "tarn import --tag old --dry-run notes.md archive/"}},
         [options](const Invocation& invocation) { return import(invocation, *options); });
     command.addArguments("PATH", options->paths, "Files and folders").required();
