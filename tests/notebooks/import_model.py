@@ -16,7 +16,7 @@ from notebook_files import NotebookFiles
 from tarn_store import WIKI_TITLE, Titles
 
 LINK = re.compile(r"\[(?P<word>\w+)\]\((?P<path>[^)\s:]+)\)|\[\[(?P<name>[^\]|]+)(?:\|(?P<alias>\w+))?\]\]")
-ANY_LINK = re.compile(r"\[\w+\]\([^)\s]+\)|\[\[[^\]]+\]\]")
+ANY_LINK = re.compile(r"\[[^\[\]]+\]\([^)\s]+\)|\[\[[^\]]+\]\]")
 COUNTED = ("imported", "updated", "unchanged", "conflicted", "moved", "gone")
 
 

@@ -32,6 +32,12 @@ std::string groupOfConflict(std::string_view conflict)
     return std::string(conflict.substr(0, conflict.find('/')));
 }
 
+bool isFile(const fs::path& path)
+{
+    std::error_code failure;
+    return fs::is_regular_file(fs::symlink_status(path, failure));
+}
+
 bool isThere(const fs::path& path)
 {
     std::error_code failure;
@@ -86,7 +92,8 @@ void ImportPlan::fillIndex()
         for (auto known = sources.lower_bound(beginning); known != sources.end() && known->first.starts_with(beginning);
              ++known) {
             const ImportedSource& source = *known->second;
-            if (indexed.contains(source.path) || !isThere(source.path))
+            // Where a symbolic link lies by now, it is no file of its own any more.
+            if (indexed.contains(source.path) || !isFile(source.path))
                 continue;
             indexed.insert(source.path);
             othersOfIndex_.push_back(source.note);
