@@ -83,6 +83,19 @@ TEST_F(ImportOfAPart, FollowsAFolderThatWasMoved)
     EXPECT_EQ(import("now/note.md").at("links").at("wiki"), 3);
 }
 
+TEST_F(ImportOfAPart, TakesNoSymbolicLinkForTheFileThatLayThere)
+{
+    file("in/a.md", "# A\n\n[[b]] [c](b.md)\n");
+    file("in/b.md", "# Bee\n");
+    file("in/c.md", "# Cee\n");
+    import("in");
+    std::filesystem::remove(folder() / "in/b.md");
+    std::filesystem::create_symlink("c.md", folder() / "in/b.md");
+    add("in/a.md", "more\n");
+    EXPECT_EQ(import("in").at("updated"), 1);
+    EXPECT_EQ(text("A"), "# A\n\n[[b]] [[Cee|c]]\nmore\n");
+}
+
 TEST_F(ImportOfAPart, TakesNoLinkFromANoteWhoseFileHasMoved)
 {
     file("in/note.md", "# Note\n\n[o](sub/One.md) [[Later]] ![](p.png)\n");
