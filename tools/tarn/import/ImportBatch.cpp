@@ -152,7 +152,8 @@ void ImportBatch::changeNote(const PlannedFile& planned, const ComposedNote& com
         return keep(planned, composed, nullptr);
     if (isUnchangedBy(composed, *note))
         return keep(planned, composed, note);
-    if (isUnchanged && losesLinks(*note, composed))
+    // One that gave up its title gets a text in any case: the file may have changed since the plan was made.
+    if (isUnchanged && !isRetitled(planned) && losesLinks(*note, composed))
         return keep(planned, composed, nullptr);
     if (isOurs)
         return updateNote(planned, composed, *note);
