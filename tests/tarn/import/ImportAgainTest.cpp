@@ -132,6 +132,23 @@ TEST_F(ImportAgain, LeavesNotesAloneThatAreInTheTrashOrDeleted)
     EXPECT_EQ(text("a"), "# a\n\none");
 }
 
+TEST_F(ImportAgain, LeavesReadOnlyNotesAlone)
+{
+    file("in/a.md", "# a\n\none [[b]]");
+    import();
+    output({"readonly", "a"});
+    file("in/b.md", "# Bee");
+    EXPECT_EQ(countsOf(import()), (Counts{.imported = 1, .unchanged = 1}));
+    EXPECT_EQ(text("a"), "# a\n\none [[b]]") << "links are not mended either";
+    file("in/a.md", "# a\n\ntwo");
+    const nlohmann::json document = import();
+    EXPECT_EQ(countsOf(document), (Counts{.unchanged = 1}));
+    EXPECT_EQ(document.at("skippedFiles").at(0).at("reason"), "its note is read-only");
+    output({"editable", "a"});
+    EXPECT_EQ(countsOf(import()), (Counts{.updated = 1, .unchanged = 1}));
+    EXPECT_EQ(text("a"), "# a\n\ntwo");
+}
+
 TEST_F(ImportAgain, KnowsAFileThatHasMoved)
 {
     file("in/a.md", "# A\n\none");

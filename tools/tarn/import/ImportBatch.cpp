@@ -20,6 +20,8 @@ std::string obstacleOf(const OVNote* note)
         return "its note was deleted";
     if (note->isTrashed())
         return "its note is in the trash";
+    if (note->isReadOnly())
+        return "its note is read-only";
     return note->hasEncryption() ? "its note is protected by a password" : "";
 }
 
