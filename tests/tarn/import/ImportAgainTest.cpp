@@ -144,8 +144,13 @@ TEST_F(ImportAgain, LeavesReadOnlyNotesAlone)
     const nlohmann::json document = import();
     EXPECT_EQ(countsOf(document), (Counts{.unchanged = 1}));
     EXPECT_EQ(document.at("skippedFiles").at(0).at("reason"), "its note is read-only");
+    file("in/a.md", "# another\n\ntwo");
+    file("in/c.md", "# Sea\n\n[x](a.md)");
+    EXPECT_EQ(countsOf(import()), (Counts{.imported = 1, .unchanged = 1}));
+    EXPECT_EQ(text("Sea"), "# Sea\n\n[[a|x]]") << "by the title that it keeps";
+    file("in/a.md", "# a\n\ntwo");
     output({"editable", "a"});
-    EXPECT_EQ(countsOf(import()), (Counts{.updated = 1, .unchanged = 1}));
+    EXPECT_EQ(countsOf(import()), (Counts{.updated = 1, .unchanged = 2}));
     EXPECT_EQ(text("a"), "# a\n\ntwo");
 }
 

@@ -38,6 +38,14 @@ protected:
         fs::rename(folder() / "in/other.md", folder() / "in/elsewhere.md");
     }
 
+    /// What an import comes to that nothing ends before its time.
+    std::vector<std::string> contentsOfWhole() const
+    {
+        const fs::path whole = folder() / "whole";
+        fs::copy(store(), whole, fs::copy_options::recursive);
+        EXPECT_EQ(runIn(whole, {"import", (folder() / "in").string()}).exitCode, 0);
+        return contentsOf(whole);
+    }
     std::string importing() const { return "import '" + (folder() / "in").string() + "'"; }
     /// Texts and states, whatever identifiers new notes got.
     std::vector<std::string> contentsOf(const fs::path& place) const
@@ -70,10 +78,7 @@ TEST_P(KilledImport, IsCompletedByTheNextRun)
 {
     if (!canBeTraced())
         GTEST_SKIP() << "this system does not let one process look at another";
-    const fs::path whole = folder() / "whole";
-    fs::copy(store(), whole, fs::copy_options::recursive);
-    ASSERT_EQ(runIn(whole, {"import", (folder() / "in").string()}).exitCode, 0);
-    const std::vector<std::string> expected = contentsOf(whole);
+    const std::vector<std::string> expected = contentsOfWhole();
     ASSERT_EQ(expected.size(), 15U);
     int deaths = 0;
     bool isDone = false;
@@ -97,10 +102,7 @@ TEST_P(KilledImport, IsCompletedInAStoreThatIsRestoredFromItsBackup)
 {
     if (!canBeTraced())
         GTEST_SKIP() << "this system does not let one process look at another";
-    const fs::path whole = folder() / "whole";
-    fs::copy(store(), whole, fs::copy_options::recursive);
-    ASSERT_EQ(runIn(whole, {"import", (folder() / "in").string()}).exitCode, 0);
-    const std::vector<std::string> expected = contentsOf(whole);
+    const std::vector<std::string> expected = contentsOfWhole();
     const fs::path backup = folder() / "all.tarnbackup";
     int deaths = 0;
     bool isDone = false;

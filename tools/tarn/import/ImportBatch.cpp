@@ -13,18 +13,6 @@ namespace tarn {
 
 namespace {
 
-/// Why a note is not to be changed; "" where it may be.
-std::string obstacleOf(const OVNote* note)
-{
-    if (!note)
-        return "its note was deleted";
-    if (note->isTrashed())
-        return "its note is in the trash";
-    if (note->isReadOnly())
-        return "its note is read-only";
-    return note->hasEncryption() ? "its note is protected by a password" : "";
-}
-
 void count(const std::vector<RewrittenLink>& links, LinkCounts& counts)
 {
     using Outcome = RewrittenLink::Outcome;

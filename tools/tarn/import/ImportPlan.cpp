@@ -74,12 +74,10 @@ void ImportPlan::make(const std::vector<MarkdownFile>& files, const FailureHandl
 
 void ImportPlan::fillIndex()
 {
-    std::unordered_set<std::string> indexed;
     for (const PlannedFile& planned : files_) {
         const auto aliases = aliases_.find(planned.path);
         index_.add({planned.path, planned.file.root, planned.title,
             aliases == aliases_.end() ? std::vector<std::string>() : std::move(aliases->second)});
-        indexed.insert(planned.path);
     }
     if (!record_)
         return;
@@ -93,9 +91,8 @@ void ImportPlan::fillIndex()
              ++known) {
             const ImportedSource& source = *known->second;
             // Where a symbolic link lies by now, it is no file of its own any more.
-            if (indexed.contains(source.path) || !isFile(source.path))
+            if (index_.noteAtPath(source.path) || !isFile(source.path))
                 continue;
-            indexed.insert(source.path);
             othersOfIndex_.push_back(source.note);
             index_.add({source.path, root, {}, {}});
         }
@@ -316,18 +313,20 @@ void ImportPlan::askStore()
     storeTitles_.lookUp(titles);
 }
 
-/// A note that somebody edited keeps its title, and that of the file goes to its conflicted copy.
+/// A note that is left alone keeps its title. So does one that somebody edited, and that of the file goes to its
+/// conflicted copy.
 ImportPlan::StoredNote ImportPlan::storedNote(const OVNote& note, const PlannedFile& planned)
 {
     const bool isUnchanged = planned.known->file == planned.bytes;
-    const bool isEdited = !isUnchanged
+    const bool mayChange = obstacleOf(&note).empty();
+    const bool isEdited = !isUnchanged && mayChange
         && !isAsImported(note, planned.known->text, [this](const std::string& title, const std::string& target) {
                return storeTitles_.onlyNoteOf(title) == target;
            });
     return {.title = note.title().value_or(""),
         .isTrashed = note.isTrashed(),
-        .keepsTitle = isUnchanged || isEdited,
-        .getsCopy = isEdited && !note.hasEncryption()};
+        .keepsTitle = isUnchanged || isEdited || !mayChange,
+        .getsCopy = isEdited};
 }
 
 void ImportPlan::addTitle(const std::string& title, const std::string& note, std::vector<std::string>& titles)

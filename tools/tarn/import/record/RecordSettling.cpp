@@ -64,6 +64,17 @@ bool isAsImported(
     return imported && !note.hasEncryption() && imported->matches(note.text().value_or(""), leadsTo);
 }
 
+std::string obstacleOf(const OVNote* note)
+{
+    if (!note)
+        return "its note was deleted";
+    if (note->isTrashed())
+        return "its note is in the trash";
+    if (note->isReadOnly())
+        return "its note is read-only";
+    return note->hasEncryption() ? "its note is protected by a password" : "";
+}
+
 std::string stampOfFile(const fs::path& path)
 {
     std::error_code failure;

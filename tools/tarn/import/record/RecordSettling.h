@@ -22,6 +22,9 @@ bool forgetProtectedTexts(ImportRecord& record, StoreSession& session);
 bool isAsImported(
     const OVNote& note, const std::optional<TextFingerprint>& imported, const TextFingerprint::LeadsTo& leadsTo);
 
+/// Why an import leaves a note as it is whatever its file says; "" where it may be changed. Null: it was deleted.
+std::string obstacleOf(const OVNote* note);
+
 /// What tells one state of a file from another without a hash of its bytes; "" where it cannot be looked at.
 std::string stampOfFile(const std::filesystem::path& path);
 
