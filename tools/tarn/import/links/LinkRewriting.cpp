@@ -6,6 +6,7 @@
 #include "tarnmodel/platform/foundation/text/UTF.h"
 #include "tools/tarn/import/links/LinkComparison.h"
 #include "tools/tarn/import/links/LinkText.h"
+#include "tools/tarn/import/reading/NoteExtensions.h"
 
 #include <algorithm>
 #include <utility>
@@ -196,8 +197,9 @@ std::optional<std::string> LinkRewriting::textBeside(const CVKLink& link, const 
         return std::nullopt;
     const std::string name = lastPartOfName(meaning.name);
     std::string shown = meaning.anchor.empty() ? name : nameWithAnchor(meaning.name, meaning.anchor);
-    const bool repeats
-        = meaning.anchor.empty() && (fold(name) == fold(title) || fold(withoutNoteExtension(name)) == fold(title));
+    const bool repeats = meaning.anchor.empty()
+        && (fold(name) == fold(title)
+            || fold(name.substr(0, name.size() - lengthOfNoteExtension(name))) == fold(title));
     const bool isWritable = shown.find_first_of("[]|\\") == std::string::npos;
     return repeats || !isWritable ? std::nullopt : std::optional(std::move(shown));
 }

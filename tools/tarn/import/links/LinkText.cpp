@@ -66,13 +66,4 @@ std::string percentEncodedPath(std::string_view path)
     return stringByAddingPercentEncoding(path, UnescapedCharacters::URLQueryHeader);
 }
 
-std::string withoutNoteExtension(const std::string& name)
-{
-    for (const std::string_view ending : {".md", ".markdown", ".txt"}) {
-        if (name.ends_with(ending))
-            return name.substr(0, name.size() - ending.size());
-    }
-    return name;
-}
-
 } // namespace tarn

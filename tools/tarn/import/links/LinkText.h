@@ -17,8 +17,6 @@ std::string escapedLinkText(std::string_view text);
 std::string nameWithAnchor(const std::string& name, const std::string& anchor);
 /// What stands behind the last slash.
 std::string lastPartOfName(const std::string& name);
-/// A name without the ending of a note's file.
-std::string withoutNoteExtension(const std::string& name);
 /// Percent-encoded but for what paths are made of.
 std::string percentEncodedPath(std::string_view path);
 

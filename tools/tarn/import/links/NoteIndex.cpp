@@ -2,9 +2,9 @@
 
 #include "tarnmodel/platform/foundation/text/Folding.h"
 #include "tarnmodel/platform/foundation/text/UTF.h"
+#include "tools/tarn/import/reading/NoteExtensions.h"
 
 #include <algorithm>
-#include <array>
 #include <filesystem>
 #include <tuple>
 #include <utility>
@@ -15,23 +15,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::array<std::string_view, 3> kNoteExtensions{".md", ".markdown", ".txt"};
-
 std::string foldedPath(const std::string& path)
 {
     return fold(validUTF8(path));
-}
-
-/// How long the ending of a note's file is; 0 for other files.
-std::size_t lengthOfExtension(std::string_view foldedPath)
-{
-    for (const std::string_view extension : kNoteExtensions) {
-        const bool hasName
-            = foldedPath.size() > extension.size() && !foldedPath.ends_with("/" + std::string(extension));
-        if (hasName && foldedPath.ends_with(extension))
-            return extension.size();
-    }
-    return 0;
 }
 
 /// One that a symbolic link led to may lie elsewhere.
@@ -107,7 +93,7 @@ void NoteIndex::add(LinkableNote added)
     const std::string whole = foldedPath(note.path);
     const std::string relative = foldedPath(pathFromRoot(note));
     addPaths(whole, relative, number);
-    if (const std::size_t length = lengthOfExtension(whole); length > 0)
+    if (const std::size_t length = lengthOfNoteExtension(whole); length > 0)
         addPaths(whole.substr(0, whole.size() - length), relative.substr(0, relative.size() - length), number);
     if (!note.title.empty())
         addName(byTitle_, fold(note.title), number);

@@ -2,6 +2,7 @@
 
 #include "tools/tarn/commandline/Interruption.h"
 #include "tools/tarn/import/reading/ExportedFiles.h"
+#include "tools/tarn/import/reading/NoteExtensions.h"
 
 #include <algorithm>
 #include <array>
@@ -18,7 +19,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::array<std::string_view, 3> kNoteExtensions{".md", ".markdown", ".txt"};
 constexpr std::array<std::string_view, 13> kPictureExtensions{
     ".avif", ".bmp", ".gif", ".heic", ".heif", ".ico", ".jpeg", ".jpg", ".png", ".svg", ".tif", ".tiff", ".webp"};
 // In the order of `SkipReason`.
@@ -147,7 +147,7 @@ void Walk::visitEntry(const fs::path& entry)
 {
     std::error_code error;
     const bool isFolder = fs::is_directory(entry, error);
-    const bool isNote = hasExtension(entry, kNoteExtensions);
+    const bool isNote = lengthOfNoteExtension(entry.native()) > 0;
     if (isHidden(entry)) {
         if (isFolder || isNote)
             skip(entry, isFolder ? SkipReason::HiddenFolder : SkipReason::Hidden);
