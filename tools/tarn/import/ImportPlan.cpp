@@ -318,14 +318,15 @@ void ImportPlan::askStore()
 ImportPlan::StoredNote ImportPlan::storedNote(const OVNote& note, const PlannedFile& planned)
 {
     const bool isUnchanged = planned.known->file == planned.bytes;
-    const bool mayChange = obstacleOf(&note).empty();
-    const bool isEdited = !isUnchanged && mayChange
+    // What is in the trash keeps it, too, but nobody is to link it by that.
+    const bool isLeftAlone = !note.isTrashed() && !obstacleOf(&note).empty();
+    const bool isEdited = !isUnchanged && !isLeftAlone
         && !isAsImported(note, planned.known->text, [this](const std::string& title, const std::string& target) {
                return storeTitles_.onlyNoteOf(title) == target;
            });
     return {.title = note.title().value_or(""),
         .isTrashed = note.isTrashed(),
-        .keepsTitle = isUnchanged || isEdited || !mayChange,
+        .keepsTitle = isUnchanged || isEdited || isLeftAlone,
         .getsCopy = isEdited};
 }
 
